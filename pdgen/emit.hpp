@@ -1,0 +1,38 @@
+// The outputs of the generator: one function each, from the program and its interface to the text
+// of a file. Nothing here decides what a function does; that is stated in the api_*.cpp files.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "pdgen/api.hpp"
+#include "pdgen/text.hpp"
+
+namespace pdgen {
+
+// Checked in: the public header and the list of exported names.
+std::string emit_header(const Api &api);
+std::string emit_exports(const Api &api);
+
+// Built: shapes of tables and actions for the core, and the program record.
+std::string emit_descriptors(const Program &program);
+std::string emit_program_data(const Api &api);
+// One unit of wrappers.
+std::string emit_wrappers(const Api &api, const Unit &unit);
+// Linker version script: the exports, and nothing else, are visible.
+std::string emit_version_script(const Api &api, unsigned soname_version);
+// A C file that holds sizes and offsets of every public record to what the rules of C give.
+std::string emit_layout_test(const Program &program);
+// The program as the soft SDK learns it.
+std::string emit_soft_program(const Program &program);
+// Every export by name, for tools and tests that call them through data.
+std::string emit_export_table(const Api &api, const Unit &unit);
+std::string emit_export_index(const Api &api);
+
+// "Made by pdgen from the catalogue of ..., do not edit", as a comment in the given style.
+std::string origin(const Program &program, const std::string &line_prefix);
+
+// The C declaration of a function, without its semicolon.
+std::string declaration(const Function &function);
+
+}  // namespace pdgen

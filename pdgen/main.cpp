@@ -1,0 +1,89 @@
+// pdgen: reads the catalogue of a P4 program and writes its control-plane library's generated
+// files. Usage errors and faults of the catalogue end with exit status 1 and write nothing.
+#include <fmt/format.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <map>
+#include <string>
+
+#include "pdgen/emit.hpp"
+#include "pdgen/load.hpp"
+
+namespace {
+
+constexpr const char *kUsage =
+    "usage: pdgen --catalogue DIR [--header FILE] [--exports FILE] [--build DIR]\n"
+    "  --catalogue DIR  folder of the program's .toml files\n"
+    "  --header FILE    write the public header\n"
+    "  --exports FILE   write the list of exported names\n"
+    "  --build DIR      write all that is compiled: descriptors, wrappers, version script,\n"
+    "                   layout test, soft SDK description, call table\n"
+    "  --soname N       version of the shared object (1)\n";
+
+struct Options {
+  std::string catalogue;
+  std::string header;
+  std::string exports;
+  std::string build;
+  unsigned soname = 1;
+};
+
+bool parse(int argc, char **argv, Options &options) {
+  const std::map<std::string, std::string *> texts = {{"--catalogue", &options.catalogue},
+                                                      {"--header", &options.header},
+                                                      {"--exports", &options.exports},
+                                                      {"--build", &options.build}};
+  for (int i = 1; i + 1 < argc; i += 2) {
+    const std::string option = argv[i];
+    if (const auto found = texts.find(option); found != texts.end()) {
+      *found->second = argv[i + 1];
+    } else if (option == "--soname") {
+      options.soname = static_cast<unsigned>(std::strtoul(argv[i + 1], nullptr, 10));
+    } else {
+      return false;
+    }
+  }
+  return argc % 2 == 1 && !options.catalogue.empty();
+}
+
+void add_build_files(const pdgen::Api &api, const Options &options, pdgen::OutputFiles &files) {
+  const std::filesystem::path folder = options.build;
+  const pdgen::Program &program = api.program();
+  files.add(folder / "descriptors.hpp", pdgen::emit_descriptors(program));
+  files.add(folder / "program_data.cpp", pdgen::emit_program_data(api));
+  files.add(folder / "exports.map", pdgen::emit_version_script(api, options.soname));
+  files.add(folder / "layout_test.c", pdgen::emit_layout_test(program));
+  files.add(folder / "soft_program.cpp", pdgen::emit_soft_program(program));
+  files.add(folder / "export_index.cpp", pdgen::emit_export_index(api));
+  for (const pdgen::Unit &unit : api.units()) {
+    files.add(folder / ("wrappers_" + unit.name + ".cpp"), pdgen::emit_wrappers(api, unit));
+    files.add(folder / ("export_table_" + unit.name + ".cpp"), pdgen::emit_export_table(api, unit));
+  }
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+  Options options;
+  if (!parse(argc, argv, options)) {
+    fmt::print(stderr, "{}", kUsage);
+    return 1;
+  }
+  const auto loaded = pdgen::load_program(options.catalogue);
+  if (!loaded.program) {
+    fmt::print(stderr, "{}", loaded.diagnostics.text());
+    return 1;
+  }
+  const pdgen::Api api = pdgen::build_api(*loaded.program);
+  pdgen::OutputFiles files;
+  if (!options.header.empty()) files.add(options.header, pdgen::emit_header(api));
+  if (!options.exports.empty()) files.add(options.exports, pdgen::emit_exports(api));
+  if (!options.build.empty()) add_build_files(api, options, files);
+  std::string message;
+  if (!files.write(message)) {
+    fmt::print(stderr, "pdgen: {}\n", message);
+    return 1;
+  }
+  return 0;
+}

@@ -1,0 +1,350 @@
+// The P4 program as the emitters see it: one plain struct per row of the catalogue, references
+// resolved, everything that is derived from a row (positions, sizes, tool names) filled in.
+//
+// Only load_program (load.hpp) builds a Program, and it hands one out only if every check has
+// passed, so an emitter may rely on each rule that check.cpp states. References are pointers into
+// the vectors of the same Program: it can be moved, not copied.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace pdgen {
+
+// Where a row or a value stands in the catalogue. The file is written as the user gave the
+// directory; lines count from 1.
+struct Place {
+  std::string file;
+  std::size_t line = 0;
+};
+
+// A row of another list, named by a row of this one. The target is set once the catalogue is
+// checked; an optional reference that the catalogue leaves out has an empty name and no target.
+template <typename T>
+struct Ref {
+  std::string name;
+  Place place;
+  const T *target = nullptr;
+
+  explicit operator bool() const { return target != nullptr; }
+  const T &operator*() const { return *target; }
+  const T *operator->() const { return target; }
+};
+
+// How tools show a value.
+enum class Hint { kNone, kMac, kV4Addr, kV6Addr, kPort, kVport };
+
+struct Table;
+
+// --- Stateful resources ---------------------------------------------------------------------
+
+enum class ResourceKind { kCounter, kMeter, kRegister };
+enum class MeterUnit { kBytes, kPackets };
+
+struct Resource {
+  ResourceKind kind = ResourceKind::kCounter;
+  std::string name;
+  Place place;
+  std::uint32_t handle = 0;
+  Ref<Table> table;                    // counters and meters: the table whose entries carry it
+  MeterUnit unit = MeterUnit::kBytes;  // meters only
+  unsigned width = 0;                  // registers only: bits of a cell
+
+  bool direct() const { return static_cast<bool>(table); }
+};
+
+// --- Actions --------------------------------------------------------------------------------
+
+struct Param {
+  std::string name;  // the record field is action_<name>, see names.hpp
+  Place place;
+  unsigned width = 0;          // significant bits, 1 to 32
+  unsigned storage_bytes = 0;  // of the record field: 1, 2 or 4
+  unsigned bytes = 0;          // of its slot in the action data: the width in whole bytes
+  unsigned offset = 0;         // of its slot in the action data
+  Hint hint = Hint::kNone;
+  std::vector<Ref<Resource>> index_of;  // the resources whose cell it names, in look-up order
+
+  // Such a parameter travels in the resource list; its slot in the action data stays zero.
+  bool is_index() const { return !index_of.empty(); }
+};
+
+struct Action {
+  std::string name;
+  Place place;
+  std::uint32_t value = 0;    // the enumeration value, equal to its index in Program::actions
+  std::vector<Param> params;  // in record order
+  unsigned data_bits = 0;     // sum of the parameters' widths
+  unsigned data_bytes = 0;    // sum of their slots
+
+  bool has_params() const { return !params.empty(); }
+};
+
+// --- Tables ---------------------------------------------------------------------------------
+
+enum class Match { kExact, kTernary, kLpm };
+enum class TableKind { kKeyless, kExact, kTernary, kLpm };
+
+struct KeyField {
+  std::string name;
+  Place place;
+  Match match = Match::kExact;
+  unsigned width = 0;          // bits: 1 to 32, or 128
+  unsigned storage_bytes = 0;  // of the record field: 1, 2, 4, or 16 for a byte array
+  unsigned bytes = 0;          // of its slot in the key bytes: the width in whole bytes
+  unsigned offset = 0;         // of its slot in the key bytes, after key_order
+  // The bits that the key uses. Exactly one of the two holds them: the number up to 32 bits, the
+  // array, most significant byte first, for 128 bits. The other is zero.
+  std::uint32_t key_bits = 0;
+  std::array<std::uint8_t, 16> wide_key_bits{};
+  bool partial = false;  // the key uses fewer bits than the field has
+
+  std::string cli_name;  // the name that tools show
+  Hint hint = Hint::kNone;
+  std::string width_name;  // middle of the width function's name: a validity bit's header, or name
+  bool is_validity_bit = false;
+
+  bool wide() const { return storage_bytes == 16; }
+};
+
+// One member of the match record: a key field or the companion that follows it.
+enum class RecordRole { kValue, kMask, kPrefixLength };
+
+struct RecordField {
+  RecordRole role = RecordRole::kValue;
+  std::size_t key_index = 0;  // the field it is, or belongs to, in Table::key
+  std::string name;
+  std::string cli_name;
+  Hint hint = Hint::kNone;     // none for companions
+  unsigned width = 0;          // bits of the value: the field's; 16 for a prefix length
+  unsigned storage_bytes = 0;  // the field's; 2 for a prefix length
+};
+
+enum class ResourceTag {
+  kAttach,
+  kDetach,
+  kMeterSpec,  // attached with the meter spec that the caller passes
+};
+enum class Operation { kAdd, kModify, kDefault };
+inline constexpr std::size_t kOperationCount = 3;
+
+// A row of a table's `resources`, as written.
+struct ResourceRow {
+  Place place;
+  Ref<Resource> resource;
+  std::vector<Ref<Action>> actions;  // empty: every action of the table
+  std::string index;                 // parameter that names the cell; empty: cell 0
+  Place index_place;
+  ResourceTag tag = ResourceTag::kAttach;
+  std::array<bool, kOperationCount> in{};  // by Operation
+};
+
+// One item of the resource list that an operation of a (table, action) pair sends.
+struct ResourceItem {
+  const Resource *resource = nullptr;
+  const Param *index = nullptr;  // of the pair's action; null: cell 0
+  ResourceTag tag = ResourceTag::kAttach;
+};
+
+// An action that a table accepts.
+struct Pair {
+  Ref<Action> action;
+  Place place;
+  std::uint32_t handle = 0;  // action function handle of this table and action
+  bool in_entries = false;   // false only in tables without a key
+  bool as_default = false;   // may be the default action
+  std::array<std::vector<ResourceItem>, kOperationCount> items;  // by Operation, in list order
+
+  const std::vector<ResourceItem> &sent_in(Operation operation) const {
+    return items[static_cast<std::size_t>(operation)];
+  }
+  // Whether the operation takes the caller's meter spec.
+  bool takes_meter_spec(Operation operation) const {
+    for (const ResourceItem &item : sent_in(operation)) {
+      if (item.tag == ResourceTag::kMeterSpec) return true;
+    }
+    return false;
+  }
+};
+
+struct Profile;
+
+struct Table {
+  std::string name;
+  Place place;
+  std::uint32_t handle = 0;
+  TableKind kind = TableKind::kKeyless;  // that of its most general field
+  std::vector<KeyField> key;             // in record order
+  std::vector<std::size_t> key_order;    // indexes into key, in the order of the key bytes
+  std::vector<RecordField> record;       // the match record, companions included
+  unsigned key_bits = 0;                 // sum of the fields' widths
+  unsigned key_bytes = 0;                // sum of their slots
+  bool idle_time = false;
+  Ref<Profile> profile;     // set: entries point at members and groups, and pairs is empty
+  std::vector<Pair> pairs;  // as the catalogue orders them
+  std::vector<ResourceRow> resources;
+
+  bool keyed() const { return kind != TableKind::kKeyless; }
+  bool has_priority() const { return kind == TableKind::kTernary; }
+  bool indirect() const { return static_cast<bool>(profile); }
+};
+
+struct ProfileAction {
+  Ref<Action> action;
+  Place place;
+  std::uint32_t handle = 0;
+};
+
+struct Profile {
+  std::string name;
+  Place place;
+  std::uint32_t action_data_handle = 0;
+  std::uint32_t selector_handle = 0;
+  std::vector<ProfileAction> actions;
+  std::vector<const Table *> tables;  // the tables bound to it, in table order
+};
+
+// --- Hashes, digests, value sets ------------------------------------------------------------
+
+struct Hash {
+  std::string name;
+  Place place;
+  std::uint32_t handle = 0;
+  std::uint32_t field_list_handle = 0;
+  unsigned field_count = 0;
+};
+
+struct DigestField {
+  std::string name;
+  Place place;
+  unsigned offset = 0;  // bytes from the start of an entry
+  unsigned bytes = 0;
+};
+
+struct Digest {
+  std::string name;
+  Place place;
+  std::uint32_t handle = 0;
+  unsigned size = 0;  // bytes of one entry
+  std::vector<DigestField> fields;
+};
+
+struct ValueSet {
+  std::string name;
+  Place place;
+  std::uint32_t handle = 0;
+};
+
+// --- Snapshots ------------------------------------------------------------------------------
+
+struct SnapshotField {
+  std::string name;
+  Place place;
+  unsigned offset = 0;  // fields run on in order from 0
+  unsigned bytes = 0;   // 1, 2 or 4 in a layout; any size in a capture
+};
+
+struct SnapshotLayout {
+  std::string name;  // "ingress" or "egress"
+  Place place;
+  std::vector<SnapshotField> fields;
+  unsigned used_bytes = 0;  // of the record; the rest is padding
+};
+
+struct Snapshots {
+  Place place;
+  unsigned record_bytes = 0;
+  unsigned capture_limit = 0;
+  std::vector<SnapshotLayout> layouts;
+  std::vector<SnapshotField> capture;
+};
+
+// --- Labels of counted entries --------------------------------------------------------------
+
+enum class LabelKind { kFlag, kNumber, kExact, kSilent, kMac, kV4Addr, kV6Addr };
+
+// Written, blanks included, in place of a number whose value AND mask is `value`.
+struct LabelText {
+  Place place;
+  std::uint32_t value = 0;
+  std::string text;
+};
+
+struct LabelItem {
+  LabelKind kind = LabelKind::kSilent;
+  Place place;
+  // Fields of the table's key: the field, or the two halves of a MAC address.
+  Ref<KeyField> field;
+  Ref<KeyField> oui;
+  Ref<KeyField> station;
+  std::string label;             // flags and addresses
+  std::uint32_t bit = 0;         // flags: the one bit that counts
+  unsigned after = 1;            // flags: blanks that follow
+  std::string format;            // numbers: the words before the value
+  unsigned digits = 0;           // numbers: hexadecimal digits of the value
+  std::vector<LabelText> texts;  // numbers
+  std::uint32_t texts_mask = 0;  // numbers: texts apply if the mask has a bit of it; else all ones
+};
+
+struct Label {
+  Place place;
+  Ref<Table> table;
+  std::vector<LabelItem> items;  // in output order
+};
+
+// --- What is known of fields by their names -------------------------------------------------
+
+struct FieldHint {
+  Place place;
+  Hint hint = Hint::kNone;
+  std::vector<std::string> fields;    // whole names
+  std::vector<std::string> suffixes;  // name endings
+  unsigned width = 0;                 // 0: no width
+};
+
+struct FieldFacts {
+  std::vector<std::string> instance_prefixes;
+  std::vector<FieldHint> hints;  // the first that fits decides
+};
+
+// --- The program ----------------------------------------------------------------------------
+
+struct Program {
+  std::string name;
+  Place place;
+  std::vector<Action> actions;  // by enumeration value
+  std::vector<Table> tables;
+  std::vector<Profile> profiles;
+  std::vector<Resource> counters;
+  std::vector<Resource> meters;
+  std::vector<Resource> registers;
+  std::uint32_t hash_algorithm = 0;
+  std::vector<Hash> hashes;
+  std::vector<Digest> digests;
+  std::vector<ValueSet> value_sets;
+  std::optional<Snapshots> snapshots;
+  std::vector<Label> labels;
+  FieldFacts field_facts;
+
+  Program() = default;
+  Program(Program &&) = default;
+  Program &operator=(Program &&) = default;
+  Program(const Program &) = delete;
+  Program &operator=(const Program &) = delete;
+};
+
+// The row of that name in one of the lists above, null if there is none.
+template <typename Row>
+const Row *find_row(const std::vector<Row> &rows, std::string_view name) {
+  for (const Row &row : rows) {
+    if (row.name == name) return &row;
+  }
+  return nullptr;
+}
+
+}  // namespace pdgen

@@ -1,0 +1,231 @@
+#include "pdgen/names.hpp"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cctype>
+
+namespace pdgen {
+
+std::string name_prefix(const Program &program) { return "p4_pd_" + program.name + "_"; }
+
+// --- Functions ------------------------------------------------------------------------------
+
+std::string program_function(const Program &program, std::string_view operation) {
+  return fmt::format("{}{}", name_prefix(program), operation);
+}
+
+std::string table_function(const Program &program, const Table &table, std::string_view operation) {
+  return fmt::format("{}{}_{}", name_prefix(program), table.name, operation);
+}
+
+std::string table_function(const Program &program, const Table &table, std::string_view operation,
+                           const Action &action, std::string_view suffix) {
+  return fmt::format("{}{}_{}{}{}", name_prefix(program), table.name, operation, action.name,
+                     suffix);
+}
+
+std::string width_function(const Program &program, const Table &table, const KeyField &field) {
+  return fmt::format("{}{}_{}_width", name_prefix(program), table.name, field.width_name);
+}
+
+std::string action_function(const Program &program, const Action &action,
+                            std::string_view operation) {
+  return fmt::format("{}{}_{}", name_prefix(program), action.name, operation);
+}
+
+std::string profile_function(const Program &program, const Profile &profile,
+                             std::string_view operation) {
+  return fmt::format("{}{}_{}", name_prefix(program), profile.name, operation);
+}
+
+std::string profile_function(const Program &program, const Profile &profile,
+                             std::string_view operation, const Action &action) {
+  return fmt::format("{}{}_{}{}", name_prefix(program), profile.name, operation, action.name);
+}
+
+std::string resource_function(const Program &program, const Resource &resource,
+                              std::string_view operation) {
+  const std::string_view kind = resource.kind == ResourceKind::kCounter ? "counter"
+                                : resource.kind == ResourceKind::kMeter ? "meter"
+                                                                        : "register";
+  return fmt::format("{}{}_{}_{}", name_prefix(program), kind, operation, resource.name);
+}
+
+std::string hash_function(const Program &program, const Hash &hash, std::string_view operation) {
+  return fmt::format("{}hash_calc_{}_{}", name_prefix(program), hash.name, operation);
+}
+
+std::string hash_map_function(const Program &program, const Hash &hash, std::string_view map) {
+  return fmt::format("{}{}_{}", name_prefix(program), hash.name, map);
+}
+
+std::string digest_function(const Program &program, const Digest &digest,
+                            std::string_view operation) {
+  return fmt::format("{}{}_{}", name_prefix(program), digest.name, operation);
+}
+
+std::string value_set_function(const Program &program, const ValueSet &set,
+                               std::string_view operation) {
+  return fmt::format("{}pvs_{}_{}", name_prefix(program), set.name, operation);
+}
+
+// --- Records, enumerations and data ---------------------------------------------------------
+
+std::string match_spec_type(const Program &program, const Table &table) {
+  return fmt::format("{}{}_match_spec_t", name_prefix(program), table.name);
+}
+
+std::string action_spec_type(const Program &program, const Action &action) {
+  return fmt::format("{}{}_action_spec_t", name_prefix(program), action.name);
+}
+
+std::string action_specs_type(const Program &program) {
+  return name_prefix(program) + "action_specs_t";
+}
+
+std::string action_names_type(const Program &program) {
+  return name_prefix(program) + "action_names_t";
+}
+
+std::string action_constant(const Program &program, const Action &action) {
+  return name_prefix(program) + action.name;
+}
+
+std::string action_name_strings(const Program &program) {
+  return name_prefix(program) + "action_name_strings";
+}
+
+std::string hash_field_attr_type(const Program &program) {
+  return name_prefix(program) + "hash_field_attr_t";
+}
+
+std::string snapshot_trigger_type(const Program &program, const SnapshotLayout &layout) {
+  return fmt::format("{}snapshot_{}_trigger_t", name_prefix(program), layout.name);
+}
+
+std::string snapshot_capture_type(const Program &program) {
+  return name_prefix(program) + "snapshot_capture_t";
+}
+
+std::string param_member(const Param &param) { return "action_" + param.name; }
+
+std::string mask_member(std::string_view field) { return fmt::format("{}_mask", field); }
+
+std::string prefix_length_member(std::string_view field) {
+  return fmt::format("{}_prefix_length", field);
+}
+
+// --- Names that tools show ------------------------------------------------------------------
+
+namespace {
+
+bool is_digit(char c) { return c >= '0' && c <= '9'; }
+
+// The words of a '_'-separated name, joined in camelCase. The first keeps its case.
+std::string camel_case(std::string_view words) {
+  std::string joined;
+  bool word_begins = false;
+  for (const char c : words) {
+    if (c == '_') {
+      word_begins = !joined.empty();
+      continue;
+    }
+    joined += word_begins ? static_cast<char>(std::toupper(static_cast<unsigned char>(c))) : c;
+    word_begins = false;
+  }
+  return joined;
+}
+
+// "vlan" of "vlan_0_", the header of an element of a header stack; any other name unchanged.
+std::string_view without_stack_index(std::string_view header) {
+  if (header.empty() || header.back() != '_') return header;
+  std::size_t end = header.size() - 1;
+  while (end > 0 && is_digit(header[end - 1])) --end;
+  const bool indexed = end < header.size() - 1 && end > 1 && header[end - 1] == '_';
+  return indexed ? header.substr(0, end - 1) : header;
+}
+
+// What follows the instance in a field's name: "vlanId" of "vlan_0__vlanId".
+std::string_view without_instance(std::string_view field,
+                                  const std::vector<std::string> &instance_prefixes) {
+  std::size_t longest = 0;
+  for (const std::string &prefix : instance_prefixes) {
+    if (field.starts_with(prefix)) longest = std::max(longest, prefix.size());
+  }
+  if (longest > 0) return field.substr(longest);
+
+  const std::size_t underscore = field.find('_');
+  if (underscore == std::string_view::npos) return field;
+  const std::string_view rest = field.substr(underscore + 1);
+  std::size_t digits = 0;
+  while (digits < rest.size() && is_digit(rest[digits])) ++digits;
+  const bool indexed = digits > 0 && rest.substr(digits).starts_with("__");
+  return indexed ? rest.substr(digits + 2) : rest;
+}
+
+}  // namespace
+
+std::string validity_header(std::string_view field) {
+  constexpr std::string_view kSuffix = "_valid";
+  if (field.size() <= kSuffix.size() || !field.ends_with(kSuffix)) return {};
+  return std::string(field.substr(0, field.size() - kSuffix.size()));
+}
+
+std::vector<std::string> cli_names(const std::vector<KeyField> &key,
+                                   const std::vector<std::string> &instance_prefixes) {
+  std::vector<std::string> names;
+  for (const KeyField &field : key) {
+    names.push_back(field.is_validity_bit
+                        ? camel_case(without_stack_index(validity_header(field.name))) + "Valid"
+                        : camel_case(without_instance(field.name, instance_prefixes)));
+  }
+  std::vector<std::string> distinct = names;
+  for (std::size_t i = 0; i < key.size(); ++i) {
+    for (std::size_t j = 0; j < key.size(); ++j) {
+      const bool either_is_validity = key[i].is_validity_bit || key[j].is_validity_bit;
+      if (i != j && !either_is_validity && names[i] == names[j]) {
+        distinct[i] = camel_case(key[i].name);
+      }
+    }
+  }
+  return distinct;
+}
+
+std::string mask_cli_name(std::string_view cli_name) { return fmt::format("{}Mask", cli_name); }
+
+std::string prefix_length_cli_name(std::string_view cli_name) {
+  return fmt::format("{}PrefixLength", cli_name);
+}
+
+// --- All of them ----------------------------------------------------------------------------
+
+std::vector<DerivedName> declared_names(const Program &program) {
+  std::vector<DerivedName> names = {
+      {action_names_type(program), "the program", program.place},
+      {action_specs_type(program), "the program", program.place},
+      {action_name_strings(program), "the program", program.place},
+      {hash_field_attr_type(program), "the program", program.place},
+  };
+  for (const Action &action : program.actions) {
+    const std::string origin = "action " + action.name;
+    names.push_back({action_constant(program, action), origin, action.place});
+    if (action.has_params()) {
+      names.push_back({action_spec_type(program, action), origin, action.place});
+    }
+  }
+  for (const Table &table : program.tables) {
+    const std::string origin = "table " + table.name;
+    if (table.keyed()) names.push_back({match_spec_type(program, table), origin, table.place});
+  }
+  if (program.snapshots) {
+    names.push_back({snapshot_capture_type(program), "the snapshots", program.snapshots->place});
+    for (const SnapshotLayout &layout : program.snapshots->layouts) {
+      names.push_back(
+          {snapshot_trigger_type(program, layout), "layout " + layout.name, layout.place});
+    }
+  }
+  return names;
+}
+
+}  // namespace pdgen

@@ -1,0 +1,89 @@
+#include "pdgen/text.hpp"
+
+#include <fmt/format.h>
+
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+namespace pdgen {
+
+std::string expand(std::string_view pattern, const std::vector<std::string> &arguments) {
+  std::string out;
+  out.reserve(pattern.size() + 64);
+  for (std::size_t i = 0; i < pattern.size(); ++i) {
+    if (pattern[i] != '$' || i + 1 == pattern.size()) {
+      out += pattern[i];
+      continue;
+    }
+    const char selector = pattern[++i];
+    if (selector == '$') {
+      out += '$';
+    } else {
+      out += arguments.at(static_cast<std::size_t>(selector - '0'));
+    }
+  }
+  return out;
+}
+
+std::string hex32(std::uint32_t value) { return fmt::format("0x{:08x}", value); }
+
+std::string join(const std::vector<std::string> &parts, std::string_view separator) {
+  return fmt::format("{}", fmt::join(parts, separator));
+}
+
+std::string wrap(std::string_view text, std::size_t width, std::string_view indent) {
+  std::string out;
+  std::size_t column = 0;
+  bool at_start = true;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find(' '), text.size());
+    if (!at_start && column + 1 + end > width) {
+      out += '\n';
+      out += indent;
+      column = indent.size();
+    } else if (!at_start) {
+      out += ' ';
+      ++column;
+    }
+    out += text.substr(0, end);
+    column += end;
+    at_start = false;
+    text.remove_prefix(std::min(end + 1, text.size()));
+  }
+  return out;
+}
+
+std::string comment(std::string_view text) {
+  std::string out = "/* ";
+  for (const char c : text) {
+    out += c;
+    if (c == '\n') out += " * ";
+  }
+  return out + " */\n";
+}
+
+void OutputFiles::add(std::filesystem::path path, std::string contents) {
+  files_.push_back({std::move(path), std::move(contents)});
+}
+
+bool OutputFiles::write(std::string &message) const {
+  for (const File &file : files_) {
+    std::ifstream current(file.path, std::ios::binary);
+    const std::string old((std::istreambuf_iterator<char>(current)), {});
+    if (current.is_open() && old == file.contents) continue;
+    std::error_code error;
+    if (file.path.has_parent_path())
+      std::filesystem::create_directories(file.path.parent_path(), error);
+    std::ofstream out(file.path, std::ios::binary | std::ios::trunc);
+    out << file.contents;
+    out.close();
+    if (!out) {
+      message = fmt::format("{}: cannot be written", file.path.string());
+      return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace pdgen
