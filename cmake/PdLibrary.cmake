@@ -1,0 +1,66 @@
+# pd_add_library(<program> CATALOGUE <dir> HEADER_DIR <dir> VERSION <v> SONAME <n>)
+#
+# Builds the control-plane library of a program from its catalogue:
+#   pd_<program>          libp4_pd_<program>.so, the library
+#   pd_<program>_binding  its exports as data (bindings/export_table.hpp) and its description for
+#                         the soft SDK (soft_program_<program>)
+# The library compiles against the header p4_pd_<program>.h in HEADER_DIR, which pdgen writes with
+# --header (scripts/generate). With GENERATE_HEADER the header is made in the build folder instead.
+
+# The units into which pdgen splits the wrappers, in step with Api::begin_unit.
+set(PD_UNITS frame table entry_1 entry_2 default read_back idle indirect profile meter)
+
+function(pd_add_library program)
+  cmake_parse_arguments(arg "GENERATE_HEADER" "CATALOGUE;HEADER_DIR;VERSION;SONAME" "" ${ARGN})
+  set(dir ${CMAKE_CURRENT_BINARY_DIR}/generated/${program})
+  set(wrappers program_data.cpp)
+  set(tables export_index.cpp soft_program.cpp)
+  foreach(unit ${PD_UNITS})
+    list(APPEND wrappers wrappers_${unit}.cpp)
+    list(APPEND tables export_table_${unit}.cpp)
+  endforeach()
+  list(TRANSFORM wrappers PREPEND ${dir}/)
+  list(TRANSFORM tables PREPEND ${dir}/)
+  set(header_option "")
+  if(arg_GENERATE_HEADER)
+    set(arg_HEADER_DIR ${dir})
+    set(header_option --header ${dir}/p4_pd_${program}.h)
+  endif()
+  file(GLOB catalogue CONFIGURE_DEPENDS ${arg_CATALOGUE}/*.toml)
+  add_custom_command(
+    OUTPUT ${dir}/stamp
+    BYPRODUCTS ${wrappers} ${tables} ${dir}/descriptors.hpp ${dir}/exports.map ${dir}/layout_test.c
+    COMMAND pdgen --catalogue ${arg_CATALOGUE} --build ${dir} --soname ${arg_SONAME} ${header_option}
+    COMMAND ${CMAKE_COMMAND} -E touch ${dir}/stamp
+    DEPENDS pdgen ${catalogue}
+    COMMENT "Generating the library of ${program}"
+    VERBATIM)
+  add_custom_target(pd_${program}_generated DEPENDS ${dir}/stamp)
+
+  set(core ${CMAKE_SOURCE_DIR}/src/pd)
+  file(GLOB core_sources CONFIGURE_DEPENDS ${core}/*.cpp ${CMAKE_SOURCE_DIR}/src/pd_tessel/*.cpp)
+  add_library(pd_${program} SHARED ${wrappers} ${core_sources})
+  add_dependencies(pd_${program} pd_${program}_generated)
+  target_include_directories(pd_${program}
+    PUBLIC $<BUILD_INTERFACE:${arg_HEADER_DIR}> $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/include>
+           $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/sdk/include>
+           $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
+    PRIVATE ${dir} ${core} ${CMAKE_SOURCE_DIR}/src/pd_tessel ${CJSON_INCLUDE_DIR})
+  # A C host loads the library: no C++ run time, nothing visible but the exports.
+  target_compile_options(pd_${program} PRIVATE -fno-exceptions -fno-rtti -fno-threadsafe-statics
+    -fvisibility=hidden -fno-semantic-interposition)
+  target_link_options(pd_${program} PRIVATE -Wl,--version-script=${dir}/exports.map
+    -Wl,-Bsymbolic-functions)
+  target_link_libraries(pd_${program} PRIVATE ${CJSON_LIBRARY} $<BUILD_INTERFACE:pd_warnings>)
+  set_target_properties(pd_${program} PROPERTIES
+    OUTPUT_NAME p4_pd_${program} VERSION ${arg_VERSION} SOVERSION ${arg_SONAME}
+    LINKER_LANGUAGE C LINK_DEPENDS ${dir}/stamp GENERATED_DIR ${dir})
+
+  add_library(pd_${program}_binding STATIC EXCLUDE_FROM_ALL ${tables})
+  add_dependencies(pd_${program}_binding pd_${program}_generated)
+  target_include_directories(pd_${program}_binding PUBLIC ${CMAKE_SOURCE_DIR}
+    ${CMAKE_SOURCE_DIR}/sdk/soft/include)
+  # The call table is data; optimising it only costs time.
+  target_compile_options(pd_${program}_binding PRIVATE -O1)
+  target_link_libraries(pd_${program}_binding PUBLIC pd_${program} PRIVATE pd_warnings)
+endfunction()

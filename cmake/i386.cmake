@@ -1,0 +1,13 @@
+# The ABI of the target process, built on an x86-64 Debian with g++-multilib.
+set(CMAKE_SYSTEM_NAME Linux)
+set(CMAKE_SYSTEM_PROCESSOR i686)
+set(CMAKE_CROSSCOMPILING OFF)
+set(CMAKE_C_FLAGS_INIT -m32)
+set(CMAKE_CXX_FLAGS_INIT -m32)
+set(CMAKE_LIBRARY_ARCHITECTURE i386-linux-gnu)
+set(CMAKE_C_LIBRARY_ARCHITECTURE i386-linux-gnu)
+set(CMAKE_CXX_LIBRARY_ARCHITECTURE i386-linux-gnu)
+set(CMAKE_LIBRARY_PATH /usr/lib/i386-linux-gnu)
+set(CMAKE_PREFIX_PATH /usr/lib/i386-linux-gnu)
+set(CMAKE_IGNORE_PATH /usr/lib/x86_64-linux-gnu /usr/lib/x86_64-linux-gnu/cmake)
+set(ENV{PKG_CONFIG_LIBDIR} /usr/lib/i386-linux-gnu/pkgconfig:/usr/share/pkgconfig)

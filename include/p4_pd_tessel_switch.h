@@ -1,0 +1,9509 @@
+/* Control-plane interface of the P4 program tessel_switch.
+ *
+ * Every function runs on the caller's thread and returns the status of the pipeline manager
+ * unchanged, or a code of the library (p4_pd_types.h). Records and buffers belong to the
+ * caller and are used during the call only. Out-parameters are written on success only,
+ * unless a family says otherwise. The functions are grouped by object; what the functions
+ * of a family have in common is said once, below.
+ *
+ * Start and stop
+ *   init creates the member-selector states, registers the client with the driver framework and
+ *   binds the callbacks for device removal, log and restore. Call it once, before any other
+ *   function; P4_PD_DRIVER_REFUSED when the framework refuses the client. cleanup deregisters
+ *   the client. device_state_cleanup does nothing. bf_drv_hdl is the client's handle.
+ *
+ * Tables
+ *   For every table. get_mat_table_handle writes the table's handle (a null pointer is skipped).
+ *   get_entry_count counts the entries without the default entry. set_property and
+ *   get_property take a property of the pipeline manager (PIPE_TABLE_*); get_property writes
+ *   0xffffffff to both outputs when it fails. register_mat_update_cb has the pipeline manager
+ *   call the caller after each change. table_reset_default_entry puts back the program's own
+ *   default entry. supports_entry_priority returns 1 for a ternary table, else 0.
+ *
+ * Entries
+ *   For every keyed table, and for each of its actions where the name ends in one. The pipeline
+ *   manager chooses the entry's handle. priority (ternary tables): the smallest number wins.
+ *   ttl (tables that age their entries): milliseconds. meter_spec (tables with a direct
+ *   meter): required by add, P4_PD_METER_SPEC_MISSING without; null in modify keeps the meter.
+ *   match_spec_to_entry_hdl finds the entry with exactly this key and priority. Values beyond
+ *   a field's width reach the pipeline manager as they stand, except that masks are cut to the
+ *   width. P4_PD_NULL_ARGUMENT for a null match spec or action spec.
+ *
+ * Default entries
+ *   For every table. set_default_action_ exists for each action that may be the default; meter_spec
+ *   (tables with a direct meter) may be null, which detaches the meter.
+ *   table_get_default_entry of a table with actions of its own fills the action's value and,
+ *   for an action with parameters, the member of spec that belongs to it; P4_PD_FOREIGN_ACTION
+ *   when the default entry holds no direct action data or an action that the table does not
+ *   have. Of a table bound to a profile it tells the member or the group that the default
+ *   entry points at; the other handle is not written.
+ *
+ * Read-back
+ *   get_entry fills match_spec, priority (ternary tables), no_key, action_name (at least 61 bytes,
+ *   or null), action (the enumeration value, or null) and action_spec, the record of whichever
+ *   action the entry holds, written only for an action with parameters. no_key is set for the
+ *   default entry, whose match_spec stays as it was. P4_PD_NO_ACTION_DATA for an entry without
+ *   action data, P4_PD_FOREIGN_ACTION for an action that the table does not have,
+ *   P4_PD_NO_MEMORY when the resource list could not be allocated, P4_PD_NULL_ARGUMENT when a
+ *   mandatory output is null; nothing is written then. get_first_entry_handle and
+ *   get_next_entry_handles walk the entries; entries has room for count handles.
+ *
+ * Idle time
+ *   For the tables that age their entries. idle_params_get writes the mode alone unless the mode is
+ *   PIPE_IDLE_NOTIFY. get_hit_state writes a state without meaning when it fails.
+ *
+ * Indirect entries
+ *   For the tables that are bound to a profile. An entry points at a member or, in the functions
+ *   with _with_selector, at a group. The member or group must be known to the profile's
+ *   member-selector state, and a group must have had a member; otherwise the state's status is
+ *   returned and the pipeline manager is not called. get_entry sets has_member or has_group
+ *   and writes the handle that applies; the other one stays as it was.
+ *
+ * Profiles
+ *   For every action profile. Members and groups are made by the pipeline manager and recorded in
+ *   the profile's member-selector state once it has succeeded. A member keeps its action for
+ *   life: modify_member_with_ another one returns P4_PD_MEMBER_KEEPS_ACTION. A member that the
+ *   state does not know cannot be modified or join a group; the state's status is returned.
+ *   group_member_state_set takes P4_PD_GRP_MBR_STATE_*, else P4_PD_MEMBER_STATE_REFUSED.
+ *   sel_track_updates registers a callback without a session. get_member fills the action's
+ *   value and, for an action with parameters, the member of spec that belongs to it.
+ *
+ * Meters
+ *   meter_set_ and meter_read_ name the cell by entry handle for the direct meter of a table, else
+ *   by index. No meter of the program has a pre-colour input, so its type must be
+ *   PD_METER_TYPE_COLOR_UNAWARE; the functions that take a meter handle accept a colour-aware
+ *   type when has_pre_color is not 0. P4_PD_METER_TYPE_REFUSED otherwise. A read reports the
+ *   low 32 bits of what the device holds. The byte-count adjustment is added to the length of
+ *   every packet that the meter sees.
+ *
+ * Made by pdgen from the catalogue of tessel_switch. Edit the catalogue and run
+ * scripts/generate, not this file.
+ */
+#ifndef P4_PD_TESSEL_SWITCH_H
+#define P4_PD_TESSEL_SWITCH_H
+
+#include "p4_pd_types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ==== Start and stop ==== */
+
+extern uint32_t bf_drv_hdl;
+
+p4_pd_status_t p4_pd_tessel_switch_init(void);
+p4_pd_status_t p4_pd_tessel_switch_cleanup(void);
+void p4_pd_tessel_switch_device_state_cleanup(void);
+
+/* ==== Actions ==== */
+
+/* Every action of the program; an action that several tables use has one value. */
+typedef enum p4_pd_tessel_switch_action_names {
+  p4_pd_tessel_switch_trapPktToCpuUntagged = 0,
+  p4_pd_tessel_switch_copyPktToCpuUntagged = 1,
+  p4_pd_tessel_switch_trapPktToCpuTagged = 2,
+  p4_pd_tessel_switch_copyPktToCpuTagged = 3,
+  p4_pd_tessel_switch_trapPktToCpuSubintf = 4,
+  p4_pd_tessel_switch_copyPktToCpuSubintf = 5,
+  p4_pd_tessel_switch_encapPktToCpu = 6,
+  p4_pd_tessel_switch_onMiss = 7,
+  p4_pd_tessel_switch_setDecapEscapeIpv4 = 8,
+  p4_pd_tessel_switch_setDecapEscapeIpv6 = 9,
+  p4_pd_tessel_switch_removeOuterIpv4Hdr = 10,
+  p4_pd_tessel_switch_removeOuterIpv6Hdr = 11,
+  p4_pd_tessel_switch_restoreOuterIpv4HeaderL4 = 12,
+  p4_pd_tessel_switch_restoreOuterIpv6HeaderL4 = 13,
+  p4_pd_tessel_switch_dipHashCompute = 14,
+  p4_pd_tessel_switch_kiteFlowSetDrop = 15,
+  p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndRemoveInnerTag = 16,
+  p4_pd_tessel_switch_kiteFlowRemoveInnerTag = 17,
+  p4_pd_tessel_switch_kiteFlowDontFlow = 18,
+  p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf = 19,
+  p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain = 20,
+  p4_pd_tessel_switch_kiteFlowPreviousHit = 21,
+  p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndAddInnerTag = 22,
+  p4_pd_tessel_switch_kiteFlowAddInnerTagPreviousHit = 23,
+  p4_pd_tessel_switch_kiteFlowAddInnerTagDontFlow = 24,
+  p4_pd_tessel_switch_kiteFlowCopyEgrL2Aintf = 25,
+  p4_pd_tessel_switch_setEcmpNextHop = 26,
+  p4_pd_tessel_switch_setHashValuesEcmpOuterIpHdr = 27,
+  p4_pd_tessel_switch_setHashValuesEcmpOuterL4Hdr = 28,
+  p4_pd_tessel_switch_setHashValuesEcmpInnerIpHdr = 29,
+  p4_pd_tessel_switch_setHashValuesEcmpInnerL4Hdr = 30,
+  p4_pd_tessel_switch_setHashValuesEcmpInnerEthHdr = 31,
+  p4_pd_tessel_switch_egrStpAction = 32,
+  p4_pd_tessel_switch_egrVlanAction = 33,
+  p4_pd_tessel_switch_setL2DomainReplicated = 34,
+  p4_pd_tessel_switch_setEgrLagMemberSelector = 35,
+  p4_pd_tessel_switch_setEgressMirrorColor = 36,
+  p4_pd_tessel_switch_setEgressMirrorColorRed = 37,
+  p4_pd_tessel_switch_egressMirrorAction = 38,
+  p4_pd_tessel_switch_setEgressMirrorSession = 39,
+  p4_pd_tessel_switch_setEgressDrop = 40,
+  p4_pd_tessel_switch_egressSamePortBridgingTestDrop = 41,
+  p4_pd_tessel_switch_setEgrVlan = 42,
+  p4_pd_tessel_switch_setEgrVlanSubIntf = 43,
+  p4_pd_tessel_switch_noXlate = 44,
+  p4_pd_tessel_switch_noDecapNoEncapRouteIpv4 = 45,
+  p4_pd_tessel_switch_noDecapNoEncapRouteIpv6 = 46,
+  p4_pd_tessel_switch_noDecapNoEncapBridgeIpv4 = 47,
+  p4_pd_tessel_switch_noDecapNoEncapBridgeIpv6 = 48,
+  p4_pd_tessel_switch_encapFabricPktToCpu = 49,
+  p4_pd_tessel_switch_encapPPIPktToCpu = 50,
+  p4_pd_tessel_switch_decapPPIPktFromCpu = 51,
+  p4_pd_tessel_switch_encapGreIpv4ForClone = 52,
+  p4_pd_tessel_switch_noDecapNoEncapClone = 53,
+  p4_pd_tessel_switch_decapIpIpEncapPPIPktToCpuIpv4 = 54,
+  p4_pd_tessel_switch_decapIpIpEncapPPIPktToCpuIpv6 = 55,
+  p4_pd_tessel_switch_decapIpIpRouteIpv4 = 56,
+  p4_pd_tessel_switch_decapIpIpRouteIpv6 = 57,
+  p4_pd_tessel_switch_setEgressPort = 58,
+  p4_pd_tessel_switch_setDecapTypeVlan = 59,
+  p4_pd_tessel_switch_setInvalidEgressPort = 60,
+  p4_pd_tessel_switch_removeTesselHdrs = 61,
+  p4_pd_tessel_switch_accept = 62,
+  p4_pd_tessel_switch_acceptLog = 63,
+  p4_pd_tessel_switch_dropCount = 64,
+  p4_pd_tessel_switch_dropCountAndLog = 65,
+  p4_pd_tessel_switch_finalDrop = 66,
+  p4_pd_tessel_switch_finalizeMcResultIpmc = 67,
+  p4_pd_tessel_switch_finalizeMcResultL2mc = 68,
+  p4_pd_tessel_switch_finalizeMcResultL2mcFlood = 69,
+  p4_pd_tessel_switch_finalizeMcResultCancel = 70,
+  p4_pd_tessel_switch_finalizeMcResultFlood = 71,
+  p4_pd_tessel_switch_finalizeMcResultL3Rpf = 72,
+  p4_pd_tessel_switch_firewallDipMeterDropAction = 73,
+  p4_pd_tessel_switch_setDstSegment = 74,
+  p4_pd_tessel_switch_setSrcSegment = 75,
+  p4_pd_tessel_switch_setFirewallPolicyPermit = 76,
+  p4_pd_tessel_switch_setFirewallPolicyPermitAndOpenFlow = 77,
+  p4_pd_tessel_switch_setFirewallPolicyDrop = 78,
+  p4_pd_tessel_switch_firewallSipMeterDropAction = 79,
+  p4_pd_tessel_switch_flowAddRecircHeaderAction = 80,
+  p4_pd_tessel_switch_flowBusyActionFirst = 81,
+  p4_pd_tessel_switch_flowBusyActionSecond = 82,
+  p4_pd_tessel_switch_flowDigestGenerate = 83,
+  p4_pd_tessel_switch_flowHashComputeTypeAFirst = 84,
+  p4_pd_tessel_switch_flowHashComputeTypeASecond = 85,
+  p4_pd_tessel_switch_flowHashComputeTypeBFirst = 86,
+  p4_pd_tessel_switch_flowHashComputeTypeBSecond = 87,
+  p4_pd_tessel_switch_selectTypeA = 88,
+  p4_pd_tessel_switch_selectTypeB = 89,
+  p4_pd_tessel_switch_setFlowLimitExceeded = 90,
+  p4_pd_tessel_switch_flowRecircPacketAction = 91,
+  p4_pd_tessel_switch_flowSetupL4PortsAction = 92,
+  p4_pd_tessel_switch_flowStateLookupActionFirst = 93,
+  p4_pd_tessel_switch_flowStateLookupActionSecond = 94,
+  p4_pd_tessel_switch_setFlowPresent = 95,
+  p4_pd_tessel_switch_flowStateUpdateActionFirst = 96,
+  p4_pd_tessel_switch_flowStateUpdateActionSecond = 97,
+  p4_pd_tessel_switch_setNonInitialFragment = 98,
+  p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelCommon = 99,
+  p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4 = 100,
+  p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB = 101,
+  p4_pd_tessel_switch_setGlobalFieldsForMplsOverUdpTunnel = 102,
+  p4_pd_tessel_switch_setGlobalFieldsForMplsTunnel = 103,
+  p4_pd_tessel_switch_setHaloXformDip = 104,
+  p4_pd_tessel_switch_setHaloInvalidDip = 105,
+  p4_pd_tessel_switch_setHaloXformIpv4Sip = 106,
+  p4_pd_tessel_switch_setHaloInvalidSip = 107,
+  p4_pd_tessel_switch_setHaloIpv4Common = 108,
+  p4_pd_tessel_switch_setHaloXformIpv6Sip = 109,
+  p4_pd_tessel_switch_setHaloIpv6Common = 110,
+  p4_pd_tessel_switch_hashComputeInnerEthHdrAction = 111,
+  p4_pd_tessel_switch_hashComputeInnerIpv4HdrAction = 112,
+  p4_pd_tessel_switch_hashComputeInnerIpv6HdrAction = 113,
+  p4_pd_tessel_switch_hashComputeIpAndL4HdrAction = 114,
+  p4_pd_tessel_switch_hashComputeOuterIpv4HdrAction = 115,
+  p4_pd_tessel_switch_hashComputeOuterIpv6HdrAction = 116,
+  p4_pd_tessel_switch_ingStpAction = 117,
+  p4_pd_tessel_switch_ingVlanAction = 118,
+  p4_pd_tessel_switch_setLagMemberSelector = 119,
+  p4_pd_tessel_switch_setIngressMirrorColor = 120,
+  p4_pd_tessel_switch_setIngressMirrorColorRed = 121,
+  p4_pd_tessel_switch_ingressMirrorAction = 122,
+  p4_pd_tessel_switch_dropDatalink = 123,
+  p4_pd_tessel_switch_setIngressMirrorSession = 124,
+  p4_pd_tessel_switch_setDrop = 125,
+  p4_pd_tessel_switch_setPhase0 = 126,
+  p4_pd_tessel_switch_samplePacket = 127,
+  p4_pd_tessel_switch_setTrafficClassAndEgressQid = 128,
+  p4_pd_tessel_switch_setNextHop = 129,
+  p4_pd_tessel_switch_setNextHop2 = 130,
+  p4_pd_tessel_switch_setNextHop3 = 131,
+  p4_pd_tessel_switch_setEcmp = 132,
+  p4_pd_tessel_switch_ipv4ShortMaskLpmMiss = 133,
+  p4_pd_tessel_switch_setFibMiss = 134,
+  p4_pd_tessel_switch_setL2ControlFrame = 135,
+  p4_pd_tessel_switch_setIllegalDmac = 136,
+  p4_pd_tessel_switch_setMcast = 137,
+  p4_pd_tessel_switch_setBcast = 138,
+  p4_pd_tessel_switch_setUcast = 139,
+  p4_pd_tessel_switch_setIpMcast = 140,
+  p4_pd_tessel_switch_classifyL2ControlFrame = 141,
+  p4_pd_tessel_switch_setL2DomainUntagged = 142,
+  p4_pd_tessel_switch_setL2DomainVlanXlate = 143,
+  p4_pd_tessel_switch_setL2DomainTagged = 144,
+  p4_pd_tessel_switch_l2ForwardParamsSet = 145,
+  p4_pd_tessel_switch_noOp = 146,
+  p4_pd_tessel_switch_setL2LearningLookupMiss = 147,
+  p4_pd_tessel_switch_l2LookupKnownUcast = 148,
+  p4_pd_tessel_switch_l2LookupKnownMcast = 149,
+  p4_pd_tessel_switch_l2LookupKnownUcastTunnel = 150,
+  p4_pd_tessel_switch_l2LookupDrop = 151,
+  p4_pd_tessel_switch_l2LookupBcastHit = 152,
+  p4_pd_tessel_switch_l2LookupUnknownMcastAction = 153,
+  p4_pd_tessel_switch_l2LookupUnknownUcastAction = 154,
+  p4_pd_tessel_switch_setL2McResult = 155,
+  p4_pd_tessel_switch_setIllegalSmac = 156,
+  p4_pd_tessel_switch_setDropSmac = 157,
+  p4_pd_tessel_switch_setL2XId = 158,
+  p4_pd_tessel_switch_ignoreIngL3DmacValid = 159,
+  p4_pd_tessel_switch_setIngL3DmacValid = 160,
+  p4_pd_tessel_switch_setLagPort = 161,
+  p4_pd_tessel_switch_setPhysicalPort = 162,
+  p4_pd_tessel_switch_setTunnelInfo = 163,
+  p4_pd_tessel_switch_invalidateUcastEgressPort = 164,
+  p4_pd_tessel_switch_fixL2SubintfAlignment = 165,
+  p4_pd_tessel_switch_setHashValuesLagOuterEthHdr = 166,
+  p4_pd_tessel_switch_setHashValuesLagOuterIpHdr = 167,
+  p4_pd_tessel_switch_setHashValuesLagOuterL4Hdr = 168,
+  p4_pd_tessel_switch_setHashValuesLagInnerEthHdr = 169,
+  p4_pd_tessel_switch_setHashValuesLagInnerIpHdr = 170,
+  p4_pd_tessel_switch_setHashValuesLagInnerL4Hdr = 171,
+  p4_pd_tessel_switch_generateMacLearningDigest = 172,
+  p4_pd_tessel_switch_dot1xTrap = 173,
+  p4_pd_tessel_switch_dot1xDrop = 174,
+  p4_pd_tessel_switch_resetApplicationId = 175,
+  p4_pd_tessel_switch_setPruneParams = 176,
+  p4_pd_tessel_switch_setPruneParamsForL2Flood = 177,
+  p4_pd_tessel_switch_setPruneParamsForL3Only = 178,
+  p4_pd_tessel_switch_l3FloodEgressL2Aintf = 179,
+  p4_pd_tessel_switch_setMirrorPacketEncapNone = 180,
+  p4_pd_tessel_switch_setMirrorPacketEncapCpu = 181,
+  p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4 = 182,
+  p4_pd_tessel_switch_setMlagPrune = 183,
+  p4_pd_tessel_switch_newFlowRateLimitAction = 184,
+  p4_pd_tessel_switch_setNextHopDetails = 185,
+  p4_pd_tessel_switch_setCosFromDefault = 186,
+  p4_pd_tessel_switch_setCosFromPacket = 187,
+  p4_pd_tessel_switch_setCosFromPacketWithInner = 188,
+  p4_pd_tessel_switch_setDscpForNonIpPkt = 189,
+  p4_pd_tessel_switch_setDscpForTTNonIpPkt = 190,
+  p4_pd_tessel_switch_setDscpForIpv4Pkt = 191,
+  p4_pd_tessel_switch_setDscpForIpv4OptionsPkt = 192,
+  p4_pd_tessel_switch_setDscpForIpv6Pkt = 193,
+  p4_pd_tessel_switch_noTunnelIpv4 = 194,
+  p4_pd_tessel_switch_noTunnelIpv6 = 195,
+  p4_pd_tessel_switch_onlyDecapInnerIpv4 = 196,
+  p4_pd_tessel_switch_onlyDecapInnerIpv6 = 197,
+  p4_pd_tessel_switch_encapOuterIpv4 = 198,
+  p4_pd_tessel_switch_encapOuterIpv4InnerIpv4 = 199,
+  p4_pd_tessel_switch_encapOuterIpv4InnerIpv6 = 200,
+  p4_pd_tessel_switch_setPdpClass = 201,
+  p4_pd_tessel_switch_setPdpClassCount = 202,
+  p4_pd_tessel_switch_pdpPolice = 203,
+  p4_pd_tessel_switch_setQosPortProperties = 204,
+  p4_pd_tessel_switch_copyCosRewriteDscp = 205,
+  p4_pd_tessel_switch_rewriteCosCopyDscp = 206,
+  p4_pd_tessel_switch_rewriteCosRewriteDscp = 207,
+  p4_pd_tessel_switch_setQosRewriteConfiguration = 208,
+  p4_pd_tessel_switch_countEgressQueue = 209,
+  p4_pd_tessel_switch_setNextHopToCpu = 210,
+  p4_pd_tessel_switch_setRoutedMartian = 211,
+  p4_pd_tessel_switch_setRouterNextHopDetails = 212,
+  p4_pd_tessel_switch_samePortBridgingTestAction = 213,
+  p4_pd_tessel_switch_sipHashCompute = 214,
+  p4_pd_tessel_switch_setNyxIntfDetails = 215,
+  p4_pd_tessel_switch_setSwitchToCpu = 216,
+  p4_pd_tessel_switch_setVrfPropertiesTaggedPkt = 217,
+  p4_pd_tessel_switch_setVrfPropertiesTaggedXlatePkt = 218,
+  p4_pd_tessel_switch_setTcDscp = 219,
+  p4_pd_tessel_switch_trapPacket = 220,
+  p4_pd_tessel_switch_copyPacket = 221,
+  p4_pd_tessel_switch_setLlm = 222,
+  p4_pd_tessel_switch_setTunnelTerminationTypeIpIp = 223,
+  p4_pd_tessel_switch_setTunnelTerminationTypeIp6Ip6SwPath = 224,
+  p4_pd_tessel_switch_setTunnelTerminationTypeNoneIpv6 = 225,
+  p4_pd_tessel_switch_setTunnelTerminationTypeNoneIpv4AndL2 = 226,
+  p4_pd_tessel_switch_setVrfPropertiesUntaggedPkt = 227,
+  p4_pd_tessel_switch_removeVlanHdr = 228,
+  p4_pd_tessel_switch_noVlanEncap = 229,
+  p4_pd_tessel_switch_needVlanEncap = 230,
+  p4_pd_tessel_switch_setVlanProperties = 231
+} p4_pd_tessel_switch_action_names_t;
+
+/* The full name of each value, prefix included. */
+extern const char *const p4_pd_tessel_switch_action_name_strings[232];
+
+typedef struct p4_pd_tessel_switch_trapPktToCpuUntagged_action_spec {
+  uint16_t action_cpuPort; /* 9 bits */
+  uint8_t action_trapPipelineQid; /* 5 bits */
+} p4_pd_tessel_switch_trapPktToCpuUntagged_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_copyPktToCpuUntagged_action_spec {
+  uint8_t action_copyPipelineQid; /* 5 bits */
+} p4_pd_tessel_switch_copyPktToCpuUntagged_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_trapPktToCpuTagged_action_spec {
+  uint16_t action_cpuPort; /* 9 bits */
+  uint8_t action_trapPipelineQid; /* 5 bits */
+} p4_pd_tessel_switch_trapPktToCpuTagged_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_copyPktToCpuTagged_action_spec {
+  uint8_t action_copyPipelineQid; /* 5 bits */
+} p4_pd_tessel_switch_copyPktToCpuTagged_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_trapPktToCpuSubintf_action_spec {
+  uint16_t action_cpuPort; /* 9 bits */
+  uint8_t action_trapPipelineQid; /* 5 bits */
+} p4_pd_tessel_switch_trapPktToCpuSubintf_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_copyPktToCpuSubintf_action_spec {
+  uint8_t action_copyPipelineQid; /* 5 bits */
+} p4_pd_tessel_switch_copyPktToCpuSubintf_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_encapPktToCpu_action_spec {
+  uint8_t action_tagType; /* 2 bits */
+} p4_pd_tessel_switch_encapPktToCpu_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setDecapEscapeIpv4_action_spec {
+  uint8_t action_restore; /* 1 bit */
+} p4_pd_tessel_switch_setDecapEscapeIpv4_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setDecapEscapeIpv6_action_spec {
+  uint8_t action_restore; /* 1 bit */
+} p4_pd_tessel_switch_setDecapEscapeIpv6_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_kiteFlowSetDrop_action_spec {
+  uint16_t action_index; /* 12 bits */
+} p4_pd_tessel_switch_kiteFlowSetDrop_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndRemoveInnerTag_action_spec {
+  uint16_t action_index; /* 12 bits */
+  uint32_t action_egrL2Aintf; /* 20 bits */
+} p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndRemoveInnerTag_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_kiteFlowRemoveInnerTag_action_spec {
+  uint16_t action_index; /* 12 bits */
+} p4_pd_tessel_switch_kiteFlowRemoveInnerTag_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_kiteFlowDontFlow_action_spec {
+  uint16_t action_index; /* 12 bits */
+} p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_action_spec {
+  uint16_t action_index; /* 12 bits */
+  uint32_t action_egrL2Aintf; /* 20 bits */
+} p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_action_spec {
+  uint16_t action_index; /* 12 bits */
+  uint32_t action_egrL2Aintf; /* 20 bits */
+  uint16_t action_egrL2Domain; /* 12 bits */
+} p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_kiteFlowPreviousHit_action_spec {
+  uint16_t action_index; /* 12 bits */
+} p4_pd_tessel_switch_kiteFlowPreviousHit_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndAddInnerTag_action_spec {
+  uint16_t action_index; /* 12 bits */
+  uint32_t action_egrL2Aintf; /* 20 bits */
+  uint16_t action_vlanId; /* 12 bits */
+  uint8_t action_priority; /* 3 bits */
+} p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndAddInnerTag_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_kiteFlowAddInnerTagPreviousHit_action_spec {
+  uint16_t action_index; /* 12 bits */
+  uint16_t action_vlanId; /* 12 bits */
+  uint8_t action_priority; /* 3 bits */
+} p4_pd_tessel_switch_kiteFlowAddInnerTagPreviousHit_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_kiteFlowAddInnerTagDontFlow_action_spec {
+  uint16_t action_index; /* 12 bits */
+  uint16_t action_vlanId; /* 12 bits */
+  uint8_t action_priority; /* 3 bits */
+} p4_pd_tessel_switch_kiteFlowAddInnerTagDontFlow_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setEcmpNextHop_action_spec {
+  uint32_t action_nextHop; /* 14 bits */
+} p4_pd_tessel_switch_setEcmpNextHop_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setL2DomainReplicated_action_spec {
+  uint16_t action_l2Domain; /* 12 bits */
+} p4_pd_tessel_switch_setL2DomainReplicated_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setEgrLagMemberSelector_action_spec {
+  uint16_t action_lagMemberSelector; /* 10 bits */
+} p4_pd_tessel_switch_setEgrLagMemberSelector_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setEgressMirrorColor_action_spec {
+  uint32_t action_meterIndex; /* 32 bits, cell of egressMirrorMeter */
+} p4_pd_tessel_switch_setEgressMirrorColor_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setEgressMirrorSession_action_spec {
+  uint16_t action_sessionId; /* 10 bits */
+} p4_pd_tessel_switch_setEgressMirrorSession_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setEgrVlan_action_spec {
+  uint16_t action_vlanId; /* 12 bits */
+} p4_pd_tessel_switch_setEgrVlan_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setEgrVlanSubIntf_action_spec {
+  uint16_t action_vlanId; /* 12 bits */
+} p4_pd_tessel_switch_setEgrVlanSubIntf_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_noDecapNoEncapRouteIpv4_action_spec {
+  uint32_t action_routerMacOui; /* 24 bits, half of a MAC address */
+  uint32_t action_routerMacStation; /* 24 bits, half of a MAC address */
+} p4_pd_tessel_switch_noDecapNoEncapRouteIpv4_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_noDecapNoEncapRouteIpv6_action_spec {
+  uint32_t action_routerMacOui; /* 24 bits, half of a MAC address */
+  uint32_t action_routerMacStation; /* 24 bits, half of a MAC address */
+} p4_pd_tessel_switch_noDecapNoEncapRouteIpv6_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_encapGreIpv4ForClone_action_spec {
+  uint32_t action_routerMacOui; /* 24 bits, half of a MAC address */
+  uint32_t action_routerMacStation; /* 24 bits, half of a MAC address */
+} p4_pd_tessel_switch_encapGreIpv4ForClone_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_decapIpIpRouteIpv4_action_spec {
+  uint32_t action_routerMacOui; /* 24 bits, half of a MAC address */
+  uint32_t action_routerMacStation; /* 24 bits, half of a MAC address */
+} p4_pd_tessel_switch_decapIpIpRouteIpv4_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_decapIpIpRouteIpv6_action_spec {
+  uint32_t action_routerMacOui; /* 24 bits, half of a MAC address */
+  uint32_t action_routerMacStation; /* 24 bits, half of a MAC address */
+} p4_pd_tessel_switch_decapIpIpRouteIpv6_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setEgressPort_action_spec {
+  uint32_t action_egrL2Aintf; /* 20 bits */
+} p4_pd_tessel_switch_setEgressPort_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_finalizeMcResultIpmc_action_spec {
+  uint8_t action_copy; /* 1 bit */
+} p4_pd_tessel_switch_finalizeMcResultIpmc_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_finalizeMcResultL2mc_action_spec {
+  uint8_t action_copy; /* 1 bit */
+} p4_pd_tessel_switch_finalizeMcResultL2mc_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_finalizeMcResultL2mcFlood_action_spec {
+  uint8_t action_copy; /* 1 bit */
+} p4_pd_tessel_switch_finalizeMcResultL2mcFlood_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_finalizeMcResultCancel_action_spec {
+  uint8_t action_copy; /* 1 bit */
+} p4_pd_tessel_switch_finalizeMcResultCancel_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_finalizeMcResultFlood_action_spec {
+  uint8_t action_copy; /* 1 bit */
+} p4_pd_tessel_switch_finalizeMcResultFlood_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setDstSegment_action_spec {
+  uint8_t action_dstSegment; /* 8 bits */
+} p4_pd_tessel_switch_setDstSegment_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setSrcSegment_action_spec {
+  uint8_t action_srcSegment; /* 8 bits */
+} p4_pd_tessel_switch_setSrcSegment_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setFirewallPolicyPermit_action_spec {
+  uint32_t action_counterIndex; /* 32 bits, cell of firewallPolicyCount */
+  uint8_t action_updateFlowBusy; /* 1 bit */
+  uint8_t action_finRstDigestEnabled; /* 1 bit */
+  uint8_t action_response; /* 1 bit */
+} p4_pd_tessel_switch_setFirewallPolicyPermit_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setFirewallPolicyPermitAndOpenFlow_action_spec {
+  uint32_t action_counterIndex; /* 32 bits, cell of firewallPolicyCount */
+  uint8_t action_escortToRecircPort; /* 1 bit */
+} p4_pd_tessel_switch_setFirewallPolicyPermitAndOpenFlow_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setFirewallPolicyDrop_action_spec {
+  uint32_t action_counterIndex; /* 32 bits, cell of firewallPolicyCount */
+  uint8_t action_log; /* 1 bit */
+  uint8_t action_meterDrop; /* 1 bit */
+} p4_pd_tessel_switch_setFirewallPolicyDrop_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setFlowLimitExceeded_action_spec {
+  uint8_t action_flowLimitExceeded; /* 1 bit */
+} p4_pd_tessel_switch_setFlowLimitExceeded_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_flowRecircPacketAction_action_spec {
+  uint16_t action_recircGrpId; /* 16 bits */
+} p4_pd_tessel_switch_flowRecircPacketAction_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec {
+  uint16_t action_dstPort; /* 16 bits */
+  uint16_t action_pktLengthAdj; /* 16 bits */
+  uint16_t action_vxlanRangeMask; /* 16 bits */
+} p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec {
+  uint32_t action_routerIp; /* 32 bits */
+  uint16_t action_dstPort; /* 16 bits */
+  uint16_t action_pktLengthAdj; /* 16 bits */
+  uint16_t action_vxlanRangeMask; /* 16 bits */
+} p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec {
+  uint32_t action_routerIp; /* 32 bits */
+  uint16_t action_dstPort; /* 16 bits */
+  uint16_t action_pktLengthAdj; /* 16 bits */
+  uint16_t action_vxlanRangeMask; /* 16 bits */
+} p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setGlobalFieldsForMplsOverUdpTunnel_action_spec {
+  uint16_t action_dstPort; /* 16 bits */
+  uint16_t action_pktLengthAdj; /* 16 bits */
+} p4_pd_tessel_switch_setGlobalFieldsForMplsOverUdpTunnel_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setGlobalFieldsForMplsTunnel_action_spec {
+  uint16_t action_pktLengthAdj; /* 16 bits */
+} p4_pd_tessel_switch_setGlobalFieldsForMplsTunnel_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setHaloXformDip_action_spec {
+  uint16_t action_val; /* 16 bits */
+  uint16_t action_valMirror; /* 16 bits */
+} p4_pd_tessel_switch_setHaloXformDip_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setHaloXformIpv4Sip_action_spec {
+  uint16_t action_val; /* 16 bits */
+  uint16_t action_valMirror; /* 16 bits */
+} p4_pd_tessel_switch_setHaloXformIpv4Sip_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setHaloXformIpv6Sip_action_spec {
+  uint16_t action_val; /* 16 bits */
+  uint16_t action_valMirror; /* 16 bits */
+} p4_pd_tessel_switch_setHaloXformIpv6Sip_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setLagMemberSelector_action_spec {
+  uint16_t action_lagMemberSelector; /* 10 bits */
+} p4_pd_tessel_switch_setLagMemberSelector_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setIngressMirrorColor_action_spec {
+  uint32_t action_meterIndex; /* 32 bits, cell of ingressMirrorMeter */
+} p4_pd_tessel_switch_setIngressMirrorColor_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_ingressMirrorAction_action_spec {
+  uint32_t action_mirrorSession; /* 32 bits */
+} p4_pd_tessel_switch_ingressMirrorAction_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setIngressMirrorSession_action_spec {
+  uint16_t action_sessionId; /* 10 bits */
+} p4_pd_tessel_switch_setIngressMirrorSession_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setPhase0_action_spec {
+  uint16_t action_ingVPort; /* 14 bits */
+  uint16_t action_nativeAintf; /* 12 bits */
+  uint8_t action_switchPort; /* 1 bit */
+  uint8_t action_physicalPort; /* 2 bits */
+} p4_pd_tessel_switch_setPhase0_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setTrafficClassAndEgressQid_action_spec {
+  uint8_t action_tc; /* 3 bits */
+  uint8_t action_qid; /* 5 bits */
+} p4_pd_tessel_switch_setTrafficClassAndEgressQid_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setNextHop_action_spec {
+  uint32_t action_nextHop; /* 14 bits */
+} p4_pd_tessel_switch_setNextHop_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setNextHop2_action_spec {
+  uint32_t action_nextHop; /* 14 bits */
+} p4_pd_tessel_switch_setNextHop2_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setNextHop3_action_spec {
+  uint32_t action_nextHop; /* 14 bits */
+} p4_pd_tessel_switch_setNextHop3_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setEcmp_action_spec {
+  uint16_t action_ecmpGroup; /* 14 bits */
+} p4_pd_tessel_switch_setEcmp_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setL2ControlFrame_action_spec {
+  uint8_t action_cpuReasonCode; /* 8 bits */
+  uint8_t action_highPriority; /* 1 bit */
+} p4_pd_tessel_switch_setL2ControlFrame_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_classifyL2ControlFrame_action_spec {
+  uint8_t action_cpuReasonCode; /* 8 bits */
+  uint8_t action_highPriority; /* 1 bit */
+} p4_pd_tessel_switch_classifyL2ControlFrame_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setL2DomainUntagged_action_spec {
+  uint32_t action_l2Aintf; /* 20 bits */
+} p4_pd_tessel_switch_setL2DomainUntagged_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setL2DomainVlanXlate_action_spec {
+  uint16_t action_xlateVlan; /* 12 bits */
+  uint32_t action_l2Aintf; /* 20 bits */
+} p4_pd_tessel_switch_setL2DomainVlanXlate_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setL2DomainTagged_action_spec {
+  uint32_t action_l2Aintf; /* 20 bits */
+} p4_pd_tessel_switch_setL2DomainTagged_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_l2ForwardParamsSet_action_spec {
+  uint32_t action_port; /* 20 bits */
+} p4_pd_tessel_switch_l2ForwardParamsSet_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_l2LookupKnownUcast_action_spec {
+  uint32_t action_egrL2Aintf; /* 20 bits */
+} p4_pd_tessel_switch_l2LookupKnownUcast_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_l2LookupKnownMcast_action_spec {
+  uint16_t action_l2McastId; /* 16 bits */
+} p4_pd_tessel_switch_l2LookupKnownMcast_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_l2LookupKnownUcastTunnel_action_spec {
+  uint32_t action_egrL2Aintf; /* 20 bits */
+  uint16_t action_tunnelNextHop; /* 10 bits */
+} p4_pd_tessel_switch_l2LookupKnownUcastTunnel_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setL2McResult_action_spec {
+  uint16_t action_mgrp; /* 16 bits */
+  uint8_t action_eValid; /* 1 bit */
+  uint8_t action_copy; /* 1 bit */
+} p4_pd_tessel_switch_setL2McResult_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setL2XId_action_spec {
+  uint16_t action_l2XId; /* 9 bits */
+} p4_pd_tessel_switch_setL2XId_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setLagPort_action_spec {
+  uint16_t action_egrL2AintfPort; /* 9 bits */
+} p4_pd_tessel_switch_setLagPort_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setPruneParams_action_spec {
+  uint16_t action_l1xId; /* 16 bits */
+} p4_pd_tessel_switch_setPruneParams_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setPruneParamsForL2Flood_action_spec {
+  uint16_t action_l1xId; /* 16 bits */
+} p4_pd_tessel_switch_setPruneParamsForL2Flood_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setPruneParamsForL3Only_action_spec {
+  uint16_t action_l1xId; /* 16 bits */
+} p4_pd_tessel_switch_setPruneParamsForL3Only_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setMirrorPacketEncapCpu_action_spec {
+  uint8_t action_nyxSessionId; /* 8 bits */
+} p4_pd_tessel_switch_setMirrorPacketEncapCpu_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_action_spec {
+  uint32_t action_srcIp; /* 32 bits, IPv4 address */
+  uint32_t action_dstIp; /* 32 bits, IPv4 address */
+  uint8_t action_ttl; /* 8 bits */
+  uint8_t action_dscp; /* 6 bits */
+  uint16_t action_greProto; /* 16 bits */
+  uint16_t action_vlanId; /* 12 bits */
+  uint32_t action_dmacOui; /* 24 bits, half of a MAC address */
+  uint32_t action_dmacStation; /* 24 bits, half of a MAC address */
+} p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_newFlowRateLimitAction_action_spec {
+  uint32_t action_meterIndex; /* 32 bits, cell of newFlowMeter */
+} p4_pd_tessel_switch_newFlowRateLimitAction_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setNextHopDetails_action_spec {
+  uint32_t action_dmacOui; /* 24 bits, half of a MAC address */
+  uint32_t action_dmacStation; /* 24 bits, half of a MAC address */
+  uint16_t action_domain; /* 12 bits */
+} p4_pd_tessel_switch_setNextHopDetails_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setCosFromDefault_action_spec {
+  uint8_t action_cos; /* 3 bits */
+} p4_pd_tessel_switch_setCosFromDefault_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setCosFromPacket_action_spec {
+  uint8_t action_pri; /* 3 bits */
+} p4_pd_tessel_switch_setCosFromPacket_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setCosFromPacketWithInner_action_spec {
+  uint8_t action_pri; /* 3 bits */
+} p4_pd_tessel_switch_setCosFromPacketWithInner_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setPdpClass_action_spec {
+  uint8_t action_pdpClassId; /* 5 bits */
+} p4_pd_tessel_switch_setPdpClass_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setPdpClassCount_action_spec {
+  uint32_t action_pdpResourceIndex; /* 32 bits, cell of pdpClassCount */
+} p4_pd_tessel_switch_setPdpClassCount_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_pdpPolice_action_spec {
+  uint32_t action_pdpResourceIndex; /* 32 bits, cell of pdpClassCount and pdpMeter */
+} p4_pd_tessel_switch_pdpPolice_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setQosPortProperties_action_spec {
+  uint8_t action_defaultCos; /* 3 bits */
+  uint8_t action_defaultDscp; /* 6 bits */
+  uint8_t action_trustMode; /* 2 bits */
+} p4_pd_tessel_switch_setQosPortProperties_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_copyCosRewriteDscp_action_spec {
+  uint8_t action_dscp; /* 6 bits */
+} p4_pd_tessel_switch_copyCosRewriteDscp_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_rewriteCosCopyDscp_action_spec {
+  uint8_t action_cos; /* 3 bits */
+} p4_pd_tessel_switch_rewriteCosCopyDscp_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_rewriteCosRewriteDscp_action_spec {
+  uint8_t action_cos; /* 3 bits */
+  uint8_t action_dscp; /* 6 bits */
+} p4_pd_tessel_switch_rewriteCosRewriteDscp_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setQosRewriteConfiguration_action_spec {
+  uint8_t action_cosRewrite; /* 1 bit */
+  uint8_t action_dscpRewrite; /* 1 bit */
+} p4_pd_tessel_switch_setQosRewriteConfiguration_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setNextHopToCpu_action_spec {
+  uint8_t action_cpuReasonCode; /* 8 bits */
+} p4_pd_tessel_switch_setNextHopToCpu_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setRouterNextHopDetails_action_spec {
+  uint32_t action_egrL2AintfUnresolved; /* 20 bits */
+  uint16_t action_tunnelNextHop; /* 10 bits */
+  uint8_t action_egrMtuId; /* 2 bits */
+} p4_pd_tessel_switch_setRouterNextHopDetails_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setNyxIntfDetails_action_spec {
+  uint8_t action_nyxSlice; /* 6 bits */
+  uint16_t action_nyxPort; /* 10 bits */
+  uint8_t action_nyxLane; /* 4 bits */
+  uint16_t action_nyxLagId; /* 12 bits */
+} p4_pd_tessel_switch_setNyxIntfDetails_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setSwitchToCpu_action_spec {
+  uint32_t action_switchToCpuNextHop; /* 14 bits */
+} p4_pd_tessel_switch_setSwitchToCpu_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setVrfPropertiesTaggedPkt_action_spec {
+  uint32_t action_vrfIdHi; /* 32 bits */
+  uint8_t action_vrfId; /* 8 bits */
+  uint8_t action_ipRouting; /* 4 bits */
+} p4_pd_tessel_switch_setVrfPropertiesTaggedPkt_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setVrfPropertiesTaggedXlatePkt_action_spec {
+  uint16_t action_xlateVlan; /* 12 bits */
+  uint32_t action_vrfIdHi; /* 32 bits */
+  uint8_t action_vrfId; /* 8 bits */
+  uint8_t action_ipRouting; /* 4 bits */
+} p4_pd_tessel_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setTcDscp_action_spec {
+  uint8_t action_dscp; /* 6 bits */
+} p4_pd_tessel_switch_setTcDscp_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_trapPacket_action_spec {
+  uint8_t action_cpuReasonCode; /* 8 bits */
+} p4_pd_tessel_switch_trapPacket_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_copyPacket_action_spec {
+  uint8_t action_cpuReasonCode; /* 8 bits */
+  uint8_t action_llm; /* 1 bit */
+} p4_pd_tessel_switch_copyPacket_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setVrfPropertiesUntaggedPkt_action_spec {
+  uint32_t action_vrfIdHi; /* 32 bits */
+  uint8_t action_vrfId; /* 8 bits */
+  uint8_t action_ipRouting; /* 4 bits */
+} p4_pd_tessel_switch_setVrfPropertiesUntaggedPkt_action_spec_t;
+
+typedef struct p4_pd_tessel_switch_setVlanProperties_action_spec {
+  uint8_t action_igmpSnoopingEnabled; /* 1 bit */
+  uint8_t action_sviEnabled; /* 1 bit */
+  uint8_t action_vxlan; /* 1 bit */
+} p4_pd_tessel_switch_setVlanProperties_action_spec_t;
+
+/* An action with its parameters as read back; spec is written only for an action that has any. */
+typedef struct p4_pd_tessel_switch_action_specs {
+  uint32_t action; /* of p4_pd_tessel_switch_action_names_t */
+  union {
+    p4_pd_tessel_switch_trapPktToCpuUntagged_action_spec_t trapPktToCpuUntagged;
+    p4_pd_tessel_switch_copyPktToCpuUntagged_action_spec_t copyPktToCpuUntagged;
+    p4_pd_tessel_switch_trapPktToCpuTagged_action_spec_t trapPktToCpuTagged;
+    p4_pd_tessel_switch_copyPktToCpuTagged_action_spec_t copyPktToCpuTagged;
+    p4_pd_tessel_switch_trapPktToCpuSubintf_action_spec_t trapPktToCpuSubintf;
+    p4_pd_tessel_switch_copyPktToCpuSubintf_action_spec_t copyPktToCpuSubintf;
+    p4_pd_tessel_switch_encapPktToCpu_action_spec_t encapPktToCpu;
+    p4_pd_tessel_switch_setDecapEscapeIpv4_action_spec_t setDecapEscapeIpv4;
+    p4_pd_tessel_switch_setDecapEscapeIpv6_action_spec_t setDecapEscapeIpv6;
+    p4_pd_tessel_switch_kiteFlowSetDrop_action_spec_t kiteFlowSetDrop;
+    p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndRemoveInnerTag_action_spec_t kiteFlowSetEgrL2AintfAndRemoveInnerTag;
+    p4_pd_tessel_switch_kiteFlowRemoveInnerTag_action_spec_t kiteFlowRemoveInnerTag;
+    p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t kiteFlowDontFlow;
+    p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_action_spec_t kiteFlowSetEgrL2Aintf;
+    p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_action_spec_t kiteFlowSetEgrL2AintfAndL2Domain;
+    p4_pd_tessel_switch_kiteFlowPreviousHit_action_spec_t kiteFlowPreviousHit;
+    p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndAddInnerTag_action_spec_t kiteFlowSetEgrL2AintfAndAddInnerTag;
+    p4_pd_tessel_switch_kiteFlowAddInnerTagPreviousHit_action_spec_t kiteFlowAddInnerTagPreviousHit;
+    p4_pd_tessel_switch_kiteFlowAddInnerTagDontFlow_action_spec_t kiteFlowAddInnerTagDontFlow;
+    p4_pd_tessel_switch_setEcmpNextHop_action_spec_t setEcmpNextHop;
+    p4_pd_tessel_switch_setL2DomainReplicated_action_spec_t setL2DomainReplicated;
+    p4_pd_tessel_switch_setEgrLagMemberSelector_action_spec_t setEgrLagMemberSelector;
+    p4_pd_tessel_switch_setEgressMirrorColor_action_spec_t setEgressMirrorColor;
+    p4_pd_tessel_switch_setEgressMirrorSession_action_spec_t setEgressMirrorSession;
+    p4_pd_tessel_switch_setEgrVlan_action_spec_t setEgrVlan;
+    p4_pd_tessel_switch_setEgrVlanSubIntf_action_spec_t setEgrVlanSubIntf;
+    p4_pd_tessel_switch_noDecapNoEncapRouteIpv4_action_spec_t noDecapNoEncapRouteIpv4;
+    p4_pd_tessel_switch_noDecapNoEncapRouteIpv6_action_spec_t noDecapNoEncapRouteIpv6;
+    p4_pd_tessel_switch_encapGreIpv4ForClone_action_spec_t encapGreIpv4ForClone;
+    p4_pd_tessel_switch_decapIpIpRouteIpv4_action_spec_t decapIpIpRouteIpv4;
+    p4_pd_tessel_switch_decapIpIpRouteIpv6_action_spec_t decapIpIpRouteIpv6;
+    p4_pd_tessel_switch_setEgressPort_action_spec_t setEgressPort;
+    p4_pd_tessel_switch_finalizeMcResultIpmc_action_spec_t finalizeMcResultIpmc;
+    p4_pd_tessel_switch_finalizeMcResultL2mc_action_spec_t finalizeMcResultL2mc;
+    p4_pd_tessel_switch_finalizeMcResultL2mcFlood_action_spec_t finalizeMcResultL2mcFlood;
+    p4_pd_tessel_switch_finalizeMcResultCancel_action_spec_t finalizeMcResultCancel;
+    p4_pd_tessel_switch_finalizeMcResultFlood_action_spec_t finalizeMcResultFlood;
+    p4_pd_tessel_switch_setDstSegment_action_spec_t setDstSegment;
+    p4_pd_tessel_switch_setSrcSegment_action_spec_t setSrcSegment;
+    p4_pd_tessel_switch_setFirewallPolicyPermit_action_spec_t setFirewallPolicyPermit;
+    p4_pd_tessel_switch_setFirewallPolicyPermitAndOpenFlow_action_spec_t setFirewallPolicyPermitAndOpenFlow;
+    p4_pd_tessel_switch_setFirewallPolicyDrop_action_spec_t setFirewallPolicyDrop;
+    p4_pd_tessel_switch_setFlowLimitExceeded_action_spec_t setFlowLimitExceeded;
+    p4_pd_tessel_switch_flowRecircPacketAction_action_spec_t flowRecircPacketAction;
+    p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t setGlobalFieldsForVxlanTunnelCommon;
+    p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t setGlobalFieldsForVxlanTunnelIpv4;
+    p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t setGlobalFieldsForVxlanTunnelIpv4UseDipB;
+    p4_pd_tessel_switch_setGlobalFieldsForMplsOverUdpTunnel_action_spec_t setGlobalFieldsForMplsOverUdpTunnel;
+    p4_pd_tessel_switch_setGlobalFieldsForMplsTunnel_action_spec_t setGlobalFieldsForMplsTunnel;
+    p4_pd_tessel_switch_setHaloXformDip_action_spec_t setHaloXformDip;
+    p4_pd_tessel_switch_setHaloXformIpv4Sip_action_spec_t setHaloXformIpv4Sip;
+    p4_pd_tessel_switch_setHaloXformIpv6Sip_action_spec_t setHaloXformIpv6Sip;
+    p4_pd_tessel_switch_setLagMemberSelector_action_spec_t setLagMemberSelector;
+    p4_pd_tessel_switch_setIngressMirrorColor_action_spec_t setIngressMirrorColor;
+    p4_pd_tessel_switch_ingressMirrorAction_action_spec_t ingressMirrorAction;
+    p4_pd_tessel_switch_setIngressMirrorSession_action_spec_t setIngressMirrorSession;
+    p4_pd_tessel_switch_setPhase0_action_spec_t setPhase0;
+    p4_pd_tessel_switch_setTrafficClassAndEgressQid_action_spec_t setTrafficClassAndEgressQid;
+    p4_pd_tessel_switch_setNextHop_action_spec_t setNextHop;
+    p4_pd_tessel_switch_setNextHop2_action_spec_t setNextHop2;
+    p4_pd_tessel_switch_setNextHop3_action_spec_t setNextHop3;
+    p4_pd_tessel_switch_setEcmp_action_spec_t setEcmp;
+    p4_pd_tessel_switch_setL2ControlFrame_action_spec_t setL2ControlFrame;
+    p4_pd_tessel_switch_classifyL2ControlFrame_action_spec_t classifyL2ControlFrame;
+    p4_pd_tessel_switch_setL2DomainUntagged_action_spec_t setL2DomainUntagged;
+    p4_pd_tessel_switch_setL2DomainVlanXlate_action_spec_t setL2DomainVlanXlate;
+    p4_pd_tessel_switch_setL2DomainTagged_action_spec_t setL2DomainTagged;
+    p4_pd_tessel_switch_l2ForwardParamsSet_action_spec_t l2ForwardParamsSet;
+    p4_pd_tessel_switch_l2LookupKnownUcast_action_spec_t l2LookupKnownUcast;
+    p4_pd_tessel_switch_l2LookupKnownMcast_action_spec_t l2LookupKnownMcast;
+    p4_pd_tessel_switch_l2LookupKnownUcastTunnel_action_spec_t l2LookupKnownUcastTunnel;
+    p4_pd_tessel_switch_setL2McResult_action_spec_t setL2McResult;
+    p4_pd_tessel_switch_setL2XId_action_spec_t setL2XId;
+    p4_pd_tessel_switch_setLagPort_action_spec_t setLagPort;
+    p4_pd_tessel_switch_setPruneParams_action_spec_t setPruneParams;
+    p4_pd_tessel_switch_setPruneParamsForL2Flood_action_spec_t setPruneParamsForL2Flood;
+    p4_pd_tessel_switch_setPruneParamsForL3Only_action_spec_t setPruneParamsForL3Only;
+    p4_pd_tessel_switch_setMirrorPacketEncapCpu_action_spec_t setMirrorPacketEncapCpu;
+    p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_action_spec_t setMirrorPacketEncapGreIpv4;
+    p4_pd_tessel_switch_newFlowRateLimitAction_action_spec_t newFlowRateLimitAction;
+    p4_pd_tessel_switch_setNextHopDetails_action_spec_t setNextHopDetails;
+    p4_pd_tessel_switch_setCosFromDefault_action_spec_t setCosFromDefault;
+    p4_pd_tessel_switch_setCosFromPacket_action_spec_t setCosFromPacket;
+    p4_pd_tessel_switch_setCosFromPacketWithInner_action_spec_t setCosFromPacketWithInner;
+    p4_pd_tessel_switch_setPdpClass_action_spec_t setPdpClass;
+    p4_pd_tessel_switch_setPdpClassCount_action_spec_t setPdpClassCount;
+    p4_pd_tessel_switch_pdpPolice_action_spec_t pdpPolice;
+    p4_pd_tessel_switch_setQosPortProperties_action_spec_t setQosPortProperties;
+    p4_pd_tessel_switch_copyCosRewriteDscp_action_spec_t copyCosRewriteDscp;
+    p4_pd_tessel_switch_rewriteCosCopyDscp_action_spec_t rewriteCosCopyDscp;
+    p4_pd_tessel_switch_rewriteCosRewriteDscp_action_spec_t rewriteCosRewriteDscp;
+    p4_pd_tessel_switch_setQosRewriteConfiguration_action_spec_t setQosRewriteConfiguration;
+    p4_pd_tessel_switch_setNextHopToCpu_action_spec_t setNextHopToCpu;
+    p4_pd_tessel_switch_setRouterNextHopDetails_action_spec_t setRouterNextHopDetails;
+    p4_pd_tessel_switch_setNyxIntfDetails_action_spec_t setNyxIntfDetails;
+    p4_pd_tessel_switch_setSwitchToCpu_action_spec_t setSwitchToCpu;
+    p4_pd_tessel_switch_setVrfPropertiesTaggedPkt_action_spec_t setVrfPropertiesTaggedPkt;
+    p4_pd_tessel_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t setVrfPropertiesTaggedXlatePkt;
+    p4_pd_tessel_switch_setTcDscp_action_spec_t setTcDscp;
+    p4_pd_tessel_switch_trapPacket_action_spec_t trapPacket;
+    p4_pd_tessel_switch_copyPacket_action_spec_t copyPacket;
+    p4_pd_tessel_switch_setVrfPropertiesUntaggedPkt_action_spec_t setVrfPropertiesUntaggedPkt;
+    p4_pd_tessel_switch_setVlanProperties_action_spec_t setVlanProperties;
+  } spec;
+} p4_pd_tessel_switch_action_specs_t;
+
+/* ==== Table ingressPortMapping (0x01000001), exact ==== */
+
+/* Key of 9 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_ingressPortMapping_match_spec {
+  uint16_t ig_intr_md_ingress_port; /* 9 bits */
+} p4_pd_tessel_switch_ingressPortMapping_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_ingressPortMapping_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_table_add_with_setPhase0(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressPortMapping_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setPhase0_action_spec_t *action_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_table_modify_with_setPhase0(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setPhase0_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_table_modify_with_setPhase0_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressPortMapping_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setPhase0_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressPortMapping_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressPortMapping_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_set_default_action_setPhase0(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setPhase0_action_spec_t *action_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_ingressPortMapping_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table l2DmacClassify (0x01000002), ternary ==== */
+
+/* Key of 57 bits in 8 bytes. */
+typedef struct p4_pd_tessel_switch_l2DmacClassify_match_spec {
+  uint16_t ig_intr_md_ingress_port; /* 9 bits, key bits 0x7f */
+  uint32_t outerEthHdr_dmacOui; /* 24 bits */
+  uint32_t outerEthHdr_dmacOui_mask; /* set bits take part */
+  uint32_t outerEthHdr_dmacStation; /* 24 bits */
+  uint32_t outerEthHdr_dmacStation_mask; /* set bits take part */
+} p4_pd_tessel_switch_l2DmacClassify_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_l2DmacClassify_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_add_with_setL2ControlFrame(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setL2ControlFrame_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_modify_with_setL2ControlFrame(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setL2ControlFrame_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_modify_with_setL2ControlFrame_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setL2ControlFrame_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_add_with_setIllegalDmac(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_modify_with_setIllegalDmac(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_modify_with_setIllegalDmac_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_add_with_setMcast(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_modify_with_setMcast(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_modify_with_setMcast_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_add_with_setBcast(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_modify_with_setBcast(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_modify_with_setBcast_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_add_with_setUcast(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_modify_with_setUcast(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_modify_with_setUcast_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_add_with_setIpMcast(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_modify_with_setIpMcast(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_modify_with_setIpMcast_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_add_with_classifyL2ControlFrame(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_classifyL2ControlFrame_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_modify_with_classifyL2ControlFrame(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_classifyL2ControlFrame_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_modify_with_classifyL2ControlFrame_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_classifyL2ControlFrame_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_add_with_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_modify_with_onMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_modify_with_onMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_set_default_action_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table l2SmacCheck (0x01000003), ternary ==== */
+
+/* Key of 48 bits in 6 bytes. */
+typedef struct p4_pd_tessel_switch_l2SmacCheck_match_spec {
+  uint32_t outerEthHdr_smacOui; /* 24 bits */
+  uint32_t outerEthHdr_smacOui_mask; /* set bits take part */
+  uint32_t outerEthHdr_smacStation; /* 24 bits */
+  uint32_t outerEthHdr_smacStation_mask; /* set bits take part */
+} p4_pd_tessel_switch_l2SmacCheck_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_l2SmacCheck_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_table_add_with_setIllegalSmac(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2SmacCheck_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_table_modify_with_setIllegalSmac(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_table_modify_with_setIllegalSmac_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2SmacCheck_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2SmacCheck_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2SmacCheck_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_set_default_action_setIllegalSmac(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_l2SmacCheck_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table kiteFlow1 (0x01000004), ternary ==== */
+
+/* Key of 28 bits in 6 bytes. */
+typedef struct p4_pd_tessel_switch_kiteFlow1_match_spec {
+  uint16_t phase0_ingVPort; /* 14 bits */
+  uint16_t phase0_ingVPort_mask; /* set bits take part */
+  uint8_t vlanHdr_1__valid; /* 1 bit */
+  uint8_t vlanHdr_1__valid_mask; /* set bits take part */
+  uint16_t vlanHdr_1__vlanId; /* 12 bits */
+  uint16_t vlanHdr_1__vlanId_mask; /* set bits take part */
+  uint8_t ingMd_l2Control; /* 1 bit */
+  uint8_t ingMd_l2Control_mask; /* set bits take part */
+} p4_pd_tessel_switch_kiteFlow1_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_kiteFlow1_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_add_with_kiteFlowSetDrop(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetDrop_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_modify_with_kiteFlowSetDrop(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowSetDrop_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_modify_with_kiteFlowSetDrop_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetDrop_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_add_with_kiteFlowSetEgrL2AintfAndRemoveInnerTag(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndRemoveInnerTag_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_modify_with_kiteFlowSetEgrL2AintfAndRemoveInnerTag(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndRemoveInnerTag_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_modify_with_kiteFlowSetEgrL2AintfAndRemoveInnerTag_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndRemoveInnerTag_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_add_with_kiteFlowRemoveInnerTag(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowRemoveInnerTag_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_modify_with_kiteFlowRemoveInnerTag(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowRemoveInnerTag_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_modify_with_kiteFlowRemoveInnerTag_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowRemoveInnerTag_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_add_with_kiteFlowDontFlow(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_modify_with_kiteFlowDontFlow(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_modify_with_kiteFlowDontFlow_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_set_default_action_kiteFlowDontFlow(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec, uint32_t *priority, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+
+/* ==== Table kiteFlow2 (0x01000005), ternary ==== */
+
+/* Key of 29 bits in 7 bytes. */
+typedef struct p4_pd_tessel_switch_kiteFlow2_match_spec {
+  uint8_t tesselCpuHdr_valid; /* 1 bit */
+  uint16_t phase0_ingVPort; /* 14 bits */
+  uint16_t phase0_ingVPort_mask; /* set bits take part */
+  uint16_t ingMd_ingL2Domain; /* 12 bits */
+  uint16_t ingMd_ingL2Domain_mask; /* set bits take part */
+  uint8_t kflowMd_isHit; /* 1 bit */
+  uint8_t kflowMd_isHit_mask; /* set bits take part */
+  uint8_t ingMd_l2Control; /* 1 bit */
+  uint8_t ingMd_l2Control_mask; /* set bits take part */
+} p4_pd_tessel_switch_kiteFlow2_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_kiteFlow2_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_add_with_kiteFlowSetEgrL2Aintf(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_modify_with_kiteFlowSetEgrL2Aintf(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_modify_with_kiteFlowSetEgrL2Aintf_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_add_with_kiteFlowSetEgrL2AintfAndL2Domain(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_modify_with_kiteFlowSetEgrL2AintfAndL2Domain(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_modify_with_kiteFlowSetEgrL2AintfAndL2Domain_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_add_with_kiteFlowSetDrop(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetDrop_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_modify_with_kiteFlowSetDrop(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowSetDrop_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_modify_with_kiteFlowSetDrop_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetDrop_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_add_with_kiteFlowPreviousHit(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowPreviousHit_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_modify_with_kiteFlowPreviousHit(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowPreviousHit_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_modify_with_kiteFlowPreviousHit_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowPreviousHit_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_add_with_kiteFlowDontFlow(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_modify_with_kiteFlowDontFlow(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_modify_with_kiteFlowDontFlow_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_set_default_action_kiteFlowDontFlow(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec, uint32_t *priority, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+
+/* ==== Table kiteFlow3 (0x01000007), ternary ==== */
+
+/* Key of 150 bits in 23 bytes. */
+typedef struct p4_pd_tessel_switch_kiteFlow3_match_spec {
+  uint8_t tesselCpuHdr_valid; /* 1 bit */
+  uint8_t kflowMd_isHit; /* 1 bit */
+  uint8_t kflowMd_isHit_mask; /* set bits take part */
+  uint16_t phase0_ingVPort; /* 14 bits */
+  uint16_t phase0_ingVPort_mask; /* set bits take part */
+  uint16_t ingMd_ingL2Domain; /* 12 bits */
+  uint16_t ingMd_ingL2Domain_mask; /* set bits take part */
+  uint16_t ingMd_etherType; /* 16 bits */
+  uint16_t ingMd_etherType_mask; /* set bits take part */
+  uint16_t ingMd_srcPort; /* 16 bits */
+  uint16_t ingMd_srcPort_mask; /* set bits take part */
+  uint16_t ingMd_dstPort; /* 16 bits */
+  uint16_t ingMd_dstPort_mask; /* set bits take part */
+  uint8_t ingMd_protocol; /* 8 bits */
+  uint8_t ingMd_protocol_mask; /* set bits take part */
+  uint32_t ingIpv4_sip; /* 32 bits */
+  uint32_t ingIpv4_sip_mask; /* set bits take part */
+  uint32_t ingIpv4_dip; /* 32 bits */
+  uint32_t ingIpv4_dip_mask; /* set bits take part */
+  uint8_t vlanHdr_0__valid; /* 1 bit */
+  uint8_t vlanHdr_0__valid_mask; /* set bits take part */
+  uint8_t ingMd_l2Control; /* 1 bit */
+  uint8_t ingMd_l2Control_mask; /* set bits take part */
+} p4_pd_tessel_switch_kiteFlow3_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_kiteFlow3_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_add_with_kiteFlowSetEgrL2Aintf(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_modify_with_kiteFlowSetEgrL2Aintf(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_modify_with_kiteFlowSetEgrL2Aintf_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_add_with_kiteFlowSetEgrL2AintfAndL2Domain(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_modify_with_kiteFlowSetEgrL2AintfAndL2Domain(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_modify_with_kiteFlowSetEgrL2AintfAndL2Domain_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_add_with_kiteFlowSetEgrL2AintfAndAddInnerTag(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndAddInnerTag_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_modify_with_kiteFlowSetEgrL2AintfAndAddInnerTag(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndAddInnerTag_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_modify_with_kiteFlowSetEgrL2AintfAndAddInnerTag_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndAddInnerTag_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_add_with_kiteFlowAddInnerTagPreviousHit(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowAddInnerTagPreviousHit_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_modify_with_kiteFlowAddInnerTagPreviousHit(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowAddInnerTagPreviousHit_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_modify_with_kiteFlowAddInnerTagPreviousHit_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowAddInnerTagPreviousHit_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_add_with_kiteFlowAddInnerTagDontFlow(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowAddInnerTagDontFlow_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_modify_with_kiteFlowAddInnerTagDontFlow(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowAddInnerTagDontFlow_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_modify_with_kiteFlowAddInnerTagDontFlow_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowAddInnerTagDontFlow_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_add_with_kiteFlowSetDrop(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetDrop_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_modify_with_kiteFlowSetDrop(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowSetDrop_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_modify_with_kiteFlowSetDrop_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowSetDrop_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_add_with_kiteFlowPreviousHit(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowPreviousHit_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_modify_with_kiteFlowPreviousHit(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowPreviousHit_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_modify_with_kiteFlowPreviousHit_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowPreviousHit_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_add_with_kiteFlowDontFlow(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_modify_with_kiteFlowDontFlow(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_modify_with_kiteFlowDontFlow_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_set_default_action_kiteFlowDontFlow(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, uint32_t *priority, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+
+/* ==== Table kiteFlow1Counter (0x01000008), exact ==== */
+
+/* Key of 12 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_kiteFlow1Counter_match_spec {
+  uint16_t kflowMd_counterIndex; /* 12 bits, key bits 0x7ff */
+} p4_pd_tessel_switch_kiteFlow1Counter_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_kiteFlow1Counter_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_table_add_with_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow1Counter_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_table_modify_with_onMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_table_modify_with_onMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow1Counter_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow1Counter_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow1Counter_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_set_default_action_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_kiteFlow1Counter_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table kiteFlow2Counter (0x01000009), exact ==== */
+
+/* Key of 12 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_kiteFlow2Counter_match_spec {
+  uint16_t kflowMd_counterIndex; /* 12 bits */
+} p4_pd_tessel_switch_kiteFlow2Counter_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_kiteFlow2Counter_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_table_add_with_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow2Counter_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_table_modify_with_onMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_table_modify_with_onMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow2Counter_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow2Counter_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow2Counter_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_set_default_action_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_kiteFlow2Counter_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table kiteFlow3Counter (0x0100000a), exact ==== */
+
+/* Key of 12 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_kiteFlow3Counter_match_spec {
+  uint16_t kflowMd_counterIndex; /* 12 bits, key bits 0x7ff */
+} p4_pd_tessel_switch_kiteFlow3Counter_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_kiteFlow3Counter_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_table_add_with_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3Counter_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_table_modify_with_onMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_table_modify_with_onMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3Counter_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3Counter_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_kiteFlow3Counter_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_set_default_action_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_kiteFlow3Counter_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table tunnelTermination (0x0100000b), ternary ==== */
+
+/* Key of 84 bits in 12 bytes. */
+typedef struct p4_pd_tessel_switch_tunnelTermination_match_spec {
+  uint8_t ingMd_tunnelType; /* 3 bits */
+  uint8_t ingMd_tunnelType_mask; /* set bits take part */
+  uint32_t outerEthHdr_dmacOui; /* 24 bits */
+  uint32_t outerEthHdr_dmacOui_mask; /* set bits take part */
+  uint32_t outerEthHdr_dmacStation; /* 24 bits */
+  uint32_t outerEthHdr_dmacStation_mask; /* set bits take part */
+  uint32_t outerIpv4Hdr_dip; /* 32 bits */
+  uint32_t outerIpv4Hdr_dip_mask; /* set bits take part */
+  uint8_t outerIpv6Hdr_valid; /* 1 bit */
+} p4_pd_tessel_switch_tunnelTermination_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_tunnelTermination_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_add_with_setTunnelTerminationTypeIpIp(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_modify_with_setTunnelTerminationTypeIpIp(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_modify_with_setTunnelTerminationTypeIpIp_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_add_with_setTunnelTerminationTypeIp6Ip6SwPath(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_modify_with_setTunnelTerminationTypeIp6Ip6SwPath(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_modify_with_setTunnelTerminationTypeIp6Ip6SwPath_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_add_with_setTunnelTerminationTypeNoneIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_modify_with_setTunnelTerminationTypeNoneIpv6(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_modify_with_setTunnelTerminationTypeNoneIpv6_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_add_with_setTunnelTerminationTypeNoneIpv4AndL2(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_modify_with_setTunnelTerminationTypeNoneIpv4AndL2(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_modify_with_setTunnelTerminationTypeNoneIpv4AndL2_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_set_default_action_setTunnelTerminationTypeNoneIpv4AndL2(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table l2DomainLookup (0x0100000c), ternary ==== */
+
+/* Key of 28 bits in 6 bytes. */
+typedef struct p4_pd_tessel_switch_l2DomainLookup_match_spec {
+  uint8_t phase0_switchPort; /* 1 bit */
+  uint16_t phase0_ingVPort; /* 14 bits */
+  uint8_t vlanHdr_0__valid; /* 1 bit */
+  uint16_t vlanHdr_0__vlanId; /* 12 bits */
+  uint16_t vlanHdr_0__vlanId_mask; /* set bits take part */
+} p4_pd_tessel_switch_l2DomainLookup_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_l2DomainLookup_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_table_add_with_setL2DomainUntagged(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DomainLookup_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setL2DomainUntagged_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_table_modify_with_setL2DomainUntagged(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setL2DomainUntagged_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_table_modify_with_setL2DomainUntagged_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DomainLookup_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setL2DomainUntagged_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_table_add_with_setL2DomainVlanXlate(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DomainLookup_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setL2DomainVlanXlate_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_table_modify_with_setL2DomainVlanXlate(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setL2DomainVlanXlate_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_table_modify_with_setL2DomainVlanXlate_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DomainLookup_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setL2DomainVlanXlate_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_table_add_with_setL2DomainTagged(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DomainLookup_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setL2DomainTagged_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_table_modify_with_setL2DomainTagged(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setL2DomainTagged_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_table_modify_with_setL2DomainTagged_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DomainLookup_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setL2DomainTagged_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DomainLookup_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2DomainLookup_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_set_default_action_setL2DomainUntagged(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setL2DomainUntagged_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_set_default_action_setL2DomainVlanXlate(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setL2DomainVlanXlate_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_set_default_action_setL2DomainTagged(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setL2DomainTagged_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_l2DomainLookup_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table untaggedPktToL3 (0x0100000d), exact ==== */
+
+/* Key of 12 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_untaggedPktToL3_match_spec {
+  uint16_t phase0_nativeAintf; /* 12 bits */
+} p4_pd_tessel_switch_untaggedPktToL3_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_untaggedPktToL3_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_table_add_with_setVrfPropertiesUntaggedPkt(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_untaggedPktToL3_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_table_modify_with_setVrfPropertiesUntaggedPkt(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_table_modify_with_setVrfPropertiesUntaggedPkt_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_untaggedPktToL3_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_untaggedPktToL3_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_untaggedPktToL3_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_set_default_action_setVrfPropertiesUntaggedPkt(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_untaggedPktToL3_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table taggedXlatePktToL3 (0x0100000e), exact ==== */
+
+/* Key of 26 bits in 4 bytes. */
+typedef struct p4_pd_tessel_switch_taggedXlatePktToL3_match_spec {
+  uint16_t phase0_ingVPort; /* 14 bits */
+  uint16_t vlanHdr_0__vlanId; /* 12 bits */
+} p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_taggedXlatePktToL3_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_table_add_with_setVrfPropertiesTaggedXlatePkt(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_table_modify_with_setVrfPropertiesTaggedXlatePkt(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_table_modify_with_setVrfPropertiesTaggedXlatePkt_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_table_add_with_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_table_modify_with_onMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_table_modify_with_onMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_set_default_action_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table taggedPktToL3 (0x0100000f), exact ==== */
+
+/* Key of 12 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_taggedPktToL3_match_spec {
+  uint16_t vlanHdr_0__vlanId; /* 12 bits */
+} p4_pd_tessel_switch_taggedPktToL3_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_taggedPktToL3_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_table_add_with_setVrfPropertiesTaggedPkt(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_taggedPktToL3_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_table_modify_with_setVrfPropertiesTaggedPkt(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_table_modify_with_setVrfPropertiesTaggedPkt_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_taggedPktToL3_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_taggedPktToL3_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_taggedPktToL3_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_set_default_action_setVrfPropertiesTaggedPkt(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_taggedPktToL3_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowHashTypeSelect (0x01000014), ternary ==== */
+
+/* Key of 64 bits in 8 bytes. */
+typedef struct p4_pd_tessel_switch_flowHashTypeSelect_match_spec {
+  uint32_t ingIpv4_sip; /* 32 bits */
+  uint32_t ingIpv4_sip_mask; /* set bits take part */
+  uint32_t ingIpv4_dip; /* 32 bits */
+  uint32_t ingIpv4_dip_mask; /* set bits take part */
+} p4_pd_tessel_switch_flowHashTypeSelect_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowHashTypeSelect_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_table_add_with_selectTypeA(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_flowHashTypeSelect_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_table_modify_with_selectTypeA(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_table_modify_with_selectTypeA_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_flowHashTypeSelect_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_table_add_with_selectTypeB(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_flowHashTypeSelect_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_table_modify_with_selectTypeB(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_table_modify_with_selectTypeB_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_flowHashTypeSelect_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_flowHashTypeSelect_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_flowHashTypeSelect_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_set_default_action_selectTypeA(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_set_default_action_selectTypeB(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_flowHashTypeSelect_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table newFlowRateLimit (0x0100001f), exact ==== */
+
+/* Key of 9 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_newFlowRateLimit_match_spec {
+  uint8_t ingMd_protocol; /* 8 bits */
+  uint8_t flowMgmt_present; /* 1 bit */
+} p4_pd_tessel_switch_newFlowRateLimit_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_newFlowRateLimit_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_table_add_with_newFlowRateLimitAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_newFlowRateLimit_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_newFlowRateLimitAction_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_table_modify_with_newFlowRateLimitAction(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_newFlowRateLimitAction_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_table_modify_with_newFlowRateLimitAction_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_newFlowRateLimit_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_newFlowRateLimitAction_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_newFlowRateLimit_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_newFlowRateLimit_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_set_default_action_newFlowRateLimitAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_newFlowRateLimitAction_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_newFlowRateLimit_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowDigestGeneration (0x01000021), ternary ==== */
+
+/* Key of 19 bits in 5 bytes. */
+typedef struct p4_pd_tessel_switch_flowDigestGeneration_match_spec {
+  uint8_t flowMgmt_newFlow; /* 1 bit */
+  uint8_t flowMgmt_newFlow_mask; /* set bits take part */
+  uint8_t flowMgmt_recircNeeded; /* 1 bit */
+  uint8_t flowMgmt_recircNeeded_mask; /* set bits take part */
+  uint8_t ingMd_protocol; /* 8 bits */
+  uint8_t ingMd_protocol_mask; /* set bits take part */
+  uint8_t flowMgmt_finRstDigestEnabled; /* 1 bit */
+  uint8_t flowMgmt_finRstDigestEnabled_mask; /* set bits take part */
+  uint8_t ingMd_tcpFlags; /* 8 bits */
+  uint8_t ingMd_tcpFlags_mask; /* set bits take part */
+} p4_pd_tessel_switch_flowDigestGeneration_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowDigestGeneration_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_table_add_with_flowDigestGenerate(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_flowDigestGeneration_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_table_modify_with_flowDigestGenerate(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_table_modify_with_flowDigestGenerate_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_flowDigestGeneration_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_table_delete(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_flowDigestGeneration_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_flowDigestGeneration_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_set_default_action_flowDigestGenerate(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_flowDigestGeneration_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table firewallSrcSegmentLookup (0x01000022), ternary ==== */
+
+/* Key of 26 bits in 4 bytes. */
+typedef struct p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec {
+  uint16_t phase0_ingVPort; /* 14 bits */
+  uint16_t phase0_ingVPort_mask; /* set bits take part */
+  uint16_t ingMd_ingL2Domain; /* 12 bits */
+  uint16_t ingMd_ingL2Domain_mask; /* set bits take part */
+} p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_firewallSrcSegmentLookup_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_table_add_with_setSrcSegment(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setSrcSegment_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_table_modify_with_setSrcSegment(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setSrcSegment_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_table_modify_with_setSrcSegment_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setSrcSegment_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_table_delete(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_set_default_action_setSrcSegment(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setSrcSegment_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_get_entry(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    bool read_from_hardware, p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_t *match_spec,
+    uint32_t *priority, char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table firewallIpSrcSegmentLookup (0x01000023), ternary ==== */
+
+/* Key of 40 bits in 5 bytes. */
+typedef struct p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec {
+  uint32_t ingIpv4_sip; /* 32 bits */
+  uint32_t ingIpv4_sip_mask; /* set bits take part */
+  uint8_t l3Info_vrfId; /* 8 bits */
+  uint8_t l3Info_vrfId_mask; /* set bits take part */
+} p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_get_mat_table_handle(
+    uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_firewallIpSrcSegmentLookup_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_table_add_with_setSrcSegment(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_t *match_spec,
+    uint32_t priority, const p4_pd_tessel_switch_setSrcSegment_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_table_modify_with_setSrcSegment(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setSrcSegment_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_table_modify_with_setSrcSegment_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_t *match_spec,
+    uint32_t priority, const p4_pd_tessel_switch_setSrcSegment_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_table_delete(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_t *match_spec,
+    uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_t *match_spec,
+    uint32_t priority, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_set_default_action_setSrcSegment(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setSrcSegment_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_get_entry(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    bool read_from_hardware,
+    p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table firewallDstSegmentLookup (0x01000024), ternary ==== */
+
+/* Key of 32 bits in 5 bytes. */
+typedef struct p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec {
+  uint16_t egrMd_egrL2Domain; /* 12 bits */
+  uint16_t egrMd_egrL2Domain_mask; /* set bits take part */
+  uint32_t egrMd_egrL2AintfUnresolved; /* 20 bits */
+  uint32_t egrMd_egrL2AintfUnresolved_mask; /* set bits take part */
+} p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_firewallDstSegmentLookup_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_table_add_with_setDstSegment(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setDstSegment_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_table_modify_with_setDstSegment(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setDstSegment_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_table_modify_with_setDstSegment_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setDstSegment_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_table_delete(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_set_default_action_setDstSegment(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setDstSegment_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_get_entry(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    bool read_from_hardware, p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_t *match_spec,
+    uint32_t *priority, char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table firewallIpDstSegmentLookup (0x01000025), ternary ==== */
+
+/* Key of 40 bits in 5 bytes. */
+typedef struct p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec {
+  uint32_t ingIpv4_dip; /* 32 bits */
+  uint32_t ingIpv4_dip_mask; /* set bits take part */
+  uint8_t l3Info_vrfId; /* 8 bits */
+  uint8_t l3Info_vrfId_mask; /* set bits take part */
+} p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_get_mat_table_handle(
+    uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_firewallIpDstSegmentLookup_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_table_add_with_setDstSegment(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_t *match_spec,
+    uint32_t priority, const p4_pd_tessel_switch_setDstSegment_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_table_modify_with_setDstSegment(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setDstSegment_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_table_modify_with_setDstSegment_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_t *match_spec,
+    uint32_t priority, const p4_pd_tessel_switch_setDstSegment_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_table_delete(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_t *match_spec,
+    uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_t *match_spec,
+    uint32_t priority, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_set_default_action_setDstSegment(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setDstSegment_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_get_entry(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    bool read_from_hardware,
+    p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table firewallPolicy (0x01000026), ternary ==== */
+
+/* Key of 138 bits in 19 bytes. */
+typedef struct p4_pd_tessel_switch_firewallPolicy_match_spec {
+  uint8_t fwMd_srcSegment; /* 8 bits */
+  uint8_t fwMd_srcSegment_mask; /* set bits take part */
+  uint8_t fwMd_dstSegment; /* 8 bits */
+  uint8_t fwMd_dstSegment_mask; /* set bits take part */
+  uint8_t flowMgmt_present; /* 1 bit */
+  uint8_t flowMgmt_present_mask; /* set bits take part */
+  uint32_t ingIpv4_sip; /* 32 bits */
+  uint32_t ingIpv4_sip_mask; /* set bits take part */
+  uint32_t ingIpv4_dip; /* 32 bits */
+  uint32_t ingIpv4_dip_mask; /* set bits take part */
+  uint8_t ingMd_protocol; /* 8 bits */
+  uint8_t ingMd_protocol_mask; /* set bits take part */
+  uint16_t ingMd_srcPort; /* 16 bits */
+  uint16_t ingMd_srcPort_mask; /* set bits take part */
+  uint16_t ingMd_dstPort; /* 16 bits */
+  uint16_t ingMd_dstPort_mask; /* set bits take part */
+  uint8_t ingMd_tcpFlags; /* 8 bits */
+  uint8_t ingMd_tcpFlags_mask; /* set bits take part */
+  uint8_t l3Info_vrfId; /* 8 bits */
+  uint8_t l3Info_vrfId_mask; /* set bits take part */
+  uint8_t egrMd_routed; /* 1 bit */
+  uint8_t egrMd_routed_mask; /* set bits take part */
+} p4_pd_tessel_switch_firewallPolicy_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_firewallPolicy_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_table_add_with_setFirewallPolicyPermit(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallPolicy_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setFirewallPolicyPermit_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_table_modify_with_setFirewallPolicyPermit(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setFirewallPolicyPermit_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_table_modify_with_setFirewallPolicyPermit_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallPolicy_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setFirewallPolicyPermit_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_table_add_with_setFirewallPolicyPermitAndOpenFlow(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallPolicy_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setFirewallPolicyPermitAndOpenFlow_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_table_modify_with_setFirewallPolicyPermitAndOpenFlow(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setFirewallPolicyPermitAndOpenFlow_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_table_modify_with_setFirewallPolicyPermitAndOpenFlow_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallPolicy_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setFirewallPolicyPermitAndOpenFlow_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_table_add_with_setFirewallPolicyDrop(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallPolicy_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setFirewallPolicyDrop_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_table_modify_with_setFirewallPolicyDrop(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setFirewallPolicyDrop_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_table_modify_with_setFirewallPolicyDrop_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallPolicy_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setFirewallPolicyDrop_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallPolicy_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_firewallPolicy_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_set_default_action_setFirewallPolicyPermit(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setFirewallPolicyPermit_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_set_default_action_setFirewallPolicyPermitAndOpenFlow(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setFirewallPolicyPermitAndOpenFlow_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_set_default_action_setFirewallPolicyDrop(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setFirewallPolicyDrop_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_firewallPolicy_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table ipv4ShortMaskLpm (0x0100002c), longest prefix, ages its entries ==== */
+
+/* Key of 40 bits in 5 bytes. */
+typedef struct p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec {
+  uint8_t l3Info_vrfId; /* 8 bits */
+  uint32_t ingIpv4_dip; /* 32 bits */
+  uint16_t ingIpv4_dip_prefix_length; /* 0 to 32 */
+} p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_ipv4ShortMaskLpm_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_add_with_setNextHop(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNextHop_action_spec_t *action_spec, uint32_t ttl,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_modify_with_setNextHop(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setNextHop_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_modify_with_setNextHop_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNextHop_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_add_with_setNextHop2(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNextHop2_action_spec_t *action_spec, uint32_t ttl,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_modify_with_setNextHop2(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setNextHop2_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_modify_with_setNextHop2_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNextHop2_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_add_with_setNextHop3(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNextHop3_action_spec_t *action_spec, uint32_t ttl,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_modify_with_setNextHop3(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setNextHop3_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_modify_with_setNextHop3_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNextHop3_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_add_with_setEcmp(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setEcmp_action_spec_t *action_spec, uint32_t ttl,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_modify_with_setEcmp(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setEcmp_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_modify_with_setEcmp_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setEcmp_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_add_with_ipv4ShortMaskLpmMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec, uint32_t ttl,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_modify_with_ipv4ShortMaskLpmMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_modify_with_ipv4ShortMaskLpmMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_set_default_action_ipv4ShortMaskLpmMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_idle_tmo_enable(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_idle_time_params_t params);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_idle_tmo_disable(
+    p4_pd_session_handle_t session, uint8_t device);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_idle_register_tmo_cb(
+    p4_pd_session_handle_t session, uint8_t device, pipe_mgr_idle_cb_t callback, void *client_data);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_idle_params_get(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_idle_time_params_t *params);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_set_ttl(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, uint32_t ttl);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_get_ttl(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, uint32_t *ttl);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_update_hit_state(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, uint32_t hit_state);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_get_hit_state(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, uint32_t *hit_state);
+
+/* ==== Table ipv6ShortMaskLpm (0x0100002d), longest prefix, ages its entries ==== */
+
+/* Key of 136 bits in 17 bytes. */
+typedef struct p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec {
+  uint8_t l3Info_vrfId; /* 8 bits */
+  uint8_t ingIpv6_dip[16]; /* 128 bits */
+  uint16_t ingIpv6_dip_prefix_length; /* 0 to 128 */
+} p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_ipv6ShortMaskLpm_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_add_with_setNextHop(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNextHop_action_spec_t *action_spec, uint32_t ttl,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_modify_with_setNextHop(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setNextHop_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_modify_with_setNextHop_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNextHop_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_add_with_setNextHop2(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNextHop2_action_spec_t *action_spec, uint32_t ttl,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_modify_with_setNextHop2(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setNextHop2_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_modify_with_setNextHop2_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNextHop2_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_add_with_setNextHop3(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNextHop3_action_spec_t *action_spec, uint32_t ttl,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_modify_with_setNextHop3(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setNextHop3_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_modify_with_setNextHop3_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNextHop3_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_add_with_setEcmp(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setEcmp_action_spec_t *action_spec, uint32_t ttl,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_modify_with_setEcmp(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setEcmp_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_modify_with_setEcmp_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setEcmp_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_add_with_setFibMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec, uint32_t ttl,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_modify_with_setFibMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_modify_with_setFibMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_set_default_action_setFibMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_idle_tmo_enable(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_idle_time_params_t params);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_idle_tmo_disable(
+    p4_pd_session_handle_t session, uint8_t device);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_idle_register_tmo_cb(
+    p4_pd_session_handle_t session, uint8_t device, pipe_mgr_idle_cb_t callback, void *client_data);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_idle_params_get(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_idle_time_params_t *params);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_set_ttl(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, uint32_t ttl);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_get_ttl(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, uint32_t *ttl);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_update_hit_state(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, uint32_t hit_state);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_get_hit_state(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, uint32_t *hit_state);
+
+/* ==== Table switchToCpu (0x0100002e), exact ==== */
+
+/* Key of 7 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_switchToCpu_match_spec {
+  uint8_t l3Info_ipRouting; /* 4 bits, key bits 0x1 */
+  uint8_t ingMd_v4V6Valid; /* 3 bits */
+} p4_pd_tessel_switch_switchToCpu_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_switchToCpu_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_table_add_with_setSwitchToCpu(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_switchToCpu_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setSwitchToCpu_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_table_modify_with_setSwitchToCpu(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setSwitchToCpu_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_table_modify_with_setSwitchToCpu_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_switchToCpu_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setSwitchToCpu_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_switchToCpu_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_switchToCpu_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_set_default_action_setSwitchToCpu(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setSwitchToCpu_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_switchToCpu_match_spec_t *match_spec, char *action_name, void *action_spec,
+    uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table ecmpGroup (0x0100002f), exact, bound to ecmpMemberActionProfile ==== */
+
+/* Key of 14 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_ecmpGroup_match_spec {
+  uint16_t l3_ecmpGroup; /* 14 bits, key bits 0xff */
+} p4_pd_tessel_switch_ecmpGroup_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_ecmpGroup_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpGroup_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpGroup_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    bool *has_member, bool *has_group, p4_pd_group_handle_t *group, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_add_entry(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, const p4_pd_tessel_switch_ecmpGroup_match_spec_t *match_spec,
+    p4_pd_member_handle_t member, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_modify_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_modify_entry_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpGroup_match_spec_t *match_spec, p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_set_default_entry(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_member_handle_t member, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_add_entry_with_selector(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpGroup_match_spec_t *match_spec, p4_pd_group_handle_t group,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_modify_entry_with_selector(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    p4_pd_group_handle_t group);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_modify_entry_with_selector_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpGroup_match_spec_t *match_spec, p4_pd_group_handle_t group);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_set_default_entry_with_selector(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_group_handle_t group,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_ecmpGroup_match_spec_t *match_spec, bool *has_member, bool *has_group,
+    p4_pd_group_handle_t *group, p4_pd_member_handle_t *member, bool *no_key);
+
+/* ==== Table reservedNextHop (0x01000031), exact ==== */
+
+/* Key of 14 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_reservedNextHop_match_spec {
+  uint32_t l3_nextHop; /* 14 bits, key bits 0xf */
+} p4_pd_tessel_switch_reservedNextHop_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_reservedNextHop_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_table_add_with_setNextHopToCpu(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_reservedNextHop_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNextHopToCpu_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_table_modify_with_setNextHopToCpu(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setNextHopToCpu_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_table_modify_with_setNextHopToCpu_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_reservedNextHop_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNextHopToCpu_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_reservedNextHop_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_reservedNextHop_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_set_default_action_setNextHopToCpu(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setNextHopToCpu_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_reservedNextHop_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table nextHop (0x01000032), exact ==== */
+
+/* Key of 14 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_nextHop_match_spec {
+  uint32_t l3_nextHop; /* 14 bits */
+} p4_pd_tessel_switch_nextHop_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_nextHop_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_nextHop_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_table_add_with_setNextHopDetails(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_nextHop_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNextHopDetails_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_table_modify_with_setNextHopDetails(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setNextHopDetails_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_table_modify_with_setNextHopDetails_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_nextHop_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNextHopDetails_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_nextHop_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_match_spec_to_entry_hdl(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, const p4_pd_tessel_switch_nextHop_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_set_default_action_setNextHopDetails(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setNextHopDetails_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_table_get_default_entry(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_nextHop_match_spec_t *match_spec, char *action_name, void *action_spec,
+    uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+
+/* ==== Table routerNextHop (0x01000033), exact ==== */
+
+/* Key of 14 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_routerNextHop_match_spec {
+  uint32_t l3_nextHop; /* 14 bits */
+} p4_pd_tessel_switch_routerNextHop_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_routerNextHop_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_table_add_with_setRouterNextHopDetails(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_routerNextHop_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setRouterNextHopDetails_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_table_modify_with_setRouterNextHopDetails(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setRouterNextHopDetails_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_table_modify_with_setRouterNextHopDetails_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_routerNextHop_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setRouterNextHopDetails_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_routerNextHop_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_routerNextHop_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_set_default_action_setRouterNextHopDetails(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setRouterNextHopDetails_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_routerNextHop_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table hashComputeInnerIpHdr (0x01000038), exact ==== */
+
+/* Key of 2 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec {
+  uint8_t innerIpv4Hdr_valid; /* 1 bit */
+  uint8_t innerIpv6Hdr_valid; /* 1 bit */
+} p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_hashComputeInnerIpHdr_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_table_add_with_hashComputeInnerIpv4HdrAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_table_modify_with_hashComputeInnerIpv4HdrAction(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_table_modify_with_hashComputeInnerIpv4HdrAction_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_table_add_with_hashComputeInnerIpv6HdrAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_table_modify_with_hashComputeInnerIpv6HdrAction(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_table_modify_with_hashComputeInnerIpv6HdrAction_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_table_delete(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table lagHashSelection (0x0100003d), ternary ==== */
+
+/* Key of 8 bits in 8 bytes. */
+typedef struct p4_pd_tessel_switch_lagHashSelection_match_spec {
+  uint8_t innerL4PortHdr_valid; /* 1 bit */
+  uint8_t innerL4PortHdr_valid_mask; /* set bits take part */
+  uint8_t innerIpv4Hdr_valid; /* 1 bit */
+  uint8_t innerIpv4Hdr_valid_mask; /* set bits take part */
+  uint8_t innerIpv6Hdr_valid; /* 1 bit */
+  uint8_t innerIpv6Hdr_valid_mask; /* set bits take part */
+  uint8_t innerEthHdr_valid; /* 1 bit */
+  uint8_t innerEthHdr_valid_mask; /* set bits take part */
+  uint8_t l4PortHdr_valid; /* 1 bit */
+  uint8_t l4PortHdr_valid_mask; /* set bits take part */
+  uint8_t outerIpv4Hdr_valid; /* 1 bit */
+  uint8_t outerIpv4Hdr_valid_mask; /* set bits take part */
+  uint8_t outerIpv6Hdr_valid; /* 1 bit */
+  uint8_t outerIpv6Hdr_valid_mask; /* set bits take part */
+  uint8_t outerEthHdr_valid; /* 1 bit */
+  uint8_t outerEthHdr_valid_mask; /* set bits take part */
+} p4_pd_tessel_switch_lagHashSelection_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_lagHashSelection_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_add_with_setHashValuesLagOuterEthHdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_modify_with_setHashValuesLagOuterEthHdr(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_modify_with_setHashValuesLagOuterEthHdr_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_add_with_setHashValuesLagOuterIpHdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_modify_with_setHashValuesLagOuterIpHdr(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_modify_with_setHashValuesLagOuterIpHdr_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_add_with_setHashValuesLagOuterL4Hdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_modify_with_setHashValuesLagOuterL4Hdr(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_modify_with_setHashValuesLagOuterL4Hdr_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_add_with_setHashValuesLagInnerEthHdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_modify_with_setHashValuesLagInnerEthHdr(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_modify_with_setHashValuesLagInnerEthHdr_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_add_with_setHashValuesLagInnerIpHdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_modify_with_setHashValuesLagInnerIpHdr(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_modify_with_setHashValuesLagInnerIpHdr_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_add_with_setHashValuesLagInnerL4Hdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_modify_with_setHashValuesLagInnerL4Hdr(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_modify_with_setHashValuesLagInnerL4Hdr_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_add_with_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_modify_with_onMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_modify_with_onMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_set_default_action_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table ecmpHashSelection (0x0100003e), ternary ==== */
+
+/* Key of 7 bits in 7 bytes. */
+typedef struct p4_pd_tessel_switch_ecmpHashSelection_match_spec {
+  uint8_t innerL4PortHdr_valid; /* 1 bit */
+  uint8_t innerL4PortHdr_valid_mask; /* set bits take part */
+  uint8_t innerIpv4Hdr_valid; /* 1 bit */
+  uint8_t innerIpv4Hdr_valid_mask; /* set bits take part */
+  uint8_t innerIpv6Hdr_valid; /* 1 bit */
+  uint8_t innerIpv6Hdr_valid_mask; /* set bits take part */
+  uint8_t innerEthHdr_valid; /* 1 bit */
+  uint8_t innerEthHdr_valid_mask; /* set bits take part */
+  uint8_t l4PortHdr_valid; /* 1 bit */
+  uint8_t l4PortHdr_valid_mask; /* set bits take part */
+  uint8_t outerIpv6Hdr_valid; /* 1 bit */
+  uint8_t outerIpv6Hdr_valid_mask; /* set bits take part */
+  uint8_t outerIpv4Hdr_valid; /* 1 bit */
+  uint8_t outerIpv4Hdr_valid_mask; /* set bits take part */
+} p4_pd_tessel_switch_ecmpHashSelection_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_ecmpHashSelection_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_add_with_setHashValuesEcmpOuterIpHdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_modify_with_setHashValuesEcmpOuterIpHdr(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_modify_with_setHashValuesEcmpOuterIpHdr_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_add_with_setHashValuesEcmpOuterL4Hdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_modify_with_setHashValuesEcmpOuterL4Hdr(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_modify_with_setHashValuesEcmpOuterL4Hdr_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_add_with_setHashValuesEcmpInnerIpHdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_modify_with_setHashValuesEcmpInnerIpHdr(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_modify_with_setHashValuesEcmpInnerIpHdr_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_add_with_setHashValuesEcmpInnerL4Hdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_modify_with_setHashValuesEcmpInnerL4Hdr(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_modify_with_setHashValuesEcmpInnerL4Hdr_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_add_with_setHashValuesEcmpInnerEthHdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_modify_with_setHashValuesEcmpInnerEthHdr(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_modify_with_setHashValuesEcmpInnerEthHdr_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_add_with_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_modify_with_onMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_modify_with_onMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_set_default_action_setHashValuesEcmpOuterIpHdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_set_default_action_setHashValuesEcmpOuterL4Hdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_set_default_action_setHashValuesEcmpInnerIpHdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_set_default_action_setHashValuesEcmpInnerL4Hdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_set_default_action_setHashValuesEcmpInnerEthHdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_set_default_action_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table ingressPortDropCheck (0x0100003f), ternary ==== */
+
+/* Key of 32 bits in 8 bytes. */
+typedef struct p4_pd_tessel_switch_ingressPortDropCheck_match_spec {
+  uint16_t ig_intr_md_from_parser_aux_ingress_parser_err; /* 16 bits, key bits 0x1000 */
+  uint16_t ig_intr_md_from_parser_aux_ingress_parser_err_mask; /* set bits take part */
+  uint16_t ig_intr_md_ingress_port; /* 9 bits, key bits 0x7f */
+  uint8_t ingMd_illegalDmac; /* 1 bit */
+  uint8_t ingMd_illegalDmac_mask; /* set bits take part */
+  uint8_t ingMd_illegalSmac; /* 1 bit */
+  uint8_t ingMd_illegalSmac_mask; /* set bits take part */
+  uint8_t ingMd_invalidTunnel; /* 1 bit */
+  uint8_t ingMd_invalidTunnel_mask; /* set bits take part */
+  uint8_t parserMd_outerHdrFlags; /* 4 bits, key bits 0x8 */
+  uint8_t parserMd_outerHdrFlags_mask; /* set bits take part */
+} p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_ingressPortDropCheck_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_table_add_with_setDrop(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_table_modify_with_setDrop(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_table_modify_with_setDrop_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_table_add_with_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_table_modify_with_onMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_table_modify_with_onMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_table_delete(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_set_default_action_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table l2StaticMacSrcAddrDrop (0x01000040), exact ==== */
+
+/* Key of 60 bits in 8 bytes. */
+typedef struct p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec {
+  uint32_t ingMd_smacOui; /* 24 bits */
+  uint32_t ingMd_smacStation; /* 24 bits */
+  uint16_t ingMd_ingL2Domain; /* 12 bits */
+} p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_table_add_with_setDropSmac(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_table_modify_with_setDropSmac(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_table_modify_with_setDropSmac_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_table_add_with_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_table_modify_with_onMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_table_modify_with_onMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_table_delete(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_set_default_action_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table l2LearningLookup (0x01000041), exact, ages its entries ==== */
+
+/* Key of 80 bits in 11 bytes. */
+typedef struct p4_pd_tessel_switch_l2LearningLookup_match_spec {
+  uint32_t ingMd_smacOui; /* 24 bits */
+  uint32_t ingMd_smacStation; /* 24 bits */
+  uint16_t ingMd_ingL2Domain; /* 12 bits */
+  uint32_t ingMd_ingL2Aintf; /* 20 bits */
+} p4_pd_tessel_switch_l2LearningLookup_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_l2LearningLookup_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_table_add_with_noOp(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2LearningLookup_match_spec_t *match_spec, uint32_t ttl,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_table_modify_with_noOp(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_table_modify_with_noOp_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2LearningLookup_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_table_add_with_setL2LearningLookupMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2LearningLookup_match_spec_t *match_spec, uint32_t ttl,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_table_modify_with_setL2LearningLookupMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_table_modify_with_setL2LearningLookupMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2LearningLookup_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2LearningLookup_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2LearningLookup_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_set_default_action_setL2LearningLookupMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_l2LearningLookup_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_idle_tmo_enable(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_idle_time_params_t params);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_idle_tmo_disable(
+    p4_pd_session_handle_t session, uint8_t device);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_idle_register_tmo_cb(
+    p4_pd_session_handle_t session, uint8_t device, pipe_mgr_idle_cb_t callback, void *client_data);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_idle_params_get(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_idle_time_params_t *params);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_set_ttl(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, uint32_t ttl);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_get_ttl(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, uint32_t *ttl);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_update_hit_state(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, uint32_t hit_state);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_get_hit_state(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, uint32_t *hit_state);
+
+/* ==== Table vlanProperties (0x01000042), exact ==== */
+
+/* Key of 12 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_vlanProperties_match_spec {
+  uint16_t ingMd_ingL2Domain; /* 12 bits */
+} p4_pd_tessel_switch_vlanProperties_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_vlanProperties_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_table_add_with_setVlanProperties(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_vlanProperties_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setVlanProperties_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_table_modify_with_setVlanProperties(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setVlanProperties_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_table_modify_with_setVlanProperties_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_vlanProperties_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setVlanProperties_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_vlanProperties_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_vlanProperties_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_set_default_action_setVlanProperties(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setVlanProperties_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_vlanProperties_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table vrrpMacCheck (0x01000043), exact ==== */
+
+/* Key of 60 bits in 8 bytes. */
+typedef struct p4_pd_tessel_switch_vrrpMacCheck_match_spec {
+  uint16_t ingMd_ingL3Aintf; /* 12 bits */
+  uint32_t ingMd_dmacOui; /* 24 bits */
+  uint32_t ingMd_dmacStation; /* 24 bits */
+} p4_pd_tessel_switch_vrrpMacCheck_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_vrrpMacCheck_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_table_add_with_setIngL3DmacValid(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_vrrpMacCheck_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_table_modify_with_setIngL3DmacValid(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_table_modify_with_setIngL3DmacValid_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_vrrpMacCheck_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_vrrpMacCheck_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_vrrpMacCheck_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_set_default_action_setIngL3DmacValid(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_vrrpMacCheck_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table l3DmacCheck (0x01000044), ternary ==== */
+
+/* Key of 65 bits in 10 bytes. */
+typedef struct p4_pd_tessel_switch_l3DmacCheck_match_spec {
+  uint16_t ingMd_ingL3Aintf; /* 12 bits */
+  uint16_t ingMd_ingL3Aintf_mask; /* set bits take part */
+  uint32_t ingMd_dmacOui; /* 24 bits */
+  uint32_t ingMd_dmacOui_mask; /* set bits take part */
+  uint32_t ingMd_dmacStation; /* 24 bits */
+  uint32_t ingMd_dmacStation_mask; /* set bits take part */
+  uint8_t ingMd_v4V6Valid; /* 3 bits */
+  uint8_t ingMd_v4V6Valid_mask; /* set bits take part */
+  uint8_t phase0_portType; /* 2 bits */
+  uint8_t phase0_portType_mask; /* set bits take part */
+} p4_pd_tessel_switch_l3DmacCheck_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_l3DmacCheck_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_table_add_with_ignoreIngL3DmacValid(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l3DmacCheck_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_table_modify_with_ignoreIngL3DmacValid(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_table_modify_with_ignoreIngL3DmacValid_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l3DmacCheck_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_table_add_with_setIngL3DmacValid(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l3DmacCheck_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_table_modify_with_setIngL3DmacValid(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_table_modify_with_setIngL3DmacValid_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l3DmacCheck_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_table_add_with_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l3DmacCheck_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_table_modify_with_onMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_table_modify_with_onMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l3DmacCheck_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l3DmacCheck_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l3DmacCheck_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_set_default_action_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_l3DmacCheck_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table learningDigestGeneration (0x01000045), ternary ==== */
+
+/* Key of 35 bits in 10 bytes. */
+typedef struct p4_pd_tessel_switch_learningDigestGeneration_match_spec {
+  uint8_t learningDigestMd_applicationId; /* 2 bits */
+  uint8_t ingMd_invalidTunnel; /* 1 bit */
+  uint8_t ingMd_invalidTunnel_mask; /* set bits take part */
+  uint16_t ig_intr_md_ingress_port; /* 9 bits */
+  uint16_t ig_intr_md_ingress_port_mask; /* set bits take part */
+  uint32_t ingMd_ingL2Aintf; /* 20 bits, key bits 0x80000 */
+  uint32_t ingMd_ingL2Aintf_mask; /* set bits take part */
+  uint8_t ingVlanStpCheck_stpBlocked; /* 1 bit */
+  uint8_t ingVlanStpCheck_stpBlocked_mask; /* set bits take part */
+  uint8_t ingVlanStpCheck_invalidVlan; /* 1 bit */
+  uint8_t ingVlanStpCheck_invalidVlan_mask; /* set bits take part */
+  uint8_t ingMd_l2Control; /* 1 bit */
+  uint8_t ingMd_l2Control_mask; /* set bits take part */
+} p4_pd_tessel_switch_learningDigestGeneration_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_learningDigestGeneration_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_add_with_generateMacLearningDigest(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_modify_with_generateMacLearningDigest(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_modify_with_generateMacLearningDigest_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_add_with_dot1xTrap(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_modify_with_dot1xTrap(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_modify_with_dot1xTrap_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_add_with_dot1xDrop(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_modify_with_dot1xDrop(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_modify_with_dot1xDrop_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_add_with_resetApplicationId(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_modify_with_resetApplicationId(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_modify_with_resetApplicationId_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_delete(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_set_default_action_resetApplicationId(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_get_entry(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    bool read_from_hardware, p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec,
+    uint32_t *priority, char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table lagGroup (0x01000046), ternary, bound to lagPortActionProfile ==== */
+
+/* Key of 20 bits in 3 bytes. */
+typedef struct p4_pd_tessel_switch_lagGroup_match_spec {
+  uint32_t egrMd_egrL2AintfUnresolved; /* 20 bits */
+  uint32_t egrMd_egrL2AintfUnresolved_mask; /* set bits take part */
+} p4_pd_tessel_switch_lagGroup_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_lagGroup_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagGroup_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_match_spec_to_entry_hdl(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, const p4_pd_tessel_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t priority, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_table_get_default_entry(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, bool read_from_hardware, bool *has_member, bool *has_group,
+    p4_pd_group_handle_t *group, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_add_entry(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, const p4_pd_tessel_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t priority, p4_pd_member_handle_t member, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_modify_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_modify_entry_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagGroup_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_set_default_entry(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_member_handle_t member, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_add_entry_with_selector(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, const p4_pd_tessel_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t priority, p4_pd_group_handle_t group, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_modify_entry_with_selector(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    p4_pd_group_handle_t group);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_modify_entry_with_selector_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_lagGroup_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_group_handle_t group);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_set_default_entry_with_selector(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_group_handle_t group,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_lagGroup_match_spec_t *match_spec, uint32_t *priority, bool *has_member,
+    bool *has_group, p4_pd_group_handle_t *group, p4_pd_member_handle_t *member, bool *no_key);
+
+/* ==== Table l2ForwardParams (0x01000047), exact ==== */
+
+/* Key of 1 bit in 1 bytes. */
+typedef struct p4_pd_tessel_switch_l2ForwardParams_match_spec {
+  uint8_t outerEthHdr_valid; /* 1 bit */
+} p4_pd_tessel_switch_l2ForwardParams_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_l2ForwardParams_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_table_add_with_l2ForwardParamsSet(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2ForwardParams_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_l2ForwardParamsSet_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_table_modify_with_l2ForwardParamsSet(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_l2ForwardParamsSet_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_table_modify_with_l2ForwardParamsSet_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2ForwardParams_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_l2ForwardParamsSet_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2ForwardParams_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2ForwardParams_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_set_default_action_l2ForwardParamsSet(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2ForwardParamsSet_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_l2ForwardParams_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table l2LookupMiss (0x01000048), ternary ==== */
+
+/* Key of 57 bits in 8 bytes. */
+typedef struct p4_pd_tessel_switch_l2LookupMiss_match_spec {
+  uint16_t ig_intr_md_ingress_port; /* 9 bits, key bits 0x7f */
+  uint16_t ig_intr_md_ingress_port_mask; /* set bits take part */
+  uint32_t egrMd_dmacOui; /* 24 bits */
+  uint32_t egrMd_dmacOui_mask; /* set bits take part */
+  uint32_t egrMd_dmacStation; /* 24 bits */
+  uint32_t egrMd_dmacStation_mask; /* set bits take part */
+} p4_pd_tessel_switch_l2LookupMiss_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_l2LookupMiss_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_table_add_with_l2LookupBcastHit(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2LookupMiss_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_bytes_meter_spec_t *meter_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_table_modify_with_l2LookupBcastHit(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_table_modify_with_l2LookupBcastHit_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2LookupMiss_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_table_add_with_l2LookupUnknownMcastAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2LookupMiss_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_bytes_meter_spec_t *meter_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_table_modify_with_l2LookupUnknownMcastAction(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_table_modify_with_l2LookupUnknownMcastAction_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2LookupMiss_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_table_add_with_l2LookupUnknownUcastAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2LookupMiss_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_bytes_meter_spec_t *meter_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_table_modify_with_l2LookupUnknownUcastAction(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_table_modify_with_l2LookupUnknownUcastAction_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2LookupMiss_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2LookupMiss_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2LookupMiss_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_set_default_action_l2LookupBcastHit(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_bytes_meter_spec_t *meter_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_set_default_action_l2LookupUnknownMcastAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_bytes_meter_spec_t *meter_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_set_default_action_l2LookupUnknownUcastAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_bytes_meter_spec_t *meter_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_l2LookupMiss_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table l2Lookup (0x01000049), exact ==== */
+
+/* Key of 60 bits in 8 bytes. */
+typedef struct p4_pd_tessel_switch_l2Lookup_match_spec {
+  uint32_t egrMd_dmacOui; /* 24 bits */
+  uint32_t egrMd_dmacStation; /* 24 bits */
+  uint16_t egrMd_egrL2Domain; /* 12 bits */
+} p4_pd_tessel_switch_l2Lookup_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_l2Lookup_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_add_with_l2LookupKnownUcast(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_l2LookupKnownUcast_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_modify_with_l2LookupKnownUcast(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_l2LookupKnownUcast_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_modify_with_l2LookupKnownUcast_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_l2LookupKnownUcast_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_add_with_l2LookupKnownMcast(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_l2LookupKnownMcast_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_modify_with_l2LookupKnownMcast(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_l2LookupKnownMcast_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_modify_with_l2LookupKnownMcast_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_l2LookupKnownMcast_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_add_with_l2LookupKnownUcastTunnel(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_l2LookupKnownUcastTunnel_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_modify_with_l2LookupKnownUcastTunnel(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_l2LookupKnownUcastTunnel_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_modify_with_l2LookupKnownUcastTunnel_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_l2LookupKnownUcastTunnel_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_add_with_l2LookupDrop(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_modify_with_l2LookupDrop(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_modify_with_l2LookupDrop_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_add_with_onMiss(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, const p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_modify_with_onMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_modify_with_onMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_match_spec_to_entry_hdl(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, const p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_set_default_action_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_table_get_default_entry(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec, char *action_name, void *action_spec,
+    uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+
+/* ==== Table mlagUcastPrune (0x0100004b), exact ==== */
+
+/* Key of 20 bits in 3 bytes. */
+typedef struct p4_pd_tessel_switch_mlagUcastPrune_match_spec {
+  uint32_t egrMd_egrL2AintfUnresolved; /* 20 bits, key bits 0x7ff */
+} p4_pd_tessel_switch_mlagUcastPrune_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_mlagUcastPrune_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_table_add_with_noOp(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mlagUcastPrune_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_table_modify_with_noOp(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_table_modify_with_noOp_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mlagUcastPrune_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_table_add_with_setMlagPrune(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mlagUcastPrune_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_table_modify_with_setMlagPrune(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_table_modify_with_setMlagPrune_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mlagUcastPrune_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mlagUcastPrune_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mlagUcastPrune_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_set_default_action_noOp(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_set_default_action_setMlagPrune(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_mlagUcastPrune_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table egressVlanXlate (0x0100004c), exact ==== */
+
+/* Key of 21 bits in 4 bytes. */
+typedef struct p4_pd_tessel_switch_egressVlanXlate_match_spec {
+  uint16_t eg_intr_md_egress_port; /* 9 bits, key bits 0x7f */
+  uint16_t egrMd_egrL2Domain; /* 12 bits */
+} p4_pd_tessel_switch_egressVlanXlate_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_egressVlanXlate_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_table_add_with_setEgrVlan(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressVlanXlate_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setEgrVlan_action_spec_t *action_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_table_modify_with_setEgrVlan(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setEgrVlan_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_table_modify_with_setEgrVlan_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressVlanXlate_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setEgrVlan_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_table_add_with_setEgrVlanSubIntf(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressVlanXlate_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setEgrVlanSubIntf_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_table_modify_with_setEgrVlanSubIntf(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setEgrVlanSubIntf_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_table_modify_with_setEgrVlanSubIntf_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressVlanXlate_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setEgrVlanSubIntf_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_table_add_with_noXlate(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressVlanXlate_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_table_modify_with_noXlate(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_table_modify_with_noXlate_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressVlanXlate_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressVlanXlate_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressVlanXlate_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_set_default_action_setEgrVlan(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setEgrVlan_action_spec_t *action_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_set_default_action_setEgrVlanSubIntf(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setEgrVlanSubIntf_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_set_default_action_noXlate(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_egressVlanXlate_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table globalFields (0x0100004d), ternary ==== */
+
+/* Key of 39 bits in 7 bytes. */
+typedef struct p4_pd_tessel_switch_globalFields_match_spec {
+  uint8_t egrMd_decapType; /* 3 bits */
+  uint8_t egrMd_decapType_mask; /* set bits take part */
+  uint8_t egrMd_encapType; /* 3 bits */
+  uint8_t egrMd_ingressTagged; /* 1 bit */
+  uint8_t egrMd_ingressTagged_mask; /* set bits take part */
+  uint32_t egrMd_tunnelInfo; /* 32 bits, key bits 0x50000 */
+  uint32_t egrMd_tunnelInfo_mask; /* set bits take part */
+} p4_pd_tessel_switch_globalFields_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_globalFields_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_globalFields_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_add_with_setGlobalFieldsForVxlanTunnelCommon(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_modify_with_setGlobalFieldsForVxlanTunnelCommon(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_modify_with_setGlobalFieldsForVxlanTunnelCommon_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_add_with_setGlobalFieldsForVxlanTunnelIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_modify_with_setGlobalFieldsForVxlanTunnelIpv4(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_modify_with_setGlobalFieldsForVxlanTunnelIpv4_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_add_with_setGlobalFieldsForVxlanTunnelIpv4UseDipB(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_modify_with_setGlobalFieldsForVxlanTunnelIpv4UseDipB(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_modify_with_setGlobalFieldsForVxlanTunnelIpv4UseDipB_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_add_with_setGlobalFieldsForMplsOverUdpTunnel(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setGlobalFieldsForMplsOverUdpTunnel_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_modify_with_setGlobalFieldsForMplsOverUdpTunnel(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setGlobalFieldsForMplsOverUdpTunnel_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_modify_with_setGlobalFieldsForMplsOverUdpTunnel_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setGlobalFieldsForMplsOverUdpTunnel_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_add_with_setGlobalFieldsForMplsTunnel(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setGlobalFieldsForMplsTunnel_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_modify_with_setGlobalFieldsForMplsTunnel(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setGlobalFieldsForMplsTunnel_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_modify_with_setGlobalFieldsForMplsTunnel_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setGlobalFieldsForMplsTunnel_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_set_default_action_setGlobalFieldsForVxlanTunnelCommon(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_set_default_action_setGlobalFieldsForVxlanTunnelIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_set_default_action_setGlobalFieldsForVxlanTunnelIpv4UseDipB(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_set_default_action_setGlobalFieldsForMplsOverUdpTunnel(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setGlobalFieldsForMplsOverUdpTunnel_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_set_default_action_setGlobalFieldsForMplsTunnel(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setGlobalFieldsForMplsTunnel_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table cpuEncapFields (0x0100004e), exact ==== */
+
+/* Key of 14 bits in 5 bytes. */
+typedef struct p4_pd_tessel_switch_cpuEncapFields_match_spec {
+  uint16_t eg_intr_md_egress_port; /* 9 bits */
+  uint8_t phase0_switchPort; /* 1 bit */
+  uint8_t egrMd_ingressTagged; /* 1 bit */
+  uint8_t egrMd_decapType; /* 3 bits */
+} p4_pd_tessel_switch_cpuEncapFields_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_cpuEncapFields_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_table_add_with_encapPktToCpu(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncapFields_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_encapPktToCpu_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_table_modify_with_encapPktToCpu(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_encapPktToCpu_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_table_modify_with_encapPktToCpu_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncapFields_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_encapPktToCpu_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_table_add_with_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncapFields_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_table_modify_with_onMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_table_modify_with_onMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncapFields_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncapFields_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncapFields_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_set_default_action_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_cpuEncapFields_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table srcIntfToNyxIntf (0x0100004f), exact ==== */
+
+/* Key of 9 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec {
+  uint16_t egrMd_ingressPort; /* 9 bits */
+} p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_srcIntfToNyxIntf_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_table_add_with_setNyxIntfDetails(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNyxIntfDetails_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_table_modify_with_setNyxIntfDetails(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setNyxIntfDetails_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_table_modify_with_setNyxIntfDetails_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setNyxIntfDetails_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_set_default_action_setNyxIntfDetails(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setNyxIntfDetails_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table vlanEncap (0x01000051), exact ==== */
+
+/* Key of 22 bits in 5 bytes. */
+typedef struct p4_pd_tessel_switch_vlanEncap_match_spec {
+  uint16_t egrMd_vlanId; /* 12 bits */
+  uint16_t eg_intr_md_egress_port; /* 9 bits, key bits 0x7f */
+  uint8_t egrMd_subIntf; /* 1 bit */
+} p4_pd_tessel_switch_vlanEncap_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_vlanEncap_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_table_add_with_noVlanEncap(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_vlanEncap_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_table_modify_with_noVlanEncap(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_table_modify_with_noVlanEncap_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_vlanEncap_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_table_add_with_needVlanEncap(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_vlanEncap_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_table_modify_with_needVlanEncap(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_table_modify_with_needVlanEncap_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_vlanEncap_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_vlanEncap_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_vlanEncap_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_set_default_action_noVlanEncap(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_set_default_action_needVlanEncap(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_vlanEncap_match_spec_t *match_spec, char *action_name, void *action_spec,
+    uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+
+/* ==== Table encapDecap (0x01000052), ternary ==== */
+
+/* Key of 43 bits in 11 bytes. */
+typedef struct p4_pd_tessel_switch_encapDecap_match_spec {
+  uint8_t egrMd_decapType; /* 3 bits */
+  uint8_t egrMd_encapType; /* 3 bits */
+  uint8_t egrMd_routed; /* 1 bit */
+  uint8_t outerIpv4Hdr_valid; /* 1 bit */
+  uint8_t outerIpv4Hdr_valid_mask; /* set bits take part */
+  uint8_t outerIpv6Hdr_valid; /* 1 bit */
+  uint8_t outerIpv6Hdr_valid_mask; /* set bits take part */
+  uint8_t innerIpv4Hdr_valid; /* 1 bit */
+  uint8_t innerIpv4Hdr_valid_mask; /* set bits take part */
+  uint8_t innerIpv6Hdr_valid; /* 1 bit */
+  uint8_t innerIpv6Hdr_valid_mask; /* set bits take part */
+  uint32_t egrMd_tunnelInfo; /* 32 bits, key bits 0xc0000 */
+  uint32_t egrMd_tunnelInfo_mask; /* set bits take part */
+} p4_pd_tessel_switch_encapDecap_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_encapDecap_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_add_with_noDecapNoEncapRouteIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_noDecapNoEncapRouteIpv4(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_noDecapNoEncapRouteIpv4_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_add_with_noDecapNoEncapRouteIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_noDecapNoEncapRouteIpv6(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_noDecapNoEncapRouteIpv6_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_add_with_noDecapNoEncapBridgeIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_noDecapNoEncapBridgeIpv4(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_noDecapNoEncapBridgeIpv4_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_add_with_noDecapNoEncapBridgeIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_noDecapNoEncapBridgeIpv6(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_noDecapNoEncapBridgeIpv6_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_add_with_encapFabricPktToCpu(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_encapFabricPktToCpu(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_encapFabricPktToCpu_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_add_with_encapPPIPktToCpu(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_encapPPIPktToCpu(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_encapPPIPktToCpu_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_add_with_decapPPIPktFromCpu(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_decapPPIPktFromCpu(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_decapPPIPktFromCpu_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_add_with_encapGreIpv4ForClone(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_encapGreIpv4ForClone_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_encapGreIpv4ForClone(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_encapGreIpv4ForClone_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_encapGreIpv4ForClone_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_encapGreIpv4ForClone_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_add_with_noDecapNoEncapClone(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_noDecapNoEncapClone(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_noDecapNoEncapClone_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_add_with_decapIpIpEncapPPIPktToCpuIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_decapIpIpEncapPPIPktToCpuIpv4(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_decapIpIpEncapPPIPktToCpuIpv4_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_add_with_decapIpIpEncapPPIPktToCpuIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_decapIpIpEncapPPIPktToCpuIpv6(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_decapIpIpEncapPPIPktToCpuIpv6_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_add_with_decapIpIpRouteIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_decapIpIpRouteIpv4_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_decapIpIpRouteIpv4(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_decapIpIpRouteIpv4_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_decapIpIpRouteIpv4_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_decapIpIpRouteIpv4_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_add_with_decapIpIpRouteIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_decapIpIpRouteIpv6_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_decapIpIpRouteIpv6(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_decapIpIpRouteIpv6_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_modify_with_decapIpIpRouteIpv6_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_decapIpIpRouteIpv6_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_set_default_action_noDecapNoEncapRouteIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_set_default_action_noDecapNoEncapRouteIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_set_default_action_noDecapNoEncapBridgeIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_set_default_action_noDecapNoEncapBridgeIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_set_default_action_encapFabricPktToCpu(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_set_default_action_encapPPIPktToCpu(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_set_default_action_decapPPIPktFromCpu(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_set_default_action_encapGreIpv4ForClone(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_encapGreIpv4ForClone_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_set_default_action_noDecapNoEncapClone(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_set_default_action_decapIpIpEncapPPIPktToCpuIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_set_default_action_decapIpIpEncapPPIPktToCpuIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_set_default_action_decapIpIpRouteIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapIpIpRouteIpv4_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_set_default_action_decapIpIpRouteIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapIpIpRouteIpv6_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, uint32_t *priority, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table egressSamePortBridgingTest (0x01000053), exact ==== */
+
+/* Key of 11 bits in 3 bytes. */
+typedef struct p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec {
+  uint8_t egrMd_ingressPortType; /* 2 bits */
+  uint16_t eg_intr_md_egress_port; /* 9 bits, key bits 0x7f */
+} p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_get_mat_table_handle(
+    uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_egressSamePortBridgingTest_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_table_add_with_egressSamePortBridgingTestDrop(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_table_modify_with_egressSamePortBridgingTestDrop(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_table_modify_with_egressSamePortBridgingTestDrop_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_table_delete(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_set_default_action_egressSamePortBridgingTestDrop(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_get_entry(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    bool read_from_hardware,
+    p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table qosPortProperties (0x01000054), exact ==== */
+
+/* Key of 9 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_qosPortProperties_match_spec {
+  uint16_t ig_intr_md_ingress_port; /* 9 bits */
+} p4_pd_tessel_switch_qosPortProperties_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_qosPortProperties_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_table_add_with_setQosPortProperties(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_qosPortProperties_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setQosPortProperties_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_table_modify_with_setQosPortProperties(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setQosPortProperties_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_table_modify_with_setQosPortProperties_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_qosPortProperties_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setQosPortProperties_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_qosPortProperties_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_qosPortProperties_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_set_default_action_setQosPortProperties(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setQosPortProperties_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_qosPortProperties_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table normalizeCos (0x01000055), exact ==== */
+
+/* Key of 8 bits in 4 bytes. */
+typedef struct p4_pd_tessel_switch_normalizeCos_match_spec {
+  uint8_t ingMd_vlanHdrValid; /* 1 bit */
+  uint8_t qosMd_defaultCos; /* 3 bits */
+  uint8_t vlanHdr_0__priority; /* 3 bits */
+  uint8_t vlanHdr_1__valid; /* 1 bit */
+} p4_pd_tessel_switch_normalizeCos_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_normalizeCos_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_table_add_with_setCosFromDefault(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeCos_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setCosFromDefault_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_table_modify_with_setCosFromDefault(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setCosFromDefault_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_table_modify_with_setCosFromDefault_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeCos_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setCosFromDefault_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_table_add_with_setCosFromPacket(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeCos_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setCosFromPacket_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_table_modify_with_setCosFromPacket(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setCosFromPacket_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_table_modify_with_setCosFromPacket_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeCos_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setCosFromPacket_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_table_add_with_setCosFromPacketWithInner(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeCos_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setCosFromPacketWithInner_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_table_modify_with_setCosFromPacketWithInner(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setCosFromPacketWithInner_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_table_modify_with_setCosFromPacketWithInner_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeCos_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setCosFromPacketWithInner_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeCos_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeCos_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_set_default_action_setCosFromDefault(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setCosFromDefault_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_set_default_action_setCosFromPacket(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setCosFromPacket_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_set_default_action_setCosFromPacketWithInner(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setCosFromPacketWithInner_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_normalizeCos_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table normalizeDscp (0x01000056), exact ==== */
+
+/* Key of 6 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_normalizeDscp_match_spec {
+  uint8_t egrMd_decapType; /* 3 bits */
+  uint8_t ingMd_v4V6Valid; /* 3 bits */
+} p4_pd_tessel_switch_normalizeDscp_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_normalizeDscp_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_add_with_setDscpForNonIpPkt(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_modify_with_setDscpForNonIpPkt(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_modify_with_setDscpForNonIpPkt_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_add_with_setDscpForTTNonIpPkt(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_modify_with_setDscpForTTNonIpPkt(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_modify_with_setDscpForTTNonIpPkt_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_add_with_setDscpForIpv4Pkt(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_modify_with_setDscpForIpv4Pkt(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_modify_with_setDscpForIpv4Pkt_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_add_with_setDscpForIpv4OptionsPkt(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_modify_with_setDscpForIpv4OptionsPkt(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_modify_with_setDscpForIpv4OptionsPkt_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_add_with_setDscpForIpv6Pkt(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_modify_with_setDscpForIpv6Pkt(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_modify_with_setDscpForIpv6Pkt_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_set_default_action_setDscpForNonIpPkt(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_set_default_action_setDscpForTTNonIpPkt(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_set_default_action_setDscpForIpv4Pkt(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_set_default_action_setDscpForIpv4OptionsPkt(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_set_default_action_setDscpForIpv6Pkt(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table ingressTrafficClass (0x01000057), ternary ==== */
+
+/* Key of 23 bits in 8 bytes. */
+typedef struct p4_pd_tessel_switch_ingressTrafficClass_match_spec {
+  uint8_t qosMd_trustMode; /* 2 bits */
+  uint8_t qosMd_trustMode_mask; /* set bits take part */
+  uint8_t qosMd_defaultCos; /* 3 bits */
+  uint8_t qosMd_defaultCos_mask; /* set bits take part */
+  uint8_t qosMd_cos; /* 3 bits */
+  uint8_t qosMd_cos_mask; /* set bits take part */
+  uint8_t qosMd_dscp; /* 6 bits */
+  uint8_t qosMd_dscp_mask; /* set bits take part */
+  uint8_t qosMd_highPriority; /* 1 bit */
+  uint8_t qosMd_highPriority_mask; /* set bits take part */
+  uint8_t egrMd_decapType; /* 3 bits */
+  uint8_t egrMd_decapType_mask; /* set bits take part */
+  uint8_t tesselCpuHdr_trustMode; /* 2 bits */
+  uint8_t tesselCpuHdr_trustMode_mask; /* set bits take part */
+  uint8_t tesselCpuHdr_tc; /* 3 bits */
+  uint8_t tesselCpuHdr_tc_mask; /* set bits take part */
+} p4_pd_tessel_switch_ingressTrafficClass_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_ingressTrafficClass_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_table_add_with_setTrafficClassAndEgressQid(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressTrafficClass_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_table_modify_with_setTrafficClassAndEgressQid(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_table_modify_with_setTrafficClassAndEgressQid_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressTrafficClass_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressTrafficClass_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressTrafficClass_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_set_default_action_setTrafficClassAndEgressQid(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_ingressTrafficClass_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table qosRewrite (0x01000059), exact ==== */
+
+/* Key of 10 bits in 5 bytes. */
+typedef struct p4_pd_tessel_switch_qosRewrite_match_spec {
+  uint8_t qosMd_trustMode; /* 2 bits */
+  uint8_t qosMd_cosRewrite; /* 1 bit */
+  uint8_t qosMd_dscpRewrite; /* 1 bit */
+  uint8_t ig_intr_md_for_tm_ingress_cos; /* 3 bits */
+  uint8_t egrMd_decapType; /* 3 bits */
+} p4_pd_tessel_switch_qosRewrite_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_qosRewrite_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_table_add_with_copyCosRewriteDscp(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_qosRewrite_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_copyCosRewriteDscp_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_table_modify_with_copyCosRewriteDscp(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_copyCosRewriteDscp_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_table_modify_with_copyCosRewriteDscp_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_qosRewrite_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_copyCosRewriteDscp_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_table_add_with_rewriteCosCopyDscp(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_qosRewrite_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_rewriteCosCopyDscp_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_table_modify_with_rewriteCosCopyDscp(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_rewriteCosCopyDscp_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_table_modify_with_rewriteCosCopyDscp_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_qosRewrite_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_rewriteCosCopyDscp_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_table_add_with_rewriteCosRewriteDscp(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_qosRewrite_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_rewriteCosRewriteDscp_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_table_modify_with_rewriteCosRewriteDscp(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_rewriteCosRewriteDscp_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_table_modify_with_rewriteCosRewriteDscp_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_qosRewrite_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_rewriteCosRewriteDscp_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_qosRewrite_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_qosRewrite_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_set_default_action_copyCosRewriteDscp(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_copyCosRewriteDscp_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_set_default_action_rewriteCosCopyDscp(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_rewriteCosCopyDscp_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_set_default_action_rewriteCosRewriteDscp(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_rewriteCosRewriteDscp_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_qosRewrite_match_spec_t *match_spec, char *action_name, void *action_spec,
+    uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table tcDscpMap (0x0100005a), exact ==== */
+
+/* Key of 3 bits in 1 bytes. */
+typedef struct p4_pd_tessel_switch_tcDscpMap_match_spec {
+  uint8_t ig_intr_md_for_tm_ingress_cos; /* 3 bits */
+} p4_pd_tessel_switch_tcDscpMap_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_tcDscpMap_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_table_add_with_setTcDscp(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_tcDscpMap_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setTcDscp_action_spec_t *action_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_table_modify_with_setTcDscp(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setTcDscp_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_table_modify_with_setTcDscp_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_tcDscpMap_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setTcDscp_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_tcDscpMap_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_tcDscpMap_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_set_default_action_setTcDscp(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setTcDscp_action_spec_t *action_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_tcDscpMap_match_spec_t *match_spec, char *action_name, void *action_spec,
+    uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+
+/* ==== Table packetDscpRewrite (0x0100005b), ternary ==== */
+
+/* Key of 11 bits in 7 bytes. */
+typedef struct p4_pd_tessel_switch_packetDscpRewrite_match_spec {
+  uint8_t egrMd_encapType; /* 3 bits */
+  uint8_t egrMd_encapType_mask; /* set bits take part */
+  uint8_t egrMd_decapType; /* 3 bits */
+  uint8_t egrMd_decapType_mask; /* set bits take part */
+  uint8_t egrMd_routed; /* 1 bit */
+  uint8_t egrMd_routed_mask; /* set bits take part */
+  uint8_t outerIpv4Hdr_valid; /* 1 bit */
+  uint8_t outerIpv4Hdr_valid_mask; /* set bits take part */
+  uint8_t outerIpv6Hdr_valid; /* 1 bit */
+  uint8_t outerIpv6Hdr_valid_mask; /* set bits take part */
+  uint8_t innerIpv4Hdr_valid; /* 1 bit */
+  uint8_t innerIpv4Hdr_valid_mask; /* set bits take part */
+  uint8_t innerIpv6Hdr_valid; /* 1 bit */
+  uint8_t innerIpv6Hdr_valid_mask; /* set bits take part */
+} p4_pd_tessel_switch_packetDscpRewrite_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_packetDscpRewrite_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_add_with_noTunnelIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_modify_with_noTunnelIpv4(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_modify_with_noTunnelIpv4_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_add_with_noTunnelIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_modify_with_noTunnelIpv6(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_modify_with_noTunnelIpv6_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_add_with_onlyDecapInnerIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_modify_with_onlyDecapInnerIpv4(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_modify_with_onlyDecapInnerIpv4_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_add_with_onlyDecapInnerIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_modify_with_onlyDecapInnerIpv6(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_modify_with_onlyDecapInnerIpv6_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_add_with_encapOuterIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_modify_with_encapOuterIpv4(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_modify_with_encapOuterIpv4_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_add_with_encapOuterIpv4InnerIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_modify_with_encapOuterIpv4InnerIpv4(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_modify_with_encapOuterIpv4InnerIpv4_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_add_with_encapOuterIpv4InnerIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_modify_with_encapOuterIpv4InnerIpv6(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_modify_with_encapOuterIpv4InnerIpv6_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_set_default_action_noTunnelIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_set_default_action_noTunnelIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_set_default_action_onlyDecapInnerIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_set_default_action_onlyDecapInnerIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_set_default_action_encapOuterIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_set_default_action_encapOuterIpv4InnerIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_set_default_action_encapOuterIpv4InnerIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table pdpClassify (0x0100005c), ternary ==== */
+
+/* Key of 51 bits in 9 bytes. */
+typedef struct p4_pd_tessel_switch_pdpClassify_match_spec {
+  uint8_t arpHdr_valid; /* 1 bit */
+  uint8_t arpHdr_valid_mask; /* set bits take part */
+  uint8_t egrMd_cpuReasonCode; /* 8 bits */
+  uint8_t egrMd_cpuReasonCode_mask; /* set bits take part */
+  uint8_t egrMd_trapToCpu; /* 1 bit */
+  uint8_t egrMd_trapToCpu_mask; /* set bits take part */
+  uint8_t ingMd_bcast; /* 1 bit */
+  uint8_t ingMd_bcast_mask; /* set bits take part */
+  uint8_t ingMd_protocol; /* 8 bits */
+  uint8_t ingMd_protocol_mask; /* set bits take part */
+  uint16_t ingMd_srcPort; /* 16 bits */
+  uint16_t ingMd_srcPort_mask; /* set bits take part */
+  uint16_t ingMd_dstPort; /* 16 bits */
+  uint16_t ingMd_dstPort_mask; /* set bits take part */
+} p4_pd_tessel_switch_pdpClassify_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_pdpClassify_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_table_add_with_setPdpClass(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_pdpClassify_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setPdpClass_action_spec_t *action_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_table_modify_with_setPdpClass(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setPdpClass_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_table_modify_with_setPdpClass_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_pdpClassify_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setPdpClass_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_pdpClassify_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_pdpClassify_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_set_default_action_setPdpClass(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setPdpClass_action_spec_t *action_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_pdpClassify_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table pdpPolicy (0x0100005d), exact ==== */
+
+/* Key of 14 bits in 3 bytes. */
+typedef struct p4_pd_tessel_switch_pdpPolicy_match_spec {
+  uint16_t ig_intr_md_ingress_port; /* 9 bits, key bits 0x7f */
+  uint8_t qosMd_pdpClassId; /* 5 bits */
+} p4_pd_tessel_switch_pdpPolicy_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_pdpPolicy_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_table_add_with_setPdpClassCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_pdpPolicy_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setPdpClassCount_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_table_modify_with_setPdpClassCount(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setPdpClassCount_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_table_modify_with_setPdpClassCount_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_pdpPolicy_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setPdpClassCount_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_table_add_with_pdpPolice(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_pdpPolicy_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_pdpPolice_action_spec_t *action_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_table_modify_with_pdpPolice(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_pdpPolice_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_table_modify_with_pdpPolice_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_pdpPolicy_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_pdpPolice_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_pdpPolicy_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_pdpPolicy_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_set_default_action_setPdpClassCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setPdpClassCount_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_set_default_action_pdpPolice(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_pdpPolice_action_spec_t *action_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_pdpPolicy_match_spec_t *match_spec, char *action_name, void *action_spec,
+    uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+
+/* ==== Table cpuEncap (0x0100005e), ternary ==== */
+
+/* Key of 12 bits in 5 bytes. */
+typedef struct p4_pd_tessel_switch_cpuEncap_match_spec {
+  uint8_t egrMd_trapToCpu; /* 1 bit */
+  uint8_t ingMd_vlanHdrValid; /* 1 bit */
+  uint8_t phase0_switchPort; /* 1 bit */
+  uint8_t phase0_switchPort_mask; /* set bits take part */
+  uint8_t egrMd_cpuReasonCode; /* 8 bits */
+  uint8_t egrMd_cpuReasonCode_mask; /* set bits take part */
+  uint8_t vlanHdr_0__valid; /* 1 bit */
+  uint8_t vlanHdr_0__valid_mask; /* set bits take part */
+} p4_pd_tessel_switch_cpuEncap_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_cpuEncap_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_add_with_trapPktToCpuUntagged(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_trapPktToCpuUntagged_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_modify_with_trapPktToCpuUntagged(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_trapPktToCpuUntagged_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_modify_with_trapPktToCpuUntagged_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_trapPktToCpuUntagged_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_add_with_copyPktToCpuUntagged(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_copyPktToCpuUntagged_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_modify_with_copyPktToCpuUntagged(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_copyPktToCpuUntagged_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_modify_with_copyPktToCpuUntagged_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_copyPktToCpuUntagged_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_add_with_trapPktToCpuTagged(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_trapPktToCpuTagged_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_modify_with_trapPktToCpuTagged(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_trapPktToCpuTagged_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_modify_with_trapPktToCpuTagged_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_trapPktToCpuTagged_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_add_with_copyPktToCpuTagged(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_copyPktToCpuTagged_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_modify_with_copyPktToCpuTagged(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_copyPktToCpuTagged_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_modify_with_copyPktToCpuTagged_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_copyPktToCpuTagged_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_add_with_trapPktToCpuSubintf(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_trapPktToCpuSubintf_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_modify_with_trapPktToCpuSubintf(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_trapPktToCpuSubintf_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_modify_with_trapPktToCpuSubintf_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_trapPktToCpuSubintf_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_add_with_copyPktToCpuSubintf(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_copyPktToCpuSubintf_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_modify_with_copyPktToCpuSubintf(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_copyPktToCpuSubintf_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_modify_with_copyPktToCpuSubintf_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_copyPktToCpuSubintf_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_match_spec_to_entry_hdl(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec,
+    uint32_t priority, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_set_default_action_copyPktToCpuTagged(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_copyPktToCpuTagged_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_table_get_default_entry(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec, uint32_t *priority, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+
+/* ==== Table nyxIntfToPhysical (0x01000060), ternary ==== */
+
+/* Key of 35 bits in 7 bytes. */
+typedef struct p4_pd_tessel_switch_nyxIntfToPhysical_match_spec {
+  uint8_t tesselCpuHdr_slice; /* 6 bits */
+  uint16_t tesselCpuHdr_port; /* 10 bits */
+  uint8_t tesselCpuHdr_lane; /* 4 bits */
+  uint16_t tesselCpuHdr_portChannel; /* 12 bits */
+  uint8_t egrMd_decapType; /* 3 bits */
+  uint8_t egrMd_decapType_mask; /* set bits take part */
+} p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_nyxIntfToPhysical_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_add_with_setEgressPort(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setEgressPort_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_modify_with_setEgressPort(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setEgressPort_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_modify_with_setEgressPort_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setEgressPort_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_add_with_setDecapTypeVlan(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_modify_with_setDecapTypeVlan(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_modify_with_setDecapTypeVlan_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_add_with_setInvalidEgressPort(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_modify_with_setInvalidEgressPort(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_modify_with_setInvalidEgressPort_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_add_with_removeTesselHdrs(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_modify_with_removeTesselHdrs(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_modify_with_removeTesselHdrs_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_set_default_action_setInvalidEgressPort(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table l2Multicast (0x01000061), exact ==== */
+
+/* Key of 60 bits in 8 bytes. */
+typedef struct p4_pd_tessel_switch_l2Multicast_match_spec {
+  uint32_t egrMd_dmacOui; /* 24 bits */
+  uint32_t egrMd_dmacStation; /* 24 bits */
+  uint16_t egrMd_egrL2Domain; /* 12 bits */
+} p4_pd_tessel_switch_l2Multicast_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_l2Multicast_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_table_add_with_setL2McResult(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2Multicast_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setL2McResult_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_table_modify_with_setL2McResult(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setL2McResult_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_table_modify_with_setL2McResult_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2Multicast_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setL2McResult_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2Multicast_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2Multicast_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_set_default_action_setL2McResult(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setL2McResult_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_l2Multicast_match_spec_t *match_spec, char *action_name, void *action_spec,
+    uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table finalizeMcResult (0x01000062), ternary ==== */
+
+/* Key of 26 bits in 9 bytes. */
+typedef struct p4_pd_tessel_switch_finalizeMcResult_match_spec {
+  uint8_t egrMd_trapToCpu; /* 1 bit */
+  uint8_t egrMd_trapToCpu_mask; /* set bits take part */
+  uint8_t ingIpmc_eValid; /* 1 bit */
+  uint8_t ingIpmc_eValid_mask; /* set bits take part */
+  uint8_t ingL2Mc_eValid; /* 1 bit */
+  uint8_t ingL2Mc_eValid_mask; /* set bits take part */
+  uint8_t ingMd_igmpSnoopingEnabled; /* 1 bit */
+  uint8_t ingMd_igmpSnoopingEnabled_mask; /* set bits take part */
+  uint8_t ingMd_ipMcast; /* 1 bit */
+  uint8_t ingMd_ipMcast_mask; /* set bits take part */
+  uint8_t ingMd_llm; /* 1 bit */
+  uint8_t ingMd_llm_mask; /* set bits take part */
+  uint8_t ingMd_protocol; /* 8 bits */
+  uint8_t ingMd_protocol_mask; /* set bits take part */
+  uint8_t ingMd_ttl; /* 8 bits */
+  uint8_t ingMd_ttl_mask; /* set bits take part */
+  uint8_t l3Info_ipRouting; /* 4 bits */
+  uint8_t l3Info_ipRouting_mask; /* set bits take part */
+} p4_pd_tessel_switch_finalizeMcResult_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_finalizeMcResult_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_add_with_finalizeMcResultIpmc(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_finalizeMcResultIpmc_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_modify_with_finalizeMcResultIpmc(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_finalizeMcResultIpmc_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_modify_with_finalizeMcResultIpmc_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_finalizeMcResultIpmc_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_add_with_finalizeMcResultL2mc(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_finalizeMcResultL2mc_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_modify_with_finalizeMcResultL2mc(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_finalizeMcResultL2mc_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_modify_with_finalizeMcResultL2mc_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_finalizeMcResultL2mc_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_add_with_finalizeMcResultL2mcFlood(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_modify_with_finalizeMcResultL2mcFlood(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_modify_with_finalizeMcResultL2mcFlood_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_add_with_finalizeMcResultCancel(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_finalizeMcResultCancel_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_modify_with_finalizeMcResultCancel(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_finalizeMcResultCancel_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_modify_with_finalizeMcResultCancel_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_finalizeMcResultCancel_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_add_with_finalizeMcResultFlood(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_finalizeMcResultFlood_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_modify_with_finalizeMcResultFlood(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_finalizeMcResultFlood_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_modify_with_finalizeMcResultFlood_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_finalizeMcResultFlood_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_add_with_finalizeMcResultL3Rpf(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_modify_with_finalizeMcResultL3Rpf(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_modify_with_finalizeMcResultL3Rpf_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_set_default_action_finalizeMcResultIpmc(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResultIpmc_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_set_default_action_finalizeMcResultL2mc(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResultL2mc_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_set_default_action_finalizeMcResultL2mcFlood(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_set_default_action_finalizeMcResultCancel(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResultCancel_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_set_default_action_finalizeMcResultFlood(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalizeMcResultFlood_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_set_default_action_finalizeMcResultL3Rpf(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table l2XRemap (0x01000063), exact ==== */
+
+/* Key of 9 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_l2XRemap_match_spec {
+  uint16_t ig_intr_md_ingress_port; /* 9 bits */
+} p4_pd_tessel_switch_l2XRemap_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_l2XRemap_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_table_add_with_setL2XId(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, const p4_pd_tessel_switch_l2XRemap_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setL2XId_action_spec_t *action_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_table_modify_with_setL2XId(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setL2XId_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_table_modify_with_setL2XId_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2XRemap_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setL2XId_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_l2XRemap_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_match_spec_to_entry_hdl(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, const p4_pd_tessel_switch_l2XRemap_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_set_default_action_setL2XId(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setL2XId_action_spec_t *action_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_table_get_default_entry(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_l2XRemap_match_spec_t *match_spec, char *action_name, void *action_spec,
+    uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+
+/* ==== Table mcastPrune (0x01000064), ternary ==== */
+
+/* Key of 42 bits in 8 bytes. */
+typedef struct p4_pd_tessel_switch_mcastPrune_match_spec {
+  uint8_t egrMd_decapType; /* 3 bits */
+  uint8_t egrMd_decapType_mask; /* set bits take part */
+  uint8_t egrMd_routed; /* 1 bit */
+  uint8_t egrMd_routed_mask; /* set bits take part */
+  uint8_t phase0_portType; /* 2 bits */
+  uint8_t phase0_portType_mask; /* set bits take part */
+  uint32_t egrMd_egrL2AintfUnresolved; /* 20 bits, key bits 0xf0000 */
+  uint32_t egrMd_egrL2AintfUnresolved_mask; /* set bits take part */
+  uint16_t ig_intr_md_for_tm_mcast_grp_a; /* 16 bits, key bits 0xf000 */
+  uint16_t ig_intr_md_for_tm_mcast_grp_a_mask; /* set bits take part */
+} p4_pd_tessel_switch_mcastPrune_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_mcastPrune_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_add_with_setPruneParams(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setPruneParams_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_modify_with_setPruneParams(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setPruneParams_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_modify_with_setPruneParams_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setPruneParams_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_add_with_setPruneParamsForL2Flood(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setPruneParamsForL2Flood_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_modify_with_setPruneParamsForL2Flood(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setPruneParamsForL2Flood_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_modify_with_setPruneParamsForL2Flood_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setPruneParamsForL2Flood_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_add_with_setPruneParamsForL3Only(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setPruneParamsForL3Only_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_modify_with_setPruneParamsForL3Only(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setPruneParamsForL3Only_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_modify_with_setPruneParamsForL3Only_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setPruneParamsForL3Only_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_add_with_l3FloodEgressL2Aintf(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_modify_with_l3FloodEgressL2Aintf(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_modify_with_l3FloodEgressL2Aintf_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_set_default_action_setPruneParamsForL2Flood(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setPruneParamsForL2Flood_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec, uint32_t *priority, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table egressMcRemap (0x01000065), exact ==== */
+
+/* Key of 16 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_egressMcRemap_match_spec {
+  uint16_t eg_intr_md_egress_rid; /* 16 bits */
+} p4_pd_tessel_switch_egressMcRemap_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_egressMcRemap_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_table_add_with_setL2DomainReplicated(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMcRemap_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setL2DomainReplicated_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_table_modify_with_setL2DomainReplicated(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setL2DomainReplicated_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_table_modify_with_setL2DomainReplicated_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMcRemap_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setL2DomainReplicated_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMcRemap_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMcRemap_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_set_default_action_setL2DomainReplicated(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setL2DomainReplicated_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_egressMcRemap_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table haloXformIpv4Sip (0x01000066), ternary ==== */
+
+/* Key of 32 bits in 4 bytes. */
+typedef struct p4_pd_tessel_switch_haloXformIpv4Sip_match_spec {
+  uint32_t ingIpv4_sip; /* 32 bits */
+  uint32_t ingIpv4_sip_mask; /* set bits take part */
+} p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_haloXformIpv4Sip_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_table_add_with_setHaloXformIpv4Sip(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setHaloXformIpv4Sip_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_table_modify_with_setHaloXformIpv4Sip(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setHaloXformIpv4Sip_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_table_modify_with_setHaloXformIpv4Sip_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setHaloXformIpv4Sip_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_table_add_with_setHaloInvalidSip(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_table_modify_with_setHaloInvalidSip(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_table_modify_with_setHaloInvalidSip_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_table_add_with_setHaloIpv4Common(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_table_modify_with_setHaloIpv4Common(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_table_modify_with_setHaloIpv4Common_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_set_default_action_setHaloIpv4Common(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table haloXformIpv6Sip (0x01000067), ternary ==== */
+
+/* Key of 128 bits in 16 bytes. */
+typedef struct p4_pd_tessel_switch_haloXformIpv6Sip_match_spec {
+  uint8_t ingIpv6_sip[16]; /* 128 bits */
+  uint8_t ingIpv6_sip_mask[16]; /* set bits take part */
+} p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_haloXformIpv6Sip_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_table_add_with_setHaloXformIpv6Sip(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setHaloXformIpv6Sip_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_table_modify_with_setHaloXformIpv6Sip(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setHaloXformIpv6Sip_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_table_modify_with_setHaloXformIpv6Sip_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setHaloXformIpv6Sip_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_table_add_with_setHaloInvalidSip(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_table_modify_with_setHaloInvalidSip(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_table_modify_with_setHaloInvalidSip_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_table_add_with_setHaloIpv6Common(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_table_modify_with_setHaloIpv6Common(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_table_modify_with_setHaloIpv6Common_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_set_default_action_setHaloIpv6Common(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table haloXformIpv4Dip (0x01000068), ternary ==== */
+
+/* Key of 32 bits in 4 bytes. */
+typedef struct p4_pd_tessel_switch_haloXformIpv4Dip_match_spec {
+  uint32_t ingIpv4_dip; /* 32 bits */
+  uint32_t ingIpv4_dip_mask; /* set bits take part */
+} p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_haloXformIpv4Dip_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_table_add_with_setHaloXformDip(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setHaloXformDip_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_table_modify_with_setHaloXformDip(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setHaloXformDip_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_table_modify_with_setHaloXformDip_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setHaloXformDip_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_table_add_with_setHaloInvalidDip(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_table_modify_with_setHaloInvalidDip(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_table_modify_with_setHaloInvalidDip_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_set_default_action_setHaloXformDip(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setHaloXformDip_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_set_default_action_setHaloInvalidDip(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table haloXformIpv6Dip (0x01000069), ternary ==== */
+
+/* Key of 128 bits in 16 bytes. */
+typedef struct p4_pd_tessel_switch_haloXformIpv6Dip_match_spec {
+  uint8_t ingIpv6_dip[16]; /* 128 bits */
+  uint8_t ingIpv6_dip_mask[16]; /* set bits take part */
+} p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_haloXformIpv6Dip_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_table_add_with_setHaloXformDip(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setHaloXformDip_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_table_modify_with_setHaloXformDip(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setHaloXformDip_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_table_modify_with_setHaloXformDip_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setHaloXformDip_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_table_add_with_setHaloInvalidDip(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_table_modify_with_setHaloInvalidDip(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_table_modify_with_setHaloInvalidDip_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_set_default_action_setHaloXformDip(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setHaloXformDip_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_set_default_action_setHaloInvalidDip(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table finalDropControl (0x0100006a), ternary ==== */
+
+/* Key of 72 bits in 32 bytes. */
+typedef struct p4_pd_tessel_switch_finalDropControl_match_spec {
+  uint8_t tesselFlowMgmtHdr_valid; /* 1 bit */
+  uint8_t tesselFlowMgmtHdr_valid_mask; /* set bits take part */
+  uint8_t kflowMd_drop; /* 1 bit */
+  uint8_t kflowMd_drop_mask; /* set bits take part */
+  uint32_t egrMd_egrL2AintfUnresolved; /* 20 bits */
+  uint32_t egrMd_egrL2AintfUnresolved_mask; /* set bits take part */
+  uint8_t egrMd_routed; /* 1 bit */
+  uint8_t egrMd_routed_mask; /* set bits take part */
+  uint8_t egrMd_trapToCpu; /* 1 bit */
+  uint8_t egrMd_trapToCpu_mask; /* set bits take part */
+  uint8_t flowMgmt_flowLimitDrop; /* 1 bit */
+  uint8_t flowMgmt_flowLimitDrop_mask; /* set bits take part */
+  uint8_t flowMgmt_newFlowMeterDrop; /* 1 bit */
+  uint8_t flowMgmt_newFlowMeterDrop_mask; /* set bits take part */
+  uint8_t fwMd_escortToRecircPort; /* 1 bit */
+  uint8_t fwMd_escortToRecircPort_mask; /* set bits take part */
+  uint8_t fwMd_fwDrop; /* 1 bit */
+  uint8_t fwMd_fwDrop_mask; /* set bits take part */
+  uint8_t fwMd_meterDrop; /* 1 bit */
+  uint8_t fwMd_meterDrop_mask; /* set bits take part */
+  uint8_t ig_intr_md_for_tm_copy_to_cpu; /* 1 bit */
+  uint8_t ig_intr_md_for_tm_copy_to_cpu_mask; /* set bits take part */
+  uint16_t ig_intr_md_for_tm_mcast_grp_a; /* 16 bits */
+  uint16_t ig_intr_md_for_tm_mcast_grp_a_mask; /* set bits take part */
+  uint16_t ig_intr_md_ingress_port; /* 9 bits, key bits 0x7f */
+  uint16_t ig_intr_md_ingress_port_mask; /* set bits take part */
+  uint8_t ingMd_bcast; /* 1 bit */
+  uint8_t ingMd_bcast_mask; /* set bits take part */
+  uint8_t ingMd_dot1xDrop; /* 1 bit */
+  uint8_t ingMd_dot1xDrop_mask; /* set bits take part */
+  uint8_t ingMd_drop; /* 1 bit */
+  uint8_t ingMd_drop_mask; /* set bits take part */
+  uint8_t ingMd_dropDatalink; /* 1 bit */
+  uint8_t ingMd_dropDatalink_mask; /* set bits take part */
+  uint8_t ingMd_dropDmac; /* 1 bit */
+  uint8_t ingMd_dropDmac_mask; /* set bits take part */
+  uint8_t ingMd_dropSmac; /* 1 bit */
+  uint8_t ingMd_dropSmac_mask; /* set bits take part */
+  uint8_t ingMd_invalidEgressPort; /* 1 bit */
+  uint8_t ingMd_invalidEgressPort_mask; /* set bits take part */
+  uint8_t ingMd_mcast; /* 1 bit */
+  uint8_t ingMd_mcast_mask; /* set bits take part */
+  uint8_t ingMd_mlagPrune; /* 1 bit */
+  uint8_t ingMd_mlagPrune_mask; /* set bits take part */
+  uint8_t ingMd_routedMartian; /* 1 bit */
+  uint8_t ingMd_routedMartian_mask; /* set bits take part */
+  uint8_t ingMd_samePortBridging; /* 1 bit */
+  uint8_t ingMd_samePortBridging_mask; /* set bits take part */
+  uint8_t ingMd_stormControlDrop; /* 1 bit */
+  uint8_t ingMd_stormControlDrop_mask; /* set bits take part */
+  uint8_t ingMd_v4V6Valid; /* 3 bits, key bits 0x4 */
+  uint8_t ingMd_v4V6Valid_mask; /* set bits take part */
+  uint8_t ingVlanStpCheck_invalidVlan; /* 1 bit */
+  uint8_t ingVlanStpCheck_invalidVlan_mask; /* set bits take part */
+  uint8_t ingVlanStpCheck_stpBlocked; /* 1 bit */
+  uint8_t ingVlanStpCheck_stpBlocked_mask; /* set bits take part */
+} p4_pd_tessel_switch_finalDropControl_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_finalDropControl_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_add_with_accept(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_modify_with_accept(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_modify_with_accept_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_add_with_acceptLog(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_modify_with_acceptLog(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_modify_with_acceptLog_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_add_with_dropCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_modify_with_dropCount(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_modify_with_dropCount_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_add_with_dropCountAndLog(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_modify_with_dropCountAndLog(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_modify_with_dropCountAndLog_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_add_with_finalDrop(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_modify_with_finalDrop(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_modify_with_finalDrop_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_set_default_action_accept(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table decapIngress (0x0100006b), exact ==== */
+
+/* Key of 13 bits in 4 bytes. */
+typedef struct p4_pd_tessel_switch_decapIngress_match_spec {
+  uint8_t egrMd_decapType; /* 3 bits */
+  uint8_t ingMd_protocol; /* 8 bits, key bits 0x80 */
+  uint8_t outerIpv4Hdr_valid; /* 1 bit */
+  uint8_t outerIpv6Hdr_valid; /* 1 bit */
+} p4_pd_tessel_switch_decapIngress_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_decapIngress_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_add_with_setDecapEscapeIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setDecapEscapeIpv4_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_modify_with_setDecapEscapeIpv4(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setDecapEscapeIpv4_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_modify_with_setDecapEscapeIpv4_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setDecapEscapeIpv4_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_add_with_setDecapEscapeIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setDecapEscapeIpv6_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_modify_with_setDecapEscapeIpv6(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setDecapEscapeIpv6_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_modify_with_setDecapEscapeIpv6_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setDecapEscapeIpv6_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_add_with_removeOuterIpv4Hdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_modify_with_removeOuterIpv4Hdr(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_modify_with_removeOuterIpv4Hdr_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_add_with_removeOuterIpv6Hdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_modify_with_removeOuterIpv6Hdr(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_modify_with_removeOuterIpv6Hdr_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_set_default_action_setDecapEscapeIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setDecapEscapeIpv4_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_set_default_action_setDecapEscapeIpv6(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setDecapEscapeIpv6_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_set_default_action_removeOuterIpv4Hdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_set_default_action_removeOuterIpv6Hdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table decapRestore (0x0100006c), exact ==== */
+
+/* Key of 3 bits in 3 bytes. */
+typedef struct p4_pd_tessel_switch_decapRestore_match_spec {
+  uint8_t egrMd_decapRestore; /* 1 bit */
+  uint8_t outerIpv4Hdr_valid; /* 1 bit */
+  uint8_t outerIpv6Hdr_valid; /* 1 bit */
+} p4_pd_tessel_switch_decapRestore_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_decapRestore_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_table_add_with_restoreOuterIpv4HeaderL4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapRestore_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_table_modify_with_restoreOuterIpv4HeaderL4(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_table_modify_with_restoreOuterIpv4HeaderL4_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapRestore_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_table_add_with_restoreOuterIpv6HeaderL4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapRestore_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_table_modify_with_restoreOuterIpv6HeaderL4(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_table_modify_with_restoreOuterIpv6HeaderL4_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapRestore_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapRestore_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_decapRestore_match_spec_t *match_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_set_default_action_restoreOuterIpv4HeaderL4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_set_default_action_restoreOuterIpv6HeaderL4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_decapRestore_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table trapToCpu (0x0100006d), ternary ==== */
+
+/* Key of 287 bits in 44 bytes. */
+typedef struct p4_pd_tessel_switch_trapToCpu_match_spec {
+  uint8_t arpHdr_valid; /* 1 bit */
+  uint8_t arpHdr_valid_mask; /* set bits take part */
+  uint16_t arpHdr_opcode; /* 16 bits */
+  uint16_t arpHdr_opcode_mask; /* set bits take part */
+  uint8_t egrMd_cpuReasonCode; /* 8 bits */
+  uint8_t egrMd_cpuReasonCode_mask; /* set bits take part */
+  uint8_t egrMd_decapType; /* 3 bits */
+  uint8_t egrMd_decapType_mask; /* set bits take part */
+  uint8_t egrMd_vxlanFlood; /* 1 bit */
+  uint8_t egrMd_vxlanFlood_mask; /* set bits take part */
+  uint32_t ingIpv4_dip; /* 32 bits */
+  uint32_t ingIpv4_dip_mask; /* set bits take part */
+  uint8_t ingIpv6_dip[16]; /* 128 bits, key bits 0xffff0000000000000000000000000000 */
+  uint8_t ingIpv6_dip_mask[16]; /* set bits take part */
+  uint8_t ingMd_bcast; /* 1 bit */
+  uint8_t ingMd_bcast_mask; /* set bits take part */
+  uint8_t ingMd_cpuMemberOfIngressVlan; /* 1 bit */
+  uint8_t ingMd_cpuMemberOfIngressVlan_mask; /* set bits take part */
+  uint16_t ingMd_dstPort; /* 16 bits */
+  uint16_t ingMd_dstPort_mask; /* set bits take part */
+  uint16_t ingMd_etherType; /* 16 bits */
+  uint16_t ingMd_etherType_mask; /* set bits take part */
+  uint8_t ingMd_igmpSnoopingEnabled; /* 1 bit */
+  uint8_t ingMd_igmpSnoopingEnabled_mask; /* set bits take part */
+  uint16_t ingMd_ingL3Aintf; /* 12 bits */
+  uint16_t ingMd_ingL3Aintf_mask; /* set bits take part */
+  uint8_t ingMd_l4Attr; /* 3 bits */
+  uint8_t ingMd_l4Attr_mask; /* set bits take part */
+  uint8_t ingMd_mcast; /* 1 bit */
+  uint8_t ingMd_mcast_mask; /* set bits take part */
+  uint8_t ingMd_protocol; /* 8 bits */
+  uint8_t ingMd_protocol_mask; /* set bits take part */
+  uint16_t ingMd_srcPort; /* 16 bits */
+  uint16_t ingMd_srcPort_mask; /* set bits take part */
+  uint8_t ingMd_ttl; /* 8 bits */
+  uint8_t ingMd_ttl_mask; /* set bits take part */
+  uint8_t l3Info_ingL3DmacValid; /* 1 bit */
+  uint8_t l3Info_ingL3DmacValid_mask; /* set bits take part */
+  uint16_t phase0_ingVPort; /* 14 bits */
+  uint16_t phase0_ingVPort_mask; /* set bits take part */
+} p4_pd_tessel_switch_trapToCpu_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_trapToCpu_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_add_with_trapPacket(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_trapPacket_action_spec_t *action_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_modify_with_trapPacket(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_trapPacket_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_modify_with_trapPacket_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_trapPacket_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_add_with_copyPacket(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_copyPacket_action_spec_t *action_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_modify_with_copyPacket(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_copyPacket_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_modify_with_copyPacket_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_copyPacket_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_add_with_setLlm(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, const p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec,
+    uint32_t priority, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_modify_with_setLlm(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_modify_with_setLlm_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_add_with_noOp(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, const p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec,
+    uint32_t priority, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_modify_with_noOp(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_modify_with_noOp_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_set_default_action_trapPacket(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_trapPacket_action_spec_t *action_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_set_default_action_copyPacket(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_copyPacket_action_spec_t *action_spec, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_set_default_action_setLlm(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_set_default_action_noOp(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec, uint32_t *priority, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+
+/* ==== Table ingressMirrorSession (0x0100006e), ternary ==== */
+
+/* Key of 122 bits in 19 bytes. */
+typedef struct p4_pd_tessel_switch_ingressMirrorSession_match_spec {
+  uint16_t haloKeyOrig_dipMirror; /* 16 bits */
+  uint16_t haloKeyOrig_dipMirror_mask; /* set bits take part */
+  uint8_t haloKeyOrig_flags; /* 8 bits */
+  uint8_t haloKeyOrig_flags_mask; /* set bits take part */
+  uint8_t haloKeyOrig_isFrag; /* 1 bit */
+  uint8_t haloKeyOrig_isFrag_mask; /* set bits take part */
+  uint16_t haloKeyOrig_sipMirror; /* 16 bits */
+  uint16_t haloKeyOrig_sipMirror_mask; /* set bits take part */
+  uint16_t ig_intr_md_ingress_port; /* 9 bits */
+  uint16_t ig_intr_md_ingress_port_mask; /* set bits take part */
+  uint8_t ingMd_protocol; /* 8 bits */
+  uint8_t ingMd_protocol_mask; /* set bits take part */
+  uint8_t ingMd_ttl; /* 8 bits */
+  uint8_t ingMd_ttl_mask; /* set bits take part */
+  uint8_t ingMd_v4V6Valid; /* 3 bits */
+  uint8_t ingMd_v4V6Valid_mask; /* set bits take part */
+  uint8_t l4PortHdr_valid; /* 1 bit */
+  uint8_t l4PortHdr_valid_mask; /* set bits take part */
+  uint16_t l4PortHdr_dstPort; /* 16 bits */
+  uint16_t l4PortHdr_dstPort_mask; /* set bits take part */
+  uint16_t l4PortHdr_srcPort; /* 16 bits */
+  uint16_t l4PortHdr_srcPort_mask; /* set bits take part */
+  uint16_t phase0_ingVPort; /* 14 bits */
+  uint16_t phase0_ingVPort_mask; /* set bits take part */
+  uint8_t qosMd_dscp; /* 6 bits */
+  uint8_t qosMd_dscp_mask; /* set bits take part */
+} p4_pd_tessel_switch_ingressMirrorSession_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_ingressMirrorSession_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_table_add_with_dropDatalink(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorSession_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_table_modify_with_dropDatalink(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_table_modify_with_dropDatalink_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorSession_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_table_add_with_setIngressMirrorSession(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorSession_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setIngressMirrorSession_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_table_modify_with_setIngressMirrorSession(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setIngressMirrorSession_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_table_modify_with_setIngressMirrorSession_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorSession_match_spec_t *match_spec, uint32_t priority,
+    const p4_pd_tessel_switch_setIngressMirrorSession_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_table_delete(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorSession_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorSession_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_set_default_action_dropDatalink(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_ingressMirrorSession_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table ingressMirrorRate (0x0100006f), exact ==== */
+
+/* Key of 10 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_ingressMirrorRate_match_spec {
+  uint16_t ingMirrorMd_mirrorBufId; /* 10 bits */
+} p4_pd_tessel_switch_ingressMirrorRate_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_ingressMirrorRate_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_table_add_with_setIngressMirrorColor(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorRate_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setIngressMirrorColor_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_table_modify_with_setIngressMirrorColor(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setIngressMirrorColor_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_table_modify_with_setIngressMirrorColor_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorRate_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setIngressMirrorColor_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_table_add_with_setIngressMirrorColorRed(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorRate_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_table_modify_with_setIngressMirrorColorRed(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_table_modify_with_setIngressMirrorColorRed_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorRate_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorRate_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorRate_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_set_default_action_setIngressMirrorColorRed(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_ingressMirrorRate_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table ingressSflowSample (0x01000070), ternary ==== */
+
+/* Key of 41 bits in 6 bytes. */
+typedef struct p4_pd_tessel_switch_ingressSflowSample_match_spec {
+  uint16_t ig_intr_md_ingress_port; /* 9 bits */
+  uint16_t ig_intr_md_ingress_port_mask; /* set bits take part */
+  uint32_t ingMd_rand; /* 32 bits, key bits 0xffffff00 */
+  uint32_t ingMd_rand_mask; /* set bits take part */
+} p4_pd_tessel_switch_ingressSflowSample_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_ingressSflowSample_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_table_add_with_samplePacket(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressSflowSample_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_table_modify_with_samplePacket(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_table_modify_with_samplePacket_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressSflowSample_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_table_add_with_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressSflowSample_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_table_modify_with_onMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_table_modify_with_onMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressSflowSample_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressSflowSample_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressSflowSample_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_set_default_action_samplePacket(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_set_default_action_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_ingressSflowSample_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table ingressMirrorResult (0x01000071), exact ==== */
+
+/* Key of 13 bits in 4 bytes. */
+typedef struct p4_pd_tessel_switch_ingressMirrorResult_match_spec {
+  uint8_t ingMd_sflowSample; /* 1 bit */
+  uint8_t ingMirrorMd_mirrorColor; /* 2 bits, key bits 0x2 */
+  uint16_t ingMirrorMd_mirrorSession; /* 10 bits */
+} p4_pd_tessel_switch_ingressMirrorResult_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_ingressMirrorResult_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_table_add_with_ingressMirrorAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorResult_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_ingressMirrorAction_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_table_modify_with_ingressMirrorAction(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_ingressMirrorAction_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_table_modify_with_ingressMirrorAction_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorResult_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_ingressMirrorAction_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorResult_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorResult_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_set_default_action_ingressMirrorAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorAction_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_ingressMirrorResult_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table ingressMirrorLagGroup (0x01000072), exact, bound to mirrorLagPortActionProfile ==== */
+
+/* Key of 10 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec {
+  uint16_t ingMirrorMd_mirrorSession; /* 10 bits, key bits 0x7f */
+} p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_ingressMirrorLagGroup_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_table_delete(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    bool *has_member, bool *has_group, p4_pd_group_handle_t *group, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_add_entry(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    p4_pd_member_handle_t member, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_modify_entry(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_modify_entry_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_set_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t member,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_add_entry_with_selector(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    p4_pd_group_handle_t group, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_modify_entry_with_selector(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    p4_pd_group_handle_t group);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_modify_entry_with_selector_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    p4_pd_group_handle_t group);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_set_default_entry_with_selector(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_group_handle_t group,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *match_spec, bool *has_member,
+    bool *has_group, p4_pd_group_handle_t *group, p4_pd_member_handle_t *member, bool *no_key);
+
+/* ==== Table mirrorPacketEncap (0x01000073), exact ==== */
+
+/* Key of 25 bits in 4 bytes. */
+typedef struct p4_pd_tessel_switch_mirrorPacketEncap_match_spec {
+  uint16_t eg_intr_md_egress_rid; /* 16 bits */
+  uint16_t eg_intr_md_egress_port; /* 9 bits */
+} p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_mirrorPacketEncap_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_table_add_with_setMirrorPacketEncapNone(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_table_modify_with_setMirrorPacketEncapNone(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_table_modify_with_setMirrorPacketEncapNone_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_table_add_with_setMirrorPacketEncapCpu(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_table_modify_with_setMirrorPacketEncapCpu(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_table_modify_with_setMirrorPacketEncapCpu_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_table_add_with_setMirrorPacketEncapGreIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_table_modify_with_setMirrorPacketEncapGreIpv4(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_table_modify_with_setMirrorPacketEncapGreIpv4_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_set_default_action_setMirrorPacketEncapNone(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_set_default_action_setMirrorPacketEncapCpu(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_set_default_action_setMirrorPacketEncapGreIpv4(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table egressMirrorSession (0x01000074), exact ==== */
+
+/* Key of 9 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_egressMirrorSession_match_spec {
+  uint16_t eg_intr_md_egress_port; /* 9 bits */
+} p4_pd_tessel_switch_egressMirrorSession_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_egressMirrorSession_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_table_add_with_setEgressMirrorSession(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMirrorSession_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setEgressMirrorSession_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_table_modify_with_setEgressMirrorSession(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setEgressMirrorSession_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_table_modify_with_setEgressMirrorSession_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMirrorSession_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setEgressMirrorSession_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMirrorSession_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMirrorSession_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_set_default_action_setEgressMirrorSession(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setEgressMirrorSession_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_egressMirrorSession_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table egressMirrorLagGroup (0x01000075), exact, bound to egrMirrorLagPortActionProfile ==== */
+
+/* Key of 10 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_egressMirrorLagGroup_match_spec {
+  uint16_t egrMirrorMd_mirrorSession; /* 10 bits, key bits 0x7f */
+} p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_egressMirrorLagGroup_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_table_delete(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    bool *has_member, bool *has_group, p4_pd_group_handle_t *group, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_add_entry(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    p4_pd_member_handle_t member, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_modify_entry(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_modify_entry_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_set_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t member,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_add_entry_with_selector(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    p4_pd_group_handle_t group, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_modify_entry_with_selector(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    p4_pd_group_handle_t group);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_modify_entry_with_selector_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    p4_pd_group_handle_t group);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_set_default_entry_with_selector(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_group_handle_t group,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *match_spec, bool *has_member,
+    bool *has_group, p4_pd_group_handle_t *group, p4_pd_member_handle_t *member, bool *no_key);
+
+/* ==== Table egressMirrorRate (0x01000076), exact ==== */
+
+/* Key of 10 bits in 2 bytes. */
+typedef struct p4_pd_tessel_switch_egressMirrorRate_match_spec {
+  uint16_t egrMirrorMd_mirrorBufId; /* 10 bits */
+} p4_pd_tessel_switch_egressMirrorRate_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_egressMirrorRate_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_table_add_with_setEgressMirrorColor(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMirrorRate_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setEgressMirrorColor_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_table_modify_with_setEgressMirrorColor(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    const p4_pd_tessel_switch_setEgressMirrorColor_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_table_modify_with_setEgressMirrorColor_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMirrorRate_match_spec_t *match_spec,
+    const p4_pd_tessel_switch_setEgressMirrorColor_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_table_add_with_setEgressMirrorColorRed(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMirrorRate_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_table_modify_with_setEgressMirrorColorRed(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_table_modify_with_setEgressMirrorColorRed_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMirrorRate_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMirrorRate_match_spec_t *match_spec);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressMirrorRate_match_spec_t *match_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_set_default_action_setEgressMirrorColorRed(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_egressMirrorRate_match_spec_t *match_spec, char *action_name,
+    void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table egressPortDropCheck (0x01000078), ternary ==== */
+
+/* Key of 23 bits in 9 bytes. */
+typedef struct p4_pd_tessel_switch_egressPortDropCheck_match_spec {
+  uint16_t eg_intr_md_egress_port; /* 9 bits, key bits 0x7f */
+  uint8_t egrMd_routed; /* 1 bit */
+  uint8_t egrMd_routed_mask; /* set bits take part */
+  uint8_t egrVlanStpCheck_invalidVlan; /* 1 bit */
+  uint8_t egrVlanStpCheck_invalidVlan_mask; /* set bits take part */
+  uint8_t egrVlanStpCheck_stpBlocked; /* 1 bit */
+  uint8_t egrVlanStpCheck_stpBlocked_mask; /* set bits take part */
+  uint8_t fwMd_dipDrop; /* 1 bit */
+  uint8_t fwMd_dipDrop_mask; /* set bits take part */
+  uint8_t fwMd_sipDrop; /* 1 bit */
+  uint8_t fwMd_sipDrop_mask; /* set bits take part */
+  uint8_t outerIpv4Hdr_valid; /* 1 bit */
+  uint8_t outerIpv4Hdr_valid_mask; /* set bits take part */
+  uint8_t outerIpv4Hdr_ttl; /* 8 bits */
+  uint8_t outerIpv4Hdr_ttl_mask; /* set bits take part */
+} p4_pd_tessel_switch_egressPortDropCheck_match_spec_t;
+
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_egressPortDropCheck_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_table_add_with_setEgressDrop(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressPortDropCheck_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_table_modify_with_setEgressDrop(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_table_modify_with_setEgressDrop_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressPortDropCheck_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_table_add_with_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressPortDropCheck_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_table_modify_with_onMiss(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_table_modify_with_onMiss_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressPortDropCheck_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_table_delete(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_table_delete_by_match_spec(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressPortDropCheck_match_spec_t *match_spec, uint32_t priority);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_match_spec_to_entry_hdl(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_egressPortDropCheck_match_spec_t *match_spec, uint32_t priority,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_set_default_action_onMiss(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
+    p4_pd_tessel_switch_egressPortDropCheck_match_spec_t *match_spec, uint32_t *priority,
+    char *action_name, void *action_spec, uint32_t *action, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table kiteFlowSetEgress (0x01000006), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_kiteFlowSetEgress_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_set_default_action_kiteFlowCopyEgrL2Aintf(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowHashTypeAFirst (0x01000010), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowHashTypeAFirst_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_set_default_action_flowHashComputeTypeAFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowHashTypeASecond (0x01000011), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowHashTypeASecond_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_set_default_action_flowHashComputeTypeASecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowHashTypeBFirst (0x01000012), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowHashTypeBFirst_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_set_default_action_flowHashComputeTypeBFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowHashTypeBSecond (0x01000013), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowHashTypeBSecond_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_set_default_action_flowHashComputeTypeBSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowSetupL4Ports (0x01000015), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowSetupL4Ports_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_set_default_action_flowSetupL4PortsAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowStateUpdateFirst (0x01000016), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowStateUpdateFirst_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_set_default_action_flowStateUpdateActionFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowStateCheckFirst (0x01000017), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowStateCheckFirst_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_set_default_action_flowStateLookupActionFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowBusyFirst (0x01000018), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowBusyFirst_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_set_default_action_flowBusyActionFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowStateUpdateSecond (0x01000019), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowStateUpdateSecond_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_set_default_action_flowStateUpdateActionSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowStateCheckSecond (0x0100001a), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowStateCheckSecond_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_set_default_action_flowStateLookupActionSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowBusySecond (0x0100001b), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowBusySecond_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_set_default_action_flowBusyActionSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowStateConsolidate (0x0100001c), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowStateConsolidate_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_set_default_action_setFlowPresent(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowAddRecircHeader (0x0100001d), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowAddRecircHeader_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_set_default_action_flowAddRecircHeaderAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowLimit (0x0100001e), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowLimit_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowLimit_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowLimit_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowLimit_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowLimit_set_default_action_setFlowLimitExceeded(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setFlowLimitExceeded_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowLimit_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowLimit_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+
+/* ==== Table flowRecircPacket (0x01000020), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_flowRecircPacket_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_set_default_action_flowRecircPacketAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_flowRecircPacketAction_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table firewallSipMeterDrop (0x01000027), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_firewallSipMeterDrop_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_set_default_action_firewallSipMeterDropAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table firewallDipMeterDrop (0x01000028), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_firewallDipMeterDrop_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_set_default_action_firewallDipMeterDropAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table fragCheck (0x01000029), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_fragCheck_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_fragCheck_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_fragCheck_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_fragCheck_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_fragCheck_set_default_action_setNonInitialFragment(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_fragCheck_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_fragCheck_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+
+/* ==== Table sipHash (0x0100002a), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_sipHash_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_sipHash_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_sipHash_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_sipHash_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_sipHash_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_sipHash_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_sipHash_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_sipHash_set_default_action_sipHashCompute(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_sipHash_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_sipHash_table_get_default_entry(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_sipHash_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_sipHash_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_sipHash_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+
+/* ==== Table dipHash (0x0100002b), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_dipHash_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_dipHash_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_dipHash_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_dipHash_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_dipHash_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_dipHash_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_dipHash_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_dipHash_set_default_action_dipHashCompute(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_dipHash_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_dipHash_table_get_default_entry(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_dipHash_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_dipHash_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_dipHash_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+
+/* ==== Table routedMartian (0x01000030), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_routedMartian_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_routedMartian_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_routedMartian_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_routedMartian_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_routedMartian_set_default_action_setRoutedMartian(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_routedMartian_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_routedMartian_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table ingVlanCheck (0x01000034), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_ingVlanCheck_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_set_default_action_ingVlanAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table ingStpCheck (0x01000035), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_ingStpCheck_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_set_default_action_ingStpAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table egrVlanCheck (0x01000036), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_egrVlanCheck_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_set_default_action_egrVlanAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table egrStpCheck (0x01000037), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_egrStpCheck_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_set_default_action_egrStpAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table hashComputeInnerEthHdr (0x01000039), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_hashComputeInnerEthHdr_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_set_default_action_hashComputeInnerEthHdrAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table hashComputeOuterIpv4Hdr (0x0100003a), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_set_default_action_hashComputeOuterIpv4HdrAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_entry(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    bool read_from_hardware, char *action_name, void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table hashComputeOuterIpv6Hdr (0x0100003b), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_set_default_action_hashComputeOuterIpv6HdrAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_entry(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry,
+    bool read_from_hardware, char *action_name, void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table hashComputeIpAndL4Hdr (0x0100003c), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_hashComputeIpAndL4Hdr_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_set_default_action_hashComputeIpAndL4HdrAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table samePortBridgingTest (0x0100004a), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_set_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t value,
+    uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_property(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t property, uint32_t *value,
+    uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_samePortBridgingTest_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_set_default_action_samePortBridgingTestAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table vlanDecap (0x01000050), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_vlanDecap_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_vlanDecap_register_mat_update_cb(p4_pd_session_handle_t session,
+    uint32_t device, pipe_mgr_mat_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_vlanDecap_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_vlanDecap_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_vlanDecap_set_default_action_removeVlanHdr(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanDecap_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanDecap_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_first_entry_handle(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_next_entry_handles(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
+    p4_pd_entry_handle_t *entries);
+
+/* ==== Table qosRewriteConfig (0x01000058), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_qosRewriteConfig_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_set_default_action_setQosRewriteConfiguration(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setQosRewriteConfiguration_action_spec_t *action_spec,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table queueCounters (0x0100005f), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_entry_count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_queueCounters_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_queueCounters_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_queueCounters_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_queueCounters_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_queueCounters_set_default_action_countEgressQueue(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_queueCounters_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_queueCounters_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Table egressMirrorResult (0x01000077), no key ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_mat_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_set_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_property(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t property, uint32_t *value, uint32_t *argument);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_register_mat_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_mat_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_table_reset_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+int p4_pd_tessel_switch_egressMirrorResult_supports_entry_priority(void);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_set_default_action_egressMirrorAction(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_table_get_default_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_table_get_default_entry(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_entry(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *action_name,
+    void *action_spec, uint32_t *action);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+
+/* ==== Profile ecmpMemberActionProfile (action data 0x0200002f, selector 0x03000001) ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_add_member_with_setEcmpNextHop(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setEcmpNextHop_action_spec_t *action_spec,
+    p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_modify_member_with_setEcmpNextHop(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_member_handle_t member,
+    const p4_pd_tessel_switch_setEcmpNextHop_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_del_member(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_create_group(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t max_size,
+    p4_pd_group_handle_t *group);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_del_group(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_add_member_to_group(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_del_member_from_group(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_group_member_state_set(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member, uint32_t state);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_group_member_state_get(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member, uint32_t *state);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_group_member_get_from_hash(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    const uint8_t *hash, uint32_t hash_length, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_set_dynamic_action_selection_fallback_member(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_reset_dynamic_action_selection_fallback_member(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_register_callback(
+    p4_pd_session_handle_t session, uint8_t device, pipe_mgr_sel_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_sel_track_updates(uint8_t device,
+    pipe_mgr_sel_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_register_adt_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_adt_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_register_sel_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_sel_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_adt_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_sel_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_member(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_member_handle_t member,
+    bool read_from_hardware, p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_first_member(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_next_members(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t member,
+    uint32_t count, p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_first_group(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_group_handle_t *group);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_next_groups(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_group_handle_t group,
+    uint32_t count, p4_pd_group_handle_t *groups);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_first_group_member(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_next_group_members(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member, uint32_t count, p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_act_prof_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_selector_group_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_selector_group_member_count(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_word_llp_active_member_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_word_llp_active_members(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t count,
+    p4_pd_member_handle_t *members);
+
+/* ==== Profile egrMirrorLagPortActionProfile (action data 0x02000075, selector 0x03000004) ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_add_member_with_setEgrLagMemberSelector(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setEgrLagMemberSelector_action_spec_t *action_spec,
+    p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_modify_member_with_setEgrLagMemberSelector(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_member_handle_t member,
+    const p4_pd_tessel_switch_setEgrLagMemberSelector_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_del_member(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_create_group(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t max_size,
+    p4_pd_group_handle_t *group);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_del_group(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_add_member_to_group(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_del_member_from_group(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_group_member_state_set(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member, uint32_t state);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_group_member_state_get(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member, uint32_t *state);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_group_member_get_from_hash(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    const uint8_t *hash, uint32_t hash_length, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_set_dynamic_action_selection_fallback_member(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_reset_dynamic_action_selection_fallback_member(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_register_callback(
+    p4_pd_session_handle_t session, uint8_t device, pipe_mgr_sel_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_sel_track_updates(uint8_t device,
+    pipe_mgr_sel_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_register_adt_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_adt_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_register_sel_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_sel_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_adt_table_handle(
+    uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_sel_table_handle(
+    uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_member(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_member_handle_t member,
+    bool read_from_hardware, p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_first_member(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_next_members(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t member,
+    uint32_t count, p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_first_group(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_group_handle_t *group);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_next_groups(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_group_handle_t group,
+    uint32_t count, p4_pd_group_handle_t *groups);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_first_group_member(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_next_group_members(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member, uint32_t count, p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_act_prof_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_selector_group_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_selector_group_member_count(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_word_llp_active_member_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_word_llp_active_members(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t count,
+    p4_pd_member_handle_t *members);
+
+/* ==== Profile mirrorLagPortActionProfile (action data 0x02000072, selector 0x03000003) ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_add_member_with_setLagMemberSelector(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setLagMemberSelector_action_spec_t *action_spec,
+    p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_modify_member_with_setLagMemberSelector(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_member_handle_t member,
+    const p4_pd_tessel_switch_setLagMemberSelector_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_del_member(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_create_group(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t max_size,
+    p4_pd_group_handle_t *group);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_del_group(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_add_member_to_group(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_del_member_from_group(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_group_member_state_set(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member, uint32_t state);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_group_member_state_get(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member, uint32_t *state);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_group_member_get_from_hash(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    const uint8_t *hash, uint32_t hash_length, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_set_dynamic_action_selection_fallback_member(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_reset_dynamic_action_selection_fallback_member(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_register_callback(
+    p4_pd_session_handle_t session, uint8_t device, pipe_mgr_sel_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_sel_track_updates(uint8_t device,
+    pipe_mgr_sel_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_register_adt_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_adt_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_register_sel_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_sel_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_adt_table_handle(
+    uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_sel_table_handle(
+    uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_member(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_member_handle_t member,
+    bool read_from_hardware, p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_first_member(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_next_members(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t member,
+    uint32_t count, p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_first_group(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_group_handle_t *group);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_next_groups(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_group_handle_t group,
+    uint32_t count, p4_pd_group_handle_t *groups);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_first_group_member(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_next_group_members(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member, uint32_t count, p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_act_prof_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_selector_group_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_selector_group_member_count(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_word_llp_active_member_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_word_llp_active_members(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t count,
+    p4_pd_member_handle_t *members);
+
+/* ==== Profile lagPortActionProfile (action data 0x02000046, selector 0x03000002) ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_add_member_with_setLagPort(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target,
+    const p4_pd_tessel_switch_setLagPort_action_spec_t *action_spec, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_modify_member_with_setLagPort(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_member_handle_t member,
+    const p4_pd_tessel_switch_setLagPort_action_spec_t *action_spec);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_add_member_with_setPhysicalPort(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_modify_member_with_setPhysicalPort(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_add_member_with_setTunnelInfo(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_modify_member_with_setTunnelInfo(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_add_member_with_invalidateUcastEgressPort(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_modify_member_with_invalidateUcastEgressPort(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_add_member_with_fixL2SubintfAlignment(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_modify_member_with_fixL2SubintfAlignment(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_del_member(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_create_group(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t max_size,
+    p4_pd_group_handle_t *group);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_del_group(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_group_handle_t group);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_add_member_to_group(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_del_member_from_group(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_group_member_state_set(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member, uint32_t state);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_group_member_state_get(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member, uint32_t *state);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_group_member_get_from_hash(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    const uint8_t *hash, uint32_t hash_length, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_set_dynamic_action_selection_fallback_member(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t member);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_reset_dynamic_action_selection_fallback_member(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_register_callback(
+    p4_pd_session_handle_t session, uint8_t device, pipe_mgr_sel_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_sel_track_updates(uint8_t device,
+    pipe_mgr_sel_update_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_register_adt_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_adt_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_register_sel_update_cb(
+    p4_pd_session_handle_t session, uint32_t device, pipe_mgr_sel_update_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_adt_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_sel_table_handle(uint32_t *handle);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_member(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_member_handle_t member, bool read_from_hardware,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_first_member(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_next_members(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_member_handle_t member,
+    uint32_t count, p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_first_group(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_group_handle_t *group);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_next_groups(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_group_handle_t group,
+    uint32_t count, p4_pd_group_handle_t *groups);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_first_group_member(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t *member);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_next_group_members(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group,
+    p4_pd_member_handle_t member, uint32_t count, p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_act_prof_entry_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_selector_group_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_selector_group_member_count(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_group_handle_t group, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_word_llp_active_member_count(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_word_llp_active_members(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t count,
+    p4_pd_member_handle_t *members);
+
+/* ==== Meters ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_meter_set_pdpMeter(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, const p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_meter_read_pdpMeter(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_meter_bytecount_adjust_set_pdpMeter(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t adjustment);
+p4_pd_status_t p4_pd_tessel_switch_meter_bytecount_adjust_get_pdpMeter(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *adjustment);
+p4_pd_status_t p4_pd_tessel_switch_meter_set_newFlowMeter(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, const p4_pd_packets_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_meter_read_newFlowMeter(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, p4_pd_packets_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_meter_bytecount_adjust_set_newFlowMeter(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t adjustment);
+p4_pd_status_t p4_pd_tessel_switch_meter_bytecount_adjust_get_newFlowMeter(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *adjustment);
+p4_pd_status_t p4_pd_tessel_switch_meter_set_firewallSipDropMeter(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, const p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_meter_read_firewallSipDropMeter(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_meter_bytecount_adjust_set_firewallSipDropMeter(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t adjustment);
+p4_pd_status_t p4_pd_tessel_switch_meter_bytecount_adjust_get_firewallSipDropMeter(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *adjustment);
+p4_pd_status_t p4_pd_tessel_switch_meter_set_firewallDipDropMeter(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, const p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_meter_read_firewallDipDropMeter(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_meter_bytecount_adjust_set_firewallDipDropMeter(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t adjustment);
+p4_pd_status_t p4_pd_tessel_switch_meter_bytecount_adjust_get_firewallDipDropMeter(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *adjustment);
+p4_pd_status_t p4_pd_tessel_switch_meter_set_stormControlMeter(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    const p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_meter_read_stormControlMeter(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_meter_bytecount_adjust_set_stormControlMeter(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t adjustment);
+p4_pd_status_t p4_pd_tessel_switch_meter_bytecount_adjust_get_stormControlMeter(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *adjustment);
+p4_pd_status_t p4_pd_tessel_switch_meter_set_ingressMirrorMeter(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, const p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_meter_read_ingressMirrorMeter(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_meter_bytecount_adjust_set_ingressMirrorMeter(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t adjustment);
+p4_pd_status_t p4_pd_tessel_switch_meter_bytecount_adjust_get_ingressMirrorMeter(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *adjustment);
+p4_pd_status_t p4_pd_tessel_switch_meter_set_egressMirrorMeter(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, const p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_meter_read_egressMirrorMeter(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_meter_bytecount_adjust_set_egressMirrorMeter(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t adjustment);
+p4_pd_status_t p4_pd_tessel_switch_meter_bytecount_adjust_get_egressMirrorMeter(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t *adjustment);
+p4_pd_status_t p4_pd_tessel_switch_bytes_meter_set(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t meter, uint32_t index,
+    const p4_pd_bytes_meter_spec_t *meter_spec, uint8_t has_pre_color);
+p4_pd_status_t p4_pd_tessel_switch_bytes_meter_read(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t meter, uint32_t index,
+    p4_pd_bytes_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_packets_meter_set(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t meter, uint32_t index,
+    const p4_pd_packets_meter_spec_t *meter_spec, uint8_t has_pre_color);
+p4_pd_status_t p4_pd_tessel_switch_packets_meter_read(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t meter, uint32_t index,
+    p4_pd_packets_meter_spec_t *meter_spec);
+p4_pd_status_t p4_pd_tessel_switch_wred_set(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t wred, uint32_t index, const p4_pd_wred_params_t *params);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,69 @@
+// From the pipeline manager's bytes back to typed records. Read-back is not unrolled per table: it
+// loops over the same descriptors that the encoders unroll.
+#pragma once
+
+#include "bf_sys.h"
+#include "descriptor.hpp"
+
+namespace pd {
+
+// Fills the match spec record of the table from value bytes; everything else in it becomes zero.
+void decode_key(const Table &table, const uint8_t *value, void *match_spec);
+
+// Adds the masks of ternary fields and the prefix lengths of lpm fields. An lpm mask with holes
+// reads as the prefix that ends at its lowest set bit.
+void decode_mask(const Table &table, const uint8_t *mask, void *match_spec);
+
+// The resources that an action attaches, packed. Allocated by the SDK's allocator.
+class ResourceList {
+ public:
+  ResourceList() = default;
+  ResourceList(const ResourceList &) = delete;
+  ResourceList &operator=(const ResourceList &) = delete;
+  ~ResourceList() { bf_sys_free(items_); }
+
+  // P4_PD_NO_MEMORY, or BF_SUCCESS. A spec without resources allocates nothing.
+  p4_pd_status_t build(const pipe_mgr_action_spec_t &spec);
+
+  const p4_pd_res_spec_t *items() const { return items_; }
+  uint32_t count() const { return count_; }
+
+ private:
+  p4_pd_res_spec_t *items_ = nullptr;
+  uint32_t count_ = 0;
+};
+
+// Fills the action spec record of the action from action data. A resource-index parameter reads
+// 0xffffffff when nothing is attached and 0 when only other resources are.
+void decode_action(const Action &action, const uint8_t *data, const p4_pd_res_spec_t *resources,
+                   uint32_t resource_count, void *action_spec);
+
+// The action that a table or profile carries under a handle; null when it is foreign.
+const Action *find_action(const Pair *pairs, uint32_t pair_count, uint32_t handle);
+
+// An action spec with a zeroed buffer for the action data to be read back.
+struct ReadAction {
+  pipe_mgr_action_spec_t spec;
+  uint8_t bytes[read_back_bytes];
+
+  explicit ReadAction(uint16_t byte_count);
+};
+
+// Largest key of any program: 64 fields would need more stack than this.
+inline constexpr uint16_t max_key_bytes = 256;
+
+// A match spec with zeroed buffers for the key to be read back.
+struct ReadKey {
+  pipe_mgr_match_spec_t spec;
+  uint8_t value[max_key_bytes];
+  uint8_t mask[max_key_bytes];
+
+  // With the table's counts set as an encoder sets them, or left 0.
+  ReadKey(const Table &table, bool with_counts);
+  bool has_key() const { return spec.value != nullptr; }
+};
+
+// Decodes a key that was read back: the value, and the mask where the table's kind has one.
+void decode_read_key(const Table &table, const ReadKey &key, void *match_spec);
+
+}  // namespace pd

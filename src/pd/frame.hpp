@@ -1,0 +1,26 @@
+// Start-up and teardown, and the library's only state: the client handle and one member-selector
+// state per action profile.
+#pragma once
+
+#include <cstdint>
+
+#include "descriptor.hpp"
+#include "p4_pd_types.h"
+
+namespace pd {
+
+// Room for every profile that a program may have; the generator refuses more.
+inline constexpr uint32_t max_profiles = 32;
+
+// Created by initialize and never destroyed; the same objects for the life of the process.
+extern p4_pd_ms_state_t *profile_states[max_profiles];
+
+inline p4_pd_ms_state_t *state_of(const Profile &profile) { return profile_states[profile.index]; }
+
+// Creates the states, registers the client and binds the device callbacks. A second call while the
+// client is registered is passed on to the framework, which refuses it; the states stay.
+p4_pd_status_t initialize(uint32_t *client);
+
+p4_pd_status_t clean_up(uint32_t client);
+
+}  // namespace pd

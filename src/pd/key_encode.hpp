@@ -1,0 +1,121 @@
+// From a typed match spec to the pipeline manager's key and mask bytes, unrolled per table.
+#pragma once
+
+#include "bytes.hpp"
+#include "descriptor.hpp"
+
+namespace pd {
+
+// Where the fields of a table's key end up, for the duration of one SDK call.
+template <class T>
+struct KeyBytes {
+  uint8_t value[T::table.key_bytes];
+  uint8_t mask[T::table.key_bytes];
+};
+
+namespace detail {
+
+template <KeyField F>
+inline void encode_exact(const uint8_t *record, uint8_t *value) {
+  if constexpr (F.storage == 16) {
+    __builtin_memcpy(value + F.position, record + F.offset, 16);
+  } else {
+    store_big_endian<F.bytes>(value + F.position, load<F.storage>(record + F.offset));
+  }
+}
+
+// The value keeps the bits that the caller's mask has set; the mask that is sent is cut to the
+// width of the field.
+template <KeyField F>
+inline void encode_ternary(const uint8_t *record, uint8_t *value, uint8_t *mask) {
+  if constexpr (F.storage == 16) {
+    for (size_t i = 0; i < 16; ++i) {
+      mask[F.position + i] = record[F.companion + i];
+      value[F.position + i] = record[F.offset + i] & record[F.companion + i];
+    }
+  } else {
+    const uint32_t bits = load<F.storage>(record + F.companion);
+    store_big_endian<F.bytes>(value + F.position, load<F.storage>(record + F.offset) & bits);
+    store_big_endian<F.bytes>(mask + F.position, bits & low_ones(F.width));
+  }
+}
+
+// An exact field among ternary ones: its mask is all ones of its width.
+template <KeyField F>
+inline void encode_exact_among_ternary(const uint8_t *record, uint8_t *value, uint8_t *mask) {
+  encode_exact<F>(record, value);
+  if constexpr (F.storage == 16) {
+    __builtin_memset(mask + F.position, 0xff, 16);
+  } else {
+    store_big_endian<F.bytes>(mask + F.position, low_ones(F.width));
+  }
+}
+
+// Leading ones of a prefix of length bits within the 32 bits that start at bit first.
+constexpr uint32_t prefix_word(unsigned length, unsigned first) {
+  if (length >= first + 32) return 0xffffffffu;
+  return length <= first ? 0 : ~(0xffffffffu >> (length - first));
+}
+
+// Writes the address and its mask and returns the entry's priority: the number of wildcard bits. A
+// prefix longer than the address leaves address and mask whole and comes after every other entry.
+template <class T, KeyField F>
+inline uint32_t encode_lpm(const uint8_t *record, uint8_t *value, uint8_t *mask) {
+  const unsigned length = load<2>(record + F.companion);
+  const bool whole = length > F.width;
+  if constexpr (F.storage == 16) {
+    for (unsigned word = 0; word < 4; ++word) {
+      const uint32_t ones = whole ? 0xffffffffu : prefix_word(length, 32 * word);
+      const uint32_t swapped = __builtin_bswap32(ones);
+      const uint32_t bits = load<4>(record + F.offset + 4 * word) & swapped;
+      __builtin_memcpy(mask + F.position + 4 * word, &swapped, 4);
+      __builtin_memcpy(value + F.position + 4 * word, &bits, 4);
+    }
+  } else {
+    const unsigned wildcard = F.width - length;
+    const uint32_t ones = whole ? 0xffffffffu : wildcard == 32 ? 0 : 0xffffffffu << wildcard;
+    store_big_endian<F.bytes>(mask + F.position, ones);
+    store_big_endian<F.bytes>(value + F.position, load<F.storage>(record + F.offset) & ones);
+  }
+  return whole ? T::table.key_bits + 1u : F.width - length;
+}
+
+template <class T, size_t I>
+inline void encode_field(const uint8_t *record, KeyBytes<T> &key, uint32_t &priority) {
+  constexpr KeyField field = T::key[I];
+  if constexpr (field.match == Match::lpm) {
+    priority = encode_lpm<T, field>(record, key.value, key.mask);
+  } else if constexpr (field.match == Match::ternary) {
+    encode_ternary<field>(record, key.value, key.mask);
+  } else if constexpr (T::table.kind == Kind::ternary) {
+    encode_exact_among_ternary<field>(record, key.value, key.mask);
+  } else {
+    encode_exact<field>(record, key.value);
+  }
+}
+
+}  // namespace detail
+
+// Fills spec and key from the record; spec points into key afterwards. priority is the caller's and
+// counts in ternary tables only.
+template <class T>
+inline void encode_key(const typename T::Record &record, uint32_t priority, KeyBytes<T> &key,
+                       pipe_mgr_match_spec_t &spec) {
+  clear(spec);
+  spec.valid_bit_count = T::table.key_bits;
+  spec.byte_count = T::table.key_bytes;
+  spec.value = key.value;
+  spec.mask = key.mask;
+  if constexpr (T::table.kind != Kind::ternary) {
+    __builtin_memset(key.mask, 0xff, sizeof key.mask);
+    priority = 0;
+  }
+  const auto *bytes = reinterpret_cast<const uint8_t *>(&record);
+  [&]<size_t... I>(std::index_sequence<I...>) {
+    (detail::encode_field<T, I>(bytes, key, priority), ...);
+  }
+  (std::make_index_sequence<T::table.field_count>{});
+  spec.priority = priority;
+}
+
+}  // namespace pd
