@@ -76,6 +76,14 @@
  *   low 32 bits of what the device holds. The byte-count adjustment is added to the length of
  *   every packet that the meter sees.
  *
+ * Placement data
+ *   What the pipeline manager holds of a placed entry or member, decoded into the records of
+ *   read-back; all outputs are mandatory. no_key is set for a default entry and for every
+ *   entry of a table without a key; match_spec then stays as it was. P4_PD_FOREIGN_ACTION for
+ *   an action that the table or profile does not have. restore_virtual_dev_state replays a
+ *   virtual device onto a device; members, groups and memberships are recorded in the
+ *   member-selector states on the way.
+ *
  * Made by pdgen from the catalogue of tessel_switch. Edit the catalogue and run
  * scripts/generate, not this file.
  */
@@ -991,6 +999,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressPortMapping_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2DmacClassify (0x01000002), ternary ==== */
 
@@ -1119,6 +1131,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2SmacCheck (0x01000003), ternary ==== */
 
@@ -1177,6 +1193,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2SmacCheck_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table kiteFlow1 (0x01000004), ternary ==== */
 
@@ -1279,6 +1299,9 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table kiteFlow2 (0x01000005), ternary ==== */
 
@@ -1394,6 +1417,9 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table kiteFlow3 (0x01000007), ternary ==== */
 
@@ -1559,6 +1585,9 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table kiteFlow1Counter (0x01000008), exact ==== */
 
@@ -1614,6 +1643,10 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_kiteFlow1Counter_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table kiteFlow2Counter (0x01000009), exact ==== */
 
@@ -1669,6 +1702,10 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_kiteFlow2Counter_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table kiteFlow3Counter (0x0100000a), exact ==== */
 
@@ -1724,6 +1761,10 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_kiteFlow3Counter_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table tunnelTermination (0x0100000b), ternary ==== */
 
@@ -1814,6 +1855,10 @@ p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2DomainLookup (0x0100000c), ternary ==== */
 
@@ -1910,6 +1955,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2DomainLookup_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table untaggedPktToL3 (0x0100000d), exact ==== */
 
@@ -1970,6 +2019,10 @@ p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_untaggedPktToL3_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table taggedXlatePktToL3 (0x0100000e), exact ==== */
 
@@ -2038,6 +2091,10 @@ p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table taggedPktToL3 (0x0100000f), exact ==== */
 
@@ -2097,6 +2154,10 @@ p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_taggedPktToL3_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table flowHashTypeSelect (0x01000014), ternary ==== */
 
@@ -2166,6 +2227,10 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_flowHashTypeSelect_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table newFlowRateLimit (0x0100001f), exact ==== */
 
@@ -2227,6 +2292,10 @@ p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_newFlowRateLimit_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table flowDigestGeneration (0x01000021), ternary ==== */
 
@@ -2293,6 +2362,10 @@ p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_flowDigestGeneration_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table firewallSrcSegmentLookup (0x01000022), ternary ==== */
 
@@ -2358,6 +2431,10 @@ p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_get_first_entry_hand
 p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table firewallIpSrcSegmentLookup (0x01000023), ternary ==== */
 
@@ -2426,6 +2503,10 @@ p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_get_first_entry_ha
 p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table firewallDstSegmentLookup (0x01000024), ternary ==== */
 
@@ -2491,6 +2572,10 @@ p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_get_first_entry_hand
 p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table firewallIpDstSegmentLookup (0x01000025), ternary ==== */
 
@@ -2559,6 +2644,10 @@ p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_get_first_entry_ha
 p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table firewallPolicy (0x01000026), ternary ==== */
 
@@ -2672,6 +2761,10 @@ p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_firewallPolicy_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ipv4ShortMaskLpm (0x0100002c), longest prefix, ages its entries ==== */
 
@@ -2793,6 +2886,10 @@ p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_update_hit_state(
     p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, uint32_t hit_state);
 p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_get_hit_state(p4_pd_session_handle_t session,
     uint8_t device, p4_pd_entry_handle_t entry, uint32_t *hit_state);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ipv6ShortMaskLpm (0x0100002d), longest prefix, ages its entries ==== */
 
@@ -2914,6 +3011,10 @@ p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_update_hit_state(
     p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, uint32_t hit_state);
 p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_get_hit_state(p4_pd_session_handle_t session,
     uint8_t device, p4_pd_entry_handle_t entry, uint32_t *hit_state);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table switchToCpu (0x0100002e), exact ==== */
 
@@ -2974,6 +3075,10 @@ p4_pd_status_t p4_pd_tessel_switch_switchToCpu_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_switchToCpu_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_switchToCpu_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ecmpGroup (0x0100002f), exact, bound to ecmpMemberActionProfile ==== */
 
@@ -3039,6 +3144,10 @@ p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_get_entry(p4_pd_session_handle_t se
     uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
     p4_pd_tessel_switch_ecmpGroup_match_spec_t *match_spec, bool *has_member, bool *has_group,
     p4_pd_group_handle_t *group, p4_pd_member_handle_t *member, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_ecmpGroup_match_spec_t *match_spec,
+    p4_pd_member_handle_t *member, p4_pd_group_handle_t *group, bool *has_member, bool *has_group,
+    bool *no_key);
 
 /* ==== Table reservedNextHop (0x01000031), exact ==== */
 
@@ -3099,6 +3208,10 @@ p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_reservedNextHop_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table nextHop (0x01000032), exact ==== */
 
@@ -3157,6 +3270,9 @@ p4_pd_status_t p4_pd_tessel_switch_nextHop_get_first_entry_handle(p4_pd_session_
 p4_pd_status_t p4_pd_tessel_switch_nextHop_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_nextHop_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table routerNextHop (0x01000033), exact ==== */
 
@@ -3216,6 +3332,10 @@ p4_pd_status_t p4_pd_tessel_switch_routerNextHop_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_routerNextHop_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_routerNextHop_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table hashComputeInnerIpHdr (0x01000038), exact ==== */
 
@@ -3281,6 +3401,10 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table lagHashSelection (0x0100003d), ternary ==== */
 
@@ -3405,6 +3529,10 @@ p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ecmpHashSelection (0x0100003e), ternary ==== */
 
@@ -3528,6 +3656,10 @@ p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ingressPortDropCheck (0x0100003f), ternary ==== */
 
@@ -3604,6 +3736,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2StaticMacSrcAddrDrop (0x01000040), exact ==== */
 
@@ -3672,6 +3808,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_get_first_entry_handle
 p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2LearningLookup (0x01000041), exact, ages its entries ==== */
 
@@ -3755,6 +3895,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_update_hit_state(
     p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, uint32_t hit_state);
 p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_get_hit_state(p4_pd_session_handle_t session,
     uint8_t device, p4_pd_entry_handle_t entry, uint32_t *hit_state);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2LearningLookup_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table vlanProperties (0x01000042), exact ==== */
 
@@ -3814,6 +3958,10 @@ p4_pd_status_t p4_pd_tessel_switch_vlanProperties_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_vlanProperties_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_vlanProperties_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table vrrpMacCheck (0x01000043), exact ==== */
 
@@ -3869,6 +4017,10 @@ p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_vrrpMacCheck_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l3DmacCheck (0x01000044), ternary ==== */
 
@@ -3951,6 +4103,10 @@ p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l3DmacCheck_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table learningDigestGeneration (0x01000045), ternary ==== */
 
@@ -4047,6 +4203,10 @@ p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_get_first_entry_hand
 p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table lagGroup (0x01000046), ternary, bound to lagPortActionProfile ==== */
 
@@ -4114,6 +4274,10 @@ p4_pd_status_t p4_pd_tessel_switch_lagGroup_get_entry(p4_pd_session_handle_t ses
     uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
     p4_pd_tessel_switch_lagGroup_match_spec_t *match_spec, uint32_t *priority, bool *has_member,
     bool *has_group, p4_pd_group_handle_t *group, p4_pd_member_handle_t *member, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_member_handle_t *member, p4_pd_group_handle_t *group,
+    bool *has_member, bool *has_group, bool *no_key);
 
 /* ==== Table l2ForwardParams (0x01000047), exact ==== */
 
@@ -4174,6 +4338,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2ForwardParams_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2LookupMiss (0x01000048), ternary ==== */
 
@@ -4265,6 +4433,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2LookupMiss_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2Lookup (0x01000049), exact ==== */
 
@@ -4363,6 +4535,9 @@ p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_first_entry_handle(p4_pd_session
 p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table mlagUcastPrune (0x0100004b), exact ==== */
 
@@ -4426,6 +4601,10 @@ p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_mlagUcastPrune_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table egressVlanXlate (0x0100004c), exact ==== */
 
@@ -4512,6 +4691,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressVlanXlate_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table globalFields (0x0100004d), ternary ==== */
 
@@ -4642,6 +4825,10 @@ p4_pd_status_t p4_pd_tessel_switch_globalFields_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_globalFields_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table cpuEncapFields (0x0100004e), exact ==== */
 
@@ -4710,6 +4897,10 @@ p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_cpuEncapFields_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table srcIntfToNyxIntf (0x0100004f), exact ==== */
 
@@ -4770,6 +4961,10 @@ p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table vlanEncap (0x01000051), exact ==== */
 
@@ -4834,6 +5029,9 @@ p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_vlanEncap_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table encapDecap (0x01000052), ternary ==== */
 
@@ -5058,6 +5256,9 @@ p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table egressSamePortBridgingTest (0x01000053), exact ==== */
 
@@ -5118,6 +5319,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_get_first_entry_ha
 p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table qosPortProperties (0x01000054), exact ==== */
 
@@ -5178,6 +5383,10 @@ p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_qosPortProperties_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table normalizeCos (0x01000055), exact ==== */
 
@@ -5272,6 +5481,10 @@ p4_pd_status_t p4_pd_tessel_switch_normalizeCos_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_normalizeCos_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_normalizeCos_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table normalizeDscp (0x01000056), exact ==== */
 
@@ -5366,6 +5579,10 @@ p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ingressTrafficClass (0x01000057), ternary ==== */
 
@@ -5441,6 +5658,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressTrafficClass_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table qosRewrite (0x01000059), exact ==== */
 
@@ -5536,6 +5757,9 @@ p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_qosRewrite_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table tcDscpMap (0x0100005a), exact ==== */
 
@@ -5592,6 +5816,9 @@ p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_tcDscpMap_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table packetDscpRewrite (0x0100005b), ternary ==== */
 
@@ -5726,6 +5953,10 @@ p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table pdpClassify (0x0100005c), ternary ==== */
 
@@ -5797,6 +6028,10 @@ p4_pd_status_t p4_pd_tessel_switch_pdpClassify_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_pdpClassify_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_pdpClassify_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table pdpPolicy (0x0100005d), exact ==== */
 
@@ -5870,6 +6105,9 @@ p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_pdpPolicy_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table cpuEncap (0x0100005e), ternary ==== */
 
@@ -5995,6 +6233,9 @@ p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_first_entry_handle(p4_pd_session
 p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table nyxIntfToPhysical (0x01000060), ternary ==== */
 
@@ -6085,6 +6326,10 @@ p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2Multicast (0x01000061), exact ==== */
 
@@ -6146,6 +6391,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2Multicast_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2Multicast_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2Multicast_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table finalizeMcResult (0x01000062), ternary ==== */
 
@@ -6298,6 +6547,10 @@ p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2XRemap (0x01000063), exact ==== */
 
@@ -6353,6 +6606,9 @@ p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_first_entry_handle(p4_pd_session
 p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_l2XRemap_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table mcastPrune (0x01000064), ternary ==== */
 
@@ -6455,6 +6711,9 @@ p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table egressMcRemap (0x01000065), exact ==== */
 
@@ -6514,6 +6773,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressMcRemap_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table haloXformIpv4Sip (0x01000066), ternary ==== */
 
@@ -6591,6 +6854,10 @@ p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table haloXformIpv6Sip (0x01000067), ternary ==== */
 
@@ -6668,6 +6935,10 @@ p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table haloXformIpv4Dip (0x01000068), ternary ==== */
 
@@ -6740,6 +7011,10 @@ p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table haloXformIpv6Dip (0x01000069), ternary ==== */
 
@@ -6812,6 +7087,10 @@ p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table finalDropControl (0x0100006a), ternary ==== */
 
@@ -6958,6 +7237,10 @@ p4_pd_status_t p4_pd_tessel_switch_finalDropControl_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_finalDropControl_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table decapIngress (0x0100006b), exact ==== */
 
@@ -7056,6 +7339,10 @@ p4_pd_status_t p4_pd_tessel_switch_decapIngress_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_decapIngress_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table decapRestore (0x0100006c), exact ==== */
 
@@ -7121,6 +7408,10 @@ p4_pd_status_t p4_pd_tessel_switch_decapRestore_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_decapRestore_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_decapRestore_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table trapToCpu (0x0100006d), ternary ==== */
 
@@ -7251,6 +7542,9 @@ p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ingressMirrorSession (0x0100006e), ternary ==== */
 
@@ -7345,6 +7639,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressMirrorSession_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ingressMirrorRate (0x0100006f), exact ==== */
 
@@ -7412,6 +7710,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressMirrorRate_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ingressSflowSample (0x01000070), ternary ==== */
 
@@ -7481,6 +7783,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressSflowSample_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ingressMirrorResult (0x01000071), exact ==== */
 
@@ -7543,6 +7849,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressMirrorResult_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ingressMirrorLagGroup (0x01000072), exact, bound to mirrorLagPortActionProfile ==== */
 
@@ -7617,6 +7927,11 @@ p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_get_entry(p4_pd_session
     uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
     p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *match_spec, bool *has_member,
     bool *has_group, p4_pd_group_handle_t *group, p4_pd_member_handle_t *member, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    p4_pd_member_handle_t *member, p4_pd_group_handle_t *group, bool *has_member, bool *has_group,
+    bool *no_key);
 
 /* ==== Table mirrorPacketEncap (0x01000073), exact ==== */
 
@@ -7705,6 +8020,10 @@ p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table egressMirrorSession (0x01000074), exact ==== */
 
@@ -7765,6 +8084,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressMirrorSession_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table egressMirrorLagGroup (0x01000075), exact, bound to egrMirrorLagPortActionProfile ==== */
 
@@ -7839,6 +8162,11 @@ p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_get_entry(p4_pd_session_
     uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
     p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *match_spec, bool *has_member,
     bool *has_group, p4_pd_group_handle_t *group, p4_pd_member_handle_t *member, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    p4_pd_member_handle_t *member, p4_pd_group_handle_t *group, bool *has_member, bool *has_group,
+    bool *no_key);
 
 /* ==== Table egressMirrorRate (0x01000076), exact ==== */
 
@@ -7906,6 +8234,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressMirrorRate_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table egressPortDropCheck (0x01000078), ternary ==== */
 
@@ -7984,6 +8316,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressPortDropCheck_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table kiteFlowSetEgress (0x01000006), no key ==== */
 
@@ -8015,6 +8351,9 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowHashTypeAFirst (0x01000010), no key ==== */
 
@@ -8046,6 +8385,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowHashTypeASecond (0x01000011), no key ==== */
 
@@ -8077,6 +8419,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowHashTypeBFirst (0x01000012), no key ==== */
 
@@ -8108,6 +8453,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowHashTypeBSecond (0x01000013), no key ==== */
 
@@ -8139,6 +8487,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowSetupL4Ports (0x01000015), no key ==== */
 
@@ -8170,6 +8521,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowStateUpdateFirst (0x01000016), no key ==== */
 
@@ -8203,6 +8557,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowStateCheckFirst (0x01000017), no key ==== */
 
@@ -8234,6 +8591,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowBusyFirst (0x01000018), no key ==== */
 
@@ -8265,6 +8625,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowStateUpdateSecond (0x01000019), no key ==== */
 
@@ -8298,6 +8661,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowStateCheckSecond (0x0100001a), no key ==== */
 
@@ -8331,6 +8697,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowBusySecond (0x0100001b), no key ==== */
 
@@ -8362,6 +8731,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowStateConsolidate (0x0100001c), no key ==== */
 
@@ -8395,6 +8767,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowAddRecircHeader (0x0100001d), no key ==== */
 
@@ -8426,6 +8801,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowLimit (0x0100001e), no key ==== */
 
@@ -8458,6 +8836,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowRecircPacket (0x01000020), no key ==== */
 
@@ -8491,6 +8872,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table firewallSipMeterDrop (0x01000027), no key ==== */
 
@@ -8524,6 +8908,9 @@ p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table firewallDipMeterDrop (0x01000028), no key ==== */
 
@@ -8557,6 +8944,9 @@ p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table fragCheck (0x01000029), no key ==== */
 
@@ -8587,6 +8977,9 @@ p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table sipHash (0x0100002a), no key ==== */
 
@@ -8617,6 +9010,9 @@ p4_pd_status_t p4_pd_tessel_switch_sipHash_get_first_entry_handle(p4_pd_session_
 p4_pd_status_t p4_pd_tessel_switch_sipHash_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_sipHash_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table dipHash (0x0100002b), no key ==== */
 
@@ -8647,6 +9043,9 @@ p4_pd_status_t p4_pd_tessel_switch_dipHash_get_first_entry_handle(p4_pd_session_
 p4_pd_status_t p4_pd_tessel_switch_dipHash_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_dipHash_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table routedMartian (0x01000030), no key ==== */
 
@@ -8678,6 +9077,9 @@ p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table ingVlanCheck (0x01000034), no key ==== */
 
@@ -8709,6 +9111,9 @@ p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table ingStpCheck (0x01000035), no key ==== */
 
@@ -8740,6 +9145,9 @@ p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table egrVlanCheck (0x01000036), no key ==== */
 
@@ -8771,6 +9179,9 @@ p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table egrStpCheck (0x01000037), no key ==== */
 
@@ -8802,6 +9213,9 @@ p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table hashComputeInnerEthHdr (0x01000039), no key ==== */
 
@@ -8835,6 +9249,9 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_first_entry_handle
 p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table hashComputeOuterIpv4Hdr (0x0100003a), no key ==== */
 
@@ -8868,6 +9285,9 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_first_entry_handl
 p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table hashComputeOuterIpv6Hdr (0x0100003b), no key ==== */
 
@@ -8901,6 +9321,9 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_first_entry_handl
 p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table hashComputeIpAndL4Hdr (0x0100003c), no key ==== */
 
@@ -8934,6 +9357,9 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table samePortBridgingTest (0x0100004a), no key ==== */
 
@@ -8967,6 +9393,9 @@ p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table vlanDecap (0x01000050), no key ==== */
 
@@ -8997,6 +9426,9 @@ p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table qosRewriteConfig (0x01000058), no key ==== */
 
@@ -9030,6 +9462,9 @@ p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table queueCounters (0x0100005f), no key ==== */
 
@@ -9061,6 +9496,9 @@ p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table egressMirrorResult (0x01000077), no key ==== */
 
@@ -9092,6 +9530,9 @@ p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Profile ecmpMemberActionProfile (action data 0x0200002f, selector 0x03000001) ==== */
 
@@ -9171,6 +9612,11 @@ p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_word_llp_active_m
 p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_word_llp_active_members(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t count,
     p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_member_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_full_member_info_from_plcmt_data(
+    uint8_t device, p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
 
 /* ==== Profile egrMirrorLagPortActionProfile (action data 0x02000075, selector 0x03000004) ==== */
 
@@ -9252,6 +9698,11 @@ p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_word_llp_ac
 p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_word_llp_active_members(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t count,
     p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_member_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_full_member_info_from_plcmt_data(
+    uint8_t device, p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
 
 /* ==== Profile mirrorLagPortActionProfile (action data 0x02000072, selector 0x03000003) ==== */
 
@@ -9333,6 +9784,11 @@ p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_word_llp_activ
 p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_word_llp_active_members(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t count,
     p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_member_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_full_member_info_from_plcmt_data(
+    uint8_t device, p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
 
 /* ==== Profile lagPortActionProfile (action data 0x02000046, selector 0x03000002) ==== */
 
@@ -9427,6 +9883,11 @@ p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_word_llp_active_memb
 p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_word_llp_active_members(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t count,
     p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_member_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_full_member_info_from_plcmt_data(
+    uint8_t device, p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
 
 /* ==== Meters ==== */
 
@@ -9501,6 +9962,11 @@ p4_pd_status_t p4_pd_tessel_switch_packets_meter_read(p4_pd_session_handle_t ses
     p4_pd_packets_meter_spec_t *meter_spec);
 p4_pd_status_t p4_pd_tessel_switch_wred_set(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, uint32_t wred, uint32_t index, const p4_pd_wred_params_t *params);
+
+/* ==== Virtual devices ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_restore_virtual_dev_state(p4_pd_session_handle_t session,
+    uint32_t device, uint32_t virtual_device, uint32_t pipe, uint32_t flags);
 
 #ifdef __cplusplus
 }
