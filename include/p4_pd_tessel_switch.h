@@ -76,6 +76,14 @@
  *   low 32 bits of what the device holds. The byte-count adjustment is added to the length of
  *   every packet that the meter sees.
  *
+ * Placement data
+ *   What the pipeline manager holds of a placed entry or member, decoded into the records of
+ *   read-back; all outputs are mandatory. no_key is set for a default entry and for every
+ *   entry of a table without a key; match_spec then stays as it was. P4_PD_FOREIGN_ACTION for
+ *   an action that the table or profile does not have. restore_virtual_dev_state replays a
+ *   virtual device onto a device; members, groups and memberships are recorded in the
+ *   member-selector states on the way.
+ *
  * Counters
  *   counter_read_ and counter_write_ name the cell by entry handle for the counter of a table, else
  *   by index. A read with P4_PD_READ_FROM_HARDWARE in flags brings the cell up to date first;
@@ -1052,6 +1060,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressPortMapping_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2DmacClassify (0x01000002), ternary ==== */
 
@@ -1180,6 +1192,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2SmacCheck (0x01000003), ternary ==== */
 
@@ -1238,6 +1254,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2SmacCheck_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table kiteFlow1 (0x01000004), ternary ==== */
 
@@ -1340,6 +1360,9 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table kiteFlow2 (0x01000005), ternary ==== */
 
@@ -1455,6 +1478,9 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table kiteFlow3 (0x01000007), ternary ==== */
 
@@ -1620,6 +1646,9 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table kiteFlow1Counter (0x01000008), exact ==== */
 
@@ -1675,6 +1704,10 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_kiteFlow1Counter_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table kiteFlow2Counter (0x01000009), exact ==== */
 
@@ -1730,6 +1763,10 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_kiteFlow2Counter_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table kiteFlow3Counter (0x0100000a), exact ==== */
 
@@ -1785,6 +1822,10 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_kiteFlow3Counter_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table tunnelTermination (0x0100000b), ternary ==== */
 
@@ -1875,6 +1916,10 @@ p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2DomainLookup (0x0100000c), ternary ==== */
 
@@ -1971,6 +2016,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2DomainLookup_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table untaggedPktToL3 (0x0100000d), exact ==== */
 
@@ -2031,6 +2080,10 @@ p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_untaggedPktToL3_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table taggedXlatePktToL3 (0x0100000e), exact ==== */
 
@@ -2099,6 +2152,10 @@ p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table taggedPktToL3 (0x0100000f), exact ==== */
 
@@ -2158,6 +2215,10 @@ p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_taggedPktToL3_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table flowHashTypeSelect (0x01000014), ternary ==== */
 
@@ -2227,6 +2288,10 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_flowHashTypeSelect_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table newFlowRateLimit (0x0100001f), exact ==== */
 
@@ -2288,6 +2353,10 @@ p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_newFlowRateLimit_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table flowDigestGeneration (0x01000021), ternary ==== */
 
@@ -2354,6 +2423,10 @@ p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_flowDigestGeneration_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table firewallSrcSegmentLookup (0x01000022), ternary ==== */
 
@@ -2419,6 +2492,10 @@ p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_get_first_entry_hand
 p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table firewallIpSrcSegmentLookup (0x01000023), ternary ==== */
 
@@ -2487,6 +2564,10 @@ p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_get_first_entry_ha
 p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table firewallDstSegmentLookup (0x01000024), ternary ==== */
 
@@ -2552,6 +2633,10 @@ p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_get_first_entry_hand
 p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table firewallIpDstSegmentLookup (0x01000025), ternary ==== */
 
@@ -2620,6 +2705,10 @@ p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_get_first_entry_ha
 p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table firewallPolicy (0x01000026), ternary ==== */
 
@@ -2733,6 +2822,10 @@ p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_firewallPolicy_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ipv4ShortMaskLpm (0x0100002c), longest prefix, ages its entries ==== */
 
@@ -2854,6 +2947,10 @@ p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_update_hit_state(
     p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, uint32_t hit_state);
 p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_get_hit_state(p4_pd_session_handle_t session,
     uint8_t device, p4_pd_entry_handle_t entry, uint32_t *hit_state);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ipv6ShortMaskLpm (0x0100002d), longest prefix, ages its entries ==== */
 
@@ -2975,6 +3072,10 @@ p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_update_hit_state(
     p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, uint32_t hit_state);
 p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_get_hit_state(p4_pd_session_handle_t session,
     uint8_t device, p4_pd_entry_handle_t entry, uint32_t *hit_state);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table switchToCpu (0x0100002e), exact ==== */
 
@@ -3035,6 +3136,10 @@ p4_pd_status_t p4_pd_tessel_switch_switchToCpu_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_switchToCpu_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_switchToCpu_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ecmpGroup (0x0100002f), exact, bound to ecmpMemberActionProfile ==== */
 
@@ -3100,6 +3205,10 @@ p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_get_entry(p4_pd_session_handle_t se
     uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
     p4_pd_tessel_switch_ecmpGroup_match_spec_t *match_spec, bool *has_member, bool *has_group,
     p4_pd_group_handle_t *group, p4_pd_member_handle_t *member, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_ecmpGroup_match_spec_t *match_spec,
+    p4_pd_member_handle_t *member, p4_pd_group_handle_t *group, bool *has_member, bool *has_group,
+    bool *no_key);
 
 /* ==== Table reservedNextHop (0x01000031), exact ==== */
 
@@ -3160,6 +3269,10 @@ p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_reservedNextHop_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table nextHop (0x01000032), exact ==== */
 
@@ -3218,6 +3331,9 @@ p4_pd_status_t p4_pd_tessel_switch_nextHop_get_first_entry_handle(p4_pd_session_
 p4_pd_status_t p4_pd_tessel_switch_nextHop_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_nextHop_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table routerNextHop (0x01000033), exact ==== */
 
@@ -3277,6 +3393,10 @@ p4_pd_status_t p4_pd_tessel_switch_routerNextHop_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_routerNextHop_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_routerNextHop_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table hashComputeInnerIpHdr (0x01000038), exact ==== */
 
@@ -3342,6 +3462,10 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table lagHashSelection (0x0100003d), ternary ==== */
 
@@ -3466,6 +3590,10 @@ p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ecmpHashSelection (0x0100003e), ternary ==== */
 
@@ -3589,6 +3717,10 @@ p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ingressPortDropCheck (0x0100003f), ternary ==== */
 
@@ -3665,6 +3797,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2StaticMacSrcAddrDrop (0x01000040), exact ==== */
 
@@ -3733,6 +3869,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_get_first_entry_handle
 p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2LearningLookup (0x01000041), exact, ages its entries ==== */
 
@@ -3816,6 +3956,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_update_hit_state(
     p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, uint32_t hit_state);
 p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_get_hit_state(p4_pd_session_handle_t session,
     uint8_t device, p4_pd_entry_handle_t entry, uint32_t *hit_state);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2LearningLookup_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table vlanProperties (0x01000042), exact ==== */
 
@@ -3875,6 +4019,10 @@ p4_pd_status_t p4_pd_tessel_switch_vlanProperties_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_vlanProperties_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_vlanProperties_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table vrrpMacCheck (0x01000043), exact ==== */
 
@@ -3930,6 +4078,10 @@ p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_vrrpMacCheck_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l3DmacCheck (0x01000044), ternary ==== */
 
@@ -4012,6 +4164,10 @@ p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l3DmacCheck_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table learningDigestGeneration (0x01000045), ternary ==== */
 
@@ -4108,6 +4264,10 @@ p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_get_first_entry_hand
 p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table lagGroup (0x01000046), ternary, bound to lagPortActionProfile ==== */
 
@@ -4175,6 +4335,10 @@ p4_pd_status_t p4_pd_tessel_switch_lagGroup_get_entry(p4_pd_session_handle_t ses
     uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
     p4_pd_tessel_switch_lagGroup_match_spec_t *match_spec, uint32_t *priority, bool *has_member,
     bool *has_group, p4_pd_group_handle_t *group, p4_pd_member_handle_t *member, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_member_handle_t *member, p4_pd_group_handle_t *group,
+    bool *has_member, bool *has_group, bool *no_key);
 
 /* ==== Table l2ForwardParams (0x01000047), exact ==== */
 
@@ -4235,6 +4399,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2ForwardParams_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2LookupMiss (0x01000048), ternary ==== */
 
@@ -4326,6 +4494,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2LookupMiss_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2Lookup (0x01000049), exact ==== */
 
@@ -4424,6 +4596,9 @@ p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_first_entry_handle(p4_pd_session
 p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table mlagUcastPrune (0x0100004b), exact ==== */
 
@@ -4487,6 +4662,10 @@ p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_mlagUcastPrune_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table egressVlanXlate (0x0100004c), exact ==== */
 
@@ -4573,6 +4752,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressVlanXlate_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table globalFields (0x0100004d), ternary ==== */
 
@@ -4703,6 +4886,10 @@ p4_pd_status_t p4_pd_tessel_switch_globalFields_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_globalFields_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table cpuEncapFields (0x0100004e), exact ==== */
 
@@ -4771,6 +4958,10 @@ p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_cpuEncapFields_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table srcIntfToNyxIntf (0x0100004f), exact ==== */
 
@@ -4831,6 +5022,10 @@ p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table vlanEncap (0x01000051), exact ==== */
 
@@ -4895,6 +5090,9 @@ p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_vlanEncap_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table encapDecap (0x01000052), ternary ==== */
 
@@ -5119,6 +5317,9 @@ p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table egressSamePortBridgingTest (0x01000053), exact ==== */
 
@@ -5179,6 +5380,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_get_first_entry_ha
 p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table qosPortProperties (0x01000054), exact ==== */
 
@@ -5239,6 +5444,10 @@ p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_qosPortProperties_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table normalizeCos (0x01000055), exact ==== */
 
@@ -5333,6 +5542,10 @@ p4_pd_status_t p4_pd_tessel_switch_normalizeCos_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_normalizeCos_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_normalizeCos_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table normalizeDscp (0x01000056), exact ==== */
 
@@ -5427,6 +5640,10 @@ p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ingressTrafficClass (0x01000057), ternary ==== */
 
@@ -5502,6 +5719,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressTrafficClass_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table qosRewrite (0x01000059), exact ==== */
 
@@ -5597,6 +5818,9 @@ p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_qosRewrite_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table tcDscpMap (0x0100005a), exact ==== */
 
@@ -5653,6 +5877,9 @@ p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_tcDscpMap_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table packetDscpRewrite (0x0100005b), ternary ==== */
 
@@ -5787,6 +6014,10 @@ p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table pdpClassify (0x0100005c), ternary ==== */
 
@@ -5858,6 +6089,10 @@ p4_pd_status_t p4_pd_tessel_switch_pdpClassify_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_pdpClassify_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_pdpClassify_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table pdpPolicy (0x0100005d), exact ==== */
 
@@ -5931,6 +6166,9 @@ p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_pdpPolicy_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table cpuEncap (0x0100005e), ternary ==== */
 
@@ -6056,6 +6294,9 @@ p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_first_entry_handle(p4_pd_session
 p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table nyxIntfToPhysical (0x01000060), ternary ==== */
 
@@ -6146,6 +6387,10 @@ p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2Multicast (0x01000061), exact ==== */
 
@@ -6207,6 +6452,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2Multicast_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2Multicast_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2Multicast_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table finalizeMcResult (0x01000062), ternary ==== */
 
@@ -6359,6 +6608,10 @@ p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table l2XRemap (0x01000063), exact ==== */
 
@@ -6414,6 +6667,9 @@ p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_first_entry_handle(p4_pd_session
 p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_l2XRemap_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table mcastPrune (0x01000064), ternary ==== */
 
@@ -6516,6 +6772,9 @@ p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table egressMcRemap (0x01000065), exact ==== */
 
@@ -6575,6 +6834,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressMcRemap_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table haloXformIpv4Sip (0x01000066), ternary ==== */
 
@@ -6652,6 +6915,10 @@ p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table haloXformIpv6Sip (0x01000067), ternary ==== */
 
@@ -6729,6 +6996,10 @@ p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table haloXformIpv4Dip (0x01000068), ternary ==== */
 
@@ -6801,6 +7072,10 @@ p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table haloXformIpv6Dip (0x01000069), ternary ==== */
 
@@ -6873,6 +7148,10 @@ p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table finalDropControl (0x0100006a), ternary ==== */
 
@@ -7019,6 +7298,10 @@ p4_pd_status_t p4_pd_tessel_switch_finalDropControl_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_finalDropControl_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table decapIngress (0x0100006b), exact ==== */
 
@@ -7117,6 +7400,10 @@ p4_pd_status_t p4_pd_tessel_switch_decapIngress_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_decapIngress_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table decapRestore (0x0100006c), exact ==== */
 
@@ -7182,6 +7469,10 @@ p4_pd_status_t p4_pd_tessel_switch_decapRestore_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_decapRestore_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_decapRestore_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table trapToCpu (0x0100006d), ternary ==== */
 
@@ -7312,6 +7603,9 @@ p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ingressMirrorSession (0x0100006e), ternary ==== */
 
@@ -7406,6 +7700,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressMirrorSession_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ingressMirrorRate (0x0100006f), exact ==== */
 
@@ -7473,6 +7771,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressMirrorRate_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ingressSflowSample (0x01000070), ternary ==== */
 
@@ -7542,6 +7844,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressSflowSample_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ingressMirrorResult (0x01000071), exact ==== */
 
@@ -7604,6 +7910,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressMirrorResult_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table ingressMirrorLagGroup (0x01000072), exact, bound to mirrorLagPortActionProfile ==== */
 
@@ -7678,6 +7988,11 @@ p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_get_entry(p4_pd_session
     uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
     p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *match_spec, bool *has_member,
     bool *has_group, p4_pd_group_handle_t *group, p4_pd_member_handle_t *member, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    p4_pd_member_handle_t *member, p4_pd_group_handle_t *group, bool *has_member, bool *has_group,
+    bool *no_key);
 
 /* ==== Table mirrorPacketEncap (0x01000073), exact ==== */
 
@@ -7766,6 +8081,10 @@ p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table egressMirrorSession (0x01000074), exact ==== */
 
@@ -7826,6 +8145,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressMirrorSession_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table egressMirrorLagGroup (0x01000075), exact, bound to egrMirrorLagPortActionProfile ==== */
 
@@ -7900,6 +8223,11 @@ p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_get_entry(p4_pd_session_
     uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
     p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *match_spec, bool *has_member,
     bool *has_group, p4_pd_group_handle_t *group, p4_pd_member_handle_t *member, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    p4_pd_member_handle_t *member, p4_pd_group_handle_t *group, bool *has_member, bool *has_group,
+    bool *no_key);
 
 /* ==== Table egressMirrorRate (0x01000076), exact ==== */
 
@@ -7967,6 +8295,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressMirrorRate_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table egressPortDropCheck (0x01000078), ternary ==== */
 
@@ -8045,6 +8377,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressPortDropCheck_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 
 /* ==== Table kiteFlowSetEgress (0x01000006), no key ==== */
 
@@ -8076,6 +8412,9 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowHashTypeAFirst (0x01000010), no key ==== */
 
@@ -8107,6 +8446,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowHashTypeASecond (0x01000011), no key ==== */
 
@@ -8138,6 +8480,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowHashTypeBFirst (0x01000012), no key ==== */
 
@@ -8169,6 +8514,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowHashTypeBSecond (0x01000013), no key ==== */
 
@@ -8200,6 +8548,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowSetupL4Ports (0x01000015), no key ==== */
 
@@ -8231,6 +8582,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowStateUpdateFirst (0x01000016), no key ==== */
 
@@ -8264,6 +8618,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowStateCheckFirst (0x01000017), no key ==== */
 
@@ -8295,6 +8652,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowBusyFirst (0x01000018), no key ==== */
 
@@ -8326,6 +8686,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowStateUpdateSecond (0x01000019), no key ==== */
 
@@ -8359,6 +8722,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowStateCheckSecond (0x0100001a), no key ==== */
 
@@ -8392,6 +8758,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowBusySecond (0x0100001b), no key ==== */
 
@@ -8423,6 +8792,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowStateConsolidate (0x0100001c), no key ==== */
 
@@ -8456,6 +8828,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowAddRecircHeader (0x0100001d), no key ==== */
 
@@ -8487,6 +8862,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowLimit (0x0100001e), no key ==== */
 
@@ -8519,6 +8897,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table flowRecircPacket (0x01000020), no key ==== */
 
@@ -8552,6 +8933,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table firewallSipMeterDrop (0x01000027), no key ==== */
 
@@ -8585,6 +8969,9 @@ p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table firewallDipMeterDrop (0x01000028), no key ==== */
 
@@ -8618,6 +9005,9 @@ p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table fragCheck (0x01000029), no key ==== */
 
@@ -8648,6 +9038,9 @@ p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table sipHash (0x0100002a), no key ==== */
 
@@ -8678,6 +9071,9 @@ p4_pd_status_t p4_pd_tessel_switch_sipHash_get_first_entry_handle(p4_pd_session_
 p4_pd_status_t p4_pd_tessel_switch_sipHash_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_sipHash_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table dipHash (0x0100002b), no key ==== */
 
@@ -8708,6 +9104,9 @@ p4_pd_status_t p4_pd_tessel_switch_dipHash_get_first_entry_handle(p4_pd_session_
 p4_pd_status_t p4_pd_tessel_switch_dipHash_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_dipHash_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table routedMartian (0x01000030), no key ==== */
 
@@ -8739,6 +9138,9 @@ p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table ingVlanCheck (0x01000034), no key ==== */
 
@@ -8770,6 +9172,9 @@ p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table ingStpCheck (0x01000035), no key ==== */
 
@@ -8801,6 +9206,9 @@ p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table egrVlanCheck (0x01000036), no key ==== */
 
@@ -8832,6 +9240,9 @@ p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table egrStpCheck (0x01000037), no key ==== */
 
@@ -8863,6 +9274,9 @@ p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table hashComputeInnerEthHdr (0x01000039), no key ==== */
 
@@ -8896,6 +9310,9 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_first_entry_handle
 p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table hashComputeOuterIpv4Hdr (0x0100003a), no key ==== */
 
@@ -8929,6 +9346,9 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_first_entry_handl
 p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table hashComputeOuterIpv6Hdr (0x0100003b), no key ==== */
 
@@ -8962,6 +9382,9 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_first_entry_handl
 p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table hashComputeIpAndL4Hdr (0x0100003c), no key ==== */
 
@@ -8995,6 +9418,9 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table samePortBridgingTest (0x0100004a), no key ==== */
 
@@ -9028,6 +9454,9 @@ p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table vlanDecap (0x01000050), no key ==== */
 
@@ -9058,6 +9487,9 @@ p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table qosRewriteConfig (0x01000058), no key ==== */
 
@@ -9091,6 +9523,9 @@ p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table queueCounters (0x0100005f), no key ==== */
 
@@ -9122,6 +9557,9 @@ p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Table egressMirrorResult (0x01000077), no key ==== */
 
@@ -9153,6 +9591,9 @@ p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 
 /* ==== Profile ecmpMemberActionProfile (action data 0x0200002f, selector 0x03000001) ==== */
 
@@ -9232,6 +9673,11 @@ p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_word_llp_active_m
 p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_word_llp_active_members(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t count,
     p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_member_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_full_member_info_from_plcmt_data(
+    uint8_t device, p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
 
 /* ==== Profile egrMirrorLagPortActionProfile (action data 0x02000075, selector 0x03000004) ==== */
 
@@ -9313,6 +9759,11 @@ p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_word_llp_ac
 p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_word_llp_active_members(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t count,
     p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_member_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_full_member_info_from_plcmt_data(
+    uint8_t device, p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
 
 /* ==== Profile mirrorLagPortActionProfile (action data 0x02000072, selector 0x03000003) ==== */
 
@@ -9394,6 +9845,11 @@ p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_word_llp_activ
 p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_word_llp_active_members(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t count,
     p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_member_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_full_member_info_from_plcmt_data(
+    uint8_t device, p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
 
 /* ==== Profile lagPortActionProfile (action data 0x02000046, selector 0x03000002) ==== */
 
@@ -9488,6 +9944,11 @@ p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_word_llp_active_memb
 p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_word_llp_active_members(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t count,
     p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_member_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_full_member_info_from_plcmt_data(
+    uint8_t device, p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
 
 /* ==== Meters ==== */
 
@@ -9562,6 +10023,11 @@ p4_pd_status_t p4_pd_tessel_switch_packets_meter_read(p4_pd_session_handle_t ses
     p4_pd_packets_meter_spec_t *meter_spec);
 p4_pd_status_t p4_pd_tessel_switch_wred_set(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, uint32_t wred, uint32_t index, const p4_pd_wred_params_t *params);
+
+/* ==== Virtual devices ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_restore_virtual_dev_state(p4_pd_session_handle_t session,
+    uint32_t device, uint32_t virtual_device, uint32_t pipe, uint32_t flags);
 
 /* ==== Counters ==== */
 

@@ -102,6 +102,7 @@ Parameter out_match_spec(const Program &program, const Table &table) {
 }
 Parameter priority() { return {"uint32_t", "priority"}; }
 Parameter from_hardware() { return {"bool", "read_from_hardware"}; }
+Parameter placement() { return {"const pipe_mgr_placement_t *", "placement"}; }
 Parameter ttl() { return {"uint32_t", "ttl"}; }
 Parameter meter_spec() { return {"const p4_pd_bytes_meter_spec_t *", "meter_spec"}; }
 Parameter sync_callback() { return {"pipe_mgr_sync_cb_t", "callback"}; }
@@ -124,6 +125,7 @@ Api build_api(const Program &program) {
   add_indirect_functions(api);
   add_profile_functions(api);
   add_meter_functions(api);
+  add_placement_functions(api);
   add_counter_functions(api);
   add_register_functions(api);
   add_hash_functions(api);

@@ -99,6 +99,7 @@ Parameter out_match_spec(const Program &program, const Table &table);
 Parameter priority();
 Parameter ttl();
 Parameter from_hardware();  // bool
+Parameter placement();
 Parameter meter_spec();
 Parameter sync_callback();
 Parameter cookie();
@@ -117,6 +118,7 @@ void add_idle_functions(Api &api);
 void add_indirect_functions(Api &api);
 void add_profile_functions(Api &api);
 void add_meter_functions(Api &api);
+void add_placement_functions(Api &api);
 void add_counter_functions(Api &api);
 void add_register_functions(Api &api);
 void add_hash_functions(Api &api);
