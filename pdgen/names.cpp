@@ -108,6 +108,8 @@ std::string snapshot_capture_type(const Program &program) {
   return name_prefix(program) + "snapshot_capture_t";
 }
 
+std::string type_tag(const std::string &type) { return type.substr(0, type.size() - 2); }
+
 std::string param_member(const Param &param) { return "action_" + param.name; }
 
 std::string mask_member(std::string_view field) { return fmt::format("{}_mask", field); }

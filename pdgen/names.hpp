@@ -69,6 +69,9 @@ std::string hash_field_attr_type(const Program &program);  // record of the by-n
 std::string snapshot_trigger_type(const Program &program, const SnapshotLayout &layout);
 std::string snapshot_capture_type(const Program &program);
 
+// The tag of a struct or enumeration: its type name without the ending.
+std::string type_tag(const std::string &type);
+
 // Members of the records.
 std::string param_member(const Param &param);              // action_<param>
 std::string mask_member(std::string_view field);           // <field>_mask
