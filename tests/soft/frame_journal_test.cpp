@@ -1,7 +1,7 @@
 // The call journal and the fault plan.
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <set>
 #include <thread>
 
 #include "bf_sys.h"
