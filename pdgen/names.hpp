@@ -69,6 +69,11 @@ std::string hash_field_attr_type(const Program &program);  // record of the by-n
 std::string snapshot_trigger_type(const Program &program, const SnapshotLayout &layout);
 std::string snapshot_capture_type(const Program &program);
 
+// P4_PD_<PROGRAM>_<family>, in capitals: "SCHEMA_MAX".
+std::string size_constant(const Program &program, std::string_view family);
+inline constexpr std::string_view kSizeFamilies[] = {"SCHEMA_MAX", "MATCH_SPEC_VALUE_MAX",
+                                                     "ACTION_VALUE_MAX", "VALUE_MAX", "LABEL_MAX"};
+
 // Members of the records.
 std::string param_member(const Param &param);              // action_<param>
 std::string mask_member(std::string_view field);           // <field>_mask
