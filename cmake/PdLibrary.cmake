@@ -8,7 +8,8 @@
 # --header (scripts/generate). With GENERATE_HEADER the header is made in the build folder instead.
 
 # The units into which pdgen splits the wrappers, in step with Api::begin_unit.
-set(PD_UNITS frame table entry_1 entry_2 default read_back idle indirect profile meter)
+set(PD_UNITS frame table entry_1 entry_2 default read_back idle indirect profile meter schema value
+  print label compare)
 
 function(pd_add_library program)
   cmake_parse_arguments(arg "GENERATE_HEADER" "CATALOGUE;HEADER_DIR;VERSION;SONAME" "" ${ARGN})
@@ -29,7 +30,8 @@ function(pd_add_library program)
   file(GLOB catalogue CONFIGURE_DEPENDS ${arg_CATALOGUE}/*.toml)
   add_custom_command(
     OUTPUT ${dir}/stamp
-    BYPRODUCTS ${wrappers} ${tables} ${dir}/descriptors.hpp ${dir}/exports.map ${dir}/layout_test.c
+    BYPRODUCTS ${wrappers} ${tables} ${dir}/descriptors.hpp ${dir}/records.hpp ${dir}/texts.hpp
+      ${dir}/schemas.hpp ${dir}/labels.hpp ${dir}/exports.map ${dir}/layout_test.c
     COMMAND pdgen --catalogue ${arg_CATALOGUE} --build ${dir} --soname ${arg_SONAME} ${header_option}
     COMMAND ${CMAKE_COMMAND} -E touch ${dir}/stamp
     DEPENDS pdgen ${catalogue}

@@ -86,6 +86,9 @@ std::string profile_group(const Profile &profile) {
                      hex32(profile.action_data_handle), hex32(profile.selector_handle));
 }
 
+std::string action_group() { return "Actions"; }
+std::string introspection_group() { return "Introspection"; }
+
 namespace parameter {
 
 Parameter session() { return {"p4_pd_session_handle_t", "session"}; }
@@ -107,6 +110,7 @@ Parameter meter_spec() { return {"const p4_pd_bytes_meter_spec_t *", "meter_spec
 Parameter action_spec(const Program &program, const Action &action) {
   return {"const " + action_spec_type(program, action) + " *", "action_spec"};
 }
+Parameter buffer() { return {"char *", "buffer"}; }
 
 }  // namespace parameter
 
@@ -122,6 +126,11 @@ Api build_api(const Program &program) {
   add_indirect_functions(api);
   add_profile_functions(api);
   add_meter_functions(api);
+  add_schema_functions(api);
+  add_value_functions(api);
+  add_print_functions(api);
+  add_label_functions(api);
+  add_compare_functions(api);
   return api;
 }
 

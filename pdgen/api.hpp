@@ -84,6 +84,8 @@ class Api {
 // Titles of the groups of objects in the header.
 std::string table_group(const Table &table);
 std::string profile_group(const Profile &profile);
+std::string action_group();
+std::string introspection_group();  // what belongs to no object
 
 // Parameters that many families share.
 namespace parameter {
@@ -101,6 +103,7 @@ Parameter ttl();
 Parameter from_hardware();  // bool
 Parameter meter_spec();
 Parameter action_spec(const Program &program, const Action &action);
+Parameter buffer();  // of a text
 
 }  // namespace parameter
 
@@ -115,6 +118,11 @@ void add_idle_functions(Api &api);
 void add_indirect_functions(Api &api);
 void add_profile_functions(Api &api);
 void add_meter_functions(Api &api);
+void add_schema_functions(Api &api);
+void add_value_functions(Api &api);
+void add_print_functions(Api &api);
+void add_label_functions(Api &api);
+void add_compare_functions(Api &api);
 
 // The whole interface.
 Api build_api(const Program &program);

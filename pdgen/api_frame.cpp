@@ -10,7 +10,6 @@ namespace pdgen {
 namespace {
 
 constexpr const char *kFrame = "Start and stop";
-constexpr const char *kActions = "Actions";
 
 // The tag of a struct or enumeration is its type name without the ending.
 std::string tag(const std::string &type) { return type.substr(0, type.size() - 2); }
@@ -146,7 +145,7 @@ void add_records(Api &api) {
   for (const Action &action : program.actions) {
     if (action.has_params()) records += action_spec_record(program, action);
   }
-  api.declare(kActions, action_enumeration(program) + records + action_specs_union(program));
+  api.declare(action_group(), action_enumeration(program) + records + action_specs_union(program));
   for (const Table &table : program.tables) {
     if (table.keyed()) api.declare(table_group(table), match_spec_record(program, table));
   }
