@@ -8,8 +8,9 @@
 # --header (scripts/generate). With GENERATE_HEADER the header is made in the build folder instead.
 
 # The units into which pdgen splits the wrappers, in step with Api::begin_unit.
-set(PD_UNITS frame table entry_1 entry_2 default read_back idle indirect profile meter schema value
-  print label compare)
+set(PD_UNITS frame table entry_1 entry_2 default read_back idle indirect profile meter
+  placement
+  schema value print label compare)
 
 function(pd_add_library program)
   cmake_parse_arguments(arg "GENERATE_HEADER" "CATALOGUE;HEADER_DIR;VERSION;SONAME" "" ${ARGN})

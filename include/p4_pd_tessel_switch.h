@@ -76,6 +76,14 @@
  *   low 32 bits of what the device holds. The byte-count adjustment is added to the length of
  *   every packet that the meter sees.
  *
+ * Placement data
+ *   What the pipeline manager holds of a placed entry or member, decoded into the records of
+ *   read-back; all outputs are mandatory. no_key is set for a default entry and for every
+ *   entry of a table without a key; match_spec then stays as it was. P4_PD_FOREIGN_ACTION for
+ *   an action that the table or profile does not have. restore_virtual_dev_state replays a
+ *   virtual device onto a device; members, groups and memberships are recorded in the
+ *   member-selector states on the way.
+ *
  * Schemas
  *   Objects described as literals of nested tuples, for tools that know none of them. The
  *   match-spec and action schemas are constants. The others are written into buffer with a NUL
@@ -2126,6 +2134,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressPortMapping_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_ingressPortMapping_match_spec_schema(void);
 int p4_pd_tessel_switch_ingressPortMapping_schema(char *buffer);
 int p4_pd_tessel_switch_ingressPortMapping_match_spec_value(
@@ -2266,6 +2278,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_l2DmacClassify_match_spec_schema(void);
 int p4_pd_tessel_switch_l2DmacClassify_schema(char *buffer);
 int p4_pd_tessel_switch_l2DmacClassify_match_spec_value(
@@ -2342,6 +2358,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2SmacCheck_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_l2SmacCheck_match_spec_schema(void);
 int p4_pd_tessel_switch_l2SmacCheck_schema(char *buffer);
 int p4_pd_tessel_switch_l2SmacCheck_match_spec_value(
@@ -2457,6 +2477,9 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_kiteFlow1_match_spec_schema(void);
 int p4_pd_tessel_switch_kiteFlow1_schema(char *buffer);
 int p4_pd_tessel_switch_kiteFlow1_match_spec_value(
@@ -2587,6 +2610,9 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_kiteFlow2_match_spec_schema(void);
 int p4_pd_tessel_switch_kiteFlow2_schema(char *buffer);
 int p4_pd_tessel_switch_kiteFlow2_match_spec_value(
@@ -2768,6 +2794,9 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_kiteFlow3_match_spec_schema(void);
 int p4_pd_tessel_switch_kiteFlow3_schema(char *buffer);
 int p4_pd_tessel_switch_kiteFlow3_match_spec_value(
@@ -2846,6 +2875,10 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_kiteFlow1Counter_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_kiteFlow1Counter_match_spec_schema(void);
 int p4_pd_tessel_switch_kiteFlow1Counter_schema(char *buffer);
 int p4_pd_tessel_switch_kiteFlow1Counter_match_spec_value(
@@ -2917,6 +2950,10 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_kiteFlow2Counter_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_kiteFlow2Counter_match_spec_schema(void);
 int p4_pd_tessel_switch_kiteFlow2Counter_schema(char *buffer);
 int p4_pd_tessel_switch_kiteFlow2Counter_match_spec_value(
@@ -2988,6 +3025,10 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_kiteFlow3Counter_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_kiteFlow3Counter_match_spec_schema(void);
 int p4_pd_tessel_switch_kiteFlow3Counter_schema(char *buffer);
 int p4_pd_tessel_switch_kiteFlow3Counter_match_spec_value(
@@ -3094,6 +3135,10 @@ p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_tunnelTermination_match_spec_schema(void);
 int p4_pd_tessel_switch_tunnelTermination_schema(char *buffer);
 int p4_pd_tessel_switch_tunnelTermination_match_spec_value(
@@ -3206,6 +3251,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2DomainLookup_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_l2DomainLookup_match_spec_schema(void);
 int p4_pd_tessel_switch_l2DomainLookup_schema(char *buffer);
 int p4_pd_tessel_switch_l2DomainLookup_match_spec_value(
@@ -3281,6 +3330,10 @@ p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_untaggedPktToL3_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_untaggedPktToL3_match_spec_schema(void);
 int p4_pd_tessel_switch_untaggedPktToL3_schema(char *buffer);
 int p4_pd_tessel_switch_untaggedPktToL3_match_spec_value(
@@ -3361,6 +3414,10 @@ p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_schema(void);
 int p4_pd_tessel_switch_taggedXlatePktToL3_schema(char *buffer);
 int p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_value(
@@ -3433,6 +3490,10 @@ p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_taggedPktToL3_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_taggedPktToL3_match_spec_schema(void);
 int p4_pd_tessel_switch_taggedPktToL3_schema(char *buffer);
 int p4_pd_tessel_switch_taggedPktToL3_match_spec_value(
@@ -3514,6 +3575,10 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_flowHashTypeSelect_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_flowHashTypeSelect_match_spec_schema(void);
 int p4_pd_tessel_switch_flowHashTypeSelect_schema(char *buffer);
 int p4_pd_tessel_switch_flowHashTypeSelect_match_spec_value(
@@ -3588,6 +3653,10 @@ p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_newFlowRateLimit_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_newFlowRateLimit_match_spec_schema(void);
 int p4_pd_tessel_switch_newFlowRateLimit_schema(char *buffer);
 int p4_pd_tessel_switch_newFlowRateLimit_match_spec_value(
@@ -3667,6 +3736,10 @@ p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_flowDigestGeneration_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_flowDigestGeneration_match_spec_schema(void);
 int p4_pd_tessel_switch_flowDigestGeneration_schema(char *buffer);
 int p4_pd_tessel_switch_flowDigestGeneration_match_spec_value(
@@ -3748,6 +3821,10 @@ p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_get_first_entry_hand
 p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_schema(void);
 int p4_pd_tessel_switch_firewallSrcSegmentLookup_schema(char *buffer);
 int p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_value(
@@ -3829,6 +3906,10 @@ p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_get_first_entry_ha
 p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_schema(void);
 int p4_pd_tessel_switch_firewallIpSrcSegmentLookup_schema(char *buffer);
 int p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_value(
@@ -3907,6 +3988,10 @@ p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_get_first_entry_hand
 p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_schema(void);
 int p4_pd_tessel_switch_firewallDstSegmentLookup_schema(char *buffer);
 int p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_value(
@@ -3988,6 +4073,10 @@ p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_get_first_entry_ha
 p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_schema(void);
 int p4_pd_tessel_switch_firewallIpDstSegmentLookup_schema(char *buffer);
 int p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_value(
@@ -4114,6 +4203,10 @@ p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_firewallPolicy_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_firewallPolicy_match_spec_schema(void);
 int p4_pd_tessel_switch_firewallPolicy_schema(char *buffer);
 int p4_pd_tessel_switch_firewallPolicy_match_spec_value(
@@ -4257,6 +4350,10 @@ p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_update_hit_state(
     p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, uint32_t hit_state);
 p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_get_hit_state(p4_pd_session_handle_t session,
     uint8_t device, p4_pd_entry_handle_t entry, uint32_t *hit_state);
+p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_schema(void);
 int p4_pd_tessel_switch_ipv4ShortMaskLpm_schema(char *buffer);
 int p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_value(
@@ -4391,6 +4488,10 @@ p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_update_hit_state(
     p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, uint32_t hit_state);
 p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_get_hit_state(p4_pd_session_handle_t session,
     uint8_t device, p4_pd_entry_handle_t entry, uint32_t *hit_state);
+p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_schema(void);
 int p4_pd_tessel_switch_ipv6ShortMaskLpm_schema(char *buffer);
 int p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_value(
@@ -4464,6 +4565,10 @@ p4_pd_status_t p4_pd_tessel_switch_switchToCpu_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_switchToCpu_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_switchToCpu_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_switchToCpu_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_switchToCpu_match_spec_schema(void);
 int p4_pd_tessel_switch_switchToCpu_schema(char *buffer);
 int p4_pd_tessel_switch_switchToCpu_match_spec_value(
@@ -4542,6 +4647,10 @@ p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_get_entry(p4_pd_session_handle_t se
     uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
     p4_pd_tessel_switch_ecmpGroup_match_spec_t *match_spec, bool *has_member, bool *has_group,
     p4_pd_group_handle_t *group, p4_pd_member_handle_t *member, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_ecmpGroup_match_spec_t *match_spec,
+    p4_pd_member_handle_t *member, p4_pd_group_handle_t *group, bool *has_member, bool *has_group,
+    bool *no_key);
 const char *p4_pd_tessel_switch_ecmpGroup_match_spec_schema(void);
 int p4_pd_tessel_switch_ecmpGroup_schema(char *buffer);
 int p4_pd_tessel_switch_ecmpGroup_match_spec_value(
@@ -4614,6 +4723,10 @@ p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_reservedNextHop_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_reservedNextHop_match_spec_schema(void);
 int p4_pd_tessel_switch_reservedNextHop_schema(char *buffer);
 int p4_pd_tessel_switch_reservedNextHop_match_spec_value(
@@ -4684,6 +4797,9 @@ p4_pd_status_t p4_pd_tessel_switch_nextHop_get_first_entry_handle(p4_pd_session_
 p4_pd_status_t p4_pd_tessel_switch_nextHop_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_nextHop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_nextHop_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_nextHop_match_spec_schema(void);
 int p4_pd_tessel_switch_nextHop_schema(char *buffer);
 int p4_pd_tessel_switch_nextHop_match_spec_value(
@@ -4755,6 +4871,10 @@ p4_pd_status_t p4_pd_tessel_switch_routerNextHop_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_routerNextHop_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_routerNextHop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_routerNextHop_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_routerNextHop_match_spec_schema(void);
 int p4_pd_tessel_switch_routerNextHop_schema(char *buffer);
 int p4_pd_tessel_switch_routerNextHop_match_spec_value(
@@ -4832,6 +4952,10 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_schema(void);
 int p4_pd_tessel_switch_hashComputeInnerIpHdr_schema(char *buffer);
 int p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_value(
@@ -4969,6 +5093,10 @@ p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_lagHashSelection_match_spec_schema(void);
 int p4_pd_tessel_switch_lagHashSelection_schema(char *buffer);
 int p4_pd_tessel_switch_lagHashSelection_match_spec_value(
@@ -5111,6 +5239,10 @@ p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_ecmpHashSelection_match_spec_schema(void);
 int p4_pd_tessel_switch_ecmpHashSelection_schema(char *buffer);
 int p4_pd_tessel_switch_ecmpHashSelection_match_spec_value(
@@ -5205,6 +5337,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_ingressPortDropCheck_match_spec_schema(void);
 int p4_pd_tessel_switch_ingressPortDropCheck_schema(char *buffer);
 int p4_pd_tessel_switch_ingressPortDropCheck_match_spec_value(
@@ -5295,6 +5431,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_get_first_entry_handle
 p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_schema(void);
 int p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_schema(char *buffer);
 int p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_value(
@@ -5392,6 +5532,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_update_hit_state(
     p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, uint32_t hit_state);
 p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_get_hit_state(p4_pd_session_handle_t session,
     uint8_t device, p4_pd_entry_handle_t entry, uint32_t *hit_state);
+p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2LearningLookup_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_l2LearningLookup_match_spec_schema(void);
 int p4_pd_tessel_switch_l2LearningLookup_schema(char *buffer);
 int p4_pd_tessel_switch_l2LearningLookup_match_spec_value(
@@ -5466,6 +5610,10 @@ p4_pd_status_t p4_pd_tessel_switch_vlanProperties_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_vlanProperties_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_vlanProperties_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_vlanProperties_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_vlanProperties_match_spec_schema(void);
 int p4_pd_tessel_switch_vlanProperties_schema(char *buffer);
 int p4_pd_tessel_switch_vlanProperties_match_spec_value(
@@ -5533,6 +5681,10 @@ p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_vrrpMacCheck_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_vrrpMacCheck_match_spec_schema(void);
 int p4_pd_tessel_switch_vrrpMacCheck_schema(char *buffer);
 int p4_pd_tessel_switch_vrrpMacCheck_match_spec_value(
@@ -5629,6 +5781,10 @@ p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l3DmacCheck_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_l3DmacCheck_match_spec_schema(void);
 int p4_pd_tessel_switch_l3DmacCheck_schema(char *buffer);
 int p4_pd_tessel_switch_l3DmacCheck_match_spec_value(
@@ -5741,6 +5897,10 @@ p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_get_first_entry_hand
 p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_learningDigestGeneration_match_spec_schema(void);
 int p4_pd_tessel_switch_learningDigestGeneration_schema(char *buffer);
 int p4_pd_tessel_switch_learningDigestGeneration_match_spec_value(
@@ -5826,6 +5986,10 @@ p4_pd_status_t p4_pd_tessel_switch_lagGroup_get_entry(p4_pd_session_handle_t ses
     uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
     p4_pd_tessel_switch_lagGroup_match_spec_t *match_spec, uint32_t *priority, bool *has_member,
     bool *has_group, p4_pd_group_handle_t *group, p4_pd_member_handle_t *member, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_lagGroup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_member_handle_t *member, p4_pd_group_handle_t *group,
+    bool *has_member, bool *has_group, bool *no_key);
 const char *p4_pd_tessel_switch_lagGroup_match_spec_schema(void);
 int p4_pd_tessel_switch_lagGroup_schema(char *buffer);
 int p4_pd_tessel_switch_lagGroup_match_spec_value(
@@ -5898,6 +6062,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2ForwardParams_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_l2ForwardParams_match_spec_schema(void);
 int p4_pd_tessel_switch_l2ForwardParams_schema(char *buffer);
 int p4_pd_tessel_switch_l2ForwardParams_match_spec_value(
@@ -6001,6 +6169,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2LookupMiss_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_l2LookupMiss_match_spec_schema(void);
 int p4_pd_tessel_switch_l2LookupMiss_schema(char *buffer);
 int p4_pd_tessel_switch_l2LookupMiss_match_spec_value(
@@ -6113,6 +6285,9 @@ p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_first_entry_handle(p4_pd_session
 p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_l2Lookup_match_spec_schema(void);
 int p4_pd_tessel_switch_l2Lookup_schema(char *buffer);
 int p4_pd_tessel_switch_l2Lookup_match_spec_value(
@@ -6190,6 +6365,10 @@ p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_mlagUcastPrune_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_mlagUcastPrune_match_spec_schema(void);
 int p4_pd_tessel_switch_mlagUcastPrune_schema(char *buffer);
 int p4_pd_tessel_switch_mlagUcastPrune_match_spec_value(
@@ -6288,6 +6467,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressVlanXlate_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_egressVlanXlate_match_spec_schema(void);
 int p4_pd_tessel_switch_egressVlanXlate_schema(char *buffer);
 int p4_pd_tessel_switch_egressVlanXlate_match_spec_value(
@@ -6431,6 +6614,10 @@ p4_pd_status_t p4_pd_tessel_switch_globalFields_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_globalFields_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_globalFields_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_globalFields_match_spec_schema(void);
 int p4_pd_tessel_switch_globalFields_schema(char *buffer);
 int p4_pd_tessel_switch_globalFields_match_spec_value(
@@ -6514,6 +6701,10 @@ p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_cpuEncapFields_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_cpuEncapFields_match_spec_schema(void);
 int p4_pd_tessel_switch_cpuEncapFields_schema(char *buffer);
 int p4_pd_tessel_switch_cpuEncapFields_match_spec_value(
@@ -6589,6 +6780,10 @@ p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_schema(void);
 int p4_pd_tessel_switch_srcIntfToNyxIntf_schema(char *buffer);
 int p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_value(
@@ -6665,6 +6860,9 @@ p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_vlanEncap_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_vlanEncap_match_spec_schema(void);
 int p4_pd_tessel_switch_vlanEncap_schema(char *buffer);
 int p4_pd_tessel_switch_vlanEncap_match_spec_value(
@@ -6903,6 +7101,9 @@ p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_encapDecap_match_spec_schema(void);
 int p4_pd_tessel_switch_encapDecap_schema(char *buffer);
 int p4_pd_tessel_switch_encapDecap_match_spec_value(
@@ -6982,6 +7183,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_get_first_entry_ha
 p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_schema(void);
 int p4_pd_tessel_switch_egressSamePortBridgingTest_schema(char *buffer);
 int p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_value(
@@ -7055,6 +7260,10 @@ p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_qosPortProperties_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_qosPortProperties_match_spec_schema(void);
 int p4_pd_tessel_switch_qosPortProperties_schema(char *buffer);
 int p4_pd_tessel_switch_qosPortProperties_match_spec_value(
@@ -7161,6 +7370,10 @@ p4_pd_status_t p4_pd_tessel_switch_normalizeCos_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_normalizeCos_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_normalizeCos_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_normalizeCos_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_normalizeCos_match_spec_schema(void);
 int p4_pd_tessel_switch_normalizeCos_schema(char *buffer);
 int p4_pd_tessel_switch_normalizeCos_match_spec_value(
@@ -7270,6 +7483,10 @@ p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_normalizeDscp_match_spec_schema(void);
 int p4_pd_tessel_switch_normalizeDscp_schema(char *buffer);
 int p4_pd_tessel_switch_normalizeDscp_match_spec_value(
@@ -7358,6 +7575,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressTrafficClass_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_ingressTrafficClass_match_spec_schema(void);
 int p4_pd_tessel_switch_ingressTrafficClass_schema(char *buffer);
 int p4_pd_tessel_switch_ingressTrafficClass_match_spec_value(
@@ -7472,6 +7693,9 @@ p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_qosRewrite_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_qosRewrite_match_spec_schema(void);
 int p4_pd_tessel_switch_qosRewrite_schema(char *buffer);
 int p4_pd_tessel_switch_qosRewrite_match_spec_value(
@@ -7544,6 +7768,9 @@ p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_tcDscpMap_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_tcDscpMap_match_spec_schema(void);
 int p4_pd_tessel_switch_tcDscpMap_schema(char *buffer);
 int p4_pd_tessel_switch_tcDscpMap_match_spec_value(
@@ -7690,6 +7917,10 @@ p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_packetDscpRewrite_match_spec_schema(void);
 int p4_pd_tessel_switch_packetDscpRewrite_schema(char *buffer);
 int p4_pd_tessel_switch_packetDscpRewrite_match_spec_value(
@@ -7779,6 +8010,10 @@ p4_pd_status_t p4_pd_tessel_switch_pdpClassify_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_pdpClassify_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_pdpClassify_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_pdpClassify_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_pdpClassify_match_spec_schema(void);
 int p4_pd_tessel_switch_pdpClassify_schema(char *buffer);
 int p4_pd_tessel_switch_pdpClassify_match_spec_value(
@@ -7870,6 +8105,9 @@ p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_pdpPolicy_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_pdpPolicy_match_spec_schema(void);
 int p4_pd_tessel_switch_pdpPolicy_schema(char *buffer);
 int p4_pd_tessel_switch_pdpPolicy_match_spec_value(
@@ -8008,6 +8246,9 @@ p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_first_entry_handle(p4_pd_session
 p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_cpuEncap_match_spec_schema(void);
 int p4_pd_tessel_switch_cpuEncap_schema(char *buffer);
 int p4_pd_tessel_switch_cpuEncap_match_spec_value(
@@ -8114,6 +8355,10 @@ p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_schema(void);
 int p4_pd_tessel_switch_nyxIntfToPhysical_schema(char *buffer);
 int p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_value(
@@ -8191,6 +8436,10 @@ p4_pd_status_t p4_pd_tessel_switch_l2Multicast_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_l2Multicast_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2Multicast_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_l2Multicast_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_l2Multicast_match_spec_schema(void);
 int p4_pd_tessel_switch_l2Multicast_schema(char *buffer);
 int p4_pd_tessel_switch_l2Multicast_match_spec_value(
@@ -8357,6 +8606,10 @@ p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_finalizeMcResult_match_spec_schema(void);
 int p4_pd_tessel_switch_finalizeMcResult_schema(char *buffer);
 int p4_pd_tessel_switch_finalizeMcResult_match_spec_value(
@@ -8432,6 +8685,9 @@ p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_first_entry_handle(p4_pd_session
 p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_l2XRemap_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_l2XRemap_match_spec_schema(void);
 int p4_pd_tessel_switch_l2XRemap_schema(char *buffer);
 int p4_pd_tessel_switch_l2XRemap_match_spec_value(
@@ -8546,6 +8802,9 @@ p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_mcastPrune_match_spec_schema(void);
 int p4_pd_tessel_switch_mcastPrune_schema(char *buffer);
 int p4_pd_tessel_switch_mcastPrune_match_spec_value(
@@ -8621,6 +8880,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressMcRemap_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_egressMcRemap_match_spec_schema(void);
 int p4_pd_tessel_switch_egressMcRemap_schema(char *buffer);
 int p4_pd_tessel_switch_egressMcRemap_match_spec_value(
@@ -8710,6 +8973,10 @@ p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_schema(void);
 int p4_pd_tessel_switch_haloXformIpv4Sip_schema(char *buffer);
 int p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_value(
@@ -8799,6 +9066,10 @@ p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_schema(void);
 int p4_pd_tessel_switch_haloXformIpv6Sip_schema(char *buffer);
 int p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_value(
@@ -8883,6 +9154,10 @@ p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_schema(void);
 int p4_pd_tessel_switch_haloXformIpv4Dip_schema(char *buffer);
 int p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_value(
@@ -8967,6 +9242,10 @@ p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_schema(void);
 int p4_pd_tessel_switch_haloXformIpv6Dip_schema(char *buffer);
 int p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_value(
@@ -9125,6 +9404,10 @@ p4_pd_status_t p4_pd_tessel_switch_finalDropControl_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_finalDropControl_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_finalDropControl_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_finalDropControl_match_spec_schema(void);
 int p4_pd_tessel_switch_finalDropControl_schema(char *buffer);
 int p4_pd_tessel_switch_finalDropControl_match_spec_value(
@@ -9266,6 +9549,10 @@ p4_pd_status_t p4_pd_tessel_switch_decapIngress_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_decapIngress_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_decapIngress_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_decapIngress_match_spec_schema(void);
 int p4_pd_tessel_switch_decapIngress_schema(char *buffer);
 int p4_pd_tessel_switch_decapIngress_match_spec_value(
@@ -9346,6 +9633,10 @@ p4_pd_status_t p4_pd_tessel_switch_decapRestore_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_decapRestore_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_decapRestore_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_decapRestore_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_decapRestore_match_spec_schema(void);
 int p4_pd_tessel_switch_decapRestore_schema(char *buffer);
 int p4_pd_tessel_switch_decapRestore_match_spec_value(
@@ -9490,6 +9781,9 @@ p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec,
+    uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_trapToCpu_match_spec_schema(void);
 int p4_pd_tessel_switch_trapToCpu_schema(char *buffer);
 int p4_pd_tessel_switch_trapToCpu_match_spec_value(
@@ -9619,6 +9913,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressMirrorSession_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_ingressMirrorSession_match_spec_schema(void);
 int p4_pd_tessel_switch_ingressMirrorSession_schema(char *buffer);
 int p4_pd_tessel_switch_ingressMirrorSession_match_spec_value(
@@ -9710,6 +10008,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressMirrorRate_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_ingressMirrorRate_match_spec_schema(void);
 int p4_pd_tessel_switch_ingressMirrorRate_schema(char *buffer);
 int p4_pd_tessel_switch_ingressMirrorRate_match_spec_value(
@@ -9791,6 +10093,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressSflowSample_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_ingressSflowSample_match_spec_schema(void);
 int p4_pd_tessel_switch_ingressSflowSample_schema(char *buffer);
 int p4_pd_tessel_switch_ingressSflowSample_match_spec_value(
@@ -9866,6 +10172,10 @@ p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressMirrorResult_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_ingressMirrorResult_match_spec_schema(void);
 int p4_pd_tessel_switch_ingressMirrorResult_schema(char *buffer);
 int p4_pd_tessel_switch_ingressMirrorResult_match_spec_value(
@@ -9954,6 +10264,11 @@ p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_get_entry(p4_pd_session
     uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
     p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *match_spec, bool *has_member,
     bool *has_group, p4_pd_group_handle_t *group, p4_pd_member_handle_t *member, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    p4_pd_member_handle_t *member, p4_pd_group_handle_t *group, bool *has_member, bool *has_group,
+    bool *no_key);
 const char *p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_schema(void);
 int p4_pd_tessel_switch_ingressMirrorLagGroup_schema(char *buffer);
 int p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_value(
@@ -10054,6 +10369,10 @@ p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_mirrorPacketEncap_match_spec_schema(void);
 int p4_pd_tessel_switch_mirrorPacketEncap_schema(char *buffer);
 int p4_pd_tessel_switch_mirrorPacketEncap_match_spec_value(
@@ -10127,6 +10446,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressMirrorSession_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_egressMirrorSession_match_spec_schema(void);
 int p4_pd_tessel_switch_egressMirrorSession_schema(char *buffer);
 int p4_pd_tessel_switch_egressMirrorSession_match_spec_value(
@@ -10213,6 +10536,11 @@ p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_get_entry(p4_pd_session_
     uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware,
     p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *match_spec, bool *has_member,
     bool *has_group, p4_pd_group_handle_t *group, p4_pd_member_handle_t *member, bool *no_key);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    p4_pd_member_handle_t *member, p4_pd_group_handle_t *group, bool *has_member, bool *has_group,
+    bool *no_key);
 const char *p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_schema(void);
 int p4_pd_tessel_switch_egressMirrorLagGroup_schema(char *buffer);
 int p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_value(
@@ -10292,6 +10620,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressMirrorRate_match_spec_t *match_spec,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_egressMirrorRate_match_spec_schema(void);
 int p4_pd_tessel_switch_egressMirrorRate_schema(char *buffer);
 int p4_pd_tessel_switch_egressMirrorRate_match_spec_value(
@@ -10382,6 +10714,10 @@ p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_egressPortDropCheck_match_spec_t *match_spec, uint32_t *priority,
+    p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
 const char *p4_pd_tessel_switch_egressPortDropCheck_match_spec_schema(void);
 int p4_pd_tessel_switch_egressPortDropCheck_schema(char *buffer);
 int p4_pd_tessel_switch_egressPortDropCheck_match_spec_value(
@@ -10436,6 +10772,9 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_kiteFlowSetEgress_schema(char *buffer);
 int p4_pd_tessel_switch_kiteFlowSetEgress_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -10470,6 +10809,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_flowHashTypeAFirst_schema(char *buffer);
 int p4_pd_tessel_switch_flowHashTypeAFirst_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -10504,6 +10846,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_flowHashTypeASecond_schema(char *buffer);
 int p4_pd_tessel_switch_flowHashTypeASecond_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -10538,6 +10883,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_flowHashTypeBFirst_schema(char *buffer);
 int p4_pd_tessel_switch_flowHashTypeBFirst_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -10572,6 +10920,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_flowHashTypeBSecond_schema(char *buffer);
 int p4_pd_tessel_switch_flowHashTypeBSecond_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -10606,6 +10957,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_flowSetupL4Ports_schema(char *buffer);
 int p4_pd_tessel_switch_flowSetupL4Ports_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -10642,6 +10996,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_flowStateUpdateFirst_schema(char *buffer);
 int p4_pd_tessel_switch_flowStateUpdateFirst_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -10676,6 +11033,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_flowStateCheckFirst_schema(char *buffer);
 int p4_pd_tessel_switch_flowStateCheckFirst_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -10710,6 +11070,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_flowBusyFirst_schema(char *buffer);
 int p4_pd_tessel_switch_flowBusyFirst_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -10746,6 +11109,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_flowStateUpdateSecond_schema(char *buffer);
 int p4_pd_tessel_switch_flowStateUpdateSecond_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -10782,6 +11148,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_flowStateCheckSecond_schema(char *buffer);
 int p4_pd_tessel_switch_flowStateCheckSecond_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -10816,6 +11185,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_flowBusySecond_schema(char *buffer);
 int p4_pd_tessel_switch_flowBusySecond_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -10852,6 +11224,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_flowStateConsolidate_schema(char *buffer);
 int p4_pd_tessel_switch_flowStateConsolidate_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -10886,6 +11261,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_flowAddRecircHeader_schema(char *buffer);
 int p4_pd_tessel_switch_flowAddRecircHeader_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -10921,6 +11299,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_flowLimit_schema(char *buffer);
 int p4_pd_tessel_switch_flowLimit_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -10957,6 +11338,9 @@ p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_flowRecircPacket_schema(char *buffer);
 int p4_pd_tessel_switch_flowRecircPacket_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -10993,6 +11377,9 @@ p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_firewallSipMeterDrop_schema(char *buffer);
 int p4_pd_tessel_switch_firewallSipMeterDrop_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11029,6 +11416,9 @@ p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_firewallDipMeterDrop_schema(char *buffer);
 int p4_pd_tessel_switch_firewallDipMeterDrop_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11062,6 +11452,9 @@ p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_fragCheck_schema(char *buffer);
 int p4_pd_tessel_switch_fragCheck_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11095,6 +11488,9 @@ p4_pd_status_t p4_pd_tessel_switch_sipHash_get_first_entry_handle(p4_pd_session_
 p4_pd_status_t p4_pd_tessel_switch_sipHash_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_sipHash_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_sipHash_schema(char *buffer);
 int p4_pd_tessel_switch_sipHash_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11128,6 +11524,9 @@ p4_pd_status_t p4_pd_tessel_switch_dipHash_get_first_entry_handle(p4_pd_session_
 p4_pd_status_t p4_pd_tessel_switch_dipHash_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_dipHash_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_dipHash_schema(char *buffer);
 int p4_pd_tessel_switch_dipHash_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11162,6 +11561,9 @@ p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_routedMartian_schema(char *buffer);
 int p4_pd_tessel_switch_routedMartian_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11196,6 +11598,9 @@ p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_ingVlanCheck_schema(char *buffer);
 int p4_pd_tessel_switch_ingVlanCheck_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11230,6 +11635,9 @@ p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_ingStpCheck_schema(char *buffer);
 int p4_pd_tessel_switch_ingStpCheck_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11264,6 +11672,9 @@ p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_egrVlanCheck_schema(char *buffer);
 int p4_pd_tessel_switch_egrVlanCheck_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11298,6 +11709,9 @@ p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_egrStpCheck_schema(char *buffer);
 int p4_pd_tessel_switch_egrStpCheck_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11334,6 +11748,9 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_first_entry_handle
 p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_hashComputeInnerEthHdr_schema(char *buffer);
 int p4_pd_tessel_switch_hashComputeInnerEthHdr_value(p4_pd_session_handle_t session,
     uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11370,6 +11787,9 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_first_entry_handl
 p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_schema(char *buffer);
 int p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_value(p4_pd_session_handle_t session,
     uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11406,6 +11826,9 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_first_entry_handl
 p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_schema(char *buffer);
 int p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_value(p4_pd_session_handle_t session,
     uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11442,6 +11865,9 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_hashComputeIpAndL4Hdr_schema(char *buffer);
 int p4_pd_tessel_switch_hashComputeIpAndL4Hdr_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11478,6 +11904,9 @@ p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_samePortBridgingTest_schema(char *buffer);
 int p4_pd_tessel_switch_samePortBridgingTest_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11511,6 +11940,9 @@ p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_first_entry_handle(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_next_entry_handles(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t count,
     p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_vlanDecap_schema(char *buffer);
 int p4_pd_tessel_switch_vlanDecap_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11547,6 +11979,9 @@ p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_qosRewriteConfig_schema(char *buffer);
 int p4_pd_tessel_switch_qosRewriteConfig_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11581,6 +12016,9 @@ p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_queueCounters_schema(char *buffer);
 int p4_pd_tessel_switch_queueCounters_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11615,6 +12053,9 @@ p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_first_entry_handle(
 p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_next_entry_handles(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
     uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_entry_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
+    bool *no_key);
 int p4_pd_tessel_switch_egressMirrorResult_schema(char *buffer);
 int p4_pd_tessel_switch_egressMirrorResult_value(p4_pd_session_handle_t session, uint8_t device,
     p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
@@ -11697,6 +12138,11 @@ p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_word_llp_active_m
 p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_word_llp_active_members(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t count,
     p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_member_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_full_member_info_from_plcmt_data(
+    uint8_t device, p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
 int p4_pd_tessel_switch_ecmpMemberActionProfile_schema(char *buffer);
 
 /* ==== Profile egrMirrorLagPortActionProfile (action data 0x02000075, selector 0x03000004) ==== */
@@ -11779,6 +12225,11 @@ p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_word_llp_ac
 p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_word_llp_active_members(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t count,
     p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_member_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_full_member_info_from_plcmt_data(
+    uint8_t device, p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
 int p4_pd_tessel_switch_egrMirrorLagPortActionProfile_schema(char *buffer);
 
 /* ==== Profile mirrorLagPortActionProfile (action data 0x02000072, selector 0x03000003) ==== */
@@ -11861,6 +12312,11 @@ p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_word_llp_activ
 p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_word_llp_active_members(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t count,
     p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_member_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_full_member_info_from_plcmt_data(
+    uint8_t device, p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
 int p4_pd_tessel_switch_mirrorLagPortActionProfile_schema(char *buffer);
 
 /* ==== Profile lagPortActionProfile (action data 0x02000046, selector 0x03000002) ==== */
@@ -11956,6 +12412,11 @@ p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_word_llp_active_memb
 p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_word_llp_active_members(
     p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t word, uint32_t count,
     p4_pd_member_handle_t *members);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_member_from_plcmt_data(
+    const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs);
+p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_full_member_info_from_plcmt_data(
+    uint8_t device, p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
+    p4_pd_tessel_switch_action_specs_t *action_specs);
 int p4_pd_tessel_switch_lagPortActionProfile_schema(char *buffer);
 
 /* ==== Meters ==== */
@@ -12031,6 +12492,11 @@ p4_pd_status_t p4_pd_tessel_switch_packets_meter_read(p4_pd_session_handle_t ses
     p4_pd_packets_meter_spec_t *meter_spec);
 p4_pd_status_t p4_pd_tessel_switch_wred_set(p4_pd_session_handle_t session,
     p4_pd_device_target_t target, uint32_t wred, uint32_t index, const p4_pd_wred_params_t *params);
+
+/* ==== Virtual devices ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_restore_virtual_dev_state(p4_pd_session_handle_t session,
+    uint32_t device, uint32_t virtual_device, uint32_t pipe, uint32_t flags);
 
 /* ==== Introspection ==== */
 

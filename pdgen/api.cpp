@@ -105,6 +105,7 @@ Parameter out_match_spec(const Program &program, const Table &table) {
 }
 Parameter priority() { return {"uint32_t", "priority"}; }
 Parameter from_hardware() { return {"bool", "read_from_hardware"}; }
+Parameter placement() { return {"const pipe_mgr_placement_t *", "placement"}; }
 Parameter ttl() { return {"uint32_t", "ttl"}; }
 Parameter meter_spec() { return {"const p4_pd_bytes_meter_spec_t *", "meter_spec"}; }
 Parameter action_spec(const Program &program, const Action &action) {
@@ -126,6 +127,7 @@ Api build_api(const Program &program) {
   add_indirect_functions(api);
   add_profile_functions(api);
   add_meter_functions(api);
+  add_placement_functions(api);
   add_schema_functions(api);
   add_value_functions(api);
   add_print_functions(api);

@@ -101,6 +101,7 @@ Parameter out_match_spec(const Program &program, const Table &table);
 Parameter priority();
 Parameter ttl();
 Parameter from_hardware();  // bool
+Parameter placement();
 Parameter meter_spec();
 Parameter action_spec(const Program &program, const Action &action);
 Parameter buffer();  // of a text
@@ -118,6 +119,7 @@ void add_idle_functions(Api &api);
 void add_indirect_functions(Api &api);
 void add_profile_functions(Api &api);
 void add_meter_functions(Api &api);
+void add_placement_functions(Api &api);
 void add_schema_functions(Api &api);
 void add_value_functions(Api &api);
 void add_print_functions(Api &api);

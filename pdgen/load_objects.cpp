@@ -45,7 +45,7 @@ Action read_action(const TomlValue &value, NameScope &names, Diagnostics &diagno
   for (const TomlValue *param : row.optional_rows("params")) {
     action.params.push_back(read_param(*param, row.what(), param_names, diagnostics));
   }
-  action.value = row.number("value", 0, kAnyNumber).value_or(kAnyNumber);
+  action.value = row.number("value", 0, kAnyNumber - 1).value_or(kAnyNumber);
   row.finish();
   return action;
 }

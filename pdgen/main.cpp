@@ -6,7 +6,9 @@
 #include <filesystem>
 #include <map>
 #include <string>
+#include <vector>
 
+#include "pdgen/check.hpp"
 #include "pdgen/emit.hpp"
 #include "pdgen/load.hpp"
 
@@ -47,6 +49,17 @@ bool parse(int argc, char **argv, Options &options) {
   return argc % 2 == 1 && !options.catalogue.empty();
 }
 
+// Two exports of one name are a fault of the catalogue that shows only here.
+pdgen::Diagnostics check(const pdgen::Api &api) {
+  std::vector<pdgen::ExportedFunction> functions;
+  for (const pdgen::Function *function : api.functions()) {
+    functions.push_back({function->name, function->object});
+  }
+  pdgen::Diagnostics diagnostics;
+  pdgen::check_exports(api.program(), functions, diagnostics);
+  return diagnostics;
+}
+
 void add_build_files(const pdgen::Api &api, const Options &options, pdgen::OutputFiles &files) {
   const std::filesystem::path folder = options.build;
   const pdgen::Program &program = api.program();
@@ -80,6 +93,10 @@ int main(int argc, char **argv) {
     return 1;
   }
   const pdgen::Api api = pdgen::build_api(*loaded.program);
+  if (const pdgen::Diagnostics faults = check(api); !faults.empty()) {
+    fmt::print(stderr, "{}", faults.text());
+    return 1;
+  }
   pdgen::OutputFiles files;
   if (!options.header.empty()) files.add(options.header, pdgen::emit_header(api));
   if (!options.exports.empty()) files.add(options.exports, pdgen::emit_exports(api));

@@ -17,15 +17,16 @@ struct ActionBytes {
 namespace detail {
 
 template <Param P>
-inline void encode_param(const uint8_t *record, uint8_t *bytes) {
+PD_INLINE void encode_param(const uint8_t *record, uint8_t *bytes) {
   const uint32_t value = P.is_index() ? 0 : load<P.storage>(record + P.offset);
   store_big_endian<P.bytes>(bytes + P.position, value);
 }
 
 // Appends the resource if the operation names it.
 template <Resource R, Operation Op>
-inline p4_pd_status_t encode_resource(const uint8_t *record, const p4_pd_bytes_meter_spec_t *meter,
-                                      pipe_mgr_action_spec_t &spec) {
+PD_INLINE p4_pd_status_t encode_resource(const uint8_t *record,
+                                         const p4_pd_bytes_meter_spec_t *meter,
+                                         pipe_mgr_action_spec_t &spec) {
   if constexpr ((R.operations & Op) != 0) {
     pipe_mgr_resource_t &resource = spec.resources[spec.resource_count];
     if constexpr (R.attach == Attach::meter_spec) {
@@ -49,43 +50,48 @@ inline p4_pd_status_t encode_resource(const uint8_t *record, const p4_pd_bytes_m
   return BF_SUCCESS;
 }
 
+template <class A, size_t... I>
+PD_INLINE void encode_params([[maybe_unused]] const uint8_t *record,
+                             [[maybe_unused]] uint8_t *bytes, std::index_sequence<I...>) {
+  (encode_param<A::params[I]>(record, bytes), ...);
+}
+
+// Stops at the first failure; only a meter spec can fail.
+template <class P, Operation Op, size_t... I>
+PD_INLINE p4_pd_status_t encode_resources([[maybe_unused]] const uint8_t *record,
+                                          [[maybe_unused]] const p4_pd_bytes_meter_spec_t *meter,
+                                          [[maybe_unused]] pipe_mgr_action_spec_t &spec,
+                                          std::index_sequence<I...>) {
+  p4_pd_status_t status = BF_SUCCESS;
+  (void)(((status = encode_resource<P::resources[I], Op>(record, meter, spec)) == BF_SUCCESS) &&
+         ...);
+  return status;
+}
+
 }  // namespace detail
 
 // Fills spec and data from the record, which is null for an action without parameters; spec points
 // into data afterwards.
 template <class A>
-inline void encode_action_data(const void *record, ActionBytes<A> &data,
-                               pipe_mgr_action_spec_t &spec) {
+PD_INLINE void encode_action_data(const void *record, ActionBytes<A> &data,
+                                  pipe_mgr_action_spec_t &spec) {
   clear(spec);
   spec.data.valid_bit_count = A::action.data_bits;
   spec.data.byte_count = A::action.data_bytes;
   spec.data.bytes = data.bytes;
-  [[maybe_unused]] const auto *bytes = static_cast<const uint8_t *>(record);
-  [&]<size_t... I>(std::index_sequence<I...>) {
-    (detail::encode_param<A::params[I]>(bytes, data.bytes), ...);
-  }
-  (std::make_index_sequence<A::action.param_count>{});
+  detail::encode_params<A>(static_cast<const uint8_t *>(record), data.bytes,
+                           std::make_index_sequence<A::action.param_count>{});
 }
 
 // The same with the resources that an operation of the pair P names.
 template <class P, Operation Op>
-inline p4_pd_status_t encode_action(const void *record, const p4_pd_bytes_meter_spec_t *meter,
-                                    ActionBytes<typename P::ActionType> &data,
-                                    pipe_mgr_action_spec_t &spec) {
+PD_INLINE p4_pd_status_t encode_action(const void *record, const p4_pd_bytes_meter_spec_t *meter,
+                                       ActionBytes<typename P::ActionType> &data,
+                                       pipe_mgr_action_spec_t &spec) {
   encode_action_data<typename P::ActionType>(record, data, spec);
   spec.type = PIPE_ACTION_DATA;
-  p4_pd_status_t status = BF_SUCCESS;
-  if constexpr (P::resource_count != 0) {
-    const auto *bytes = static_cast<const uint8_t *>(record);
-    [&]<size_t... I>(std::index_sequence<I...>) {
-      // Stops at the first failure; only a meter spec can fail.
-      (void)(((status = detail::encode_resource<P::resources[I], Op>(bytes, meter, spec)) ==
-              BF_SUCCESS) &&
-             ...);
-    }
-    (std::make_index_sequence<P::resource_count>{});
-  }
-  return status;
+  return detail::encode_resources<P, Op>(static_cast<const uint8_t *>(record), meter, spec,
+                                         std::make_index_sequence<P::resource_count>{});
 }
 
 }  // namespace pd

@@ -5,11 +5,15 @@
 #include <cstdint>
 #include <utility>
 
+// The verbs and codecs are inlined into the wrapper that names them: a call in between costs a
+// tenth of an entry add.
+#define PD_INLINE [[gnu::always_inline]] inline
+
 namespace pd {
 
 // The member of Storage bytes (1, 2 or 4) at an address of any alignment.
 template <size_t Storage>
-inline uint32_t load(const uint8_t *member) {
+PD_INLINE uint32_t load(const uint8_t *member) {
   if constexpr (Storage == 1) {
     return *member;
   } else if constexpr (Storage == 2) {
@@ -24,7 +28,7 @@ inline uint32_t load(const uint8_t *member) {
   }
 }
 
-inline uint32_t load(const uint8_t *member, unsigned storage) {
+PD_INLINE uint32_t load(const uint8_t *member, unsigned storage) {
   return storage == 1 ? load<1>(member) : storage == 2 ? load<2>(member) : load<4>(member);
 }
 
@@ -41,7 +45,7 @@ inline void store(uint8_t *member, unsigned storage, uint32_t value) {
 
 // The low Count bytes (1 to 4) of value, most significant first.
 template <size_t Count>
-inline void store_big_endian(uint8_t *bytes, uint32_t value) {
+PD_INLINE void store_big_endian(uint8_t *bytes, uint32_t value) {
   if constexpr (Count == 1) {
     *bytes = static_cast<uint8_t>(value);
   } else if constexpr (Count == 2) {
@@ -71,12 +75,12 @@ namespace detail {
 typedef uint32_t Chunk __attribute__((vector_size(16), aligned(4), may_alias));
 
 template <size_t... I>
-inline void clear_chunks(uint8_t *bytes, std::index_sequence<I...>) {
+PD_INLINE void clear_chunks(uint8_t *bytes, std::index_sequence<I...>) {
   ((*reinterpret_cast<Chunk *>(bytes + 16 * I) = Chunk{}), ...);
 }
 
 template <size_t... I>
-inline void clear_words(uint8_t *bytes, std::index_sequence<I...>) {
+PD_INLINE void clear_words(uint8_t *bytes, std::index_sequence<I...>) {
   typedef uint32_t Word __attribute__((may_alias));
   ((*reinterpret_cast<Word *>(bytes + 4 * I) = 0), ...);
 }
@@ -86,7 +90,7 @@ inline void clear_words(uint8_t *bytes, std::index_sequence<I...>) {
 // Zeroes a record with straight-line stores. Compilers turn a plain clear of a record of 300 bytes
 // into a string instruction that costs three times as much as encoding a key.
 template <class Record>
-inline void clear(Record &record) {
+PD_INLINE void clear(Record &record) {
   static_assert(sizeof(Record) % 4 == 0 && alignof(Record) >= 4);
   auto *bytes = reinterpret_cast<uint8_t *>(&record);
   constexpr size_t chunks = sizeof(Record) / 16;

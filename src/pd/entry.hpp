@@ -17,15 +17,15 @@ struct EntryOptions {
 
 // An action with parameters needs its record.
 template <class P>
-inline bool lacks_action(const void *action_spec) {
+PD_INLINE bool lacks_action(const void *action_spec) {
   return P::ActionType::action.param_count != 0 && action_spec == nullptr;
 }
 
 template <class P>
-inline p4_pd_status_t add_entry(p4_pd_session_handle_t session, p4_pd_device_target_t target,
-                                const typename P::TableType::Record *match_spec,
-                                const void *action_spec, EntryOptions options,
-                                p4_pd_entry_handle_t *entry) {
+PD_INLINE p4_pd_status_t add_entry(p4_pd_session_handle_t session, p4_pd_device_target_t target,
+                                   const typename P::TableType::Record *match_spec,
+                                   const void *action_spec, EntryOptions options,
+                                   p4_pd_entry_handle_t *entry) {
   if (match_spec == nullptr || lacks_action<P>(action_spec)) return P4_PD_NULL_ARGUMENT;
   using T = typename P::TableType;
   KeyBytes<T> key;
@@ -40,9 +40,9 @@ inline p4_pd_status_t add_entry(p4_pd_session_handle_t session, p4_pd_device_tar
 }
 
 template <class P>
-inline p4_pd_status_t modify_entry(p4_pd_session_handle_t session, uint8_t device,
-                                   p4_pd_entry_handle_t entry, const void *action_spec,
-                                   EntryOptions options) {
+PD_INLINE p4_pd_status_t modify_entry(p4_pd_session_handle_t session, uint8_t device,
+                                      p4_pd_entry_handle_t entry, const void *action_spec,
+                                      EntryOptions options) {
   if (lacks_action<P>(action_spec)) return P4_PD_NULL_ARGUMENT;
   ActionBytes<typename P::ActionType> data;
   pipe_mgr_action_spec_t action;
@@ -54,10 +54,10 @@ inline p4_pd_status_t modify_entry(p4_pd_session_handle_t session, uint8_t devic
 }
 
 template <class P>
-inline p4_pd_status_t modify_entry_by_match_spec(p4_pd_session_handle_t session,
-                                                 p4_pd_device_target_t target,
-                                                 const typename P::TableType::Record *match_spec,
-                                                 const void *action_spec, EntryOptions options) {
+PD_INLINE p4_pd_status_t modify_entry_by_match_spec(p4_pd_session_handle_t session,
+                                                    p4_pd_device_target_t target,
+                                                    const typename P::TableType::Record *match_spec,
+                                                    const void *action_spec, EntryOptions options) {
   if (match_spec == nullptr || lacks_action<P>(action_spec)) return P4_PD_NULL_ARGUMENT;
   using T = typename P::TableType;
   KeyBytes<T> key;
@@ -73,16 +73,16 @@ inline p4_pd_status_t modify_entry_by_match_spec(p4_pd_session_handle_t session,
 }
 
 template <class T>
-inline p4_pd_status_t delete_entry(p4_pd_session_handle_t session, uint8_t device,
-                                   p4_pd_entry_handle_t entry) {
+PD_INLINE p4_pd_status_t delete_entry(p4_pd_session_handle_t session, uint8_t device,
+                                      p4_pd_entry_handle_t entry) {
   return pipe_mgr_mat_ent_del(session, device, T::table.handle, entry, 0);
 }
 
 template <class T>
-inline p4_pd_status_t delete_entry_by_match_spec(p4_pd_session_handle_t session,
-                                                 p4_pd_device_target_t target,
-                                                 const typename T::Record *match_spec,
-                                                 EntryOptions options) {
+PD_INLINE p4_pd_status_t delete_entry_by_match_spec(p4_pd_session_handle_t session,
+                                                    p4_pd_device_target_t target,
+                                                    const typename T::Record *match_spec,
+                                                    EntryOptions options) {
   if (match_spec == nullptr) return P4_PD_NULL_ARGUMENT;
   KeyBytes<T> key;
   pipe_mgr_match_spec_t match;
@@ -92,9 +92,9 @@ inline p4_pd_status_t delete_entry_by_match_spec(p4_pd_session_handle_t session,
 }
 
 template <class T>
-inline p4_pd_status_t find_entry(p4_pd_session_handle_t session, p4_pd_device_target_t target,
-                                 const typename T::Record *match_spec, EntryOptions options,
-                                 p4_pd_entry_handle_t *entry) {
+PD_INLINE p4_pd_status_t find_entry(p4_pd_session_handle_t session, p4_pd_device_target_t target,
+                                    const typename T::Record *match_spec, EntryOptions options,
+                                    p4_pd_entry_handle_t *entry) {
   if (match_spec == nullptr) return P4_PD_NULL_ARGUMENT;
   KeyBytes<T> key;
   pipe_mgr_match_spec_t match;

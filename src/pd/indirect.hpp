@@ -17,30 +17,31 @@ struct Group {
 };
 
 // The action function handle of the member or group; the state's status when it knows none.
-inline p4_pd_status_t recorded_action(p4_pd_ms_state_t *state, uint32_t device, Member member,
-                                      uint32_t *action) {
+PD_INLINE p4_pd_status_t recorded_action(p4_pd_ms_state_t *state, uint32_t device, Member member,
+                                         uint32_t *action) {
   return p4_pd_ms_get_mbr_act(state, static_cast<uint8_t>(device), member.handle, action);
 }
-inline p4_pd_status_t recorded_action(p4_pd_ms_state_t *state, uint32_t device, Group group,
-                                      uint32_t *action) {
+PD_INLINE p4_pd_status_t recorded_action(p4_pd_ms_state_t *state, uint32_t device, Group group,
+                                         uint32_t *action) {
   return p4_pd_ms_get_grp_act(state, static_cast<uint8_t>(device), group.handle, action);
 }
 
-inline void point_at(pipe_mgr_action_spec_t &spec, Member member) {
+PD_INLINE void point_at(pipe_mgr_action_spec_t &spec, Member member) {
   clear(spec);
   spec.type = PIPE_ACTION_MEMBER;
   spec.member = member.handle;
 }
-inline void point_at(pipe_mgr_action_spec_t &spec, Group group) {
+PD_INLINE void point_at(pipe_mgr_action_spec_t &spec, Group group) {
   clear(spec);
   spec.type = PIPE_ACTION_GROUP;
   spec.group = group.handle;
 }
 
 template <class T, class Target>
-p4_pd_status_t add_indirect_entry(p4_pd_session_handle_t session, p4_pd_device_target_t target,
-                                  const typename T::Record *match_spec, uint32_t priority,
-                                  Target pointee, p4_pd_entry_handle_t *entry) {
+PD_INLINE p4_pd_status_t add_indirect_entry(p4_pd_session_handle_t session,
+                                            p4_pd_device_target_t target,
+                                            const typename T::Record *match_spec, uint32_t priority,
+                                            Target pointee, p4_pd_entry_handle_t *entry) {
   if (match_spec == nullptr) return P4_PD_NULL_ARGUMENT;
   KeyBytes<T> key;
   pipe_mgr_match_spec_t match;
@@ -56,8 +57,8 @@ p4_pd_status_t add_indirect_entry(p4_pd_session_handle_t session, p4_pd_device_t
 }
 
 template <class T, class Target>
-p4_pd_status_t modify_indirect_entry(p4_pd_session_handle_t session, uint8_t device,
-                                     p4_pd_entry_handle_t entry, Target pointee) {
+PD_INLINE p4_pd_status_t modify_indirect_entry(p4_pd_session_handle_t session, uint8_t device,
+                                               p4_pd_entry_handle_t entry, Target pointee) {
   pipe_mgr_action_spec_t spec;
   point_at(spec, pointee);
   uint32_t action = 0;
@@ -68,10 +69,10 @@ p4_pd_status_t modify_indirect_entry(p4_pd_session_handle_t session, uint8_t dev
 }
 
 template <class T, class Target>
-p4_pd_status_t modify_indirect_entry_by_match_spec(p4_pd_session_handle_t session,
-                                                   p4_pd_device_target_t target,
-                                                   const typename T::Record *match_spec,
-                                                   uint32_t priority, Target pointee) {
+PD_INLINE p4_pd_status_t modify_indirect_entry_by_match_spec(p4_pd_session_handle_t session,
+                                                             p4_pd_device_target_t target,
+                                                             const typename T::Record *match_spec,
+                                                             uint32_t priority, Target pointee) {
   if (match_spec == nullptr) return P4_PD_NULL_ARGUMENT;
   KeyBytes<T> key;
   pipe_mgr_match_spec_t match;
@@ -87,9 +88,9 @@ p4_pd_status_t modify_indirect_entry_by_match_spec(p4_pd_session_handle_t sessio
 }
 
 template <class T, class Target>
-p4_pd_status_t set_indirect_default_entry(p4_pd_session_handle_t session,
-                                          p4_pd_device_target_t target, Target pointee,
-                                          p4_pd_entry_handle_t *entry) {
+PD_INLINE p4_pd_status_t set_indirect_default_entry(p4_pd_session_handle_t session,
+                                                    p4_pd_device_target_t target, Target pointee,
+                                                    p4_pd_entry_handle_t *entry) {
   pipe_mgr_action_spec_t spec;
   point_at(spec, pointee);
   uint32_t action = 0;

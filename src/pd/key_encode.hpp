@@ -16,7 +16,7 @@ struct KeyBytes {
 namespace detail {
 
 template <KeyField F>
-inline void encode_exact(const uint8_t *record, uint8_t *value) {
+PD_INLINE void encode_exact(const uint8_t *record, uint8_t *value) {
   if constexpr (F.storage == 16) {
     __builtin_memcpy(value + F.position, record + F.offset, 16);
   } else {
@@ -27,7 +27,7 @@ inline void encode_exact(const uint8_t *record, uint8_t *value) {
 // The value keeps the bits that the caller's mask has set; the mask that is sent is cut to the
 // width of the field.
 template <KeyField F>
-inline void encode_ternary(const uint8_t *record, uint8_t *value, uint8_t *mask) {
+PD_INLINE void encode_ternary(const uint8_t *record, uint8_t *value, uint8_t *mask) {
   if constexpr (F.storage == 16) {
     for (size_t i = 0; i < 16; ++i) {
       mask[F.position + i] = record[F.companion + i];
@@ -42,7 +42,7 @@ inline void encode_ternary(const uint8_t *record, uint8_t *value, uint8_t *mask)
 
 // An exact field among ternary ones: its mask is all ones of its width.
 template <KeyField F>
-inline void encode_exact_among_ternary(const uint8_t *record, uint8_t *value, uint8_t *mask) {
+PD_INLINE void encode_exact_among_ternary(const uint8_t *record, uint8_t *value, uint8_t *mask) {
   encode_exact<F>(record, value);
   if constexpr (F.storage == 16) {
     __builtin_memset(mask + F.position, 0xff, 16);
@@ -51,25 +51,27 @@ inline void encode_exact_among_ternary(const uint8_t *record, uint8_t *value, ui
   }
 }
 
-// Leading ones of a prefix of length bits within the 32 bits that start at bit first.
-constexpr uint32_t prefix_word(unsigned length, unsigned first) {
-  if (length >= first + 32) return 0xffffffffu;
-  return length <= first ? 0 : ~(0xffffffffu >> (length - first));
+// The 64 bits from bit first on of a mask that starts with length ones.
+constexpr uint64_t prefix_word(unsigned length, unsigned first) {
+  if (length >= first + 64) return ~uint64_t{0};
+  return length <= first ? 0 : ~(~uint64_t{0} >> (length - first));
 }
 
 // Writes the address and its mask and returns the entry's priority: the number of wildcard bits. A
 // prefix longer than the address leaves address and mask whole and comes after every other entry.
 template <class T, KeyField F>
-inline uint32_t encode_lpm(const uint8_t *record, uint8_t *value, uint8_t *mask) {
+PD_INLINE uint32_t encode_lpm(const uint8_t *record, uint8_t *value, uint8_t *mask) {
   const unsigned length = load<2>(record + F.companion);
   const bool whole = length > F.width;
   if constexpr (F.storage == 16) {
-    for (unsigned word = 0; word < 4; ++word) {
-      const uint32_t ones = whole ? 0xffffffffu : prefix_word(length, 32 * word);
-      const uint32_t swapped = __builtin_bswap32(ones);
-      const uint32_t bits = load<4>(record + F.offset + 4 * word) & swapped;
-      __builtin_memcpy(mask + F.position + 4 * word, &swapped, 4);
-      __builtin_memcpy(value + F.position + 4 * word, &bits, 4);
+    const unsigned ones = whole ? 128 : length;
+    for (unsigned word = 0; word < 2; ++word) {
+      const uint64_t bits = __builtin_bswap64(prefix_word(ones, 64 * word));
+      uint64_t address;
+      __builtin_memcpy(&address, record + F.offset + 8 * word, 8);
+      address &= bits;
+      __builtin_memcpy(mask + F.position + 8 * word, &bits, 8);
+      __builtin_memcpy(value + F.position + 8 * word, &address, 8);
     }
   } else {
     const unsigned wildcard = F.width - length;
@@ -81,7 +83,7 @@ inline uint32_t encode_lpm(const uint8_t *record, uint8_t *value, uint8_t *mask)
 }
 
 template <class T, size_t I>
-inline void encode_field(const uint8_t *record, KeyBytes<T> &key, uint32_t &priority) {
+PD_INLINE void encode_field(const uint8_t *record, KeyBytes<T> &key, uint32_t &priority) {
   constexpr KeyField field = T::key[I];
   if constexpr (field.match == Match::lpm) {
     priority = encode_lpm<T, field>(record, key.value, key.mask);
@@ -94,13 +96,19 @@ inline void encode_field(const uint8_t *record, KeyBytes<T> &key, uint32_t &prio
   }
 }
 
+template <class T, size_t... I>
+PD_INLINE void encode_fields(const uint8_t *record, KeyBytes<T> &key, uint32_t &priority,
+                             std::index_sequence<I...>) {
+  (encode_field<T, I>(record, key, priority), ...);
+}
+
 }  // namespace detail
 
 // Fills spec and key from the record; spec points into key afterwards. priority is the caller's and
 // counts in ternary tables only.
 template <class T>
-inline void encode_key(const typename T::Record &record, uint32_t priority, KeyBytes<T> &key,
-                       pipe_mgr_match_spec_t &spec) {
+PD_INLINE void encode_key(const typename T::Record &record, uint32_t priority, KeyBytes<T> &key,
+                          pipe_mgr_match_spec_t &spec) {
   clear(spec);
   spec.valid_bit_count = T::table.key_bits;
   spec.byte_count = T::table.key_bytes;
@@ -111,10 +119,7 @@ inline void encode_key(const typename T::Record &record, uint32_t priority, KeyB
     priority = 0;
   }
   const auto *bytes = reinterpret_cast<const uint8_t *>(&record);
-  [&]<size_t... I>(std::index_sequence<I...>) {
-    (detail::encode_field<T, I>(bytes, key, priority), ...);
-  }
-  (std::make_index_sequence<T::table.field_count>{});
+  detail::encode_fields<T>(bytes, key, priority, std::make_index_sequence<T::table.field_count>{});
   spec.priority = priority;
 }
 

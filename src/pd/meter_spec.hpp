@@ -1,6 +1,7 @@
 // The caller's meter spec as the pipeline manager takes it.
 #pragma once
 
+#include "bytes.hpp"
 #include "p4_pd_types.h"
 
 namespace pd {
@@ -8,8 +9,8 @@ namespace pd {
 // Fills meter from a bytes or packets meter spec. A colour-aware meter needs a pre-colour input.
 // meter must be cleared before; nothing is written on failure.
 template <class Spec>
-inline p4_pd_status_t convert_meter(const Spec &spec, uint32_t rate_unit, bool has_pre_color,
-                                    pipe_mgr_meter_spec_t &meter) {
+PD_INLINE p4_pd_status_t convert_meter(const Spec &spec, uint32_t rate_unit, bool has_pre_color,
+                                       pipe_mgr_meter_spec_t &meter) {
   const bool aware = spec.meter_type == PD_METER_TYPE_COLOR_AWARE;
   if (!aware && spec.meter_type != PD_METER_TYPE_COLOR_UNAWARE) return P4_PD_METER_TYPE_REFUSED;
   if (aware && !has_pre_color) return P4_PD_METER_TYPE_REFUSED;

@@ -1,0 +1,69 @@
+// An array of cells without a length: every cell is there from the start as T{}, and takes memory
+// from the first time that it is written, together with its neighbours.
+#pragma once
+
+#include <cstdint>
+#include <memory_resource>
+#include <utility>
+#include <vector>
+
+#include "bf_types.h"
+
+namespace soft {
+
+template <class T>
+class CellArray {
+ public:
+  static constexpr uint32_t kPageCells = 512;
+
+  explicit CellArray(std::pmr::memory_resource *memory) : pages_(memory) {}
+
+  // Null for a cell that has no memory.
+  const T *find(uint32_t index) const {
+    const uint32_t page = index / kPageCells;
+    if (page >= pages_.size() || pages_[page].empty()) return nullptr;
+    return &pages_[page][index % kPageCells];
+  }
+  T *find(uint32_t index) { return const_cast<T *>(std::as_const(*this).find(index)); }
+
+  // Gives the cell memory. May throw std::bad_alloc, and then no cell has changed.
+  T &at(uint32_t index) {
+    const uint32_t page = index / kPageCells;
+    if (page >= pages_.size()) pages_.resize(page + 1);
+    if (pages_[page].empty()) pages_[page].resize(kPageCells);
+    return pages_[page][index % kPageCells];
+  }
+
+  // Runs visit(T &) on all cells that have memory.
+  template <class Visit>
+  void each(Visit visit) {
+    for (auto &page : pages_) {
+      for (T &cell : page) visit(cell);
+    }
+  }
+
+ private:
+  std::pmr::vector<std::pmr::vector<T>> pages_;
+};
+
+// One array of cells for each pipe of a device.
+template <class T>
+class PipedCells {
+ public:
+  PipedCells(uint32_t pipes, std::pmr::memory_resource *memory) : arrays_(memory) {
+    arrays_.reserve(pipes);
+    for (uint32_t pipe = 0; pipe < pipes; ++pipe) arrays_.emplace_back(memory);
+  }
+
+  // Runs visit(CellArray<T> &) on the array of a pipe, or on all for BF_ALL_PIPES.
+  template <class Visit>
+  void in(bf_pipe_id_t pipe, Visit visit) {
+    if (pipe != BF_ALL_PIPES) return visit(arrays_[pipe]);
+    for (auto &array : arrays_) visit(array);
+  }
+
+ private:
+  std::pmr::vector<CellArray<T>> arrays_;
+};
+
+}  // namespace soft

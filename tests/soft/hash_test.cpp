@@ -1,0 +1,135 @@
+// Hash calculations: configuration, and hashes worked out bit by bit elsewhere.
+#include "small_program.hpp"
+
+namespace {
+
+using namespace soft_test;
+
+class Hashes : public SmallTest {
+ protected:
+  Bytes hash(const Bytes &stream, uint32_t length, uint32_t calculation = kIpHash) {
+    Bytes made(length + 1, 0xa5);
+    EXPECT_EQ(pipe_mgr_hash_calc_calculate_hash_value(session, kDevice, calculation, stream.data(),
+                                                      static_cast<uint32_t>(stream.size()),
+                                                      made.data(), length),
+              BF_SUCCESS);
+    EXPECT_EQ(made.back(), 0xa5) << "written behind the hash";
+    made.pop_back();
+    return made;
+  }
+  void seed(uint64_t value) {
+    EXPECT_EQ(pipe_mgr_hash_calc_seed_set(session, kDevice, kIpHash, value), BF_SUCCESS);
+  }
+};
+
+const Bytes kDigits{'1', '2', '3', '4', '5', '6', '7', '8', '9'};
+
+TEST_F(Hashes, OfKnownStreams) {
+  EXPECT_EQ(hash(kDigits, 8), (Bytes{0x62, 0xec, 0x59, 0xe3, 0xf1, 0xa4, 0xf0, 0x0a}));
+  EXPECT_EQ(hash(kDigits, 1), (Bytes{0x62}));
+  EXPECT_EQ(hash(kDigits, 17), (Bytes{0x62, 0xec, 0x59, 0xe3, 0xf1, 0xa4, 0xf0, 0x0a, 0xa7, 0xcb,
+                                      0xd4, 0x01, 0x5b, 0xe4, 0xce, 0xbc, 0x60}));
+  const Bytes longest = hash(kDigits, 64);
+  EXPECT_EQ(Bytes(longest.begin() + 48, longest.begin() + 56),
+            (Bytes{0x29, 0xe9, 0x90, 0x78, 0xaf, 0x98, 0x79, 0xd6}));
+  EXPECT_EQ(Bytes(longest.end() - 8, longest.end()),
+            (Bytes{0x6b, 0x19, 0x71, 0x93, 0x06, 0x72, 0x4f, 0x45}));
+  EXPECT_EQ(hash({0x01, 0x42, 0x47, 0xff}, 8),
+            (Bytes{0x51, 0xd2, 0xc6, 0x6c, 0xd6, 0xb5, 0x53, 0xac}));
+  EXPECT_EQ(hash({}, 3), (Bytes{0, 0, 0}));
+}
+
+TEST_F(Hashes, SeedIsTheInitialValueOfTheOneCalculation) {
+  uint64_t read = 1;
+  EXPECT_EQ(pipe_mgr_hash_calc_seed_get(session, kDevice, kIpHash, &read), BF_SUCCESS);
+  EXPECT_EQ(read, 0u);
+  seed(1);
+  EXPECT_EQ(hash(kDigits, 8), (Bytes{0xcd, 0xe9, 0x73, 0x88, 0xa2, 0x2a, 0x2f, 0x03}));
+  EXPECT_EQ(hash(kDigits, 2, kEthHash), (Bytes{0x62, 0xec}));
+  seed(0xffffffffffffffff);
+  EXPECT_EQ(hash(kDigits, 8), (Bytes{0x93, 0xbf, 0x20, 0xa0, 0xf4, 0xb6, 0x8c, 0xb8}));
+  seed(0xdeadbeef12345678);
+  EXPECT_EQ(hash({0x01, 0x42, 0x47, 0xff}, 12),
+            (Bytes{0x7e, 0x15, 0xe0, 0xd3, 0x52, 0xb2, 0xea, 0x2c, 0xe3, 0x1a, 0x36, 0x92}));
+  EXPECT_EQ(pipe_mgr_hash_calc_seed_get(session, kDevice, kIpHash, &read), BF_SUCCESS);
+  EXPECT_EQ(read, 0xdeadbeef12345678u);
+}
+
+TEST_F(Hashes, RefuseLengthsAndNullBuffers) {
+  uint8_t made[65] = {};
+  const auto status = [&](const uint8_t *stream, uint8_t *out, uint32_t length) {
+    return pipe_mgr_hash_calc_calculate_hash_value(session, kDevice, kIpHash, stream, 9, out,
+                                                   length);
+  };
+  EXPECT_EQ(status(kDigits.data(), made, 0), BF_INVALID_ARGUMENT);
+  EXPECT_EQ(status(kDigits.data(), made, 65), BF_INVALID_ARGUMENT);
+  EXPECT_EQ(status(nullptr, made, 8), BF_INVALID_ARGUMENT);
+  EXPECT_EQ(status(kDigits.data(), nullptr, 8), BF_INVALID_ARGUMENT);
+  EXPECT_EQ(made[0], 0);
+}
+
+TEST_F(Hashes, TakeTheirOwnInputAndAlgorithmOnly) {
+  uint32_t handle = 0;
+  EXPECT_EQ(pipe_mgr_hash_calc_input_get(session, kDevice, kIpHash, &handle), BF_SUCCESS);
+  EXPECT_EQ(handle, kIpFields);
+  EXPECT_EQ(pipe_mgr_hash_calc_algorithm_get(session, kDevice, kEthHash, &handle), BF_SUCCESS);
+  EXPECT_EQ(handle, kOtherCrc);
+
+  EXPECT_EQ(pipe_mgr_hash_calc_input_set(session, kDevice, kIpHash, kIpFields), BF_SUCCESS);
+  EXPECT_EQ(pipe_mgr_hash_calc_algorithm_set(session, kDevice, kIpHash, kCrc), BF_SUCCESS);
+  for (const uint32_t foreign : {0u, kEthFields, kCrc, kIpHash}) {
+    EXPECT_EQ(pipe_mgr_hash_calc_input_set(session, kDevice, kIpHash, foreign), BF_INVALID_HANDLE);
+  }
+  for (const uint32_t foreign : {0u, kOtherCrc, kIpFields}) {
+    EXPECT_EQ(pipe_mgr_hash_calc_algorithm_set(session, kDevice, kIpHash, foreign),
+              BF_INVALID_HANDLE);
+  }
+  EXPECT_EQ(pipe_mgr_hash_calc_input_get(session, kDevice, kIpHash, &handle), BF_SUCCESS);
+  EXPECT_EQ(handle, kIpFields);
+  EXPECT_EQ(pipe_mgr_hash_calc_input_set(session, kDevice, kWordRegister, kIpFields),
+            BF_INVALID_HANDLE);
+}
+
+TEST_F(Hashes, AttributesAreReplacedAsAWholeAndReadBackAsFarAsTheyFit) {
+  const uint8_t wide[8] = {};
+  const pipe_mgr_hash_attribute_t attributes[] = {
+      {2, 7, 0x1234}, {0, 0, 1}, {2, 8, reinterpret_cast<uintptr_t>(wide)}};
+  const auto set = [&](uint32_t count, const pipe_mgr_hash_attribute_t *list, uint32_t fields) {
+    return pipe_mgr_hash_calc_input_field_attribute_set(session, kDevice, kIpHash, fields, count,
+                                                        list);
+  };
+  EXPECT_EQ(set(3, attributes, kIpFields), BF_SUCCESS);
+  EXPECT_EQ(set(3, attributes, kEthFields), BF_INVALID_HANDLE);
+  const pipe_mgr_hash_attribute_t outside[] = {{0, 0, 1}, {3, 0, 1}};
+  EXPECT_EQ(set(2, outside, kIpFields), BF_INVALID_ARGUMENT);
+  EXPECT_EQ(set(1, nullptr, kIpFields), BF_INVALID_ARGUMENT);
+
+  uint32_t count = 0;
+  EXPECT_EQ(pipe_mgr_hash_calc_input_field_attribute_count_get(session, kDevice, kIpHash, kIpFields,
+                                                               &count),
+            BF_SUCCESS);
+  EXPECT_EQ(count, 3u);
+  pipe_mgr_hash_attribute_t read[4] = {};
+  const auto get = [&](uint32_t room) {
+    count = kNowhere;
+    return pipe_mgr_hash_calc_input_field_attribute_get(session, kDevice, kIpHash, kIpFields, room,
+                                                        read, &count);
+  };
+  EXPECT_EQ(get(4), BF_SUCCESS);
+  EXPECT_EQ(count, 3u);
+  EXPECT_EQ(read[0].field, 2u);
+  EXPECT_EQ(read[0].type, 7u);
+  EXPECT_EQ(read[0].value, 0x1234u);
+  EXPECT_EQ(read[2].value, reinterpret_cast<uintptr_t>(wide));
+  read[1] = {};
+  EXPECT_EQ(get(1), BF_SUCCESS);
+  EXPECT_EQ(count, 1u);
+  EXPECT_EQ(read[1].value, 0u);
+
+  EXPECT_EQ(hash(kDigits, 2), (Bytes{0x62, 0xec})) << "attributes take no part in the hash";
+  EXPECT_EQ(set(0, nullptr, kIpFields), BF_SUCCESS);
+  EXPECT_EQ(get(4), BF_SUCCESS);
+  EXPECT_EQ(count, 0u);
+}
+
+}  // namespace
