@@ -9,7 +9,8 @@
 
 # The units into which pdgen splits the wrappers, in step with Api::begin_unit.
 set(PD_UNITS frame table entry_1 entry_2 default read_back idle indirect profile meter
-  placement counter register hash digest value_set snapshot)
+  placement counter register hash digest value_set snapshot schema value print label compare
+  render)
 
 function(pd_add_library program)
   cmake_parse_arguments(arg "GENERATE_HEADER" "CATALOGUE;HEADER_DIR;VERSION;SONAME" "" ${ARGN})
@@ -31,6 +32,7 @@ function(pd_add_library program)
   add_custom_command(
     OUTPUT ${dir}/stamp
     BYPRODUCTS ${wrappers} ${tables} ${dir}/descriptors.hpp ${dir}/object_names.hpp
+      ${dir}/records.hpp ${dir}/texts.hpp ${dir}/schemas.hpp ${dir}/labels.hpp ${dir}/renders.hpp
       ${dir}/exports.map ${dir}/layout_test.c
     COMMAND pdgen --catalogue ${arg_CATALOGUE} --build ${dir} --soname ${arg_SONAME} ${header_option}
     COMMAND ${CMAKE_COMMAND} -E touch ${dir}/stamp

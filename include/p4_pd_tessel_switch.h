@@ -145,6 +145,57 @@
  *   even when the capture itself fails; a stage that is shorter than a record fills it up with
  *   zeroes. P4_PD_NO_MEMORY, and no record written, when the capture could not be allocated.
  *
+ * Schemas
+ *   Objects described as literals of nested tuples, for tools that know none of them. The
+ *   match-spec and action schemas are constants. The others are written into buffer with a NUL
+ *   and their length is returned; P4_PD_TESSEL_SWITCH_SCHEMA_MAX bytes hold any of them.
+ *   cli_schema takes the handle of a table or the action-data handle of a profile and writes
+ *   "()" for any other. A null buffer gets 0.
+ *
+ * Value strings
+ *   The numbers of a match spec, an action or an entry as a literal that lists what the schema
+ *   lists, cut to the key bits, in hexadecimal. They are written into buffer with a NUL and
+ *   their length is returned: P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX,
+ *   P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX and P4_PD_TESSEL_SWITCH_VALUE_MAX bytes hold any of
+ *   them. A table's value reads the entry by get_entry. When that fails, and for a null
+ *   pointer, 0 is returned and buffer stays as it was.
+ *
+ * Printing
+ *   match_spec_print and an action's print write one line a field to a file descriptor, one write a
+ *   line, and return the length of the last line, or -1 when it could not be written. The
+ *   header line of a match spec follows indent blanks, the others one blank more, and two at
+ *   indent 0. The helpers _print_* write a label and an address into buffer and return the
+ *   length. The ternary ones return 0 for a mask of 0; 0 goes with nothing written, also for a
+ *   null pointer. IPv6 addresses have 16 bytes; MAC addresses come in halves of 24 bits.
+ *
+ * Labels of counted entries
+ *   For the tables whose entries carry a counter that monitoring shows. A label names the fields
+ *   that the entry matches on. It is written into buffer with a NUL and its length is
+ *   returned; P4_PD_TESSEL_SWITCH_LABEL_MAX bytes hold any of them.
+ *   stringify_counter_match_spec reads the entry from the hardware; the default entry, which
+ *   has no key, has an empty label. When that fails, for a table without labels and for a null
+ *   pointer, 0 is returned and buffer stays as it was.
+ *
+ * Comparison and names
+ *   match_specs_are_equal compares member by member under the key bits: a value and its mask are
+ *   two members, so entries that differ in what they do not care about differ.
+ *   action_specs_are_equal compares the bits of each parameter's width. A null pointer equals
+ *   nothing. width returns the bits of a key field. action_enum_to_string returns the full
+ *   name of a value, null beyond the last; action_string_to_enum returns the value of a full
+ *   name, else the number of actions.
+ *
+ * Rendering of placement data
+ *   plcmt_data_print writes key and action of placement data to a file descriptor and returns 0, or
+ *   the status of the decoder after a line that says that it failed. plcmt_data_value writes a
+ *   value string (P4_PD_TESSEL_SWITCH_VALUE_MAX bytes hold any) and returns its length, 0 when
+ *   the data cannot be decoded. plcmt_data_eq_to_hw returns 1 when the data describes the
+ *   entry that the hardware holds under the handle, priorities apart, and 0 otherwise, also
+ *   when either cannot be read; entries that point at groups must point at the same one. The
+ *   functions by handle do the same for a table or for the action-data table of a profile; an
+ *   unknown handle is printed as not found, has no value and equals nothing. entry_hdl_first,
+ *   entry_hdl_next, entry_hdl_default and member_hdl_next walk entries and members; an unknown
+ *   handle stores 0xffffffff and returns 0, member_hdl_next 0xffffffff.
+ *
  * Made by pdgen from the catalogue of tessel_switch. Edit the catalogue and run
  * scripts/generate, not this file.
  */
@@ -1003,6 +1054,1102 @@ typedef struct p4_pd_tessel_switch_action_specs {
   } spec;
 } p4_pd_tessel_switch_action_specs_t;
 
+const char *p4_pd_tessel_switch_trapPktToCpuUntagged_schema(void);
+const char *p4_pd_tessel_switch_copyPktToCpuUntagged_schema(void);
+const char *p4_pd_tessel_switch_trapPktToCpuTagged_schema(void);
+const char *p4_pd_tessel_switch_copyPktToCpuTagged_schema(void);
+const char *p4_pd_tessel_switch_trapPktToCpuSubintf_schema(void);
+const char *p4_pd_tessel_switch_copyPktToCpuSubintf_schema(void);
+const char *p4_pd_tessel_switch_encapPktToCpu_schema(void);
+const char *p4_pd_tessel_switch_onMiss_schema(void);
+const char *p4_pd_tessel_switch_setDecapEscapeIpv4_schema(void);
+const char *p4_pd_tessel_switch_setDecapEscapeIpv6_schema(void);
+const char *p4_pd_tessel_switch_removeOuterIpv4Hdr_schema(void);
+const char *p4_pd_tessel_switch_removeOuterIpv6Hdr_schema(void);
+const char *p4_pd_tessel_switch_restoreOuterIpv4HeaderL4_schema(void);
+const char *p4_pd_tessel_switch_restoreOuterIpv6HeaderL4_schema(void);
+const char *p4_pd_tessel_switch_dipHashCompute_schema(void);
+const char *p4_pd_tessel_switch_kiteFlowSetDrop_schema(void);
+const char *p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndRemoveInnerTag_schema(void);
+const char *p4_pd_tessel_switch_kiteFlowRemoveInnerTag_schema(void);
+const char *p4_pd_tessel_switch_kiteFlowDontFlow_schema(void);
+const char *p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_schema(void);
+const char *p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_schema(void);
+const char *p4_pd_tessel_switch_kiteFlowPreviousHit_schema(void);
+const char *p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndAddInnerTag_schema(void);
+const char *p4_pd_tessel_switch_kiteFlowAddInnerTagPreviousHit_schema(void);
+const char *p4_pd_tessel_switch_kiteFlowAddInnerTagDontFlow_schema(void);
+const char *p4_pd_tessel_switch_kiteFlowCopyEgrL2Aintf_schema(void);
+const char *p4_pd_tessel_switch_setEcmpNextHop_schema(void);
+const char *p4_pd_tessel_switch_setHashValuesEcmpOuterIpHdr_schema(void);
+const char *p4_pd_tessel_switch_setHashValuesEcmpOuterL4Hdr_schema(void);
+const char *p4_pd_tessel_switch_setHashValuesEcmpInnerIpHdr_schema(void);
+const char *p4_pd_tessel_switch_setHashValuesEcmpInnerL4Hdr_schema(void);
+const char *p4_pd_tessel_switch_setHashValuesEcmpInnerEthHdr_schema(void);
+const char *p4_pd_tessel_switch_egrStpAction_schema(void);
+const char *p4_pd_tessel_switch_egrVlanAction_schema(void);
+const char *p4_pd_tessel_switch_setL2DomainReplicated_schema(void);
+const char *p4_pd_tessel_switch_setEgrLagMemberSelector_schema(void);
+const char *p4_pd_tessel_switch_setEgressMirrorColor_schema(void);
+const char *p4_pd_tessel_switch_setEgressMirrorColorRed_schema(void);
+const char *p4_pd_tessel_switch_egressMirrorAction_schema(void);
+const char *p4_pd_tessel_switch_setEgressMirrorSession_schema(void);
+const char *p4_pd_tessel_switch_setEgressDrop_schema(void);
+const char *p4_pd_tessel_switch_egressSamePortBridgingTestDrop_schema(void);
+const char *p4_pd_tessel_switch_setEgrVlan_schema(void);
+const char *p4_pd_tessel_switch_setEgrVlanSubIntf_schema(void);
+const char *p4_pd_tessel_switch_noXlate_schema(void);
+const char *p4_pd_tessel_switch_noDecapNoEncapRouteIpv4_schema(void);
+const char *p4_pd_tessel_switch_noDecapNoEncapRouteIpv6_schema(void);
+const char *p4_pd_tessel_switch_noDecapNoEncapBridgeIpv4_schema(void);
+const char *p4_pd_tessel_switch_noDecapNoEncapBridgeIpv6_schema(void);
+const char *p4_pd_tessel_switch_encapFabricPktToCpu_schema(void);
+const char *p4_pd_tessel_switch_encapPPIPktToCpu_schema(void);
+const char *p4_pd_tessel_switch_decapPPIPktFromCpu_schema(void);
+const char *p4_pd_tessel_switch_encapGreIpv4ForClone_schema(void);
+const char *p4_pd_tessel_switch_noDecapNoEncapClone_schema(void);
+const char *p4_pd_tessel_switch_decapIpIpEncapPPIPktToCpuIpv4_schema(void);
+const char *p4_pd_tessel_switch_decapIpIpEncapPPIPktToCpuIpv6_schema(void);
+const char *p4_pd_tessel_switch_decapIpIpRouteIpv4_schema(void);
+const char *p4_pd_tessel_switch_decapIpIpRouteIpv6_schema(void);
+const char *p4_pd_tessel_switch_setEgressPort_schema(void);
+const char *p4_pd_tessel_switch_setDecapTypeVlan_schema(void);
+const char *p4_pd_tessel_switch_setInvalidEgressPort_schema(void);
+const char *p4_pd_tessel_switch_removeTesselHdrs_schema(void);
+const char *p4_pd_tessel_switch_accept_schema(void);
+const char *p4_pd_tessel_switch_acceptLog_schema(void);
+const char *p4_pd_tessel_switch_dropCount_schema(void);
+const char *p4_pd_tessel_switch_dropCountAndLog_schema(void);
+const char *p4_pd_tessel_switch_finalDrop_schema(void);
+const char *p4_pd_tessel_switch_finalizeMcResultIpmc_schema(void);
+const char *p4_pd_tessel_switch_finalizeMcResultL2mc_schema(void);
+const char *p4_pd_tessel_switch_finalizeMcResultL2mcFlood_schema(void);
+const char *p4_pd_tessel_switch_finalizeMcResultCancel_schema(void);
+const char *p4_pd_tessel_switch_finalizeMcResultFlood_schema(void);
+const char *p4_pd_tessel_switch_finalizeMcResultL3Rpf_schema(void);
+const char *p4_pd_tessel_switch_firewallDipMeterDropAction_schema(void);
+const char *p4_pd_tessel_switch_setDstSegment_schema(void);
+const char *p4_pd_tessel_switch_setSrcSegment_schema(void);
+const char *p4_pd_tessel_switch_setFirewallPolicyPermit_schema(void);
+const char *p4_pd_tessel_switch_setFirewallPolicyPermitAndOpenFlow_schema(void);
+const char *p4_pd_tessel_switch_setFirewallPolicyDrop_schema(void);
+const char *p4_pd_tessel_switch_firewallSipMeterDropAction_schema(void);
+const char *p4_pd_tessel_switch_flowAddRecircHeaderAction_schema(void);
+const char *p4_pd_tessel_switch_flowBusyActionFirst_schema(void);
+const char *p4_pd_tessel_switch_flowBusyActionSecond_schema(void);
+const char *p4_pd_tessel_switch_flowDigestGenerate_schema(void);
+const char *p4_pd_tessel_switch_flowHashComputeTypeAFirst_schema(void);
+const char *p4_pd_tessel_switch_flowHashComputeTypeASecond_schema(void);
+const char *p4_pd_tessel_switch_flowHashComputeTypeBFirst_schema(void);
+const char *p4_pd_tessel_switch_flowHashComputeTypeBSecond_schema(void);
+const char *p4_pd_tessel_switch_selectTypeA_schema(void);
+const char *p4_pd_tessel_switch_selectTypeB_schema(void);
+const char *p4_pd_tessel_switch_setFlowLimitExceeded_schema(void);
+const char *p4_pd_tessel_switch_flowRecircPacketAction_schema(void);
+const char *p4_pd_tessel_switch_flowSetupL4PortsAction_schema(void);
+const char *p4_pd_tessel_switch_flowStateLookupActionFirst_schema(void);
+const char *p4_pd_tessel_switch_flowStateLookupActionSecond_schema(void);
+const char *p4_pd_tessel_switch_setFlowPresent_schema(void);
+const char *p4_pd_tessel_switch_flowStateUpdateActionFirst_schema(void);
+const char *p4_pd_tessel_switch_flowStateUpdateActionSecond_schema(void);
+const char *p4_pd_tessel_switch_setNonInitialFragment_schema(void);
+const char *p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelCommon_schema(void);
+const char *p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4_schema(void);
+const char *p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_schema(void);
+const char *p4_pd_tessel_switch_setGlobalFieldsForMplsOverUdpTunnel_schema(void);
+const char *p4_pd_tessel_switch_setGlobalFieldsForMplsTunnel_schema(void);
+const char *p4_pd_tessel_switch_setHaloXformDip_schema(void);
+const char *p4_pd_tessel_switch_setHaloInvalidDip_schema(void);
+const char *p4_pd_tessel_switch_setHaloXformIpv4Sip_schema(void);
+const char *p4_pd_tessel_switch_setHaloInvalidSip_schema(void);
+const char *p4_pd_tessel_switch_setHaloIpv4Common_schema(void);
+const char *p4_pd_tessel_switch_setHaloXformIpv6Sip_schema(void);
+const char *p4_pd_tessel_switch_setHaloIpv6Common_schema(void);
+const char *p4_pd_tessel_switch_hashComputeInnerEthHdrAction_schema(void);
+const char *p4_pd_tessel_switch_hashComputeInnerIpv4HdrAction_schema(void);
+const char *p4_pd_tessel_switch_hashComputeInnerIpv6HdrAction_schema(void);
+const char *p4_pd_tessel_switch_hashComputeIpAndL4HdrAction_schema(void);
+const char *p4_pd_tessel_switch_hashComputeOuterIpv4HdrAction_schema(void);
+const char *p4_pd_tessel_switch_hashComputeOuterIpv6HdrAction_schema(void);
+const char *p4_pd_tessel_switch_ingStpAction_schema(void);
+const char *p4_pd_tessel_switch_ingVlanAction_schema(void);
+const char *p4_pd_tessel_switch_setLagMemberSelector_schema(void);
+const char *p4_pd_tessel_switch_setIngressMirrorColor_schema(void);
+const char *p4_pd_tessel_switch_setIngressMirrorColorRed_schema(void);
+const char *p4_pd_tessel_switch_ingressMirrorAction_schema(void);
+const char *p4_pd_tessel_switch_dropDatalink_schema(void);
+const char *p4_pd_tessel_switch_setIngressMirrorSession_schema(void);
+const char *p4_pd_tessel_switch_setDrop_schema(void);
+const char *p4_pd_tessel_switch_setPhase0_schema(void);
+const char *p4_pd_tessel_switch_samplePacket_schema(void);
+const char *p4_pd_tessel_switch_setTrafficClassAndEgressQid_schema(void);
+const char *p4_pd_tessel_switch_setNextHop_schema(void);
+const char *p4_pd_tessel_switch_setNextHop2_schema(void);
+const char *p4_pd_tessel_switch_setNextHop3_schema(void);
+const char *p4_pd_tessel_switch_setEcmp_schema(void);
+const char *p4_pd_tessel_switch_ipv4ShortMaskLpmMiss_schema(void);
+const char *p4_pd_tessel_switch_setFibMiss_schema(void);
+const char *p4_pd_tessel_switch_setL2ControlFrame_schema(void);
+const char *p4_pd_tessel_switch_setIllegalDmac_schema(void);
+const char *p4_pd_tessel_switch_setMcast_schema(void);
+const char *p4_pd_tessel_switch_setBcast_schema(void);
+const char *p4_pd_tessel_switch_setUcast_schema(void);
+const char *p4_pd_tessel_switch_setIpMcast_schema(void);
+const char *p4_pd_tessel_switch_classifyL2ControlFrame_schema(void);
+const char *p4_pd_tessel_switch_setL2DomainUntagged_schema(void);
+const char *p4_pd_tessel_switch_setL2DomainVlanXlate_schema(void);
+const char *p4_pd_tessel_switch_setL2DomainTagged_schema(void);
+const char *p4_pd_tessel_switch_l2ForwardParamsSet_schema(void);
+const char *p4_pd_tessel_switch_noOp_schema(void);
+const char *p4_pd_tessel_switch_setL2LearningLookupMiss_schema(void);
+const char *p4_pd_tessel_switch_l2LookupKnownUcast_schema(void);
+const char *p4_pd_tessel_switch_l2LookupKnownMcast_schema(void);
+const char *p4_pd_tessel_switch_l2LookupKnownUcastTunnel_schema(void);
+const char *p4_pd_tessel_switch_l2LookupDrop_schema(void);
+const char *p4_pd_tessel_switch_l2LookupBcastHit_schema(void);
+const char *p4_pd_tessel_switch_l2LookupUnknownMcastAction_schema(void);
+const char *p4_pd_tessel_switch_l2LookupUnknownUcastAction_schema(void);
+const char *p4_pd_tessel_switch_setL2McResult_schema(void);
+const char *p4_pd_tessel_switch_setIllegalSmac_schema(void);
+const char *p4_pd_tessel_switch_setDropSmac_schema(void);
+const char *p4_pd_tessel_switch_setL2XId_schema(void);
+const char *p4_pd_tessel_switch_ignoreIngL3DmacValid_schema(void);
+const char *p4_pd_tessel_switch_setIngL3DmacValid_schema(void);
+const char *p4_pd_tessel_switch_setLagPort_schema(void);
+const char *p4_pd_tessel_switch_setPhysicalPort_schema(void);
+const char *p4_pd_tessel_switch_setTunnelInfo_schema(void);
+const char *p4_pd_tessel_switch_invalidateUcastEgressPort_schema(void);
+const char *p4_pd_tessel_switch_fixL2SubintfAlignment_schema(void);
+const char *p4_pd_tessel_switch_setHashValuesLagOuterEthHdr_schema(void);
+const char *p4_pd_tessel_switch_setHashValuesLagOuterIpHdr_schema(void);
+const char *p4_pd_tessel_switch_setHashValuesLagOuterL4Hdr_schema(void);
+const char *p4_pd_tessel_switch_setHashValuesLagInnerEthHdr_schema(void);
+const char *p4_pd_tessel_switch_setHashValuesLagInnerIpHdr_schema(void);
+const char *p4_pd_tessel_switch_setHashValuesLagInnerL4Hdr_schema(void);
+const char *p4_pd_tessel_switch_generateMacLearningDigest_schema(void);
+const char *p4_pd_tessel_switch_dot1xTrap_schema(void);
+const char *p4_pd_tessel_switch_dot1xDrop_schema(void);
+const char *p4_pd_tessel_switch_resetApplicationId_schema(void);
+const char *p4_pd_tessel_switch_setPruneParams_schema(void);
+const char *p4_pd_tessel_switch_setPruneParamsForL2Flood_schema(void);
+const char *p4_pd_tessel_switch_setPruneParamsForL3Only_schema(void);
+const char *p4_pd_tessel_switch_l3FloodEgressL2Aintf_schema(void);
+const char *p4_pd_tessel_switch_setMirrorPacketEncapNone_schema(void);
+const char *p4_pd_tessel_switch_setMirrorPacketEncapCpu_schema(void);
+const char *p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_schema(void);
+const char *p4_pd_tessel_switch_setMlagPrune_schema(void);
+const char *p4_pd_tessel_switch_newFlowRateLimitAction_schema(void);
+const char *p4_pd_tessel_switch_setNextHopDetails_schema(void);
+const char *p4_pd_tessel_switch_setCosFromDefault_schema(void);
+const char *p4_pd_tessel_switch_setCosFromPacket_schema(void);
+const char *p4_pd_tessel_switch_setCosFromPacketWithInner_schema(void);
+const char *p4_pd_tessel_switch_setDscpForNonIpPkt_schema(void);
+const char *p4_pd_tessel_switch_setDscpForTTNonIpPkt_schema(void);
+const char *p4_pd_tessel_switch_setDscpForIpv4Pkt_schema(void);
+const char *p4_pd_tessel_switch_setDscpForIpv4OptionsPkt_schema(void);
+const char *p4_pd_tessel_switch_setDscpForIpv6Pkt_schema(void);
+const char *p4_pd_tessel_switch_noTunnelIpv4_schema(void);
+const char *p4_pd_tessel_switch_noTunnelIpv6_schema(void);
+const char *p4_pd_tessel_switch_onlyDecapInnerIpv4_schema(void);
+const char *p4_pd_tessel_switch_onlyDecapInnerIpv6_schema(void);
+const char *p4_pd_tessel_switch_encapOuterIpv4_schema(void);
+const char *p4_pd_tessel_switch_encapOuterIpv4InnerIpv4_schema(void);
+const char *p4_pd_tessel_switch_encapOuterIpv4InnerIpv6_schema(void);
+const char *p4_pd_tessel_switch_setPdpClass_schema(void);
+const char *p4_pd_tessel_switch_setPdpClassCount_schema(void);
+const char *p4_pd_tessel_switch_pdpPolice_schema(void);
+const char *p4_pd_tessel_switch_setQosPortProperties_schema(void);
+const char *p4_pd_tessel_switch_copyCosRewriteDscp_schema(void);
+const char *p4_pd_tessel_switch_rewriteCosCopyDscp_schema(void);
+const char *p4_pd_tessel_switch_rewriteCosRewriteDscp_schema(void);
+const char *p4_pd_tessel_switch_setQosRewriteConfiguration_schema(void);
+const char *p4_pd_tessel_switch_countEgressQueue_schema(void);
+const char *p4_pd_tessel_switch_setNextHopToCpu_schema(void);
+const char *p4_pd_tessel_switch_setRoutedMartian_schema(void);
+const char *p4_pd_tessel_switch_setRouterNextHopDetails_schema(void);
+const char *p4_pd_tessel_switch_samePortBridgingTestAction_schema(void);
+const char *p4_pd_tessel_switch_sipHashCompute_schema(void);
+const char *p4_pd_tessel_switch_setNyxIntfDetails_schema(void);
+const char *p4_pd_tessel_switch_setSwitchToCpu_schema(void);
+const char *p4_pd_tessel_switch_setVrfPropertiesTaggedPkt_schema(void);
+const char *p4_pd_tessel_switch_setVrfPropertiesTaggedXlatePkt_schema(void);
+const char *p4_pd_tessel_switch_setTcDscp_schema(void);
+const char *p4_pd_tessel_switch_trapPacket_schema(void);
+const char *p4_pd_tessel_switch_copyPacket_schema(void);
+const char *p4_pd_tessel_switch_setLlm_schema(void);
+const char *p4_pd_tessel_switch_setTunnelTerminationTypeIpIp_schema(void);
+const char *p4_pd_tessel_switch_setTunnelTerminationTypeIp6Ip6SwPath_schema(void);
+const char *p4_pd_tessel_switch_setTunnelTerminationTypeNoneIpv6_schema(void);
+const char *p4_pd_tessel_switch_setTunnelTerminationTypeNoneIpv4AndL2_schema(void);
+const char *p4_pd_tessel_switch_setVrfPropertiesUntaggedPkt_schema(void);
+const char *p4_pd_tessel_switch_removeVlanHdr_schema(void);
+const char *p4_pd_tessel_switch_noVlanEncap_schema(void);
+const char *p4_pd_tessel_switch_needVlanEncap_schema(void);
+const char *p4_pd_tessel_switch_setVlanProperties_schema(void);
+int p4_pd_tessel_switch_trapPktToCpuUntagged_value(
+    const p4_pd_tessel_switch_trapPktToCpuUntagged_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_copyPktToCpuUntagged_value(
+    const p4_pd_tessel_switch_copyPktToCpuUntagged_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_trapPktToCpuTagged_value(
+    const p4_pd_tessel_switch_trapPktToCpuTagged_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_copyPktToCpuTagged_value(
+    const p4_pd_tessel_switch_copyPktToCpuTagged_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_trapPktToCpuSubintf_value(
+    const p4_pd_tessel_switch_trapPktToCpuSubintf_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_copyPktToCpuSubintf_value(
+    const p4_pd_tessel_switch_copyPktToCpuSubintf_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_encapPktToCpu_value(
+    const p4_pd_tessel_switch_encapPktToCpu_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_onMiss_value(char *buffer);
+int p4_pd_tessel_switch_setDecapEscapeIpv4_value(
+    const p4_pd_tessel_switch_setDecapEscapeIpv4_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setDecapEscapeIpv6_value(
+    const p4_pd_tessel_switch_setDecapEscapeIpv6_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_removeOuterIpv4Hdr_value(char *buffer);
+int p4_pd_tessel_switch_removeOuterIpv6Hdr_value(char *buffer);
+int p4_pd_tessel_switch_restoreOuterIpv4HeaderL4_value(char *buffer);
+int p4_pd_tessel_switch_restoreOuterIpv6HeaderL4_value(char *buffer);
+int p4_pd_tessel_switch_dipHashCompute_value(char *buffer);
+int p4_pd_tessel_switch_kiteFlowSetDrop_value(
+    const p4_pd_tessel_switch_kiteFlowSetDrop_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndRemoveInnerTag_value(
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndRemoveInnerTag_action_spec_t *action_spec,
+    char *buffer);
+int p4_pd_tessel_switch_kiteFlowRemoveInnerTag_value(
+    const p4_pd_tessel_switch_kiteFlowRemoveInnerTag_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_kiteFlowDontFlow_value(
+    const p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_value(
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_value(
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_action_spec_t *action_spec,
+    char *buffer);
+int p4_pd_tessel_switch_kiteFlowPreviousHit_value(
+    const p4_pd_tessel_switch_kiteFlowPreviousHit_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndAddInnerTag_value(
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndAddInnerTag_action_spec_t *action_spec,
+    char *buffer);
+int p4_pd_tessel_switch_kiteFlowAddInnerTagPreviousHit_value(
+    const p4_pd_tessel_switch_kiteFlowAddInnerTagPreviousHit_action_spec_t *action_spec,
+    char *buffer);
+int p4_pd_tessel_switch_kiteFlowAddInnerTagDontFlow_value(
+    const p4_pd_tessel_switch_kiteFlowAddInnerTagDontFlow_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_kiteFlowCopyEgrL2Aintf_value(char *buffer);
+int p4_pd_tessel_switch_setEcmpNextHop_value(
+    const p4_pd_tessel_switch_setEcmpNextHop_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setHashValuesEcmpOuterIpHdr_value(char *buffer);
+int p4_pd_tessel_switch_setHashValuesEcmpOuterL4Hdr_value(char *buffer);
+int p4_pd_tessel_switch_setHashValuesEcmpInnerIpHdr_value(char *buffer);
+int p4_pd_tessel_switch_setHashValuesEcmpInnerL4Hdr_value(char *buffer);
+int p4_pd_tessel_switch_setHashValuesEcmpInnerEthHdr_value(char *buffer);
+int p4_pd_tessel_switch_egrStpAction_value(char *buffer);
+int p4_pd_tessel_switch_egrVlanAction_value(char *buffer);
+int p4_pd_tessel_switch_setL2DomainReplicated_value(
+    const p4_pd_tessel_switch_setL2DomainReplicated_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setEgrLagMemberSelector_value(
+    const p4_pd_tessel_switch_setEgrLagMemberSelector_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setEgressMirrorColor_value(
+    const p4_pd_tessel_switch_setEgressMirrorColor_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setEgressMirrorColorRed_value(char *buffer);
+int p4_pd_tessel_switch_egressMirrorAction_value(char *buffer);
+int p4_pd_tessel_switch_setEgressMirrorSession_value(
+    const p4_pd_tessel_switch_setEgressMirrorSession_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setEgressDrop_value(char *buffer);
+int p4_pd_tessel_switch_egressSamePortBridgingTestDrop_value(char *buffer);
+int p4_pd_tessel_switch_setEgrVlan_value(
+    const p4_pd_tessel_switch_setEgrVlan_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setEgrVlanSubIntf_value(
+    const p4_pd_tessel_switch_setEgrVlanSubIntf_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_noXlate_value(char *buffer);
+int p4_pd_tessel_switch_noDecapNoEncapRouteIpv4_value(
+    const p4_pd_tessel_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_noDecapNoEncapRouteIpv6_value(
+    const p4_pd_tessel_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_noDecapNoEncapBridgeIpv4_value(char *buffer);
+int p4_pd_tessel_switch_noDecapNoEncapBridgeIpv6_value(char *buffer);
+int p4_pd_tessel_switch_encapFabricPktToCpu_value(char *buffer);
+int p4_pd_tessel_switch_encapPPIPktToCpu_value(char *buffer);
+int p4_pd_tessel_switch_decapPPIPktFromCpu_value(char *buffer);
+int p4_pd_tessel_switch_encapGreIpv4ForClone_value(
+    const p4_pd_tessel_switch_encapGreIpv4ForClone_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_noDecapNoEncapClone_value(char *buffer);
+int p4_pd_tessel_switch_decapIpIpEncapPPIPktToCpuIpv4_value(char *buffer);
+int p4_pd_tessel_switch_decapIpIpEncapPPIPktToCpuIpv6_value(char *buffer);
+int p4_pd_tessel_switch_decapIpIpRouteIpv4_value(
+    const p4_pd_tessel_switch_decapIpIpRouteIpv4_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_decapIpIpRouteIpv6_value(
+    const p4_pd_tessel_switch_decapIpIpRouteIpv6_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setEgressPort_value(
+    const p4_pd_tessel_switch_setEgressPort_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setDecapTypeVlan_value(char *buffer);
+int p4_pd_tessel_switch_setInvalidEgressPort_value(char *buffer);
+int p4_pd_tessel_switch_removeTesselHdrs_value(char *buffer);
+int p4_pd_tessel_switch_accept_value(char *buffer);
+int p4_pd_tessel_switch_acceptLog_value(char *buffer);
+int p4_pd_tessel_switch_dropCount_value(char *buffer);
+int p4_pd_tessel_switch_dropCountAndLog_value(char *buffer);
+int p4_pd_tessel_switch_finalDrop_value(char *buffer);
+int p4_pd_tessel_switch_finalizeMcResultIpmc_value(
+    const p4_pd_tessel_switch_finalizeMcResultIpmc_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_finalizeMcResultL2mc_value(
+    const p4_pd_tessel_switch_finalizeMcResultL2mc_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_finalizeMcResultL2mcFlood_value(
+    const p4_pd_tessel_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_finalizeMcResultCancel_value(
+    const p4_pd_tessel_switch_finalizeMcResultCancel_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_finalizeMcResultFlood_value(
+    const p4_pd_tessel_switch_finalizeMcResultFlood_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_finalizeMcResultL3Rpf_value(char *buffer);
+int p4_pd_tessel_switch_firewallDipMeterDropAction_value(char *buffer);
+int p4_pd_tessel_switch_setDstSegment_value(
+    const p4_pd_tessel_switch_setDstSegment_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setSrcSegment_value(
+    const p4_pd_tessel_switch_setSrcSegment_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setFirewallPolicyPermit_value(
+    const p4_pd_tessel_switch_setFirewallPolicyPermit_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setFirewallPolicyPermitAndOpenFlow_value(
+    const p4_pd_tessel_switch_setFirewallPolicyPermitAndOpenFlow_action_spec_t *action_spec,
+    char *buffer);
+int p4_pd_tessel_switch_setFirewallPolicyDrop_value(
+    const p4_pd_tessel_switch_setFirewallPolicyDrop_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_firewallSipMeterDropAction_value(char *buffer);
+int p4_pd_tessel_switch_flowAddRecircHeaderAction_value(char *buffer);
+int p4_pd_tessel_switch_flowBusyActionFirst_value(char *buffer);
+int p4_pd_tessel_switch_flowBusyActionSecond_value(char *buffer);
+int p4_pd_tessel_switch_flowDigestGenerate_value(char *buffer);
+int p4_pd_tessel_switch_flowHashComputeTypeAFirst_value(char *buffer);
+int p4_pd_tessel_switch_flowHashComputeTypeASecond_value(char *buffer);
+int p4_pd_tessel_switch_flowHashComputeTypeBFirst_value(char *buffer);
+int p4_pd_tessel_switch_flowHashComputeTypeBSecond_value(char *buffer);
+int p4_pd_tessel_switch_selectTypeA_value(char *buffer);
+int p4_pd_tessel_switch_selectTypeB_value(char *buffer);
+int p4_pd_tessel_switch_setFlowLimitExceeded_value(
+    const p4_pd_tessel_switch_setFlowLimitExceeded_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_flowRecircPacketAction_value(
+    const p4_pd_tessel_switch_flowRecircPacketAction_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_flowSetupL4PortsAction_value(char *buffer);
+int p4_pd_tessel_switch_flowStateLookupActionFirst_value(char *buffer);
+int p4_pd_tessel_switch_flowStateLookupActionSecond_value(char *buffer);
+int p4_pd_tessel_switch_setFlowPresent_value(char *buffer);
+int p4_pd_tessel_switch_flowStateUpdateActionFirst_value(char *buffer);
+int p4_pd_tessel_switch_flowStateUpdateActionSecond_value(char *buffer);
+int p4_pd_tessel_switch_setNonInitialFragment_value(char *buffer);
+int p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelCommon_value(
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec,
+    char *buffer);
+int p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4_value(
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec,
+    char *buffer);
+int p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_value(
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec,
+    char *buffer);
+int p4_pd_tessel_switch_setGlobalFieldsForMplsOverUdpTunnel_value(
+    const p4_pd_tessel_switch_setGlobalFieldsForMplsOverUdpTunnel_action_spec_t *action_spec,
+    char *buffer);
+int p4_pd_tessel_switch_setGlobalFieldsForMplsTunnel_value(
+    const p4_pd_tessel_switch_setGlobalFieldsForMplsTunnel_action_spec_t *action_spec,
+    char *buffer);
+int p4_pd_tessel_switch_setHaloXformDip_value(
+    const p4_pd_tessel_switch_setHaloXformDip_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setHaloInvalidDip_value(char *buffer);
+int p4_pd_tessel_switch_setHaloXformIpv4Sip_value(
+    const p4_pd_tessel_switch_setHaloXformIpv4Sip_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setHaloInvalidSip_value(char *buffer);
+int p4_pd_tessel_switch_setHaloIpv4Common_value(char *buffer);
+int p4_pd_tessel_switch_setHaloXformIpv6Sip_value(
+    const p4_pd_tessel_switch_setHaloXformIpv6Sip_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setHaloIpv6Common_value(char *buffer);
+int p4_pd_tessel_switch_hashComputeInnerEthHdrAction_value(char *buffer);
+int p4_pd_tessel_switch_hashComputeInnerIpv4HdrAction_value(char *buffer);
+int p4_pd_tessel_switch_hashComputeInnerIpv6HdrAction_value(char *buffer);
+int p4_pd_tessel_switch_hashComputeIpAndL4HdrAction_value(char *buffer);
+int p4_pd_tessel_switch_hashComputeOuterIpv4HdrAction_value(char *buffer);
+int p4_pd_tessel_switch_hashComputeOuterIpv6HdrAction_value(char *buffer);
+int p4_pd_tessel_switch_ingStpAction_value(char *buffer);
+int p4_pd_tessel_switch_ingVlanAction_value(char *buffer);
+int p4_pd_tessel_switch_setLagMemberSelector_value(
+    const p4_pd_tessel_switch_setLagMemberSelector_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setIngressMirrorColor_value(
+    const p4_pd_tessel_switch_setIngressMirrorColor_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setIngressMirrorColorRed_value(char *buffer);
+int p4_pd_tessel_switch_ingressMirrorAction_value(
+    const p4_pd_tessel_switch_ingressMirrorAction_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_dropDatalink_value(char *buffer);
+int p4_pd_tessel_switch_setIngressMirrorSession_value(
+    const p4_pd_tessel_switch_setIngressMirrorSession_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setDrop_value(char *buffer);
+int p4_pd_tessel_switch_setPhase0_value(
+    const p4_pd_tessel_switch_setPhase0_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_samplePacket_value(char *buffer);
+int p4_pd_tessel_switch_setTrafficClassAndEgressQid_value(
+    const p4_pd_tessel_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setNextHop_value(
+    const p4_pd_tessel_switch_setNextHop_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setNextHop2_value(
+    const p4_pd_tessel_switch_setNextHop2_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setNextHop3_value(
+    const p4_pd_tessel_switch_setNextHop3_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setEcmp_value(const p4_pd_tessel_switch_setEcmp_action_spec_t *action_spec,
+    char *buffer);
+int p4_pd_tessel_switch_ipv4ShortMaskLpmMiss_value(char *buffer);
+int p4_pd_tessel_switch_setFibMiss_value(char *buffer);
+int p4_pd_tessel_switch_setL2ControlFrame_value(
+    const p4_pd_tessel_switch_setL2ControlFrame_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setIllegalDmac_value(char *buffer);
+int p4_pd_tessel_switch_setMcast_value(char *buffer);
+int p4_pd_tessel_switch_setBcast_value(char *buffer);
+int p4_pd_tessel_switch_setUcast_value(char *buffer);
+int p4_pd_tessel_switch_setIpMcast_value(char *buffer);
+int p4_pd_tessel_switch_classifyL2ControlFrame_value(
+    const p4_pd_tessel_switch_classifyL2ControlFrame_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setL2DomainUntagged_value(
+    const p4_pd_tessel_switch_setL2DomainUntagged_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setL2DomainVlanXlate_value(
+    const p4_pd_tessel_switch_setL2DomainVlanXlate_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setL2DomainTagged_value(
+    const p4_pd_tessel_switch_setL2DomainTagged_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_l2ForwardParamsSet_value(
+    const p4_pd_tessel_switch_l2ForwardParamsSet_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_noOp_value(char *buffer);
+int p4_pd_tessel_switch_setL2LearningLookupMiss_value(char *buffer);
+int p4_pd_tessel_switch_l2LookupKnownUcast_value(
+    const p4_pd_tessel_switch_l2LookupKnownUcast_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_l2LookupKnownMcast_value(
+    const p4_pd_tessel_switch_l2LookupKnownMcast_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_l2LookupKnownUcastTunnel_value(
+    const p4_pd_tessel_switch_l2LookupKnownUcastTunnel_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_l2LookupDrop_value(char *buffer);
+int p4_pd_tessel_switch_l2LookupBcastHit_value(char *buffer);
+int p4_pd_tessel_switch_l2LookupUnknownMcastAction_value(char *buffer);
+int p4_pd_tessel_switch_l2LookupUnknownUcastAction_value(char *buffer);
+int p4_pd_tessel_switch_setL2McResult_value(
+    const p4_pd_tessel_switch_setL2McResult_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setIllegalSmac_value(char *buffer);
+int p4_pd_tessel_switch_setDropSmac_value(char *buffer);
+int p4_pd_tessel_switch_setL2XId_value(
+    const p4_pd_tessel_switch_setL2XId_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_ignoreIngL3DmacValid_value(char *buffer);
+int p4_pd_tessel_switch_setIngL3DmacValid_value(char *buffer);
+int p4_pd_tessel_switch_setLagPort_value(
+    const p4_pd_tessel_switch_setLagPort_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setPhysicalPort_value(char *buffer);
+int p4_pd_tessel_switch_setTunnelInfo_value(char *buffer);
+int p4_pd_tessel_switch_invalidateUcastEgressPort_value(char *buffer);
+int p4_pd_tessel_switch_fixL2SubintfAlignment_value(char *buffer);
+int p4_pd_tessel_switch_setHashValuesLagOuterEthHdr_value(char *buffer);
+int p4_pd_tessel_switch_setHashValuesLagOuterIpHdr_value(char *buffer);
+int p4_pd_tessel_switch_setHashValuesLagOuterL4Hdr_value(char *buffer);
+int p4_pd_tessel_switch_setHashValuesLagInnerEthHdr_value(char *buffer);
+int p4_pd_tessel_switch_setHashValuesLagInnerIpHdr_value(char *buffer);
+int p4_pd_tessel_switch_setHashValuesLagInnerL4Hdr_value(char *buffer);
+int p4_pd_tessel_switch_generateMacLearningDigest_value(char *buffer);
+int p4_pd_tessel_switch_dot1xTrap_value(char *buffer);
+int p4_pd_tessel_switch_dot1xDrop_value(char *buffer);
+int p4_pd_tessel_switch_resetApplicationId_value(char *buffer);
+int p4_pd_tessel_switch_setPruneParams_value(
+    const p4_pd_tessel_switch_setPruneParams_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setPruneParamsForL2Flood_value(
+    const p4_pd_tessel_switch_setPruneParamsForL2Flood_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setPruneParamsForL3Only_value(
+    const p4_pd_tessel_switch_setPruneParamsForL3Only_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_l3FloodEgressL2Aintf_value(char *buffer);
+int p4_pd_tessel_switch_setMirrorPacketEncapNone_value(char *buffer);
+int p4_pd_tessel_switch_setMirrorPacketEncapCpu_value(
+    const p4_pd_tessel_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_value(
+    const p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setMlagPrune_value(char *buffer);
+int p4_pd_tessel_switch_newFlowRateLimitAction_value(
+    const p4_pd_tessel_switch_newFlowRateLimitAction_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setNextHopDetails_value(
+    const p4_pd_tessel_switch_setNextHopDetails_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setCosFromDefault_value(
+    const p4_pd_tessel_switch_setCosFromDefault_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setCosFromPacket_value(
+    const p4_pd_tessel_switch_setCosFromPacket_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setCosFromPacketWithInner_value(
+    const p4_pd_tessel_switch_setCosFromPacketWithInner_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setDscpForNonIpPkt_value(char *buffer);
+int p4_pd_tessel_switch_setDscpForTTNonIpPkt_value(char *buffer);
+int p4_pd_tessel_switch_setDscpForIpv4Pkt_value(char *buffer);
+int p4_pd_tessel_switch_setDscpForIpv4OptionsPkt_value(char *buffer);
+int p4_pd_tessel_switch_setDscpForIpv6Pkt_value(char *buffer);
+int p4_pd_tessel_switch_noTunnelIpv4_value(char *buffer);
+int p4_pd_tessel_switch_noTunnelIpv6_value(char *buffer);
+int p4_pd_tessel_switch_onlyDecapInnerIpv4_value(char *buffer);
+int p4_pd_tessel_switch_onlyDecapInnerIpv6_value(char *buffer);
+int p4_pd_tessel_switch_encapOuterIpv4_value(char *buffer);
+int p4_pd_tessel_switch_encapOuterIpv4InnerIpv4_value(char *buffer);
+int p4_pd_tessel_switch_encapOuterIpv4InnerIpv6_value(char *buffer);
+int p4_pd_tessel_switch_setPdpClass_value(
+    const p4_pd_tessel_switch_setPdpClass_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setPdpClassCount_value(
+    const p4_pd_tessel_switch_setPdpClassCount_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_pdpPolice_value(
+    const p4_pd_tessel_switch_pdpPolice_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setQosPortProperties_value(
+    const p4_pd_tessel_switch_setQosPortProperties_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_copyCosRewriteDscp_value(
+    const p4_pd_tessel_switch_copyCosRewriteDscp_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_rewriteCosCopyDscp_value(
+    const p4_pd_tessel_switch_rewriteCosCopyDscp_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_rewriteCosRewriteDscp_value(
+    const p4_pd_tessel_switch_rewriteCosRewriteDscp_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setQosRewriteConfiguration_value(
+    const p4_pd_tessel_switch_setQosRewriteConfiguration_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_countEgressQueue_value(char *buffer);
+int p4_pd_tessel_switch_setNextHopToCpu_value(
+    const p4_pd_tessel_switch_setNextHopToCpu_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setRoutedMartian_value(char *buffer);
+int p4_pd_tessel_switch_setRouterNextHopDetails_value(
+    const p4_pd_tessel_switch_setRouterNextHopDetails_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_samePortBridgingTestAction_value(char *buffer);
+int p4_pd_tessel_switch_sipHashCompute_value(char *buffer);
+int p4_pd_tessel_switch_setNyxIntfDetails_value(
+    const p4_pd_tessel_switch_setNyxIntfDetails_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setSwitchToCpu_value(
+    const p4_pd_tessel_switch_setSwitchToCpu_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setVrfPropertiesTaggedPkt_value(
+    const p4_pd_tessel_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setVrfPropertiesTaggedXlatePkt_value(
+    const p4_pd_tessel_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *action_spec,
+    char *buffer);
+int p4_pd_tessel_switch_setTcDscp_value(
+    const p4_pd_tessel_switch_setTcDscp_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_trapPacket_value(
+    const p4_pd_tessel_switch_trapPacket_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_copyPacket_value(
+    const p4_pd_tessel_switch_copyPacket_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_setLlm_value(char *buffer);
+int p4_pd_tessel_switch_setTunnelTerminationTypeIpIp_value(char *buffer);
+int p4_pd_tessel_switch_setTunnelTerminationTypeIp6Ip6SwPath_value(char *buffer);
+int p4_pd_tessel_switch_setTunnelTerminationTypeNoneIpv6_value(char *buffer);
+int p4_pd_tessel_switch_setTunnelTerminationTypeNoneIpv4AndL2_value(char *buffer);
+int p4_pd_tessel_switch_setVrfPropertiesUntaggedPkt_value(
+    const p4_pd_tessel_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_removeVlanHdr_value(char *buffer);
+int p4_pd_tessel_switch_noVlanEncap_value(char *buffer);
+int p4_pd_tessel_switch_needVlanEncap_value(char *buffer);
+int p4_pd_tessel_switch_setVlanProperties_value(
+    const p4_pd_tessel_switch_setVlanProperties_action_spec_t *action_spec, char *buffer);
+int p4_pd_tessel_switch_trapPktToCpuUntagged_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_trapPktToCpuUntagged_action_spec_t *action_spec);
+int p4_pd_tessel_switch_copyPktToCpuUntagged_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_copyPktToCpuUntagged_action_spec_t *action_spec);
+int p4_pd_tessel_switch_trapPktToCpuTagged_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_trapPktToCpuTagged_action_spec_t *action_spec);
+int p4_pd_tessel_switch_copyPktToCpuTagged_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_copyPktToCpuTagged_action_spec_t *action_spec);
+int p4_pd_tessel_switch_trapPktToCpuSubintf_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_trapPktToCpuSubintf_action_spec_t *action_spec);
+int p4_pd_tessel_switch_copyPktToCpuSubintf_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_copyPktToCpuSubintf_action_spec_t *action_spec);
+int p4_pd_tessel_switch_encapPktToCpu_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_encapPktToCpu_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setDecapEscapeIpv4_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setDecapEscapeIpv4_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setDecapEscapeIpv6_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setDecapEscapeIpv6_action_spec_t *action_spec);
+int p4_pd_tessel_switch_kiteFlowSetDrop_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_kiteFlowSetDrop_action_spec_t *action_spec);
+int p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndRemoveInnerTag_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndRemoveInnerTag_action_spec_t *action_spec);
+int p4_pd_tessel_switch_kiteFlowRemoveInnerTag_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_kiteFlowRemoveInnerTag_action_spec_t *action_spec);
+int p4_pd_tessel_switch_kiteFlowDontFlow_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t *action_spec);
+int p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_action_spec_t *action_spec);
+int p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_action_spec_t *action_spec);
+int p4_pd_tessel_switch_kiteFlowPreviousHit_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_kiteFlowPreviousHit_action_spec_t *action_spec);
+int p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndAddInnerTag_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndAddInnerTag_action_spec_t *action_spec);
+int p4_pd_tessel_switch_kiteFlowAddInnerTagPreviousHit_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_kiteFlowAddInnerTagPreviousHit_action_spec_t *action_spec);
+int p4_pd_tessel_switch_kiteFlowAddInnerTagDontFlow_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_kiteFlowAddInnerTagDontFlow_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setEcmpNextHop_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setEcmpNextHop_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setL2DomainReplicated_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setL2DomainReplicated_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setEgrLagMemberSelector_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setEgrLagMemberSelector_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setEgressMirrorColor_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setEgressMirrorColor_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setEgressMirrorSession_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setEgressMirrorSession_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setEgrVlan_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setEgrVlan_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setEgrVlanSubIntf_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setEgrVlanSubIntf_action_spec_t *action_spec);
+int p4_pd_tessel_switch_noDecapNoEncapRouteIpv4_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec);
+int p4_pd_tessel_switch_noDecapNoEncapRouteIpv6_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec);
+int p4_pd_tessel_switch_encapGreIpv4ForClone_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_encapGreIpv4ForClone_action_spec_t *action_spec);
+int p4_pd_tessel_switch_decapIpIpRouteIpv4_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_decapIpIpRouteIpv4_action_spec_t *action_spec);
+int p4_pd_tessel_switch_decapIpIpRouteIpv6_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_decapIpIpRouteIpv6_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setEgressPort_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setEgressPort_action_spec_t *action_spec);
+int p4_pd_tessel_switch_finalizeMcResultIpmc_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_finalizeMcResultIpmc_action_spec_t *action_spec);
+int p4_pd_tessel_switch_finalizeMcResultL2mc_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_finalizeMcResultL2mc_action_spec_t *action_spec);
+int p4_pd_tessel_switch_finalizeMcResultL2mcFlood_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec);
+int p4_pd_tessel_switch_finalizeMcResultCancel_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_finalizeMcResultCancel_action_spec_t *action_spec);
+int p4_pd_tessel_switch_finalizeMcResultFlood_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_finalizeMcResultFlood_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setDstSegment_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setDstSegment_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setSrcSegment_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setSrcSegment_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setFirewallPolicyPermit_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setFirewallPolicyPermit_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setFirewallPolicyPermitAndOpenFlow_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setFirewallPolicyPermitAndOpenFlow_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setFirewallPolicyDrop_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setFirewallPolicyDrop_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setFlowLimitExceeded_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setFlowLimitExceeded_action_spec_t *action_spec);
+int p4_pd_tessel_switch_flowRecircPacketAction_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_flowRecircPacketAction_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelCommon_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setGlobalFieldsForMplsOverUdpTunnel_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setGlobalFieldsForMplsOverUdpTunnel_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setGlobalFieldsForMplsTunnel_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setGlobalFieldsForMplsTunnel_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setHaloXformDip_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setHaloXformDip_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setHaloXformIpv4Sip_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setHaloXformIpv4Sip_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setHaloXformIpv6Sip_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setHaloXformIpv6Sip_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setLagMemberSelector_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setLagMemberSelector_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setIngressMirrorColor_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setIngressMirrorColor_action_spec_t *action_spec);
+int p4_pd_tessel_switch_ingressMirrorAction_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_ingressMirrorAction_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setIngressMirrorSession_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setIngressMirrorSession_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setPhase0_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setPhase0_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setTrafficClassAndEgressQid_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setNextHop_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setNextHop_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setNextHop2_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setNextHop2_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setNextHop3_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setNextHop3_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setEcmp_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setEcmp_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setL2ControlFrame_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setL2ControlFrame_action_spec_t *action_spec);
+int p4_pd_tessel_switch_classifyL2ControlFrame_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_classifyL2ControlFrame_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setL2DomainUntagged_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setL2DomainUntagged_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setL2DomainVlanXlate_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setL2DomainVlanXlate_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setL2DomainTagged_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setL2DomainTagged_action_spec_t *action_spec);
+int p4_pd_tessel_switch_l2ForwardParamsSet_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_l2ForwardParamsSet_action_spec_t *action_spec);
+int p4_pd_tessel_switch_l2LookupKnownUcast_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_l2LookupKnownUcast_action_spec_t *action_spec);
+int p4_pd_tessel_switch_l2LookupKnownMcast_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_l2LookupKnownMcast_action_spec_t *action_spec);
+int p4_pd_tessel_switch_l2LookupKnownUcastTunnel_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_l2LookupKnownUcastTunnel_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setL2McResult_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setL2McResult_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setL2XId_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setL2XId_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setLagPort_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setLagPort_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setPruneParams_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setPruneParams_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setPruneParamsForL2Flood_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setPruneParamsForL2Flood_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setPruneParamsForL3Only_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setPruneParamsForL3Only_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setMirrorPacketEncapCpu_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec);
+int p4_pd_tessel_switch_newFlowRateLimitAction_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_newFlowRateLimitAction_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setNextHopDetails_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setNextHopDetails_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setCosFromDefault_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setCosFromDefault_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setCosFromPacket_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setCosFromPacket_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setCosFromPacketWithInner_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setCosFromPacketWithInner_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setPdpClass_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setPdpClass_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setPdpClassCount_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setPdpClassCount_action_spec_t *action_spec);
+int p4_pd_tessel_switch_pdpPolice_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_pdpPolice_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setQosPortProperties_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setQosPortProperties_action_spec_t *action_spec);
+int p4_pd_tessel_switch_copyCosRewriteDscp_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_copyCosRewriteDscp_action_spec_t *action_spec);
+int p4_pd_tessel_switch_rewriteCosCopyDscp_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_rewriteCosCopyDscp_action_spec_t *action_spec);
+int p4_pd_tessel_switch_rewriteCosRewriteDscp_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_rewriteCosRewriteDscp_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setQosRewriteConfiguration_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setQosRewriteConfiguration_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setNextHopToCpu_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setNextHopToCpu_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setRouterNextHopDetails_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setRouterNextHopDetails_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setNyxIntfDetails_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setNyxIntfDetails_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setSwitchToCpu_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setSwitchToCpu_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setVrfPropertiesTaggedPkt_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setVrfPropertiesTaggedXlatePkt_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setTcDscp_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setTcDscp_action_spec_t *action_spec);
+int p4_pd_tessel_switch_trapPacket_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_trapPacket_action_spec_t *action_spec);
+int p4_pd_tessel_switch_copyPacket_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_copyPacket_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setVrfPropertiesUntaggedPkt_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec);
+int p4_pd_tessel_switch_setVlanProperties_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_setVlanProperties_action_spec_t *action_spec);
+bool p4_pd_tessel_switch_trapPktToCpuUntagged_action_specs_are_equal(
+    const p4_pd_tessel_switch_trapPktToCpuUntagged_action_spec_t *a,
+    const p4_pd_tessel_switch_trapPktToCpuUntagged_action_spec_t *b);
+bool p4_pd_tessel_switch_copyPktToCpuUntagged_action_specs_are_equal(
+    const p4_pd_tessel_switch_copyPktToCpuUntagged_action_spec_t *a,
+    const p4_pd_tessel_switch_copyPktToCpuUntagged_action_spec_t *b);
+bool p4_pd_tessel_switch_trapPktToCpuTagged_action_specs_are_equal(
+    const p4_pd_tessel_switch_trapPktToCpuTagged_action_spec_t *a,
+    const p4_pd_tessel_switch_trapPktToCpuTagged_action_spec_t *b);
+bool p4_pd_tessel_switch_copyPktToCpuTagged_action_specs_are_equal(
+    const p4_pd_tessel_switch_copyPktToCpuTagged_action_spec_t *a,
+    const p4_pd_tessel_switch_copyPktToCpuTagged_action_spec_t *b);
+bool p4_pd_tessel_switch_trapPktToCpuSubintf_action_specs_are_equal(
+    const p4_pd_tessel_switch_trapPktToCpuSubintf_action_spec_t *a,
+    const p4_pd_tessel_switch_trapPktToCpuSubintf_action_spec_t *b);
+bool p4_pd_tessel_switch_copyPktToCpuSubintf_action_specs_are_equal(
+    const p4_pd_tessel_switch_copyPktToCpuSubintf_action_spec_t *a,
+    const p4_pd_tessel_switch_copyPktToCpuSubintf_action_spec_t *b);
+bool p4_pd_tessel_switch_encapPktToCpu_action_specs_are_equal(
+    const p4_pd_tessel_switch_encapPktToCpu_action_spec_t *a,
+    const p4_pd_tessel_switch_encapPktToCpu_action_spec_t *b);
+bool p4_pd_tessel_switch_setDecapEscapeIpv4_action_specs_are_equal(
+    const p4_pd_tessel_switch_setDecapEscapeIpv4_action_spec_t *a,
+    const p4_pd_tessel_switch_setDecapEscapeIpv4_action_spec_t *b);
+bool p4_pd_tessel_switch_setDecapEscapeIpv6_action_specs_are_equal(
+    const p4_pd_tessel_switch_setDecapEscapeIpv6_action_spec_t *a,
+    const p4_pd_tessel_switch_setDecapEscapeIpv6_action_spec_t *b);
+bool p4_pd_tessel_switch_kiteFlowSetDrop_action_specs_are_equal(
+    const p4_pd_tessel_switch_kiteFlowSetDrop_action_spec_t *a,
+    const p4_pd_tessel_switch_kiteFlowSetDrop_action_spec_t *b);
+bool p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndRemoveInnerTag_action_specs_are_equal(
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndRemoveInnerTag_action_spec_t *a,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndRemoveInnerTag_action_spec_t *b);
+bool p4_pd_tessel_switch_kiteFlowRemoveInnerTag_action_specs_are_equal(
+    const p4_pd_tessel_switch_kiteFlowRemoveInnerTag_action_spec_t *a,
+    const p4_pd_tessel_switch_kiteFlowRemoveInnerTag_action_spec_t *b);
+bool p4_pd_tessel_switch_kiteFlowDontFlow_action_specs_are_equal(
+    const p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t *a,
+    const p4_pd_tessel_switch_kiteFlowDontFlow_action_spec_t *b);
+bool p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_action_specs_are_equal(
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_action_spec_t *a,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2Aintf_action_spec_t *b);
+bool p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_action_specs_are_equal(
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_action_spec_t *a,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndL2Domain_action_spec_t *b);
+bool p4_pd_tessel_switch_kiteFlowPreviousHit_action_specs_are_equal(
+    const p4_pd_tessel_switch_kiteFlowPreviousHit_action_spec_t *a,
+    const p4_pd_tessel_switch_kiteFlowPreviousHit_action_spec_t *b);
+bool p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndAddInnerTag_action_specs_are_equal(
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndAddInnerTag_action_spec_t *a,
+    const p4_pd_tessel_switch_kiteFlowSetEgrL2AintfAndAddInnerTag_action_spec_t *b);
+bool p4_pd_tessel_switch_kiteFlowAddInnerTagPreviousHit_action_specs_are_equal(
+    const p4_pd_tessel_switch_kiteFlowAddInnerTagPreviousHit_action_spec_t *a,
+    const p4_pd_tessel_switch_kiteFlowAddInnerTagPreviousHit_action_spec_t *b);
+bool p4_pd_tessel_switch_kiteFlowAddInnerTagDontFlow_action_specs_are_equal(
+    const p4_pd_tessel_switch_kiteFlowAddInnerTagDontFlow_action_spec_t *a,
+    const p4_pd_tessel_switch_kiteFlowAddInnerTagDontFlow_action_spec_t *b);
+bool p4_pd_tessel_switch_setEcmpNextHop_action_specs_are_equal(
+    const p4_pd_tessel_switch_setEcmpNextHop_action_spec_t *a,
+    const p4_pd_tessel_switch_setEcmpNextHop_action_spec_t *b);
+bool p4_pd_tessel_switch_setL2DomainReplicated_action_specs_are_equal(
+    const p4_pd_tessel_switch_setL2DomainReplicated_action_spec_t *a,
+    const p4_pd_tessel_switch_setL2DomainReplicated_action_spec_t *b);
+bool p4_pd_tessel_switch_setEgrLagMemberSelector_action_specs_are_equal(
+    const p4_pd_tessel_switch_setEgrLagMemberSelector_action_spec_t *a,
+    const p4_pd_tessel_switch_setEgrLagMemberSelector_action_spec_t *b);
+bool p4_pd_tessel_switch_setEgressMirrorColor_action_specs_are_equal(
+    const p4_pd_tessel_switch_setEgressMirrorColor_action_spec_t *a,
+    const p4_pd_tessel_switch_setEgressMirrorColor_action_spec_t *b);
+bool p4_pd_tessel_switch_setEgressMirrorSession_action_specs_are_equal(
+    const p4_pd_tessel_switch_setEgressMirrorSession_action_spec_t *a,
+    const p4_pd_tessel_switch_setEgressMirrorSession_action_spec_t *b);
+bool p4_pd_tessel_switch_setEgrVlan_action_specs_are_equal(
+    const p4_pd_tessel_switch_setEgrVlan_action_spec_t *a,
+    const p4_pd_tessel_switch_setEgrVlan_action_spec_t *b);
+bool p4_pd_tessel_switch_setEgrVlanSubIntf_action_specs_are_equal(
+    const p4_pd_tessel_switch_setEgrVlanSubIntf_action_spec_t *a,
+    const p4_pd_tessel_switch_setEgrVlanSubIntf_action_spec_t *b);
+bool p4_pd_tessel_switch_noDecapNoEncapRouteIpv4_action_specs_are_equal(
+    const p4_pd_tessel_switch_noDecapNoEncapRouteIpv4_action_spec_t *a,
+    const p4_pd_tessel_switch_noDecapNoEncapRouteIpv4_action_spec_t *b);
+bool p4_pd_tessel_switch_noDecapNoEncapRouteIpv6_action_specs_are_equal(
+    const p4_pd_tessel_switch_noDecapNoEncapRouteIpv6_action_spec_t *a,
+    const p4_pd_tessel_switch_noDecapNoEncapRouteIpv6_action_spec_t *b);
+bool p4_pd_tessel_switch_encapGreIpv4ForClone_action_specs_are_equal(
+    const p4_pd_tessel_switch_encapGreIpv4ForClone_action_spec_t *a,
+    const p4_pd_tessel_switch_encapGreIpv4ForClone_action_spec_t *b);
+bool p4_pd_tessel_switch_decapIpIpRouteIpv4_action_specs_are_equal(
+    const p4_pd_tessel_switch_decapIpIpRouteIpv4_action_spec_t *a,
+    const p4_pd_tessel_switch_decapIpIpRouteIpv4_action_spec_t *b);
+bool p4_pd_tessel_switch_decapIpIpRouteIpv6_action_specs_are_equal(
+    const p4_pd_tessel_switch_decapIpIpRouteIpv6_action_spec_t *a,
+    const p4_pd_tessel_switch_decapIpIpRouteIpv6_action_spec_t *b);
+bool p4_pd_tessel_switch_setEgressPort_action_specs_are_equal(
+    const p4_pd_tessel_switch_setEgressPort_action_spec_t *a,
+    const p4_pd_tessel_switch_setEgressPort_action_spec_t *b);
+bool p4_pd_tessel_switch_finalizeMcResultIpmc_action_specs_are_equal(
+    const p4_pd_tessel_switch_finalizeMcResultIpmc_action_spec_t *a,
+    const p4_pd_tessel_switch_finalizeMcResultIpmc_action_spec_t *b);
+bool p4_pd_tessel_switch_finalizeMcResultL2mc_action_specs_are_equal(
+    const p4_pd_tessel_switch_finalizeMcResultL2mc_action_spec_t *a,
+    const p4_pd_tessel_switch_finalizeMcResultL2mc_action_spec_t *b);
+bool p4_pd_tessel_switch_finalizeMcResultL2mcFlood_action_specs_are_equal(
+    const p4_pd_tessel_switch_finalizeMcResultL2mcFlood_action_spec_t *a,
+    const p4_pd_tessel_switch_finalizeMcResultL2mcFlood_action_spec_t *b);
+bool p4_pd_tessel_switch_finalizeMcResultCancel_action_specs_are_equal(
+    const p4_pd_tessel_switch_finalizeMcResultCancel_action_spec_t *a,
+    const p4_pd_tessel_switch_finalizeMcResultCancel_action_spec_t *b);
+bool p4_pd_tessel_switch_finalizeMcResultFlood_action_specs_are_equal(
+    const p4_pd_tessel_switch_finalizeMcResultFlood_action_spec_t *a,
+    const p4_pd_tessel_switch_finalizeMcResultFlood_action_spec_t *b);
+bool p4_pd_tessel_switch_setDstSegment_action_specs_are_equal(
+    const p4_pd_tessel_switch_setDstSegment_action_spec_t *a,
+    const p4_pd_tessel_switch_setDstSegment_action_spec_t *b);
+bool p4_pd_tessel_switch_setSrcSegment_action_specs_are_equal(
+    const p4_pd_tessel_switch_setSrcSegment_action_spec_t *a,
+    const p4_pd_tessel_switch_setSrcSegment_action_spec_t *b);
+bool p4_pd_tessel_switch_setFirewallPolicyPermit_action_specs_are_equal(
+    const p4_pd_tessel_switch_setFirewallPolicyPermit_action_spec_t *a,
+    const p4_pd_tessel_switch_setFirewallPolicyPermit_action_spec_t *b);
+bool p4_pd_tessel_switch_setFirewallPolicyPermitAndOpenFlow_action_specs_are_equal(
+    const p4_pd_tessel_switch_setFirewallPolicyPermitAndOpenFlow_action_spec_t *a,
+    const p4_pd_tessel_switch_setFirewallPolicyPermitAndOpenFlow_action_spec_t *b);
+bool p4_pd_tessel_switch_setFirewallPolicyDrop_action_specs_are_equal(
+    const p4_pd_tessel_switch_setFirewallPolicyDrop_action_spec_t *a,
+    const p4_pd_tessel_switch_setFirewallPolicyDrop_action_spec_t *b);
+bool p4_pd_tessel_switch_setFlowLimitExceeded_action_specs_are_equal(
+    const p4_pd_tessel_switch_setFlowLimitExceeded_action_spec_t *a,
+    const p4_pd_tessel_switch_setFlowLimitExceeded_action_spec_t *b);
+bool p4_pd_tessel_switch_flowRecircPacketAction_action_specs_are_equal(
+    const p4_pd_tessel_switch_flowRecircPacketAction_action_spec_t *a,
+    const p4_pd_tessel_switch_flowRecircPacketAction_action_spec_t *b);
+bool p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelCommon_action_specs_are_equal(
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *a,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *b);
+bool p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4_action_specs_are_equal(
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *a,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *b);
+bool p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_specs_are_equal(
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *a,
+    const p4_pd_tessel_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *b);
+bool p4_pd_tessel_switch_setGlobalFieldsForMplsOverUdpTunnel_action_specs_are_equal(
+    const p4_pd_tessel_switch_setGlobalFieldsForMplsOverUdpTunnel_action_spec_t *a,
+    const p4_pd_tessel_switch_setGlobalFieldsForMplsOverUdpTunnel_action_spec_t *b);
+bool p4_pd_tessel_switch_setGlobalFieldsForMplsTunnel_action_specs_are_equal(
+    const p4_pd_tessel_switch_setGlobalFieldsForMplsTunnel_action_spec_t *a,
+    const p4_pd_tessel_switch_setGlobalFieldsForMplsTunnel_action_spec_t *b);
+bool p4_pd_tessel_switch_setHaloXformDip_action_specs_are_equal(
+    const p4_pd_tessel_switch_setHaloXformDip_action_spec_t *a,
+    const p4_pd_tessel_switch_setHaloXformDip_action_spec_t *b);
+bool p4_pd_tessel_switch_setHaloXformIpv4Sip_action_specs_are_equal(
+    const p4_pd_tessel_switch_setHaloXformIpv4Sip_action_spec_t *a,
+    const p4_pd_tessel_switch_setHaloXformIpv4Sip_action_spec_t *b);
+bool p4_pd_tessel_switch_setHaloXformIpv6Sip_action_specs_are_equal(
+    const p4_pd_tessel_switch_setHaloXformIpv6Sip_action_spec_t *a,
+    const p4_pd_tessel_switch_setHaloXformIpv6Sip_action_spec_t *b);
+bool p4_pd_tessel_switch_setLagMemberSelector_action_specs_are_equal(
+    const p4_pd_tessel_switch_setLagMemberSelector_action_spec_t *a,
+    const p4_pd_tessel_switch_setLagMemberSelector_action_spec_t *b);
+bool p4_pd_tessel_switch_setIngressMirrorColor_action_specs_are_equal(
+    const p4_pd_tessel_switch_setIngressMirrorColor_action_spec_t *a,
+    const p4_pd_tessel_switch_setIngressMirrorColor_action_spec_t *b);
+bool p4_pd_tessel_switch_ingressMirrorAction_action_specs_are_equal(
+    const p4_pd_tessel_switch_ingressMirrorAction_action_spec_t *a,
+    const p4_pd_tessel_switch_ingressMirrorAction_action_spec_t *b);
+bool p4_pd_tessel_switch_setIngressMirrorSession_action_specs_are_equal(
+    const p4_pd_tessel_switch_setIngressMirrorSession_action_spec_t *a,
+    const p4_pd_tessel_switch_setIngressMirrorSession_action_spec_t *b);
+bool p4_pd_tessel_switch_setPhase0_action_specs_are_equal(
+    const p4_pd_tessel_switch_setPhase0_action_spec_t *a,
+    const p4_pd_tessel_switch_setPhase0_action_spec_t *b);
+bool p4_pd_tessel_switch_setTrafficClassAndEgressQid_action_specs_are_equal(
+    const p4_pd_tessel_switch_setTrafficClassAndEgressQid_action_spec_t *a,
+    const p4_pd_tessel_switch_setTrafficClassAndEgressQid_action_spec_t *b);
+bool p4_pd_tessel_switch_setNextHop_action_specs_are_equal(
+    const p4_pd_tessel_switch_setNextHop_action_spec_t *a,
+    const p4_pd_tessel_switch_setNextHop_action_spec_t *b);
+bool p4_pd_tessel_switch_setNextHop2_action_specs_are_equal(
+    const p4_pd_tessel_switch_setNextHop2_action_spec_t *a,
+    const p4_pd_tessel_switch_setNextHop2_action_spec_t *b);
+bool p4_pd_tessel_switch_setNextHop3_action_specs_are_equal(
+    const p4_pd_tessel_switch_setNextHop3_action_spec_t *a,
+    const p4_pd_tessel_switch_setNextHop3_action_spec_t *b);
+bool p4_pd_tessel_switch_setEcmp_action_specs_are_equal(
+    const p4_pd_tessel_switch_setEcmp_action_spec_t *a,
+    const p4_pd_tessel_switch_setEcmp_action_spec_t *b);
+bool p4_pd_tessel_switch_setL2ControlFrame_action_specs_are_equal(
+    const p4_pd_tessel_switch_setL2ControlFrame_action_spec_t *a,
+    const p4_pd_tessel_switch_setL2ControlFrame_action_spec_t *b);
+bool p4_pd_tessel_switch_classifyL2ControlFrame_action_specs_are_equal(
+    const p4_pd_tessel_switch_classifyL2ControlFrame_action_spec_t *a,
+    const p4_pd_tessel_switch_classifyL2ControlFrame_action_spec_t *b);
+bool p4_pd_tessel_switch_setL2DomainUntagged_action_specs_are_equal(
+    const p4_pd_tessel_switch_setL2DomainUntagged_action_spec_t *a,
+    const p4_pd_tessel_switch_setL2DomainUntagged_action_spec_t *b);
+bool p4_pd_tessel_switch_setL2DomainVlanXlate_action_specs_are_equal(
+    const p4_pd_tessel_switch_setL2DomainVlanXlate_action_spec_t *a,
+    const p4_pd_tessel_switch_setL2DomainVlanXlate_action_spec_t *b);
+bool p4_pd_tessel_switch_setL2DomainTagged_action_specs_are_equal(
+    const p4_pd_tessel_switch_setL2DomainTagged_action_spec_t *a,
+    const p4_pd_tessel_switch_setL2DomainTagged_action_spec_t *b);
+bool p4_pd_tessel_switch_l2ForwardParamsSet_action_specs_are_equal(
+    const p4_pd_tessel_switch_l2ForwardParamsSet_action_spec_t *a,
+    const p4_pd_tessel_switch_l2ForwardParamsSet_action_spec_t *b);
+bool p4_pd_tessel_switch_l2LookupKnownUcast_action_specs_are_equal(
+    const p4_pd_tessel_switch_l2LookupKnownUcast_action_spec_t *a,
+    const p4_pd_tessel_switch_l2LookupKnownUcast_action_spec_t *b);
+bool p4_pd_tessel_switch_l2LookupKnownMcast_action_specs_are_equal(
+    const p4_pd_tessel_switch_l2LookupKnownMcast_action_spec_t *a,
+    const p4_pd_tessel_switch_l2LookupKnownMcast_action_spec_t *b);
+bool p4_pd_tessel_switch_l2LookupKnownUcastTunnel_action_specs_are_equal(
+    const p4_pd_tessel_switch_l2LookupKnownUcastTunnel_action_spec_t *a,
+    const p4_pd_tessel_switch_l2LookupKnownUcastTunnel_action_spec_t *b);
+bool p4_pd_tessel_switch_setL2McResult_action_specs_are_equal(
+    const p4_pd_tessel_switch_setL2McResult_action_spec_t *a,
+    const p4_pd_tessel_switch_setL2McResult_action_spec_t *b);
+bool p4_pd_tessel_switch_setL2XId_action_specs_are_equal(
+    const p4_pd_tessel_switch_setL2XId_action_spec_t *a,
+    const p4_pd_tessel_switch_setL2XId_action_spec_t *b);
+bool p4_pd_tessel_switch_setLagPort_action_specs_are_equal(
+    const p4_pd_tessel_switch_setLagPort_action_spec_t *a,
+    const p4_pd_tessel_switch_setLagPort_action_spec_t *b);
+bool p4_pd_tessel_switch_setPruneParams_action_specs_are_equal(
+    const p4_pd_tessel_switch_setPruneParams_action_spec_t *a,
+    const p4_pd_tessel_switch_setPruneParams_action_spec_t *b);
+bool p4_pd_tessel_switch_setPruneParamsForL2Flood_action_specs_are_equal(
+    const p4_pd_tessel_switch_setPruneParamsForL2Flood_action_spec_t *a,
+    const p4_pd_tessel_switch_setPruneParamsForL2Flood_action_spec_t *b);
+bool p4_pd_tessel_switch_setPruneParamsForL3Only_action_specs_are_equal(
+    const p4_pd_tessel_switch_setPruneParamsForL3Only_action_spec_t *a,
+    const p4_pd_tessel_switch_setPruneParamsForL3Only_action_spec_t *b);
+bool p4_pd_tessel_switch_setMirrorPacketEncapCpu_action_specs_are_equal(
+    const p4_pd_tessel_switch_setMirrorPacketEncapCpu_action_spec_t *a,
+    const p4_pd_tessel_switch_setMirrorPacketEncapCpu_action_spec_t *b);
+bool p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_action_specs_are_equal(
+    const p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_action_spec_t *a,
+    const p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_action_spec_t *b);
+bool p4_pd_tessel_switch_newFlowRateLimitAction_action_specs_are_equal(
+    const p4_pd_tessel_switch_newFlowRateLimitAction_action_spec_t *a,
+    const p4_pd_tessel_switch_newFlowRateLimitAction_action_spec_t *b);
+bool p4_pd_tessel_switch_setNextHopDetails_action_specs_are_equal(
+    const p4_pd_tessel_switch_setNextHopDetails_action_spec_t *a,
+    const p4_pd_tessel_switch_setNextHopDetails_action_spec_t *b);
+bool p4_pd_tessel_switch_setCosFromDefault_action_specs_are_equal(
+    const p4_pd_tessel_switch_setCosFromDefault_action_spec_t *a,
+    const p4_pd_tessel_switch_setCosFromDefault_action_spec_t *b);
+bool p4_pd_tessel_switch_setCosFromPacket_action_specs_are_equal(
+    const p4_pd_tessel_switch_setCosFromPacket_action_spec_t *a,
+    const p4_pd_tessel_switch_setCosFromPacket_action_spec_t *b);
+bool p4_pd_tessel_switch_setCosFromPacketWithInner_action_specs_are_equal(
+    const p4_pd_tessel_switch_setCosFromPacketWithInner_action_spec_t *a,
+    const p4_pd_tessel_switch_setCosFromPacketWithInner_action_spec_t *b);
+bool p4_pd_tessel_switch_setPdpClass_action_specs_are_equal(
+    const p4_pd_tessel_switch_setPdpClass_action_spec_t *a,
+    const p4_pd_tessel_switch_setPdpClass_action_spec_t *b);
+bool p4_pd_tessel_switch_setPdpClassCount_action_specs_are_equal(
+    const p4_pd_tessel_switch_setPdpClassCount_action_spec_t *a,
+    const p4_pd_tessel_switch_setPdpClassCount_action_spec_t *b);
+bool p4_pd_tessel_switch_pdpPolice_action_specs_are_equal(
+    const p4_pd_tessel_switch_pdpPolice_action_spec_t *a,
+    const p4_pd_tessel_switch_pdpPolice_action_spec_t *b);
+bool p4_pd_tessel_switch_setQosPortProperties_action_specs_are_equal(
+    const p4_pd_tessel_switch_setQosPortProperties_action_spec_t *a,
+    const p4_pd_tessel_switch_setQosPortProperties_action_spec_t *b);
+bool p4_pd_tessel_switch_copyCosRewriteDscp_action_specs_are_equal(
+    const p4_pd_tessel_switch_copyCosRewriteDscp_action_spec_t *a,
+    const p4_pd_tessel_switch_copyCosRewriteDscp_action_spec_t *b);
+bool p4_pd_tessel_switch_rewriteCosCopyDscp_action_specs_are_equal(
+    const p4_pd_tessel_switch_rewriteCosCopyDscp_action_spec_t *a,
+    const p4_pd_tessel_switch_rewriteCosCopyDscp_action_spec_t *b);
+bool p4_pd_tessel_switch_rewriteCosRewriteDscp_action_specs_are_equal(
+    const p4_pd_tessel_switch_rewriteCosRewriteDscp_action_spec_t *a,
+    const p4_pd_tessel_switch_rewriteCosRewriteDscp_action_spec_t *b);
+bool p4_pd_tessel_switch_setQosRewriteConfiguration_action_specs_are_equal(
+    const p4_pd_tessel_switch_setQosRewriteConfiguration_action_spec_t *a,
+    const p4_pd_tessel_switch_setQosRewriteConfiguration_action_spec_t *b);
+bool p4_pd_tessel_switch_setNextHopToCpu_action_specs_are_equal(
+    const p4_pd_tessel_switch_setNextHopToCpu_action_spec_t *a,
+    const p4_pd_tessel_switch_setNextHopToCpu_action_spec_t *b);
+bool p4_pd_tessel_switch_setRouterNextHopDetails_action_specs_are_equal(
+    const p4_pd_tessel_switch_setRouterNextHopDetails_action_spec_t *a,
+    const p4_pd_tessel_switch_setRouterNextHopDetails_action_spec_t *b);
+bool p4_pd_tessel_switch_setNyxIntfDetails_action_specs_are_equal(
+    const p4_pd_tessel_switch_setNyxIntfDetails_action_spec_t *a,
+    const p4_pd_tessel_switch_setNyxIntfDetails_action_spec_t *b);
+bool p4_pd_tessel_switch_setSwitchToCpu_action_specs_are_equal(
+    const p4_pd_tessel_switch_setSwitchToCpu_action_spec_t *a,
+    const p4_pd_tessel_switch_setSwitchToCpu_action_spec_t *b);
+bool p4_pd_tessel_switch_setVrfPropertiesTaggedPkt_action_specs_are_equal(
+    const p4_pd_tessel_switch_setVrfPropertiesTaggedPkt_action_spec_t *a,
+    const p4_pd_tessel_switch_setVrfPropertiesTaggedPkt_action_spec_t *b);
+bool p4_pd_tessel_switch_setVrfPropertiesTaggedXlatePkt_action_specs_are_equal(
+    const p4_pd_tessel_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *a,
+    const p4_pd_tessel_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *b);
+bool p4_pd_tessel_switch_setTcDscp_action_specs_are_equal(
+    const p4_pd_tessel_switch_setTcDscp_action_spec_t *a,
+    const p4_pd_tessel_switch_setTcDscp_action_spec_t *b);
+bool p4_pd_tessel_switch_trapPacket_action_specs_are_equal(
+    const p4_pd_tessel_switch_trapPacket_action_spec_t *a,
+    const p4_pd_tessel_switch_trapPacket_action_spec_t *b);
+bool p4_pd_tessel_switch_copyPacket_action_specs_are_equal(
+    const p4_pd_tessel_switch_copyPacket_action_spec_t *a,
+    const p4_pd_tessel_switch_copyPacket_action_spec_t *b);
+bool p4_pd_tessel_switch_setVrfPropertiesUntaggedPkt_action_specs_are_equal(
+    const p4_pd_tessel_switch_setVrfPropertiesUntaggedPkt_action_spec_t *a,
+    const p4_pd_tessel_switch_setVrfPropertiesUntaggedPkt_action_spec_t *b);
+bool p4_pd_tessel_switch_setVlanProperties_action_specs_are_equal(
+    const p4_pd_tessel_switch_setVlanProperties_action_spec_t *a,
+    const p4_pd_tessel_switch_setVlanProperties_action_spec_t *b);
+const char *p4_pd_tessel_switch_action_enum_to_string(uint32_t value);
+uint32_t p4_pd_tessel_switch_action_string_to_enum(const char *name);
+
 /* ==== Table ingressPortMapping (0x01000001), exact ==== */
 
 /* Key of 9 bits in 2 bytes. */
@@ -1064,6 +2211,25 @@ p4_pd_status_t p4_pd_tessel_switch_ingressPortMapping_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_ingressPortMapping_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_ingressPortMapping_match_spec_schema(void);
+int p4_pd_tessel_switch_ingressPortMapping_schema(char *buffer);
+int p4_pd_tessel_switch_ingressPortMapping_match_spec_value(
+    const p4_pd_tessel_switch_ingressPortMapping_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_ingressPortMapping_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_ingressPortMapping_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_ingressPortMapping_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_ingressPortMapping_match_specs_are_equal(
+    const p4_pd_tessel_switch_ingressPortMapping_match_spec_t *a,
+    const p4_pd_tessel_switch_ingressPortMapping_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_ingressPortMapping_ig_intr_md_ingress_port_width(void);
+int p4_pd_tessel_switch_ingressPortMapping_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_ingressPortMapping_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_ingressPortMapping_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table l2DmacClassify (0x01000002), ternary ==== */
 
@@ -1196,6 +2362,31 @@ p4_pd_status_t p4_pd_tessel_switch_l2DmacClassify_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_l2DmacClassify_match_spec_schema(void);
+int p4_pd_tessel_switch_l2DmacClassify_schema(char *buffer);
+int p4_pd_tessel_switch_l2DmacClassify_match_spec_value(
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_l2DmacClassify_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_l2DmacClassify_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec);
+int p4_pd_tessel_switch_l2DmacClassify_match_spec_stringify_for_counter(
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_l2DmacClassify_stringify_counter_match_spec(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, char *buffer);
+bool p4_pd_tessel_switch_l2DmacClassify_match_specs_are_equal(
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *a,
+    const p4_pd_tessel_switch_l2DmacClassify_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_l2DmacClassify_ig_intr_md_ingress_port_width(void);
+uint32_t p4_pd_tessel_switch_l2DmacClassify_outerEthHdr_dmacOui_width(void);
+uint32_t p4_pd_tessel_switch_l2DmacClassify_outerEthHdr_dmacStation_width(void);
+int p4_pd_tessel_switch_l2DmacClassify_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_l2DmacClassify_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_l2DmacClassify_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table l2SmacCheck (0x01000003), ternary ==== */
 
@@ -1258,6 +2449,26 @@ p4_pd_status_t p4_pd_tessel_switch_l2SmacCheck_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_l2SmacCheck_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_l2SmacCheck_match_spec_schema(void);
+int p4_pd_tessel_switch_l2SmacCheck_schema(char *buffer);
+int p4_pd_tessel_switch_l2SmacCheck_match_spec_value(
+    const p4_pd_tessel_switch_l2SmacCheck_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_l2SmacCheck_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_l2SmacCheck_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_l2SmacCheck_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_l2SmacCheck_match_specs_are_equal(
+    const p4_pd_tessel_switch_l2SmacCheck_match_spec_t *a,
+    const p4_pd_tessel_switch_l2SmacCheck_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_l2SmacCheck_outerEthHdr_smacOui_width(void);
+uint32_t p4_pd_tessel_switch_l2SmacCheck_outerEthHdr_smacStation_width(void);
+int p4_pd_tessel_switch_l2SmacCheck_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_l2SmacCheck_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_l2SmacCheck_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table kiteFlow1 (0x01000004), ternary ==== */
 
@@ -1363,6 +2574,28 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_next_entry_handles(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow1_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec,
     uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_kiteFlow1_match_spec_schema(void);
+int p4_pd_tessel_switch_kiteFlow1_schema(char *buffer);
+int p4_pd_tessel_switch_kiteFlow1_match_spec_value(
+    const p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_kiteFlow1_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_kiteFlow1_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_kiteFlow1_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_kiteFlow1_match_specs_are_equal(
+    const p4_pd_tessel_switch_kiteFlow1_match_spec_t *a,
+    const p4_pd_tessel_switch_kiteFlow1_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_kiteFlow1_phase0_ingVPort_width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow1_vlanHdr_1__width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow1_vlanHdr_1__vlanId_width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow1_ingMd_l2Control_width(void);
+int p4_pd_tessel_switch_kiteFlow1_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_kiteFlow1_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_kiteFlow1_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table kiteFlow2 (0x01000005), ternary ==== */
 
@@ -1481,6 +2714,29 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_next_entry_handles(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow2_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec,
     uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_kiteFlow2_match_spec_schema(void);
+int p4_pd_tessel_switch_kiteFlow2_schema(char *buffer);
+int p4_pd_tessel_switch_kiteFlow2_match_spec_value(
+    const p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_kiteFlow2_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_kiteFlow2_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_kiteFlow2_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_kiteFlow2_match_specs_are_equal(
+    const p4_pd_tessel_switch_kiteFlow2_match_spec_t *a,
+    const p4_pd_tessel_switch_kiteFlow2_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_kiteFlow2_tesselCpuHdr_width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow2_phase0_ingVPort_width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow2_ingMd_ingL2Domain_width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow2_kflowMd_isHit_width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow2_ingMd_l2Control_width(void);
+int p4_pd_tessel_switch_kiteFlow2_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_kiteFlow2_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_kiteFlow2_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table kiteFlow3 (0x01000007), ternary ==== */
 
@@ -1649,6 +2905,36 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_next_entry_handles(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_kiteFlow3_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec,
     uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_kiteFlow3_match_spec_schema(void);
+int p4_pd_tessel_switch_kiteFlow3_schema(char *buffer);
+int p4_pd_tessel_switch_kiteFlow3_match_spec_value(
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_kiteFlow3_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_kiteFlow3_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_kiteFlow3_match_specs_are_equal(
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *a,
+    const p4_pd_tessel_switch_kiteFlow3_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_kiteFlow3_tesselCpuHdr_width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow3_kflowMd_isHit_width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow3_phase0_ingVPort_width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow3_ingMd_ingL2Domain_width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow3_ingMd_etherType_width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow3_ingMd_srcPort_width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow3_ingMd_dstPort_width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow3_ingMd_protocol_width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow3_ingIpv4_sip_width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow3_ingIpv4_dip_width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow3_vlanHdr_0__width(void);
+uint32_t p4_pd_tessel_switch_kiteFlow3_ingMd_l2Control_width(void);
+int p4_pd_tessel_switch_kiteFlow3_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_kiteFlow3_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_kiteFlow3_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table kiteFlow1Counter (0x01000008), exact ==== */
 
@@ -1708,6 +2994,29 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow1Counter_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_kiteFlow1Counter_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_kiteFlow1Counter_match_spec_schema(void);
+int p4_pd_tessel_switch_kiteFlow1Counter_schema(char *buffer);
+int p4_pd_tessel_switch_kiteFlow1Counter_match_spec_value(
+    const p4_pd_tessel_switch_kiteFlow1Counter_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_kiteFlow1Counter_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_kiteFlow1Counter_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_kiteFlow1Counter_match_spec_t *match_spec);
+int p4_pd_tessel_switch_kiteFlow1Counter_match_spec_stringify_for_counter(
+    const p4_pd_tessel_switch_kiteFlow1Counter_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_kiteFlow1Counter_stringify_counter_match_spec(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, char *buffer);
+bool p4_pd_tessel_switch_kiteFlow1Counter_match_specs_are_equal(
+    const p4_pd_tessel_switch_kiteFlow1Counter_match_spec_t *a,
+    const p4_pd_tessel_switch_kiteFlow1Counter_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_kiteFlow1Counter_kflowMd_counterIndex_width(void);
+int p4_pd_tessel_switch_kiteFlow1Counter_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_kiteFlow1Counter_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_kiteFlow1Counter_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table kiteFlow2Counter (0x01000009), exact ==== */
 
@@ -1767,6 +3076,29 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow2Counter_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_kiteFlow2Counter_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_kiteFlow2Counter_match_spec_schema(void);
+int p4_pd_tessel_switch_kiteFlow2Counter_schema(char *buffer);
+int p4_pd_tessel_switch_kiteFlow2Counter_match_spec_value(
+    const p4_pd_tessel_switch_kiteFlow2Counter_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_kiteFlow2Counter_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_kiteFlow2Counter_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_kiteFlow2Counter_match_spec_t *match_spec);
+int p4_pd_tessel_switch_kiteFlow2Counter_match_spec_stringify_for_counter(
+    const p4_pd_tessel_switch_kiteFlow2Counter_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_kiteFlow2Counter_stringify_counter_match_spec(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, char *buffer);
+bool p4_pd_tessel_switch_kiteFlow2Counter_match_specs_are_equal(
+    const p4_pd_tessel_switch_kiteFlow2Counter_match_spec_t *a,
+    const p4_pd_tessel_switch_kiteFlow2Counter_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_kiteFlow2Counter_kflowMd_counterIndex_width(void);
+int p4_pd_tessel_switch_kiteFlow2Counter_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_kiteFlow2Counter_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_kiteFlow2Counter_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table kiteFlow3Counter (0x0100000a), exact ==== */
 
@@ -1826,6 +3158,29 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlow3Counter_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_kiteFlow3Counter_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_kiteFlow3Counter_match_spec_schema(void);
+int p4_pd_tessel_switch_kiteFlow3Counter_schema(char *buffer);
+int p4_pd_tessel_switch_kiteFlow3Counter_match_spec_value(
+    const p4_pd_tessel_switch_kiteFlow3Counter_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_kiteFlow3Counter_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_kiteFlow3Counter_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_kiteFlow3Counter_match_spec_t *match_spec);
+int p4_pd_tessel_switch_kiteFlow3Counter_match_spec_stringify_for_counter(
+    const p4_pd_tessel_switch_kiteFlow3Counter_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_kiteFlow3Counter_stringify_counter_match_spec(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, char *buffer);
+bool p4_pd_tessel_switch_kiteFlow3Counter_match_specs_are_equal(
+    const p4_pd_tessel_switch_kiteFlow3Counter_match_spec_t *a,
+    const p4_pd_tessel_switch_kiteFlow3Counter_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_kiteFlow3Counter_kflowMd_counterIndex_width(void);
+int p4_pd_tessel_switch_kiteFlow3Counter_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_kiteFlow3Counter_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_kiteFlow3Counter_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table tunnelTermination (0x0100000b), ternary ==== */
 
@@ -1920,6 +3275,29 @@ p4_pd_status_t p4_pd_tessel_switch_tunnelTermination_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_tunnelTermination_match_spec_schema(void);
+int p4_pd_tessel_switch_tunnelTermination_schema(char *buffer);
+int p4_pd_tessel_switch_tunnelTermination_match_spec_value(
+    const p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_tunnelTermination_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_tunnelTermination_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_tunnelTermination_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_tunnelTermination_match_specs_are_equal(
+    const p4_pd_tessel_switch_tunnelTermination_match_spec_t *a,
+    const p4_pd_tessel_switch_tunnelTermination_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_tunnelTermination_ingMd_tunnelType_width(void);
+uint32_t p4_pd_tessel_switch_tunnelTermination_outerEthHdr_dmacOui_width(void);
+uint32_t p4_pd_tessel_switch_tunnelTermination_outerEthHdr_dmacStation_width(void);
+uint32_t p4_pd_tessel_switch_tunnelTermination_outerIpv4Hdr_dip_width(void);
+uint32_t p4_pd_tessel_switch_tunnelTermination_outerIpv6Hdr_width(void);
+int p4_pd_tessel_switch_tunnelTermination_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_tunnelTermination_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_tunnelTermination_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table l2DomainLookup (0x0100000c), ternary ==== */
 
@@ -2020,6 +3398,28 @@ p4_pd_status_t p4_pd_tessel_switch_l2DomainLookup_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_l2DomainLookup_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_l2DomainLookup_match_spec_schema(void);
+int p4_pd_tessel_switch_l2DomainLookup_schema(char *buffer);
+int p4_pd_tessel_switch_l2DomainLookup_match_spec_value(
+    const p4_pd_tessel_switch_l2DomainLookup_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_l2DomainLookup_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_l2DomainLookup_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_l2DomainLookup_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_l2DomainLookup_match_specs_are_equal(
+    const p4_pd_tessel_switch_l2DomainLookup_match_spec_t *a,
+    const p4_pd_tessel_switch_l2DomainLookup_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_l2DomainLookup_phase0_switchPort_width(void);
+uint32_t p4_pd_tessel_switch_l2DomainLookup_phase0_ingVPort_width(void);
+uint32_t p4_pd_tessel_switch_l2DomainLookup_vlanHdr_0__width(void);
+uint32_t p4_pd_tessel_switch_l2DomainLookup_vlanHdr_0__vlanId_width(void);
+int p4_pd_tessel_switch_l2DomainLookup_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_l2DomainLookup_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_l2DomainLookup_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table untaggedPktToL3 (0x0100000d), exact ==== */
 
@@ -2084,6 +3484,25 @@ p4_pd_status_t p4_pd_tessel_switch_untaggedPktToL3_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_untaggedPktToL3_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_untaggedPktToL3_match_spec_schema(void);
+int p4_pd_tessel_switch_untaggedPktToL3_schema(char *buffer);
+int p4_pd_tessel_switch_untaggedPktToL3_match_spec_value(
+    const p4_pd_tessel_switch_untaggedPktToL3_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_untaggedPktToL3_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_untaggedPktToL3_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_untaggedPktToL3_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_untaggedPktToL3_match_specs_are_equal(
+    const p4_pd_tessel_switch_untaggedPktToL3_match_spec_t *a,
+    const p4_pd_tessel_switch_untaggedPktToL3_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_untaggedPktToL3_phase0_nativeAintf_width(void);
+int p4_pd_tessel_switch_untaggedPktToL3_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_untaggedPktToL3_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_untaggedPktToL3_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table taggedXlatePktToL3 (0x0100000e), exact ==== */
 
@@ -2156,6 +3575,26 @@ p4_pd_status_t p4_pd_tessel_switch_taggedXlatePktToL3_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_schema(void);
+int p4_pd_tessel_switch_taggedXlatePktToL3_schema(char *buffer);
+int p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_value(
+    const p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_taggedXlatePktToL3_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_taggedXlatePktToL3_match_specs_are_equal(
+    const p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_t *a,
+    const p4_pd_tessel_switch_taggedXlatePktToL3_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_taggedXlatePktToL3_phase0_ingVPort_width(void);
+uint32_t p4_pd_tessel_switch_taggedXlatePktToL3_vlanHdr_0__vlanId_width(void);
+int p4_pd_tessel_switch_taggedXlatePktToL3_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_taggedXlatePktToL3_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_taggedXlatePktToL3_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table taggedPktToL3 (0x0100000f), exact ==== */
 
@@ -2219,6 +3658,25 @@ p4_pd_status_t p4_pd_tessel_switch_taggedPktToL3_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_taggedPktToL3_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_taggedPktToL3_match_spec_schema(void);
+int p4_pd_tessel_switch_taggedPktToL3_schema(char *buffer);
+int p4_pd_tessel_switch_taggedPktToL3_match_spec_value(
+    const p4_pd_tessel_switch_taggedPktToL3_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_taggedPktToL3_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_taggedPktToL3_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_taggedPktToL3_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_taggedPktToL3_match_specs_are_equal(
+    const p4_pd_tessel_switch_taggedPktToL3_match_spec_t *a,
+    const p4_pd_tessel_switch_taggedPktToL3_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_taggedPktToL3_vlanHdr_0__vlanId_width(void);
+int p4_pd_tessel_switch_taggedPktToL3_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_taggedPktToL3_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_taggedPktToL3_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowHashTypeSelect (0x01000014), ternary ==== */
 
@@ -2292,6 +3750,26 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeSelect_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_flowHashTypeSelect_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_flowHashTypeSelect_match_spec_schema(void);
+int p4_pd_tessel_switch_flowHashTypeSelect_schema(char *buffer);
+int p4_pd_tessel_switch_flowHashTypeSelect_match_spec_value(
+    const p4_pd_tessel_switch_flowHashTypeSelect_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_flowHashTypeSelect_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowHashTypeSelect_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_flowHashTypeSelect_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_flowHashTypeSelect_match_specs_are_equal(
+    const p4_pd_tessel_switch_flowHashTypeSelect_match_spec_t *a,
+    const p4_pd_tessel_switch_flowHashTypeSelect_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_flowHashTypeSelect_ingIpv4_sip_width(void);
+uint32_t p4_pd_tessel_switch_flowHashTypeSelect_ingIpv4_dip_width(void);
+int p4_pd_tessel_switch_flowHashTypeSelect_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowHashTypeSelect_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_flowHashTypeSelect_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table newFlowRateLimit (0x0100001f), exact ==== */
 
@@ -2357,6 +3835,26 @@ p4_pd_status_t p4_pd_tessel_switch_newFlowRateLimit_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_newFlowRateLimit_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_newFlowRateLimit_match_spec_schema(void);
+int p4_pd_tessel_switch_newFlowRateLimit_schema(char *buffer);
+int p4_pd_tessel_switch_newFlowRateLimit_match_spec_value(
+    const p4_pd_tessel_switch_newFlowRateLimit_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_newFlowRateLimit_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_newFlowRateLimit_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_newFlowRateLimit_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_newFlowRateLimit_match_specs_are_equal(
+    const p4_pd_tessel_switch_newFlowRateLimit_match_spec_t *a,
+    const p4_pd_tessel_switch_newFlowRateLimit_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_newFlowRateLimit_ingMd_protocol_width(void);
+uint32_t p4_pd_tessel_switch_newFlowRateLimit_flowMgmt_present_width(void);
+int p4_pd_tessel_switch_newFlowRateLimit_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_newFlowRateLimit_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_newFlowRateLimit_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowDigestGeneration (0x01000021), ternary ==== */
 
@@ -2427,6 +3925,29 @@ p4_pd_status_t p4_pd_tessel_switch_flowDigestGeneration_get_entry_from_plcmt_dat
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_flowDigestGeneration_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_flowDigestGeneration_match_spec_schema(void);
+int p4_pd_tessel_switch_flowDigestGeneration_schema(char *buffer);
+int p4_pd_tessel_switch_flowDigestGeneration_match_spec_value(
+    const p4_pd_tessel_switch_flowDigestGeneration_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_flowDigestGeneration_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowDigestGeneration_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_flowDigestGeneration_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_flowDigestGeneration_match_specs_are_equal(
+    const p4_pd_tessel_switch_flowDigestGeneration_match_spec_t *a,
+    const p4_pd_tessel_switch_flowDigestGeneration_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_flowDigestGeneration_flowMgmt_newFlow_width(void);
+uint32_t p4_pd_tessel_switch_flowDigestGeneration_flowMgmt_recircNeeded_width(void);
+uint32_t p4_pd_tessel_switch_flowDigestGeneration_ingMd_protocol_width(void);
+uint32_t p4_pd_tessel_switch_flowDigestGeneration_flowMgmt_finRstDigestEnabled_width(void);
+uint32_t p4_pd_tessel_switch_flowDigestGeneration_ingMd_tcpFlags_width(void);
+int p4_pd_tessel_switch_flowDigestGeneration_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowDigestGeneration_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_flowDigestGeneration_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table firewallSrcSegmentLookup (0x01000022), ternary ==== */
 
@@ -2496,6 +4017,26 @@ p4_pd_status_t p4_pd_tessel_switch_firewallSrcSegmentLookup_get_entry_from_plcmt
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_schema(void);
+int p4_pd_tessel_switch_firewallSrcSegmentLookup_schema(char *buffer);
+int p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_value(
+    const p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_firewallSrcSegmentLookup_value(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_firewallSrcSegmentLookup_match_specs_are_equal(
+    const p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_t *a,
+    const p4_pd_tessel_switch_firewallSrcSegmentLookup_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_firewallSrcSegmentLookup_phase0_ingVPort_width(void);
+uint32_t p4_pd_tessel_switch_firewallSrcSegmentLookup_ingMd_ingL2Domain_width(void);
+int p4_pd_tessel_switch_firewallSrcSegmentLookup_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_firewallSrcSegmentLookup_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_firewallSrcSegmentLookup_plcmt_data_eq_to_hw(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t table_handle,
+    p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table firewallIpSrcSegmentLookup (0x01000023), ternary ==== */
 
@@ -2568,6 +4109,26 @@ p4_pd_status_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_get_entry_from_plc
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_schema(void);
+int p4_pd_tessel_switch_firewallIpSrcSegmentLookup_schema(char *buffer);
+int p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_value(
+    const p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_firewallIpSrcSegmentLookup_value(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_specs_are_equal(
+    const p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_t *a,
+    const p4_pd_tessel_switch_firewallIpSrcSegmentLookup_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_ingIpv4_sip_width(void);
+uint32_t p4_pd_tessel_switch_firewallIpSrcSegmentLookup_l3Info_vrfId_width(void);
+int p4_pd_tessel_switch_firewallIpSrcSegmentLookup_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_firewallIpSrcSegmentLookup_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_firewallIpSrcSegmentLookup_plcmt_data_eq_to_hw(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t table_handle,
+    p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table firewallDstSegmentLookup (0x01000024), ternary ==== */
 
@@ -2637,6 +4198,26 @@ p4_pd_status_t p4_pd_tessel_switch_firewallDstSegmentLookup_get_entry_from_plcmt
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_schema(void);
+int p4_pd_tessel_switch_firewallDstSegmentLookup_schema(char *buffer);
+int p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_value(
+    const p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_firewallDstSegmentLookup_value(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_firewallDstSegmentLookup_match_specs_are_equal(
+    const p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_t *a,
+    const p4_pd_tessel_switch_firewallDstSegmentLookup_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_firewallDstSegmentLookup_egrMd_egrL2Domain_width(void);
+uint32_t p4_pd_tessel_switch_firewallDstSegmentLookup_egrMd_egrL2AintfUnresolved_width(void);
+int p4_pd_tessel_switch_firewallDstSegmentLookup_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_firewallDstSegmentLookup_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_firewallDstSegmentLookup_plcmt_data_eq_to_hw(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t table_handle,
+    p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table firewallIpDstSegmentLookup (0x01000025), ternary ==== */
 
@@ -2709,6 +4290,26 @@ p4_pd_status_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_get_entry_from_plc
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_schema(void);
+int p4_pd_tessel_switch_firewallIpDstSegmentLookup_schema(char *buffer);
+int p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_value(
+    const p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_firewallIpDstSegmentLookup_value(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_specs_are_equal(
+    const p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_t *a,
+    const p4_pd_tessel_switch_firewallIpDstSegmentLookup_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_ingIpv4_dip_width(void);
+uint32_t p4_pd_tessel_switch_firewallIpDstSegmentLookup_l3Info_vrfId_width(void);
+int p4_pd_tessel_switch_firewallIpDstSegmentLookup_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_firewallIpDstSegmentLookup_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_firewallIpDstSegmentLookup_plcmt_data_eq_to_hw(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t table_handle,
+    p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table firewallPolicy (0x01000026), ternary ==== */
 
@@ -2826,6 +4427,35 @@ p4_pd_status_t p4_pd_tessel_switch_firewallPolicy_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_firewallPolicy_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_firewallPolicy_match_spec_schema(void);
+int p4_pd_tessel_switch_firewallPolicy_schema(char *buffer);
+int p4_pd_tessel_switch_firewallPolicy_match_spec_value(
+    const p4_pd_tessel_switch_firewallPolicy_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_firewallPolicy_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_firewallPolicy_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_firewallPolicy_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_firewallPolicy_match_specs_are_equal(
+    const p4_pd_tessel_switch_firewallPolicy_match_spec_t *a,
+    const p4_pd_tessel_switch_firewallPolicy_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_firewallPolicy_fwMd_srcSegment_width(void);
+uint32_t p4_pd_tessel_switch_firewallPolicy_fwMd_dstSegment_width(void);
+uint32_t p4_pd_tessel_switch_firewallPolicy_flowMgmt_present_width(void);
+uint32_t p4_pd_tessel_switch_firewallPolicy_ingIpv4_sip_width(void);
+uint32_t p4_pd_tessel_switch_firewallPolicy_ingIpv4_dip_width(void);
+uint32_t p4_pd_tessel_switch_firewallPolicy_ingMd_protocol_width(void);
+uint32_t p4_pd_tessel_switch_firewallPolicy_ingMd_srcPort_width(void);
+uint32_t p4_pd_tessel_switch_firewallPolicy_ingMd_dstPort_width(void);
+uint32_t p4_pd_tessel_switch_firewallPolicy_ingMd_tcpFlags_width(void);
+uint32_t p4_pd_tessel_switch_firewallPolicy_l3Info_vrfId_width(void);
+uint32_t p4_pd_tessel_switch_firewallPolicy_egrMd_routed_width(void);
+int p4_pd_tessel_switch_firewallPolicy_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_firewallPolicy_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_firewallPolicy_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table ipv4ShortMaskLpm (0x0100002c), longest prefix, ages its entries ==== */
 
@@ -2951,6 +4581,26 @@ p4_pd_status_t p4_pd_tessel_switch_ipv4ShortMaskLpm_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_schema(void);
+int p4_pd_tessel_switch_ipv4ShortMaskLpm_schema(char *buffer);
+int p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_value(
+    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_ipv4ShortMaskLpm_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_ipv4ShortMaskLpm_match_specs_are_equal(
+    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *a,
+    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_ipv4ShortMaskLpm_l3Info_vrfId_width(void);
+uint32_t p4_pd_tessel_switch_ipv4ShortMaskLpm_ingIpv4_dip_width(void);
+int p4_pd_tessel_switch_ipv4ShortMaskLpm_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_ipv4ShortMaskLpm_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_ipv4ShortMaskLpm_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table ipv6ShortMaskLpm (0x0100002d), longest prefix, ages its entries ==== */
 
@@ -3076,6 +4726,26 @@ p4_pd_status_t p4_pd_tessel_switch_ipv6ShortMaskLpm_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_schema(void);
+int p4_pd_tessel_switch_ipv6ShortMaskLpm_schema(char *buffer);
+int p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_value(
+    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_ipv6ShortMaskLpm_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_ipv6ShortMaskLpm_match_specs_are_equal(
+    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *a,
+    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_ipv6ShortMaskLpm_l3Info_vrfId_width(void);
+uint32_t p4_pd_tessel_switch_ipv6ShortMaskLpm_ingIpv6_dip_width(void);
+int p4_pd_tessel_switch_ipv6ShortMaskLpm_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_ipv6ShortMaskLpm_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_ipv6ShortMaskLpm_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table switchToCpu (0x0100002e), exact ==== */
 
@@ -3140,6 +4810,26 @@ p4_pd_status_t p4_pd_tessel_switch_switchToCpu_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_switchToCpu_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_switchToCpu_match_spec_schema(void);
+int p4_pd_tessel_switch_switchToCpu_schema(char *buffer);
+int p4_pd_tessel_switch_switchToCpu_match_spec_value(
+    const p4_pd_tessel_switch_switchToCpu_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_switchToCpu_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_switchToCpu_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_switchToCpu_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_switchToCpu_match_specs_are_equal(
+    const p4_pd_tessel_switch_switchToCpu_match_spec_t *a,
+    const p4_pd_tessel_switch_switchToCpu_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_switchToCpu_l3Info_ipRouting_width(void);
+uint32_t p4_pd_tessel_switch_switchToCpu_ingMd_v4V6Valid_width(void);
+int p4_pd_tessel_switch_switchToCpu_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_switchToCpu_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_switchToCpu_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table ecmpGroup (0x0100002f), exact, bound to ecmpMemberActionProfile ==== */
 
@@ -3209,6 +4899,25 @@ p4_pd_status_t p4_pd_tessel_switch_ecmpGroup_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_ecmpGroup_match_spec_t *match_spec,
     p4_pd_member_handle_t *member, p4_pd_group_handle_t *group, bool *has_member, bool *has_group,
     bool *no_key);
+const char *p4_pd_tessel_switch_ecmpGroup_match_spec_schema(void);
+int p4_pd_tessel_switch_ecmpGroup_schema(char *buffer);
+int p4_pd_tessel_switch_ecmpGroup_match_spec_value(
+    const p4_pd_tessel_switch_ecmpGroup_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_ecmpGroup_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_ecmpGroup_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_ecmpGroup_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_ecmpGroup_match_specs_are_equal(
+    const p4_pd_tessel_switch_ecmpGroup_match_spec_t *a,
+    const p4_pd_tessel_switch_ecmpGroup_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_ecmpGroup_l3_ecmpGroup_width(void);
+int p4_pd_tessel_switch_ecmpGroup_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_ecmpGroup_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_ecmpGroup_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table reservedNextHop (0x01000031), exact ==== */
 
@@ -3273,6 +4982,25 @@ p4_pd_status_t p4_pd_tessel_switch_reservedNextHop_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_reservedNextHop_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_reservedNextHop_match_spec_schema(void);
+int p4_pd_tessel_switch_reservedNextHop_schema(char *buffer);
+int p4_pd_tessel_switch_reservedNextHop_match_spec_value(
+    const p4_pd_tessel_switch_reservedNextHop_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_reservedNextHop_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_reservedNextHop_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_reservedNextHop_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_reservedNextHop_match_specs_are_equal(
+    const p4_pd_tessel_switch_reservedNextHop_match_spec_t *a,
+    const p4_pd_tessel_switch_reservedNextHop_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_reservedNextHop_l3_nextHop_width(void);
+int p4_pd_tessel_switch_reservedNextHop_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_reservedNextHop_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_reservedNextHop_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table nextHop (0x01000032), exact ==== */
 
@@ -3334,6 +5062,24 @@ p4_pd_status_t p4_pd_tessel_switch_nextHop_get_next_entry_handles(p4_pd_session_
 p4_pd_status_t p4_pd_tessel_switch_nextHop_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_nextHop_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_nextHop_match_spec_schema(void);
+int p4_pd_tessel_switch_nextHop_schema(char *buffer);
+int p4_pd_tessel_switch_nextHop_match_spec_value(
+    const p4_pd_tessel_switch_nextHop_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_nextHop_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_nextHop_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_nextHop_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_nextHop_match_specs_are_equal(
+    const p4_pd_tessel_switch_nextHop_match_spec_t *a,
+    const p4_pd_tessel_switch_nextHop_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_nextHop_l3_nextHop_width(void);
+int p4_pd_tessel_switch_nextHop_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_nextHop_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_nextHop_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table routerNextHop (0x01000033), exact ==== */
 
@@ -3397,6 +5143,25 @@ p4_pd_status_t p4_pd_tessel_switch_routerNextHop_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_routerNextHop_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_routerNextHop_match_spec_schema(void);
+int p4_pd_tessel_switch_routerNextHop_schema(char *buffer);
+int p4_pd_tessel_switch_routerNextHop_match_spec_value(
+    const p4_pd_tessel_switch_routerNextHop_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_routerNextHop_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_routerNextHop_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_routerNextHop_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_routerNextHop_match_specs_are_equal(
+    const p4_pd_tessel_switch_routerNextHop_match_spec_t *a,
+    const p4_pd_tessel_switch_routerNextHop_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_routerNextHop_l3_nextHop_width(void);
+int p4_pd_tessel_switch_routerNextHop_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_routerNextHop_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_routerNextHop_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table hashComputeInnerIpHdr (0x01000038), exact ==== */
 
@@ -3466,6 +5231,26 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerIpHdr_get_entry_from_plcmt_da
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_schema(void);
+int p4_pd_tessel_switch_hashComputeInnerIpHdr_schema(char *buffer);
+int p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_value(
+    const p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_hashComputeInnerIpHdr_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_hashComputeInnerIpHdr_match_specs_are_equal(
+    const p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_t *a,
+    const p4_pd_tessel_switch_hashComputeInnerIpHdr_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_hashComputeInnerIpHdr_innerIpv4Hdr_width(void);
+uint32_t p4_pd_tessel_switch_hashComputeInnerIpHdr_innerIpv6Hdr_width(void);
+int p4_pd_tessel_switch_hashComputeInnerIpHdr_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_hashComputeInnerIpHdr_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_hashComputeInnerIpHdr_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table lagHashSelection (0x0100003d), ternary ==== */
 
@@ -3594,6 +5379,32 @@ p4_pd_status_t p4_pd_tessel_switch_lagHashSelection_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_lagHashSelection_match_spec_schema(void);
+int p4_pd_tessel_switch_lagHashSelection_schema(char *buffer);
+int p4_pd_tessel_switch_lagHashSelection_match_spec_value(
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_lagHashSelection_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_lagHashSelection_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_lagHashSelection_match_specs_are_equal(
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *a,
+    const p4_pd_tessel_switch_lagHashSelection_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_lagHashSelection_innerL4PortHdr_width(void);
+uint32_t p4_pd_tessel_switch_lagHashSelection_innerIpv4Hdr_width(void);
+uint32_t p4_pd_tessel_switch_lagHashSelection_innerIpv6Hdr_width(void);
+uint32_t p4_pd_tessel_switch_lagHashSelection_innerEthHdr_width(void);
+uint32_t p4_pd_tessel_switch_lagHashSelection_l4PortHdr_width(void);
+uint32_t p4_pd_tessel_switch_lagHashSelection_outerIpv4Hdr_width(void);
+uint32_t p4_pd_tessel_switch_lagHashSelection_outerIpv6Hdr_width(void);
+uint32_t p4_pd_tessel_switch_lagHashSelection_outerEthHdr_width(void);
+int p4_pd_tessel_switch_lagHashSelection_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_lagHashSelection_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_lagHashSelection_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table ecmpHashSelection (0x0100003e), ternary ==== */
 
@@ -3721,6 +5532,31 @@ p4_pd_status_t p4_pd_tessel_switch_ecmpHashSelection_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_ecmpHashSelection_match_spec_schema(void);
+int p4_pd_tessel_switch_ecmpHashSelection_schema(char *buffer);
+int p4_pd_tessel_switch_ecmpHashSelection_match_spec_value(
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_ecmpHashSelection_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_ecmpHashSelection_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_ecmpHashSelection_match_specs_are_equal(
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *a,
+    const p4_pd_tessel_switch_ecmpHashSelection_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_ecmpHashSelection_innerL4PortHdr_width(void);
+uint32_t p4_pd_tessel_switch_ecmpHashSelection_innerIpv4Hdr_width(void);
+uint32_t p4_pd_tessel_switch_ecmpHashSelection_innerIpv6Hdr_width(void);
+uint32_t p4_pd_tessel_switch_ecmpHashSelection_innerEthHdr_width(void);
+uint32_t p4_pd_tessel_switch_ecmpHashSelection_l4PortHdr_width(void);
+uint32_t p4_pd_tessel_switch_ecmpHashSelection_outerIpv6Hdr_width(void);
+uint32_t p4_pd_tessel_switch_ecmpHashSelection_outerIpv4Hdr_width(void);
+int p4_pd_tessel_switch_ecmpHashSelection_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_ecmpHashSelection_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_ecmpHashSelection_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table ingressPortDropCheck (0x0100003f), ternary ==== */
 
@@ -3801,6 +5637,35 @@ p4_pd_status_t p4_pd_tessel_switch_ingressPortDropCheck_get_entry_from_plcmt_dat
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_ingressPortDropCheck_match_spec_schema(void);
+int p4_pd_tessel_switch_ingressPortDropCheck_schema(char *buffer);
+int p4_pd_tessel_switch_ingressPortDropCheck_match_spec_value(
+    const p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_ingressPortDropCheck_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_ingressPortDropCheck_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t *match_spec);
+int p4_pd_tessel_switch_ingressPortDropCheck_match_spec_stringify_for_counter(
+    const p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_ingressPortDropCheck_stringify_counter_match_spec(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, char *buffer);
+bool p4_pd_tessel_switch_ingressPortDropCheck_match_specs_are_equal(
+    const p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t *a,
+    const p4_pd_tessel_switch_ingressPortDropCheck_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_ingressPortDropCheck_ig_intr_md_from_parser_aux_ingress_parser_err_width(
+    void);
+uint32_t p4_pd_tessel_switch_ingressPortDropCheck_ig_intr_md_ingress_port_width(void);
+uint32_t p4_pd_tessel_switch_ingressPortDropCheck_ingMd_illegalDmac_width(void);
+uint32_t p4_pd_tessel_switch_ingressPortDropCheck_ingMd_illegalSmac_width(void);
+uint32_t p4_pd_tessel_switch_ingressPortDropCheck_ingMd_invalidTunnel_width(void);
+uint32_t p4_pd_tessel_switch_ingressPortDropCheck_parserMd_outerHdrFlags_width(void);
+int p4_pd_tessel_switch_ingressPortDropCheck_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_ingressPortDropCheck_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_ingressPortDropCheck_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table l2StaticMacSrcAddrDrop (0x01000040), exact ==== */
 
@@ -3873,6 +5738,27 @@ p4_pd_status_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_get_entry_from_plcmt_d
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_schema(void);
+int p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_schema(char *buffer);
+int p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_value(
+    const p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_value(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_specs_are_equal(
+    const p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_t *a,
+    const p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_ingMd_smacOui_width(void);
+uint32_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_ingMd_smacStation_width(void);
+uint32_t p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_ingMd_ingL2Domain_width(void);
+int p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_l2StaticMacSrcAddrDrop_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table l2LearningLookup (0x01000041), exact, ages its entries ==== */
 
@@ -3960,6 +5846,28 @@ p4_pd_status_t p4_pd_tessel_switch_l2LearningLookup_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_l2LearningLookup_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_l2LearningLookup_match_spec_schema(void);
+int p4_pd_tessel_switch_l2LearningLookup_schema(char *buffer);
+int p4_pd_tessel_switch_l2LearningLookup_match_spec_value(
+    const p4_pd_tessel_switch_l2LearningLookup_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_l2LearningLookup_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_l2LearningLookup_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_l2LearningLookup_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_l2LearningLookup_match_specs_are_equal(
+    const p4_pd_tessel_switch_l2LearningLookup_match_spec_t *a,
+    const p4_pd_tessel_switch_l2LearningLookup_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_l2LearningLookup_ingMd_smacOui_width(void);
+uint32_t p4_pd_tessel_switch_l2LearningLookup_ingMd_smacStation_width(void);
+uint32_t p4_pd_tessel_switch_l2LearningLookup_ingMd_ingL2Domain_width(void);
+uint32_t p4_pd_tessel_switch_l2LearningLookup_ingMd_ingL2Aintf_width(void);
+int p4_pd_tessel_switch_l2LearningLookup_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_l2LearningLookup_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_l2LearningLookup_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table vlanProperties (0x01000042), exact ==== */
 
@@ -4023,6 +5931,25 @@ p4_pd_status_t p4_pd_tessel_switch_vlanProperties_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_vlanProperties_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_vlanProperties_match_spec_schema(void);
+int p4_pd_tessel_switch_vlanProperties_schema(char *buffer);
+int p4_pd_tessel_switch_vlanProperties_match_spec_value(
+    const p4_pd_tessel_switch_vlanProperties_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_vlanProperties_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_vlanProperties_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_vlanProperties_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_vlanProperties_match_specs_are_equal(
+    const p4_pd_tessel_switch_vlanProperties_match_spec_t *a,
+    const p4_pd_tessel_switch_vlanProperties_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_vlanProperties_ingMd_ingL2Domain_width(void);
+int p4_pd_tessel_switch_vlanProperties_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_vlanProperties_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_vlanProperties_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table vrrpMacCheck (0x01000043), exact ==== */
 
@@ -4082,6 +6009,27 @@ p4_pd_status_t p4_pd_tessel_switch_vrrpMacCheck_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_vrrpMacCheck_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_vrrpMacCheck_match_spec_schema(void);
+int p4_pd_tessel_switch_vrrpMacCheck_schema(char *buffer);
+int p4_pd_tessel_switch_vrrpMacCheck_match_spec_value(
+    const p4_pd_tessel_switch_vrrpMacCheck_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_vrrpMacCheck_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_vrrpMacCheck_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_vrrpMacCheck_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_vrrpMacCheck_match_specs_are_equal(
+    const p4_pd_tessel_switch_vrrpMacCheck_match_spec_t *a,
+    const p4_pd_tessel_switch_vrrpMacCheck_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_vrrpMacCheck_ingMd_ingL3Aintf_width(void);
+uint32_t p4_pd_tessel_switch_vrrpMacCheck_ingMd_dmacOui_width(void);
+uint32_t p4_pd_tessel_switch_vrrpMacCheck_ingMd_dmacStation_width(void);
+int p4_pd_tessel_switch_vrrpMacCheck_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_vrrpMacCheck_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_vrrpMacCheck_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table l3DmacCheck (0x01000044), ternary ==== */
 
@@ -4168,6 +6116,29 @@ p4_pd_status_t p4_pd_tessel_switch_l3DmacCheck_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_l3DmacCheck_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_l3DmacCheck_match_spec_schema(void);
+int p4_pd_tessel_switch_l3DmacCheck_schema(char *buffer);
+int p4_pd_tessel_switch_l3DmacCheck_match_spec_value(
+    const p4_pd_tessel_switch_l3DmacCheck_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_l3DmacCheck_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_l3DmacCheck_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_l3DmacCheck_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_l3DmacCheck_match_specs_are_equal(
+    const p4_pd_tessel_switch_l3DmacCheck_match_spec_t *a,
+    const p4_pd_tessel_switch_l3DmacCheck_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_l3DmacCheck_ingMd_ingL3Aintf_width(void);
+uint32_t p4_pd_tessel_switch_l3DmacCheck_ingMd_dmacOui_width(void);
+uint32_t p4_pd_tessel_switch_l3DmacCheck_ingMd_dmacStation_width(void);
+uint32_t p4_pd_tessel_switch_l3DmacCheck_ingMd_v4V6Valid_width(void);
+uint32_t p4_pd_tessel_switch_l3DmacCheck_phase0_portType_width(void);
+int p4_pd_tessel_switch_l3DmacCheck_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_l3DmacCheck_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_l3DmacCheck_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table learningDigestGeneration (0x01000045), ternary ==== */
 
@@ -4268,6 +6239,31 @@ p4_pd_status_t p4_pd_tessel_switch_learningDigestGeneration_get_entry_from_plcmt
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_learningDigestGeneration_match_spec_schema(void);
+int p4_pd_tessel_switch_learningDigestGeneration_schema(char *buffer);
+int p4_pd_tessel_switch_learningDigestGeneration_match_spec_value(
+    const p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_learningDigestGeneration_value(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_learningDigestGeneration_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_learningDigestGeneration_match_specs_are_equal(
+    const p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *a,
+    const p4_pd_tessel_switch_learningDigestGeneration_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_learningDigestGeneration_learningDigestMd_applicationId_width(void);
+uint32_t p4_pd_tessel_switch_learningDigestGeneration_ingMd_invalidTunnel_width(void);
+uint32_t p4_pd_tessel_switch_learningDigestGeneration_ig_intr_md_ingress_port_width(void);
+uint32_t p4_pd_tessel_switch_learningDigestGeneration_ingMd_ingL2Aintf_width(void);
+uint32_t p4_pd_tessel_switch_learningDigestGeneration_ingVlanStpCheck_stpBlocked_width(void);
+uint32_t p4_pd_tessel_switch_learningDigestGeneration_ingVlanStpCheck_invalidVlan_width(void);
+uint32_t p4_pd_tessel_switch_learningDigestGeneration_ingMd_l2Control_width(void);
+int p4_pd_tessel_switch_learningDigestGeneration_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_learningDigestGeneration_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_learningDigestGeneration_plcmt_data_eq_to_hw(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t table_handle,
+    p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table lagGroup (0x01000046), ternary, bound to lagPortActionProfile ==== */
 
@@ -4339,6 +6335,25 @@ p4_pd_status_t p4_pd_tessel_switch_lagGroup_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_lagGroup_match_spec_t *match_spec,
     uint32_t *priority, p4_pd_member_handle_t *member, p4_pd_group_handle_t *group,
     bool *has_member, bool *has_group, bool *no_key);
+const char *p4_pd_tessel_switch_lagGroup_match_spec_schema(void);
+int p4_pd_tessel_switch_lagGroup_schema(char *buffer);
+int p4_pd_tessel_switch_lagGroup_match_spec_value(
+    const p4_pd_tessel_switch_lagGroup_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_lagGroup_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_lagGroup_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_lagGroup_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_lagGroup_match_specs_are_equal(
+    const p4_pd_tessel_switch_lagGroup_match_spec_t *a,
+    const p4_pd_tessel_switch_lagGroup_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_lagGroup_egrMd_egrL2AintfUnresolved_width(void);
+int p4_pd_tessel_switch_lagGroup_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_lagGroup_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_lagGroup_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table l2ForwardParams (0x01000047), exact ==== */
 
@@ -4403,6 +6418,25 @@ p4_pd_status_t p4_pd_tessel_switch_l2ForwardParams_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_l2ForwardParams_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_l2ForwardParams_match_spec_schema(void);
+int p4_pd_tessel_switch_l2ForwardParams_schema(char *buffer);
+int p4_pd_tessel_switch_l2ForwardParams_match_spec_value(
+    const p4_pd_tessel_switch_l2ForwardParams_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_l2ForwardParams_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_l2ForwardParams_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_l2ForwardParams_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_l2ForwardParams_match_specs_are_equal(
+    const p4_pd_tessel_switch_l2ForwardParams_match_spec_t *a,
+    const p4_pd_tessel_switch_l2ForwardParams_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_l2ForwardParams_outerEthHdr_width(void);
+int p4_pd_tessel_switch_l2ForwardParams_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_l2ForwardParams_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_l2ForwardParams_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table l2LookupMiss (0x01000048), ternary ==== */
 
@@ -4498,6 +6532,27 @@ p4_pd_status_t p4_pd_tessel_switch_l2LookupMiss_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_l2LookupMiss_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_l2LookupMiss_match_spec_schema(void);
+int p4_pd_tessel_switch_l2LookupMiss_schema(char *buffer);
+int p4_pd_tessel_switch_l2LookupMiss_match_spec_value(
+    const p4_pd_tessel_switch_l2LookupMiss_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_l2LookupMiss_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_l2LookupMiss_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_l2LookupMiss_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_l2LookupMiss_match_specs_are_equal(
+    const p4_pd_tessel_switch_l2LookupMiss_match_spec_t *a,
+    const p4_pd_tessel_switch_l2LookupMiss_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_l2LookupMiss_ig_intr_md_ingress_port_width(void);
+uint32_t p4_pd_tessel_switch_l2LookupMiss_egrMd_dmacOui_width(void);
+uint32_t p4_pd_tessel_switch_l2LookupMiss_egrMd_dmacStation_width(void);
+int p4_pd_tessel_switch_l2LookupMiss_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_l2LookupMiss_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_l2LookupMiss_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table l2Lookup (0x01000049), exact ==== */
 
@@ -4599,6 +6654,27 @@ p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_next_entry_handles(p4_pd_session
 p4_pd_status_t p4_pd_tessel_switch_l2Lookup_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_l2Lookup_match_spec_schema(void);
+int p4_pd_tessel_switch_l2Lookup_schema(char *buffer);
+int p4_pd_tessel_switch_l2Lookup_match_spec_value(
+    const p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_l2Lookup_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_l2Lookup_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_l2Lookup_match_specs_are_equal(
+    const p4_pd_tessel_switch_l2Lookup_match_spec_t *a,
+    const p4_pd_tessel_switch_l2Lookup_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_l2Lookup_egrMd_dmacOui_width(void);
+uint32_t p4_pd_tessel_switch_l2Lookup_egrMd_dmacStation_width(void);
+uint32_t p4_pd_tessel_switch_l2Lookup_egrMd_egrL2Domain_width(void);
+int p4_pd_tessel_switch_l2Lookup_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_l2Lookup_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_l2Lookup_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table mlagUcastPrune (0x0100004b), exact ==== */
 
@@ -4666,6 +6742,25 @@ p4_pd_status_t p4_pd_tessel_switch_mlagUcastPrune_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_mlagUcastPrune_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_mlagUcastPrune_match_spec_schema(void);
+int p4_pd_tessel_switch_mlagUcastPrune_schema(char *buffer);
+int p4_pd_tessel_switch_mlagUcastPrune_match_spec_value(
+    const p4_pd_tessel_switch_mlagUcastPrune_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_mlagUcastPrune_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_mlagUcastPrune_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_mlagUcastPrune_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_mlagUcastPrune_match_specs_are_equal(
+    const p4_pd_tessel_switch_mlagUcastPrune_match_spec_t *a,
+    const p4_pd_tessel_switch_mlagUcastPrune_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_mlagUcastPrune_egrMd_egrL2AintfUnresolved_width(void);
+int p4_pd_tessel_switch_mlagUcastPrune_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_mlagUcastPrune_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_mlagUcastPrune_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table egressVlanXlate (0x0100004c), exact ==== */
 
@@ -4756,6 +6851,26 @@ p4_pd_status_t p4_pd_tessel_switch_egressVlanXlate_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_egressVlanXlate_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_egressVlanXlate_match_spec_schema(void);
+int p4_pd_tessel_switch_egressVlanXlate_schema(char *buffer);
+int p4_pd_tessel_switch_egressVlanXlate_match_spec_value(
+    const p4_pd_tessel_switch_egressVlanXlate_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_egressVlanXlate_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_egressVlanXlate_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_egressVlanXlate_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_egressVlanXlate_match_specs_are_equal(
+    const p4_pd_tessel_switch_egressVlanXlate_match_spec_t *a,
+    const p4_pd_tessel_switch_egressVlanXlate_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_egressVlanXlate_eg_intr_md_egress_port_width(void);
+uint32_t p4_pd_tessel_switch_egressVlanXlate_egrMd_egrL2Domain_width(void);
+int p4_pd_tessel_switch_egressVlanXlate_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_egressVlanXlate_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_egressVlanXlate_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table globalFields (0x0100004d), ternary ==== */
 
@@ -4890,6 +7005,28 @@ p4_pd_status_t p4_pd_tessel_switch_globalFields_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_globalFields_match_spec_schema(void);
+int p4_pd_tessel_switch_globalFields_schema(char *buffer);
+int p4_pd_tessel_switch_globalFields_match_spec_value(
+    const p4_pd_tessel_switch_globalFields_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_globalFields_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_globalFields_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_globalFields_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_globalFields_match_specs_are_equal(
+    const p4_pd_tessel_switch_globalFields_match_spec_t *a,
+    const p4_pd_tessel_switch_globalFields_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_globalFields_egrMd_decapType_width(void);
+uint32_t p4_pd_tessel_switch_globalFields_egrMd_encapType_width(void);
+uint32_t p4_pd_tessel_switch_globalFields_egrMd_ingressTagged_width(void);
+uint32_t p4_pd_tessel_switch_globalFields_egrMd_tunnelInfo_width(void);
+int p4_pd_tessel_switch_globalFields_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_globalFields_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_globalFields_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table cpuEncapFields (0x0100004e), exact ==== */
 
@@ -4962,6 +7099,28 @@ p4_pd_status_t p4_pd_tessel_switch_cpuEncapFields_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_cpuEncapFields_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_cpuEncapFields_match_spec_schema(void);
+int p4_pd_tessel_switch_cpuEncapFields_schema(char *buffer);
+int p4_pd_tessel_switch_cpuEncapFields_match_spec_value(
+    const p4_pd_tessel_switch_cpuEncapFields_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_cpuEncapFields_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_cpuEncapFields_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_cpuEncapFields_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_cpuEncapFields_match_specs_are_equal(
+    const p4_pd_tessel_switch_cpuEncapFields_match_spec_t *a,
+    const p4_pd_tessel_switch_cpuEncapFields_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_cpuEncapFields_eg_intr_md_egress_port_width(void);
+uint32_t p4_pd_tessel_switch_cpuEncapFields_phase0_switchPort_width(void);
+uint32_t p4_pd_tessel_switch_cpuEncapFields_egrMd_ingressTagged_width(void);
+uint32_t p4_pd_tessel_switch_cpuEncapFields_egrMd_decapType_width(void);
+int p4_pd_tessel_switch_cpuEncapFields_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_cpuEncapFields_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_cpuEncapFields_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table srcIntfToNyxIntf (0x0100004f), exact ==== */
 
@@ -5026,6 +7185,25 @@ p4_pd_status_t p4_pd_tessel_switch_srcIntfToNyxIntf_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_schema(void);
+int p4_pd_tessel_switch_srcIntfToNyxIntf_schema(char *buffer);
+int p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_value(
+    const p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_srcIntfToNyxIntf_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_srcIntfToNyxIntf_match_specs_are_equal(
+    const p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_t *a,
+    const p4_pd_tessel_switch_srcIntfToNyxIntf_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_srcIntfToNyxIntf_egrMd_ingressPort_width(void);
+int p4_pd_tessel_switch_srcIntfToNyxIntf_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_srcIntfToNyxIntf_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_srcIntfToNyxIntf_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table vlanEncap (0x01000051), exact ==== */
 
@@ -5093,6 +7271,27 @@ p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_next_entry_handles(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_vlanEncap_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_vlanEncap_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_vlanEncap_match_spec_schema(void);
+int p4_pd_tessel_switch_vlanEncap_schema(char *buffer);
+int p4_pd_tessel_switch_vlanEncap_match_spec_value(
+    const p4_pd_tessel_switch_vlanEncap_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_vlanEncap_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_vlanEncap_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_vlanEncap_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_vlanEncap_match_specs_are_equal(
+    const p4_pd_tessel_switch_vlanEncap_match_spec_t *a,
+    const p4_pd_tessel_switch_vlanEncap_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_vlanEncap_egrMd_vlanId_width(void);
+uint32_t p4_pd_tessel_switch_vlanEncap_eg_intr_md_egress_port_width(void);
+uint32_t p4_pd_tessel_switch_vlanEncap_egrMd_subIntf_width(void);
+int p4_pd_tessel_switch_vlanEncap_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_vlanEncap_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_vlanEncap_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table encapDecap (0x01000052), ternary ==== */
 
@@ -5320,6 +7519,32 @@ p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_encapDecap_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec,
     uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_encapDecap_match_spec_schema(void);
+int p4_pd_tessel_switch_encapDecap_schema(char *buffer);
+int p4_pd_tessel_switch_encapDecap_match_spec_value(
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_encapDecap_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_encapDecap_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_encapDecap_match_specs_are_equal(
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *a,
+    const p4_pd_tessel_switch_encapDecap_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_encapDecap_egrMd_decapType_width(void);
+uint32_t p4_pd_tessel_switch_encapDecap_egrMd_encapType_width(void);
+uint32_t p4_pd_tessel_switch_encapDecap_egrMd_routed_width(void);
+uint32_t p4_pd_tessel_switch_encapDecap_outerIpv4Hdr_width(void);
+uint32_t p4_pd_tessel_switch_encapDecap_outerIpv6Hdr_width(void);
+uint32_t p4_pd_tessel_switch_encapDecap_innerIpv4Hdr_width(void);
+uint32_t p4_pd_tessel_switch_encapDecap_innerIpv6Hdr_width(void);
+uint32_t p4_pd_tessel_switch_encapDecap_egrMd_tunnelInfo_width(void);
+int p4_pd_tessel_switch_encapDecap_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_encapDecap_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_encapDecap_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table egressSamePortBridgingTest (0x01000053), exact ==== */
 
@@ -5384,6 +7609,26 @@ p4_pd_status_t p4_pd_tessel_switch_egressSamePortBridgingTest_get_entry_from_plc
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_schema(void);
+int p4_pd_tessel_switch_egressSamePortBridgingTest_schema(char *buffer);
+int p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_value(
+    const p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_egressSamePortBridgingTest_value(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_egressSamePortBridgingTest_match_specs_are_equal(
+    const p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_t *a,
+    const p4_pd_tessel_switch_egressSamePortBridgingTest_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_egressSamePortBridgingTest_egrMd_ingressPortType_width(void);
+uint32_t p4_pd_tessel_switch_egressSamePortBridgingTest_eg_intr_md_egress_port_width(void);
+int p4_pd_tessel_switch_egressSamePortBridgingTest_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_egressSamePortBridgingTest_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_egressSamePortBridgingTest_plcmt_data_eq_to_hw(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t table_handle,
+    p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table qosPortProperties (0x01000054), exact ==== */
 
@@ -5448,6 +7693,25 @@ p4_pd_status_t p4_pd_tessel_switch_qosPortProperties_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_qosPortProperties_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_qosPortProperties_match_spec_schema(void);
+int p4_pd_tessel_switch_qosPortProperties_schema(char *buffer);
+int p4_pd_tessel_switch_qosPortProperties_match_spec_value(
+    const p4_pd_tessel_switch_qosPortProperties_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_qosPortProperties_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_qosPortProperties_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_qosPortProperties_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_qosPortProperties_match_specs_are_equal(
+    const p4_pd_tessel_switch_qosPortProperties_match_spec_t *a,
+    const p4_pd_tessel_switch_qosPortProperties_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_qosPortProperties_ig_intr_md_ingress_port_width(void);
+int p4_pd_tessel_switch_qosPortProperties_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_qosPortProperties_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_qosPortProperties_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table normalizeCos (0x01000055), exact ==== */
 
@@ -5546,6 +7810,28 @@ p4_pd_status_t p4_pd_tessel_switch_normalizeCos_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_normalizeCos_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_normalizeCos_match_spec_schema(void);
+int p4_pd_tessel_switch_normalizeCos_schema(char *buffer);
+int p4_pd_tessel_switch_normalizeCos_match_spec_value(
+    const p4_pd_tessel_switch_normalizeCos_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_normalizeCos_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_normalizeCos_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_normalizeCos_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_normalizeCos_match_specs_are_equal(
+    const p4_pd_tessel_switch_normalizeCos_match_spec_t *a,
+    const p4_pd_tessel_switch_normalizeCos_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_normalizeCos_ingMd_vlanHdrValid_width(void);
+uint32_t p4_pd_tessel_switch_normalizeCos_qosMd_defaultCos_width(void);
+uint32_t p4_pd_tessel_switch_normalizeCos_vlanHdr_0__priority_width(void);
+uint32_t p4_pd_tessel_switch_normalizeCos_vlanHdr_1__width(void);
+int p4_pd_tessel_switch_normalizeCos_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_normalizeCos_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_normalizeCos_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table normalizeDscp (0x01000056), exact ==== */
 
@@ -5644,6 +7930,26 @@ p4_pd_status_t p4_pd_tessel_switch_normalizeDscp_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_normalizeDscp_match_spec_schema(void);
+int p4_pd_tessel_switch_normalizeDscp_schema(char *buffer);
+int p4_pd_tessel_switch_normalizeDscp_match_spec_value(
+    const p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_normalizeDscp_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_normalizeDscp_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_normalizeDscp_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_normalizeDscp_match_specs_are_equal(
+    const p4_pd_tessel_switch_normalizeDscp_match_spec_t *a,
+    const p4_pd_tessel_switch_normalizeDscp_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_normalizeDscp_egrMd_decapType_width(void);
+uint32_t p4_pd_tessel_switch_normalizeDscp_ingMd_v4V6Valid_width(void);
+int p4_pd_tessel_switch_normalizeDscp_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_normalizeDscp_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_normalizeDscp_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table ingressTrafficClass (0x01000057), ternary ==== */
 
@@ -5723,6 +8029,32 @@ p4_pd_status_t p4_pd_tessel_switch_ingressTrafficClass_get_entry_from_plcmt_data
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_ingressTrafficClass_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_ingressTrafficClass_match_spec_schema(void);
+int p4_pd_tessel_switch_ingressTrafficClass_schema(char *buffer);
+int p4_pd_tessel_switch_ingressTrafficClass_match_spec_value(
+    const p4_pd_tessel_switch_ingressTrafficClass_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_ingressTrafficClass_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_ingressTrafficClass_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_ingressTrafficClass_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_ingressTrafficClass_match_specs_are_equal(
+    const p4_pd_tessel_switch_ingressTrafficClass_match_spec_t *a,
+    const p4_pd_tessel_switch_ingressTrafficClass_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_ingressTrafficClass_qosMd_trustMode_width(void);
+uint32_t p4_pd_tessel_switch_ingressTrafficClass_qosMd_defaultCos_width(void);
+uint32_t p4_pd_tessel_switch_ingressTrafficClass_qosMd_cos_width(void);
+uint32_t p4_pd_tessel_switch_ingressTrafficClass_qosMd_dscp_width(void);
+uint32_t p4_pd_tessel_switch_ingressTrafficClass_qosMd_highPriority_width(void);
+uint32_t p4_pd_tessel_switch_ingressTrafficClass_egrMd_decapType_width(void);
+uint32_t p4_pd_tessel_switch_ingressTrafficClass_tesselCpuHdr_trustMode_width(void);
+uint32_t p4_pd_tessel_switch_ingressTrafficClass_tesselCpuHdr_tc_width(void);
+int p4_pd_tessel_switch_ingressTrafficClass_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_ingressTrafficClass_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_ingressTrafficClass_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table qosRewrite (0x01000059), exact ==== */
 
@@ -5821,6 +8153,29 @@ p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_qosRewrite_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_qosRewrite_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_qosRewrite_match_spec_schema(void);
+int p4_pd_tessel_switch_qosRewrite_schema(char *buffer);
+int p4_pd_tessel_switch_qosRewrite_match_spec_value(
+    const p4_pd_tessel_switch_qosRewrite_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_qosRewrite_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_qosRewrite_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_qosRewrite_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_qosRewrite_match_specs_are_equal(
+    const p4_pd_tessel_switch_qosRewrite_match_spec_t *a,
+    const p4_pd_tessel_switch_qosRewrite_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_qosRewrite_qosMd_trustMode_width(void);
+uint32_t p4_pd_tessel_switch_qosRewrite_qosMd_cosRewrite_width(void);
+uint32_t p4_pd_tessel_switch_qosRewrite_qosMd_dscpRewrite_width(void);
+uint32_t p4_pd_tessel_switch_qosRewrite_ig_intr_md_for_tm_ingress_cos_width(void);
+uint32_t p4_pd_tessel_switch_qosRewrite_egrMd_decapType_width(void);
+int p4_pd_tessel_switch_qosRewrite_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_qosRewrite_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_qosRewrite_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table tcDscpMap (0x0100005a), exact ==== */
 
@@ -5880,6 +8235,25 @@ p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_next_entry_handles(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_tcDscpMap_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_tcDscpMap_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_tcDscpMap_match_spec_schema(void);
+int p4_pd_tessel_switch_tcDscpMap_schema(char *buffer);
+int p4_pd_tessel_switch_tcDscpMap_match_spec_value(
+    const p4_pd_tessel_switch_tcDscpMap_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_tcDscpMap_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_tcDscpMap_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_tcDscpMap_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_tcDscpMap_match_specs_are_equal(
+    const p4_pd_tessel_switch_tcDscpMap_match_spec_t *a,
+    const p4_pd_tessel_switch_tcDscpMap_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_tcDscpMap_ig_intr_md_for_tm_ingress_cos_width(void);
+int p4_pd_tessel_switch_tcDscpMap_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_tcDscpMap_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_tcDscpMap_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table packetDscpRewrite (0x0100005b), ternary ==== */
 
@@ -6018,6 +8392,31 @@ p4_pd_status_t p4_pd_tessel_switch_packetDscpRewrite_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_packetDscpRewrite_match_spec_schema(void);
+int p4_pd_tessel_switch_packetDscpRewrite_schema(char *buffer);
+int p4_pd_tessel_switch_packetDscpRewrite_match_spec_value(
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_packetDscpRewrite_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_packetDscpRewrite_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_packetDscpRewrite_match_specs_are_equal(
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *a,
+    const p4_pd_tessel_switch_packetDscpRewrite_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_packetDscpRewrite_egrMd_encapType_width(void);
+uint32_t p4_pd_tessel_switch_packetDscpRewrite_egrMd_decapType_width(void);
+uint32_t p4_pd_tessel_switch_packetDscpRewrite_egrMd_routed_width(void);
+uint32_t p4_pd_tessel_switch_packetDscpRewrite_outerIpv4Hdr_width(void);
+uint32_t p4_pd_tessel_switch_packetDscpRewrite_outerIpv6Hdr_width(void);
+uint32_t p4_pd_tessel_switch_packetDscpRewrite_innerIpv4Hdr_width(void);
+uint32_t p4_pd_tessel_switch_packetDscpRewrite_innerIpv6Hdr_width(void);
+int p4_pd_tessel_switch_packetDscpRewrite_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_packetDscpRewrite_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_packetDscpRewrite_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table pdpClassify (0x0100005c), ternary ==== */
 
@@ -6093,6 +8492,31 @@ p4_pd_status_t p4_pd_tessel_switch_pdpClassify_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_pdpClassify_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_pdpClassify_match_spec_schema(void);
+int p4_pd_tessel_switch_pdpClassify_schema(char *buffer);
+int p4_pd_tessel_switch_pdpClassify_match_spec_value(
+    const p4_pd_tessel_switch_pdpClassify_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_pdpClassify_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_pdpClassify_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_pdpClassify_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_pdpClassify_match_specs_are_equal(
+    const p4_pd_tessel_switch_pdpClassify_match_spec_t *a,
+    const p4_pd_tessel_switch_pdpClassify_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_pdpClassify_arpHdr_width(void);
+uint32_t p4_pd_tessel_switch_pdpClassify_egrMd_cpuReasonCode_width(void);
+uint32_t p4_pd_tessel_switch_pdpClassify_egrMd_trapToCpu_width(void);
+uint32_t p4_pd_tessel_switch_pdpClassify_ingMd_bcast_width(void);
+uint32_t p4_pd_tessel_switch_pdpClassify_ingMd_protocol_width(void);
+uint32_t p4_pd_tessel_switch_pdpClassify_ingMd_srcPort_width(void);
+uint32_t p4_pd_tessel_switch_pdpClassify_ingMd_dstPort_width(void);
+int p4_pd_tessel_switch_pdpClassify_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_pdpClassify_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_pdpClassify_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table pdpPolicy (0x0100005d), exact ==== */
 
@@ -6169,6 +8593,26 @@ p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_next_entry_handles(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_pdpPolicy_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_pdpPolicy_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_pdpPolicy_match_spec_schema(void);
+int p4_pd_tessel_switch_pdpPolicy_schema(char *buffer);
+int p4_pd_tessel_switch_pdpPolicy_match_spec_value(
+    const p4_pd_tessel_switch_pdpPolicy_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_pdpPolicy_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_pdpPolicy_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_pdpPolicy_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_pdpPolicy_match_specs_are_equal(
+    const p4_pd_tessel_switch_pdpPolicy_match_spec_t *a,
+    const p4_pd_tessel_switch_pdpPolicy_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_pdpPolicy_ig_intr_md_ingress_port_width(void);
+uint32_t p4_pd_tessel_switch_pdpPolicy_qosMd_pdpClassId_width(void);
+int p4_pd_tessel_switch_pdpPolicy_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_pdpPolicy_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_pdpPolicy_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table cpuEncap (0x0100005e), ternary ==== */
 
@@ -6297,6 +8741,29 @@ p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_next_entry_handles(p4_pd_session
 p4_pd_status_t p4_pd_tessel_switch_cpuEncap_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec,
     uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_cpuEncap_match_spec_schema(void);
+int p4_pd_tessel_switch_cpuEncap_schema(char *buffer);
+int p4_pd_tessel_switch_cpuEncap_match_spec_value(
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_cpuEncap_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_cpuEncap_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_cpuEncap_match_specs_are_equal(
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *a,
+    const p4_pd_tessel_switch_cpuEncap_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_cpuEncap_egrMd_trapToCpu_width(void);
+uint32_t p4_pd_tessel_switch_cpuEncap_ingMd_vlanHdrValid_width(void);
+uint32_t p4_pd_tessel_switch_cpuEncap_phase0_switchPort_width(void);
+uint32_t p4_pd_tessel_switch_cpuEncap_egrMd_cpuReasonCode_width(void);
+uint32_t p4_pd_tessel_switch_cpuEncap_vlanHdr_0__width(void);
+int p4_pd_tessel_switch_cpuEncap_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_cpuEncap_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_cpuEncap_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table nyxIntfToPhysical (0x01000060), ternary ==== */
 
@@ -6391,6 +8858,29 @@ p4_pd_status_t p4_pd_tessel_switch_nyxIntfToPhysical_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_schema(void);
+int p4_pd_tessel_switch_nyxIntfToPhysical_schema(char *buffer);
+int p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_value(
+    const p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_nyxIntfToPhysical_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_nyxIntfToPhysical_match_specs_are_equal(
+    const p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *a,
+    const p4_pd_tessel_switch_nyxIntfToPhysical_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_nyxIntfToPhysical_tesselCpuHdr_slice_width(void);
+uint32_t p4_pd_tessel_switch_nyxIntfToPhysical_tesselCpuHdr_port_width(void);
+uint32_t p4_pd_tessel_switch_nyxIntfToPhysical_tesselCpuHdr_lane_width(void);
+uint32_t p4_pd_tessel_switch_nyxIntfToPhysical_tesselCpuHdr_portChannel_width(void);
+uint32_t p4_pd_tessel_switch_nyxIntfToPhysical_egrMd_decapType_width(void);
+int p4_pd_tessel_switch_nyxIntfToPhysical_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_nyxIntfToPhysical_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_nyxIntfToPhysical_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table l2Multicast (0x01000061), exact ==== */
 
@@ -6456,6 +8946,27 @@ p4_pd_status_t p4_pd_tessel_switch_l2Multicast_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_l2Multicast_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_l2Multicast_match_spec_schema(void);
+int p4_pd_tessel_switch_l2Multicast_schema(char *buffer);
+int p4_pd_tessel_switch_l2Multicast_match_spec_value(
+    const p4_pd_tessel_switch_l2Multicast_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_l2Multicast_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_l2Multicast_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_l2Multicast_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_l2Multicast_match_specs_are_equal(
+    const p4_pd_tessel_switch_l2Multicast_match_spec_t *a,
+    const p4_pd_tessel_switch_l2Multicast_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_l2Multicast_egrMd_dmacOui_width(void);
+uint32_t p4_pd_tessel_switch_l2Multicast_egrMd_dmacStation_width(void);
+uint32_t p4_pd_tessel_switch_l2Multicast_egrMd_egrL2Domain_width(void);
+int p4_pd_tessel_switch_l2Multicast_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_l2Multicast_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_l2Multicast_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table finalizeMcResult (0x01000062), ternary ==== */
 
@@ -6612,6 +9123,33 @@ p4_pd_status_t p4_pd_tessel_switch_finalizeMcResult_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_finalizeMcResult_match_spec_schema(void);
+int p4_pd_tessel_switch_finalizeMcResult_schema(char *buffer);
+int p4_pd_tessel_switch_finalizeMcResult_match_spec_value(
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_finalizeMcResult_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_finalizeMcResult_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_finalizeMcResult_match_specs_are_equal(
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *a,
+    const p4_pd_tessel_switch_finalizeMcResult_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_finalizeMcResult_egrMd_trapToCpu_width(void);
+uint32_t p4_pd_tessel_switch_finalizeMcResult_ingIpmc_eValid_width(void);
+uint32_t p4_pd_tessel_switch_finalizeMcResult_ingL2Mc_eValid_width(void);
+uint32_t p4_pd_tessel_switch_finalizeMcResult_ingMd_igmpSnoopingEnabled_width(void);
+uint32_t p4_pd_tessel_switch_finalizeMcResult_ingMd_ipMcast_width(void);
+uint32_t p4_pd_tessel_switch_finalizeMcResult_ingMd_llm_width(void);
+uint32_t p4_pd_tessel_switch_finalizeMcResult_ingMd_protocol_width(void);
+uint32_t p4_pd_tessel_switch_finalizeMcResult_ingMd_ttl_width(void);
+uint32_t p4_pd_tessel_switch_finalizeMcResult_l3Info_ipRouting_width(void);
+int p4_pd_tessel_switch_finalizeMcResult_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_finalizeMcResult_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_finalizeMcResult_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table l2XRemap (0x01000063), exact ==== */
 
@@ -6670,6 +9208,25 @@ p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_next_entry_handles(p4_pd_session
 p4_pd_status_t p4_pd_tessel_switch_l2XRemap_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_l2XRemap_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_l2XRemap_match_spec_schema(void);
+int p4_pd_tessel_switch_l2XRemap_schema(char *buffer);
+int p4_pd_tessel_switch_l2XRemap_match_spec_value(
+    const p4_pd_tessel_switch_l2XRemap_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_l2XRemap_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_l2XRemap_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_l2XRemap_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_l2XRemap_match_specs_are_equal(
+    const p4_pd_tessel_switch_l2XRemap_match_spec_t *a,
+    const p4_pd_tessel_switch_l2XRemap_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_l2XRemap_ig_intr_md_ingress_port_width(void);
+int p4_pd_tessel_switch_l2XRemap_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_l2XRemap_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_l2XRemap_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table mcastPrune (0x01000064), ternary ==== */
 
@@ -6775,6 +9332,29 @@ p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_mcastPrune_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec,
     uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_mcastPrune_match_spec_schema(void);
+int p4_pd_tessel_switch_mcastPrune_schema(char *buffer);
+int p4_pd_tessel_switch_mcastPrune_match_spec_value(
+    const p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_mcastPrune_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_mcastPrune_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_mcastPrune_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_mcastPrune_match_specs_are_equal(
+    const p4_pd_tessel_switch_mcastPrune_match_spec_t *a,
+    const p4_pd_tessel_switch_mcastPrune_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_mcastPrune_egrMd_decapType_width(void);
+uint32_t p4_pd_tessel_switch_mcastPrune_egrMd_routed_width(void);
+uint32_t p4_pd_tessel_switch_mcastPrune_phase0_portType_width(void);
+uint32_t p4_pd_tessel_switch_mcastPrune_egrMd_egrL2AintfUnresolved_width(void);
+uint32_t p4_pd_tessel_switch_mcastPrune_ig_intr_md_for_tm_mcast_grp_a_width(void);
+int p4_pd_tessel_switch_mcastPrune_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_mcastPrune_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_mcastPrune_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table egressMcRemap (0x01000065), exact ==== */
 
@@ -6838,6 +9418,25 @@ p4_pd_status_t p4_pd_tessel_switch_egressMcRemap_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_egressMcRemap_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_egressMcRemap_match_spec_schema(void);
+int p4_pd_tessel_switch_egressMcRemap_schema(char *buffer);
+int p4_pd_tessel_switch_egressMcRemap_match_spec_value(
+    const p4_pd_tessel_switch_egressMcRemap_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_egressMcRemap_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_egressMcRemap_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_egressMcRemap_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_egressMcRemap_match_specs_are_equal(
+    const p4_pd_tessel_switch_egressMcRemap_match_spec_t *a,
+    const p4_pd_tessel_switch_egressMcRemap_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_egressMcRemap_eg_intr_md_egress_rid_width(void);
+int p4_pd_tessel_switch_egressMcRemap_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_egressMcRemap_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_egressMcRemap_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table haloXformIpv4Sip (0x01000066), ternary ==== */
 
@@ -6919,6 +9518,25 @@ p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Sip_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_schema(void);
+int p4_pd_tessel_switch_haloXformIpv4Sip_schema(char *buffer);
+int p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_value(
+    const p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_haloXformIpv4Sip_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_haloXformIpv4Sip_match_specs_are_equal(
+    const p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *a,
+    const p4_pd_tessel_switch_haloXformIpv4Sip_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_haloXformIpv4Sip_ingIpv4_sip_width(void);
+int p4_pd_tessel_switch_haloXformIpv4Sip_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_haloXformIpv4Sip_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_haloXformIpv4Sip_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table haloXformIpv6Sip (0x01000067), ternary ==== */
 
@@ -7000,6 +9618,25 @@ p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Sip_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_schema(void);
+int p4_pd_tessel_switch_haloXformIpv6Sip_schema(char *buffer);
+int p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_value(
+    const p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_haloXformIpv6Sip_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_haloXformIpv6Sip_match_specs_are_equal(
+    const p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *a,
+    const p4_pd_tessel_switch_haloXformIpv6Sip_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_haloXformIpv6Sip_ingIpv6_sip_width(void);
+int p4_pd_tessel_switch_haloXformIpv6Sip_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_haloXformIpv6Sip_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_haloXformIpv6Sip_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table haloXformIpv4Dip (0x01000068), ternary ==== */
 
@@ -7076,6 +9713,25 @@ p4_pd_status_t p4_pd_tessel_switch_haloXformIpv4Dip_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_schema(void);
+int p4_pd_tessel_switch_haloXformIpv4Dip_schema(char *buffer);
+int p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_value(
+    const p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_haloXformIpv4Dip_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_haloXformIpv4Dip_match_specs_are_equal(
+    const p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_t *a,
+    const p4_pd_tessel_switch_haloXformIpv4Dip_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_haloXformIpv4Dip_ingIpv4_dip_width(void);
+int p4_pd_tessel_switch_haloXformIpv4Dip_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_haloXformIpv4Dip_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_haloXformIpv4Dip_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table haloXformIpv6Dip (0x01000069), ternary ==== */
 
@@ -7152,6 +9808,25 @@ p4_pd_status_t p4_pd_tessel_switch_haloXformIpv6Dip_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_schema(void);
+int p4_pd_tessel_switch_haloXformIpv6Dip_schema(char *buffer);
+int p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_value(
+    const p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_haloXformIpv6Dip_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_haloXformIpv6Dip_match_specs_are_equal(
+    const p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_t *a,
+    const p4_pd_tessel_switch_haloXformIpv6Dip_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_haloXformIpv6Dip_ingIpv6_dip_width(void);
+int p4_pd_tessel_switch_haloXformIpv6Dip_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_haloXformIpv6Dip_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_haloXformIpv6Dip_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table finalDropControl (0x0100006a), ternary ==== */
 
@@ -7302,6 +9977,56 @@ p4_pd_status_t p4_pd_tessel_switch_finalDropControl_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_finalDropControl_match_spec_schema(void);
+int p4_pd_tessel_switch_finalDropControl_schema(char *buffer);
+int p4_pd_tessel_switch_finalDropControl_match_spec_value(
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_finalDropControl_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_finalDropControl_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec);
+int p4_pd_tessel_switch_finalDropControl_match_spec_stringify_for_counter(
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_finalDropControl_stringify_counter_match_spec(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, char *buffer);
+bool p4_pd_tessel_switch_finalDropControl_match_specs_are_equal(
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *a,
+    const p4_pd_tessel_switch_finalDropControl_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_finalDropControl_tesselFlowMgmtHdr_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_kflowMd_drop_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_egrMd_egrL2AintfUnresolved_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_egrMd_routed_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_egrMd_trapToCpu_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_flowMgmt_flowLimitDrop_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_flowMgmt_newFlowMeterDrop_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_fwMd_escortToRecircPort_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_fwMd_fwDrop_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_fwMd_meterDrop_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ig_intr_md_for_tm_copy_to_cpu_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ig_intr_md_for_tm_mcast_grp_a_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ig_intr_md_ingress_port_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ingMd_bcast_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ingMd_dot1xDrop_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ingMd_drop_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ingMd_dropDatalink_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ingMd_dropDmac_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ingMd_dropSmac_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ingMd_invalidEgressPort_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ingMd_mcast_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ingMd_mlagPrune_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ingMd_routedMartian_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ingMd_samePortBridging_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ingMd_stormControlDrop_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ingMd_v4V6Valid_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ingVlanStpCheck_invalidVlan_width(void);
+uint32_t p4_pd_tessel_switch_finalDropControl_ingVlanStpCheck_stpBlocked_width(void);
+int p4_pd_tessel_switch_finalDropControl_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_finalDropControl_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_finalDropControl_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table decapIngress (0x0100006b), exact ==== */
 
@@ -7404,6 +10129,28 @@ p4_pd_status_t p4_pd_tessel_switch_decapIngress_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_decapIngress_match_spec_schema(void);
+int p4_pd_tessel_switch_decapIngress_schema(char *buffer);
+int p4_pd_tessel_switch_decapIngress_match_spec_value(
+    const p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_decapIngress_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_decapIngress_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_decapIngress_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_decapIngress_match_specs_are_equal(
+    const p4_pd_tessel_switch_decapIngress_match_spec_t *a,
+    const p4_pd_tessel_switch_decapIngress_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_decapIngress_egrMd_decapType_width(void);
+uint32_t p4_pd_tessel_switch_decapIngress_ingMd_protocol_width(void);
+uint32_t p4_pd_tessel_switch_decapIngress_outerIpv4Hdr_width(void);
+uint32_t p4_pd_tessel_switch_decapIngress_outerIpv6Hdr_width(void);
+int p4_pd_tessel_switch_decapIngress_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_decapIngress_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_decapIngress_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table decapRestore (0x0100006c), exact ==== */
 
@@ -7473,6 +10220,27 @@ p4_pd_status_t p4_pd_tessel_switch_decapRestore_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_decapRestore_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_decapRestore_match_spec_schema(void);
+int p4_pd_tessel_switch_decapRestore_schema(char *buffer);
+int p4_pd_tessel_switch_decapRestore_match_spec_value(
+    const p4_pd_tessel_switch_decapRestore_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_decapRestore_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_decapRestore_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_decapRestore_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_decapRestore_match_specs_are_equal(
+    const p4_pd_tessel_switch_decapRestore_match_spec_t *a,
+    const p4_pd_tessel_switch_decapRestore_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_decapRestore_egrMd_decapRestore_width(void);
+uint32_t p4_pd_tessel_switch_decapRestore_outerIpv4Hdr_width(void);
+uint32_t p4_pd_tessel_switch_decapRestore_outerIpv6Hdr_width(void);
+int p4_pd_tessel_switch_decapRestore_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_decapRestore_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_decapRestore_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table trapToCpu (0x0100006d), ternary ==== */
 
@@ -7606,6 +10374,48 @@ p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_next_entry_handles(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_trapToCpu_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec,
     uint32_t *priority, p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_trapToCpu_match_spec_schema(void);
+int p4_pd_tessel_switch_trapToCpu_schema(char *buffer);
+int p4_pd_tessel_switch_trapToCpu_match_spec_value(
+    const p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_trapToCpu_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_trapToCpu_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec);
+int p4_pd_tessel_switch_trapToCpu_match_spec_stringify_for_counter(
+    const p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_trapToCpu_stringify_counter_match_spec(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, char *buffer);
+bool p4_pd_tessel_switch_trapToCpu_match_specs_are_equal(
+    const p4_pd_tessel_switch_trapToCpu_match_spec_t *a,
+    const p4_pd_tessel_switch_trapToCpu_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_trapToCpu_arpHdr_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_arpHdr_opcode_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_egrMd_cpuReasonCode_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_egrMd_decapType_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_egrMd_vxlanFlood_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_ingIpv4_dip_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_ingIpv6_dip_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_ingMd_bcast_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_ingMd_cpuMemberOfIngressVlan_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_ingMd_dstPort_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_ingMd_etherType_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_ingMd_igmpSnoopingEnabled_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_ingMd_ingL3Aintf_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_ingMd_l4Attr_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_ingMd_mcast_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_ingMd_protocol_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_ingMd_srcPort_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_ingMd_ttl_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_l3Info_ingL3DmacValid_width(void);
+uint32_t p4_pd_tessel_switch_trapToCpu_phase0_ingVPort_width(void);
+int p4_pd_tessel_switch_trapToCpu_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_trapToCpu_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_trapToCpu_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table ingressMirrorSession (0x0100006e), ternary ==== */
 
@@ -7704,6 +10514,37 @@ p4_pd_status_t p4_pd_tessel_switch_ingressMirrorSession_get_entry_from_plcmt_dat
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_ingressMirrorSession_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_ingressMirrorSession_match_spec_schema(void);
+int p4_pd_tessel_switch_ingressMirrorSession_schema(char *buffer);
+int p4_pd_tessel_switch_ingressMirrorSession_match_spec_value(
+    const p4_pd_tessel_switch_ingressMirrorSession_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_ingressMirrorSession_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_ingressMirrorSession_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_ingressMirrorSession_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_ingressMirrorSession_match_specs_are_equal(
+    const p4_pd_tessel_switch_ingressMirrorSession_match_spec_t *a,
+    const p4_pd_tessel_switch_ingressMirrorSession_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_ingressMirrorSession_haloKeyOrig_dipMirror_width(void);
+uint32_t p4_pd_tessel_switch_ingressMirrorSession_haloKeyOrig_flags_width(void);
+uint32_t p4_pd_tessel_switch_ingressMirrorSession_haloKeyOrig_isFrag_width(void);
+uint32_t p4_pd_tessel_switch_ingressMirrorSession_haloKeyOrig_sipMirror_width(void);
+uint32_t p4_pd_tessel_switch_ingressMirrorSession_ig_intr_md_ingress_port_width(void);
+uint32_t p4_pd_tessel_switch_ingressMirrorSession_ingMd_protocol_width(void);
+uint32_t p4_pd_tessel_switch_ingressMirrorSession_ingMd_ttl_width(void);
+uint32_t p4_pd_tessel_switch_ingressMirrorSession_ingMd_v4V6Valid_width(void);
+uint32_t p4_pd_tessel_switch_ingressMirrorSession_l4PortHdr_width(void);
+uint32_t p4_pd_tessel_switch_ingressMirrorSession_l4PortHdr_dstPort_width(void);
+uint32_t p4_pd_tessel_switch_ingressMirrorSession_l4PortHdr_srcPort_width(void);
+uint32_t p4_pd_tessel_switch_ingressMirrorSession_phase0_ingVPort_width(void);
+uint32_t p4_pd_tessel_switch_ingressMirrorSession_qosMd_dscp_width(void);
+int p4_pd_tessel_switch_ingressMirrorSession_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_ingressMirrorSession_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_ingressMirrorSession_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table ingressMirrorRate (0x0100006f), exact ==== */
 
@@ -7775,6 +10616,25 @@ p4_pd_status_t p4_pd_tessel_switch_ingressMirrorRate_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_ingressMirrorRate_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_ingressMirrorRate_match_spec_schema(void);
+int p4_pd_tessel_switch_ingressMirrorRate_schema(char *buffer);
+int p4_pd_tessel_switch_ingressMirrorRate_match_spec_value(
+    const p4_pd_tessel_switch_ingressMirrorRate_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_ingressMirrorRate_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_ingressMirrorRate_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_ingressMirrorRate_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_ingressMirrorRate_match_specs_are_equal(
+    const p4_pd_tessel_switch_ingressMirrorRate_match_spec_t *a,
+    const p4_pd_tessel_switch_ingressMirrorRate_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_ingressMirrorRate_ingMirrorMd_mirrorBufId_width(void);
+int p4_pd_tessel_switch_ingressMirrorRate_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_ingressMirrorRate_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_ingressMirrorRate_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table ingressSflowSample (0x01000070), ternary ==== */
 
@@ -7848,6 +10708,26 @@ p4_pd_status_t p4_pd_tessel_switch_ingressSflowSample_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_ingressSflowSample_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_ingressSflowSample_match_spec_schema(void);
+int p4_pd_tessel_switch_ingressSflowSample_schema(char *buffer);
+int p4_pd_tessel_switch_ingressSflowSample_match_spec_value(
+    const p4_pd_tessel_switch_ingressSflowSample_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_ingressSflowSample_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_ingressSflowSample_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_ingressSflowSample_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_ingressSflowSample_match_specs_are_equal(
+    const p4_pd_tessel_switch_ingressSflowSample_match_spec_t *a,
+    const p4_pd_tessel_switch_ingressSflowSample_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_ingressSflowSample_ig_intr_md_ingress_port_width(void);
+uint32_t p4_pd_tessel_switch_ingressSflowSample_ingMd_rand_width(void);
+int p4_pd_tessel_switch_ingressSflowSample_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_ingressSflowSample_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_ingressSflowSample_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table ingressMirrorResult (0x01000071), exact ==== */
 
@@ -7914,6 +10794,27 @@ p4_pd_status_t p4_pd_tessel_switch_ingressMirrorResult_get_entry_from_plcmt_data
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_ingressMirrorResult_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_ingressMirrorResult_match_spec_schema(void);
+int p4_pd_tessel_switch_ingressMirrorResult_schema(char *buffer);
+int p4_pd_tessel_switch_ingressMirrorResult_match_spec_value(
+    const p4_pd_tessel_switch_ingressMirrorResult_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_ingressMirrorResult_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_ingressMirrorResult_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_ingressMirrorResult_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_ingressMirrorResult_match_specs_are_equal(
+    const p4_pd_tessel_switch_ingressMirrorResult_match_spec_t *a,
+    const p4_pd_tessel_switch_ingressMirrorResult_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_ingressMirrorResult_ingMd_sflowSample_width(void);
+uint32_t p4_pd_tessel_switch_ingressMirrorResult_ingMirrorMd_mirrorColor_width(void);
+uint32_t p4_pd_tessel_switch_ingressMirrorResult_ingMirrorMd_mirrorSession_width(void);
+int p4_pd_tessel_switch_ingressMirrorResult_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_ingressMirrorResult_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_ingressMirrorResult_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table ingressMirrorLagGroup (0x01000072), exact, bound to mirrorLagPortActionProfile ==== */
 
@@ -7993,6 +10894,25 @@ p4_pd_status_t p4_pd_tessel_switch_ingressMirrorLagGroup_get_entry_from_plcmt_da
     p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
     p4_pd_member_handle_t *member, p4_pd_group_handle_t *group, bool *has_member, bool *has_group,
     bool *no_key);
+const char *p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_schema(void);
+int p4_pd_tessel_switch_ingressMirrorLagGroup_schema(char *buffer);
+int p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_value(
+    const p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_ingressMirrorLagGroup_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_ingressMirrorLagGroup_match_specs_are_equal(
+    const p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *a,
+    const p4_pd_tessel_switch_ingressMirrorLagGroup_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_ingressMirrorLagGroup_ingMirrorMd_mirrorSession_width(void);
+int p4_pd_tessel_switch_ingressMirrorLagGroup_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_ingressMirrorLagGroup_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_ingressMirrorLagGroup_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table mirrorPacketEncap (0x01000073), exact ==== */
 
@@ -8085,6 +11005,26 @@ p4_pd_status_t p4_pd_tessel_switch_mirrorPacketEncap_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_mirrorPacketEncap_match_spec_schema(void);
+int p4_pd_tessel_switch_mirrorPacketEncap_schema(char *buffer);
+int p4_pd_tessel_switch_mirrorPacketEncap_match_spec_value(
+    const p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_mirrorPacketEncap_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_mirrorPacketEncap_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_mirrorPacketEncap_match_specs_are_equal(
+    const p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *a,
+    const p4_pd_tessel_switch_mirrorPacketEncap_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_mirrorPacketEncap_eg_intr_md_egress_rid_width(void);
+uint32_t p4_pd_tessel_switch_mirrorPacketEncap_eg_intr_md_egress_port_width(void);
+int p4_pd_tessel_switch_mirrorPacketEncap_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_mirrorPacketEncap_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_mirrorPacketEncap_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table egressMirrorSession (0x01000074), exact ==== */
 
@@ -8149,6 +11089,25 @@ p4_pd_status_t p4_pd_tessel_switch_egressMirrorSession_get_entry_from_plcmt_data
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_egressMirrorSession_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_egressMirrorSession_match_spec_schema(void);
+int p4_pd_tessel_switch_egressMirrorSession_schema(char *buffer);
+int p4_pd_tessel_switch_egressMirrorSession_match_spec_value(
+    const p4_pd_tessel_switch_egressMirrorSession_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_egressMirrorSession_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_egressMirrorSession_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_egressMirrorSession_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_egressMirrorSession_match_specs_are_equal(
+    const p4_pd_tessel_switch_egressMirrorSession_match_spec_t *a,
+    const p4_pd_tessel_switch_egressMirrorSession_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_egressMirrorSession_eg_intr_md_egress_port_width(void);
+int p4_pd_tessel_switch_egressMirrorSession_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_egressMirrorSession_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_egressMirrorSession_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table egressMirrorLagGroup (0x01000075), exact, bound to egrMirrorLagPortActionProfile ==== */
 
@@ -8228,6 +11187,25 @@ p4_pd_status_t p4_pd_tessel_switch_egressMirrorLagGroup_get_entry_from_plcmt_dat
     p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *match_spec,
     p4_pd_member_handle_t *member, p4_pd_group_handle_t *group, bool *has_member, bool *has_group,
     bool *no_key);
+const char *p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_schema(void);
+int p4_pd_tessel_switch_egressMirrorLagGroup_schema(char *buffer);
+int p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_value(
+    const p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_egressMirrorLagGroup_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_egressMirrorLagGroup_match_specs_are_equal(
+    const p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *a,
+    const p4_pd_tessel_switch_egressMirrorLagGroup_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_egressMirrorLagGroup_egrMirrorMd_mirrorSession_width(void);
+int p4_pd_tessel_switch_egressMirrorLagGroup_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_egressMirrorLagGroup_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_egressMirrorLagGroup_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table egressMirrorRate (0x01000076), exact ==== */
 
@@ -8299,6 +11277,25 @@ p4_pd_status_t p4_pd_tessel_switch_egressMirrorRate_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_egressMirrorRate_match_spec_t *match_spec,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_egressMirrorRate_match_spec_schema(void);
+int p4_pd_tessel_switch_egressMirrorRate_schema(char *buffer);
+int p4_pd_tessel_switch_egressMirrorRate_match_spec_value(
+    const p4_pd_tessel_switch_egressMirrorRate_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_egressMirrorRate_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_egressMirrorRate_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_egressMirrorRate_match_spec_t *match_spec);
+bool p4_pd_tessel_switch_egressMirrorRate_match_specs_are_equal(
+    const p4_pd_tessel_switch_egressMirrorRate_match_spec_t *a,
+    const p4_pd_tessel_switch_egressMirrorRate_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_egressMirrorRate_egrMirrorMd_mirrorBufId_width(void);
+int p4_pd_tessel_switch_egressMirrorRate_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_egressMirrorRate_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_egressMirrorRate_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table egressPortDropCheck (0x01000078), ternary ==== */
 
@@ -8381,6 +11378,36 @@ p4_pd_status_t p4_pd_tessel_switch_egressPortDropCheck_get_entry_from_plcmt_data
     const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_egressPortDropCheck_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tessel_switch_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tessel_switch_egressPortDropCheck_match_spec_schema(void);
+int p4_pd_tessel_switch_egressPortDropCheck_schema(char *buffer);
+int p4_pd_tessel_switch_egressPortDropCheck_match_spec_value(
+    const p4_pd_tessel_switch_egressPortDropCheck_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_egressPortDropCheck_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_egressPortDropCheck_match_spec_print(int descriptor, int indent,
+    const p4_pd_tessel_switch_egressPortDropCheck_match_spec_t *match_spec);
+int p4_pd_tessel_switch_egressPortDropCheck_match_spec_stringify_for_counter(
+    const p4_pd_tessel_switch_egressPortDropCheck_match_spec_t *match_spec, char *buffer);
+int p4_pd_tessel_switch_egressPortDropCheck_stringify_counter_match_spec(
+    p4_pd_session_handle_t session, uint8_t device, p4_pd_entry_handle_t entry, char *buffer);
+bool p4_pd_tessel_switch_egressPortDropCheck_match_specs_are_equal(
+    const p4_pd_tessel_switch_egressPortDropCheck_match_spec_t *a,
+    const p4_pd_tessel_switch_egressPortDropCheck_match_spec_t *b);
+uint32_t p4_pd_tessel_switch_egressPortDropCheck_eg_intr_md_egress_port_width(void);
+uint32_t p4_pd_tessel_switch_egressPortDropCheck_egrMd_routed_width(void);
+uint32_t p4_pd_tessel_switch_egressPortDropCheck_egrVlanStpCheck_invalidVlan_width(void);
+uint32_t p4_pd_tessel_switch_egressPortDropCheck_egrVlanStpCheck_stpBlocked_width(void);
+uint32_t p4_pd_tessel_switch_egressPortDropCheck_fwMd_dipDrop_width(void);
+uint32_t p4_pd_tessel_switch_egressPortDropCheck_fwMd_sipDrop_width(void);
+uint32_t p4_pd_tessel_switch_egressPortDropCheck_outerIpv4Hdr_width(void);
+uint32_t p4_pd_tessel_switch_egressPortDropCheck_outerIpv4Hdr_ttl_width(void);
+int p4_pd_tessel_switch_egressPortDropCheck_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_egressPortDropCheck_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_egressPortDropCheck_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table kiteFlowSetEgress (0x01000006), no key ==== */
 
@@ -8415,6 +11442,16 @@ p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_kiteFlowSetEgress_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_kiteFlowSetEgress_schema(char *buffer);
+int p4_pd_tessel_switch_kiteFlowSetEgress_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_kiteFlowSetEgress_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_kiteFlowSetEgress_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_kiteFlowSetEgress_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowHashTypeAFirst (0x01000010), no key ==== */
 
@@ -8449,6 +11486,16 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeAFirst_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_flowHashTypeAFirst_schema(char *buffer);
+int p4_pd_tessel_switch_flowHashTypeAFirst_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowHashTypeAFirst_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowHashTypeAFirst_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_flowHashTypeAFirst_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowHashTypeASecond (0x01000011), no key ==== */
 
@@ -8483,6 +11530,16 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeASecond_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_flowHashTypeASecond_schema(char *buffer);
+int p4_pd_tessel_switch_flowHashTypeASecond_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowHashTypeASecond_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowHashTypeASecond_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_flowHashTypeASecond_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowHashTypeBFirst (0x01000012), no key ==== */
 
@@ -8517,6 +11574,16 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBFirst_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_flowHashTypeBFirst_schema(char *buffer);
+int p4_pd_tessel_switch_flowHashTypeBFirst_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowHashTypeBFirst_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowHashTypeBFirst_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_flowHashTypeBFirst_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowHashTypeBSecond (0x01000013), no key ==== */
 
@@ -8551,6 +11618,16 @@ p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_flowHashTypeBSecond_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_flowHashTypeBSecond_schema(char *buffer);
+int p4_pd_tessel_switch_flowHashTypeBSecond_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowHashTypeBSecond_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowHashTypeBSecond_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_flowHashTypeBSecond_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowSetupL4Ports (0x01000015), no key ==== */
 
@@ -8585,6 +11662,16 @@ p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_flowSetupL4Ports_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_flowSetupL4Ports_schema(char *buffer);
+int p4_pd_tessel_switch_flowSetupL4Ports_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowSetupL4Ports_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowSetupL4Ports_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_flowSetupL4Ports_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowStateUpdateFirst (0x01000016), no key ==== */
 
@@ -8621,6 +11708,16 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateFirst_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_flowStateUpdateFirst_schema(char *buffer);
+int p4_pd_tessel_switch_flowStateUpdateFirst_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowStateUpdateFirst_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowStateUpdateFirst_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_flowStateUpdateFirst_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowStateCheckFirst (0x01000017), no key ==== */
 
@@ -8655,6 +11752,16 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_flowStateCheckFirst_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_flowStateCheckFirst_schema(char *buffer);
+int p4_pd_tessel_switch_flowStateCheckFirst_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowStateCheckFirst_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowStateCheckFirst_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_flowStateCheckFirst_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowBusyFirst (0x01000018), no key ==== */
 
@@ -8689,6 +11796,16 @@ p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_flowBusyFirst_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_flowBusyFirst_schema(char *buffer);
+int p4_pd_tessel_switch_flowBusyFirst_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowBusyFirst_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowBusyFirst_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_flowBusyFirst_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowStateUpdateSecond (0x01000019), no key ==== */
 
@@ -8725,6 +11842,16 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_flowStateUpdateSecond_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_flowStateUpdateSecond_schema(char *buffer);
+int p4_pd_tessel_switch_flowStateUpdateSecond_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowStateUpdateSecond_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowStateUpdateSecond_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_flowStateUpdateSecond_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowStateCheckSecond (0x0100001a), no key ==== */
 
@@ -8761,6 +11888,16 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_flowStateCheckSecond_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_flowStateCheckSecond_schema(char *buffer);
+int p4_pd_tessel_switch_flowStateCheckSecond_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowStateCheckSecond_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowStateCheckSecond_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_flowStateCheckSecond_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowBusySecond (0x0100001b), no key ==== */
 
@@ -8795,6 +11932,16 @@ p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_flowBusySecond_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_flowBusySecond_schema(char *buffer);
+int p4_pd_tessel_switch_flowBusySecond_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowBusySecond_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowBusySecond_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_flowBusySecond_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowStateConsolidate (0x0100001c), no key ==== */
 
@@ -8831,6 +11978,16 @@ p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_flowStateConsolidate_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_flowStateConsolidate_schema(char *buffer);
+int p4_pd_tessel_switch_flowStateConsolidate_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowStateConsolidate_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowStateConsolidate_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_flowStateConsolidate_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowAddRecircHeader (0x0100001d), no key ==== */
 
@@ -8865,6 +12022,16 @@ p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_flowAddRecircHeader_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_flowAddRecircHeader_schema(char *buffer);
+int p4_pd_tessel_switch_flowAddRecircHeader_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowAddRecircHeader_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowAddRecircHeader_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_flowAddRecircHeader_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowLimit (0x0100001e), no key ==== */
 
@@ -8900,6 +12067,16 @@ p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_next_entry_handles(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_flowLimit_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_flowLimit_schema(char *buffer);
+int p4_pd_tessel_switch_flowLimit_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowLimit_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowLimit_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_flowLimit_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table flowRecircPacket (0x01000020), no key ==== */
 
@@ -8936,6 +12113,16 @@ p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_flowRecircPacket_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_flowRecircPacket_schema(char *buffer);
+int p4_pd_tessel_switch_flowRecircPacket_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_flowRecircPacket_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_flowRecircPacket_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_flowRecircPacket_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table firewallSipMeterDrop (0x01000027), no key ==== */
 
@@ -8972,6 +12159,16 @@ p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_firewallSipMeterDrop_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_firewallSipMeterDrop_schema(char *buffer);
+int p4_pd_tessel_switch_firewallSipMeterDrop_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_firewallSipMeterDrop_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_firewallSipMeterDrop_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_firewallSipMeterDrop_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table firewallDipMeterDrop (0x01000028), no key ==== */
 
@@ -9008,6 +12205,16 @@ p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_firewallDipMeterDrop_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_firewallDipMeterDrop_schema(char *buffer);
+int p4_pd_tessel_switch_firewallDipMeterDrop_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_firewallDipMeterDrop_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_firewallDipMeterDrop_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_firewallDipMeterDrop_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table fragCheck (0x01000029), no key ==== */
 
@@ -9041,6 +12248,16 @@ p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_next_entry_handles(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_fragCheck_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_fragCheck_schema(char *buffer);
+int p4_pd_tessel_switch_fragCheck_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_fragCheck_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_fragCheck_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_fragCheck_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table sipHash (0x0100002a), no key ==== */
 
@@ -9074,6 +12291,15 @@ p4_pd_status_t p4_pd_tessel_switch_sipHash_get_next_entry_handles(p4_pd_session_
 p4_pd_status_t p4_pd_tessel_switch_sipHash_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_sipHash_schema(char *buffer);
+int p4_pd_tessel_switch_sipHash_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_sipHash_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_sipHash_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_sipHash_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table dipHash (0x0100002b), no key ==== */
 
@@ -9107,6 +12333,15 @@ p4_pd_status_t p4_pd_tessel_switch_dipHash_get_next_entry_handles(p4_pd_session_
 p4_pd_status_t p4_pd_tessel_switch_dipHash_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_dipHash_schema(char *buffer);
+int p4_pd_tessel_switch_dipHash_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_dipHash_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_dipHash_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_dipHash_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table routedMartian (0x01000030), no key ==== */
 
@@ -9141,6 +12376,16 @@ p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_routedMartian_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_routedMartian_schema(char *buffer);
+int p4_pd_tessel_switch_routedMartian_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_routedMartian_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_routedMartian_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_routedMartian_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table ingVlanCheck (0x01000034), no key ==== */
 
@@ -9175,6 +12420,16 @@ p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_ingVlanCheck_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_ingVlanCheck_schema(char *buffer);
+int p4_pd_tessel_switch_ingVlanCheck_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_ingVlanCheck_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_ingVlanCheck_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_ingVlanCheck_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table ingStpCheck (0x01000035), no key ==== */
 
@@ -9209,6 +12464,16 @@ p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_ingStpCheck_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_ingStpCheck_schema(char *buffer);
+int p4_pd_tessel_switch_ingStpCheck_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_ingStpCheck_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_ingStpCheck_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_ingStpCheck_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table egrVlanCheck (0x01000036), no key ==== */
 
@@ -9243,6 +12508,16 @@ p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_egrVlanCheck_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_egrVlanCheck_schema(char *buffer);
+int p4_pd_tessel_switch_egrVlanCheck_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_egrVlanCheck_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_egrVlanCheck_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_egrVlanCheck_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table egrStpCheck (0x01000037), no key ==== */
 
@@ -9277,6 +12552,16 @@ p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_egrStpCheck_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_egrStpCheck_schema(char *buffer);
+int p4_pd_tessel_switch_egrStpCheck_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_egrStpCheck_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_egrStpCheck_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_egrStpCheck_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table hashComputeInnerEthHdr (0x01000039), no key ==== */
 
@@ -9313,6 +12598,16 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_next_entry_handles
 p4_pd_status_t p4_pd_tessel_switch_hashComputeInnerEthHdr_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_hashComputeInnerEthHdr_schema(char *buffer);
+int p4_pd_tessel_switch_hashComputeInnerEthHdr_value(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_hashComputeInnerEthHdr_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_hashComputeInnerEthHdr_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_hashComputeInnerEthHdr_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table hashComputeOuterIpv4Hdr (0x0100003a), no key ==== */
 
@@ -9349,6 +12644,16 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_next_entry_handle
 p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_schema(char *buffer);
+int p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_value(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_hashComputeOuterIpv4Hdr_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table hashComputeOuterIpv6Hdr (0x0100003b), no key ==== */
 
@@ -9385,6 +12690,16 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_next_entry_handle
 p4_pd_status_t p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_schema(char *buffer);
+int p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_value(p4_pd_session_handle_t session,
+    uint8_t device, p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_hashComputeOuterIpv6Hdr_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table hashComputeIpAndL4Hdr (0x0100003c), no key ==== */
 
@@ -9421,6 +12736,16 @@ p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_hashComputeIpAndL4Hdr_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_hashComputeIpAndL4Hdr_schema(char *buffer);
+int p4_pd_tessel_switch_hashComputeIpAndL4Hdr_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_hashComputeIpAndL4Hdr_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_hashComputeIpAndL4Hdr_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_hashComputeIpAndL4Hdr_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table samePortBridgingTest (0x0100004a), no key ==== */
 
@@ -9457,6 +12782,16 @@ p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_samePortBridgingTest_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_samePortBridgingTest_schema(char *buffer);
+int p4_pd_tessel_switch_samePortBridgingTest_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_samePortBridgingTest_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_samePortBridgingTest_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_samePortBridgingTest_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table vlanDecap (0x01000050), no key ==== */
 
@@ -9490,6 +12825,16 @@ p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_next_entry_handles(p4_pd_sessio
 p4_pd_status_t p4_pd_tessel_switch_vlanDecap_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_vlanDecap_schema(char *buffer);
+int p4_pd_tessel_switch_vlanDecap_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_vlanDecap_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_vlanDecap_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_vlanDecap_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table qosRewriteConfig (0x01000058), no key ==== */
 
@@ -9526,6 +12871,16 @@ p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_qosRewriteConfig_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_qosRewriteConfig_schema(char *buffer);
+int p4_pd_tessel_switch_qosRewriteConfig_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_qosRewriteConfig_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_qosRewriteConfig_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_qosRewriteConfig_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table queueCounters (0x0100005f), no key ==== */
 
@@ -9560,6 +12915,16 @@ p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_queueCounters_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_queueCounters_schema(char *buffer);
+int p4_pd_tessel_switch_queueCounters_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_queueCounters_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_queueCounters_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_queueCounters_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Table egressMirrorResult (0x01000077), no key ==== */
 
@@ -9594,6 +12959,16 @@ p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_next_entry_handles(
 p4_pd_status_t p4_pd_tessel_switch_egressMirrorResult_get_entry_from_plcmt_data(
     const pipe_mgr_placement_t *placement, p4_pd_tessel_switch_action_specs_t *action_specs,
     bool *no_key);
+int p4_pd_tessel_switch_egressMirrorResult_schema(char *buffer);
+int p4_pd_tessel_switch_egressMirrorResult_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tessel_switch_egressMirrorResult_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_egressMirrorResult_plcmt_data_value(const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tessel_switch_egressMirrorResult_plcmt_data_eq_to_hw(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    const pipe_mgr_placement_t *placement);
 
 /* ==== Profile ecmpMemberActionProfile (action data 0x0200002f, selector 0x03000001) ==== */
 
@@ -9678,6 +13053,11 @@ p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_member_from_plcmt
 p4_pd_status_t p4_pd_tessel_switch_ecmpMemberActionProfile_get_full_member_info_from_plcmt_data(
     uint8_t device, p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_action_specs_t *action_specs);
+int p4_pd_tessel_switch_ecmpMemberActionProfile_schema(char *buffer);
+int p4_pd_tessel_switch_ecmpMemberActionProfile_adt_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_ecmpMemberActionProfile_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
 
 /* ==== Profile egrMirrorLagPortActionProfile (action data 0x02000075, selector 0x03000004) ==== */
 
@@ -9764,6 +13144,11 @@ p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_member_from
 p4_pd_status_t p4_pd_tessel_switch_egrMirrorLagPortActionProfile_get_full_member_info_from_plcmt_data(
     uint8_t device, p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_action_specs_t *action_specs);
+int p4_pd_tessel_switch_egrMirrorLagPortActionProfile_schema(char *buffer);
+int p4_pd_tessel_switch_egrMirrorLagPortActionProfile_adt_plcmt_data_print(int descriptor,
+    int indent, const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_egrMirrorLagPortActionProfile_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
 
 /* ==== Profile mirrorLagPortActionProfile (action data 0x02000072, selector 0x03000003) ==== */
 
@@ -9850,6 +13235,11 @@ p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_member_from_pl
 p4_pd_status_t p4_pd_tessel_switch_mirrorLagPortActionProfile_get_full_member_info_from_plcmt_data(
     uint8_t device, p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_action_specs_t *action_specs);
+int p4_pd_tessel_switch_mirrorLagPortActionProfile_schema(char *buffer);
+int p4_pd_tessel_switch_mirrorLagPortActionProfile_adt_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_mirrorLagPortActionProfile_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
 
 /* ==== Profile lagPortActionProfile (action data 0x02000046, selector 0x03000002) ==== */
 
@@ -9949,6 +13339,11 @@ p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_member_from_plcmt_da
 p4_pd_status_t p4_pd_tessel_switch_lagPortActionProfile_get_full_member_info_from_plcmt_data(
     uint8_t device, p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
     p4_pd_tessel_switch_action_specs_t *action_specs);
+int p4_pd_tessel_switch_lagPortActionProfile_schema(char *buffer);
+int p4_pd_tessel_switch_lagPortActionProfile_adt_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_lagPortActionProfile_plcmt_data_value(
+    const pipe_mgr_placement_t *placement, char *buffer);
 
 /* ==== Meters ==== */
 
@@ -11152,6 +14547,61 @@ p4_pd_status_t p4_pd_tessel_switch_snapshot_capture_trigger_set(uint32_t snapsho
 p4_pd_status_t p4_pd_tessel_switch_snapshot_capture_data_get(uint32_t snapshot, uint16_t pipe,
     p4_pd_tessel_switch_snapshot_capture_t *records, bf_snapshot_control_t *control,
     uint32_t *captures);
+
+/* ==== Introspection ==== */
+
+/* Bytes that hold any text of a family, its NUL included. */
+enum {
+  P4_PD_TESSEL_SWITCH_SCHEMA_MAX = 3786, /* schema of a table or profile */
+  P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX = 281, /* a match spec alone */
+  P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX = 99, /* an action alone */
+  P4_PD_TESSEL_SWITCH_VALUE_MAX = 331, /* an entry */
+  P4_PD_TESSEL_SWITCH_LABEL_MAX = 461, /* label of a counted entry */
+};
+
+int p4_pd_tessel_switch_cli_schema(uint32_t handle, char *buffer);
+int p4_pd_tessel_switch__print_v4addr_exact(char *buffer, const char *label, uint32_t address);
+int p4_pd_tessel_switch__print_v4addr_lpm(char *buffer, const char *label, uint32_t address,
+    uint16_t prefix_length);
+int p4_pd_tessel_switch__print_v4addr_ternary(char *buffer, const char *label, uint32_t address,
+    uint32_t mask);
+int p4_pd_tessel_switch__print_v6addr_exact(char *buffer, const char *label,
+    const uint8_t *address);
+int p4_pd_tessel_switch__print_v6addr_lpm(char *buffer, const char *label, const uint8_t *address,
+    uint16_t prefix_length);
+int p4_pd_tessel_switch__print_v6addr_ternary(char *buffer, const char *label,
+    const uint8_t *address, const uint8_t *mask);
+int p4_pd_tessel_switch__print_mac_exact(char *buffer, const char *label, uint32_t oui,
+    uint32_t station);
+int p4_pd_tessel_switch__print_mac_ternary(char *buffer, const char *label, uint32_t oui,
+    uint32_t oui_mask, uint32_t station, uint32_t station_mask);
+int p4_pd_tessel_switch_stringify_counter_matchspec(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, char *buffer);
+
+/* ==== Rendering by handle ==== */
+
+int p4_pd_tessel_switch_plcmt_data_print(int descriptor, int indent, uint32_t table_handle,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_adt_plcmt_data_print(int descriptor, int indent, uint32_t profile_handle,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_plcmt_data_value(uint32_t table_handle,
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_adt_plcmt_data_value(uint32_t profile_handle,
+    const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tessel_switch_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
+int p4_pd_tessel_switch_entry_value(p4_pd_session_handle_t session, uint32_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, uint32_t read_from_hardware, char *buffer);
+p4_pd_status_t p4_pd_tessel_switch_entry_hdl_first(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t table_handle, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_entry_hdl_next(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_entry_hdl_default(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t table_handle, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_member_hdl_next(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t profile_handle, p4_pd_member_handle_t member,
+    uint32_t count, p4_pd_member_handle_t *members);
 
 #ifdef __cplusplus
 }

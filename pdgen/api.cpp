@@ -86,6 +86,9 @@ std::string profile_group(const Profile &profile) {
                      hex32(profile.action_data_handle), hex32(profile.selector_handle));
 }
 
+std::string action_group() { return "Actions"; }
+std::string introspection_group() { return "Introspection"; }
+
 namespace parameter {
 
 Parameter session() { return {"p4_pd_session_handle_t", "session"}; }
@@ -110,6 +113,7 @@ Parameter cookie() { return {"void *", "cookie"}; }
 Parameter action_spec(const Program &program, const Action &action) {
   return {"const " + action_spec_type(program, action) + " *", "action_spec"};
 }
+Parameter buffer() { return {"char *", "buffer"}; }
 
 }  // namespace parameter
 
@@ -132,6 +136,12 @@ Api build_api(const Program &program) {
   add_digest_functions(api);
   add_value_set_functions(api);
   add_snapshot_functions(api);
+  add_schema_functions(api);
+  add_value_functions(api);
+  add_print_functions(api);
+  add_label_functions(api);
+  add_compare_functions(api);
+  add_render_functions(api);
   return api;
 }
 

@@ -84,6 +84,8 @@ class Api {
 // Titles of the groups of objects in the header.
 std::string table_group(const Table &table);
 std::string profile_group(const Profile &profile);
+std::string action_group();
+std::string introspection_group();  // what belongs to no object
 
 // Parameters that many families share.
 namespace parameter {
@@ -104,6 +106,7 @@ Parameter meter_spec();
 Parameter sync_callback();
 Parameter cookie();
 Parameter action_spec(const Program &program, const Action &action);
+Parameter buffer();  // of a text
 
 }  // namespace parameter
 
@@ -125,6 +128,12 @@ void add_hash_functions(Api &api);
 void add_digest_functions(Api &api);
 void add_value_set_functions(Api &api);
 void add_snapshot_functions(Api &api);
+void add_schema_functions(Api &api);
+void add_value_functions(Api &api);
+void add_print_functions(Api &api);
+void add_label_functions(Api &api);
+void add_compare_functions(Api &api);
+void add_render_functions(Api &api);
 
 // The whole interface.
 Api build_api(const Program &program);

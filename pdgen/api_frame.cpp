@@ -10,7 +10,6 @@ namespace pdgen {
 namespace {
 
 constexpr const char *kFrame = "Start and stop";
-constexpr const char *kActions = "Actions";
 
 const char *storage_type(unsigned bytes) {
   switch (bytes) {
@@ -144,7 +143,7 @@ void add_records(Api &api) {
   for (const Action &action : program.actions) {
     if (action.has_params()) records += action_spec_record(program, action);
   }
-  api.declare(kActions, action_enumeration(program) + records + action_specs_union(program));
+  api.declare(action_group(), action_enumeration(program) + records + action_specs_union(program));
   for (const Table &table : program.tables) {
     if (table.keyed()) api.declare(table_group(table), match_spec_record(program, table));
   }

@@ -25,6 +25,12 @@ std::string emit_wrappers(const Api &api, const Unit &unit);
 std::string emit_version_script(const Api &api, unsigned soname_version);
 // A C file that holds sizes and offsets of every public record to what the rules of C give.
 std::string emit_layout_test(const Program &program);
+// What introspection works from: members of records, texts, schemas and labels.
+std::string emit_records(const Program &program);
+std::string emit_texts(const Program &program);
+std::string emit_schemas(const Program &program);
+std::string emit_labels(const Program &program);
+std::string emit_renders(const Program &program);
 // The program as the soft SDK learns it.
 std::string emit_soft_program(const Program &program);
 // Every export by name, for tools and tests that call them through data.

@@ -65,6 +65,11 @@ void add_build_files(const pdgen::Api &api, const Options &options, pdgen::Outpu
   const pdgen::Program &program = api.program();
   files.add(folder / "descriptors.hpp", pdgen::emit_descriptors(program));
   files.add(folder / "object_names.hpp", pdgen::emit_object_names(program));
+  files.add(folder / "records.hpp", pdgen::emit_records(program));
+  files.add(folder / "texts.hpp", pdgen::emit_texts(program));
+  files.add(folder / "schemas.hpp", pdgen::emit_schemas(program));
+  files.add(folder / "labels.hpp", pdgen::emit_labels(program));
+  files.add(folder / "renders.hpp", pdgen::emit_renders(program));
   files.add(folder / "program_data.cpp", pdgen::emit_program_data(api));
   files.add(folder / "exports.map", pdgen::emit_version_script(api, options.soname));
   files.add(folder / "layout_test.c", pdgen::emit_layout_test(program));

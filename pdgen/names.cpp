@@ -109,6 +109,12 @@ std::string snapshot_capture_type(const Program &program) {
 }
 
 std::string type_tag(const std::string &type) { return type.substr(0, type.size() - 2); }
+std::string size_constant(const Program &program, std::string_view family) {
+  std::string name = fmt::format("{}{}", name_prefix(program), family);
+  std::transform(name.begin(), name.end(), name.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  return name;
+}
 
 std::string param_member(const Param &param) { return "action_" + param.name; }
 
@@ -209,6 +215,9 @@ std::vector<DerivedName> declared_names(const Program &program) {
       {action_name_strings(program), "the program", program.place},
       {hash_field_attr_type(program), "the program", program.place},
   };
+  for (const std::string_view family : kSizeFamilies) {
+    names.push_back({size_constant(program, family), "the program", program.place});
+  }
   for (const Action &action : program.actions) {
     const std::string origin = "action " + action.name;
     names.push_back({action_constant(program, action), origin, action.place});

@@ -71,6 +71,10 @@ std::string snapshot_capture_type(const Program &program);
 
 // The tag of a struct or enumeration: its type name without the ending.
 std::string type_tag(const std::string &type);
+// P4_PD_<PROGRAM>_<family>, in capitals: "SCHEMA_MAX".
+std::string size_constant(const Program &program, std::string_view family);
+inline constexpr std::string_view kSizeFamilies[] = {"SCHEMA_MAX", "MATCH_SPEC_VALUE_MAX",
+                                                     "ACTION_VALUE_MAX", "VALUE_MAX", "LABEL_MAX"};
 
 // Members of the records.
 std::string param_member(const Param &param);              // action_<param>

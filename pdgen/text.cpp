@@ -54,6 +54,21 @@ std::string wrap(std::string_view text, std::size_t width, std::string_view inde
   return out;
 }
 
+std::string c_literal(std::string_view text) {
+  std::string out = "\"";
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (c == '"' || c == '\\') {
+      out += fmt::format("\\{}", c);
+    } else if (byte < 0x20 || byte >= 0x7f) {
+      out += fmt::format("\\{:03o}", byte);
+    } else {
+      out += c;
+    }
+  }
+  return out + '"';
+}
+
 std::string comment(std::string_view text) {
   std::string out = "/* ";
   for (const char c : text) {

@@ -21,6 +21,9 @@ std::string join(const std::vector<std::string> &parts, std::string_view separat
 // the indent.
 std::string wrap(std::string_view text, std::size_t width, std::string_view indent);
 
+// A string literal of C with that contents.
+std::string c_literal(std::string_view text);
+
 // A C block comment of the text's lines.
 std::string comment(std::string_view text);
 

@@ -110,10 +110,10 @@ TEST(MemberSelector, SaysWhatItDoesNotKnow) {
 
 TEST(MemberSelector, MembershipsEndWithEitherSide) {
   Shadow shadow;
-  for (uint32_t member : {7, 8}) ASSERT_EQ(shadow.add(member), BF_SUCCESS);
-  for (uint32_t group : {3, 4}) ASSERT_EQ(shadow.add_group(group), BF_SUCCESS);
-  for (uint32_t member : {8, 7}) {
-    for (uint32_t group : {4, 3}) ASSERT_EQ(shadow.join(member, group), BF_SUCCESS);
+  for (uint32_t member : {7u, 8u}) ASSERT_EQ(shadow.add(member), BF_SUCCESS);
+  for (uint32_t group : {3u, 4u}) ASSERT_EQ(shadow.add_group(group), BF_SUCCESS);
+  for (uint32_t member : {8u, 7u}) {
+    for (uint32_t group : {4u, 3u}) ASSERT_EQ(shadow.join(member, group), BF_SUCCESS);
   }
   ASSERT_EQ(p4_pd_ms_set_grp_act(shadow.state, 2, 3, kFlood), BF_SUCCESS);
   ASSERT_EQ(shadow.del(7), BF_SUCCESS);
@@ -141,9 +141,9 @@ bf_status_t visit(uint8_t device, uint32_t member, uint32_t group, void *cookie)
 
 TEST(MemberSelector, VisitsEveryGroupOfAMember) {
   Shadow shadow;
-  for (uint32_t member : {7, 8}) ASSERT_EQ(shadow.add(member), BF_SUCCESS);
-  for (uint32_t group : {9, 1, 4, 2}) ASSERT_EQ(shadow.add_group(group), BF_SUCCESS);
-  for (uint32_t group : {9, 4, 1}) ASSERT_EQ(shadow.join(7, group), BF_SUCCESS);
+  for (uint32_t member : {7u, 8u}) ASSERT_EQ(shadow.add(member), BF_SUCCESS);
+  for (uint32_t group : {9u, 1u, 4u, 2u}) ASSERT_EQ(shadow.add_group(group), BF_SUCCESS);
+  for (uint32_t group : {9u, 4u, 1u}) ASSERT_EQ(shadow.join(7, group), BF_SUCCESS);
   ASSERT_EQ(shadow.join(8, 2), BF_SUCCESS);
   Visits visits{{}, shadow.state};
   EXPECT_EQ(p4_pd_ms_mbr_apply_to_grps(shadow.state, 2, 7, visit, &visits), BF_TABLE_FULL);

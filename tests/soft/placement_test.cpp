@@ -252,6 +252,9 @@ class Replay : public PlacementTest {
     join(group, member_a);
     EXPECT_EQ(pipe_mgr_sel_grp_mbr_disable(session, kVirtual, kSelector, group, member_a, 0),
               BF_SUCCESS);
+    EXPECT_EQ(
+        pipe_mgr_sel_fallback_mbr_set(session, kVirtual, BF_ALL_PIPES, kSelector, member_a, 0),
+        BF_SUCCESS);
     lag = add_lag(kVirtual, 1, PIPE_ACTION_GROUP, group);
   }
   bf_status_t replay(bf_device_id_t from = kVirtual, bf_pipe_id_t pipe = BF_ALL_PIPES) {
@@ -298,6 +301,10 @@ TEST_F(Replay, ProfilesKeepHandlesStatesAndReferences) {
       pipe_mgr_sel_grp_mbr_get_from_hash(session, kDevice, kSelector, group, hash, 1, &member),
       BF_SUCCESS);
   EXPECT_EQ(member, member_b);
+  EXPECT_EQ(pipe_mgr_sel_grp_mbr_get_from_hash(session, kDevice, kSelector, empty_group, hash, 1,
+                                               &member),
+            BF_SUCCESS);
+  EXPECT_EQ(member, member_a) << "the fallback";
 
   EXPECT_EQ(pipe_mgr_sel_grp_del(session, kDevice, kSelector, group, 0), BF_IN_USE);
   EXPECT_EQ(pipe_mgr_mat_ent_del(session, kDevice, kLag, lag, 0), BF_SUCCESS);
@@ -317,8 +324,11 @@ TEST_F(Replay, TablesKeepHandlesOrderAndDefaults) {
   const uint32_t old = add(kVirtual, kAcl, Key(16, {0x08, 0x00}, {0xff, 0x00}, 5), kDeny, deny);
   add(kVirtual, kAcl, Key(16, {0x08, 0x06}, {0xff, 0xff}, 5), kDeny, deny);
   add(kVirtual, kAcl, Key(16, {0x08, 0x00}, {0xff, 0x00}, 6), kDeny, deny);
-  const uint32_t gone = add(kVirtual, kAcl, Key(16, {9, 9}, {0xff, 0xff}, 1), kDeny, deny);
-  EXPECT_EQ(pipe_mgr_mat_ent_del(session, kVirtual, kAcl, gone, 0), BF_SUCCESS);
+  // So many that freed places are given out again.
+  for (int i = 0; i < 1100; ++i) {
+    const uint32_t gone = add(kVirtual, kAcl, Key(16, {9, 9}, {0xff, 0xff}, 1), kDeny, deny);
+    EXPECT_EQ(pipe_mgr_mat_ent_del(session, kVirtual, kAcl, gone, 0), BF_SUCCESS);
+  }
   std::vector<uint32_t> hosts;
   for (uint8_t n = 0; n < 200; ++n) {
     hosts.push_back(add(kVirtual, kHost, Key(20, {0, 1, n}, {0xff, 0xff, 0xff}), kDrop, deny));
@@ -347,11 +357,51 @@ TEST_F(Replay, TablesKeepHandlesOrderAndDefaults) {
                                  &deny.spec, 0, 0, &handle),
             BF_TABLE_FULL);
 
-  // The copy is a table like any other: entries go and come.
+  // The copy is a table like any other: entries go and come, the older ones first.
+  const uint32_t young = add(kDevice, kAcl, Key(16, {0x08, 0x06}, {0x0f, 0xff}, 5), kDeny, deny);
+  EXPECT_EQ(hit(kDevice, kAcl, {0x08, 0x06}), old);
+  EXPECT_EQ(hit(kDevice, kAcl, {0x18, 0x06}), young);
   EXPECT_EQ(pipe_mgr_mat_ent_del(session, kDevice, kAcl, old, 0), BF_SUCCESS);
   EXPECT_NE(hit(kDevice, kAcl, {0x08, 0x06}), 0u);
   EXPECT_EQ(hit(kVirtual, kAcl, {0x08, 0x06}), old);
   EXPECT_NE(add(kDevice, kAcl, Key(16, {0x08, 0x00}, {0xff, 0x00}, 5), kDeny, deny), old);
+}
+
+TEST_F(Replay, EntriesKeepPipesKeysAndResources) {
+  EXPECT_EQ(pipe_mgr_tbl_set_property(session, kVirtual, kHost, PIPE_TABLE_ENTRY_SCOPE, 1, 0),
+            BF_SUCCESS);
+  Action forward(9, {0x00, 0x01});
+  forward.resource(kHostCount, 0, PIPE_RESOURCE_ATTACH);
+  forward.resource(kAclCount, 12, PIPE_RESOURCE_ATTACH);
+  const Key key(20, {0x0a, 0xbc, 0x2d}, {0xff, 0xff, 0xff});
+  uint32_t entry = 0;
+  ASSERT_EQ(pipe_mgr_mat_ent_add(session, kVirtual, 1, kHost, &key.spec, kForward, &forward.spec, 0,
+                                 0, &entry),
+            BF_SUCCESS);
+  const pipe_mgr_counter_t counted{640, 10};
+  EXPECT_EQ(pipe_mgr_mat_ent_direct_stat_set(session, kVirtual, kHost, entry, &counted),
+            BF_SUCCESS);
+
+  ASSERT_EQ(replay(), BF_SUCCESS);
+  uint32_t count = 9;
+  for (const bf_pipe_id_t pipe : {0u, 1u}) {
+    EXPECT_EQ(pipe_mgr_get_entry_count(session, kDevice, pipe, kHost, 0, &count), BF_SUCCESS);
+    EXPECT_EQ(count, pipe);
+  }
+  Key read(20, Bytes(3), Bytes(3));
+  Action spec(9, Bytes(2));
+  uint32_t action = 0;
+  EXPECT_EQ(
+      pipe_mgr_get_entry(session, kHost, kDevice, entry, &read.spec, &spec.spec, &action, false),
+      BF_SUCCESS);
+  EXPECT_EQ(read.value, key.value);
+  EXPECT_EQ(read.mask, key.mask);
+  ASSERT_EQ(spec.spec.resource_count, 2u);
+  EXPECT_EQ(spec.spec.resources[0].handle + spec.spec.resources[1].handle, kHostCount + kAclCount);
+  pipe_mgr_counter_t copied{};
+  EXPECT_EQ(pipe_mgr_mat_ent_direct_stat_query(session, kDevice, kHost, entry, &copied),
+            BF_SUCCESS);
+  EXPECT_EQ(copied.packets, 10u);
 }
 
 TEST_F(Replay, EntriesGoOnAgeing) {

@@ -115,7 +115,7 @@ TEST_F(ProfileMemory, CellsStayAsTheyWere) {
       PIPE_METER_COLOR_UNAWARE, {PIPE_RATE_PACKETS, 5}, 1, {PIPE_RATE_PACKETS, 6}, 2};
   const auto rates = [&] {
     pipe_mgr_meter_spec_t in[2];
-    for (uint32_t pipe : {0, 1}) {
+    for (uint32_t pipe : {0u, 1u}) {
       EXPECT_EQ(pipe_mgr_meter_read_entry_idx(session, kDevice, pipe, kFlowMeter, 700, &in[pipe]),
                 BF_SUCCESS);
     }

@@ -84,7 +84,8 @@ bf_status_t soft_lookup(bf_device_id_t device, bf_pipe_id_t pipe, pipe_object_ha
 
 /* Sends a packet of packet_bytes through the table: the same question, and then what traffic does
  * to the entry that was hit. Its idle time starts anew, its hit state is active, and its counters
- * count the packet in the device (software copies follow with a synchronisation). */
+ * count the packet in the device (software copies follow with a synchronisation). soft_traffic.h
+ * has the whole of it, with meters and with members of profiles. */
 bf_status_t soft_packet(bf_device_id_t device, bf_pipe_id_t pipe, pipe_object_handle_t table,
                         const uint8_t *key, uint32_t length, uint32_t packet_bytes,
                         pipe_entry_handle_t *entry, bool *is_default);
