@@ -1,6 +1,4 @@
 // Snapshots: triggers in network order, captures cut into records, sizes that make no sense.
-#include <dlfcn.h>
-
 #include <algorithm>
 #include <cstring>
 
@@ -28,14 +26,15 @@ struct OddService {
 
 }  // namespace
 
-// The library calls these before those of the soft SDK, which they hand on to.
+using stateful_test::soft_function;
+
 extern "C" bf_status_t bf_snapshot_capture_phv_fields_dict_size(uint32_t snapshot,
                                                                 uint32_t *total_size,
                                                                 uint32_t *stage_size) {
   if (!odd_service.on) {
-    const auto next = reinterpret_cast<decltype(&bf_snapshot_capture_phv_fields_dict_size)>(
-        dlsym(RTLD_NEXT, "bf_snapshot_capture_phv_fields_dict_size"));
-    return next(snapshot, total_size, stage_size);
+    return soft_function(bf_snapshot_capture_phv_fields_dict_size,
+                         "bf_snapshot_capture_phv_fields_dict_size")(snapshot, total_size,
+                                                                     stage_size);
   }
   *total_size = odd_service.total;
   *stage_size = odd_service.stage;
@@ -45,9 +44,8 @@ extern "C" bf_status_t bf_snapshot_capture_phv_fields_dict_size(uint32_t snapsho
 extern "C" bf_status_t bf_snapshot_capture_get(uint32_t snapshot, uint16_t pipe, void *fields,
                                                bf_snapshot_control_t *control, uint32_t *captures) {
   if (!odd_service.on) {
-    const auto next = reinterpret_cast<decltype(&bf_snapshot_capture_get)>(
-        dlsym(RTLD_NEXT, "bf_snapshot_capture_get"));
-    return next(snapshot, pipe, fields, control, captures);
+    return soft_function(bf_snapshot_capture_get, "bf_snapshot_capture_get")(snapshot, pipe, fields,
+                                                                             control, captures);
   }
   for (uint32_t i = 0; i < odd_service.total; ++i) {
     static_cast<uint8_t *>(fields)[i] = static_cast<uint8_t>(i % 251);

@@ -2,6 +2,7 @@
 // library called. Every test must give back what it allocated and use up the faults it planned.
 #pragma once
 
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -80,6 +81,13 @@ inline void expect_scalars(const Call &call,
   for (const auto &[name, value] : expected) {
     EXPECT_EQ(call.scalar(name), value) << call.function << " " << name;
   }
+}
+
+// A function of the soft SDK for which the test program has one of its own: the library calls that
+// one, which hands on to this one where it has nothing to change.
+template <class Function>
+Function *soft_function(Function *, const char *name) {
+  return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
 }
 
 // ---- Exports by family and object ----
