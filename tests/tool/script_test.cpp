@@ -60,16 +60,11 @@ TEST_F(ScriptTest, TheExampleRunsAndShowsWhatItLoaded) {
   EXPECT_EQ(result.faults, 0u);
   const std::string shown = out_.take();
   EXPECT_NE(shown.find("ipv4ShortMaskLpm entry=3 vrfId=1 dip=10.0.20.0/24 ttl=0 action=setNextHop "
-                       "nextHop=13
-"),
+                       "nextHop=13\n"),
             std::string::npos)
       << shown;
   EXPECT_EQ(run("count ingressPortMapping ipv4ShortMaskLpm firewallPolicy l2LookupMiss"),
-            "ingressPortMapping 6
-ipv4ShortMaskLpm 3
-firewallPolicy 4
-l2LookupMiss 3
-");
+            "ingressPortMapping 6\nipv4ShortMaskLpm 3\nfirewallPolicy 4\nl2LookupMiss 3\n");
 }
 
 // Whatever show prints adds the same entry to another table of the same shape: here, after a
