@@ -1,5 +1,6 @@
-// Allocation n of a call fails, n = 1, 2, 3 ... until the call succeeds: each time the call says so
-// and changes nothing.
+// Profiles, counters and meters: allocation n of a call fails, n = 1, 2, 3 ... until the call
+// succeeds, and each time the call says so and changes nothing. Replaces operator new, so this file
+// is a program of its own.
 #include <cjson/cJSON.h>
 
 #include <cstdlib>
@@ -13,27 +14,34 @@ namespace {
 
 thread_local int allocations_left = -1;  // -1: as many as wanted
 
+// Out of line, so that the compiler does not look for pairs of new and delete in them.
+[[gnu::noinline]] void *take(size_t bytes) noexcept {
+  if (allocations_left == 0) return nullptr;
+  if (allocations_left > 0) --allocations_left;
+  return std::malloc(bytes == 0 ? 1 : bytes);
+}
+[[gnu::noinline]] void give_back(void *memory) noexcept { std::free(memory); }
+
 }  // namespace
 
 void *operator new(size_t bytes) {
-  if (allocations_left == 0) throw std::bad_alloc();
-  if (allocations_left > 0) --allocations_left;
-  void *memory = std::malloc(bytes == 0 ? 1 : bytes);
+  void *memory = take(bytes);
   if (memory == nullptr) throw std::bad_alloc();
   return memory;
 }
+void *operator new(size_t bytes, const std::nothrow_t &) noexcept { return take(bytes); }
 // Memory resources ask by this one, for no more than malloc aligns to anyway.
 void *operator new(size_t bytes, std::align_val_t) { return operator new(bytes); }
-void operator delete(void *memory) noexcept { std::free(memory); }
-void operator delete(void *memory, size_t) noexcept { std::free(memory); }
-void operator delete(void *memory, std::align_val_t) noexcept { std::free(memory); }
-void operator delete(void *memory, size_t, std::align_val_t) noexcept { std::free(memory); }
+void operator delete(void *memory) noexcept { give_back(memory); }
+void operator delete(void *memory, size_t) noexcept { give_back(memory); }
+void operator delete(void *memory, std::align_val_t) noexcept { give_back(memory); }
+void operator delete(void *memory, size_t, std::align_val_t) noexcept { give_back(memory); }
 
 namespace {
 
 using namespace soft_test;
 
-class OutOfMemory : public ProfileTest {
+class ProfileMemory : public ProfileTest {
  protected:
   // Runs the call until it succeeds, at the latest at its fiftieth allocation. state() must stay
   // the same until then. Returns how often the call failed.
@@ -59,7 +67,7 @@ class OutOfMemory : public ProfileTest {
   }
 };
 
-TEST_F(OutOfMemory, ProfilesStayAsTheyWere) {
+TEST_F(ProfileMemory, ProfilesStayAsTheyWere) {
   uint32_t member = 0, group = 0, entry = 0;
   const Action send(9, {0x01, 0x02});
   const Key key(8, {1}, {0xff});
@@ -88,7 +96,7 @@ TEST_F(OutOfMemory, ProfilesStayAsTheyWere) {
   EXPECT_EQ(del_member(member), BF_SUCCESS) << "none of a refused membership either";
 }
 
-TEST_F(OutOfMemory, CellsStayAsTheyWere) {
+TEST_F(ProfileMemory, CellsStayAsTheyWere) {
   const pipe_mgr_counter_t value{64, 1};
   const auto counted = [&] {
     pipe_mgr_counter_t sum{};
@@ -135,7 +143,7 @@ TEST_F(OutOfMemory, CellsStayAsTheyWere) {
             2);
 }
 
-TEST_F(OutOfMemory, MemberSelectorStatesStayAsTheyWere) {
+TEST_F(ProfileMemory, MemberSelectorStatesStayAsTheyWere) {
   allocations_left = 0;
   EXPECT_EQ(p4_pd_ms_init_state(), nullptr);
   allocations_left = -1;
