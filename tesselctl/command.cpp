@@ -9,7 +9,8 @@
 namespace tesselctl {
 
 std::span<const std::span<const Command>> command_topics() {
-  static const std::span<const Command> topics[] = {entry_commands(), meter_commands()};
+  static const std::span<const Command> topics[] = {
+      entry_commands(), show_commands(), profile_commands(), meter_commands(), state_commands()};
   return topics;
 }
 

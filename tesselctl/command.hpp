@@ -7,12 +7,18 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "tesselctl/device.hpp"
 #include "tesselctl/output.hpp"
 #include "tesselctl/words.hpp"
 
 namespace tesselctl {
+
+struct ExpiredEntry {
+  uint32_t table;
+  uint32_t entry;
+};
 
 // What commands share while a script or shell runs.
 struct Context {
@@ -22,6 +28,8 @@ struct Context {
   bool verbose = false;
   // Handles that commands were asked to remember (as=NAME), for $NAME.
   std::map<std::string, uint32_t, std::less<>> labels = {};
+  // Entries that expired since it was cleared; the device writes here while time advances.
+  std::vector<ExpiredEntry> expired = {};
 };
 
 struct Invocation {
@@ -57,6 +65,9 @@ void remember(Context &context, Word name, uint32_t handle);
 
 // The topics.
 std::span<const Command> entry_commands();
+std::span<const Command> show_commands();
+std::span<const Command> profile_commands();
 std::span<const Command> meter_commands();
+std::span<const Command> state_commands();
 
 }  // namespace tesselctl

@@ -4,7 +4,7 @@
 #include <CLI/CLI.hpp>
 #include <cstdlib>
 
-#include "tesselctl/input_file.hpp"
+#include "tesselctl/files.hpp"
 #include "tesselctl/library.hpp"
 #include "tesselctl/routes.hpp"
 #include "tesselctl/script.hpp"

@@ -4,7 +4,7 @@
 
 #include "soft_sdk.h"
 #include "tesselctl/entry_line.hpp"
-#include "tesselctl/input_file.hpp"
+#include "tesselctl/files.hpp"
 #include "tesselctl/progress.hpp"
 #include "tesselctl/route_file.hpp"
 #include "tesselctl/status.hpp"
@@ -201,7 +201,7 @@ class RouteLoad {
   const std::vector<LoadedFile> &files_;
   FaultReport &faults_;
   std::vector<p4_pd_entry_handle_t> handles_;
-  uint64_t total_ = 0;
+  size_t total_ = 0;
   uint64_t added_ = 0;
   uint64_t found_ = 0;
   uint64_t bytes_ = 0;

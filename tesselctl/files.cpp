@@ -1,4 +1,4 @@
-#include "tesselctl/input_file.hpp"
+#include "tesselctl/files.hpp"
 
 #include <fcntl.h>
 #include <fmt/format.h>
@@ -98,6 +98,28 @@ std::string read_input(const std::string &path) {
     return decompress(file.get(), path);
   }
   return read_all(file.get(), path);
+}
+
+void write_file(const std::string &path, const std::string &text) {
+  std::string temporary = path + ".XXXXXX";
+  const Descriptor file(mkostemp(temporary.data(), O_CLOEXEC));
+  if (file.get() < 0) throw_system(path);
+  size_t done = 0;
+  while (done < text.size()) {
+    const ssize_t wrote = write(file.get(), text.data() + done, text.size() - done);
+    if (wrote < 0 && errno == EINTR) continue;
+    if (wrote < 0) break;
+    done += static_cast<size_t>(wrote);
+  }
+  const mode_t mask = umask(0);
+  umask(mask);
+  const bool good = done == text.size() && fchmod(file.get(), 0666 & ~mask) == 0 &&
+                    fsync(file.get()) == 0 && rename(temporary.c_str(), path.c_str()) == 0;
+  if (good) return;
+  const int error = errno;
+  unlink(temporary.c_str());
+  errno = error;
+  throw_system(path);
 }
 
 }  // namespace tesselctl

@@ -1,0 +1,40 @@
+#include "tesselctl/options.hpp"
+
+#include <algorithm>
+
+#include "tesselctl/suggest.hpp"
+#include "tesselctl/value.hpp"
+
+namespace tesselctl {
+
+Options::Options(const Invocation &invocation, size_t at,
+                 std::initializer_list<std::string_view> names)
+    : command_(invocation.command) {
+  for (size_t i = at; i < invocation.arguments.size(); ++i) {
+    const Assignment word = split_assignment(invocation.arguments[i]);
+    const auto known = std::find(names.begin(), names.end(), word.name.text);
+    if (known == names.end()) {
+      throw Fault(word.name, "the command takes no such word", nearest(word.name.text, names));
+    }
+    if (has(*known)) throw Fault(word.name, std::string(*known) + " is given twice");
+    given_.push_back({*known, word.value});
+  }
+}
+
+const Word *Options::find(std::string_view name) const {
+  for (const Option &option : given_) {
+    if (option.name == name) return &option.value;
+  }
+  return nullptr;
+}
+
+Word Options::need(std::string_view name) const {
+  if (const Word *value = find(name)) return *value;
+  throw Fault(command_, std::string(name) + "= is missing");
+}
+
+uint64_t Options::number(std::string_view name, uint64_t limit) const {
+  return parse_limited(need(name), limit, std::string(name));
+}
+
+}  // namespace tesselctl

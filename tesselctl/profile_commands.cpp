@@ -1,0 +1,215 @@
+// Members and groups of action profiles.
+#include <algorithm>
+
+#include "tesselctl/entry_line.hpp"
+#include "tesselctl/options.hpp"
+#include "tesselctl/read_back.hpp"
+#include "tesselctl/suggest.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+Word profile_word(const Invocation &invocation) {
+  return need_argument(invocation, 0, "the name of a profile");
+}
+
+const soft_profile_t &profile_of(const Invocation &invocation) {
+  return resolve_object<soft_profile_t>(profile_word(invocation), "profile");
+}
+
+// The action= word of the line and the parameters behind it; the words before it are for Options.
+struct ActionWords {
+  RecordWriter action;
+  Invocation before;
+};
+
+ActionWords read_action(const Invocation &invocation, const soft_profile_t &profile) {
+  const Words words = invocation.arguments;
+  const auto found = std::find_if(words.begin(), words.end(), [](const Word &word) {
+    return word.text.starts_with("action=");
+  });
+  if (found == words.end()) throw Fault(profile_word(invocation), "action= is missing");
+  const Word name = found->from(7);
+  Nearest near(name.text);
+  for (uint32_t i = 0; i < profile.action_count; ++i) {
+    near.consider(profile.actions[i].name);
+    if (name.text != profile.actions[i].name) continue;
+    RecordWriter action(action_shape(name.text), std::string(name.text));
+    for (auto word = found + 1; word != words.end(); ++word) action.set(split_assignment(*word));
+    action.finish(name);
+    const auto count = static_cast<size_t>(found - words.begin());
+    return {std::move(action), {invocation.command, words.first(count)}};
+  }
+  throw Fault(name, std::string(profile.name) + " has no action of this name", near.name());
+}
+
+void member_add(Context &context, const Invocation &invocation) {
+  const soft_profile_t &profile = profile_of(invocation);
+  const ActionWords words = read_action(invocation, profile);
+  const Options options(words.before, 1, {"as"});
+  Call call = context.device.prepare("add_member", profile.name, words.action.shape().name());
+  p4_pd_member_handle_t member = 0;
+  call.set_if_taken("action_spec", static_cast<const void *>(words.action.data()));
+  check(call.set("member", &member).run(), profile_word(invocation));
+  if (options.has("as")) remember(context, options.need("as"), member);
+  if (context.verbose) context.out.line("{} member={} added", profile.name, member);
+}
+
+void member_modify(Context &context, const Invocation &invocation) {
+  const soft_profile_t &profile = profile_of(invocation);
+  const ActionWords words = read_action(invocation, profile);
+  const Options options(words.before, 1, {"member"});
+  Call call = context.device.prepare("modify_member", profile.name, words.action.shape().name());
+  call.set("member", uint64_t{options.handle(context, "member")});
+  call.set_if_taken("action_spec", static_cast<const void *>(words.action.data()));
+  check(call.run(), profile_word(invocation));
+  if (context.verbose) context.out.line("{} member modified", profile.name);
+}
+
+// The calls that take a group, a member or both and answer with a status alone.
+void change(Context &context, const Invocation &invocation, const char *family,
+            std::initializer_list<std::string_view> names, const char *done,
+            const uint32_t *state = nullptr) {
+  const soft_profile_t &profile = profile_of(invocation);
+  const Options options(invocation, 1, names);
+  Call call = context.device.prepare(family, profile.name);
+  std::string text;
+  for (const std::string_view name : names) {
+    const uint32_t handle = options.handle(context, name);
+    call.set(name, uint64_t{handle});
+    text += fmt::format(" {}={}", name, handle);
+  }
+  if (state != nullptr) call.set("state", uint64_t{*state});
+  check(call.run(), profile_word(invocation));
+  if (context.verbose) context.out.line("{}{} {}", profile.name, text, done);
+}
+
+void member_delete(Context &context, const Invocation &invocation) {
+  change(context, invocation, "del_member", {"member"}, "deleted");
+}
+void group_delete(Context &context, const Invocation &invocation) {
+  change(context, invocation, "del_group", {"group"}, "deleted");
+}
+void group_join(Context &context, const Invocation &invocation) {
+  change(context, invocation, "add_member_to_group", {"group", "member"}, "joined");
+}
+void group_leave(Context &context, const Invocation &invocation) {
+  change(context, invocation, "del_member_from_group", {"group", "member"}, "left");
+}
+void group_enable(Context &context, const Invocation &invocation) {
+  const uint32_t state = P4_PD_GRP_MBR_STATE_ACTIVE;
+  change(context, invocation, "group_member_state_set", {"group", "member"}, "enabled", &state);
+}
+void group_disable(Context &context, const Invocation &invocation) {
+  const uint32_t state = P4_PD_GRP_MBR_STATE_INACTIVE;
+  change(context, invocation, "group_member_state_set", {"group", "member"}, "disabled", &state);
+}
+void fallback_set(Context &context, const Invocation &invocation) {
+  change(context, invocation, "set_dynamic_action_selection_fallback_member", {"member"},
+         "is the fallback");
+}
+void fallback_reset(Context &context, const Invocation &invocation) {
+  change(context, invocation, "reset_dynamic_action_selection_fallback_member", {},
+         "has no fallback");
+}
+
+void group_add(Context &context, const Invocation &invocation) {
+  const soft_profile_t &profile = profile_of(invocation);
+  const Options options(invocation, 1, {"size", "as"});
+  p4_pd_group_handle_t group = 0;
+  Call call = context.device.prepare("create_group", profile.name);
+  call.set("max_size", options.number("size", 0xffffffffu)).set("group", &group);
+  check(call.run(), profile_word(invocation));
+  if (options.has("as")) remember(context, options.need("as"), group);
+  if (context.verbose) context.out.line("{} group={} added", profile.name, group);
+}
+
+void group_choose(Context &context, const Invocation &invocation) {
+  const soft_profile_t &profile = profile_of(invocation);
+  const Options options(invocation, 1, {"group", "hash"});
+  const auto bytes = to_bytes(options.number("hash", 0xffffffffu));
+  p4_pd_member_handle_t member = 0;
+  Call call = context.device.prepare("group_member_get_from_hash", profile.name);
+  call.set("group", uint64_t{options.handle(context, "group")}).set("member", &member);
+  call.set("hash", bytes.data() + 12).set("hash_length", uint64_t{4});
+  check(call.run(), profile_word(invocation));
+  context.out.line("{} member={} {}", profile.name, member,
+                   member_text(context.device, profile.name, member, profile_word(invocation)));
+}
+
+void member_show(Context &context, const Invocation &invocation) {
+  const soft_profile_t &profile = profile_of(invocation);
+  const Word word = profile_word(invocation);
+  const Device &device = context.device;
+  const Options options(invocation, 1, {"member"});
+  const auto print = [&](p4_pd_member_handle_t member) {
+    context.out.line("{} member={} {}", profile.name, member,
+                     member_text(device, profile.name, member, word));
+  };
+  if (options.has("member")) return print(options.handle(context, "member"));
+  for_each_handle({device.prepare("get_first_member", profile.name),
+                   device.prepare("get_next_members", profile.name), "member", "members", "member"},
+                  word, print);
+}
+
+// "member=3 member=4(inactive)"
+std::string members_text(const Device &device, const char *profile, p4_pd_group_handle_t group,
+                         Word word) {
+  std::string text;
+  Call first = device.prepare("get_first_group_member", profile);
+  Call next = device.prepare("get_next_group_members", profile);
+  first.set("group", uint64_t{group});
+  next.set("group", uint64_t{group});
+  for_each_handle({first, next, "member", "members", "member"}, word, [&](uint32_t member) {
+    uint32_t state = P4_PD_GRP_MBR_STATE_ACTIVE;
+    Call call = device.prepare("group_member_state_get", profile);
+    call.set("group", uint64_t{group}).set("member", uint64_t{member}).set("state", &state);
+    check(call.run(), word);
+    text += " member=" + decimal(member);
+    if (state == P4_PD_GRP_MBR_STATE_INACTIVE) text += "(inactive)";
+  });
+  return text;
+}
+
+void group_show(Context &context, const Invocation &invocation) {
+  const soft_profile_t &profile = profile_of(invocation);
+  const Word word = profile_word(invocation);
+  const Device &device = context.device;
+  const Options options(invocation, 1, {"group"});
+  const auto print = [&](p4_pd_group_handle_t group) {
+    context.out.line("{} group={}{}", profile.name, group,
+                     members_text(device, profile.name, group, word));
+  };
+  if (options.has("group")) return print(options.handle(context, "group"));
+  for_each_handle({device.prepare("get_first_group", profile.name),
+                   device.prepare("get_next_groups", profile.name), "group", "groups", "group"},
+                  word, print);
+}
+
+constexpr Command kCommands[] = {
+    {"member add", "PROFILE [as=NAME] action=NAME [PARAM=VALUE...]", "adds a member", member_add},
+    {"member modify", "PROFILE member=HANDLE action=NAME [PARAM=VALUE...]",
+     "changes the parameters of a member", member_modify},
+    {"member delete", "PROFILE member=HANDLE", "deletes a member", member_delete},
+    {"member show", "PROFILE [member=HANDLE]", "prints members", member_show},
+    {"group add", "PROFILE size=N [as=NAME]", "adds a group for at most N members", group_add},
+    {"group delete", "PROFILE group=HANDLE", "deletes a group", group_delete},
+    {"group join", "PROFILE group=HANDLE member=HANDLE", "puts a member into a group", group_join},
+    {"group leave", "PROFILE group=HANDLE member=HANDLE", "takes a member out", group_leave},
+    {"group enable", "PROFILE group=HANDLE member=HANDLE", "makes a member active", group_enable},
+    {"group disable", "PROFILE group=HANDLE member=HANDLE", "makes a member inactive",
+     group_disable},
+    {"group choose", "PROFILE group=HANDLE hash=N", "tells the member that a hash chooses",
+     group_choose},
+    {"group show", "PROFILE [group=HANDLE]", "prints groups with their members", group_show},
+    {"fallback set", "PROFILE member=HANDLE", "sets what stands in for groups without members",
+     fallback_set},
+    {"fallback reset", "PROFILE", "takes the fallback member back", fallback_reset},
+};
+
+}  // namespace
+
+std::span<const Command> profile_commands() { return kCommands; }
+
+}  // namespace tesselctl

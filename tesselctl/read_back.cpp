@@ -1,0 +1,148 @@
+#include "tesselctl/read_back.hpp"
+
+#include <algorithm>
+
+#include "p4_pd_tessel_switch.h"
+#include "tesselctl/status.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+using ActionSpecs = p4_pd_tessel_switch_action_specs_t;
+
+// Which member or group an entry of a table that is bound to a profile names.
+struct Target {
+  bool has_member = false;
+  bool has_group = false;
+  p4_pd_group_handle_t group = 0;
+  p4_pd_member_handle_t member = 0;
+
+  void bind(Call &call) {
+    call.set("has_member", &has_member).set("has_group", &has_group);
+    call.set("group", &group).set("member", &member);
+  }
+  std::string text() const {
+    if (has_group) return "group=" + decimal(group);
+    return has_member ? "member=" + decimal(member) : "no outcome";
+  }
+};
+
+// " meter=CIR,CBS,PIR,PBS" of the meter that every entry of the table has, or nothing.
+std::string meter_text(const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry) {
+  for (const soft_meter_t &meter : program_rows<soft_meter_t>()) {
+    if (meter.table == 0 || meter.table != table.description->handle) continue;
+    p4_pd_bytes_meter_spec_t spec = {};
+    Call call = device.prepare("meter_read", meter.name);
+    if (call.set("entry", uint64_t{entry}).set("meter_spec", &spec).run() != BF_SUCCESS) return "";
+    return fmt::format(" meter={},{},{},{}", spec.committed_rate, spec.committed_burst,
+                       spec.peak_rate, spec.peak_burst);
+  }
+  return "";
+}
+
+std::string ttl_text(const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry) {
+  if (!table.ages()) return "";
+  uint32_t ttl = 0;
+  Call call = device.prepare("get_ttl", table.name());
+  if (call.set("entry", uint64_t{entry}).set("ttl", &ttl).run() != BF_SUCCESS) return "";
+  return " ttl=" + decimal(ttl);
+}
+
+std::string specs_text(const ActionSpecs &specs) {
+  return outcome_text(specs.action, reinterpret_cast<const uint8_t *>(&specs.spec));
+}
+
+}  // namespace
+
+std::string outcome_text(uint32_t action, const uint8_t *record) {
+  for (const bindings::Record &known : actions()) {
+    if (known.number != action) continue;
+    return "action=" + std::string(known.name) + record_text(action_shape(known.name), record);
+  }
+  return fmt::format("action={}", action);
+}
+
+std::string entry_text(const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry,
+                       Word word) {
+  std::vector<uint8_t> key(table.record->size);
+  alignas(16) uint8_t parameters[sizeof(ActionSpecs)] = {};
+  uint32_t priority = 0;
+  uint32_t action = 0;
+  bool no_key = false;
+  Target target;
+  Call call = device.prepare(table.indirect() ? "get_indirect_entry" : "get_entry", table.name());
+  call.set("entry", uint64_t{entry}).set("read_from_hardware", uint64_t{0});
+  call.set_if_taken("match_spec", static_cast<const void *>(key.data()));
+  call.set_if_taken("priority", static_cast<const void *>(&priority));
+  call.set_if_taken("no_key", static_cast<const void *>(&no_key));
+  if (table.indirect()) {
+    target.bind(call);
+  } else {
+    call.set("action_name", static_cast<const void *>(nullptr)).set("action", &action);
+    call.set("action_spec", parameters);
+  }
+  check(call.run(), word);
+  std::string text = no_key || !table.keyed() ? "" : record_text(table.shape(), key.data());
+  if (table.has_priority() && !no_key) text += " priority=" + decimal(priority);
+  if (!no_key) text += ttl_text(device, table, entry);
+  text += meter_text(device, table, entry);
+  text += " " + (table.indirect() ? target.text() : outcome_text(action, parameters));
+  return text.substr(1);
+}
+
+std::string default_entry_text(const Device &device, const TableInfo &table, Word word) {
+  Call call = device.prepare("table_get_default_entry", table.name());
+  call.set("read_from_hardware", uint64_t{0});
+  if (table.indirect()) {
+    Target target;
+    target.bind(call);
+    check(call.run(), word);
+    return target.text();
+  }
+  ActionSpecs specs = {};
+  check(call.set("action_specs", &specs).run(), word);
+  return specs_text(specs);
+}
+
+std::string member_text(const Device &device, const char *profile, p4_pd_member_handle_t member,
+                        Word word) {
+  ActionSpecs specs = {};
+  Call call = device.prepare("get_member", profile);
+  call.set("member", uint64_t{member}).set("read_from_hardware", uint64_t{0});
+  check(call.set("action_specs", &specs).run(), word);
+  return specs_text(specs);
+}
+
+void for_each_handle(Enumeration enumeration, Word word,
+                     const std::function<void(uint32_t)> &visit) {
+  constexpr uint32_t kNone = 0xffffffffu;
+  uint32_t first = 0;
+  uint64_t status = enumeration.first.set(enumeration.one, &first).run();
+  if (status == BF_OBJECT_NOT_FOUND) return;
+  check(status, word);
+  visit(first);
+  uint32_t batch[256] = {first};
+  uint32_t last = first;
+  enumeration.next.set("count", uint64_t{std::size(batch)}).set(enumeration.many, batch);
+  while (true) {
+    status = enumeration.next.set(enumeration.from, uint64_t{last}).run();
+    if (status == BF_OBJECT_NOT_FOUND) return;
+    check(status, word);
+    for (const uint32_t handle : batch) {
+      if (handle == kNone) return;
+      visit(handle);
+    }
+    last = batch[std::size(batch) - 1];
+  }
+}
+
+void for_each_entry(const Device &device, const TableInfo &table, Word word,
+                    const std::function<void(p4_pd_entry_handle_t)> &visit) {
+  for_each_handle(
+      {device.prepare("get_first_entry_handle", table.name()),
+       device.prepare("get_next_entry_handles", table.name()), "entry", "entries", "entry"},
+      word, visit);
+}
+
+}  // namespace tesselctl

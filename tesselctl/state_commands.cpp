@@ -1,0 +1,119 @@
+// Time and state: ageing on the virtual clock, and the state that the library keeps of a device.
+#include <cjson/cJSON.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+#include "soft_sdk.h"
+#include "tesselctl/entry_line.hpp"
+#include "tesselctl/files.hpp"
+#include "tesselctl/options.hpp"
+#include "tesselctl/read_back.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+// ---- Ageing ----
+
+TableInfo ageing_table(const Invocation &invocation) {
+  const Word word = need_argument(invocation, 0, "the name of a table");
+  const TableInfo table = resolve_table(word);
+  if (!table.ages()) throw Fault(word, std::string(table.name()) + " does not age its entries");
+  return table;
+}
+
+void note_expired(bf_device_id_t, pipe_object_handle_t table, pipe_entry_handle_t entry,
+                  void *context) {
+  static_cast<Context *>(context)->expired.push_back({table, entry});
+}
+
+void age_enable(Context &context, const Invocation &invocation) {
+  const TableInfo table = ageing_table(invocation);
+  const Options options(invocation, 1, {"sweep", "min", "max", "ttl"});
+  pipe_mgr_idle_params_t parameters = {};
+  parameters.mode = PIPE_IDLE_NOTIFY;
+  const auto milliseconds = [&](const char *name, uint64_t otherwise) {
+    return static_cast<uint32_t>(options.number_or(name, 0xffffffffu, otherwise));
+  };
+  parameters.sweep_interval_ms = milliseconds("sweep", 1000);
+  parameters.min_ttl_ms = milliseconds("min", 0);
+  parameters.max_ttl_ms = milliseconds("max", 0);
+  parameters.default_ttl_ms = milliseconds("ttl", 0);
+  Call listen = context.device.prepare("idle_register_tmo_cb", table.name());
+  listen.set("callback", reinterpret_cast<const void *>(&note_expired));
+  listen.set("client_data", &context);
+  check(listen.run(), invocation.arguments[0]);
+  Call enable = context.device.prepare("idle_tmo_enable", table.name());
+  check(enable.set("params", &parameters).run(), invocation.arguments[0]);
+  if (context.verbose) context.out.line("{} ages its entries", table.name());
+}
+
+void age_disable(Context &context, const Invocation &invocation) {
+  const TableInfo table = ageing_table(invocation);
+  refuse_arguments_from(invocation, 1);
+  check(context.device.prepare("idle_tmo_disable", table.name()).run(), invocation.arguments[0]);
+  if (context.verbose) context.out.line("{} no longer ages its entries", table.name());
+}
+
+void age_advance(Context &context, const Invocation &invocation) {
+  const Word word = need_argument(invocation, 0, "a number of milliseconds");
+  refuse_arguments_from(invocation, 1);
+  constexpr uint64_t kYear = 366ull * 24 * 3600 * 1000;
+  context.expired.clear();
+  soft_clock_advance(parse_limited(word, kYear, "the time"));
+  for (const ExpiredEntry &expired : context.expired) {
+    for (const bindings::Record &record : tables()) {
+      if (record.number != expired.table) continue;
+      const TableInfo table = resolve_table({record.name, 0});
+      context.out.line("{} entry={} expired {}", table.name(), expired.entry,
+                       entry_text(context.device, table, expired.entry, word));
+    }
+  }
+}
+
+// ---- State ----
+
+struct DeleteJson {
+  void operator()(cJSON *item) const { cJSON_Delete(item); }
+  void operator()(char *text) const { cJSON_free(text); }
+};
+
+void state_log(Context &context, const Invocation &invocation) {
+  const Word word = need_argument(invocation, 0, "the name of a file");
+  refuse_arguments_from(invocation, 1);
+  const std::unique_ptr<cJSON, DeleteJson> document(cJSON_CreateObject());
+  check(soft_device_log(context.device.id(), document.get()), word);
+  const std::unique_ptr<char, DeleteJson> text(cJSON_Print(document.get()));
+  if (!text) throw Fault(word, "there is no memory for the text");
+  write_file(std::string(word.text), std::string(text.get()) + "\n");
+  if (context.verbose) context.out.line("state written to {}", word.text);
+}
+
+void state_restore(Context &context, const Invocation &invocation) {
+  const Word word = need_argument(invocation, 0, "the name of a file");
+  refuse_arguments_from(invocation, 1);
+  const std::string text = read_input(std::string(word.text));
+  const std::unique_ptr<cJSON, DeleteJson> document(
+      cJSON_ParseWithLength(text.data(), text.size()));
+  if (!document) throw Fault(word, "the file holds no JSON document");
+  check(soft_device_restore(context.device.id(), document.get()), word);
+  if (context.verbose) context.out.line("state read from {}", word.text);
+}
+
+constexpr Command kCommands[] = {
+    {"age enable", "TABLE [sweep=MS] [ttl=MS] [min=MS] [max=MS]",
+     "starts ageing; ttl is that of entries added without one", age_enable},
+    {"age disable", "TABLE", "ends ageing", age_disable},
+    {"age advance", "MS", "lets time pass and lists the entries that expire", age_advance},
+    {"state log", "FILE", "writes the member and group state of the library", state_log},
+    {"state restore", "FILE", "reads it back", state_restore},
+};
+
+}  // namespace
+
+std::span<const Command> state_commands() { return kCommands; }
+
+}  // namespace tesselctl

@@ -1,0 +1,31 @@
+// A device, and the command layer on it with its output captured.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "tesselctl/command.hpp"
+#include "tesselctl/script.hpp"
+
+namespace tesselctl {
+
+class ToolTest : public ::testing::Test {
+ protected:
+  // What the line prints; a fault comes as "COLUMN: sentence".
+  std::string run(std::string_view line) {
+    try {
+      run_line(context_, line);
+    } catch (const Fault &fault) {
+      return out_.take() + std::to_string(fault.column()) + ": " + fault.sentence();
+    }
+    return out_.take();
+  }
+
+  Device device_{DeviceOptions{.id = 0, .pipes = 2}};
+  Output out_;
+  Context context_{.device = device_, .out = out_};
+};
+
+}  // namespace tesselctl
