@@ -1,0 +1,190 @@
+// Every export on its bad days. Each SDK call and each allocation that a successful run makes fails
+// in turn; each pointer argument is null in turn. Families that are new are swept like all others,
+// once a scene can make them succeed.
+#include <algorithm>
+#include <set>
+
+#include "expected_calls.hpp"
+
+namespace pd_test {
+namespace {
+
+constexpr bf_status_t kStruck = 0x5afe0000;
+
+bool returns_status(const Export &exported) {
+  return std::string_view(exported.result) == "p4_pd_status_t";
+}
+
+// Calls that record a change which the pipeline manager has made already, or that prepare a service;
+// what they answer cannot change the result.
+bool is_ignored(const std::string &function) {
+  static const std::set<std::string> ignored = {
+      "p4_pd_ms_init",     "p4_pd_ms_init_state",     "p4_pd_ms_new_mbr",
+      "p4_pd_ms_set_mbr_act", "p4_pd_ms_del_mbr",     "p4_pd_ms_new_grp",
+      "p4_pd_ms_add_mbr_to_grp", "p4_pd_ms_del_mbr_from_grp", "p4_pd_ms_set_grp_act",
+      "p4_pd_ms_mbr_get_res"};
+  return ignored.contains(function);
+}
+
+// Calls whose failure the library answers with a status of its own.
+bool is_answered(const std::string &function) {
+  return function == "bf_drv_register" || function == "pipe_mgr_hash_calc_input_get" ||
+         function == "pipe_mgr_hash_calc_algorithm_get";
+}
+
+// Out-parameters that a failed call writes, and what it writes.
+std::string writes_on_failure(std::string_view family) {
+  if (family == "get_property") return "argument value ";
+  if (family == "pvs_get_property") return "value ";
+  if (family == "get_hit_state") return "hit_state ";
+  if (family.ends_with("attribute_get") || family.ends_with("attribute_get_by_name")) {
+    return "filled ";
+  }
+  if (family.ends_with("attribute_count_get") || family.ends_with("attribute_count_get_by_name")) {
+    return "count ";
+  }
+  if (family == "snapshot_capture_data_get") return "captures ";
+  return "";
+}
+
+class FaultSweep : public testing::Test {
+ protected:
+  // Plays all scenes of one export. Returns how many faults were played.
+  size_t fail_each_call(const Export &exported) {
+    const size_t calls = count_calls(exported);
+    for (size_t n = 1; n <= calls; ++n) fail_call(exported, n);
+    return calls;
+  }
+
+  size_t count_calls(const Export &exported) {
+    Scene scene(exported);
+    const uint64_t result = scene.play();
+    if (returns_status(exported)) {
+      EXPECT_EQ(result, expected_status(exported)) << exported.name << ": no scene, no sweep";
+    }
+    return scene.calls().size();
+  }
+
+  void fail_call(const Export &exported, size_t n) {
+    SCOPED_TRACE(std::string(exported.name) + ", call " + std::to_string(n));
+    Scene scene(exported);
+    const bf_status_t status = kStruck + static_cast<bf_status_t>(n);
+    soft::faults::fail_any_call(n, status);
+    const uint64_t result = scene.play();
+    ASSERT_EQ(soft::faults::pending(), 0u);
+    const std::string &struck = scene.calls().at(n - 1).function;
+    if (is_ignored(struck)) {
+      EXPECT_TRUE(result == expected_status(exported) || result == scene.calls().back().status)
+          << struck;
+      return;
+    }
+    if (!is_answered(struck)) {
+      EXPECT_EQ(result, status) << struck;
+    } else {
+      EXPECT_NE(result, BF_SUCCESS) << struck;
+    }
+    EXPECT_EQ(scene.calls().size(), n) << "called on after " << struck;
+    if (exported.family == std::string_view("snapshot_capture_data_get") && n > 1) return;
+    const std::string written = scene.written_outputs();
+    EXPECT_TRUE(written.empty() || written == writes_on_failure(exported.family))
+        << written << "written after " << struck;
+  }
+
+  size_t fail_each_allocation(const Export &exported) {
+    uint64_t allocations = 0;
+    {
+      Scene scene(exported);
+      const uint64_t before = soft_allocations_made();
+      scene.arguments().call();
+      allocations = soft_allocations_made() - before;
+    }
+    for (uint64_t n = 1; n <= allocations; ++n) {
+      SCOPED_TRACE(std::string(exported.name) + ", allocation " + std::to_string(n));
+      Scene scene(exported);
+      soft::faults::fail_allocation(n);
+      EXPECT_EQ(scene.play(), P4_PD_NO_MEMORY);
+      EXPECT_EQ(soft::faults::pending(), 0u);
+      soft::faults::clear();
+      const std::string written = scene.written_outputs();
+      EXPECT_TRUE(written.empty() || written == writes_on_failure(exported.family)) << written;
+    }
+    return static_cast<size_t>(allocations);
+  }
+};
+
+TEST_F(FaultSweep, AFailedCallIsTheLastAndGivesTheStatus) {
+  size_t played = 0;
+  for (const Export *exported : all_exports()) {
+    played += fail_each_call(*exported);
+    ASSERT_FALSE(HasFatalFailure());
+  }
+  // Every table's and profile's functions, each with one call or more.
+  EXPECT_GE(played, 2700u);
+}
+
+TEST_F(FaultSweep, AFailedAllocationLeavesNothing) {
+  size_t played = 0;
+  for (const Export *exported : all_exports()) played += fail_each_allocation(*exported);
+  // Of the tables whose entries or default entries attach a resource.
+  EXPECT_GE(played, 30u);
+}
+
+// ---- Null pointers ----
+
+// Arguments that may be null in the families of the list of calls.
+bool may_be_null(std::string_view family, std::string_view name) {
+  if (name == "callback" || name == "cookie" || name == "client_data") return true;
+  if (name == "handle") return true;  // nothing is written then
+  if (name == "action_name" || name == "action") return family == "get_entry";
+  return name == "meter_spec" && (family.starts_with("table_modify") || family == "set_default_action");
+}
+
+class NullSweep : public testing::Test {
+ protected:
+  static bool is_pointer(const bindings::Parameter &parameter) {
+    const std::string_view type = parameter.type;
+    return type.ends_with("*") || type.ends_with("_cb_t");
+  }
+
+  // A family of the list keeps to it; of any other only what holds for all is asked.
+  void spoil(const Export &exported, const bindings::Parameter &parameter) {
+    SCOPED_TRACE(std::string(exported.name) + ", null " + parameter.name);
+    const FamilyCalls *row = calls_of_family(exported.family);
+    Scene scene(exported);
+    scene.arguments().set(parameter.name, nullptr);
+    const auto status = static_cast<p4_pd_status_t>(scene.play());
+    if (!returns_status(exported)) return;
+    const std::string written = scene.written_outputs();
+    if (row == nullptr) {
+      EXPECT_TRUE(status != P4_PD_NULL_ARGUMENT || (scene.calls().empty() && written.empty()));
+    } else if (may_be_null(exported.family, parameter.name)) {
+      EXPECT_EQ(status, expected_status(exported));
+    } else if (hands_on(*row, parameter.name)) {
+      // The pipeline manager is the judge.
+      EXPECT_EQ(status, scene.calls().back().status);
+      EXPECT_NE(status, BF_SUCCESS);
+      EXPECT_EQ(written, "");
+    } else {
+      const bool meter = exported.family == std::string_view("table_add") &&
+                         parameter.name == std::string_view("meter_spec");
+      EXPECT_EQ(status, meter ? P4_PD_METER_SPEC_MISSING : P4_PD_NULL_ARGUMENT);
+      EXPECT_TRUE(scene.calls().empty()) << scene.calls().front().function;
+      EXPECT_EQ(written, "");
+    }
+  }
+};
+
+TEST_F(NullSweep, ANullPointerIsRefusedBeforeAnyCall) {
+  size_t played = 0;
+  for (const Export *exported : all_exports()) {
+    for (const bindings::Parameter &parameter : exported->parameter_list()) {
+      if (!is_pointer(parameter)) continue;
+      spoil(*exported, parameter);
+      ++played;
+    }
+  }
+  EXPECT_GE(played, 3500u);
+}
+
+}  // namespace
+}  // namespace pd_test

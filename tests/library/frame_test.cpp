@@ -1,0 +1,71 @@
+// Start, stop, and what the driver framework holds of the library in between.
+#include "typed.hpp"
+
+namespace pd_test {
+namespace {
+
+constexpr const char *kClient = "p4_pd_tessel_switch_pd";
+
+std::vector<std::string> functions_of(const std::vector<Call> &calls) {
+  std::vector<std::string> names;
+  for (const Call &call : calls) names.push_back(call.function);
+  return names;
+}
+
+TEST(Frame, TheFirstInitMakesAStatePerProfileAndRegisters) {
+  const std::vector<std::string> wanted = {
+      "p4_pd_ms_init",       "p4_pd_ms_init_state", "p4_pd_ms_init_state", "p4_pd_ms_init_state",
+      "p4_pd_ms_init_state", "bf_drv_register",     "bf_drv_client_register_callbacks"};
+  EXPECT_EQ(functions_of(first_init().calls), wanted);
+  ASSERT_EQ(first_init().calls.size(), wanted.size());
+  EXPECT_EQ(first_init().calls[5].get<std::string>("client_name"), kClient);
+  EXPECT_EQ(first_init().calls[6].scalar("priority"), 2u);
+}
+
+TEST(Frame, TheFrameworkHoldsThreeCallbacks) {
+  EXPECT_EQ(soft_client_count(), 1u);
+  uint32_t client = 0;
+  uint32_t priority = 0;
+  bf_drv_client_callbacks_t callbacks;
+  std::memset(&callbacks, 0x5a, sizeof callbacks);
+  ASSERT_EQ(soft_client_get(kClient, &client, &priority, &callbacks), BF_SUCCESS);
+  EXPECT_EQ(client, bf_drv_hdl);
+  EXPECT_EQ(priority, 2u);
+  static_assert(sizeof callbacks == 29 * sizeof(void *));
+  void *slots[29];
+  std::memcpy(slots, &callbacks, sizeof slots);
+  for (size_t slot = 1; slot <= 29; ++slot) {
+    EXPECT_EQ(slots[slot - 1] != nullptr, slot >= 4 && slot <= 6) << slot;
+  }
+  // Remove, log and restore, in this order.
+  EXPECT_EQ(reinterpret_cast<void *>(callbacks.device_remove), slots[3]);
+  EXPECT_EQ(reinterpret_cast<void *>(callbacks.device_log), slots[4]);
+  EXPECT_EQ(reinterpret_cast<void *>(callbacks.device_restore), slots[5]);
+}
+
+TEST(Frame, ASecondInitKeepsTheStates) {
+  const auto refused = recorded([] { EXPECT_EQ(PD(init)(), P4_PD_DRIVER_REFUSED); });
+  EXPECT_EQ(functions_of(refused),
+            (std::vector<std::string>{"p4_pd_ms_init", "bf_drv_register"}));
+  EXPECT_EQ(soft_client_count(), 1u);
+}
+
+TEST(Frame, ComesBackAfterCleanup) {
+  const uint32_t before = bf_drv_hdl;
+  const Call call = only_call([] { EXPECT_EQ(PD(cleanup)(), BF_SUCCESS); });
+  EXPECT_EQ(call.function, "bf_drv_deregister");
+  EXPECT_EQ(call.scalar("client"), before);
+  EXPECT_EQ(bf_drv_hdl, before);
+  EXPECT_EQ(soft_client_count(), 0u);
+  EXPECT_EQ(PD(cleanup)(), BF_OBJECT_NOT_FOUND);
+  EXPECT_EQ(PD(init)(), BF_SUCCESS);
+  EXPECT_EQ(soft_client_count(), 1u);
+}
+
+TEST(Frame, DeviceStateCleanupDoesNothing) {
+  EXPECT_TRUE(recorded([] { PD(device_state_cleanup)(); }).empty());
+  EXPECT_EQ(soft_client_count(), 1u);
+}
+
+}  // namespace
+}  // namespace pd_test

@@ -1,0 +1,69 @@
+// What the pipeline manager must be given for a typed record, and what comes back of it, worked out
+// bit by bit from the catalogue. It shares nothing with the library's codec: no offsets, no byte
+// swaps, no masks in words, only strings of bits put one behind the other.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "support.hpp"
+
+namespace pd_test {
+
+// Bits, the most significant first.
+class Bits {
+ public:
+  Bits() = default;
+  static Bits repeated(bool bit, size_t count);
+  static Bits of_bytes(const uint8_t *bytes, size_t count);  // the first byte is the highest
+  // A member of a record: an integer in host order, or an array of 16 bytes.
+  static Bits of_member(const uint8_t *record, const bindings::Member &member);
+
+  size_t size() const { return bits_.size(); }
+  Bits lowest(size_t count) const;
+  Bits operator&(const Bits &other) const;
+  Bits &operator+=(const Bits &other);
+  friend Bits operator+(Bits left, const Bits &right) { return left += right; }
+
+  uint32_t number() const;  // of at most 32 bits
+  Bytes bytes() const;      // whole bytes only
+  void store(uint8_t *record, const bindings::Member &member) const;
+
+ private:
+  std::vector<bool> bits_;
+};
+
+struct KeyImage {
+  uint16_t bits = 0;
+  Bytes value;
+  Bytes mask;
+  uint32_t priority = 0;
+};
+
+// The key of a match spec record. The priority counts in ternary tables.
+KeyImage key_image(const pdgen::Table &table, const uint8_t *record, uint32_t priority);
+
+// The match spec record that read-back makes of that key.
+Bytes kept_match_spec(const pdgen::Table &table, const uint8_t *record);
+
+struct ActionImage {
+  uint32_t type = 0;
+  uint16_t bits = 0;
+  Bytes data;
+  uint32_t member = 0;
+  uint32_t group = 0;
+  std::vector<pipe_mgr_resource_t> resources;
+};
+
+// The action data of a record, without resources; type 0.
+ActionImage action_image(const pdgen::Action &action, const uint8_t *record);
+
+// What an operation of a pair sends; meter is the caller's spec, or null.
+ActionImage action_image(const pdgen::Pair &pair, pdgen::Operation operation, const uint8_t *record,
+                         const p4_pd_bytes_meter_spec_t *meter);
+
+// The action spec record that read-back makes of the data and of the resources attached.
+Bytes kept_action_spec(const pdgen::Action &action, const ActionImage &image);
+
+}  // namespace pd_test

@@ -1,0 +1,89 @@
+// A scene for one export: a fresh device on which a call of it with the scene's arguments succeeds.
+// Sweeps play it as it is, with a fault planned, or with one argument spoilt. The same export and
+// variation give the same scene every time.
+#pragma once
+
+#include "oracle.hpp"
+#include "soft_placement.h"
+#include "support.hpp"
+
+namespace pd_test {
+
+class Scene {
+ public:
+  explicit Scene(const Export &exported, std::string_view variation = "");
+  Scene(const Scene &) = delete;
+  Scene &operator=(const Scene &) = delete;
+  ~Scene();
+
+  const Export &exported() const { return exported_; }
+  Arguments &arguments() { return arguments_; }
+  const Arguments &arguments() const { return arguments_; }
+
+  // Calls the export with the journal on.
+  uint64_t play();
+  const std::vector<Call> &calls() const { return calls_; }
+
+  // What the export belongs to; null when it belongs to something else.
+  const pdgen::Table *table() const { return table_; }
+  const pdgen::Profile *profile() const { return profile_; }
+
+  // The records given to the export, where it takes them.
+  const Bytes &match_spec() const { return match_spec_; }
+  const Bytes &action_spec() const { return action_spec_; }
+  const p4_pd_bytes_meter_spec_t &meter_spec() const { return meter_spec_; }
+
+  // Memory behind an out-parameter, exactly as large as the call may write. Every byte holds
+  // kUntouched until then.
+  static constexpr uint8_t kUntouched = 0xa5;
+  const Bytes &output(std::string_view name) const;
+  bool is_output(std::string_view name) const { return outputs_.contains(name); }
+  // Names of the out-parameters that were written.
+  std::string written_outputs() const;
+
+  // The action function handle of the member (and of the group that it is in).
+  uint32_t member_action() const { return member_action_; }
+
+ private:
+  uint32_t find_needs() const;
+  void set_up(uint32_t needs);
+  void add_entry();
+  void add_second_entry();
+  void set_default_entry();
+  uint32_t add_member(std::string_view action);
+  uint32_t create_group();
+  void join(uint32_t member);
+  void take_placement(uint32_t needs);
+  p4_pd_status_t add_entry_of(const Bytes &match_spec, uint32_t *entry);
+  void set_up_ageing();
+
+  void fill_arguments();
+  bool fill_input(const bindings::Parameter &parameter);
+  bool fill_value(const bindings::Parameter &parameter);
+  void fill_output(const bindings::Parameter &parameter);
+
+  const Export &exported_;
+  uint64_t allocations_before_;
+  Random random_;
+  Device device_;
+  Arguments arguments_;
+  const pdgen::Table *table_ = nullptr;
+  const pdgen::Profile *profile_ = nullptr;
+  Bytes match_spec_;
+  Bytes action_spec_;
+  p4_pd_bytes_meter_spec_t meter_spec_;
+  uint32_t priority_ = 0;
+  uint32_t entry_ = 0;
+  uint32_t member_ = 0;
+  uint32_t group_ = 0;
+  uint32_t member_action_ = 0;
+  pipe_mgr_placement_t *placement_ = nullptr;
+  std::optional<Device> virtual_device_;
+  std::map<std::string, Bytes, std::less<>> outputs_;
+  std::vector<Call> calls_;
+};
+
+// The status that a scene's call gives, 0 but for what no scene can make succeed.
+p4_pd_status_t expected_status(const Export &exported);
+
+}  // namespace pd_test

@@ -1,0 +1,229 @@
+#include "support.hpp"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cstring>
+
+#include "pdgen/load.hpp"
+
+namespace pd_test {
+
+// ---- The program ----
+
+const pdgen::Program &program() {
+  static const pdgen::LoadResult loaded = pdgen::load_program(PD_CATALOGUE_DIR);
+  if (!loaded.program) ADD_FAILURE() << loaded.diagnostics.text();
+  return loaded.program.value();
+}
+
+const pdgen::Table &table_named(std::string_view name) {
+  return *pdgen::find_row(program().tables, name);
+}
+
+const pdgen::Action &action_named(std::string_view name) {
+  return *pdgen::find_row(program().actions, name);
+}
+
+const pdgen::Pair *pair_of(const pdgen::Table &table, std::string_view action) {
+  const auto found =
+      std::ranges::find_if(table.pairs, [&](auto &pair) { return pair.action->name == action; });
+  return found == table.pairs.end() ? nullptr : &*found;
+}
+
+const pdgen::ProfileAction *pair_of(const pdgen::Profile &profile, std::string_view action) {
+  const auto found = std::ranges::find_if(
+      profile.actions, [&](auto &pair) { return pair.action->name == action; });
+  return found == profile.actions.end() ? nullptr : &*found;
+}
+
+namespace {
+
+const bindings::Record &record_named(const bindings::Record *records, size_t count,
+                                     std::string_view name) {
+  const std::span all(records, count);
+  return *std::ranges::find_if(all, [&](auto &record) { return record.name == name; });
+}
+
+}  // namespace
+
+const bindings::Record &record_of(const pdgen::Table &table) {
+  return record_named(bindings::binding.tables, bindings::binding.table_count, table.name);
+}
+
+const bindings::Record &record_of(const pdgen::Action &action) {
+  return record_named(bindings::binding.actions, bindings::binding.action_count, action.name);
+}
+
+// ---- The exports ----
+
+const std::vector<const Export *> &all_exports() {
+  static const std::vector<const Export *> all = [] {
+    std::vector<const Export *> list;
+    for (size_t i = 0; i < bindings::binding.list_count; ++i) {
+      const bindings::ExportList &part = *bindings::binding.lists[i];
+      for (size_t row = 0; row < part.count; ++row) list.push_back(&part.rows[row]);
+    }
+    return list;
+  }();
+  return all;
+}
+
+std::vector<const Export *> exports_of(std::string_view family) {
+  std::vector<const Export *> found;
+  std::ranges::copy_if(all_exports(), std::back_inserter(found),
+                       [&](auto *exported) { return exported->family == family; });
+  return found;
+}
+
+const Export *find_export(std::string_view family, std::string_view object,
+                          std::string_view action) {
+  using Index = std::map<std::string, const Export *, std::less<>>;
+  static const Index index = [] {
+    Index all;
+    for (const Export *e : all_exports()) {
+      all[fmt::format("{} {} {}", e->family, e->object, e->action)] = e;
+    }
+    return all;
+  }();
+  const auto found = index.find(fmt::format("{} {} {}", family, object, action));
+  if (found != index.end()) return found->second;
+  ADD_FAILURE() << "no export " << family << " " << object << " " << action;
+  return nullptr;
+}
+
+// ---- The process ----
+
+namespace {
+
+p4_pd_session_handle_t open_session;
+FirstInit first;
+
+class Process : public testing::Environment {
+ public:
+  void SetUp() override {
+    ASSERT_EQ(soft_session_open(&open_session), BF_SUCCESS);
+    first.calls = recorded([] { first.status = p4_pd_tessel_switch_init(); });
+    ASSERT_EQ(first.status, BF_SUCCESS);
+  }
+  void TearDown() override {
+    EXPECT_EQ(p4_pd_tessel_switch_cleanup(), BF_SUCCESS);
+    EXPECT_EQ(soft_session_close(open_session), BF_SUCCESS);
+    EXPECT_EQ(soft_allocations_live(), 0u);
+  }
+};
+
+testing::Environment *const process = testing::AddGlobalTestEnvironment(new Process);
+
+}  // namespace
+
+p4_pd_session_handle_t session() { return open_session; }
+
+const FirstInit &first_init() { return first; }
+
+Device::Device(bf_device_id_t id, bool is_virtual, const soft_program_t &description) : id_(id) {
+  EXPECT_EQ(soft_device_create(id, kPipes, &description, is_virtual), BF_SUCCESS);
+}
+
+Device::~Device() { EXPECT_EQ(soft_device_remove(id_), BF_SUCCESS); }
+
+LibraryTest::LibraryTest() : allocations_before_(soft_allocations_live()) {
+  soft::faults::clear();
+  soft::journal::clear();
+}
+
+LibraryTest::~LibraryTest() {
+  soft::journal::stop();
+  EXPECT_EQ(soft::faults::pending(), 0u) << "a planned fault did not strike";
+  EXPECT_EQ(soft_allocations_live(), allocations_before_);
+}
+
+// ---- Calls through data ----
+
+Arguments::Arguments(const Export &exported)
+    : exported_(&exported),
+      words_(exported.parameter_count),
+      given_(exported.parameter_count) {
+  if (takes("session")) set("session", session());
+  if (takes("device")) set("device", kDevice);
+  if (takes("target")) set("target", &kTarget);
+}
+
+bool Arguments::takes(std::string_view name) const {
+  return std::ranges::any_of(exported_->parameter_list(),
+                             [&](auto &parameter) { return parameter.name == name; });
+}
+
+Arguments &Arguments::set(std::string_view name, uint64_t word) {
+  bool found = false;
+  for (size_t i = 0; i < words_.size(); ++i) {
+    if (exported_->parameters[i].name != name) continue;
+    words_[i] = word;
+    given_[i] = found = true;
+  }
+  EXPECT_TRUE(found) << exported_->name << " has no parameter " << name;
+  return *this;
+}
+
+Arguments &Arguments::set(std::string_view name, const void *object) {
+  return set(name, uint64_t{reinterpret_cast<uintptr_t>(object)});
+}
+
+uint64_t Arguments::get(std::string_view name) const {
+  for (size_t i = 0; i < words_.size(); ++i) {
+    if (exported_->parameters[i].name == name) return words_[i];
+  }
+  ADD_FAILURE() << exported_->name << " has no parameter " << name;
+  return 0;
+}
+
+uint64_t Arguments::call() const {
+  for (size_t i = 0; i < words_.size(); ++i) {
+    EXPECT_TRUE(given_[i]) << exported_->name << ": " << exported_->parameters[i].name
+                           << " is not given";
+  }
+  return exported_->call(words_.data());
+}
+
+// ---- Records ----
+
+Random random_for(std::string_view text) {
+  uint64_t seed = 0x7e55e1;
+  for (const char c : text) seed = seed * 131 + static_cast<unsigned char>(c);
+  return Random(seed);
+}
+
+Bytes random_record(const bindings::Record &record, Random &random) {
+  Bytes bytes(record.size);
+  for (uint8_t &byte : bytes) byte = static_cast<uint8_t>(random());
+  unsigned width = 0;
+  for (const bindings::Member &member : record.member_list()) {
+    if (member.role != bindings::Role::prefix_length) {
+      width = member.width;
+      continue;
+    }
+    const auto length = static_cast<uint16_t>(random() % (width + 2));
+    std::memcpy(bytes.data() + member.offset, &length, sizeof length);
+  }
+  return bytes;
+}
+
+p4_pd_bytes_meter_spec_t random_meter_spec(Random &random) {
+  const auto word = [&] { return static_cast<uint32_t>(random()); };
+  return {word(), word(), word(), word(), PD_METER_TYPE_COLOR_UNAWARE};
+}
+
+const bindings::Member &member_of(const bindings::Record &record, std::string_view name) {
+  const auto all = record.member_list();
+  const auto found = std::ranges::find_if(all, [&](auto &member) { return member.name == name; });
+  if (found == all.end()) throw std::out_of_range(fmt::format("{}.{}", record.name, name));
+  return *found;
+}
+
+std::string hex(const Bytes &bytes) {
+  std::string text;
+  for (const uint8_t byte : bytes) text += fmt::format("{}{:02x}", text.empty() ? "" : " ", byte);
+  return text;
+}
+
+}  // namespace pd_test

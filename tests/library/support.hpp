@@ -1,0 +1,156 @@
+// What all tests of the library share: the catalogue, the exports as data, a process in which the
+// library is initialised, devices, and calls whose arguments are given by name.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "bindings/export_table.hpp"
+#include "p4_pd_tessel_switch.h"
+#include "pdgen/model.hpp"
+#include "soft_journal.hpp"
+#include "soft_sdk.h"
+
+extern "C" {
+extern const soft_program_t soft_program_tessel_switch;
+}
+
+namespace pd_test {
+
+using bindings::Export;
+using Bytes = soft::journal::Bytes;
+using soft::journal::Call;
+
+// The device that tests run on. Its id and pipe differ from each other and from every default.
+inline constexpr bf_device_id_t kDevice = 5;
+inline constexpr uint16_t kPipe = 2;
+inline constexpr uint32_t kPipes = 4;
+inline constexpr p4_pd_device_target_t kTarget = {kDevice, kPipe};
+
+// ---- The program ----
+
+// The catalogue of the source tree, loaded anew: nothing of the built library goes into it.
+const pdgen::Program &program();
+const pdgen::Table &table_named(std::string_view name);
+const pdgen::Action &action_named(std::string_view name);
+// The pair of a table; null when the table does not have the action.
+const pdgen::Pair *pair_of(const pdgen::Table &table, std::string_view action);
+// The pair of a profile.
+const pdgen::ProfileAction *pair_of(const pdgen::Profile &profile, std::string_view action);
+
+// The records of a table's match spec and of an action's spec, as the compiler laid them out.
+const bindings::Record &record_of(const pdgen::Table &table);
+const bindings::Record &record_of(const pdgen::Action &action);
+
+// ---- The exports ----
+
+const std::vector<const Export *> &all_exports();
+std::vector<const Export *> exports_of(std::string_view family);
+// Fails the test and returns null when there is none.
+const Export *find_export(std::string_view family, std::string_view object = "",
+                          std::string_view action = "");
+
+// ---- The process ----
+
+// The session of all tests, open while the program runs.
+p4_pd_session_handle_t session();
+
+// What the first initialisation of the library in this process did.
+struct FirstInit {
+  p4_pd_status_t status;
+  std::vector<Call> calls;
+};
+const FirstInit &first_init();
+
+// A device that runs the program, for as long as the object lives.
+class Device {
+ public:
+  explicit Device(bf_device_id_t id = kDevice, bool is_virtual = false,
+                  const soft_program_t &description = soft_program_tessel_switch);
+  Device(const Device &) = delete;
+  Device &operator=(const Device &) = delete;
+  ~Device();
+
+ private:
+  bf_device_id_t id_;
+};
+
+// A test with a device, an empty journal and an empty fault plan. Nothing that the library has
+// allocated may be left in the end.
+class LibraryTest : public testing::Test {
+ protected:
+  LibraryTest();
+  ~LibraryTest() override;
+
+ private:
+  uint64_t allocations_before_;
+  Device device_;
+};
+
+// Runs body with the journal on and returns what was called.
+template <class Body>
+std::vector<Call> recorded(Body &&body) {
+  soft::journal::start();
+  body();
+  soft::journal::stop();
+  return soft::journal::calls();
+}
+
+// The only call of a body; fails the test, and returns an empty call, when there is another number.
+template <class Body>
+Call only_call(Body &&body) {
+  const std::vector<Call> calls = recorded(body);
+  EXPECT_EQ(calls.size(), 1u);
+  return calls.size() == 1 ? calls.front() : Call{};
+}
+
+// ---- Calls through data ----
+
+// The arguments of one export, by parameter name. session, device and target are there already.
+class Arguments {
+ public:
+  explicit Arguments(const Export &exported);
+
+  // Fails the test when there is no such parameter.
+  Arguments &set(std::string_view name, uint64_t word);
+  Arguments &set(std::string_view name, const void *object);
+  bool takes(std::string_view name) const;
+  uint64_t get(std::string_view name) const;
+  const Export &exported() const { return *exported_; }
+
+  // Fails the test when an argument is missing.
+  uint64_t call() const;
+  p4_pd_status_t status() const { return static_cast<p4_pd_status_t>(call()); }
+
+ private:
+  const Export *exported_;
+  std::vector<uint64_t> words_;
+  std::vector<bool> given_;
+};
+
+// ---- Records ----
+
+using Random = std::mt19937_64;
+
+// A generator that depends on the text alone.
+Random random_for(std::string_view text);
+
+// A record with all bits random, also those above the widths of its fields; prefix lengths reach
+// one beyond the width of the address. Empty for a record without members.
+Bytes random_record(const bindings::Record &record, Random &random);
+
+// A colour-unaware meter spec; bytes and packets specs have one layout.
+p4_pd_bytes_meter_spec_t random_meter_spec(Random &random);
+
+const bindings::Member &member_of(const bindings::Record &record, std::string_view name);
+
+std::string hex(const Bytes &bytes);
+
+}  // namespace pd_test
