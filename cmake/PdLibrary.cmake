@@ -9,7 +9,7 @@
 
 # The units into which pdgen splits the wrappers, in step with Api::begin_unit.
 set(PD_UNITS frame table entry_1 entry_2 default read_back idle indirect profile meter
-  placement
+  placement counter register hash digest value_set snapshot
   schema value print label compare)
 
 function(pd_add_library program)
@@ -31,8 +31,9 @@ function(pd_add_library program)
   file(GLOB catalogue CONFIGURE_DEPENDS ${arg_CATALOGUE}/*.toml)
   add_custom_command(
     OUTPUT ${dir}/stamp
-    BYPRODUCTS ${wrappers} ${tables} ${dir}/descriptors.hpp ${dir}/records.hpp ${dir}/texts.hpp
-      ${dir}/schemas.hpp ${dir}/labels.hpp ${dir}/exports.map ${dir}/layout_test.c
+    BYPRODUCTS ${wrappers} ${tables} ${dir}/descriptors.hpp ${dir}/object_names.hpp
+      ${dir}/records.hpp ${dir}/texts.hpp ${dir}/schemas.hpp ${dir}/labels.hpp
+      ${dir}/exports.map ${dir}/layout_test.c
     COMMAND pdgen --catalogue ${arg_CATALOGUE} --build ${dir} --soname ${arg_SONAME} ${header_option}
     COMMAND ${CMAKE_COMMAND} -E touch ${dir}/stamp
     DEPENDS pdgen ${catalogue}

@@ -84,6 +84,67 @@
  *   virtual device onto a device; members, groups and memberships are recorded in the
  *   member-selector states on the way.
  *
+ * Counters
+ *   counter_read_ and counter_write_ name the cell by entry handle for the counter of a table, else
+ *   by index. A read with P4_PD_READ_FROM_HARDWARE in flags brings the cell up to date first;
+ *   other flags mean nothing. counter_hw_sync_ does so for the whole counter and has the
+ *   pipeline manager call the caller when it is done. For the counter of a table the pipe of
+ *   the target matters to synchronisation only.
+ *
+ * Registers
+ *   One index of a register yields a value for each of its instances, one a pipe as the pipeline
+ *   manager counts them. register_read_ and register_range_read_ write them one after another,
+ *   those of an index behind those of the index before it, and how many they are; values must
+ *   have room for all. P4_PD_READ_FROM_HARDWARE in flags asks for the values in the device;
+ *   other flags mean nothing. A range may end early: indexes_read says how far it came. A
+ *   range of no indexes yields no values; the register and the first index are looked at all
+ *   the same. A 1-bit register stores 1 for any value but 0. P4_PD_NO_MEMORY when the cells
+ *   could not be allocated. The functions whose names end in _direct or _indirect take a
+ *   table's or register's handle and the pipeline manager's own records; register_write_direct
+ *   gives the table's handle for the register's too.
+ *
+ * Hash calculations
+ *   A calculation has one input field list and one algorithm; 0 stands for either. Setting any
+ *   other number passes handle 0 on, which the pipeline manager refuses. input_get and
+ *   algorithm_get return P4_PD_UNKNOWN_SELECTION when the device reports another one or none.
+ *   The attribute reads ask for the list that is configured; P4_PD_UNKNOWN_SELECTION when that
+ *   is the calculation's own and input is not 0. attribute_get sets filled to 0 before
+ *   anything else. calculate_hash_value lays the values end to end, the last one in the lowest
+ *   bits of the stream, and takes attribute_sizes[i] bits of value i: its low bits up to 32,
+ *   else that many of the bytes it points at, whose last byte is the lowest. P4_PD_NO_MEMORY
+ *   when a copy or the stream could not be allocated or the stream is longer than 32 bits can
+ *   tell.
+ *
+ * Hash calculations by name
+ *   The name is that of the calculation, whole and case-sensitive; P4_PD_UNKNOWN_SELECTION for any
+ *   other, and for an attribute of a field that the calculation does not have. Fields go by
+ *   their common number: p4_field_enum turns it into the calculation's own, -1 when there is
+ *   none, and cmn_field_enum back, 0xffffffff (no field of any calculation) when there is
+ *   none.
+ *
+ * Learning digests
+ *   A callback is registered per digest and device and receives the pipeline manager's own
+ *   messages, each of which is given back with notify_ack. set_learning_timeout (microseconds)
+ *   applies to all digests of a device. get_digest_entry_size returns the bytes of one entry,
+ *   0 for an unknown digest. get_digest_entry_field returns where a field starts in an entry,
+ *   and its bytes in size (null: not wanted); null and 0 for an unknown digest or field. Names
+ *   are case-sensitive; multi-byte fields are big-endian.
+ *
+ * Parser value sets
+ *   An entry is a value and a mask in one parser of a device; the pipeline manager chooses its
+ *   handle. set_property and get_property take PIPE_PVS_*; get_property writes 0xffffffff to
+ *   value when it fails. entry_get_next_entry_handles fills entries, which has room for count
+ *   handles, with those behind entry.
+ *
+ * Snapshots
+ *   direction is 0 for ingress and 1 for egress; bit 1 of the handle is set for an egress snapshot.
+ *   capture_trigger_set takes two trigger records of that layout in host order, field values
+ *   and mask, and hands copies in network order on. capture_data_get writes a record for each
+ *   stage of the capture, at most 20; records has room for 20, control (null: not wanted) for
+ *   one element a stage. captures is 0 unless the capture was asked for. Records are written
+ *   even when the capture itself fails; a stage that is shorter than a record fills it up with
+ *   zeroes. P4_PD_NO_MEMORY, and no record written, when the capture could not be allocated.
+ *
  * Schemas
  *   Objects described as literals of nested tuples, for tools that know none of them. The
  *   match-spec and action schemas are constants. The others are written into buffer with a NUL
@@ -12497,6 +12558,1130 @@ p4_pd_status_t p4_pd_tessel_switch_wred_set(p4_pd_session_handle_t session,
 
 p4_pd_status_t p4_pd_tessel_switch_restore_virtual_dev_state(p4_pd_session_handle_t session,
     uint32_t device, uint32_t virtual_device, uint32_t pipe, uint32_t flags);
+
+/* ==== Counters ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_counter_read_l2DmacClassifyCount(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t flags,
+    p4_pd_counter_values_t *values);
+p4_pd_status_t p4_pd_tessel_switch_counter_write_l2DmacClassifyCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    p4_pd_counter_values_t values);
+p4_pd_status_t p4_pd_tessel_switch_counter_hw_sync_l2DmacClassifyCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_counter_read_kf1Count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t flags,
+    p4_pd_counter_values_t *values);
+p4_pd_status_t p4_pd_tessel_switch_counter_write_kf1Count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, p4_pd_counter_values_t values);
+p4_pd_status_t p4_pd_tessel_switch_counter_hw_sync_kf1Count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_counter_read_kf2Count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t flags,
+    p4_pd_counter_values_t *values);
+p4_pd_status_t p4_pd_tessel_switch_counter_write_kf2Count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, p4_pd_counter_values_t values);
+p4_pd_status_t p4_pd_tessel_switch_counter_hw_sync_kf2Count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_counter_read_kf3Count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t flags,
+    p4_pd_counter_values_t *values);
+p4_pd_status_t p4_pd_tessel_switch_counter_write_kf3Count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, p4_pd_counter_values_t values);
+p4_pd_status_t p4_pd_tessel_switch_counter_hw_sync_kf3Count(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_counter_read_firewallPolicyCount(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, uint32_t flags, p4_pd_counter_values_t *values);
+p4_pd_status_t p4_pd_tessel_switch_counter_write_firewallPolicyCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t index,
+    p4_pd_counter_values_t values);
+p4_pd_status_t p4_pd_tessel_switch_counter_hw_sync_firewallPolicyCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_counter_read_ingressPortDropCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t flags, p4_pd_counter_values_t *values);
+p4_pd_status_t p4_pd_tessel_switch_counter_write_ingressPortDropCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    p4_pd_counter_values_t values);
+p4_pd_status_t p4_pd_tessel_switch_counter_hw_sync_ingressPortDropCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_counter_read_pdpClassCount(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, uint32_t flags, p4_pd_counter_values_t *values);
+p4_pd_status_t p4_pd_tessel_switch_counter_write_pdpClassCount(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, p4_pd_counter_values_t values);
+p4_pd_status_t p4_pd_tessel_switch_counter_hw_sync_pdpClassCount(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_counter_read_egressPortQueueCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t index, uint32_t flags,
+    p4_pd_counter_values_t *values);
+p4_pd_status_t p4_pd_tessel_switch_counter_write_egressPortQueueCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t index,
+    p4_pd_counter_values_t values);
+p4_pd_status_t p4_pd_tessel_switch_counter_hw_sync_egressPortQueueCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_counter_read_finalDropControlCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t flags, p4_pd_counter_values_t *values);
+p4_pd_status_t p4_pd_tessel_switch_counter_write_finalDropControlCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    p4_pd_counter_values_t values);
+p4_pd_status_t p4_pd_tessel_switch_counter_hw_sync_finalDropControlCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_counter_read_trapToCpuCount(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t flags,
+    p4_pd_counter_values_t *values);
+p4_pd_status_t p4_pd_tessel_switch_counter_write_trapToCpuCount(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, p4_pd_counter_values_t values);
+p4_pd_status_t p4_pd_tessel_switch_counter_hw_sync_trapToCpuCount(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_counter_read_egressPortDropCount(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, p4_pd_entry_handle_t entry, uint32_t flags,
+    p4_pd_counter_values_t *values);
+p4_pd_status_t p4_pd_tessel_switch_counter_write_egressPortDropCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, p4_pd_entry_handle_t entry,
+    p4_pd_counter_values_t values);
+p4_pd_status_t p4_pd_tessel_switch_counter_hw_sync_egressPortDropCount(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback,
+    void *cookie);
+
+/* ==== Registers ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_register_read_flowStateRegisterFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t index, uint32_t flags,
+    uint8_t *values, uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_write_flowStateRegisterFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t index,
+    const uint8_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_write_all_flowStateRegisterFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, const uint8_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_reset_all_flowStateRegisterFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+p4_pd_status_t p4_pd_tessel_switch_register_range_read_flowStateRegisterFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count, uint32_t flags, uint32_t *indexes_read, uint8_t *values,
+    uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_range_reset_flowStateRegisterFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count);
+p4_pd_status_t p4_pd_tessel_switch_register_hw_sync_flowStateRegisterFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_register_read_flowBusyRegisterFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t index, uint32_t flags,
+    uint8_t *values, uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_write_flowBusyRegisterFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t index,
+    const uint8_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_write_all_flowBusyRegisterFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, const uint8_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_reset_all_flowBusyRegisterFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+p4_pd_status_t p4_pd_tessel_switch_register_range_read_flowBusyRegisterFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count, uint32_t flags, uint32_t *indexes_read, uint8_t *values,
+    uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_range_reset_flowBusyRegisterFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count);
+p4_pd_status_t p4_pd_tessel_switch_register_hw_sync_flowBusyRegisterFirst(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_register_read_flowStateRegisterSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t index, uint32_t flags,
+    uint8_t *values, uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_write_flowStateRegisterSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t index,
+    const uint8_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_write_all_flowStateRegisterSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, const uint8_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_reset_all_flowStateRegisterSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+p4_pd_status_t p4_pd_tessel_switch_register_range_read_flowStateRegisterSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count, uint32_t flags, uint32_t *indexes_read, uint8_t *values,
+    uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_range_reset_flowStateRegisterSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count);
+p4_pd_status_t p4_pd_tessel_switch_register_hw_sync_flowStateRegisterSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_register_read_flowBusyRegisterSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t index, uint32_t flags,
+    uint8_t *values, uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_write_flowBusyRegisterSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t index,
+    const uint8_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_write_all_flowBusyRegisterSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, const uint8_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_reset_all_flowBusyRegisterSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+p4_pd_status_t p4_pd_tessel_switch_register_range_read_flowBusyRegisterSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count, uint32_t flags, uint32_t *indexes_read, uint8_t *values,
+    uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_range_reset_flowBusyRegisterSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count);
+p4_pd_status_t p4_pd_tessel_switch_register_hw_sync_flowBusyRegisterSecond(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_register_read_flowDigestCountReg(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, uint32_t flags, uint32_t *values,
+    uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_write_flowDigestCountReg(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t index,
+    const uint32_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_write_all_flowDigestCountReg(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, const uint32_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_reset_all_flowDigestCountReg(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+p4_pd_status_t p4_pd_tessel_switch_register_range_read_flowDigestCountReg(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count, uint32_t flags, uint32_t *indexes_read, uint32_t *values,
+    uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_range_reset_flowDigestCountReg(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count);
+p4_pd_status_t p4_pd_tessel_switch_register_hw_sync_flowDigestCountReg(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_register_read_ingVlanCheckData(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, uint32_t flags, uint8_t *values,
+    uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_write_ingVlanCheckData(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, const uint8_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_write_all_ingVlanCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, const uint8_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_reset_all_ingVlanCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+p4_pd_status_t p4_pd_tessel_switch_register_range_read_ingVlanCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count, uint32_t flags, uint32_t *indexes_read, uint8_t *values,
+    uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_range_reset_ingVlanCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count);
+p4_pd_status_t p4_pd_tessel_switch_register_hw_sync_ingVlanCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_register_read_ingStpCheckData(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, uint32_t flags, uint8_t *values,
+    uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_write_ingStpCheckData(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, const uint8_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_write_all_ingStpCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, const uint8_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_reset_all_ingStpCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+p4_pd_status_t p4_pd_tessel_switch_register_range_read_ingStpCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count, uint32_t flags, uint32_t *indexes_read, uint8_t *values,
+    uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_range_reset_ingStpCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count);
+p4_pd_status_t p4_pd_tessel_switch_register_hw_sync_ingStpCheckData(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_register_read_egrVlanCheckData(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, uint32_t flags, uint8_t *values,
+    uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_write_egrVlanCheckData(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, const uint8_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_write_all_egrVlanCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, const uint8_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_reset_all_egrVlanCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+p4_pd_status_t p4_pd_tessel_switch_register_range_read_egrVlanCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count, uint32_t flags, uint32_t *indexes_read, uint8_t *values,
+    uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_range_reset_egrVlanCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count);
+p4_pd_status_t p4_pd_tessel_switch_register_hw_sync_egrVlanCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback,
+    void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_register_read_egrStpCheckData(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, uint32_t flags, uint8_t *values,
+    uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_write_egrStpCheckData(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t index, const uint8_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_write_all_egrStpCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, const uint8_t *value);
+p4_pd_status_t p4_pd_tessel_switch_register_reset_all_egrStpCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target);
+p4_pd_status_t p4_pd_tessel_switch_register_range_read_egrStpCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count, uint32_t flags, uint32_t *indexes_read, uint8_t *values,
+    uint32_t *value_count);
+p4_pd_status_t p4_pd_tessel_switch_register_range_reset_egrStpCheckData(
+    p4_pd_session_handle_t session, p4_pd_device_target_t target, uint32_t first,
+    uint32_t index_count);
+p4_pd_status_t p4_pd_tessel_switch_register_hw_sync_egrStpCheckData(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, pipe_mgr_sync_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_register_read_direct(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t table, p4_pd_entry_handle_t entry, uint32_t flags,
+    pipe_stful_query_t *query);
+p4_pd_status_t p4_pd_tessel_switch_register_write_direct(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t table, p4_pd_entry_handle_t entry, const pipe_stful_cell_t *cell);
+p4_pd_status_t p4_pd_tessel_switch_register_hw_sync_direct(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t table, pipe_mgr_sync_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_register_read_indirect(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t reg, uint32_t index, uint32_t flags,
+    pipe_stful_query_t *query);
+p4_pd_status_t p4_pd_tessel_switch_register_write_indirect(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t reg, uint32_t index, const pipe_stful_cell_t *cell);
+p4_pd_status_t p4_pd_tessel_switch_register_hw_sync_indirect(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t reg, pipe_mgr_sync_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_register_reset_all_indirect(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t reg);
+p4_pd_status_t p4_pd_tessel_switch_register_range_reset_indirect(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t reg, uint32_t first, uint32_t index_count);
+p4_pd_status_t p4_pd_tessel_switch_register_write_all_indirect(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t reg, const pipe_stful_cell_t *cell);
+
+/* ==== Hash calculations ==== */
+
+typedef p4_pd_hash_field_attr_t p4_pd_tessel_switch_hash_field_attr_t;
+
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterEthHdr_input_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterEthHdr_input_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t *input);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterEthHdr_algorithm_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t algorithm);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterEthHdr_algorithm_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t *algorithm);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterEthHdr_seed_set(
+    p4_pd_session_handle_t session, uint8_t device, uint64_t seed);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterEthHdr_seed_get(
+    p4_pd_session_handle_t session, uint8_t device, uint64_t *seed);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterEthHdr_input_field_attribute_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t attribute_count,
+    const p4_pd_hash_calc_attr_t *attributes);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterEthHdr_input_field_attribute_count_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterEthHdr_input_field_attribute_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t max_count,
+    p4_pd_hash_calc_attr_t *attributes, uint32_t *filled);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterEthHdr_calculate_hash_value(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t attribute_count,
+    const p4_pd_hash_calc_attr_t *attributes, const uint32_t *attribute_sizes, uint8_t *hash,
+    uint32_t hash_length);
+int32_t p4_pd_tessel_switch_hashOuterEthHdr_p4_field_enum(uint32_t index);
+uint32_t p4_pd_tessel_switch_hashOuterEthHdr_cmn_field_enum(uint32_t field);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerEthHdr_input_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerEthHdr_input_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t *input);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerEthHdr_algorithm_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t algorithm);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerEthHdr_algorithm_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t *algorithm);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerEthHdr_seed_set(
+    p4_pd_session_handle_t session, uint8_t device, uint64_t seed);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerEthHdr_seed_get(
+    p4_pd_session_handle_t session, uint8_t device, uint64_t *seed);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerEthHdr_input_field_attribute_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t attribute_count,
+    const p4_pd_hash_calc_attr_t *attributes);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerEthHdr_input_field_attribute_count_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerEthHdr_input_field_attribute_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t max_count,
+    p4_pd_hash_calc_attr_t *attributes, uint32_t *filled);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerEthHdr_calculate_hash_value(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t attribute_count,
+    const p4_pd_hash_calc_attr_t *attributes, const uint32_t *attribute_sizes, uint8_t *hash,
+    uint32_t hash_length);
+int32_t p4_pd_tessel_switch_hashInnerEthHdr_p4_field_enum(uint32_t index);
+uint32_t p4_pd_tessel_switch_hashInnerEthHdr_cmn_field_enum(uint32_t field);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_input_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_input_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t *input);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_algorithm_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t algorithm);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_algorithm_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t *algorithm);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_seed_set(
+    p4_pd_session_handle_t session, uint8_t device, uint64_t seed);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_seed_get(
+    p4_pd_session_handle_t session, uint8_t device, uint64_t *seed);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_input_field_attribute_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t attribute_count,
+    const p4_pd_hash_calc_attr_t *attributes);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_input_field_attribute_count_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_input_field_attribute_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t max_count,
+    p4_pd_hash_calc_attr_t *attributes, uint32_t *filled);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_calculate_hash_value(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t attribute_count,
+    const p4_pd_hash_calc_attr_t *attributes, const uint32_t *attribute_sizes, uint8_t *hash,
+    uint32_t hash_length);
+int32_t p4_pd_tessel_switch_hashOuterIpv4Hdr_p4_field_enum(uint32_t index);
+uint32_t p4_pd_tessel_switch_hashOuterIpv4Hdr_cmn_field_enum(uint32_t field);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv4Hdr_input_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv4Hdr_input_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t *input);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv4Hdr_algorithm_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t algorithm);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv4Hdr_algorithm_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t *algorithm);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv4Hdr_seed_set(
+    p4_pd_session_handle_t session, uint8_t device, uint64_t seed);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv4Hdr_seed_get(
+    p4_pd_session_handle_t session, uint8_t device, uint64_t *seed);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv4Hdr_input_field_attribute_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t attribute_count,
+    const p4_pd_hash_calc_attr_t *attributes);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv4Hdr_input_field_attribute_count_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv4Hdr_input_field_attribute_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t max_count,
+    p4_pd_hash_calc_attr_t *attributes, uint32_t *filled);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv4Hdr_calculate_hash_value(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t attribute_count,
+    const p4_pd_hash_calc_attr_t *attributes, const uint32_t *attribute_sizes, uint8_t *hash,
+    uint32_t hash_length);
+int32_t p4_pd_tessel_switch_hashInnerIpv4Hdr_p4_field_enum(uint32_t index);
+uint32_t p4_pd_tessel_switch_hashInnerIpv4Hdr_cmn_field_enum(uint32_t field);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv6Hdr_input_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv6Hdr_input_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t *input);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv6Hdr_algorithm_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t algorithm);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv6Hdr_algorithm_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t *algorithm);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv6Hdr_seed_set(
+    p4_pd_session_handle_t session, uint8_t device, uint64_t seed);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv6Hdr_seed_get(
+    p4_pd_session_handle_t session, uint8_t device, uint64_t *seed);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv6Hdr_input_field_attribute_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t attribute_count,
+    const p4_pd_hash_calc_attr_t *attributes);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv6Hdr_input_field_attribute_count_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv6Hdr_input_field_attribute_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t max_count,
+    p4_pd_hash_calc_attr_t *attributes, uint32_t *filled);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpv6Hdr_calculate_hash_value(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t attribute_count,
+    const p4_pd_hash_calc_attr_t *attributes, const uint32_t *attribute_sizes, uint8_t *hash,
+    uint32_t hash_length);
+int32_t p4_pd_tessel_switch_hashOuterIpv6Hdr_p4_field_enum(uint32_t index);
+uint32_t p4_pd_tessel_switch_hashOuterIpv6Hdr_cmn_field_enum(uint32_t field);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv6Hdr_input_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv6Hdr_input_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t *input);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv6Hdr_algorithm_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t algorithm);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv6Hdr_algorithm_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t *algorithm);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv6Hdr_seed_set(
+    p4_pd_session_handle_t session, uint8_t device, uint64_t seed);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv6Hdr_seed_get(
+    p4_pd_session_handle_t session, uint8_t device, uint64_t *seed);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv6Hdr_input_field_attribute_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t attribute_count,
+    const p4_pd_hash_calc_attr_t *attributes);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv6Hdr_input_field_attribute_count_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv6Hdr_input_field_attribute_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t max_count,
+    p4_pd_hash_calc_attr_t *attributes, uint32_t *filled);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpv6Hdr_calculate_hash_value(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t attribute_count,
+    const p4_pd_hash_calc_attr_t *attributes, const uint32_t *attribute_sizes, uint8_t *hash,
+    uint32_t hash_length);
+int32_t p4_pd_tessel_switch_hashInnerIpv6Hdr_p4_field_enum(uint32_t index);
+uint32_t p4_pd_tessel_switch_hashInnerIpv6Hdr_cmn_field_enum(uint32_t field);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpAndL4Hdr_input_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpAndL4Hdr_input_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t *input);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpAndL4Hdr_algorithm_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t algorithm);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpAndL4Hdr_algorithm_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t *algorithm);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpAndL4Hdr_seed_set(
+    p4_pd_session_handle_t session, uint8_t device, uint64_t seed);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpAndL4Hdr_seed_get(
+    p4_pd_session_handle_t session, uint8_t device, uint64_t *seed);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpAndL4Hdr_input_field_attribute_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t attribute_count,
+    const p4_pd_hash_calc_attr_t *attributes);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpAndL4Hdr_input_field_attribute_count_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpAndL4Hdr_input_field_attribute_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t max_count,
+    p4_pd_hash_calc_attr_t *attributes, uint32_t *filled);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashOuterIpAndL4Hdr_calculate_hash_value(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t attribute_count,
+    const p4_pd_hash_calc_attr_t *attributes, const uint32_t *attribute_sizes, uint8_t *hash,
+    uint32_t hash_length);
+int32_t p4_pd_tessel_switch_hashOuterIpAndL4Hdr_p4_field_enum(uint32_t index);
+uint32_t p4_pd_tessel_switch_hashOuterIpAndL4Hdr_cmn_field_enum(uint32_t field);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpAndL4Hdr_input_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpAndL4Hdr_input_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t *input);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpAndL4Hdr_algorithm_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t algorithm);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpAndL4Hdr_algorithm_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t *algorithm);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpAndL4Hdr_seed_set(
+    p4_pd_session_handle_t session, uint8_t device, uint64_t seed);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpAndL4Hdr_seed_get(
+    p4_pd_session_handle_t session, uint8_t device, uint64_t *seed);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpAndL4Hdr_input_field_attribute_set(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t attribute_count,
+    const p4_pd_hash_calc_attr_t *attributes);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpAndL4Hdr_input_field_attribute_count_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpAndL4Hdr_input_field_attribute_get(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t input, uint32_t max_count,
+    p4_pd_hash_calc_attr_t *attributes, uint32_t *filled);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_hashInnerIpAndL4Hdr_calculate_hash_value(
+    p4_pd_session_handle_t session, uint8_t device, uint32_t attribute_count,
+    const p4_pd_hash_calc_attr_t *attributes, const uint32_t *attribute_sizes, uint8_t *hash,
+    uint32_t hash_length);
+int32_t p4_pd_tessel_switch_hashInnerIpAndL4Hdr_p4_field_enum(uint32_t index);
+uint32_t p4_pd_tessel_switch_hashInnerIpAndL4Hdr_cmn_field_enum(uint32_t field);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_input_set(p4_pd_session_handle_t session,
+    uint8_t device, const char *name);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_input_field_attribute_count_get(
+    p4_pd_session_handle_t session, uint8_t device, const char *name, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_input_field_attribute_set(
+    p4_pd_session_handle_t session, uint8_t device, const char *name, uint32_t attribute_count,
+    const p4_pd_tessel_switch_hash_field_attr_t *attributes);
+p4_pd_status_t p4_pd_tessel_switch_hash_calc_input_field_attribute_get(
+    p4_pd_session_handle_t session, uint8_t device, const char *name, uint32_t max_count,
+    p4_pd_tessel_switch_hash_field_attr_t *attributes, uint32_t *filled);
+
+/* ==== Learning digests ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_flowLearningDigest_register(p4_pd_session_handle_t session,
+    uint8_t device, pipe_mgr_digest_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_flowLearningDigest_deregister(p4_pd_session_handle_t session,
+    uint8_t device);
+p4_pd_status_t p4_pd_tessel_switch_flowLearningDigest_notify_ack(p4_pd_session_handle_t session,
+    pipe_mgr_digest_message_t *message);
+p4_pd_status_t p4_pd_tessel_switch_macLearningDigest_register(p4_pd_session_handle_t session,
+    uint8_t device, pipe_mgr_digest_cb_t callback, void *cookie);
+p4_pd_status_t p4_pd_tessel_switch_macLearningDigest_deregister(p4_pd_session_handle_t session,
+    uint8_t device);
+p4_pd_status_t p4_pd_tessel_switch_macLearningDigest_notify_ack(p4_pd_session_handle_t session,
+    pipe_mgr_digest_message_t *message);
+p4_pd_status_t p4_pd_tessel_switch_set_learning_timeout(p4_pd_session_handle_t session,
+    uint8_t device, uint32_t timeout);
+uint32_t p4_pd_tessel_switch_get_digest_entry_size(const char *digest_name);
+const uint8_t *p4_pd_tessel_switch_get_digest_entry_field(const uint8_t *entry,
+    const char *digest_name, const char *field_name, uint32_t *size);
+
+/* ==== Parser value sets ==== */
+
+p4_pd_status_t p4_pd_tessel_switch_pvs_recirc_ports_set_property(p4_pd_session_handle_t session,
+    uint32_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_pvs_recirc_ports_get_property(p4_pd_session_handle_t session,
+    uint32_t device, uint32_t property, uint32_t *value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_pvs_recirc_ports_entry_add(p4_pd_session_handle_t session,
+    p4_pd_parser_target_t target, uint32_t value, uint32_t mask, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pvs_recirc_ports_entry_modify(p4_pd_session_handle_t session,
+    uint32_t device, p4_pd_entry_handle_t entry, uint32_t value, uint32_t mask);
+p4_pd_status_t p4_pd_tessel_switch_pvs_recirc_ports_entry_delete(p4_pd_session_handle_t session,
+    uint32_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_pvs_recirc_ports_entry_get(p4_pd_session_handle_t session,
+    uint32_t device, p4_pd_entry_handle_t entry, uint32_t *value, uint32_t *mask);
+p4_pd_status_t p4_pd_tessel_switch_pvs_recirc_ports_entry_handle_get(
+    p4_pd_session_handle_t session, p4_pd_parser_target_t target, uint32_t value, uint32_t mask,
+    p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pvs_recirc_ports_entry_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_parser_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pvs_recirc_ports_entry_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_parser_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_pvs_recirc_ports_entry_get_count(p4_pd_session_handle_t session,
+    p4_pd_parser_target_t target, uint8_t read_from_hardware, uint32_t *count);
+p4_pd_status_t p4_pd_tessel_switch_pvs_fabric_port_set_property(p4_pd_session_handle_t session,
+    uint32_t device, uint32_t property, uint32_t value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_pvs_fabric_port_get_property(p4_pd_session_handle_t session,
+    uint32_t device, uint32_t property, uint32_t *value, uint32_t argument);
+p4_pd_status_t p4_pd_tessel_switch_pvs_fabric_port_entry_add(p4_pd_session_handle_t session,
+    p4_pd_parser_target_t target, uint32_t value, uint32_t mask, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pvs_fabric_port_entry_modify(p4_pd_session_handle_t session,
+    uint32_t device, p4_pd_entry_handle_t entry, uint32_t value, uint32_t mask);
+p4_pd_status_t p4_pd_tessel_switch_pvs_fabric_port_entry_delete(p4_pd_session_handle_t session,
+    uint32_t device, p4_pd_entry_handle_t entry);
+p4_pd_status_t p4_pd_tessel_switch_pvs_fabric_port_entry_get(p4_pd_session_handle_t session,
+    uint32_t device, p4_pd_entry_handle_t entry, uint32_t *value, uint32_t *mask);
+p4_pd_status_t p4_pd_tessel_switch_pvs_fabric_port_entry_handle_get(p4_pd_session_handle_t session,
+    p4_pd_parser_target_t target, uint32_t value, uint32_t mask, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pvs_fabric_port_entry_get_first_entry_handle(
+    p4_pd_session_handle_t session, p4_pd_parser_target_t target, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tessel_switch_pvs_fabric_port_entry_get_next_entry_handles(
+    p4_pd_session_handle_t session, p4_pd_parser_target_t target, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tessel_switch_pvs_fabric_port_entry_get_count(p4_pd_session_handle_t session,
+    p4_pd_parser_target_t target, uint8_t read_from_hardware, uint32_t *count);
+
+/* ==== Snapshots ==== */
+
+/* Trigger of ingress snapshots, 634 bytes: field values, or the bits of them that count. */
+typedef struct __attribute__((packed)) p4_pd_tessel_switch_snapshot_ingress_trigger {
+  uint16_t ig_intr_md_ingress_port;
+  uint16_t ig_intr_md_from_parser_aux_ingress_parser_err;
+  uint16_t ig_intr_md_from_parser_aux_ingress_global_tstamp_0;
+  uint16_t ig_intr_md_from_parser_aux_ingress_global_tstamp_1;
+  uint16_t ig_intr_md_from_parser_aux_ingress_global_tstamp_2;
+  uint16_t ig_intr_md_for_tm_mcast_grp_a;
+  uint8_t ig_intr_md_for_tm_ingress_cos;
+  uint8_t ig_intr_md_for_tm_copy_to_cpu;
+  uint16_t phase0_ingVPort;
+  uint16_t phase0_nativeAintf;
+  uint8_t phase0_switchPort;
+  uint8_t phase0_portType;
+  uint8_t outerEthHdr_valid;
+  uint32_t outerEthHdr_dmacOui;
+  uint32_t outerEthHdr_dmacStation;
+  uint32_t outerEthHdr_smacOui;
+  uint32_t outerEthHdr_smacStation;
+  uint16_t outerEthHdr_etherType;
+  uint8_t vlanHdr_0__valid;
+  uint16_t vlanHdr_0__vlanId;
+  uint16_t vlanHdr_0__etherType;
+  uint8_t vlanHdr_0__priority;
+  uint8_t vlanHdr_1__valid;
+  uint16_t vlanHdr_1__vlanId;
+  uint16_t vlanHdr_1__etherType;
+  uint8_t vlanHdr_1__priority;
+  uint8_t tesselCpuHdr_valid;
+  uint16_t tesselCpuHdr_port;
+  uint16_t tesselCpuHdr_portChannel;
+  uint8_t tesselCpuHdr_trustMode;
+  uint8_t tesselCpuHdr_tc;
+  uint8_t arpHdr_valid;
+  uint16_t arpHdr_hwType;
+  uint16_t arpHdr_protoType;
+  uint16_t arpHdr_opcode;
+  uint16_t arpHdr_smac_0;
+  uint16_t arpHdr_smac_1;
+  uint16_t arpHdr_smac_2;
+  uint16_t arpHdr_sip_0;
+  uint16_t arpHdr_sip_1;
+  uint16_t arpHdr_dip_0;
+  uint16_t arpHdr_dip_1;
+  uint8_t outerIpv4Hdr_valid;
+  uint16_t outerIpv4Hdr_totalLen;
+  uint16_t outerIpv4Hdr_identification;
+  uint16_t outerIpv4Hdr_fragOffset;
+  uint16_t outerIpv4Hdr_hdrChecksum;
+  uint32_t outerIpv4Hdr_sip;
+  uint32_t outerIpv4Hdr_dip;
+  uint8_t outerIpv4Hdr_dscp;
+  uint8_t outerIpv4Hdr_protocol;
+  uint8_t outerIpv4Hdr_ttl;
+  uint8_t outerIpv6Hdr_valid;
+  uint16_t outerIpv6Hdr_payloadLen;
+  uint32_t outerIpv6Hdr_sip_0;
+  uint32_t outerIpv6Hdr_sip_1;
+  uint32_t outerIpv6Hdr_sip_2;
+  uint32_t outerIpv6Hdr_sip_3;
+  uint32_t outerIpv6Hdr_dip_0;
+  uint32_t outerIpv6Hdr_dip_1;
+  uint32_t outerIpv6Hdr_dip_2;
+  uint32_t outerIpv6Hdr_dip_3;
+  uint8_t outerIpv6Hdr_hopLimit;
+  uint8_t outerIpv6Hdr_nextHdr;
+  uint8_t l4PortHdr_valid;
+  uint16_t l4PortHdr_srcPort;
+  uint16_t l4PortHdr_dstPort;
+  uint16_t udpHdr_length;
+  uint8_t innerEthHdr_valid;
+  uint32_t innerEthHdr_dmacOui;
+  uint32_t innerEthHdr_dmacStation;
+  uint32_t innerEthHdr_smacOui;
+  uint32_t innerEthHdr_smacStation;
+  uint16_t innerEthHdr_etherType;
+  uint8_t innerIpv4Hdr_valid;
+  uint16_t innerIpv4Hdr_totalLen;
+  uint16_t innerIpv4Hdr_identification;
+  uint16_t innerIpv4Hdr_fragOffset;
+  uint16_t innerIpv4Hdr_hdrChecksum;
+  uint16_t innerIpv4Hdr_sip_0;
+  uint16_t innerIpv4Hdr_sip_1;
+  uint16_t innerIpv4Hdr_dip_0;
+  uint16_t innerIpv4Hdr_dip_1;
+  uint8_t innerIpv4Hdr_protocol;
+  uint8_t innerIpv4Hdr_ttl;
+  uint8_t innerIpv6Hdr_valid;
+  uint16_t innerIpv6Hdr_payloadLen;
+  uint16_t innerIpv6Hdr_sip_0;
+  uint16_t innerIpv6Hdr_sip_1;
+  uint16_t innerIpv6Hdr_sip_2;
+  uint16_t innerIpv6Hdr_sip_3;
+  uint16_t innerIpv6Hdr_sip_4;
+  uint16_t innerIpv6Hdr_sip_5;
+  uint16_t innerIpv6Hdr_sip_6;
+  uint16_t innerIpv6Hdr_sip_7;
+  uint16_t innerIpv6Hdr_dip_0;
+  uint16_t innerIpv6Hdr_dip_1;
+  uint16_t innerIpv6Hdr_dip_2;
+  uint16_t innerIpv6Hdr_dip_3;
+  uint16_t innerIpv6Hdr_dip_4;
+  uint16_t innerIpv6Hdr_dip_5;
+  uint16_t innerIpv6Hdr_dip_6;
+  uint16_t innerIpv6Hdr_dip_7;
+  uint8_t innerIpv6Hdr_hopLimit;
+  uint8_t innerIpv6Hdr_nextHdr;
+  uint8_t innerL4PortHdr_valid;
+  uint16_t innerL4PortHdr_srcPort;
+  uint16_t innerL4PortHdr_dstPort;
+  uint32_t ingMd_dmacOui;
+  uint32_t ingMd_dmacStation;
+  uint32_t ingMd_smacOui;
+  uint32_t ingMd_smacStation;
+  uint32_t ingMd_ingL2Aintf;
+  uint32_t ingMd_rand;
+  uint16_t ingMd_ingL2Domain;
+  uint16_t ingMd_ingL3Aintf;
+  uint16_t ingMd_etherType;
+  uint16_t ingMd_srcPort;
+  uint16_t ingMd_dstPort;
+  uint8_t ingMd_l2Control;
+  uint8_t ingMd_protocol;
+  uint8_t ingMd_tunnelType;
+  uint8_t ingMd_tcpFlags;
+  uint8_t ingMd_v4V6Valid;
+  uint8_t ingMd_illegalDmac;
+  uint8_t ingMd_illegalSmac;
+  uint8_t ingMd_invalidTunnel;
+  uint8_t ingMd_vlanHdrValid;
+  uint8_t ingMd_bcast;
+  uint8_t ingMd_igmpSnoopingEnabled;
+  uint8_t ingMd_ipMcast;
+  uint8_t ingMd_llm;
+  uint8_t ingMd_ttl;
+  uint8_t ingMd_dot1xDrop;
+  uint8_t ingMd_drop;
+  uint8_t ingMd_dropDatalink;
+  uint8_t ingMd_dropDmac;
+  uint8_t ingMd_dropSmac;
+  uint8_t ingMd_invalidEgressPort;
+  uint8_t ingMd_mcast;
+  uint8_t ingMd_mlagPrune;
+  uint8_t ingMd_routedMartian;
+  uint8_t ingMd_samePortBridging;
+  uint8_t ingMd_stormControlDrop;
+  uint8_t ingMd_cpuMemberOfIngressVlan;
+  uint8_t ingMd_l4Attr;
+  uint8_t ingMd_sflowSample;
+  uint32_t ingIpv4_sip;
+  uint32_t ingIpv4_dip;
+  uint32_t ingIpv6_sip_0;
+  uint32_t ingIpv6_sip_1;
+  uint32_t ingIpv6_sip_2;
+  uint32_t ingIpv6_sip_3;
+  uint32_t ingIpv6_dip_0;
+  uint32_t ingIpv6_dip_1;
+  uint32_t ingIpv6_dip_2;
+  uint32_t ingIpv6_dip_3;
+  uint32_t flowMgmt_hash1;
+  uint32_t flowMgmt_hash2;
+  uint32_t flowMgmt_flowDigestCount;
+  uint8_t flowMgmt_present;
+  uint8_t flowMgmt_newFlow;
+  uint8_t flowMgmt_recircNeeded;
+  uint8_t flowMgmt_finRstDigestEnabled;
+  uint8_t flowMgmt_flowLimitDrop;
+  uint8_t flowMgmt_newFlowMeterDrop;
+  uint16_t kflowMd_counterIndex;
+  uint8_t kflowMd_isHit;
+  uint8_t kflowMd_drop;
+  uint16_t l3_ecmpGroup;
+  uint16_t l3_nextHop;
+  uint16_t ingMirrorMd_mirrorBufId;
+  uint16_t ingMirrorMd_mirrorSession;
+  uint8_t ingMirrorMd_mirrorColor;
+  uint16_t haloKeyOrig_sipMirror;
+  uint16_t haloKeyOrig_dipMirror;
+  uint8_t haloKeyOrig_flags;
+  uint8_t haloKeyOrig_isFrag;
+  uint32_t egrMd_dmacOui;
+  uint32_t egrMd_dmacStation;
+  uint32_t egrMd_egrL2AintfUnresolved;
+  uint16_t egrMd_egrL2Domain;
+  uint8_t egrMd_routed;
+  uint8_t egrMd_decapType;
+  uint8_t egrMd_cpuReasonCode;
+  uint8_t egrMd_trapToCpu;
+  uint8_t egrMd_vxlanFlood;
+  uint8_t l3Info_vrfId;
+  uint8_t l3Info_ipRouting;
+  uint8_t l3Info_ingL3DmacValid;
+  uint8_t fwMd_srcSegment;
+  uint8_t fwMd_dstSegment;
+  uint8_t fwMd_escortToRecircPort;
+  uint8_t fwMd_fwDrop;
+  uint8_t fwMd_meterDrop;
+  uint8_t parserMd_outerHdrFlags;
+  uint8_t learningDigestMd_applicationId;
+  uint8_t ingVlanStpCheck_stpBlocked;
+  uint8_t ingVlanStpCheck_invalidVlan;
+  uint8_t qosMd_defaultCos;
+  uint8_t qosMd_trustMode;
+  uint8_t qosMd_cos;
+  uint8_t qosMd_dscp;
+  uint8_t qosMd_highPriority;
+  uint8_t qosMd_cosRewrite;
+  uint8_t qosMd_dscpRewrite;
+  uint8_t qosMd_pdpClassId;
+  uint8_t ingIpmc_eValid;
+  uint8_t ingL2Mc_eValid;
+  uint8_t tesselFlowMgmtHdr_valid;
+  uint8_t reserved[230];
+} p4_pd_tessel_switch_snapshot_ingress_trigger_t;
+/* Trigger of egress snapshots, 634 bytes: field values, or the bits of them that count. */
+typedef struct __attribute__((packed)) p4_pd_tessel_switch_snapshot_egress_trigger {
+  uint16_t eg_intr_md_egress_port;
+  uint16_t eg_intr_md_egress_rid;
+  uint32_t outerEthHdr_dmacOui;
+  uint32_t outerEthHdr_dmacStation;
+  uint32_t outerEthHdr_smacOui;
+  uint32_t outerEthHdr_smacStation;
+  uint16_t outerEthHdr_etherType;
+  uint8_t vlanHdr_0__valid;
+  uint16_t vlanHdr_0__vlanId;
+  uint16_t vlanHdr_0__etherType;
+  uint16_t vlanHdr_1__vlanId;
+  uint16_t vlanHdr_1__etherType;
+  uint8_t vlanHdr_1__priority;
+  uint16_t tesselCpuHdr_port;
+  uint16_t tesselCpuHdr_portChannel;
+  uint8_t tesselCpuHdr_slice;
+  uint8_t tesselCpuHdr_lane;
+  uint16_t arpHdr_hwType;
+  uint16_t arpHdr_protoType;
+  uint16_t arpHdr_opcode;
+  uint16_t arpHdr_smac_0;
+  uint16_t arpHdr_smac_1;
+  uint16_t arpHdr_smac_2;
+  uint16_t arpHdr_sip_0;
+  uint16_t arpHdr_sip_1;
+  uint16_t arpHdr_dmac_0;
+  uint16_t arpHdr_dmac_1;
+  uint16_t arpHdr_dmac_2;
+  uint16_t arpHdr_dip_0;
+  uint16_t arpHdr_dip_1;
+  uint8_t outerIpv4Hdr_valid;
+  uint16_t outerIpv4Hdr_totalLen;
+  uint16_t outerIpv4Hdr_identification;
+  uint16_t outerIpv4Hdr_fragOffset;
+  uint16_t outerIpv4Hdr_hdrChecksum;
+  uint32_t outerIpv4Hdr_sip;
+  uint32_t outerIpv4Hdr_dip;
+  uint8_t outerIpv4Hdr_ttl;
+  uint8_t outerIpv4Hdr_dscp;
+  uint8_t outerIpv4Hdr_protocol;
+  uint8_t outerIpv6Hdr_valid;
+  uint16_t outerIpv6Hdr_payloadLen;
+  uint32_t outerIpv6Hdr_sip_0;
+  uint32_t outerIpv6Hdr_sip_1;
+  uint32_t outerIpv6Hdr_sip_2;
+  uint32_t outerIpv6Hdr_sip_3;
+  uint32_t outerIpv6Hdr_dip_0;
+  uint32_t outerIpv6Hdr_dip_1;
+  uint32_t outerIpv6Hdr_dip_2;
+  uint32_t outerIpv6Hdr_dip_3;
+  uint8_t outerIpv6Hdr_hopLimit;
+  uint8_t outerIpv6Hdr_nextHdr;
+  uint16_t l4PortHdr_srcPort;
+  uint16_t l4PortHdr_dstPort;
+  uint16_t udpHdr_length;
+  uint16_t udpHdr_checksum;
+  uint16_t tcpHdr_window;
+  uint16_t tcpHdr_checksum;
+  uint16_t tcpHdr_urgentPtr;
+  uint16_t greHdr_flags;
+  uint16_t greHdr_protocol;
+  uint32_t innerEthHdr_dmacOui;
+  uint32_t innerEthHdr_dmacStation;
+  uint32_t innerEthHdr_smacOui;
+  uint32_t innerEthHdr_smacStation;
+  uint16_t innerEthHdr_etherType;
+  uint8_t innerIpv4Hdr_valid;
+  uint16_t innerIpv4Hdr_totalLen;
+  uint16_t innerIpv4Hdr_identification;
+  uint16_t innerIpv4Hdr_fragOffset;
+  uint16_t innerIpv4Hdr_hdrChecksum;
+  uint32_t innerIpv4Hdr_sip;
+  uint32_t innerIpv4Hdr_dip;
+  uint8_t innerIpv4Hdr_protocol;
+  uint8_t innerIpv4Hdr_ttl;
+  uint8_t innerIpv6Hdr_valid;
+  uint16_t innerIpv6Hdr_payloadLen;
+  uint32_t innerIpv6Hdr_sip_0;
+  uint32_t innerIpv6Hdr_sip_1;
+  uint32_t innerIpv6Hdr_sip_2;
+  uint32_t innerIpv6Hdr_sip_3;
+  uint32_t innerIpv6Hdr_dip_0;
+  uint32_t innerIpv6Hdr_dip_1;
+  uint32_t innerIpv6Hdr_dip_2;
+  uint32_t innerIpv6Hdr_dip_3;
+  uint8_t innerIpv6Hdr_hopLimit;
+  uint8_t innerIpv6Hdr_nextHdr;
+  uint16_t innerL4PortHdr_srcPort;
+  uint16_t innerL4PortHdr_dstPort;
+  uint32_t egrMd_dmacOui;
+  uint32_t egrMd_dmacStation;
+  uint32_t egrMd_egrL2AintfUnresolved;
+  uint32_t egrMd_tunnelInfo;
+  uint16_t egrMd_ingressPort;
+  uint16_t egrMd_egrL2Domain;
+  uint16_t egrMd_vlanId;
+  uint8_t egrMd_decapType;
+  uint8_t egrMd_encapType;
+  uint8_t egrMd_ingressTagged;
+  uint8_t egrMd_subIntf;
+  uint8_t egrMd_routed;
+  uint8_t egrMd_ingressPortType;
+  uint8_t egrMd_trapToCpu;
+  uint8_t egrMd_cpuReasonCode;
+  uint8_t egrMd_decapRestore;
+  uint16_t egrMirrorMd_mirrorBufId;
+  uint16_t egrMirrorMd_mirrorSession;
+  uint8_t phase0_switchPort;
+  uint8_t ingMd_vlanHdrValid;
+  uint8_t egrVlanStpCheck_invalidVlan;
+  uint8_t egrVlanStpCheck_stpBlocked;
+  uint8_t fwMd_dipDrop;
+  uint8_t fwMd_sipDrop;
+  uint8_t reserved[376];
+} p4_pd_tessel_switch_snapshot_egress_trigger_t;
+/* What one stage captured, 634 bytes. Fields of several bytes have the most significant first. */
+typedef struct __attribute__((packed)) p4_pd_tessel_switch_snapshot_capture {
+  uint8_t ig_intr_md_ingress_port[2];
+  uint8_t ig_intr_md_from_parser_aux_ingress_parser_err[2];
+  uint8_t ig_intr_md_from_parser_aux_ingress_global_tstamp[6];
+  uint8_t ig_intr_md_for_tm_mcast_grp_a[2];
+  uint8_t ig_intr_md_for_tm_ingress_cos;
+  uint8_t ig_intr_md_for_tm_copy_to_cpu;
+  uint8_t phase0_ingVPort[2];
+  uint8_t phase0_nativeAintf[2];
+  uint8_t phase0_switchPort;
+  uint8_t phase0_portType;
+  uint8_t outerEthHdr_valid;
+  uint8_t outerEthHdr_dmacOui[4];
+  uint8_t outerEthHdr_dmacStation[4];
+  uint8_t outerEthHdr_smacOui[4];
+  uint8_t outerEthHdr_smacStation[4];
+  uint8_t outerEthHdr_etherType[2];
+  uint8_t vlanHdr_0__valid;
+  uint8_t vlanHdr_0__vlanId[2];
+  uint8_t vlanHdr_0__etherType[2];
+  uint8_t vlanHdr_0__priority;
+  uint8_t vlanHdr_1__valid;
+  uint8_t vlanHdr_1__vlanId[2];
+  uint8_t vlanHdr_1__etherType[2];
+  uint8_t vlanHdr_1__priority;
+  uint8_t tesselCpuHdr_valid;
+  uint8_t tesselCpuHdr_port[2];
+  uint8_t tesselCpuHdr_portChannel[2];
+  uint8_t tesselCpuHdr_trustMode;
+  uint8_t tesselCpuHdr_tc;
+  uint8_t arpHdr_valid;
+  uint8_t arpHdr_hwType[2];
+  uint8_t arpHdr_protoType[2];
+  uint8_t arpHdr_opcode[2];
+  uint8_t arpHdr_smac[6];
+  uint8_t arpHdr_sip[4];
+  uint8_t arpHdr_dip[4];
+  uint8_t outerIpv4Hdr_valid;
+  uint8_t outerIpv4Hdr_totalLen[2];
+  uint8_t outerIpv4Hdr_identification[2];
+  uint8_t outerIpv4Hdr_fragOffset[2];
+  uint8_t outerIpv4Hdr_hdrChecksum[2];
+  uint8_t outerIpv4Hdr_sip[4];
+  uint8_t outerIpv4Hdr_dip[4];
+  uint8_t outerIpv4Hdr_dscp;
+  uint8_t outerIpv4Hdr_protocol;
+  uint8_t outerIpv4Hdr_ttl;
+  uint8_t outerIpv6Hdr_valid;
+  uint8_t outerIpv6Hdr_payloadLen[2];
+  uint8_t outerIpv6Hdr_sip[16];
+  uint8_t outerIpv6Hdr_dip[16];
+  uint8_t outerIpv6Hdr_hopLimit;
+  uint8_t outerIpv6Hdr_nextHdr;
+  uint8_t l4PortHdr_valid;
+  uint8_t l4PortHdr_srcPort[2];
+  uint8_t l4PortHdr_dstPort[2];
+  uint8_t udpHdr_length[2];
+  uint8_t innerEthHdr_valid;
+  uint8_t innerEthHdr_dmacOui[4];
+  uint8_t innerEthHdr_dmacStation[4];
+  uint8_t innerEthHdr_smacOui[4];
+  uint8_t innerEthHdr_smacStation[4];
+  uint8_t innerEthHdr_etherType[2];
+  uint8_t innerIpv4Hdr_valid;
+  uint8_t innerIpv4Hdr_totalLen[2];
+  uint8_t innerIpv4Hdr_identification[2];
+  uint8_t innerIpv4Hdr_fragOffset[2];
+  uint8_t innerIpv4Hdr_hdrChecksum[2];
+  uint8_t innerIpv4Hdr_sip[4];
+  uint8_t innerIpv4Hdr_dip[4];
+  uint8_t innerIpv4Hdr_protocol;
+  uint8_t innerIpv4Hdr_ttl;
+  uint8_t innerIpv6Hdr_valid;
+  uint8_t innerIpv6Hdr_payloadLen[2];
+  uint8_t innerIpv6Hdr_sip[16];
+  uint8_t innerIpv6Hdr_dip[16];
+  uint8_t innerIpv6Hdr_hopLimit;
+  uint8_t innerIpv6Hdr_nextHdr;
+  uint8_t innerL4PortHdr_valid;
+  uint8_t innerL4PortHdr_srcPort[2];
+  uint8_t innerL4PortHdr_dstPort[2];
+  uint8_t ingMd_dmacOui[4];
+  uint8_t ingMd_dmacStation[4];
+  uint8_t ingMd_smacOui[4];
+  uint8_t ingMd_smacStation[4];
+  uint8_t ingMd_ingL2Aintf[4];
+  uint8_t ingMd_rand[4];
+  uint8_t ingMd_ingL2Domain[2];
+  uint8_t ingMd_ingL3Aintf[2];
+  uint8_t ingMd_etherType[2];
+  uint8_t ingMd_srcPort[2];
+  uint8_t ingMd_dstPort[2];
+  uint8_t ingMd_l2Control;
+  uint8_t ingMd_protocol;
+  uint8_t ingMd_tunnelType;
+  uint8_t ingMd_tcpFlags;
+  uint8_t ingMd_v4V6Valid;
+  uint8_t ingMd_illegalDmac;
+  uint8_t ingMd_illegalSmac;
+  uint8_t ingMd_invalidTunnel;
+  uint8_t ingMd_vlanHdrValid;
+  uint8_t ingMd_bcast;
+  uint8_t ingMd_igmpSnoopingEnabled;
+  uint8_t ingMd_ipMcast;
+  uint8_t ingMd_llm;
+  uint8_t ingMd_ttl;
+  uint8_t ingMd_dot1xDrop;
+  uint8_t ingMd_drop;
+  uint8_t ingMd_dropDatalink;
+  uint8_t ingMd_dropDmac;
+  uint8_t ingMd_dropSmac;
+  uint8_t ingMd_invalidEgressPort;
+  uint8_t ingMd_mcast;
+  uint8_t ingMd_mlagPrune;
+  uint8_t ingMd_routedMartian;
+  uint8_t ingMd_samePortBridging;
+  uint8_t ingMd_stormControlDrop;
+  uint8_t ingMd_cpuMemberOfIngressVlan;
+  uint8_t ingMd_l4Attr;
+  uint8_t ingMd_sflowSample;
+  uint8_t ingIpv4_sip[4];
+  uint8_t ingIpv4_dip[4];
+  uint8_t ingIpv6_sip[16];
+  uint8_t ingIpv6_dip[16];
+  uint8_t flowMgmt_hash1[4];
+  uint8_t flowMgmt_hash2[4];
+  uint8_t flowMgmt_flowDigestCount[4];
+  uint8_t flowMgmt_present;
+  uint8_t flowMgmt_newFlow;
+  uint8_t flowMgmt_recircNeeded;
+  uint8_t flowMgmt_finRstDigestEnabled;
+  uint8_t flowMgmt_flowLimitDrop;
+  uint8_t flowMgmt_newFlowMeterDrop;
+  uint8_t kflowMd_counterIndex[2];
+  uint8_t kflowMd_isHit;
+  uint8_t kflowMd_drop;
+  uint8_t l3_ecmpGroup[2];
+  uint8_t l3_nextHop[2];
+  uint8_t ingMirrorMd_mirrorBufId[2];
+  uint8_t ingMirrorMd_mirrorSession[2];
+  uint8_t ingMirrorMd_mirrorColor;
+  uint8_t haloKeyOrig_sipMirror[2];
+  uint8_t haloKeyOrig_dipMirror[2];
+  uint8_t haloKeyOrig_flags;
+  uint8_t haloKeyOrig_isFrag;
+  uint8_t egrMd_dmacOui[4];
+  uint8_t egrMd_dmacStation[4];
+  uint8_t egrMd_egrL2AintfUnresolved[4];
+  uint8_t egrMd_egrL2Domain[2];
+  uint8_t egrMd_routed;
+  uint8_t egrMd_decapType;
+  uint8_t egrMd_cpuReasonCode;
+  uint8_t egrMd_trapToCpu;
+  uint8_t egrMd_vxlanFlood;
+  uint8_t l3Info_vrfId;
+  uint8_t l3Info_ipRouting;
+  uint8_t l3Info_ingL3DmacValid;
+  uint8_t fwMd_srcSegment;
+  uint8_t fwMd_dstSegment;
+  uint8_t fwMd_escortToRecircPort;
+  uint8_t fwMd_fwDrop;
+  uint8_t fwMd_meterDrop;
+  uint8_t parserMd_outerHdrFlags;
+  uint8_t learningDigestMd_applicationId;
+  uint8_t ingVlanStpCheck_stpBlocked;
+  uint8_t ingVlanStpCheck_invalidVlan;
+  uint8_t qosMd_defaultCos;
+  uint8_t qosMd_trustMode;
+  uint8_t qosMd_cos;
+  uint8_t qosMd_dscp;
+  uint8_t qosMd_highPriority;
+  uint8_t qosMd_cosRewrite;
+  uint8_t qosMd_dscpRewrite;
+  uint8_t qosMd_pdpClassId;
+  uint8_t ingIpmc_eValid;
+  uint8_t ingL2Mc_eValid;
+  uint8_t tesselFlowMgmtHdr_valid;
+  uint8_t eg_intr_md_egress_port[2];
+  uint8_t eg_intr_md_egress_rid[2];
+  uint8_t tesselCpuHdr_slice;
+  uint8_t tesselCpuHdr_lane;
+  uint8_t arpHdr_dmac[6];
+  uint8_t udpHdr_checksum[2];
+  uint8_t tcpHdr_window[2];
+  uint8_t tcpHdr_checksum[2];
+  uint8_t tcpHdr_urgentPtr[2];
+  uint8_t greHdr_flags[2];
+  uint8_t greHdr_protocol[2];
+  uint8_t egrMd_tunnelInfo[4];
+  uint8_t egrMd_ingressPort[2];
+  uint8_t egrMd_vlanId[2];
+  uint8_t egrMd_encapType;
+  uint8_t egrMd_ingressTagged;
+  uint8_t egrMd_subIntf;
+  uint8_t egrMd_ingressPortType;
+  uint8_t egrMd_decapRestore;
+  uint8_t egrMirrorMd_mirrorBufId[2];
+  uint8_t egrMirrorMd_mirrorSession[2];
+  uint8_t egrVlanStpCheck_invalidVlan;
+  uint8_t egrVlanStpCheck_stpBlocked;
+  uint8_t fwMd_dipDrop;
+  uint8_t fwMd_sipDrop;
+  uint8_t reserved[185];
+} p4_pd_tessel_switch_snapshot_capture_t;
+
+p4_pd_status_t p4_pd_tessel_switch_snapshot_create(uint32_t device, uint16_t pipe,
+    uint8_t first_stage, uint8_t last_stage, uint32_t direction, uint32_t *snapshot);
+p4_pd_status_t p4_pd_tessel_switch_snapshot_delete(uint32_t snapshot);
+p4_pd_status_t p4_pd_tessel_switch_snapshot_capture_trigger_set(uint32_t snapshot,
+    const void *value, const void *mask);
+p4_pd_status_t p4_pd_tessel_switch_snapshot_capture_data_get(uint32_t snapshot, uint16_t pipe,
+    p4_pd_tessel_switch_snapshot_capture_t *records, bf_snapshot_control_t *control,
+    uint32_t *captures);
 
 /* ==== Introspection ==== */
 

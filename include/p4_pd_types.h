@@ -115,6 +115,13 @@ enum { P4_PD_GRP_MBR_STATE_ACTIVE = 0, P4_PD_GRP_MBR_STATE_INACTIVE = 1 };
  * wider than 32 bits is the address of its bytes, most significant first. */
 typedef pipe_mgr_hash_attribute_t p4_pd_hash_calc_attr_t;
 
+/* The same for the functions that take the name of a calculation. */
+typedef struct p4_pd_hash_field_attr {
+  uint32_t field; /* common field index */
+  uint32_t value;
+  uint32_t reserved; /* read back as 0, not looked at when set */
+} p4_pd_hash_field_attr_t;
+
 #ifdef __cplusplus
 }
 #endif

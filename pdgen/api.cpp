@@ -108,6 +108,8 @@ Parameter from_hardware() { return {"bool", "read_from_hardware"}; }
 Parameter placement() { return {"const pipe_mgr_placement_t *", "placement"}; }
 Parameter ttl() { return {"uint32_t", "ttl"}; }
 Parameter meter_spec() { return {"const p4_pd_bytes_meter_spec_t *", "meter_spec"}; }
+Parameter sync_callback() { return {"pipe_mgr_sync_cb_t", "callback"}; }
+Parameter cookie() { return {"void *", "cookie"}; }
 Parameter action_spec(const Program &program, const Action &action) {
   return {"const " + action_spec_type(program, action) + " *", "action_spec"};
 }
@@ -128,6 +130,12 @@ Api build_api(const Program &program) {
   add_profile_functions(api);
   add_meter_functions(api);
   add_placement_functions(api);
+  add_counter_functions(api);
+  add_register_functions(api);
+  add_hash_functions(api);
+  add_digest_functions(api);
+  add_value_set_functions(api);
+  add_snapshot_functions(api);
   add_schema_functions(api);
   add_value_functions(api);
   add_print_functions(api);

@@ -103,6 +103,8 @@ Parameter ttl();
 Parameter from_hardware();  // bool
 Parameter placement();
 Parameter meter_spec();
+Parameter sync_callback();
+Parameter cookie();
 Parameter action_spec(const Program &program, const Action &action);
 Parameter buffer();  // of a text
 
@@ -120,6 +122,12 @@ void add_indirect_functions(Api &api);
 void add_profile_functions(Api &api);
 void add_meter_functions(Api &api);
 void add_placement_functions(Api &api);
+void add_counter_functions(Api &api);
+void add_register_functions(Api &api);
+void add_hash_functions(Api &api);
+void add_digest_functions(Api &api);
+void add_value_set_functions(Api &api);
+void add_snapshot_functions(Api &api);
 void add_schema_functions(Api &api);
 void add_value_functions(Api &api);
 void add_print_functions(Api &api);

@@ -11,9 +11,6 @@ namespace {
 
 constexpr const char *kFrame = "Start and stop";
 
-// The tag of a struct or enumeration is its type name without the ending.
-std::string tag(const std::string &type) { return type.substr(0, type.size() - 2); }
-
 const char *storage_type(unsigned bytes) {
   switch (bytes) {
     case 1:
@@ -49,9 +46,10 @@ std::string match_spec_record(const Program &program, const Table &table) {
     if (field.role == RecordRole::kPrefixLength) remark = fmt::format("0 to {}", key.width);
     members += member(field.name, field.storage_bytes, remark);
   }
-  return expand("/* Key of $3 in $4 bytes. */\ntypedef struct $0 {\n$1} $2;\n",
-                {tag(match_spec_type(program, table)), members, match_spec_type(program, table),
-                 bits(table.key_bits), std::to_string(table.key_bytes)});
+  return expand(
+      "/* Key of $3 in $4 bytes. */\ntypedef struct $0 {\n$1} $2;\n",
+      {type_tag(match_spec_type(program, table)), members, match_spec_type(program, table),
+       bits(table.key_bits), std::to_string(table.key_bytes)});
 }
 
 std::string param_remark(const Param &param) {
@@ -71,7 +69,7 @@ std::string action_spec_record(const Program &program, const Action &action) {
   for (const Param &param : action.params) {
     members += member(param_member(param), param.storage_bytes, param_remark(param));
   }
-  return expand("typedef struct $0 {\n$1} $2;\n\n", {tag(action_spec_type(program, action)),
+  return expand("typedef struct $0 {\n$1} $2;\n\n", {type_tag(action_spec_type(program, action)),
                                                      members, action_spec_type(program, action)});
 }
 
@@ -86,7 +84,7 @@ std::string action_enumeration(const Program &program) {
       "typedef enum $0 {\n$1} $2;\n\n"
       "/* The full name of each value, prefix included. */\n"
       "extern const char *const $3[$4];\n\n",
-      {tag(action_names_type(program)), values, action_names_type(program),
+      {type_tag(action_names_type(program)), values, action_names_type(program),
        action_name_strings(program), std::to_string(program.actions.size())});
 }
 
@@ -101,7 +99,7 @@ std::string action_specs_union(const Program &program) {
       "/* An action with its parameters as read back; spec is written only for an action that has "
       "any. */\ntypedef struct $0 {\n  uint32_t action; /* of $1 */\n  union {\n$2  } spec;\n} "
       "$0_t;\n",
-      {tag(action_specs_type(program)), action_names_type(program), members});
+      {type_tag(action_specs_type(program)), action_names_type(program), members});
 }
 
 }  // namespace

@@ -19,7 +19,6 @@ Parameter group() { return {"p4_pd_group_handle_t", "group"}; }
 Parameter out_group() { return {"p4_pd_group_handle_t *", "group"}; }
 Parameter count() { return {"uint32_t", "count"}; }
 Parameter out_count() { return {"uint32_t *", "count"}; }
-Parameter cookie() { return {"void *", "cookie"}; }
 
 // Adds functions of one profile. In statements $0 is its descriptor, $1 the handle of its
 // action-data table and $2 that of its selector.

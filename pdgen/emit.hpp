@@ -17,6 +17,8 @@ std::string emit_exports(const Api &api);
 // Built: shapes of tables and actions for the core, and the program record.
 std::string emit_descriptors(const Program &program);
 std::string emit_program_data(const Api &api);
+// What callers address by name, for the functions that look it up.
+std::string emit_object_names(const Program &program);
 // One unit of wrappers.
 std::string emit_wrappers(const Api &api, const Unit &unit);
 // Linker version script: the exports, and nothing else, are visible.

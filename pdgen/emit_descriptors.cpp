@@ -167,6 +167,42 @@ std::string profile_descriptor(const Program &program, const Profile &profile) {
        std::to_string(&profile - program.profiles.data()), std::to_string(profile.actions.size())});
 }
 
+// ---- Hash calculations ----
+
+std::string hash_descriptor(const Program &program, const Hash &hash) {
+  return fmt::format("inline constexpr Hash {} = {{{}, {}, {}, {}}};\n", hash.name,
+                     hex32(hash.handle), hex32(hash.field_list_handle),
+                     hex32(program.hash_algorithm), hash.field_count);
+}
+
+// ---- Snapshots ----
+
+// Ingress and egress; a direction without a layout has no fields.
+std::string snapshot_descriptors(const Program &program) {
+  if (!program.snapshots) return "";
+  const Snapshots &snapshots = *program.snapshots;
+  std::string arrays;
+  std::vector<std::string> layouts;
+  for (const char *direction : {"ingress", "egress"}) {
+    std::string rows;
+    std::size_t count = 0;
+    const SnapshotLayout *layout = find_row(snapshots.layouts, direction);
+    for (std::size_t i = 0; layout != nullptr && i < layout->fields.size(); ++i) {
+      const SnapshotField &field = layout->fields[i];
+      if (field.bytes == 1) continue;
+      rows += fmt::format("    {{offsetof({}, {}), {}}},\n",
+                          snapshot_trigger_type(program, *layout), field.name, field.bytes);
+      ++count;
+    }
+    if (count != 0) {
+      arrays += expand("inline constexpr TriggerField $0[] = {\n$1};\n", {direction, rows});
+    }
+    layouts.push_back(fmt::format("{{{}, {}}}", count == 0 ? "nullptr" : direction, count));
+  }
+  return arrays + fmt::format("inline constexpr Snapshots records = {{{}, {}, {{{}}}}};\n",
+                              snapshots.record_bytes, snapshots.capture_limit, join(layouts, ", "));
+}
+
 }  // namespace
 
 std::string emit_descriptors(const Program &program) {
@@ -185,7 +221,10 @@ std::string emit_descriptors(const Program &program) {
   }
   out += "\nnamespace profile {\n\n";
   for (const Profile &profile : program.profiles) out += profile_descriptor(program, profile);
-  return out + "\n}  // namespace profile\n\n}  // namespace pd\n";
+  out += "\n}  // namespace profile\n\nnamespace hash {\n\n";
+  for (const Hash &hash : program.hashes) out += hash_descriptor(program, hash);
+  out += "\n}  // namespace hash\n\nnamespace snapshot {\n\n" + snapshot_descriptors(program);
+  return out + "\n}  // namespace snapshot\n\n}  // namespace pd\n";
 }
 
 std::string emit_program_data(const Api &api) {

@@ -71,11 +71,12 @@ std::string emit_export_table(const Api &api, const Unit &unit) {
   return origin(program, "// ") +
          expand(
              "#include \"bindings/invoke.hpp\"\n#include \"$0\"\n\nnamespace bindings {\n\n"
-             "namespace {\n\n$1\nconstexpr Export rows[] = {\n$2};\n\n}  // namespace\n\n"
-             "extern const ExportList exports_$3;\nconst ExportList exports_$3 = {rows, $4};\n\n"
+             "namespace {\n\n$1\n$2}  // namespace\n\n"
+             "extern const ExportList exports_$3;\nconst ExportList exports_$3 = {$4, $5};\n\n"
              "}  // namespace bindings\n",
-             {header_name(program), lists.definitions(), rows, unit.name,
-              std::to_string(api.functions_of(unit).size())});
+             {header_name(program), lists.definitions(),
+              rows.empty() ? "" : "constexpr Export rows[] = {\n" + rows + "};\n\n", unit.name,
+              rows.empty() ? "nullptr" : "rows", std::to_string(api.functions_of(unit).size())});
 }
 
 namespace {

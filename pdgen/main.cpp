@@ -64,6 +64,7 @@ void add_build_files(const pdgen::Api &api, const Options &options, pdgen::Outpu
   const std::filesystem::path folder = options.build;
   const pdgen::Program &program = api.program();
   files.add(folder / "descriptors.hpp", pdgen::emit_descriptors(program));
+  files.add(folder / "object_names.hpp", pdgen::emit_object_names(program));
   files.add(folder / "records.hpp", pdgen::emit_records(program));
   files.add(folder / "texts.hpp", pdgen::emit_texts(program));
   files.add(folder / "schemas.hpp", pdgen::emit_schemas(program));

@@ -108,6 +108,8 @@ std::string snapshot_capture_type(const Program &program) {
   return name_prefix(program) + "snapshot_capture_t";
 }
 
+std::string type_tag(const std::string &type) { return type.substr(0, type.size() - 2); }
+
 std::string size_constant(const Program &program, std::string_view family) {
   std::string name = fmt::format("{}{}", name_prefix(program), family);
   std::transform(name.begin(), name.end(), name.begin(),

@@ -69,6 +69,9 @@ std::string hash_field_attr_type(const Program &program);  // record of the by-n
 std::string snapshot_trigger_type(const Program &program, const SnapshotLayout &layout);
 std::string snapshot_capture_type(const Program &program);
 
+// The tag of a struct or enumeration: its type name without the ending.
+std::string type_tag(const std::string &type);
+
 // P4_PD_<PROGRAM>_<family>, in capitals: "SCHEMA_MAX".
 std::string size_constant(const Program &program, std::string_view family);
 inline constexpr std::string_view kSizeFamilies[] = {"SCHEMA_MAX", "MATCH_SPEC_VALUE_MAX",

@@ -97,6 +97,31 @@ struct Profile {
   const Pair *pairs;
 };
 
+// A hash calculation. It has one input field list; its fields are known by number alone.
+struct Hash {
+  uint32_t handle;
+  uint32_t field_list;
+  uint32_t algorithm;
+  uint32_t field_count;
+};
+
+// A field of a snapshot's trigger that network order turns round: bytes is 2 or 4.
+struct TriggerField {
+  uint16_t offset;
+  uint8_t bytes;
+};
+
+struct TriggerLayout {
+  const TriggerField *fields;
+  uint32_t field_count;
+};
+
+struct Snapshots {
+  uint32_t record_bytes;     // of a trigger or capture record
+  uint32_t capture_limit;    // stages that a caller has room for
+  TriggerLayout layouts[2];  // ingress, egress
+};
+
 // What the core needs to know of the program as a whole.
 struct Program {
   const char *name;

@@ -213,13 +213,15 @@ TEST_F(Entries, KeepsDirectResourcesThatAModifyDoesNotName) {
       << "the indirect counter belonged to the old action";
   EXPECT_EQ(after.spec.resources[0].data.meter.peak_burst, 55u);
 
-  pipe_mgr_resource_t changes[2] = {};
+  pipe_mgr_resource_t changes[3] = {};
   changes[0].handle = kAclMeter;
   changes[0].tag = PIPE_RESOURCE_DETACH;
   changes[1].handle = kPoliceMeter;
-  changes[1].index = 3;
+  changes[1].index = 2;
   changes[1].tag = PIPE_RESOURCE_ATTACH;
-  ASSERT_EQ(pipe_mgr_mat_ent_set_resource(session, kDevice, kAcl, entry, changes, 2, 0),
+  changes[2] = changes[1];
+  changes[2].index = 3;
+  ASSERT_EQ(pipe_mgr_mat_ent_set_resource(session, kDevice, kAcl, entry, changes, 3, 0),
             BF_SUCCESS);
   Action last(0, Bytes(28));
   read(last);
@@ -334,6 +336,11 @@ TEST_F(Entries, LiveInTheNamedPipeWhenTheScopeSaysSo) {
             BF_OBJECT_NOT_FOUND);
   EXPECT_EQ(pipe_mgr_tbl_set_property(session, kDevice, kHost, PIPE_TABLE_ENTRY_SCOPE, 0, 0),
             BF_IN_USE);
+  ASSERT_EQ(pipe_mgr_mat_ent_del_by_match_spec(session, kDevice, 1, kHost, &key.spec, 0),
+            BF_SUCCESS);
+  ASSERT_EQ(pipe_mgr_get_entry_count(session, kDevice, 1, kHost, 0, &entries), BF_SUCCESS);
+  EXPECT_EQ(entries, 0u);
+  EXPECT_EQ(count(kHost), 1u);
 }
 
 // ---- Callbacks and threads ----

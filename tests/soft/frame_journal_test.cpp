@@ -1,7 +1,7 @@
 // The call journal and the fault plan.
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <set>
 #include <thread>
 
 #include "bf_sys.h"
@@ -166,6 +166,25 @@ TEST_F(Journal, ListsACallBeforeTheCallsFromItsCallback) {
   EXPECT_EQ(journal::calls().size(), 3u) << "stopped, but kept";
   journal::start();
   EXPECT_TRUE(journal::calls().empty());
+}
+
+void restart_journal(pipe_session_handle_t session, bf_device_id_t device, pipe_object_handle_t,
+                     uint32_t, pipe_entry_handle_t, void *) {
+  journal::start();
+  pipe_register_mat_update_cb(session, device, 0, nullptr, nullptr);
+}
+
+TEST_F(Journal, ForgetsACallThatWasInProgressWhenItStartedAnew) {
+  uint32_t entry = 0;
+  ASSERT_EQ(pipe_register_mat_update_cb(session, kDevice, kHost, restart_journal, nullptr),
+            BF_SUCCESS);
+  journal::start();  // so that both calls have number 1
+  ASSERT_EQ(add_host(1, &entry), BF_SUCCESS);
+  const auto calls = journal::calls();
+  ASSERT_EQ(calls.size(), 1u);
+  EXPECT_EQ(calls[0].function, "pipe_register_mat_update_cb");
+  EXPECT_EQ(calls[0].status, BF_INVALID_HANDLE) << "not that of the call before";
+  EXPECT_TRUE(calls[0].results.empty());
 }
 
 TEST_F(Journal, KeepsEveryCallOfSeveralThreads) {

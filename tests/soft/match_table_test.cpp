@@ -488,6 +488,8 @@ TEST(MatchTableAgeing, ReportsInOrderAndOnce) {
   EXPECT_EQ(table.next_expired(later + 100000), slow);
   EXPECT_EQ(table.next_expired(later + 0xfffffffe), 0u);
   EXPECT_EQ(table.next_expired(later + 0xffffffff), never);
+  const uint32_t past = add(table, {6}, {}, 0, BF_ALL_PIPES, 1, 0);  // long before the clock
+  EXPECT_EQ(table.next_expired(later + 0xffffffff), past);
 }
 
 TEST(MatchTableAgeing, AgreesWithALinearScan) {

@@ -30,6 +30,27 @@ void soft_placement_free(pipe_mgr_placement_t *placement);
 /* Damages the object, so that tests see what becomes of one that the SDK did not make. */
 void soft_placement_corrupt(pipe_mgr_placement_t *placement);
 
+/* ---- Replay ----
+ * pipe_mgr_hitless_ha_restore_virtual_dev_state makes a device equal to a virtual device in its
+ * tables and profiles: entries, default entries, members, groups, memberships and their states,
+ * fallback members, references, capacities and other properties, ageing, direct counters and meter
+ * specs, all under the handles that they have in the virtual device. What the device had of them
+ * before is gone. Counters, meters and registers of their own, hash calculations, digests, value
+ * sets and snapshots stay as they are, and so do the callbacks of both devices; update callbacks
+ * are not told of the replay.
+ *
+ * Then the callback is told of all members of all profiles, then of all groups, with action 0, then
+ * of all memberships, with the action of the member. has_resources is always 0, as members hold no
+ * resources. The first status other than BF_SUCCESS ends the report and is returned; the device is
+ * complete all the same.
+ *
+ * Both devices must run the same description with the same number of pipes, and the second one must
+ * be virtual and another one: BF_INVALID_ARGUMENT, also for a null callback. The pipe is
+ * BF_ALL_PIPES, or 0 where there is but one; BF_NOT_SUPPORTED for one of several. The flags are not
+ * looked at. Nobody may change either device meanwhile, except that the callback may change the
+ * first one. BF_NO_MEMORY: each object of the device holds either the old or the new contents, and
+ * the device is only good for another replay or its removal. */
+
 #ifdef __cplusplus
 }
 #endif

@@ -30,6 +30,10 @@ class ExpiryWheel {
   ExpiryWheel(const ExpiryWheel &) = delete;
   ExpiryWheel &operator=(const ExpiryWheel &) = delete;
 
+  // As the functions of SlotStore. The records themselves are copied with their slots.
+  void copy_from(const ExpiryWheel &other);
+  void swap(ExpiryWheel &other) noexcept;
+
   // Allocates the buckets, once. May throw std::bad_alloc. Before everything below.
   void reserve();
 

@@ -24,6 +24,12 @@ class KeyIndex {
   KeyIndex(const KeyIndex &) = delete;
   KeyIndex &operator=(const KeyIndex &) = delete;
 
+  // Makes an empty index equal to another one. May throw std::bad_alloc; what there is then is good
+  // for destruction only.
+  void copy_from(const KeyIndex &other);
+  // Of the same memory resource.
+  void swap(KeyIndex &other) noexcept;
+
   // The first record of this hash for which same(record) holds, or kNone.
   template <typename Same>
   uint32_t find(uint64_t hash, Same same) const {

@@ -23,6 +23,10 @@ class KeyTwins {
   KeyTwins(const KeyTwins &) = delete;
   KeyTwins &operator=(const KeyTwins &) = delete;
 
+  // As the functions of SlotStore.
+  void copy_from(const KeyTwins &other);
+  void swap(KeyTwins &other) noexcept;
+
   // Makes room for a slot. May throw std::bad_alloc, and then nothing has changed.
   void reserve(uint32_t slot);
 

@@ -18,6 +18,9 @@ class LiveMap {
 
   explicit LiveMap(std::pmr::memory_resource *memory);
 
+  // Of the same memory resource.
+  void swap(LiveMap &other) noexcept { levels_.swap(other.levels_); }
+
   // Makes room for places 0 to count - 1, count at most 2^30. May throw std::bad_alloc.
   void reserve(uint32_t count);
 

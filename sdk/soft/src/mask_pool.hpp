@@ -18,6 +18,10 @@ class MaskPool {
 
   MaskPool(std::pmr::memory_resource *memory, size_t mask_bytes);
 
+  // As the functions of SlotStore.
+  void copy_from(const MaskPool &other);
+  void swap(MaskPool &other) noexcept;
+
   size_t count() const { return store_.count(); }
 
   // The hash of a mask, which the calls below take with it.

@@ -15,7 +15,7 @@ uint8_t stored_pipe(bf_pipe_id_t pipe) {
 
 bool is_pipe(bf_pipe_id_t pipe) { return pipe <= kMostPipe || pipe == BF_ALL_PIPES; }
 
-void copy(uint8_t *to, const uint8_t *from, size_t bytes) {
+void copy_bytes(uint8_t *to, const uint8_t *from, size_t bytes) {
   if (bytes != 0) std::memcpy(to, from, bytes);
 }
 
@@ -53,7 +53,7 @@ const uint8_t *MatchTable::mask_bytes(uint32_t mask) const {
 void MatchTable::write_key(uint32_t slot, const EntryKey &key, uint32_t mask) {
   uint8_t *record = slots_.at(slot);
   record[RecordLayout::kPipe] = stored_pipe(key.pipe);
-  copy(record + record_.value, key.value, record_.key_bytes);
+  copy_bytes(record + record_.value, key.value, record_.key_bytes);
   if (!record_.has_mask) return;
   store(record + record_.mask, mask);
   store(record + record_.priority, key.priority);
@@ -75,7 +75,7 @@ void MatchTable::write_action(uint32_t slot, const EntryAction &action) {
   store(record + RecordLayout::kAction, action.action);
   store(record + RecordLayout::kData,
         static_cast<uint16_t>(action.type << RecordLayout::kLengthBits | length));
-  copy(record + record_.data, action.data.data(), length);
+  copy_bytes(record + record_.data, action.data.data(), length);
   if (record_.has_reference) store(record + record_.reference, action.reference);
   write_resources(slot, action.resources);
 }

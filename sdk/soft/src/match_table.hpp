@@ -42,6 +42,10 @@ class MatchTable {
   MatchTable(const MatchTable &) = delete;
   MatchTable &operator=(const MatchTable &) = delete;
 
+  // Takes over all entries of another table with the same description and layout, their handles
+  // and the rest of their state included. May throw std::bad_alloc, and then nothing has changed.
+  void copy_from(const MatchTable &other);
+
   // ---- Entries ----
 
   // Whether add refuses a key that an entry has already; it does at first.

@@ -1,5 +1,6 @@
 // The SDK's allocator: the one of the C library, counted and open to planned faults.
 #include <atomic>
+#include <cstdint>
 #include <cstdlib>
 
 #include "bf_sys.h"
@@ -15,6 +16,7 @@ std::atomic<uint64_t> allocations_made{0};
 
 void *bf_sys_calloc(size_t count, size_t size) {
   if (soft::faults::strikes_allocation()) return nullptr;
+  if (size != 0 && count > SIZE_MAX / size) return nullptr;
   // One byte at least, so that no memory and no bytes are told apart.
   void *memory = count == 0 || size == 0 ? std::calloc(1, 1) : std::calloc(count, size);
   if (memory == nullptr) return nullptr;

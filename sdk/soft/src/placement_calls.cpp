@@ -74,8 +74,10 @@ void fill_key(const Placed &placed, pipe_mgr_match_spec_t *match) {
   uint8_t *const mask = match->mask;
   *match = placed.fixed.match;
   if (placed.fixed.has_key == 0) return;
-  match->value = std::copy(placed.value.begin(), placed.value.end(), value) - placed.value.size();
-  match->mask = std::copy(placed.mask.begin(), placed.mask.end(), mask) - placed.mask.size();
+  std::copy(placed.value.begin(), placed.value.end(), value);
+  std::copy(placed.mask.begin(), placed.mask.end(), mask);
+  match->value = value;
+  match->mask = mask;
 }
 
 }  // namespace

@@ -5,8 +5,6 @@
 namespace soft {
 namespace {
 
-constexpr size_t kPointer = 8;  // in the record of a group, behind the header of the store
-
 // A profile's two objects come together, because the selector refers to the members.
 const EngineSet profiles{
     EngineOrder::kSelectors, [](Device &device) {

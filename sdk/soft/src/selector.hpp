@@ -66,6 +66,11 @@ class Selector : public ObjectOf<Selector> {
 
   // ---- The selector ----
 
+  // Takes over groups, memberships, fallback, capacity and use counts of the same selector of
+  // another device; the members follow by their own copy. Nobody is told, and listeners stay. May
+  // throw std::bad_alloc, and then nothing has changed.
+  void copy_from(Selector &other);
+
   // Greatest number of groups, 0 unlimited. A capacity below the number of groups keeps them.
   void set_capacity(uint32_t capacity);
   uint32_t capacity();
@@ -82,6 +87,8 @@ class Selector : public ObjectOf<Selector> {
   uint64_t memory_bytes() override;
 
  private:
+  static constexpr size_t kPointer = 8;  // in the record of a group, behind the store's header
+
   struct Membership {
     pipe_member_handle_t member;
     uint32_t slot;

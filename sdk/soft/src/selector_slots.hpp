@@ -17,6 +17,12 @@ class SelectorSlots {
 
   explicit SelectorSlots(std::pmr::memory_resource *memory) : words_(memory), free_(memory) {}
 
+  // Of the same memory resource.
+  void swap(SelectorSlots &other) noexcept {
+    words_.swap(other.words_);
+    free_.swap(other.free_);
+  }
+
   // Makes sure that the next take() finds a slot. May throw std::bad_alloc, and then nothing has
   // changed.
   void reserve();

@@ -44,7 +44,7 @@ uint32_t SlotStore::take() {
     slot = free_first_;
     uint8_t *record = at(slot);
     free_first_ = load<uint32_t>(record + kWordAt);
-    if (--free_count_ == 0) free_last_ = kNone;
+    --free_count_;
     record[kStateAt] = static_cast<uint8_t>(kLive | ((record[kStateAt] + 1) & kGeneration));
   } else {
     slot = used_++;
@@ -59,7 +59,7 @@ void SlotStore::release(uint32_t slot) {
   uint8_t *record = at(slot);
   record[kStateAt] &= kGeneration;
   store(record + kWordAt, kNone);
-  if (free_last_ == kNone)
+  if (free_count_ == 0)
     free_first_ = slot;
   else
     store(at(free_last_) + kWordAt, slot);

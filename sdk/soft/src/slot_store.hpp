@@ -38,6 +38,12 @@ class SlotStore {
 
   size_t count() const { return count_; }
 
+  // Makes a store without slots equal to another one, its handles included. May throw
+  // std::bad_alloc; what there is then is good for destruction only.
+  void copy_from(const SlotStore &other);
+  // Of the same memory resource.
+  void swap(SlotStore &other) noexcept;
+
   // Every slot was given out and none may be given out again.
   bool full() const { return used_ == kMaxSlots && free_count_ == 0; }
 
@@ -98,7 +104,7 @@ class SlotStore {
   uint32_t used_ = 0;      // slots that were ever given out
   uint32_t count_ = 0;
   uint32_t free_count_ = 0;
-  uint32_t free_first_ = kNone;  // longest free
+  uint32_t free_first_ = kNone;  // longest free, if free_count_ is not 0
   uint32_t free_last_ = kNone;
 };
 

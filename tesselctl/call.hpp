@@ -1,0 +1,49 @@
+// One call of an exported function, its arguments given by parameter name.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+#include "bindings/export_table.hpp"
+
+namespace tesselctl {
+
+// The export of that family, object and action, of which the caller knows that it exists: throws
+// std::logic_error otherwise.
+const bindings::Export &need_export(std::string_view family, std::string_view object,
+                                    std::string_view action = {});
+
+class Call {
+ public:
+  explicit Call(const bindings::Export &target) : target_(&target) {}
+
+  const bindings::Export &target() const { return *target_; }
+  bool takes(std::string_view parameter) const { return position(parameter) != kNone; }
+
+  // An integer, or the address of an object: for a pointer, or for a record that is passed by
+  // value, which must live until run. Throws std::logic_error when there is no such parameter.
+  Call &set(std::string_view parameter, uint64_t value);
+  Call &set(std::string_view parameter, const void *object) {
+    return set(parameter, static_cast<uint64_t>(reinterpret_cast<uintptr_t>(object)));
+  }
+  template <class T>
+  Call &set_if_taken(std::string_view parameter, T value) {
+    if (takes(parameter)) set(parameter, value);
+    return *this;
+  }
+
+  // The result of the function. Throws std::logic_error when a parameter was not set.
+  uint64_t run() const;
+
+ private:
+  static constexpr size_t kNone = ~size_t{0};
+  static constexpr size_t kMostParameters = 16;
+  size_t position(std::string_view parameter) const;
+
+  const bindings::Export *target_;
+  std::array<uint64_t, kMostParameters> words_{};
+  uint32_t set_ = 0;  // a bit for each parameter
+};
+
+}  // namespace tesselctl

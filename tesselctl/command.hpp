@@ -1,0 +1,62 @@
+// The commands of the tool. One registry serves scripts, single commands and the shell; a command
+// reads words, works on a device and writes to an output, and knows nothing of where they come
+// from.
+#pragma once
+
+#include <map>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "tesselctl/device.hpp"
+#include "tesselctl/output.hpp"
+#include "tesselctl/words.hpp"
+
+namespace tesselctl {
+
+// What commands share while a script or shell runs.
+struct Context {
+  Device &device;
+  Output &out;
+  // Commands that change something say so; those that ask always answer.
+  bool verbose = false;
+  // Handles that commands were asked to remember (as=NAME), for $NAME.
+  std::map<std::string, uint32_t, std::less<>> labels = {};
+};
+
+struct Invocation {
+  Word command;  // the words that name the command
+  Words arguments;
+};
+
+struct Command {
+  std::string_view name;       // one word or two: "add", "meter set"
+  std::string_view arguments;  // "TABLE FIELD=VALUE..."; a word in capitals is to be replaced
+  std::string_view summary;    // one line
+  void (*run)(Context &context, const Invocation &invocation);  // throws Fault
+};
+
+// All commands by topic; every span is a topic.
+std::span<const std::span<const Command>> command_topics();
+
+// The command that the words name. Throws Fault with a near name.
+const Command &find_command(Words words, Invocation &invocation);
+
+// Runs one line; a line without words does nothing and returns false. Throws Fault.
+bool run_line(Context &context, std::string_view line);
+
+// ---- For commands ----
+
+// The argument at that position, or the end of them all. what is what it should be.
+Word need_argument(const Invocation &invocation, size_t at, std::string_view what);
+void refuse_arguments_from(const Invocation &invocation, size_t at);
+// A handle: a number, or $NAME of one that was remembered.
+uint32_t parse_handle(const Context &context, Word text, const std::string &what);
+// Remembers a handle under the name of an as= word, and tells it where wanted.
+void remember(Context &context, Word name, uint32_t handle);
+
+// The topics.
+std::span<const Command> entry_commands();
+std::span<const Command> meter_commands();
+
+}  // namespace tesselctl

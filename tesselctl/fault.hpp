@@ -1,0 +1,54 @@
+// What is wrong with a command, and where: the one error type of the tool. Messages are plain
+// sentences without a full stop, so that places and suggestions can be put around them.
+#pragma once
+
+#include <cstddef>
+#include <exception>
+#include <string>
+#include <string_view>
+
+namespace tesselctl {
+
+// A word of a command line. The text belongs to the line; the column counts from 1.
+struct Word {
+  std::string_view text;
+  size_t column = 0;
+
+  // The part behind the first n characters, at its own column.
+  Word from(size_t n) const { return {text.substr(n), column + n}; }
+  Word first(size_t n) const { return {text.substr(0, n), column}; }
+};
+
+class Fault : public std::exception {
+ public:
+  // A fault of the whole command or of the surroundings.
+  explicit Fault(std::string message) : message_(std::move(message)) {}
+  // A fault at a word; suggestion is a word that would do, or empty.
+  Fault(Word word, std::string message, std::string suggestion = {})
+      : token_(word.text),
+        column_(word.column),
+        message_(std::move(message)),
+        suggestion_(std::move(suggestion)) {}
+
+  const char *what() const noexcept override { return message_.c_str(); }
+  const std::string &token() const { return token_; }
+  size_t column() const { return column_; }
+  const std::string &suggestion() const { return suggestion_; }
+
+  // "'token': message; did you mean 'suggestion'?"
+  std::string sentence() const {
+    std::string text;
+    if (column_ != 0) text += "'" + token_ + "': ";
+    text += message_;
+    if (!suggestion_.empty()) text += "; did you mean '" + suggestion_ + "'?";
+    return text;
+  }
+
+ private:
+  std::string token_;
+  size_t column_ = 0;
+  std::string message_;
+  std::string suggestion_;
+};
+
+}  // namespace tesselctl

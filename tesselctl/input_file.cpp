@@ -1,0 +1,103 @@
+#include "tesselctl/input_file.hpp"
+
+#include <fcntl.h>
+#include <fmt/format.h>
+#include <spawn.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <string_view>
+
+#include "tesselctl/fault.hpp"
+
+extern char **environ;
+
+namespace tesselctl {
+
+namespace {
+
+using namespace std::string_view_literals;
+
+constexpr std::string_view kXzMagic = "\xfd\x37\x7a\x58\x5a\0"sv;
+
+class Descriptor {
+ public:
+  explicit Descriptor(int fd) : fd_(fd) {}
+  ~Descriptor() {
+    if (fd_ > 2) close(fd_);
+  }
+  Descriptor(const Descriptor &) = delete;
+  Descriptor &operator=(const Descriptor &) = delete;
+  int get() const { return fd_; }
+
+ private:
+  int fd_;
+};
+
+[[noreturn]] void throw_system(const std::string &path) {
+  throw Fault(fmt::format("{}: {}", path, strerror(errno)));
+}
+
+std::string read_all(int fd, const std::string &path) {
+  std::string text;
+  size_t size = 0;
+  while (true) {
+    if (text.size() - size < 1u << 16) text.resize(text.size() + (1u << 16) + text.size() / 2);
+    const ssize_t got = read(fd, text.data() + size, text.size() - size);
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0) throw_system(path);
+    if (got == 0) break;
+    size += static_cast<size_t>(got);
+  }
+  text.resize(size);
+  return text;
+}
+
+// Runs xz with the file as its standard input and reads what it writes.
+std::string decompress(int fd, const std::string &path) {
+  int ends[2];
+  if (pipe2(ends, O_CLOEXEC) != 0) throw_system(path);
+  const Descriptor reader(ends[0]);
+  pid_t child = -1;
+  int error;
+  {
+    const Descriptor writer(ends[1]);
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, fd, STDIN_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, writer.get(), STDOUT_FILENO);
+    char name[] = "xz";
+    char option[] = "-dc";
+    char *arguments[] = {name, option, nullptr};
+    error = posix_spawnp(&child, name, &actions, nullptr, arguments, environ);
+    posix_spawn_file_actions_destroy(&actions);
+  }
+  if (error != 0) throw Fault(fmt::format("{}: cannot run xz: {}", path, strerror(error)));
+  std::string text = read_all(reader.get(), path);
+  int status = 0;
+  while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+  }
+  if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
+    throw Fault(fmt::format("{}: xz could not decompress it", path));
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string read_input(const std::string &path) {
+  if (path == "-") return read_all(STDIN_FILENO, "standard input");
+  const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+  if (file.get() < 0) throw_system(path);
+  char begin[6];
+  const ssize_t got = pread(file.get(), begin, sizeof begin, 0);
+  if (got == sizeof begin && std::string_view(begin, sizeof begin) == kXzMagic) {
+    return decompress(file.get(), path);
+  }
+  return read_all(file.get(), path);
+}
+
+}  // namespace tesselctl

@@ -1,0 +1,54 @@
+#include "tesselctl/output.hpp"
+
+#include <algorithm>
+
+namespace tesselctl {
+
+void Output::write(std::string_view text) {
+  text_ += text;
+  if (stream_ != nullptr && text_.size() > 1u << 16) flush();
+}
+
+void Output::flush() {
+  if (stream_ == nullptr) return;
+  fwrite(text_.data(), 1, text_.size(), stream_);
+  fflush(stream_);
+  text_.clear();
+}
+
+std::string Output::styled(Style style, std::string_view text) const {
+  const char *codes[] = {"", "\033[1m", "\033[32m", "\033[1;31m", "\033[2m"};
+  if (!colour_ || style == Style::plain) return std::string(text);
+  return codes[static_cast<int>(style)] + std::string(text) + "\033[0m";
+}
+
+Listing::Listing(std::vector<std::string> headings) : headings_(std::move(headings)) {
+  for (std::string &heading : headings_) {
+    right_.push_back(heading.starts_with('>'));
+    if (right_.back()) heading.erase(0, 1);
+  }
+}
+
+std::string Listing::aligned(const std::vector<std::string> &row,
+                             const std::vector<size_t> &widths) const {
+  std::string line;
+  for (size_t i = 0; i < row.size(); ++i) {
+    const std::string padding(widths[i] - row[i].size(), ' ');
+    if (i > 0) line += "  ";
+    line += right_[i] ? padding + row[i] : row[i] + padding;
+  }
+  line.erase(line.find_last_not_of(' ') + 1);
+  return line;
+}
+
+void Listing::print(Output &out) const {
+  std::vector<size_t> widths;
+  for (const std::string &heading : headings_) widths.push_back(heading.size());
+  for (const auto &row : rows_) {
+    for (size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], row[i].size());
+  }
+  out.line("{}", out.styled(Style::heading, aligned(headings_, widths)));
+  for (const auto &row : rows_) out.line("{}", aligned(row, widths));
+}
+
+}  // namespace tesselctl

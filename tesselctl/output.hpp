@@ -1,0 +1,60 @@
+// Where results go: a stream of the process, or a text that a caller takes.
+#pragma once
+
+#include <fmt/format.h>
+
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tesselctl {
+
+enum class Style { plain, heading, good, bad, faint };
+
+class Output {
+ public:
+  // Collects everything until take.
+  Output() = default;
+  // Writes to the stream, which stays the caller's; flushes when it is destroyed.
+  Output(std::FILE *stream, bool colour) : stream_(stream), colour_(colour) {}
+  ~Output() { flush(); }
+  Output(const Output &) = delete;
+  Output &operator=(const Output &) = delete;
+
+  void write(std::string_view text);
+  template <class... Arguments>
+  void line(fmt::format_string<Arguments...> format, Arguments &&...arguments) {
+    write(fmt::format(format, std::forward<Arguments>(arguments)...) + "\n");
+  }
+  // The text in colour where the output has any.
+  std::string styled(Style style, std::string_view text) const;
+  bool colour() const { return colour_; }
+
+  void flush();
+  std::string take() { return std::move(text_); }
+
+ private:
+  std::FILE *stream_ = nullptr;
+  bool colour_ = false;
+  std::string text_;
+};
+
+// Rows in columns that line up. Numbers (columns marked '>') stand to the right.
+class Listing {
+ public:
+  // One heading a column; a heading that begins with '>' makes the column a column of numbers.
+  explicit Listing(std::vector<std::string> headings);
+  void add(std::vector<std::string> row) { rows_.push_back(std::move(row)); }
+  bool empty() const { return rows_.empty(); }
+  void print(Output &out) const;
+
+ private:
+  std::string aligned(const std::vector<std::string> &row, const std::vector<size_t> &widths) const;
+
+  std::vector<std::string> headings_;
+  std::vector<bool> right_;
+  std::vector<std::vector<std::string>> rows_;
+};
+
+}  // namespace tesselctl

@@ -1,0 +1,12 @@
+// Statuses of the library and the device in words.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace tesselctl {
+
+// "BF_TABLE_FULL (8): The table, profile, group or set has no room left."
+std::string status_text(uint32_t status);
+
+}  // namespace tesselctl

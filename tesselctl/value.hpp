@@ -1,0 +1,40 @@
+// Values of fields: native notation on one side, the members of a record on the other.
+//
+//   number    decimal, 0x hexadecimal, '_' between digits
+//   ipv4      a.b.c.d, for every field of 32 bits
+//   ipv6      for every field of 128 bits
+//   mac       aa:bb:cc:dd:ee:ff, aa-bb-cc-dd-ee-ff, aabb.ccdd.eeff
+//   VALUE/N   a prefix of N bits, for lpm and ternary fields
+//   VALUE&M   for ternary fields: the bits that are set in M take part
+//   *         anything, for lpm and ternary fields
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "tesselctl/number.hpp"
+#include "tesselctl/shape.hpp"
+
+namespace tesselctl {
+
+struct FieldValue {
+  Number value;
+  Number mask;  // of a ternary field; the ones of the prefix of an lpm field; all ones otherwise
+
+  friend bool operator==(const FieldValue &, const FieldValue &) = default;
+};
+
+// Throws Fault: no such notation, wider than the field, a mask where none can be, a value with bits
+// that its mask or prefix leaves out.
+FieldValue parse_value(const Field &field, Word text);
+
+// A number from 0 to limit; what says whose it is in the message.
+uint64_t parse_limited(Word text, uint64_t limit, const std::string &what);
+
+// The shortest text that parse_value reads as the same.
+std::string format_value(const Field &field, const FieldValue &value);
+
+void store_value(const Field &field, const FieldValue &value, uint8_t *record);
+FieldValue load_value(const Field &field, const uint8_t *record);
+
+}  // namespace tesselctl

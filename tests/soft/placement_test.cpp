@@ -1,0 +1,414 @@
+// Placement data of entries and members, and the replay of a virtual device.
+#include <array>
+
+#include "small_program.hpp"
+
+namespace {
+
+using namespace soft_test;
+
+constexpr uint32_t kMembers = 0x02000005;
+constexpr uint32_t kSelector = 0x03000005;
+
+// Placement data that is released with its scope.
+struct Placement {
+  pipe_mgr_placement_t *object = nullptr;
+
+  Placement() = default;
+  ~Placement() { soft_placement_free(object); }
+  Placement(const Placement &) = delete;
+  Placement &operator=(const Placement &) = delete;
+};
+
+// What a decoder fills, prepared as its callers do.
+struct Decoded {
+  Bytes value = Bytes(16, 0xa5), mask = Bytes(16, 0xa5), data = Bytes(16, 0xa5);
+  pipe_mgr_match_spec_t match{};
+  pipe_mgr_action_spec_t spec{};
+  uint32_t action = 0;
+  bf_status_t status;
+
+  explicit Decoded(const Placement &placement) {
+    match.value = value.data();
+    match.mask = mask.data();
+    spec.data.bytes = data.data();
+    status = pipe_mgr_plcmt_mat_data_get_entry(placement.object, &match, &spec, &action);
+  }
+};
+
+Bytes first(const Bytes &bytes, size_t count) {
+  return {bytes.begin(), bytes.begin() + static_cast<ptrdiff_t>(count)};
+}
+
+// Calls on any of the devices.
+class PlacementTest : public SmallTest {
+ protected:
+  static constexpr bf_device_id_t kVirtual = 7;
+
+  void SetUp() override {
+    SmallTest::SetUp();
+    ASSERT_EQ(soft_device_create(kVirtual, 2, &small_program(), true), BF_SUCCESS);
+  }
+  void TearDown() override {
+    EXPECT_EQ(soft_device_remove(kVirtual), BF_SUCCESS);
+    SmallTest::TearDown();
+  }
+
+  uint32_t add(bf_device_id_t device, uint32_t table, const Key &key, uint32_t action,
+               const Action &spec, uint32_t ttl = 0) {
+    uint32_t entry = 0;
+    EXPECT_EQ(pipe_mgr_mat_ent_add(session, device, BF_ALL_PIPES, table, &key.spec, action,
+                                   &spec.spec, ttl, 0, &entry),
+              BF_SUCCESS);
+    return entry;
+  }
+  uint32_t add_member(bf_device_id_t device, uint8_t port) {
+    Action send(9, {0x01, port});
+    send.spec.type = 0;
+    uint32_t member = 0;
+    EXPECT_EQ(pipe_mgr_adt_ent_add(session, device, BF_ALL_PIPES, kMembers, kSend, &send.spec,
+                                   &member, 0),
+              BF_SUCCESS);
+    return member;
+  }
+  uint32_t add_group(bf_device_id_t device) {
+    uint32_t group = 0;
+    EXPECT_EQ(pipe_mgr_sel_grp_add(session, device, BF_ALL_PIPES, kSelector, 4, &group, 0),
+              BF_SUCCESS);
+    return group;
+  }
+  void join(uint32_t group, uint32_t member) {
+    EXPECT_EQ(pipe_mgr_sel_grp_mbr_add(session, kVirtual, kSelector, group, kSend, member, 0),
+              BF_SUCCESS);
+  }
+  // An entry of kLag that points at a member or group.
+  uint32_t add_lag(bf_device_id_t device, uint8_t number, uint32_t type, uint32_t reference) {
+    Action to;
+    to.spec.type = type;
+    (type == PIPE_ACTION_MEMBER ? to.spec.member : to.spec.group) = reference;
+    return add(device, kLag, Key(8, {number}, {0xff}), kSend, to);
+  }
+};
+
+TEST_F(PlacementTest, OfAnEntryHoldsItsKeyAndAction) {
+  Action forward(9, {0x01, 0x23});
+  forward.resource(kHostCount, 0, PIPE_RESOURCE_ATTACH);
+  const uint32_t host =
+      add(kVirtual, kHost, Key(20, {0x0a, 0xbc, 0x2d}, {0xff, 0xff, 0xff}), kForward, forward);
+  Placement placement;
+  ASSERT_EQ(soft_placement_of_entry(kVirtual, kHost, host, &placement.object), BF_SUCCESS);
+  EXPECT_EQ(pipe_mgr_mat_ent_del(session, kVirtual, kHost, host, 0), BF_SUCCESS);
+
+  const Decoded decoded(placement);  // needs the entry no longer
+  ASSERT_EQ(decoded.status, BF_SUCCESS);
+  EXPECT_EQ(decoded.match.value, decoded.value.data());
+  EXPECT_EQ(decoded.match.byte_count, 3);
+  EXPECT_EQ(decoded.match.valid_bit_count, 20);
+  EXPECT_EQ(first(decoded.value, 4), (Bytes{0x0a, 0xbc, 0x2d, 0xa5}));
+  EXPECT_EQ(first(decoded.mask, 4), (Bytes{0xff, 0xff, 0xff, 0xa5}));
+  EXPECT_EQ(decoded.action, kForward);
+  EXPECT_EQ(decoded.spec.type, PIPE_ACTION_DATA);
+  EXPECT_EQ(decoded.spec.data.bytes, decoded.data.data());
+  EXPECT_EQ(decoded.spec.data.byte_count, 2);
+  EXPECT_EQ(decoded.spec.data.valid_bit_count, 9);
+  EXPECT_EQ(first(decoded.data, 3), (Bytes{0x01, 0x23, 0xa5}));
+  ASSERT_EQ(decoded.spec.resource_count, 1u);
+  EXPECT_EQ(decoded.spec.resources[0].handle, kHostCount);
+  EXPECT_EQ(decoded.spec.resources[0].tag, PIPE_RESOURCE_ATTACH);
+}
+
+TEST_F(PlacementTest, OfATernaryEntryHoldsMaskAndPriority) {
+  const uint32_t acl = add(kDevice, kAcl, Key(16, {0x08, 0x00}, {0xff, 0x0f}, 77), kDeny, Action());
+  Placement placement;
+  ASSERT_EQ(soft_placement_of_entry(kDevice, kAcl, acl, &placement.object), BF_SUCCESS);
+  const Decoded decoded(placement);
+  EXPECT_EQ(first(decoded.mask, 2), (Bytes{0xff, 0x0f}));
+  EXPECT_EQ(decoded.match.priority, 77u);
+  EXPECT_EQ(decoded.action, kDeny);
+  EXPECT_EQ(decoded.spec.data.byte_count, 0);
+}
+
+TEST_F(PlacementTest, OfADefaultEntryHasNoKey) {
+  const Action permit(35, {1, 2, 3, 4, 5});
+  uint32_t entry = 0;
+  ASSERT_EQ(pipe_mgr_mat_default_entry_set(session, kVirtual, BF_ALL_PIPES, kAcl, kPermit,
+                                           &permit.spec, 0, &entry),
+            BF_SUCCESS);
+  Placement of_acl, of_encap;
+  ASSERT_EQ(soft_placement_of_entry(kVirtual, kAcl, entry, &of_acl.object), BF_SUCCESS);
+  const Decoded acl(of_acl);
+  EXPECT_EQ(acl.status, BF_SUCCESS);
+  EXPECT_EQ(acl.match.value, nullptr);
+  EXPECT_EQ(acl.match.mask, nullptr);
+  EXPECT_EQ(acl.match.byte_count, 0);
+  EXPECT_EQ(acl.value[0], 0xa5);
+  EXPECT_EQ(first(acl.data, 6), (Bytes{1, 2, 3, 4, 5, 0xa5}));
+
+  // The only entry of a keyless table.
+  ASSERT_EQ(
+      pipe_mgr_table_get_default_entry_handle(session, kVirtual, BF_ALL_PIPES, kEncap, &entry),
+      BF_SUCCESS);
+  ASSERT_EQ(soft_placement_of_entry(kVirtual, kEncap, entry, &of_encap.object), BF_SUCCESS);
+  const Decoded encap(of_encap);
+  EXPECT_EQ(encap.match.value, nullptr);
+  EXPECT_EQ(encap.action, kWrap);
+  EXPECT_EQ(first(encap.data, 4), (Bytes{0, 0, 0, 0xa5}));
+}
+
+TEST_F(PlacementTest, OfAProfileBoundEntryNamesItsMemberOrGroup) {
+  const uint32_t member = add_member(kVirtual, 9);
+  const uint32_t group = add_group(kVirtual);
+  Placement to_member, to_group, of_member;
+  ASSERT_EQ(
+      soft_placement_of_entry(kVirtual, kLag, add_lag(kVirtual, 1, PIPE_ACTION_MEMBER, member),
+                              &to_member.object),
+      BF_SUCCESS);
+  ASSERT_EQ(soft_placement_of_entry(kVirtual, kLag, add_lag(kVirtual, 2, PIPE_ACTION_GROUP, group),
+                                    &to_group.object),
+            BF_SUCCESS);
+  const Decoded by_member(to_member), by_group(to_group);
+  EXPECT_EQ(by_member.spec.type, PIPE_ACTION_MEMBER);
+  EXPECT_EQ(by_member.spec.member, member);
+  EXPECT_EQ(by_member.spec.group, 0u);
+  EXPECT_EQ(by_group.spec.type, PIPE_ACTION_GROUP);
+  EXPECT_EQ(by_group.spec.group, group);
+  EXPECT_EQ(by_group.value[0], 2);
+
+  ASSERT_EQ(soft_placement_of_member(kVirtual, kMembers, member, &of_member.object), BF_SUCCESS);
+  Bytes bytes(4, 0xa5);
+  pipe_mgr_action_data_t data{0, 0, bytes.data()};
+  uint32_t action = 0;
+  EXPECT_EQ(pipe_mgr_plcmt_adt_data_get_entry(of_member.object, &data, &action), BF_SUCCESS);
+  EXPECT_EQ(action, kSend);
+  EXPECT_EQ(data.byte_count, 2);
+  EXPECT_EQ(data.valid_bit_count, 9);
+  EXPECT_EQ(bytes, (Bytes{0x01, 0x09, 0xa5, 0xa5}));
+
+  // One kind is not taken for the other.
+  EXPECT_EQ(pipe_mgr_plcmt_adt_data_get_entry(to_member.object, &data, &action),
+            BF_INVALID_ARGUMENT);
+  EXPECT_EQ(Decoded(of_member).status, BF_INVALID_ARGUMENT);
+}
+
+TEST_F(PlacementTest, DecodersTellWhatTheSdkDidNotMake) {
+  const uint32_t acl = add(kDevice, kAcl, Key(16, {1, 2}, {0xff, 0xff}, 1), kDeny, Action());
+  Placement entry, member;
+  ASSERT_EQ(soft_placement_of_entry(kDevice, kAcl, acl, &entry.object), BF_SUCCESS);
+  ASSERT_EQ(soft_placement_of_member(kDevice, kMembers, add_member(kDevice, 1), &member.object),
+            BF_SUCCESS);
+  soft_placement_corrupt(entry.object);
+  soft_placement_corrupt(member.object);
+  const Decoded decoded(entry);
+  EXPECT_EQ(decoded.status, BF_CORRUPT_DATA);
+  EXPECT_EQ(decoded.value[0], 0xa5);
+  EXPECT_EQ(decoded.match.value, decoded.value.data());
+  EXPECT_EQ(decoded.action, 0u);
+  pipe_mgr_action_data_t data{};
+  uint32_t action = 0;
+  EXPECT_EQ(pipe_mgr_plcmt_adt_data_get_entry(member.object, &data, &action), BF_CORRUPT_DATA);
+  EXPECT_EQ(Decoded(Placement()).status, BF_INVALID_ARGUMENT);
+  alignas(8) const uint8_t zeros[64] = {};
+  EXPECT_EQ(pipe_mgr_plcmt_adt_data_get_entry(reinterpret_cast<const pipe_mgr_placement_t *>(zeros),
+                                              &data, &action),
+            BF_CORRUPT_DATA);
+
+  pipe_mgr_placement_t *none = nullptr;
+  EXPECT_EQ(soft_placement_of_entry(kDevice, kAcl, acl + 1, &none), BF_OBJECT_NOT_FOUND);
+  EXPECT_EQ(soft_placement_of_entry(kDevice, kMembers, 1, &none), BF_INVALID_HANDLE);
+  EXPECT_EQ(soft_placement_of_member(kDevice, kMembers, 99, &none), BF_OBJECT_NOT_FOUND);
+  EXPECT_EQ(soft_placement_of_member(kDevice, kAcl, acl, &none), BF_INVALID_HANDLE);
+  EXPECT_EQ(none, nullptr);
+}
+
+// ---- Replay ----
+
+// What the callback was told: table, action, group, member, has_resources.
+using Told = std::array<uint32_t, 5>;
+std::vector<Told> told;
+size_t told_limit = 0;  // the callback refuses what comes after so many
+
+bf_status_t hear(pipe_session_handle_t, uint8_t device, uint32_t table, uint32_t action,
+                 uint32_t group, uint32_t member, uint32_t has_resources) {
+  EXPECT_EQ(device, 4u);
+  if (told.size() == told_limit) return 77;
+  told.push_back({table, action, group, member, has_resources});
+  return BF_SUCCESS;
+}
+
+class Replay : public PlacementTest {
+ protected:
+  void SetUp() override {
+    PlacementTest::SetUp();
+    told.clear();
+    told_limit = 100;
+    // A virtual device with some history, so that handles are no row of numbers.
+    const uint32_t gone = add_member(kVirtual, 1);
+    member_a = add_member(kVirtual, 2);
+    member_b = add_member(kVirtual, 3);
+    EXPECT_EQ(pipe_mgr_adt_ent_del(session, kVirtual, kMembers, gone, 0), BF_SUCCESS);
+    group = add_group(kVirtual);
+    empty_group = add_group(kVirtual);
+    join(group, member_b);
+    join(group, member_a);
+    EXPECT_EQ(pipe_mgr_sel_grp_mbr_disable(session, kVirtual, kSelector, group, member_a, 0),
+              BF_SUCCESS);
+    lag = add_lag(kVirtual, 1, PIPE_ACTION_GROUP, group);
+  }
+  bf_status_t replay(bf_device_id_t from = kVirtual, bf_pipe_id_t pipe = BF_ALL_PIPES) {
+    return pipe_mgr_hitless_ha_restore_virtual_dev_state(session, kDevice, from, pipe, 5, hear);
+  }
+  uint32_t hit(bf_device_id_t device, uint32_t table, const Bytes &key) {
+    uint32_t entry = 0;
+    bool is_default = false;
+    EXPECT_EQ(soft_lookup(device, 0, table, key.data(), static_cast<uint32_t>(key.size()), &entry,
+                          &is_default),
+              BF_SUCCESS);
+    return is_default ? 0 : entry;
+  }
+
+  uint32_t member_a = 0, member_b = 0, group = 0, empty_group = 0, lag = 0;
+};
+
+TEST_F(Replay, ReportsMembersThenGroupsThenMemberships) {
+  ASSERT_EQ(replay(), BF_SUCCESS);
+  EXPECT_EQ(told, (std::vector<Told>{{kMembers, kSend, 0, member_a, 0},
+                                     {kMembers, kSend, 0, member_b, 0},
+                                     {kMembers, 0, group, 0, 0},
+                                     {kMembers, 0, empty_group, 0, 0},
+                                     {kMembers, kSend, group, member_a, 0},
+                                     {kMembers, kSend, group, member_b, 0}}));
+}
+
+TEST_F(Replay, ProfilesKeepHandlesStatesAndReferences) {
+  const uint32_t before = add_member(kDevice, 9);  // gives way
+  ASSERT_EQ(replay(), BF_SUCCESS);
+  uint8_t bytes[2] = {};
+  pipe_mgr_action_data_t data{0, 2, bytes};
+  uint32_t action = 0, state = 99, member = 0;
+  EXPECT_EQ(pipe_mgr_get_action_data_entry(kMembers, kDevice, member_b, &data, &action, false),
+            BF_SUCCESS);
+  EXPECT_EQ(bytes[1], 3);
+  EXPECT_EQ(pipe_mgr_get_action_data_entry(kMembers, kDevice, before, &data, &action, false),
+            BF_OBJECT_NOT_FOUND);
+  EXPECT_EQ(pipe_mgr_sel_grp_mbr_state_get(session, kDevice, kSelector, group, member_a, &state),
+            BF_SUCCESS);
+  EXPECT_EQ(state, PIPE_MEMBER_INACTIVE);
+  const uint8_t hash[] = {0};
+  EXPECT_EQ(
+      pipe_mgr_sel_grp_mbr_get_from_hash(session, kDevice, kSelector, group, hash, 1, &member),
+      BF_SUCCESS);
+  EXPECT_EQ(member, member_b);
+
+  EXPECT_EQ(pipe_mgr_sel_grp_del(session, kDevice, kSelector, group, 0), BF_IN_USE);
+  EXPECT_EQ(pipe_mgr_mat_ent_del(session, kDevice, kLag, lag, 0), BF_SUCCESS);
+  EXPECT_EQ(pipe_mgr_sel_grp_del(session, kDevice, kSelector, group, 0), BF_SUCCESS);
+  EXPECT_EQ(pipe_mgr_adt_ent_del(session, kDevice, kMembers, member_b, 0), BF_SUCCESS);
+
+  // New objects do not meet the old handles, and the virtual device is one of its own.
+  EXPECT_NE(add_member(kDevice, 5), member_a);
+  EXPECT_EQ(pipe_mgr_sel_grp_del(session, kVirtual, kSelector, group, 0), BF_IN_USE);
+  EXPECT_EQ(pipe_mgr_sel_grp_mbr_enable(session, kVirtual, kSelector, group, member_a, 0),
+            BF_SUCCESS);
+}
+
+TEST_F(Replay, TablesKeepHandlesOrderAndDefaults) {
+  const Action deny;
+  // Three that one packet meets, the first two at the same priority, and one with its own mask.
+  const uint32_t old = add(kVirtual, kAcl, Key(16, {0x08, 0x00}, {0xff, 0x00}, 5), kDeny, deny);
+  add(kVirtual, kAcl, Key(16, {0x08, 0x06}, {0xff, 0xff}, 5), kDeny, deny);
+  add(kVirtual, kAcl, Key(16, {0x08, 0x00}, {0xff, 0x00}, 6), kDeny, deny);
+  const uint32_t gone = add(kVirtual, kAcl, Key(16, {9, 9}, {0xff, 0xff}, 1), kDeny, deny);
+  EXPECT_EQ(pipe_mgr_mat_ent_del(session, kVirtual, kAcl, gone, 0), BF_SUCCESS);
+  std::vector<uint32_t> hosts;
+  for (uint8_t n = 0; n < 200; ++n) {
+    hosts.push_back(add(kVirtual, kHost, Key(20, {0, 1, n}, {0xff, 0xff, 0xff}), kDrop, deny));
+  }
+  const Action permit(35, {1, 2, 3, 4, 5});
+  uint32_t entry = 0;
+  ASSERT_EQ(pipe_mgr_mat_default_entry_set(session, kVirtual, BF_ALL_PIPES, kAcl, kPermit,
+                                           &permit.spec, 0, &entry),
+            BF_SUCCESS);
+  EXPECT_EQ(pipe_mgr_tbl_set_property(session, kVirtual, kHost, PIPE_TABLE_CAPACITY, 200, 0),
+            BF_SUCCESS);
+  const uint32_t before = add(kDevice, kHost, Key(20, {7, 7, 7}, {0xff, 0xff, 0xff}), kDrop, deny);
+
+  ASSERT_EQ(replay(), BF_SUCCESS);
+  EXPECT_EQ(hit(kDevice, kAcl, {0x08, 0x06}), old);
+  EXPECT_EQ(hit(kDevice, kAcl, {0x09, 0x09}), 0u);
+  EXPECT_EQ(hit(kDevice, kLag, {1}), lag);
+  for (uint8_t n = 0; n < 200; ++n) EXPECT_EQ(hit(kDevice, kHost, {0, 1, n}), hosts[n]);
+  EXPECT_EQ(hit(kDevice, kHost, {7, 7, 7}), 0u) << "what was there gave way: " << before;
+  uint32_t handle = 0;
+  EXPECT_EQ(pipe_mgr_table_get_default_entry_handle(session, kDevice, BF_ALL_PIPES, kAcl, &handle),
+            BF_SUCCESS);
+  EXPECT_EQ(handle, entry);
+  const Key one_more(20, {7, 7, 7}, {0xff, 0xff, 0xff});
+  EXPECT_EQ(pipe_mgr_mat_ent_add(session, kDevice, BF_ALL_PIPES, kHost, &one_more.spec, kDrop,
+                                 &deny.spec, 0, 0, &handle),
+            BF_TABLE_FULL);
+
+  // The copy is a table like any other: entries go and come.
+  EXPECT_EQ(pipe_mgr_mat_ent_del(session, kDevice, kAcl, old, 0), BF_SUCCESS);
+  EXPECT_NE(hit(kDevice, kAcl, {0x08, 0x06}), 0u);
+  EXPECT_EQ(hit(kVirtual, kAcl, {0x08, 0x06}), old);
+  EXPECT_NE(add(kDevice, kAcl, Key(16, {0x08, 0x00}, {0xff, 0x00}, 5), kDeny, deny), old);
+}
+
+TEST_F(Replay, EntriesGoOnAgeing) {
+  pipe_mgr_idle_params_t params{PIPE_IDLE_NOTIFY, 1, 0, 0, 0, 0};
+  ASSERT_EQ(pipe_mgr_idle_tmo_enable(session, kVirtual, kRoute, params), BF_SUCCESS);
+  const uint32_t route = add(kVirtual, kRoute, Key(40, {1, 10, 0, 0, 0}, {0xff, 0xff, 0, 0, 0}),
+                             kNextHop, Action(14, {0x00, 0x01}), 100);
+  soft_clock_advance(60);
+  ASSERT_EQ(replay(), BF_SUCCESS);
+  std::vector<uint32_t> expired;
+  ASSERT_EQ(pipe_mgr_idle_register_tmo_cb(
+                session, kDevice, kRoute,
+                [](bf_device_id_t, uint32_t, uint32_t entry, void *list) {
+                  static_cast<std::vector<uint32_t> *>(list)->push_back(entry);
+                },
+                &expired),
+            BF_SUCCESS);
+  soft_clock_advance(39);
+  EXPECT_TRUE(expired.empty());
+  soft_clock_advance(1);
+  EXPECT_EQ(expired, (std::vector<uint32_t>{route}));
+}
+
+TEST_F(Replay, CallbackMayEndItAndTheDeviceIsComplete) {
+  told_limit = 3;
+  EXPECT_EQ(replay(), 77u);
+  EXPECT_EQ(told.size(), 3u);
+  uint32_t members = 0;
+  EXPECT_EQ(pipe_mgr_get_sel_grp_mbr_count(session, kDevice, kSelector, group, &members),
+            BF_SUCCESS);
+  EXPECT_EQ(members, 2u);
+  EXPECT_EQ(hit(kDevice, kLag, {1}), lag);
+
+  told.clear();
+  told_limit = 100;
+  EXPECT_EQ(replay(), BF_SUCCESS) << "a second one takes the place of the first";
+  EXPECT_EQ(told.size(), 6u);
+}
+
+TEST_F(Replay, TakesOnlyAVirtualDeviceThatIsAlike) {
+  ASSERT_EQ(soft_device_create(8, 2, &small_program(), false), BF_SUCCESS);
+  ASSERT_EQ(soft_device_create(9, 1, &small_program(), true), BF_SUCCESS);
+  ASSERT_EQ(soft_device_create(10, 2, &program(), true), BF_SUCCESS);
+  for (const bf_device_id_t unfit : {4u, 8u, 9u, 10u}) {
+    EXPECT_EQ(replay(unfit), BF_INVALID_ARGUMENT) << unfit;
+  }
+  EXPECT_EQ(replay(11), BF_INVALID_DEVICE);
+  EXPECT_EQ(replay(kVirtual, 2), BF_INVALID_PIPE);
+  EXPECT_EQ(replay(kVirtual, 1), BF_NOT_SUPPORTED);
+  EXPECT_TRUE(told.empty());
+  uint32_t members = 9;
+  EXPECT_EQ(pipe_mgr_get_entry_count(session, kDevice, BF_ALL_PIPES, kMembers, 0, &members),
+            BF_SUCCESS);
+  EXPECT_EQ(members, 0u);
+  for (const bf_device_id_t device : {8u, 9u, 10u}) {
+    EXPECT_EQ(soft_device_remove(device), BF_SUCCESS);
+  }
+}
+
+}  // namespace
