@@ -1,0 +1,126 @@
+// What introspection costs: value strings against one snprintf and against hexadecimal output
+// written by hand, the longest schema against a copy of its bytes, and a dump of a million routes
+// out of the soft SDK. Ratios count, all of them from one run.
+#include <benchmark/benchmark.h>
+
+#include <cstring>
+#include <vector>
+
+#include "by_hand_text.h"
+#include "soft_sdk.h"
+
+extern "C" const soft_program_t soft_program_tessel_switch;
+
+namespace {
+
+// Every bit set, so that no value is short.
+template <class Record>
+Record filled() {
+  Record record;
+  std::memset(&record, 0xff, sizeof record);
+  return record;
+}
+
+template <class Record, int (*Write)(const Record *, char *)>
+void value(benchmark::State &state) {
+  const Record record = filled<Record>();
+  char buffer[P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX];
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(&record);
+    benchmark::DoNotOptimize(Write(&record, buffer));
+    benchmark::ClobberMemory();
+  }
+}
+
+using CpuEncap = p4_pd_tessel_switch_cpuEncap_match_spec_t;
+using TrapToCpu = p4_pd_tessel_switch_trapToCpu_match_spec_t;
+
+BENCHMARK(value<CpuEncap, p4_pd_tessel_switch_cpuEncap_match_spec_value>)
+    ->Name("value/cpuEncap/library");
+BENCHMARK(value<CpuEncap, by_hand_text_cpuEncap>)->Name("value/cpuEncap/by_hand");
+BENCHMARK(value<CpuEncap, printf_cpuEncap>)->Name("value/cpuEncap/snprintf");
+BENCHMARK(value<TrapToCpu, p4_pd_tessel_switch_trapToCpu_match_spec_value>)
+    ->Name("value/trapToCpu/library");
+BENCHMARK(value<TrapToCpu, by_hand_text_trapToCpu>)->Name("value/trapToCpu/by_hand");
+BENCHMARK(value<TrapToCpu, printf_trapToCpu>)->Name("value/trapToCpu/snprintf");
+
+void schema(benchmark::State &state) {
+  char buffer[P4_PD_TESSEL_SWITCH_SCHEMA_MAX];
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(p4_pd_tessel_switch_finalDropControl_schema(buffer));
+    benchmark::ClobberMemory();
+  }
+}
+BENCHMARK(schema)->Name("schema/finalDropControl/library");
+
+void copy(benchmark::State &state) {
+  char text[P4_PD_TESSEL_SWITCH_SCHEMA_MAX];
+  char buffer[P4_PD_TESSEL_SWITCH_SCHEMA_MAX];
+  p4_pd_tessel_switch_finalDropControl_schema(text);
+  size_t size = 3785;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(size);
+    benchmark::DoNotOptimize(std::memcpy(buffer, text, size));
+    benchmark::ClobberMemory();
+  }
+}
+BENCHMARK(copy)->Name("schema/finalDropControl/memcpy");
+
+// A device with a million routes.
+class Routes {
+ public:
+  static constexpr uint32_t count = 1000000;
+
+  Routes() {
+    soft_device_create(0, 1, &soft_program_tessel_switch, false);
+    soft_session_open(&session_);
+    const p4_pd_device_target_t target = {0, 0xffff};
+    const p4_pd_tessel_switch_setNextHop_action_spec_t action = {17};
+    entries_.resize(count);
+    for (uint32_t i = 0; i < count; ++i) {
+      p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t key = {};
+      key.ingIpv4_dip = i << 8;
+      key.ingIpv4_dip_prefix_length = 24;
+      if (p4_pd_tessel_switch_ipv4ShortMaskLpm_table_add_with_setNextHop(
+              session_, target, &key, &action, 0, &entries_[i]) != BF_SUCCESS) {
+        entries_.clear();
+        break;
+      }
+    }
+  }
+  ~Routes() {
+    soft_session_close(session_);
+    soft_device_remove(0);
+  }
+
+  const std::vector<p4_pd_entry_handle_t> &entries() const { return entries_; }
+  p4_pd_session_handle_t session() const { return session_; }
+
+ private:
+  p4_pd_session_handle_t session_ = 0;
+  std::vector<p4_pd_entry_handle_t> entries_;
+};
+
+void dump(benchmark::State &state) {
+  const Routes routes;
+  if (routes.entries().size() != Routes::count) {
+    state.SkipWithError("a route was refused");
+    return;
+  }
+  char buffer[P4_PD_TESSEL_SWITCH_VALUE_MAX];
+  for (auto _ : state) {
+    for (const p4_pd_entry_handle_t entry : routes.entries()) {
+      if (p4_pd_tessel_switch_ipv4ShortMaskLpm_value(routes.session(), 0, entry, false, buffer) ==
+          0) {
+        state.SkipWithError("a route was not found");
+        return;
+      }
+    }
+  }
+  state.SetItemsProcessed(state.iterations() * Routes::count);
+}
+BENCHMARK(dump)->Name("dump/ipv4ShortMaskLpm")->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();
