@@ -56,7 +56,7 @@ TEST_F(ToolTest, RegistersOfBothWidthsAreWrittenReadAndReset) {
             "ingVlanCheckData index=8 values 0 0\n"
             "ingVlanCheckData index=9 values 1 1\n"
             "ingVlanCheckData index=10 values 0 0\n");
-  EXPECT_EQ(run("register write ingVlanCheckData index=9 value=2"), "46: '2': value is at most 1");
+  EXPECT_EQ(run("register write ingVlanCheckData index=9 value=2"), "47: '2': value is at most 1");
 }
 
 TEST_F(ToolTest, HashValuesAreLaidEndToEnd) {
@@ -80,7 +80,7 @@ TEST_F(ToolTest, ValueSetsKeepTheirValues) {
       run("valueset show recirc_ports"),
       "recirc_ports entry=" + std::to_string(context_.labels["v"]) + " value=0x40 mask=0xf0\n");
   EXPECT_EQ(run("valueset add recirc_ports value=1 direction=egres"),
-            "44: 'egres': direction is one of ingress, egress; did you mean 'egress'?");
+            "45: 'egres': direction is one of ingress, egress; did you mean 'egress'?");
   EXPECT_EQ(run("valueset delete recirc_ports entry=$v"), "");
   EXPECT_EQ(run("valueset show recirc_ports"), "");
 }
