@@ -68,6 +68,10 @@ std::span<const Command> entry_commands();
 std::span<const Command> show_commands();
 std::span<const Command> profile_commands();
 std::span<const Command> meter_commands();
+std::span<const Command> stateful_commands();
+std::span<const Command> hash_commands();
+std::span<const Command> value_set_commands();
+std::span<const Command> traffic_commands();
 std::span<const Command> state_commands();
 
 }  // namespace tesselctl

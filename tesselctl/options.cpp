@@ -37,4 +37,18 @@ uint64_t Options::number(std::string_view name, uint64_t limit) const {
   return parse_limited(need(name), limit, std::string(name));
 }
 
+size_t Options::choice_or(std::string_view name, std::initializer_list<std::string_view> words,
+                          size_t otherwise) const {
+  const Word *value = find(name);
+  if (value == nullptr) return otherwise;
+  std::string list;
+  size_t at = 0;
+  for (const std::string_view word : words) {
+    if (value->text == word) return at;
+    ++at;
+    list += (list.empty() ? "" : ", ") + std::string(word);
+  }
+  throw Fault(*value, std::string(name) + " is one of " + list, nearest(value->text, words));
+}
+
 }  // namespace tesselctl

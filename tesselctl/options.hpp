@@ -25,6 +25,9 @@ class Options {
   uint64_t number_or(std::string_view name, uint64_t limit, uint64_t otherwise) const {
     return has(name) ? number(name, limit) : otherwise;
   }
+  // One of the words of a set, by its position in it; otherwise when it is not given.
+  size_t choice_or(std::string_view name, std::initializer_list<std::string_view> words,
+                   size_t otherwise) const;
   uint32_t handle(const Context &context, std::string_view name) const {
     return parse_handle(context, need(name), std::string(name));
   }

@@ -1,0 +1,182 @@
+// Counters and registers.
+#include <cstring>
+
+#include "tesselctl/library.hpp"
+#include "tesselctl/number.hpp"
+#include "tesselctl/options.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+// source=hardware brings a value up to date before it is read; that is what people want to see.
+uint64_t read_flags(const Options &options) {
+  return options.choice_or("source", {"hardware", "software"}, 0) == 0 ? P4_PD_READ_FROM_HARDWARE
+                                                                       : 0;
+}
+
+void note_synchronised(bf_device_id_t, void *done) { *static_cast<bool *>(done) = true; }
+
+void synchronise(Context &context, const char *family, const char *object, Word word) {
+  bool done = false;
+  Call call = context.device.prepare(family, object);
+  call.set("callback", reinterpret_cast<const void *>(&note_synchronised)).set("cookie", &done);
+  check(call.run(), word);
+  context.out.line("{} {}", object, done ? "synchronised" : "not yet synchronised");
+}
+
+// ---- Counters ----
+
+const soft_counter_t &counter_of(const Invocation &invocation) {
+  return resolve_object<soft_counter_t>(need_argument(invocation, 0, "the name of a counter"),
+                                        "counter");
+}
+
+// The counter of a table goes by the handle of an entry, the others by an index.
+const char *cell_of(const soft_counter_t &counter) {
+  return counter.table != 0 ? "entry" : "index";
+}
+
+void counter_read(Context &context, const Invocation &invocation) {
+  const soft_counter_t &counter = counter_of(invocation);
+  const char *cell = cell_of(counter);
+  const Options options(invocation, 1, {cell, "source"});
+  p4_pd_counter_values_t values = {};
+  const uint32_t at = options.handle(context, cell);
+  Call call = context.device.prepare("counter_read", counter.name);
+  call.set(cell, uint64_t{at}).set("flags", read_flags(options)).set("values", &values);
+  check(call.run(), invocation.arguments[0]);
+  context.out.line("{} {}={} packets={} bytes={}", counter.name, cell, at, values.packets,
+                   values.bytes);
+}
+
+void counter_write(Context &context, const Invocation &invocation) {
+  const soft_counter_t &counter = counter_of(invocation);
+  const char *cell = cell_of(counter);
+  const Options options(invocation, 1, {cell, "packets", "bytes"});
+  p4_pd_counter_values_t values = {};
+  values.packets = options.number("packets", ~uint64_t{0});
+  values.bytes = options.number("bytes", ~uint64_t{0});
+  Call call = context.device.prepare("counter_write", counter.name);
+  call.set(cell, uint64_t{options.handle(context, cell)}).set("values", &values);
+  check(call.run(), invocation.arguments[0]);
+  if (context.verbose) context.out.line("{} written", counter.name);
+}
+
+void counter_sync(Context &context, const Invocation &invocation) {
+  const soft_counter_t &counter = counter_of(invocation);
+  refuse_arguments_from(invocation, 1);
+  synchronise(context, "counter_hw_sync", counter.name, invocation.arguments[0]);
+}
+
+// ---- Registers ----
+
+constexpr uint32_t kRangeLimit = 4096;
+
+const soft_register_t &register_of(const Invocation &invocation) {
+  return resolve_object<soft_register_t>(need_argument(invocation, 0, "the name of a register"),
+                                         "register");
+}
+
+uint64_t widest_value(const soft_register_t &reg) { return low_ones(reg.width).low; }
+
+// The values that a read wrote: an array of the smallest integers that hold a cell.
+std::string values_text(const soft_register_t &reg, const std::vector<uint32_t> &buffer,
+                        size_t first, size_t count) {
+  const auto *bytes = reinterpret_cast<const uint8_t *>(buffer.data());
+  const size_t size = reg.width <= 8 ? 1 : reg.width / 8;
+  std::string text;
+  for (size_t i = first; i < first + count; ++i) {
+    uint32_t value = 0;
+    memcpy(&value, bytes + i * size, size);
+    text += " " + decimal(value);
+  }
+  return text;
+}
+
+void register_read(Context &context, const Invocation &invocation) {
+  const soft_register_t &reg = register_of(invocation);
+  const Options options(invocation, 1, {"index", "source"});
+  const uint64_t index = options.number("index", 0xffffffffu);
+  std::vector<uint32_t> values(context.device.pipes());
+  uint32_t count = 0;
+  Call call = context.device.prepare("register_read", reg.name);
+  call.set("index", index).set("flags", read_flags(options));
+  call.set("values", values.data()).set("value_count", &count);
+  check(call.run(), invocation.arguments[0]);
+  context.out.line("{} index={} values{}", reg.name, index, values_text(reg, values, 0, count));
+}
+
+void register_range(Context &context, const Invocation &invocation) {
+  const soft_register_t &reg = register_of(invocation);
+  const Options options(invocation, 1, {"first", "count", "source"});
+  const uint64_t first = options.number("first", 0xffffffffu);
+  const uint64_t wanted = options.number("count", kRangeLimit);
+  std::vector<uint32_t> values(static_cast<size_t>(wanted) * context.device.pipes() + 1);
+  uint32_t indexes = 0;
+  uint32_t count = 0;
+  Call call = context.device.prepare("register_range_read", reg.name);
+  call.set("first", first).set("index_count", wanted).set("flags", read_flags(options));
+  call.set("indexes_read", &indexes).set("values", values.data()).set("value_count", &count);
+  check(call.run(), invocation.arguments[0]);
+  const size_t each = indexes == 0 ? 0 : count / indexes;
+  for (uint32_t i = 0; i < indexes; ++i) {
+    context.out.line("{} index={} values{}", reg.name, first + i,
+                     values_text(reg, values, i * each, each));
+  }
+}
+
+void register_write(Context &context, const Invocation &invocation) {
+  const soft_register_t &reg = register_of(invocation);
+  const Options options(invocation, 1, {"index", "value"});
+  const auto value = static_cast<uint32_t>(options.number("value", widest_value(reg)));
+  const bool one = options.has("index");
+  Call call = context.device.prepare(one ? "register_write" : "register_write_all", reg.name);
+  if (one) call.set("index", options.number("index", 0xffffffffu));
+  check(call.set("value", &value).run(), invocation.arguments[0]);
+  if (context.verbose) context.out.line("{} written", reg.name);
+}
+
+void register_reset(Context &context, const Invocation &invocation) {
+  const soft_register_t &reg = register_of(invocation);
+  const Options options(invocation, 1, {"first", "count"});
+  const bool range = options.has("first") || options.has("count");
+  Call call =
+      context.device.prepare(range ? "register_range_reset" : "register_reset_all", reg.name);
+  if (range) {
+    call.set("first", options.number("first", 0xffffffffu));
+    call.set("index_count", options.number("count", 0xffffffffu));
+  }
+  check(call.run(), invocation.arguments[0]);
+  if (context.verbose) context.out.line("{} reset", reg.name);
+}
+
+void register_sync(Context &context, const Invocation &invocation) {
+  const soft_register_t &reg = register_of(invocation);
+  refuse_arguments_from(invocation, 1);
+  synchronise(context, "register_hw_sync", reg.name, invocation.arguments[0]);
+}
+
+constexpr Command kCommands[] = {
+    {"counter read", "COUNTER index=N|entry=HANDLE [source=hardware|software]",
+     "prints the packets and bytes of a counter cell", counter_read},
+    {"counter write", "COUNTER index=N|entry=HANDLE packets=N bytes=N",
+     "sets the packets and bytes of a counter cell", counter_write},
+    {"counter sync", "COUNTER", "brings the software copy of a counter up to date", counter_sync},
+    {"register read", "REGISTER index=N [source=hardware|software]",
+     "prints a register cell, one value a pipe", register_read},
+    {"register range", "REGISTER first=N count=N [source=hardware|software]",
+     "prints several cells", register_range},
+    {"register write", "REGISTER [index=N] value=N", "writes a register cell, or all of them",
+     register_write},
+    {"register reset", "REGISTER [first=N count=N]", "clears a register, or cells of it",
+     register_reset},
+    {"register sync", "REGISTER", "brings the software copy of a register up to date",
+     register_sync},
+};
+
+}  // namespace
+
+std::span<const Command> stateful_commands() { return kCommands; }
+
+}  // namespace tesselctl
