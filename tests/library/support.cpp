@@ -146,7 +146,11 @@ Arguments::Arguments(const Export &exported)
       given_(exported.parameter_count) {
   if (takes("session")) set("session", session());
   if (takes("device")) set("device", kDevice);
-  if (takes("target")) set("target", &kTarget);
+  // A parser target has the name too; a scene gives it.
+  for (const bindings::Parameter &parameter : exported.parameter_list()) {
+    const bool device_target = std::string_view(parameter.type) == "p4_pd_device_target_t";
+    if (device_target) set(parameter.name, &kTarget);
+  }
 }
 
 bool Arguments::takes(std::string_view name) const {
