@@ -103,6 +103,8 @@ class Process : public testing::Environment {
  public:
   void SetUp() override {
     ASSERT_EQ(soft_session_open(&open_session), BF_SUCCESS);
+    soft::faults::fail_call("p4_pd_ms_init_state", 3, BF_NO_MEMORY);
+    first.failed_calls = recorded([] { first.failed_status = p4_pd_tessel_switch_init(); });
     first.calls = recorded([] { first.status = p4_pd_tessel_switch_init(); });
     ASSERT_EQ(first.status, BF_SUCCESS);
   }
