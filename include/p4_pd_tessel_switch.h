@@ -9,8 +9,9 @@
  * Start and stop
  *   init creates the member-selector states, registers the client with the driver framework and
  *   binds the callbacks for device removal, log and restore. Call it once, before any other
- *   function; P4_PD_DRIVER_REFUSED when the framework refuses the client. cleanup deregisters
- *   the client. device_state_cleanup does nothing. bf_drv_hdl is the client's handle.
+ *   function; P4_PD_NO_MEMORY when a state cannot be made and P4_PD_DRIVER_REFUSED when the
+ *   framework refuses the client. cleanup deregisters the client. device_state_cleanup does
+ *   nothing. bf_drv_hdl is the client's handle.
  *
  * Tables
  *   For every table. get_mat_table_handle writes the table's handle (a null pointer is skipped).

@@ -18,6 +18,7 @@ p4_pd_status_t initialize(uint32_t *client) {
   p4_pd_ms_init();
   for (uint32_t i = 0; i < program.profile_count; ++i) {
     if (profile_states[i] == nullptr) profile_states[i] = p4_pd_ms_init_state();
+    if (profile_states[i] == nullptr) return P4_PD_NO_MEMORY;
   }
   if (bf_drv_register(program.client_name, client) != BF_SUCCESS) return P4_PD_DRIVER_REFUSED;
   bf_drv_client_callbacks_t callbacks;

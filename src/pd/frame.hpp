@@ -17,8 +17,10 @@ extern p4_pd_ms_state_t *profile_states[max_profiles];
 
 inline p4_pd_ms_state_t *state_of(const Profile &profile) { return profile_states[profile.index]; }
 
-// Creates the states, registers the client and binds the device callbacks. A second call while the
-// client is registered is passed on to the framework, which refuses it; the states stay.
+// Creates the states, registers the client and binds the device callbacks. P4_PD_NO_MEMORY when a
+// state cannot be made; nothing is registered then, and a later call makes those that are missing.
+// A second call while the client is registered is passed on to the framework, which refuses it; the
+// states stay.
 p4_pd_status_t initialize(uint32_t *client);
 
 p4_pd_status_t clean_up(uint32_t client);

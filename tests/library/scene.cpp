@@ -1,9 +1,12 @@
-#include "scene.hpp"
-
+// What is there before the call of a scene.
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <iterator>
+
+#include "scene.hpp"
+#include "scene_values.hpp"
+#include "soft_learning.h"
+#include "soft_snapshot.h"
 
 namespace pd_test {
 
@@ -22,7 +25,11 @@ enum Need : uint32_t {
   kNewKey = 128,       // the match spec names no entry yet
   kPlacement = 256,    // placement data of the entry or member
   kVirtual = 512,      // a second, virtual device
-  kDeregistered = 1024  // the library is not registered with the driver framework
+  kDeregistered = 1024,  // the library is not registered with the driver framework
+  kValueEntry = 2048,   // the value set has an entry
+  kDigest = 4096,       // the digest has a callback, and a message waits
+  kHash = 8192,         // the hash calculation has its field list and algorithm, and an attribute
+  kSnapshot = 16384     // there is a snapshot with a capture
 };
 
 struct FamilyNeeds {
@@ -63,72 +70,24 @@ constexpr FamilyNeeds kFamilyNeeds[] = {
     {"get_member_from_plcmt_data", kPlacement | kMember},
     {"get_full_member_info_from_plcmt_data", kPlacement | kMember},
     {"restore_virtual_dev_state", kVirtual},
+    {"digest_deregister", kDigest},
+    {"digest_notify_ack", kDigest},
+    {"pvs_entry_modify", kValueEntry},
+    {"pvs_entry_delete", kValueEntry},
+    {"pvs_entry_get", kValueEntry},
+    {"pvs_entry_handle_get", kValueEntry},
+    {"pvs_entry_get_first_entry_handle", kValueEntry},
+    {"pvs_entry_get_next_entry_handles", kValueEntry | kSecond},
+    {"snapshot_delete", kSnapshot},
+    {"snapshot_capture_trigger_set", kSnapshot},
+    {"snapshot_capture_data_get", kSnapshot},
 };
 
-constexpr bf_device_id_t kVirtualDevice = 9;
-
-// Arguments that are plain numbers.
-struct NamedValue {
-  const char *name;
-  uint64_t value;
-};
-constexpr NamedValue kValues[] = {
-    {"property", PIPE_TABLE_CAPACITY},
-    {"value", 77777},
-    {"argument", 0},
-    {"count", 2},
-    {"max_size", 8},
-    {"state", P4_PD_GRP_MBR_STATE_INACTIVE},
-    {"hash_length", 4},
-    {"word", 0},
-    {"ttl", 60000},
-    {"hit_state", PIPE_ENTRY_ACTIVE},
-    {"read_from_hardware", 1},
-    {"index", 3},
-    {"wred", 0x07000001},
-    {"adjustment", 24},
-    {"has_pre_color", 0},
-    {"flags", 0},
-    {"virtual_device", kVirtualDevice},
-    {"pipe", BF_ALL_PIPES},
-};
-
-const p4_pd_idle_time_params_t kAgeingParams = {PIPE_IDLE_NOTIFY, 100, 70000, 0, 0, 0x5a5a5a5a};
-const p4_pd_wred_params_t kWred = {12.5f, 100, 900, 0.25f};
-const uint8_t kHash[] = {0x12, 0x34, 0x56, 0x78};
-// Room for any record, zeroed: an input of a type that is not known here.
-const uint64_t kAnyInput[512] = {};
-
-void any_callback() {}
-
-bool is_pointer(const bindings::Parameter &parameter) {
-  return std::string_view(parameter.type).ends_with("*");
-}
-
-bool is_input(const bindings::Parameter &parameter) {
-  return std::string_view(parameter.type).starts_with("const ");
-}
-
-// How much a call may write behind a pointer.
-size_t output_size(const bindings::Parameter &parameter, const pdgen::Table *table) {
-  const std::string_view type = parameter.type;
-  const std::string_view name = parameter.name;
-  constexpr std::string_view kLists[] = {"entries", "members", "groups"};
-  if (type.ends_with("_match_spec_t *")) return record_of(*table).size;
-  if (type.ends_with("_action_specs_t *")) return sizeof(p4_pd_tessel_switch_action_specs_t);
-  if (type.ends_with("_meter_spec_t *")) return sizeof(p4_pd_bytes_meter_spec_t);
-  if (type == "p4_pd_idle_time_params_t *") return sizeof(p4_pd_idle_time_params_t);
-  if (type == "bool *" || type == "uint8_t *") return 1;
-  if (type == "char *" && name == "action_name") return 61;
-  if (type == "void *" && name == "action_spec") {
-    return sizeof(p4_pd_tessel_switch_action_specs_t) - sizeof(uint32_t);
-  }
-  if (std::ranges::find(kLists, name) != std::end(kLists)) return 2 * sizeof(uint32_t);
-  if (type == "uint32_t *" || type.ends_with("_handle_t *")) return sizeof(uint32_t);
-  return 4096;
-}
-
+// The functions that take a table's handle for its registers know no table of their own.
 const pdgen::Table *table_of(const Export &exported) {
+  if (std::string_view(exported.family).ends_with("_direct")) {
+    return &table_named("flowDigestGeneration");
+  }
   if (const auto *table = pdgen::find_row(program().tables, exported.object)) return table;
   for (const auto *resources : {&program().counters, &program().meters}) {
     const pdgen::Resource *resource = pdgen::find_row(*resources, exported.object);
@@ -156,7 +115,7 @@ void expect_done(const Arguments &arguments) {
 }  // namespace
 
 // A table without a key has nothing to enumerate, and a table none of whose actions may be the
-// default has no default entry.
+// default has no default entry. No register belongs to the entries of a table.
 p4_pd_status_t expected_status(const Export &exported) {
   const std::string_view family = exported.family;
   const pdgen::Table *table = table_of(exported);
@@ -167,6 +126,10 @@ p4_pd_status_t expected_status(const Export &exported) {
   if (family == "table_get_default_entry" || family == "table_get_default_entry_handle") {
     succeeds = table->indirect() || std::ranges::any_of(table->pairs, &pdgen::Pair::as_default);
   }
+  if (family == "register_read_direct" || family == "register_hw_sync_direct") {
+    return BF_NOT_SUPPORTED;
+  }
+  if (family == "register_write_direct") return BF_INVALID_HANDLE;
   return succeeds ? BF_SUCCESS : BF_OBJECT_NOT_FOUND;
 }
 
@@ -202,6 +165,7 @@ uint32_t Scene::find_needs() const {
   for (const FamilyNeeds &row : kFamilyNeeds) {
     if (exported_.family == std::string_view(row.family)) needs = row.needs;
   }
+  if (std::string_view(exported_.family).starts_with("hash_calc_")) needs |= kHash;
   for (const bindings::Parameter &parameter : exported_.parameter_list()) {
     const std::string_view name = parameter.name;
     if (name == "match_spec" && is_input(parameter)) needs |= kEntry;
@@ -219,7 +183,11 @@ void Scene::set_up(uint32_t needs) {
   if ((needs & kDeregistered) != 0) {
     EXPECT_EQ(p4_pd_tessel_switch_cleanup(), BF_SUCCESS);
   }
-  if ((needs & kVirtual) != 0) virtual_device_.emplace(kVirtualDevice, true);
+  if ((needs & kVirtual) != 0) virtual_device_.emplace(kSceneVirtualDevice, true);
+  if ((needs & kValueEntry) != 0) add_value_entries();
+  if ((needs & kDigest) != 0) send_digest();
+  if ((needs & kHash) != 0) configure_hashes();
+  if ((needs & kSnapshot) != 0) take_snapshot();
   if ((needs & (kMember | kGroup | kJoined)) != 0) member_ = add_member(exported_.action);
   if ((needs & (kGroup | kJoined)) != 0) group_ = create_group();
   if ((needs & kJoined) != 0) join(member_);
@@ -227,7 +195,7 @@ void Scene::set_up(uint32_t needs) {
   if ((needs & kEntry) != 0) add_entry();
   if ((needs & kDefault) != 0) set_default_entry();
   if ((needs & kSecond) != 0 && (needs & kEntry) != 0) add_second_entry();
-  if ((needs & kSecond) != 0 && (needs & kEntry) == 0) {
+  if ((needs & kSecond) != 0 && profile_ != nullptr) {
     const uint32_t other = add_member(exported_.action);
     if ((needs & kJoined) != 0) join(other);
     if ((needs & kJoined) == 0 && (needs & kGroup) != 0) create_group();
@@ -307,7 +275,7 @@ void Scene::join(uint32_t member) {
 
 void Scene::set_up_ageing() {
   Arguments enable(*find_export("idle_tmo_enable", table_->name));
-  expect_done(enable.set("params", &kAgeingParams));
+  expect_done(enable.set("params", &kSceneAgeing));
 }
 
 void Scene::take_placement(uint32_t needs) {
@@ -320,83 +288,60 @@ void Scene::take_placement(uint32_t needs) {
       << exported_.name;
 }
 
-// ---- Arguments ----
+// ---- Stateful services ----
 
-void Scene::fill_arguments() {
-  for (const bindings::Parameter &parameter : exported_.parameter_list()) {
-    const std::string_view name = parameter.name;
-    if (name == "session" || name == "device" || name == "target") continue;
-    if (fill_input(parameter) || fill_value(parameter)) continue;
-    fill_output(parameter);
+void Scene::add_value_entries() {
+  for (uint32_t value = 1; value <= 2; ++value) {
+    uint32_t entry = 0;
+    Arguments add(*find_export("pvs_entry_add", exported_.object));
+    add.set("value", uint64_t{value}).set("mask", uint64_t{1}).set("entry", &entry);
+    expect_done(add.set("target", &kSceneParser));
+    if (value == 1) entry_ = entry;
   }
 }
 
-bool Scene::fill_input(const bindings::Parameter &parameter) {
-  const std::string_view type = parameter.type;
-  const std::string_view name = parameter.name;
-  const auto give = [&](const void *object) {
-    arguments_.set(name, object);
-    return true;
+void Scene::send_digest() {
+  const pdgen::Digest &digest = *pdgen::find_row(program().digests, exported_.object);
+  const pipe_mgr_digest_cb_t keep = [](pipe_session_handle_t, pipe_mgr_digest_message_t *message,
+                                       void *cookie) -> bf_status_t {
+    *static_cast<pipe_mgr_digest_message_t **>(cookie) = message;
+    return BF_SUCCESS;
   };
-  if (type.ends_with("_cb_t")) return give(reinterpret_cast<const void *>(&any_callback));
-  if (name == "cookie" || name == "client_data") return give(kAnyInput);
-  if (type == "p4_pd_idle_time_params_t") return give(&kAgeingParams);
-  if (!is_pointer(parameter) || !is_input(parameter)) return false;
-  if (name == "match_spec") return give(match_spec_.data());
-  if (name == "action_spec") return give(action_spec_.data());
-  if (name == "meter_spec") return give(&meter_spec_);
-  if (name == "hash") return give(kHash);
-  if (name == "placement") return give(placement_);
-  if (type == "const p4_pd_wred_params_t *") return give(&kWred);
-  return give(kAnyInput);
+  Arguments listen(*find_export("digest_register", digest.name));
+  listen.set("callback", reinterpret_cast<const void *>(keep)).set("cookie", &message_);
+  expect_done(listen);
+  const Bytes entry(digest.size, 0x11);
+  EXPECT_EQ(soft_digest_inject(kDevice, kPipe, digest.handle, entry.data(), 1, digest.size, nullptr),
+            BF_SUCCESS);
+  EXPECT_NE(message_, nullptr);
 }
 
-bool Scene::fill_value(const bindings::Parameter &parameter) {
-  if (is_pointer(parameter)) return false;
-  const std::string_view name = parameter.name;
-  const auto give = [&](uint64_t word) {
-    arguments_.set(name, word);
-    return true;
-  };
-  if (name == "priority") return give(priority_);
-  if (name == "entry") return give(entry_);
-  if (name == "member") return give(member_);
-  if (name == "group") return give(group_);
-  if (name == "meter") {
-    return give(std::string_view(exported_.family).starts_with("packets") ? 0x05000002
-                                                                          : 0x05000001);
+// Also those that are only named by a text.
+void Scene::configure_hashes() {
+  const p4_pd_hash_calc_attr_t attribute = {1, 0, 0x77};
+  for (const pdgen::Hash &hash : program().hashes) {
+    expect_done(Arguments(*find_export("hash_calc_input_set", hash.name)).set("input", uint64_t{0}));
+    Arguments algorithm(*find_export("hash_calc_algorithm_set", hash.name));
+    expect_done(algorithm.set("algorithm", uint64_t{0}));
+    Arguments set(*find_export("hash_calc_input_field_attribute_set", hash.name));
+    set.set("input", uint64_t{0}).set("attribute_count", uint64_t{1});
+    expect_done(set.set("attributes", &attribute));
   }
-  for (const NamedValue &row : kValues) {
-    if (name == row.name) return give(row.value);
-  }
-  return give(1);
 }
 
-void Scene::fill_output(const bindings::Parameter &parameter) {
-  Bytes &bytes = outputs_[parameter.name];
-  bytes.assign(output_size(parameter, table_), kUntouched);
-  arguments_.set(parameter.name, bytes.data());
-}
-
-const Bytes &Scene::output(std::string_view name) const {
-  const auto found = outputs_.find(name);
-  if (found == outputs_.end()) throw std::out_of_range(std::string(name));
-  return found->second;
-}
-
-std::string Scene::written_outputs() const {
-  std::string names;
-  for (const auto &[name, bytes] : outputs_) {
-    const bool untouched = std::ranges::all_of(bytes, [](uint8_t b) { return b == kUntouched; });
-    if (!untouched) names += name + " ";
-  }
-  return names;
-}
-
-uint64_t Scene::play() {
-  uint64_t result = 0;
-  calls_ = recorded([&] { result = arguments_.call(); });
-  return result;
+void Scene::take_snapshot() {
+  const unsigned bytes = program().snapshots->record_bytes;
+  const Bytes any(bytes);
+  Arguments create(*find_export("snapshot_create"));
+  create.set("pipe", uint64_t{kPipe}).set("direction", uint64_t{0});
+  create.set("first_stage", uint64_t{1}).set("last_stage", uint64_t{1});
+  expect_done(create.set("snapshot", &snapshot_));
+  Arguments trigger(*find_export("snapshot_capture_trigger_set"));
+  trigger.set("snapshot", uint64_t{snapshot_});
+  expect_done(trigger.set("value", any.data()).set("mask", any.data()));
+  uint32_t captures = 0;
+  EXPECT_EQ(soft_snapshot_inject(kDevice, kPipe, 0, 1, any.data(), 1, bytes, &captures), BF_SUCCESS);
+  EXPECT_EQ(captures, 1u);
 }
 
 }  // namespace pd_test

@@ -56,6 +56,10 @@ class Scene {
   void take_placement(uint32_t needs);
   p4_pd_status_t add_entry_of(const Bytes &match_spec, uint32_t *entry);
   void set_up_ageing();
+  void add_value_entries();
+  void send_digest();
+  void configure_hashes();
+  void take_snapshot();
 
   void fill_arguments();
   bool fill_input(const bindings::Parameter &parameter);
@@ -77,6 +81,10 @@ class Scene {
   uint32_t member_ = 0;
   uint32_t group_ = 0;
   uint32_t member_action_ = 0;
+  uint32_t snapshot_ = 0;
+  pipe_mgr_digest_message_t *message_ = nullptr;
+  pipe_stful_cell_t cells_[2 * kPipes] = {};
+  pipe_stful_query_t query_ = {2 * kPipes, cells_};
   pipe_mgr_placement_t *placement_ = nullptr;
   std::optional<Device> virtual_device_;
   std::map<std::string, Bytes, std::less<>> outputs_;

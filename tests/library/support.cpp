@@ -103,6 +103,8 @@ class Process : public testing::Environment {
  public:
   void SetUp() override {
     ASSERT_EQ(soft_session_open(&open_session), BF_SUCCESS);
+    soft::faults::fail_call("p4_pd_ms_init_state", 3, BF_NO_MEMORY);
+    first.failed_calls = recorded([] { first.failed_status = p4_pd_tessel_switch_init(); });
     first.calls = recorded([] { first.status = p4_pd_tessel_switch_init(); });
     ASSERT_EQ(first.status, BF_SUCCESS);
   }
@@ -146,7 +148,11 @@ Arguments::Arguments(const Export &exported)
       given_(exported.parameter_count) {
   if (takes("session")) set("session", session());
   if (takes("device")) set("device", kDevice);
-  if (takes("target")) set("target", &kTarget);
+  // A parser target has the name too; a scene gives it.
+  for (const bindings::Parameter &parameter : exported.parameter_list()) {
+    const bool device_target = std::string_view(parameter.type) == "p4_pd_device_target_t";
+    if (device_target) set(parameter.name, &kTarget);
+  }
 }
 
 bool Arguments::takes(std::string_view name) const {

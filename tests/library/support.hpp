@@ -62,8 +62,11 @@ const Export *find_export(std::string_view family, std::string_view object = "",
 // The session of all tests, open while the program runs.
 p4_pd_session_handle_t session();
 
-// What the first initialisation of the library in this process did.
+// The first initialisation of the library in this process: one for which the third state could not
+// be made, and the one after it.
 struct FirstInit {
+  p4_pd_status_t failed_status;
+  std::vector<Call> failed_calls;
   p4_pd_status_t status;
   std::vector<Call> calls;
 };

@@ -1,0 +1,149 @@
+// The public header compiles by itself for every language and ABI that a host may have, and is what
+// the generator makes of the catalogue.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "files.hpp"
+#include "pdgen/emit.hpp"
+#include "pdgen/load.hpp"
+
+namespace pd_test {
+namespace {
+
+// A folder that is gone with the object.
+class Scratch {
+ public:
+  Scratch() {
+    char name[] = "/tmp/pd_header_XXXXXX";
+    EXPECT_NE(mkdtemp(name), nullptr);
+    path_ = name;
+  }
+  ~Scratch() { std::filesystem::remove_all(path_); }
+  std::string write(const std::string &name, const std::string &text) const {
+    std::ofstream(path_ / name) << text;
+    return path_ / name;
+  }
+
+ private:
+  std::filesystem::path path_;
+};
+
+struct Dialect {
+  const char *compiler;
+  const char *language;
+  const char *standard;
+};
+constexpr Dialect kDialects[] = {
+    {"gcc", "c", "c99"},       {"gcc", "c", "c11"},       {"gcc", "c", "c17"},
+    {"g++", "c++", "c++17"},   {"g++", "c++", "c++20"},   {"clang", "c", "c99"},
+    {"clang", "c", "c11"},     {"clang", "c", "c17"},     {"clang++", "c++", "c++17"},
+    {"clang++", "c++", "c++20"},
+};
+
+bool is_installed(const std::string &compiler) {
+  return run("command -v " + compiler).status == 0;
+}
+
+Outcome compile(const Dialect &dialect, const char *abi, const std::string &source) {
+  return run(std::string(dialect.compiler) + " -x " + dialect.language + " -std=" +
+             dialect.standard + " " + abi +
+             " -fsyntax-only -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror"
+             " -I" PD_SOURCE_DIR "/include -I" PD_SOURCE_DIR "/sdk/include " +
+             source);
+}
+
+TEST(Header, CompilesByItselfEverywhere) {
+  const Scratch scratch;
+  const std::string source =
+      scratch.write("alone.c", "#include \"p4_pd_tessel_switch.h\"\nextern int end_of_file;\n");
+  size_t compilers = 0;
+  size_t checks = 0;
+  std::string last;
+  for (const Dialect &dialect : kDialects) {
+    if (!is_installed(dialect.compiler)) continue;
+    if (last != dialect.compiler) ++compilers;
+    last = dialect.compiler;
+    for (const char *abi : {"-m64", "-m32"}) {
+      const Outcome outcome = compile(dialect, abi, source);
+      EXPECT_EQ(outcome.status, 0) << dialect.compiler << " " << dialect.standard << " " << abi
+                                   << "\n" << outcome.output.substr(0, 2000);
+      ++checks;
+    }
+  }
+  EXPECT_GE(compilers, 2u);
+  // Three dialects of C and two of C++ by each family of compilers, on two ABIs.
+  EXPECT_EQ(checks, compilers / 2 * 5 * 2);
+}
+
+// Each header of the contract stands on its own feet too.
+TEST(Header, EveryOtherHeaderCompilesByItself) {
+  const Scratch scratch;
+  size_t checks = 0;
+  for (const char *folder : {"/include", "/sdk/include", "/sdk/soft/include"}) {
+    for (const auto &file : std::filesystem::directory_iterator(PD_SOURCE_DIR + std::string(folder))) {
+      if (file.path().extension() != ".h") continue;
+      const std::string source =
+          scratch.write("alone.c", "#include \"" + file.path().string() + "\"\nextern int end;\n");
+      const std::string more = source + " -I" PD_SOURCE_DIR "/sdk/soft/include";
+      for (const Dialect &dialect : {kDialects[0], kDialects[4]}) {
+        const Outcome outcome = compile(dialect, "-m32", more);
+        EXPECT_EQ(outcome.status, 0) << file.path() << "\n" << outcome.output.substr(0, 2000);
+        ++checks;
+      }
+    }
+  }
+  EXPECT_GE(checks, 2u * 22);
+}
+
+TEST(Header, ALayoutThatTheRulesGive) {
+  const Scratch scratch;
+  const std::string generated = read_file(PD_GENERATED_DIR "/layout_test.c");
+  for (const char *abi : {"-m64", "-m32"}) {
+    const Outcome outcome = compile({"gcc", "c", "c11"}, abi, scratch.write("layout.c", generated));
+    EXPECT_EQ(outcome.status, 0) << outcome.output.substr(0, 2000);
+  }
+  // It would be noticed.
+  std::string wrong = generated;
+  const size_t at = wrong.rfind(") == ");
+  ASSERT_NE(at, std::string::npos);
+  wrong.insert(at + 5, "1");
+  EXPECT_NE(compile({"gcc", "c", "c11"}, "-m64", scratch.write("wrong.c", wrong)).status, 0);
+  const std::string not_c = scratch.write("not_c.c", "namespace x { class y; }\n");
+  EXPECT_NE(compile(kDialects[0], "-m64", not_c).status, 0);
+  const std::string warns = scratch.write("warns.c", "char f(int x);\nchar f(int x) { return x; }\n");
+  EXPECT_NE(compile(kDialects[0], "-m64", warns).status, 0);
+}
+
+// ---- Checked-in outputs of the generator ----
+
+constexpr const char *kRenew = "\nThe catalogue or pdgen has changed: run scripts/generate.";
+
+class CheckedIn : public testing::Test {
+ protected:
+  const pdgen::LoadResult loaded_ = pdgen::load_program(PD_SOURCE_DIR "/catalogue");
+  const pdgen::Api api_ = pdgen::build_api(loaded_.program.value());
+};
+
+TEST_F(CheckedIn, TheHeaderIsFresh) {
+  const std::string header = read_file(PD_SOURCE_DIR "/include/p4_pd_tessel_switch.h");
+  EXPECT_EQ(first_difference(header, pdgen::emit_header(api_)), "") << kRenew;
+}
+
+TEST_F(CheckedIn, TheExportListIsFresh) {
+  const std::string exports = read_file(PD_SOURCE_DIR "/abi/exports.txt");
+  EXPECT_EQ(first_difference(exports, pdgen::emit_exports(api_)), "") << kRenew;
+}
+
+TEST_F(CheckedIn, AStaleFileWouldBeNoticed) {
+  const std::string fresh = pdgen::emit_exports(api_);
+  std::string stale = fresh;
+  stale.replace(stale.find("cpuEncap"), 8, "gpuEncap");
+  EXPECT_NE(first_difference(stale, fresh), "");
+  EXPECT_NE(first_difference(fresh.substr(0, fresh.size() - 1), fresh), "");
+}
+
+}  // namespace
+}  // namespace pd_test

@@ -1,0 +1,109 @@
+// The shared object as the linker and its host see it: it offers exactly the list of exports, and
+// asks for nothing but the SDK, cJSON and the C library.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <regex>
+
+#include "files.hpp"
+
+namespace pd_test {
+namespace {
+
+using Names = std::set<std::string>;
+
+// Names of the dynamic symbols that nm lists, without versions.
+Names symbols(const std::string &options) {
+  const Outcome outcome = run("nm -D " + options + " " + PD_LIBRARY);
+  EXPECT_EQ(outcome.status, 0) << outcome.output;
+  Names names;
+  for (const std::string &line : lines_of(outcome.output)) {
+    const std::string name = line.substr(line.rfind(' ') + 1);
+    names.insert(name.substr(0, name.find('@')));
+  }
+  return names;
+}
+
+Names exports_listed() {
+  Names names;
+  for (const std::string &line : lines_of(read_file(PD_SOURCE_DIR "/abi/exports.txt"))) {
+    names.insert(line);
+  }
+  return names;
+}
+
+// Every function that the SDK's headers declare.
+Names sdk_functions() {
+  Names names;
+  const std::regex call("([a-z0-9_]+)\\(");
+  for (const auto &file : std::filesystem::directory_iterator(PD_SOURCE_DIR "/sdk/include")) {
+    const std::string text = read_file(file.path());
+    for (std::sregex_iterator at(text.begin(), text.end(), call), end; at != end; ++at) {
+      names.insert((*at)[1]);
+    }
+  }
+  return names;
+}
+
+bool may_be_undefined(const std::string &name, const Names &sdk) {
+  static const Names libc = {
+      "inet_ntop", "malloc",  "free",    "memcmp", "memcpy",   "memmove", "memset",
+      "snprintf",  "sprintf", "dprintf", "strchr", "strcmp",   "strcpy",  "strlen",
+      "strncmp",   "strncpy", "strcat",  "write",  "vdprintf", "stpcpy",  "strcasecmp"};
+  // What the linker's start files ask for in every shared object.
+  static const Names linker = {"_ITM_deregisterTMCloneTable", "_ITM_registerTMCloneTable",
+                               "__cxa_finalize", "__gmon_start__", "__stack_chk_fail"};
+  return sdk.contains(name) || name.starts_with("cJSON_") || libc.contains(name) ||
+         linker.contains(name);
+}
+
+std::string not_allowed(const Names &undefined) {
+  const Names sdk = sdk_functions();
+  std::string text;
+  for (const std::string &name : undefined) text += may_be_undefined(name, sdk) ? "" : name + " ";
+  return text;
+}
+
+TEST(Symbols, AreExactlyTheListedExports) {
+  const Names listed = exports_listed();
+  EXPECT_GE(listed.size(), 2750u);
+  // The version of the exports is a symbol itself.
+  Names defined = symbols("--defined-only");
+  EXPECT_EQ(defined.erase("P4_PD_tessel_switch_1"), 1u);
+  EXPECT_EQ(difference(listed, defined), "");
+}
+
+TEST(Symbols, AskForTheSdkAndTheCLibraryOnly) {
+  if (PD_SANITIZED) GTEST_SKIP() << "a sanitizer brings its own";
+  EXPECT_EQ(not_allowed(symbols("--undefined-only")), "");
+}
+
+TEST(Symbols, NeedNoCxxRunTime) {
+  const Outcome outcome = run(std::string("readelf -d ") + PD_LIBRARY);
+  ASSERT_EQ(outcome.status, 0) << outcome.output;
+  Names needed;
+  std::string soname;
+  const std::regex entry("\\((NEEDED|SONAME)\\).*\\[([^\\]]+)\\]");
+  for (const std::string &line : lines_of(outcome.output)) {
+    std::smatch match;
+    if (!std::regex_search(line, match, entry)) continue;
+    if (match[1] == "SONAME") soname = match[2];
+    if (match[1] == "NEEDED") needed.insert(match[2]);
+  }
+  EXPECT_EQ(soname, "libp4_pd_tessel_switch.so.1");
+  if (PD_SANITIZED) return;
+  EXPECT_EQ(difference({"libc.so.6", "libcjson.so.1"}, needed), "");
+}
+
+TEST(Symbols, WouldBeMissed) {
+  Names listed = exports_listed();
+  listed.erase("bf_drv_hdl");
+  listed.insert("p4_pd_tessel_switch_nobody");
+  EXPECT_EQ(difference(exports_listed(), listed), "-bf_drv_hdl +p4_pd_tessel_switch_nobody ");
+  EXPECT_EQ(not_allowed({"memset", "pipe_mgr_mat_ent_add", "pipe_mgr_mat_ent_ad", "_Znwm"}),
+            "_Znwm pipe_mgr_mat_ent_ad ");
+  EXPECT_GE(sdk_functions().size(), 120u);
+}
+
+}  // namespace
+}  // namespace pd_test

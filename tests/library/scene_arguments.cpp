@@ -1,0 +1,185 @@
+// What the call of a scene is given.
+#include <algorithm>
+#include <iterator>
+
+#include "scene.hpp"
+#include "scene_values.hpp"
+
+namespace pd_test {
+
+namespace {
+
+// Arguments that are plain numbers.
+struct NamedValue {
+  const char *name;
+  uint64_t value;
+};
+constexpr NamedValue kValues[] = {
+    {"value", 1},
+    {"argument", 0},
+    {"count", 2},
+    {"max_size", 8},
+    {"state", P4_PD_GRP_MBR_STATE_INACTIVE},
+    {"hash_length", 4},
+    {"word", 0},
+    {"ttl", 60000},
+    {"hit_state", PIPE_ENTRY_ACTIVE},
+    {"read_from_hardware", 1},
+    {"index", 3},
+    {"wred", 0x07000001},
+    {"adjustment", 24},
+    {"has_pre_color", 0},
+    {"flags", 1},
+    {"input", 0},
+    {"algorithm", 0},
+    {"attribute_count", 1},
+    {"max_count", 2},
+    {"reg", 0x06000005},
+    {"first", 2},
+    {"index_count", 2},
+    {"mask", 1},
+    {"first_stage", 1},
+    {"last_stage", 2},
+    {"direction", 0},
+    {"virtual_device", kSceneVirtualDevice},
+    {"pipe", BF_ALL_PIPES},
+};
+
+const p4_pd_wred_params_t kWred = {12.5f, 100, 900, 0.25f};
+const uint8_t kHash[] = {0x12, 0x34, 0x56, 0x78};
+// Room for any record, zeroed: an input of a type that is not known here.
+const uint64_t kAnyInput[512] = {};
+
+void any_callback() {}
+void any_sync_callback(bf_device_id_t, void *) {}
+
+// Types that are passed by value and fit into no word.
+bool is_record(std::string_view type) {
+  constexpr std::string_view kNumbers[] = {"bool", "int", "size_t"};
+  const bool number = type.starts_with("uint") || type.starts_with("int") ||
+                      type.ends_with("_handle_t") ||
+                      std::ranges::find(kNumbers, type) != std::end(kNumbers);
+  return !number && !type.ends_with("*") && !type.ends_with("_cb_t");
+}
+
+// For a parameter that wants a name.
+const char *name_for(std::string_view parameter) {
+  if (parameter == "digest_name") return program().digests.front().name.c_str();
+  if (parameter == "field_name") return program().digests.front().fields.front().name.c_str();
+  return program().hashes.front().name.c_str();
+}
+
+// How much a call may write behind a pointer.
+size_t output_size(const bindings::Parameter &parameter, const pdgen::Table *table) {
+  const std::string_view type = parameter.type;
+  const std::string_view name = parameter.name;
+  constexpr std::string_view kLists[] = {"entries", "members", "groups"};
+  if (type.ends_with("_match_spec_t *")) return record_of(*table).size;
+  if (type.ends_with("_action_specs_t *")) return sizeof(p4_pd_tessel_switch_action_specs_t);
+  if (type.ends_with("_meter_spec_t *")) return sizeof(p4_pd_bytes_meter_spec_t);
+  if (type == "p4_pd_idle_time_params_t *") return sizeof(p4_pd_idle_time_params_t);
+  if (type == "bool *" || type == "uint8_t *") return 1;
+  if (type == "char *" && name == "action_name") return 61;
+  if (type == "void *" && name == "action_spec") {
+    return sizeof(p4_pd_tessel_switch_action_specs_t) - sizeof(uint32_t);
+  }
+  if (std::ranges::find(kLists, name) != std::end(kLists)) return 2 * sizeof(uint32_t);
+  if (name == "values" && type.starts_with("uint")) return 2 * kPipes * sizeof(uint32_t);
+  if (name == "hash") return 4;
+  if (type == "uint64_t *") return sizeof(uint64_t);
+  if (type == "uint32_t *" || type.ends_with("_handle_t *")) return sizeof(uint32_t);
+  return 1 << 16;
+}
+
+}  // namespace
+
+// ---- Arguments ----
+
+void Scene::fill_arguments() {
+  for (const bindings::Parameter &parameter : exported_.parameter_list()) {
+    const std::string_view name = parameter.name;
+    if (name == "session" || name == "device") continue;
+    if (fill_input(parameter) || fill_value(parameter)) continue;
+    fill_output(parameter);
+  }
+}
+
+bool Scene::fill_input(const bindings::Parameter &parameter) {
+  const std::string_view type = parameter.type;
+  const std::string_view name = parameter.name;
+  const auto give = [&](const void *object) {
+    arguments_.set(name, object);
+    return true;
+  };
+  if (type == "pipe_mgr_sync_cb_t") return give(reinterpret_cast<const void *>(&any_sync_callback));
+  if (type.ends_with("_cb_t")) return give(reinterpret_cast<const void *>(&any_callback));
+  if (name == "cookie" || name == "client_data") return give(kAnyInput);
+  if (type == "p4_pd_device_target_t") return give(&kTarget);
+  if (type == "p4_pd_parser_target_t") return give(&kSceneParser);
+  if (type == "p4_pd_idle_time_params_t") return give(&kSceneAgeing);
+  if (is_record(type)) return give(kAnyInput);
+  if (type == "const char *") return give(name_for(name));
+  if (type == "pipe_stful_query_t *") return give(&query_);
+  if (type == "pipe_mgr_digest_message_t *") return give(message_);
+  if (!is_pointer(parameter) || !is_input(parameter)) return false;
+  if (name == "match_spec") return give(match_spec_.data());
+  if (name == "action_spec") return give(action_spec_.data());
+  if (name == "meter_spec") return give(&meter_spec_);
+  if (name == "hash") return give(kHash);
+  if (name == "placement") return give(placement_);
+  if (type == "const p4_pd_wred_params_t *") return give(&kWred);
+  return give(kAnyInput);
+}
+
+bool Scene::fill_value(const bindings::Parameter &parameter) {
+  if (is_pointer(parameter)) return false;
+  const std::string_view name = parameter.name;
+  const auto give = [&](uint64_t word) {
+    arguments_.set(name, word);
+    return true;
+  };
+  if (name == "priority") return give(priority_);
+  if (name == "entry") return give(entry_);
+  if (name == "member") return give(member_);
+  if (name == "group") return give(group_);
+  if (name == "table") return give(table_->handle);
+  if (name == "snapshot") return give(snapshot_);
+  const std::string_view family = exported_.family;
+  if (name == "meter") return give(family.starts_with("packets") ? 0x05000002 : 0x05000001);
+  if (name == "property") {
+    return family.starts_with("pvs") ? give(PIPE_PVS_CAPACITY) : give(PIPE_TABLE_CAPACITY);
+  }
+  for (const NamedValue &row : kValues) {
+    if (name == row.name) return give(row.value);
+  }
+  return give(1);
+}
+
+void Scene::fill_output(const bindings::Parameter &parameter) {
+  Bytes &bytes = outputs_[parameter.name];
+  bytes.assign(output_size(parameter, table_), kUntouched);
+  arguments_.set(parameter.name, bytes.data());
+}
+
+const Bytes &Scene::output(std::string_view name) const {
+  const auto found = outputs_.find(name);
+  if (found == outputs_.end()) throw std::out_of_range(std::string(name));
+  return found->second;
+}
+
+std::string Scene::written_outputs() const {
+  std::string names;
+  for (const auto &[name, bytes] : outputs_) {
+    const bool untouched = std::ranges::all_of(bytes, [](uint8_t b) { return b == kUntouched; });
+    if (!untouched) names += name + " ";
+  }
+  return names;
+}
+
+uint64_t Scene::play() {
+  uint64_t result = 0;
+  calls_ = recorded([&] { result = arguments_.call(); });
+  return result;
+}
+
+}  // namespace pd_test
