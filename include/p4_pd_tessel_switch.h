@@ -14217,6 +14217,7 @@ typedef struct __attribute__((packed)) p4_pd_tessel_switch_snapshot_ingress_trig
   uint8_t tesselFlowMgmtHdr_valid;
   uint8_t reserved[230];
 } p4_pd_tessel_switch_snapshot_ingress_trigger_t;
+
 /* Trigger of egress snapshots, 634 bytes: field values, or the bits of them that count. */
 typedef struct __attribute__((packed)) p4_pd_tessel_switch_snapshot_egress_trigger {
   uint16_t eg_intr_md_egress_port;
@@ -14334,6 +14335,7 @@ typedef struct __attribute__((packed)) p4_pd_tessel_switch_snapshot_egress_trigg
   uint8_t fwMd_sipDrop;
   uint8_t reserved[376];
 } p4_pd_tessel_switch_snapshot_egress_trigger_t;
+
 /* What one stage captured, 634 bytes. Fields of several bytes have the most significant first. */
 typedef struct __attribute__((packed)) p4_pd_tessel_switch_snapshot_capture {
   uint8_t ig_intr_md_ingress_port[2];

@@ -15,7 +15,7 @@ constexpr const char *kGroup = "Snapshots";
 
 std::string padding(const Snapshots &snapshots, unsigned used) {
   if (used == snapshots.record_bytes) return "";
-  return fmt::format("  uint8_t reserved[{}];\n", snapshots.record_bytes - used);
+  return fmt::format("  uint8_t {}[{}];\n", padding_member(), snapshots.record_bytes - used);
 }
 
 std::string record(const std::string &remark, const std::string &type, const std::string &members) {
@@ -98,7 +98,7 @@ void add_snapshot_functions(Api &api) {
           "the capture could not be allocated.",
           snapshots.capture_limit));
   for (const SnapshotLayout &layout : snapshots.layouts) {
-    api.declare(kGroup, trigger_record(api.program(), layout));
+    api.declare(kGroup, trigger_record(api.program(), layout) + "\n");
   }
   api.declare(kGroup, capture_record(api.program()));
   add_functions(api);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "pdgen/load_sections.hpp"
+#include "pdgen/names.hpp"
 
 namespace pdgen {
 
@@ -116,6 +117,9 @@ SnapshotField read_snapshot_field(const TomlValue &value, const std::string &pat
   field.name = row.identifier("name");
   field.place = row.place("name");
   names.add(field.name, field.place, row.path("name"), diagnostics);
+  if (field.name == padding_member()) {
+    row.report("name", fmt::format("{} is the name of a record's padding", field.name));
+  }
   field.offset = used;
   field.bytes = row.number("bytes", 1, 0xffff).value_or(0);
   used += field.bytes;

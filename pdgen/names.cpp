@@ -124,6 +124,8 @@ std::string prefix_length_member(std::string_view field) {
   return fmt::format("{}_prefix_length", field);
 }
 
+std::string_view padding_member() { return "reserved"; }
+
 // --- Names that tools show ------------------------------------------------------------------
 
 namespace {

@@ -80,6 +80,7 @@ inline constexpr std::string_view kSizeFamilies[] = {"SCHEMA_MAX", "MATCH_SPEC_V
 std::string param_member(const Param &param);              // action_<param>
 std::string mask_member(std::string_view field);           // <field>_mask
 std::string prefix_length_member(std::string_view field);  // <field>_prefix_length
+std::string_view padding_member();                         // what fills a snapshot record up
 
 // --- Names that tools show ------------------------------------------------------------------
 

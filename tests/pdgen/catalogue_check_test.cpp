@@ -413,6 +413,9 @@ INSTANTIATE_TEST_SUITE_P(
         Slip{"SnapshotFieldSize", "snapshots.toml", "name = \"ip4_src\", bytes = 4",
              "name = \"ip4_src\", bytes = 3", "ip4_src",
              "layout.fields.bytes: 3 bytes of field ip4_src of layout ingress must be 1, 2 or 4"},
+        Slip{"SnapshotFieldIsPadding", "snapshots.toml", "name = \"slice\"", "name = \"reserved\"",
+             "name = \"reserved\"",
+             "layout.fields.name: reserved is the name of a record's padding"},
         Slip{"SnapshotBeyondRecord", "snapshots.toml", "record_bytes = 16", "record_bytes = 7",
              "\"in_port\", bytes = 2 },\n]\n\n[[layout]]\nname = \"ingress\"",
              "capture: field in_port ends at byte 8, beyond the 7 bytes of a record"}));
