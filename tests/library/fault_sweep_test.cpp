@@ -15,12 +15,12 @@ bool returns_status(const Export &exported) {
   return std::string_view(exported.result) == "p4_pd_status_t";
 }
 
-// Calls that record a change which the pipeline manager has made already, or that prepare a service;
-// what they answer cannot change the result.
+// Calls that record a change which the pipeline manager has made already, or that prepare a
+// service; what they answer cannot change the result.
 bool is_ignored(const std::string &function) {
   static const std::set<std::string> ignored = {
-      "p4_pd_ms_init",     "p4_pd_ms_init_state",     "p4_pd_ms_new_mbr",
-      "p4_pd_ms_set_mbr_act", "p4_pd_ms_del_mbr",     "p4_pd_ms_new_grp",
+      "p4_pd_ms_init",           "p4_pd_ms_init_state",       "p4_pd_ms_new_mbr",
+      "p4_pd_ms_set_mbr_act",    "p4_pd_ms_del_mbr",          "p4_pd_ms_new_grp",
       "p4_pd_ms_add_mbr_to_grp", "p4_pd_ms_del_mbr_from_grp", "p4_pd_ms_set_grp_act",
       "p4_pd_ms_mbr_get_res"};
   return ignored.contains(function);
@@ -136,7 +136,8 @@ bool may_be_null(std::string_view family, std::string_view name) {
   if (name == "callback" || name == "cookie" || name == "client_data") return true;
   if (name == "handle") return true;  // nothing is written then
   if (name == "action_name" || name == "action") return family == "get_entry";
-  return name == "meter_spec" && (family.starts_with("table_modify") || family == "set_default_action");
+  return name == "meter_spec" &&
+         (family.starts_with("table_modify") || family == "set_default_action");
 }
 
 class NullSweep : public testing::Test {

@@ -13,9 +13,13 @@ std::vector<std::string> functions_of(const std::vector<Call> &calls) {
 }
 
 TEST(Frame, TheFirstInitMakesAStatePerProfileAndRegisters) {
-  const std::vector<std::string> wanted = {
-      "p4_pd_ms_init",       "p4_pd_ms_init_state", "p4_pd_ms_init_state", "p4_pd_ms_init_state",
-      "p4_pd_ms_init_state", "bf_drv_register",     "bf_drv_client_register_callbacks"};
+  const std::vector<std::string> wanted = {"p4_pd_ms_init",
+                                           "p4_pd_ms_init_state",
+                                           "p4_pd_ms_init_state",
+                                           "p4_pd_ms_init_state",
+                                           "p4_pd_ms_init_state",
+                                           "bf_drv_register",
+                                           "bf_drv_client_register_callbacks"};
   EXPECT_EQ(functions_of(first_init().calls), wanted);
   ASSERT_EQ(first_init().calls.size(), wanted.size());
   EXPECT_EQ(first_init().calls[5].get<std::string>("client_name"), kClient);
@@ -45,8 +49,7 @@ TEST(Frame, TheFrameworkHoldsThreeCallbacks) {
 
 TEST(Frame, ASecondInitKeepsTheStates) {
   const auto refused = recorded([] { EXPECT_EQ(PD(init)(), P4_PD_DRIVER_REFUSED); });
-  EXPECT_EQ(functions_of(refused),
-            (std::vector<std::string>{"p4_pd_ms_init", "bf_drv_register"}));
+  EXPECT_EQ(functions_of(refused), (std::vector<std::string>{"p4_pd_ms_init", "bf_drv_register"}));
   EXPECT_EQ(soft_client_count(), 1u);
 }
 
