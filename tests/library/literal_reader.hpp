@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-namespace text_test {
+namespace pd_test {
 
 struct Literal {
   enum Kind { kTuple, kText, kNumber, kWord };
@@ -86,7 +86,7 @@ class LiteralReader {
       rest_.remove_prefix(end + 1);
       return item.text.find('\\') == std::string::npos;
     }
-    size_t end = 0;
+    size_t end = rest_.starts_with('-') ? 1 : 0;
     while (end < rest_.size() && std::isalnum(static_cast<unsigned char>(rest_[end]))) ++end;
     item.text = rest_.substr(0, end);
     rest_.remove_prefix(end);
@@ -99,7 +99,7 @@ class LiteralReader {
   static bool is_number(std::string &text) {
     if (text.ends_with('L')) text.pop_back();
     const bool hex = text.starts_with("0x");
-    const std::string digits = hex ? text.substr(2) : text;
+    const std::string digits = text.substr(hex ? 2 : text.starts_with('-') ? 1 : 0);
     const bool octal = !hex && digits.size() > 1 && digits[0] == '0';
     const char *allowed = hex ? "0123456789abcdefABCDEF" : "0123456789";
     return !digits.empty() && !octal && digits.find_first_not_of(allowed) == std::string::npos;
@@ -112,4 +112,4 @@ inline std::optional<Literal> read_literal(std::string_view text) {
   return LiteralReader(text).read();
 }
 
-}  // namespace text_test
+}  // namespace pd_test

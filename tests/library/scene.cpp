@@ -91,6 +91,7 @@ constexpr NamedValue kValues[] = {
     {"flags", 0},
     {"virtual_device", kVirtualDevice},
     {"pipe", BF_ALL_PIPES},
+    {"descriptor", ~uint64_t{0}},  // of no file
 };
 
 const p4_pd_idle_time_params_t kAgeingParams = {PIPE_IDLE_NOTIFY, 100, 70000, 0, 0, 0x5a5a5a5a};

@@ -1,10 +1,10 @@
 // Schemas: rows to the letter, and every object's schema against its record.
-#include <algorithm>
+#include <bit>
 #include <set>
 
 #include "text_fixture.hpp"
 
-namespace text_test {
+namespace pd_test {
 namespace {
 
 std::string written(const Export &function) {
@@ -138,12 +138,12 @@ TEST(Schema, TablesAreAssembledOfTheirParts) {
     EXPECT_EQ(text.find(key), std::string("( ('','mat',(,)),").size() + std::strlen(table.name) +
                                   head[2][0].text.size());
     const std::vector<Literal> &listed = (*schema)[2].items;
-    if (!keyed) EXPECT_EQ(listed.size(), 1u) << table.name;
+    EXPECT_TRUE(keyed || listed.size() == 1) << table.name;
     if (bound.count(table.name) != 0) continue;
     std::string joined;
     for (size_t i = 0; i < listed.size(); ++i) {
       ASSERT_TRUE(listed[i].is_tuple(2) && listed[i][0].kind == Literal::kText) << text;
-      if (i > 0) EXPECT_LT(listed[i - 1][0].text, listed[i][0].text) << table.name;
+      EXPECT_TRUE(i == 0 || listed[i - 1][0].text < listed[i][0].text) << table.name;
       joined += constant_text("action_schema", listed[i][0].text) + ",";
     }
     EXPECT_TRUE(text.ends_with("," + key + ",(" + joined + "))")) << text;
@@ -191,9 +191,7 @@ TEST(Schema, ProfilesAndUnknownHandles) {
   for (const uint32_t handle : {0u, 0x01000000u, 0x01000079u, 0x02000030u, 0xffffffffu}) {
     EXPECT_EQ(cli_schema(handle), "()");
   }
-  EXPECT_EQ(p4_pd_tessel_switch_cli_schema(0x01000001, nullptr), 0);
-  EXPECT_EQ(p4_pd_tessel_switch_vlanDecap_schema(nullptr), 0);
 }
 
 }  // namespace
-}  // namespace text_test
+}  // namespace pd_test

@@ -1,5 +1,5 @@
-// Exports found and called by family and object, records set by the names of their members, and
-// buffers that notice a byte too many.
+// For tests of texts: records set by the names of their members, and buffers that notice a byte too
+// many.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -7,48 +7,19 @@
 #include <cstdint>
 #include <cstring>
 #include <initializer_list>
-#include <map>
 #include <random>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-#include "bindings/export_table.hpp"
 #include "literal_reader.hpp"
-#include "p4_pd_tessel_switch.h"
+#include "support.hpp"
 
-namespace text_test {
+namespace pd_test {
 
-using bindings::Export;
 using bindings::Member;
 using bindings::Record;
-
-inline std::vector<const Export *> exports_of(std::string_view family) {
-  std::vector<const Export *> found;
-  for (size_t list = 0; list < bindings::binding.list_count; ++list) {
-    const bindings::ExportList &rows = *bindings::binding.lists[list];
-    for (size_t i = 0; i < rows.count; ++i) {
-      if (rows.rows[i].family == family) found.push_back(&rows.rows[i]);
-    }
-  }
-  return found;
-}
-
-// Null when the object has no such function.
-inline const Export *find_export(const std::string &family, const std::string &object) {
-  static std::map<std::pair<std::string, std::string>, const Export *> all;
-  if (all.empty()) {
-    for (size_t list = 0; list < bindings::binding.list_count; ++list) {
-      const bindings::ExportList &rows = *bindings::binding.lists[list];
-      for (size_t i = 0; i < rows.count; ++i) {
-        all.emplace(std::pair(rows.rows[i].family, rows.rows[i].object), &rows.rows[i]);
-      }
-    }
-  }
-  const auto found = all.find({family, object});
-  return found == all.end() ? nullptr : found->second;
-}
 
 inline uint64_t word(const void *pointer) { return reinterpret_cast<uintptr_t>(pointer); }
 inline uint64_t word(uint64_t number) { return number; }
@@ -60,8 +31,7 @@ uint64_t call(const Export &function, Argument... arguments) {
   return function.call(words);
 }
 
-template <class... Argument>
-std::string constant_text(const std::string &family, const std::string &object) {
+inline std::string constant_text(const std::string &family, const std::string &object) {
   return reinterpret_cast<const char *>(static_cast<uintptr_t>(call(*find_export(family, object))));
 }
 
@@ -160,4 +130,4 @@ inline std::vector<Literal> schema_fields(const std::string &table) {
   return schema ? schema->items : std::vector<Literal>{};
 }
 
-}  // namespace text_test
+}  // namespace pd_test

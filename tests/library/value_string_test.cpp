@@ -3,7 +3,7 @@
 
 #include "text_fixture.hpp"
 
-namespace text_test {
+namespace pd_test {
 namespace {
 
 std::string key_value(const Spec &spec) {
@@ -123,17 +123,5 @@ TEST(ValueString, EveryAction) {
   }
 }
 
-TEST(ValueString, NullPointersGiveNothing) {
-  TextBuffer buffer(P4_PD_TESSEL_SWITCH_VALUE_MAX);
-  const Spec spec("cpuEncap", {});
-  const Export &key = *find_export("match_spec_value", "cpuEncap");
-  const void *const none = nullptr;
-  EXPECT_EQ(call(key, none, buffer.data()), 0u);
-  EXPECT_EQ(call(key, spec.data(), none), 0u);
-  EXPECT_EQ(p4_pd_tessel_switch_trapPktToCpuUntagged_value(nullptr, buffer.data()), 0);
-  EXPECT_EQ(p4_pd_tessel_switch_removeTesselHdrs_value(nullptr), 0);
-  EXPECT_TRUE(buffer.is_untouched());
-}
-
 }  // namespace
-}  // namespace text_test
+}  // namespace pd_test
