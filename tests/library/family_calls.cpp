@@ -220,29 +220,6 @@ const std::vector<FamilyCalls> &family_calls() {
       {"restore_virtual_dev_state", 1,
        "pipe_mgr_hitless_ha_restore_virtual_dev_state(session, device, virtual_device, pipe, "
        "flags, local)"},
-
-      // Introspection. Only what shows an entry of a device reads it.
-      {"match_spec_schema", 85, ""},
-      {"action_schema", 232, ""},
-      {"table_schema", 120, ""},
-      {"profile_schema", 4, ""},
-      {"cli_schema", 1, ""},
-      {"match_spec_value", 85, ""},
-      {"action_value", 232, ""},
-      {"table_value", 120,
-       "pipe_mgr_get_entry(session, table, device, entry, key_buffer, data_buffer, local, "
-       "read_from_hardware)"},
-      {"match_spec_print", 85, ""},
-      {"action_print", 103, ""},
-      {"match_spec_stringify_for_counter", 8, ""},
-      {"stringify_counter_match_spec", 8,
-       "pipe_mgr_get_entry(session, table, device, entry, key_buffer, data_buffer, local, 1)"},
-      {"stringify_counter_matchspec", 1, ""},
-      {"match_specs_are_equal", 85, ""},
-      {"action_specs_are_equal", 103, ""},
-      {"width", 318, ""},
-      {"action_enum_to_string", 1, ""},
-      {"action_string_to_enum", 1, ""},
   };
   return rows;
 }

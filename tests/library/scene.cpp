@@ -12,16 +12,16 @@ namespace {
 // What must be there for a call of a family to succeed. An entry, member or group that a parameter
 // names, and the entry of a match spec that only names one, are there without saying so.
 enum Need : uint32_t {
-  kEntry = 1,           // the table has an entry
-  kSecond = 2,          // ... and another object behind it
-  kDefault = 4,         // the default entry is set
-  kAgeing = 8,          // the table ages its entries
-  kMember = 16,         // the profile has a member
-  kGroup = 32,          // ... and a group
-  kJoined = 64,         // ... and the member is in it
-  kNewKey = 128,        // the match spec names no entry yet
-  kPlacement = 256,     // placement data of the entry or member
-  kVirtual = 512,       // a second, virtual device
+  kEntry = 1,          // the table has an entry
+  kSecond = 2,         // ... and another object behind it
+  kDefault = 4,        // the default entry is set
+  kAgeing = 8,         // the table ages its entries
+  kMember = 16,        // the profile has a member
+  kGroup = 32,         // ... and a group
+  kJoined = 64,        // ... and the member is in it
+  kNewKey = 128,       // the match spec names no entry yet
+  kPlacement = 256,    // placement data of the entry or member
+  kVirtual = 512,      // a second, virtual device
   kDeregistered = 1024  // the library is not registered with the driver framework
 };
 
@@ -91,7 +91,6 @@ constexpr NamedValue kValues[] = {
     {"flags", 0},
     {"virtual_device", kVirtualDevice},
     {"pipe", BF_ALL_PIPES},
-    {"descriptor", ~uint64_t{0}},  // of no file
 };
 
 const p4_pd_idle_time_params_t kAgeingParams = {PIPE_IDLE_NOTIFY, 100, 70000, 0, 0, 0x5a5a5a5a};
@@ -314,10 +313,10 @@ void Scene::set_up_ageing() {
 void Scene::take_placement(uint32_t needs) {
   const bool member = (needs & kEntry) == 0;
   if (!member && entry_ == 0) return;
-  EXPECT_EQ(
-      member ? soft_placement_of_member(kDevice, profile_->action_data_handle, member_, &placement_)
-             : soft_placement_of_entry(kDevice, table_->handle, entry_, &placement_),
-      BF_SUCCESS)
+  EXPECT_EQ(member ? soft_placement_of_member(kDevice, profile_->action_data_handle, member_,
+                                              &placement_)
+                   : soft_placement_of_entry(kDevice, table_->handle, entry_, &placement_),
+            BF_SUCCESS)
       << exported_.name;
 }
 
