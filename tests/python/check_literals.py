@@ -93,7 +93,8 @@ def main(soft_sdk, path, exports):
     ctypes.CDLL(soft_sdk, mode=ctypes.RTLD_GLOBAL)
     library = ctypes.CDLL(path, mode=os.RTLD_LAZY)
     names = [line[len(PREFIX):] for line in open(exports).read().split() if line.startswith(PREFIX)]
-    tables = [name[: -len("_get_entry_count")] for name in names if name.endswith("_get_entry_count")]
+    counts = [name for name in names if name.endswith("_get_entry_count")]
+    tables = [name[: -len("_get_entry_count")] for name in counts]
     for table in tables:
         check_table(library, table)
     profiles = [name[: -len("_create_group")] for name in names if name.endswith("_create_group")]
