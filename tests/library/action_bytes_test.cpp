@@ -58,7 +58,7 @@ TEST_F(ActionBytes, OfParameters) {
                 14, "01 ab 1f", "");
 
   const PD(setMirrorPacketEncapGreIpv4_action_spec_t)
-  gre = {0x0a000001, 0xc0a80102, 64, 0x2e, 0x88be, 0x0fed, 0x00abcdef, 0x00123456};
+      gre = {0x0a000001, 0xc0a80102, 64, 0x2e, 0x88be, 0x0fed, 0x00abcdef, 0x00123456};
   const PD(mirrorPacketEncap_match_spec_t) mirror = {};
   expect_action(sent([&] {
                   return PD(mirrorPacketEncap_table_add_with_setMirrorPacketEncapGreIpv4)(
@@ -301,9 +301,9 @@ TEST_F(StormControl, RefusesAMeterThatLooksAtColours) {
     meter_.meter_type = type;
     const auto calls = recorded([&] {
       EXPECT_EQ(add(&meter_), P4_PD_METER_TYPE_REFUSED);
-      EXPECT_EQ(PD(l2LookupMiss_table_modify_with_l2LookupBcastHit)(session(), kDevice, entry_,
-                                                                    &meter_),
-                P4_PD_METER_TYPE_REFUSED);
+      EXPECT_EQ(
+          PD(l2LookupMiss_table_modify_with_l2LookupBcastHit)(session(), kDevice, entry_, &meter_),
+          P4_PD_METER_TYPE_REFUSED);
       EXPECT_EQ(PD(l2LookupMiss_set_default_action_l2LookupBcastHit)(session(), kTarget, &meter_,
                                                                      &entry_),
                 P4_PD_METER_TYPE_REFUSED);

@@ -72,8 +72,8 @@ TEST(Handles, PrioritiesBelongToTernaryTables) {
   for (const pdgen::Table &table : program().tables) {
     const Export &answer = *find_export("supports_entry_priority", table.name);
     const bool takes_priority =
-        table.keyed() && Arguments(*find_export("match_spec_to_entry_hdl", table.name))
-                             .takes("priority");
+        table.keyed() &&
+        Arguments(*find_export("match_spec_to_entry_hdl", table.name)).takes("priority");
     EXPECT_EQ(Arguments(answer).call(), takes_priority ? 1u : 0u) << table.name;
     if (takes_priority) ++with_priority;
   }
@@ -92,9 +92,11 @@ TEST(Handles, AddUpToTheProgram) {
   }
   EXPECT_EQ(names.size(), 232u);
   EXPECT_EQ(longest, 60u);
-  EXPECT_STREQ(p4_pd_tessel_switch_action_name_strings[0], "p4_pd_tessel_switch_trapPktToCpuUntagged");
+  EXPECT_STREQ(p4_pd_tessel_switch_action_name_strings[0],
+               "p4_pd_tessel_switch_trapPktToCpuUntagged");
   EXPECT_STREQ(p4_pd_tessel_switch_action_name_strings[14], "p4_pd_tessel_switch_dipHashCompute");
-  EXPECT_STREQ(p4_pd_tessel_switch_action_name_strings[231], "p4_pd_tessel_switch_setVlanProperties");
+  EXPECT_STREQ(p4_pd_tessel_switch_action_name_strings[231],
+               "p4_pd_tessel_switch_setVlanProperties");
 }
 
 }  // namespace

@@ -170,8 +170,12 @@ class Comparison {
 
   // Without the holes between the members.
   static std::array<uint64_t, 7> words_of(const pipe_mgr_meter_spec_t &meter) {
-    return {meter.type,           meter.committed_rate.unit, meter.committed_rate.value,
-            meter.committed_burst, meter.peak_rate.unit,      meter.peak_rate.value,
+    return {meter.type,
+            meter.committed_rate.unit,
+            meter.committed_rate.value,
+            meter.committed_burst,
+            meter.peak_rate.unit,
+            meter.peak_rate.value,
             meter.peak_burst};
   }
 
@@ -260,7 +264,8 @@ class Comparison {
 
   uint32_t pair_handle() const {
     const char *action = scene_.exported().action;
-    const bool of_profile = pdgen::find_row(program().profiles, scene_.exported().object) != nullptr;
+    const bool of_profile =
+        pdgen::find_row(program().profiles, scene_.exported().object) != nullptr;
     return of_profile ? pair_of(*scene_.profile(), action)->handle
                       : pair_of(*scene_.table(), action)->handle;
   }

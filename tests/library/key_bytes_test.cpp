@@ -102,16 +102,16 @@ TEST_F(KeyBytes, StartWithTheFirstFieldInKeyOrder) {
   trap.ingMd_srcPort_mask = 0xff00;
   trap.phase0_ingVPort = 0x2fff;
   trap.phase0_ingVPort_mask = 0xffff;
-  expect_key(
-      sent([&] {
-        return PD(trapToCpu_table_add_with_noOp)(session(), kTarget, &trap, 0x80000001, &entry_);
-      }),
-      287,
-      "08 06 00 00 00 12 00 00 00 2f ff 00 00 00 00 01 01 02 00 0a 01 02 00 00 00 00 "
-      "ff 00 00 00 00 00 00 00 00 00 00 00 00 00 00 02 00 0b",
-      "ff ff 00 00 00 ff 00 00 00 3f ff 00 00 00 00 01 ff ff 00 ff ff ff 00 00 00 00 "
-      "ff 00 00 00 00 00 00 00 00 00 00 00 00 00 00 03 00 0f",
-      0x80000001);
+  expect_key(sent([&] {
+               return PD(trapToCpu_table_add_with_noOp)(session(), kTarget, &trap, 0x80000001,
+                                                        &entry_);
+             }),
+             287,
+             "08 06 00 00 00 12 00 00 00 2f ff 00 00 00 00 01 01 02 00 0a 01 02 00 00 00 00 "
+             "ff 00 00 00 00 00 00 00 00 00 00 00 00 00 00 02 00 0b",
+             "ff ff 00 00 00 ff 00 00 00 3f ff 00 00 00 00 01 ff ff 00 ff ff ff 00 00 00 00 "
+             "ff 00 00 00 00 00 00 00 00 00 00 00 00 00 00 03 00 0f",
+             0x80000001);
 }
 
 TEST_F(KeyBytes, CutTheMaskButNotTheValue) {
@@ -120,8 +120,8 @@ TEST_F(KeyBytes, CutTheMaskButNotTheValue) {
   prune.egrMd_egrL2AintfUnresolved_mask = 0xfffff;
   const PD(setPruneParams_action_spec_t) params = {};
   expect_key(sent([&] {
-               return PD(mcastPrune_table_add_with_setPruneParams)(
-                   session(), kTarget, &prune, 1, &params, &entry_);
+               return PD(mcastPrune_table_add_with_setPruneParams)(session(), kTarget, &prune, 1,
+                                                                   &params, &entry_);
              }),
              42, "00 00 00 00 01 23 00 00", "00 00 00 0f ff ff 00 00", 1);
 
@@ -242,13 +242,11 @@ TEST_F(KeyBytes, OfIpv6Prefixes) {
   for (const Prefix &prefix : prefixes) {
     SCOPED_TRACE(prefix.length);
     PD(ipv6ShortMaskLpm_match_spec_t)
-    key = {9,
-           {0x20, 0x01, 0x0d, 0xb8, 0, 0, 0xff, 0xff, 1, 2, 3, 4, 5, 6, 7, 0xff},
-           prefix.length};
+    key = {9, {0x20, 0x01, 0x0d, 0xb8, 0, 0, 0xff, 0xff, 1, 2, 3, 4, 5, 6, 7, 0xff}, prefix.length};
     const Call call = only_call([&] {
-      EXPECT_EQ(
-          PD(ipv6ShortMaskLpm_table_add_with_setNextHop)(session(), kTarget, &key, &hop, 0, &entry_),
-          BF_SUCCESS);
+      EXPECT_EQ(PD(ipv6ShortMaskLpm_table_add_with_setNextHop)(session(), kTarget, &key, &hop, 0,
+                                                               &entry_),
+                BF_SUCCESS);
     });
     expect_key(call.get<soft::journal::MatchSpec>("match"), 136, prefix.value, prefix.mask,
                prefix.priority);

@@ -81,18 +81,16 @@ TEST_F(Meter, ReadsTheLowHalves) {
     EXPECT_EQ(read.peak_burst, 8u);
     EXPECT_EQ(read.meter_type, 0u);
   };
-  expect_read([](auto *spec) {
-    return PD(meter_read_ingressMirrorMeter)(session(), kTarget, 3, spec);
-  });
-  expect_read([](auto *spec) {
-    return PD(bytes_meter_read)(session(), kTarget, 0x05000006, 3, spec);
-  });
+  expect_read(
+      [](auto *spec) { return PD(meter_read_ingressMirrorMeter)(session(), kTarget, 3, spec); });
+  expect_read(
+      [](auto *spec) { return PD(bytes_meter_read)(session(), kTarget, 0x05000006, 3, spec); });
   expect_read([](auto *spec) {
     p4_pd_packets_meter_spec_t packets = {};
     const p4_pd_status_t status =
         PD(packets_meter_read)(session(), kTarget, 0x05000006, 3, &packets);
-    *spec = {packets.committed_rate, packets.committed_burst, packets.peak_rate,
-             packets.peak_burst, packets.meter_type};
+    *spec = {packets.committed_rate, packets.committed_burst, packets.peak_rate, packets.peak_burst,
+             packets.meter_type};
     return status;
   });
 }
@@ -135,9 +133,8 @@ TEST_F(Meter, OfAnEntryGoesByTableAndEntry) {
 
 TEST_F(Meter, PassesWredProfilesOnAsTheyAre) {
   const p4_pd_wred_params_t params = {1.5f, 0xfffffffe, 3, 0.75f};
-  const Call call = only_call([&] {
-    EXPECT_EQ(PD(wred_set)(session(), kTarget, 0x07000009, 6, &params), BF_SUCCESS);
-  });
+  const Call call = only_call(
+      [&] { EXPECT_EQ(PD(wred_set)(session(), kTarget, 0x07000009, 6, &params), BF_SUCCESS); });
   EXPECT_EQ(call.function, "pipe_mgr_wred_ent_set");
   EXPECT_EQ(call.scalar("wred"), 0x07000009u);
   EXPECT_EQ(call.scalar("index"), 6u);

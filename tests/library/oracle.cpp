@@ -156,9 +156,8 @@ ActionImage action_image(const pdgen::Action &action, const uint8_t *record) {
   Bits data;
   for (const pdgen::Param &param : action.params) {
     const size_t whole = whole_bytes(param.width);
-    data += param.is_index()
-                ? Bits::repeated(false, 32)
-                : Bits::of_member(record, member_of(layout, param.name)).lowest(whole);
+    data += param.is_index() ? Bits::repeated(false, 32)
+                             : Bits::of_member(record, member_of(layout, param.name)).lowest(whole);
     image.bits = static_cast<uint16_t>(image.bits + param.width);
   }
   image.data = data.bytes();
@@ -231,9 +230,9 @@ Bytes kept_action_spec(const pdgen::Action &action, const ActionImage &image) {
           if (resource.handle == source->handle) cell = resource.index;
         }
       }
-      const uint8_t big_endian[] = {
-          static_cast<uint8_t>(cell >> 24), static_cast<uint8_t>(cell >> 16),
-          static_cast<uint8_t>(cell >> 8), static_cast<uint8_t>(cell)};
+      const uint8_t big_endian[] = {static_cast<uint8_t>(cell >> 24),
+                                    static_cast<uint8_t>(cell >> 16),
+                                    static_cast<uint8_t>(cell >> 8), static_cast<uint8_t>(cell)};
       value = Bits::of_bytes(big_endian, 4);
     }
     value.store(kept.data(), member_of(layout, param.name));

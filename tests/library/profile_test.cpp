@@ -13,9 +13,9 @@ class LagProfile : public LibraryTest {
   p4_pd_member_handle_t add_lag_port(uint16_t port = 0x1ff) {
     const PD(setLagPort_action_spec_t) spec = {port};
     p4_pd_member_handle_t member = 0;
-    EXPECT_EQ(PD(lagPortActionProfile_add_member_with_setLagPort)(session(), kTarget, &spec,
-                                                                  &member),
-              BF_SUCCESS);
+    EXPECT_EQ(
+        PD(lagPortActionProfile_add_member_with_setLagPort)(session(), kTarget, &spec, &member),
+        BF_SUCCESS);
     return member;
   }
   p4_pd_member_handle_t add_tunnel() {
@@ -63,16 +63,16 @@ TEST_F(LagProfile, AMemberTravelsAsBareData) {
 TEST_F(LagProfile, AMemberKeepsItsAction) {
   const p4_pd_member_handle_t member = add_lag_port();
   const auto refused = recorded([&] {
-    EXPECT_EQ(PD(lagPortActionProfile_modify_member_with_setPhysicalPort)(session(), kDevice,
-                                                                          member),
-              0xffffffffu);
+    EXPECT_EQ(
+        PD(lagPortActionProfile_modify_member_with_setPhysicalPort)(session(), kDevice, member),
+        0xffffffffu);
   });
   ASSERT_EQ(refused.size(), 1u);
   EXPECT_EQ(refused[0].function, "p4_pd_ms_get_mbr_act");
   const PD(setLagPort_action_spec_t) spec = {3};
-  EXPECT_EQ(PD(lagPortActionProfile_modify_member_with_setLagPort)(session(), kDevice, member,
-                                                                   &spec),
-            BF_SUCCESS);
+  EXPECT_EQ(
+      PD(lagPortActionProfile_modify_member_with_setLagPort)(session(), kDevice, member, &spec),
+      BF_SUCCESS);
   PD(action_specs_t) read = {};
   ASSERT_EQ(PD(lagPortActionProfile_get_member)(session(), kDevice, member, false, &read),
             BF_SUCCESS);
@@ -136,9 +136,9 @@ TEST_F(LagProfile, AGroupHasTheActionOfItsLastMember) {
   ASSERT_EQ(leave(group, port), BF_SUCCESS);
   ASSERT_EQ(join(group, port), BF_SUCCESS);
   calls = recorded([&] {
-    EXPECT_EQ(PD(lagGroup_modify_entry_with_selector_by_match_spec)(session(), kTarget, &key_, 9,
-                                                                    group),
-              BF_SUCCESS);
+    EXPECT_EQ(
+        PD(lagGroup_modify_entry_with_selector_by_match_spec)(session(), kTarget, &key_, 9, group),
+        BF_SUCCESS);
   });
   EXPECT_EQ(calls.at(1).scalar("action"), kSetLagPort);
 }
@@ -164,9 +164,9 @@ TEST_F(LagProfile, MemberStates) {
   uint32_t state = kUnwritten;
   for (const uint32_t wanted : {1u, 0u, 1u}) {
     EXPECT_EQ(set(wanted), BF_SUCCESS);
-    EXPECT_EQ(PD(lagPortActionProfile_group_member_state_get)(session(), kDevice, group, member,
-                                                              &state),
-              BF_SUCCESS);
+    EXPECT_EQ(
+        PD(lagPortActionProfile_group_member_state_get)(session(), kDevice, group, member, &state),
+        BF_SUCCESS);
     EXPECT_EQ(state, wanted);
   }
   const auto refused = recorded([&] {
@@ -183,8 +183,7 @@ TEST_F(LagProfile, TheStateIsAskedForTheLowByteOfTheDevice) {
   const p4_pd_member_handle_t member = add_lag_port();
   const p4_pd_device_target_t far = {0x100 + kDevice, kPipe};
   const auto calls = recorded([&] {
-    EXPECT_EQ(PD(lagGroup_add_entry)(session(), far, &key_, 9, member, &entry_),
-              BF_INVALID_DEVICE);
+    EXPECT_EQ(PD(lagGroup_add_entry)(session(), far, &key_, 9, member, &entry_), BF_INVALID_DEVICE);
   });
   ASSERT_EQ(calls.size(), 2u);
   EXPECT_EQ(calls[0].scalar("device"), kDevice);
@@ -225,10 +224,10 @@ TEST_F(LagProfile, DefaultEntriesPointAtMembersAndGroups) {
   PD(lagGroup_match_spec_t) key = {1, 2};
   uint32_t priority = kUnwritten;
   bool no_key = false;
-  EXPECT_EQ(PD(lagGroup_get_entry)(session(), kDevice, entry_, false, &key, &priority,
-                                   &read.has_member, &read.has_group, &read.group, &read.member,
-                                   &no_key),
-            BF_SUCCESS);
+  EXPECT_EQ(
+      PD(lagGroup_get_entry)(session(), kDevice, entry_, false, &key, &priority, &read.has_member,
+                             &read.has_group, &read.group, &read.member, &no_key),
+      BF_SUCCESS);
   EXPECT_TRUE(no_key);
   EXPECT_EQ(key.egrMd_egrL2AintfUnresolved, 1u);
   EXPECT_EQ(priority, 0u);
@@ -278,9 +277,9 @@ TEST_F(LagProfile, ListenersHearOfChanges) {
     static_cast<std::vector<Told> *>(cookie)->push_back({session, update, 0, member});
   };
   ASSERT_EQ(PD(lagPortActionProfile_sel_track_updates)(kDevice, hear_group, &groups), BF_SUCCESS);
-  ASSERT_EQ(PD(lagPortActionProfile_register_adt_update_cb)(session(), kDevice, hear_member,
-                                                            &members),
-            BF_SUCCESS);
+  ASSERT_EQ(
+      PD(lagPortActionProfile_register_adt_update_cb)(session(), kDevice, hear_member, &members),
+      BF_SUCCESS);
   const p4_pd_group_handle_t group = create_group();
   const p4_pd_member_handle_t member = add_lag_port();
   ASSERT_EQ(join(group, member), BF_SUCCESS);

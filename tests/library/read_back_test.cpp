@@ -16,9 +16,9 @@ class ReadBack : public LibraryTest {
     const PD(nextHop_match_spec_t) key = {hop};
     const PD(setNextHopDetails_action_spec_t) details = {oui, 0x334455, 9};
     p4_pd_entry_handle_t entry = 0;
-    EXPECT_EQ(PD(nextHop_table_add_with_setNextHopDetails)(session(), kTarget, &key, &details,
-                                                           &entry),
-              BF_SUCCESS);
+    EXPECT_EQ(
+        PD(nextHop_table_add_with_setNextHopDetails)(session(), kTarget, &key, &details, &entry),
+        BF_SUCCESS);
     return entry;
   }
 };
@@ -48,9 +48,9 @@ TEST_F(ReadBack, ReportsTheActionInThreeWays) {
             BF_SUCCESS);
   EXPECT_EQ(details.action_dmacOui, 0x001122u);
   // The record is mandatory when the action has parameters.
-  EXPECT_EQ(PD(nextHop_get_entry)(session(), kDevice, entry, true, &key, name, nullptr, &action,
-                                  &no_key),
-            P4_PD_NULL_ARGUMENT);
+  EXPECT_EQ(
+      PD(nextHop_get_entry)(session(), kDevice, entry, true, &key, name, nullptr, &action, &no_key),
+      P4_PD_NULL_ARGUMENT);
 }
 
 TEST_F(ReadBack, TheLongestNameTakes61Bytes) {
@@ -124,9 +124,9 @@ TEST_F(ReadBack, ADefaultEntryHasNoKey) {
 // Default actions are few, but an entry that became the default with another one is understood.
 TEST_F(ReadBack, RecognisesEveryActionOfTheTable) {
   size_t unmarked = 0;
-  std::vector<soft_table_t> tables(soft_program_tessel_switch.tables,
-                                   soft_program_tessel_switch.tables +
-                                       soft_program_tessel_switch.table_count);
+  std::vector<soft_table_t> tables(
+      soft_program_tessel_switch.tables,
+      soft_program_tessel_switch.tables + soft_program_tessel_switch.table_count);
   const auto kite = std::ranges::find_if(
       tables, [](auto &table) { return table.handle == table_named("kiteFlow1").handle; });
   std::vector<soft_action_t> actions(kite->actions, kite->actions + kite->action_count);
@@ -221,10 +221,10 @@ TEST_F(ReadBack, AMirrorWithoutMeterHasNoCell) {
   spec.data = {32, 4, data};
   const pdgen::Table &table = table_named("egressMirrorRate");
   uint32_t entry = 0;
-  ASSERT_EQ(pipe_mgr_mat_ent_add(session(), kDevice, kPipe, table.handle, &match,
-                                 pair_of(table, "setEgressMirrorColor")->handle, &spec, 0, 0,
-                                 &entry),
-            BF_SUCCESS);
+  ASSERT_EQ(
+      pipe_mgr_mat_ent_add(session(), kDevice, kPipe, table.handle, &match,
+                           pair_of(table, "setEgressMirrorColor")->handle, &spec, 0, 0, &entry),
+      BF_SUCCESS);
   PD(egressMirrorRate_match_spec_t) read_key = {};
   PD(setEgressMirrorColor_action_spec_t) read = {};
   bool no_key = true;
@@ -276,9 +276,9 @@ void expect_nothing_read(uint32_t entry, p4_pd_status_t entry_status) {
   char name[61] = "as it was";
   uint32_t action = 4;
   bool no_key = true;
-  EXPECT_EQ(PD(pdpPolicy_get_entry)(session(), kOther, entry, false, &key, name, &spec, &action,
-                                    &no_key),
-            entry_status);
+  EXPECT_EQ(
+      PD(pdpPolicy_get_entry)(session(), kOther, entry, false, &key, name, &spec, &action, &no_key),
+      entry_status);
   EXPECT_EQ(key.ig_intr_md_ingress_port, 1);
   EXPECT_EQ(spec, 3u);
   EXPECT_STREQ(name, "as it was");

@@ -88,9 +88,8 @@ class EntryRoundTrip : public RoundTrip {
     EXPECT_EQ(read.priority, table.has_priority() ? priority : 0xeeeeeeeeu);
     EXPECT_EQ(read.no_key, 0);
     EXPECT_EQ(read.action_name.c_str(), "p4_pd_tessel_switch_" + pair.action->name);
-    expect_action(*pair.action,
-                  action_image(pair, pdgen::Operation::kAdd, spec.data(), &meter), read.action,
-                  read.action_spec.data());
+    expect_action(*pair.action, action_image(pair, pdgen::Operation::kAdd, spec.data(), &meter),
+                  read.action, read.action_spec.data());
 
     Arguments del(*find_export("table_delete", table.name));
     EXPECT_EQ(del.set("entry", uint64_t{entry}).status(), BF_SUCCESS);

@@ -32,8 +32,8 @@ const pdgen::Pair *pair_of(const pdgen::Table &table, std::string_view action) {
 }
 
 const pdgen::ProfileAction *pair_of(const pdgen::Profile &profile, std::string_view action) {
-  const auto found = std::ranges::find_if(
-      profile.actions, [&](auto &pair) { return pair.action->name == action; });
+  const auto found = std::ranges::find_if(profile.actions,
+                                          [&](auto &pair) { return pair.action->name == action; });
   return found == profile.actions.end() ? nullptr : &*found;
 }
 
@@ -143,9 +143,7 @@ LibraryTest::~LibraryTest() {
 // ---- Calls through data ----
 
 Arguments::Arguments(const Export &exported)
-    : exported_(&exported),
-      words_(exported.parameter_count),
-      given_(exported.parameter_count) {
+    : exported_(&exported), words_(exported.parameter_count), given_(exported.parameter_count) {
   if (takes("session")) set("session", session());
   if (takes("device")) set("device", kDevice);
   // A parser target has the name too; a scene gives it.

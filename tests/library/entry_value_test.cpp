@@ -1,0 +1,220 @@
+// Entries of a device as value strings and labels.
+#include <algorithm>
+#include <cstdio>
+
+#include "text_fixture.hpp"
+#include "typed.hpp"
+
+namespace pd_test {
+namespace {
+
+using ValueFunction = int (*)(p4_pd_session_handle_t, uint8_t, p4_pd_entry_handle_t, bool, char *);
+using LabelFunction = int (*)(p4_pd_session_handle_t, uint8_t, p4_pd_entry_handle_t, char *);
+
+class EntryText : public LibraryTest {
+ protected:
+  static std::string value(ValueFunction function, p4_pd_entry_handle_t entry) {
+    TextBuffer buffer(P4_PD_TESSEL_SWITCH_VALUE_MAX);
+    const int length = function(session(), kDevice, entry, false, buffer.data());
+    return buffer.text(static_cast<uint64_t>(length));
+  }
+  static std::string label(LabelFunction function, p4_pd_entry_handle_t entry) {
+    TextBuffer buffer(P4_PD_TESSEL_SWITCH_LABEL_MAX);
+    const int length = function(session(), kDevice, entry, buffer.data());
+    return buffer.text(static_cast<uint64_t>(length));
+  }
+
+  static p4_pd_entry_handle_t add_cpu_encap(uint32_t priority) {
+    const PD(cpuEncap_match_spec_t) key = {1, 0, 1, 1, 5, 0xff, 1, 1};
+    const PD(trapPktToCpuUntagged_action_spec_t) action = {0x40, 3};
+    p4_pd_entry_handle_t entry = 0;
+    EXPECT_EQ(PD(cpuEncap_table_add_with_trapPktToCpuUntagged)(session(), kTarget, &key, priority,
+                                                               &action, &entry),
+              BF_SUCCESS);
+    return entry;
+  }
+};
+
+TEST_F(EntryText, TernaryEntriesHaveASignedPriority) {
+  const std::string key = "((( 0x1,0x0,0x1,0x1,0x05,0xff,0x1,0x1,),";
+  const std::string action = "('trapPktToCpuUntagged',(0x040,0x03,)),),";
+  EXPECT_EQ(value(PD(cpuEncap_value), add_cpu_encap(10)), key + action + "(10,True))");
+  EXPECT_EQ(value(PD(cpuEncap_value), add_cpu_encap(0x80000000)),
+            key + action + "(-2147483648,True))");
+  EXPECT_EQ(value(PD(cpuEncap_value), add_cpu_encap(0xffffffff)), key + action + "(-1,True))");
+}
+
+TEST_F(EntryText, ExactAndPrefixEntriesHaveNone) {
+  const PD(ipv4ShortMaskLpm_match_spec_t) key = {7, 0x0a010200, 24};
+  const PD(setNextHop_action_spec_t) action = {0x1234};
+  p4_pd_entry_handle_t entry = 0;
+  ASSERT_EQ(
+      PD(ipv4ShortMaskLpm_table_add_with_setNextHop)(session(), kTarget, &key, &action, 0, &entry),
+      BF_SUCCESS);
+  EXPECT_EQ(value(PD(ipv4ShortMaskLpm_value), entry),
+            "((( 0x07,0x0a010200,0x0018,),('setNextHop',(0x1234,)),),(0,True))");
+}
+
+TEST_F(EntryText, DefaultEntriesHaveNoKey) {
+  p4_pd_entry_handle_t entry = 0;
+  ASSERT_EQ(PD(vlanDecap_table_get_default_entry_handle)(session(), kTarget, &entry), BF_SUCCESS);
+  EXPECT_EQ(value(PD(vlanDecap_value), entry), "(((),('removeVlanHdr',()),),(0,True))");
+  ASSERT_EQ(PD(cpuEncapFields_set_default_action_onMiss)(session(), kTarget, &entry), BF_SUCCESS);
+  EXPECT_EQ(value(PD(cpuEncapFields_value), entry), "(((),('onMiss',()),),(0,True))");
+}
+
+TEST_F(EntryText, BoundTablesShowWhatTheirEntriesPointAt) {
+  const PD(setEcmpNextHop_action_spec_t) hop = {9};
+  p4_pd_member_handle_t member = 0;
+  p4_pd_group_handle_t group = 0;
+  ASSERT_EQ(
+      PD(ecmpMemberActionProfile_add_member_with_setEcmpNextHop)(session(), kTarget, &hop, &member),
+      BF_SUCCESS);
+  ASSERT_EQ(PD(ecmpMemberActionProfile_create_group)(session(), kTarget, 4, &group), BF_SUCCESS);
+  ASSERT_EQ(PD(ecmpMemberActionProfile_add_member_to_group)(session(), kDevice, group, member),
+            BF_SUCCESS);
+  PD(ecmpGroup_match_spec_t) key = {0x12};
+  p4_pd_entry_handle_t entry = 0;
+  char handle[16];
+  std::snprintf(handle, sizeof handle, "0x%x", member);
+  ASSERT_EQ(PD(ecmpGroup_add_entry)(session(), kTarget, &key, member, &entry), BF_SUCCESS);
+  EXPECT_EQ(value(PD(ecmpGroup_value), entry),
+            "((( 0x0012,),('setMbrHdl',(" + std::string(handle) + ",))),(0,True))");
+  key.l3_ecmpGroup = 0x13;
+  std::snprintf(handle, sizeof handle, "0x%x", group);
+  ASSERT_EQ(PD(ecmpGroup_add_entry_with_selector)(session(), kTarget, &key, group, &entry),
+            BF_SUCCESS);
+  EXPECT_EQ(value(PD(ecmpGroup_value), entry),
+            "((( 0x0013,),('setGrpHdl',(" + std::string(handle) + ",))),(0,True))");
+}
+
+TEST_F(EntryText, FailedReadsLeaveTheBuffer) {
+  TextBuffer buffer(P4_PD_TESSEL_SWITCH_VALUE_MAX);
+  const p4_pd_entry_handle_t entry = add_cpu_encap(1);
+  EXPECT_EQ(PD(cpuEncap_value)(session(), kDevice, entry + 1000, false, buffer.data()), 0);
+  EXPECT_EQ(PD(cpuEncap_value)(session(), kDevice + 1, entry, false, buffer.data()), 0);
+  EXPECT_EQ(PD(trapToCpu_stringify_counter_match_spec)(session(), kDevice, 4711, buffer.data()), 0);
+  EXPECT_TRUE(buffer.is_untouched());
+  EXPECT_EQ(PD(cpuEncap_value)(session(), kDevice, entry, false, nullptr), 0);
+}
+
+// Every table and each of its actions: the parts of an entry's value are the values of its parts.
+TEST_F(EntryText, EveryTableAndAction) {
+  size_t entries = 0;
+  size_t longest = 0;
+  for (const pdgen::Table &table : program().tables) {
+    for (const pdgen::Pair &pair : table.pairs) {
+      const Device device(kDevice + 1);
+      const p4_pd_device_target_t target = {kDevice + 1, kPipe};
+      if (table.keyed() ? !pair.in_entries : !pair.as_default) continue;
+      SCOPED_TRACE(table.name + " " + pair.action->name);
+      Random random = random_for(table.name + pair.action->name);
+      Arguments add(*find_export(table.keyed() ? "table_add" : "set_default_action", table.name,
+                                 pair.action->name));
+      const Bytes key = random_record(record_of(table), random);
+      const Bytes action = random_record(record_of(*pair.action), random);
+      const p4_pd_bytes_meter_spec_t meter = random_meter_spec(random);
+      p4_pd_entry_handle_t entry = 0;
+      add.set("target", &target).set("entry", &entry);
+      if (table.keyed()) add.set("match_spec", key.data());
+      if (add.takes("priority")) add.set("priority", uint64_t{0x80000000});
+      if (add.takes("action_spec")) add.set("action_spec", action.data());
+      if (add.takes("meter_spec")) add.set("meter_spec", &meter);
+      if (add.takes("ttl")) add.set("ttl", uint64_t{0});
+      ASSERT_EQ(add.status(), BF_SUCCESS);
+
+      Bytes read_key(record_of(table).size);
+      uint32_t read_action[32] = {};
+      uint32_t number = 0;
+      uint32_t priority = 0;
+      bool no_key = true;
+      Arguments get(*find_export("get_entry", table.name));
+      get.set("device", uint64_t{target.device_id}).set("entry", uint64_t{entry});
+      get.set("read_from_hardware", uint64_t{0}).set("action_name", nullptr);
+      get.set("action_spec", read_action).set("action", &number);
+      if (table.keyed()) get.set("match_spec", read_key.data()).set("no_key", &no_key);
+      if (table.has_priority()) get.set("priority", &priority);
+      ASSERT_EQ(get.status(), BF_SUCCESS);
+      ASSERT_EQ(number, pair.action->value);
+
+      TextBuffer part(P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX);
+      std::string expected = "((";
+      if (table.keyed()) {
+        expected += part.text(
+            call(*find_export("match_spec_value", table.name), read_key.data(), part.data()));
+      } else {
+        expected += "(),";
+      }
+      TextBuffer action_part(P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX);
+      Arguments value(*find_export("action_value", pair.action->name));
+      if (pair.action->has_params()) value.set("action_spec", read_action);
+      expected += action_part.text(value.set("buffer", action_part.data()).call());
+      expected += table.has_priority() ? "),(-2147483648,True))" : "),(0,True))";
+
+      TextBuffer whole(P4_PD_TESSEL_SWITCH_VALUE_MAX);
+      const std::string text =
+          whole.text(call(*find_export("table_value", table.name), uint64_t{session()},
+                          uint64_t{target.device_id}, uint64_t{entry}, uint64_t{0}, whole.data()));
+      EXPECT_EQ(text, expected);
+      const auto read = read_literal(text);
+      ASSERT_TRUE(read && read->is_tuple(2) && (*read)[0].is_tuple(2) && (*read)[1].is_tuple(2));
+      EXPECT_TRUE((*read)[0][1][0].is(pair.action->name));
+      longest = std::max(longest, text.size());
+      ++entries;
+    }
+  }
+  EXPECT_GT(entries, 221u);
+  EXPECT_EQ(longest + 1, static_cast<size_t>(P4_PD_TESSEL_SWITCH_VALUE_MAX));
+}
+
+// ---- Labels ----
+
+TEST_F(EntryText, LabelsAreReadFromTheHardware) {
+  PD(finalDropControl_match_spec_t) key = {};
+  key.ingMd_bcast = key.ingMd_bcast_mask = 1;
+  p4_pd_entry_handle_t entry = 0;
+  ASSERT_EQ(PD(finalDropControl_table_add_with_dropCount)(session(), kTarget, &key, 1, &entry),
+            BF_SUCCESS);
+  const Call read = only_call([&] {
+    EXPECT_EQ(label(PD(finalDropControl_stringify_counter_match_spec), entry), "bcast ");
+  });
+  EXPECT_EQ(read.function, "pipe_mgr_get_entry");
+  EXPECT_EQ(read.scalar("table"), 0x0100006au);
+  EXPECT_EQ(read.scalar("entry"), entry);
+  EXPECT_EQ(read.scalar("read_from_hardware"), 1u);
+
+  // By the handle of the table, as tools do.
+  TextBuffer buffer(P4_PD_TESSEL_SWITCH_LABEL_MAX);
+  const auto by_handle = PD(stringify_counter_matchspec);
+  const int length = by_handle(session(), kDevice, 0x0100006a, entry, buffer.data());
+  EXPECT_EQ(buffer.text(static_cast<uint64_t>(length)), "bcast ");
+}
+
+TEST_F(EntryText, TheDefaultEntryHasAnEmptyLabel) {
+  p4_pd_entry_handle_t entry = 0;
+  ASSERT_EQ(PD(l2DmacClassify_set_default_action_onMiss)(session(), kTarget, &entry), BF_SUCCESS);
+  EXPECT_EQ(label(PD(l2DmacClassify_stringify_counter_match_spec), entry), "");
+}
+
+TEST_F(EntryText, LabelsByHandleGoToTheirTables) {
+  const uint32_t labelled[] = {0x01000002, 0x01000008, 0x01000009, 0x0100000a,
+                               0x0100003f, 0x0100006a, 0x0100006d, 0x01000078};
+  TextBuffer buffer(P4_PD_TESSEL_SWITCH_LABEL_MAX);
+  size_t read = 0;
+  for (uint32_t handle = 0x01000000; handle <= 0x0100007a; ++handle) {
+    const std::vector<Call> calls = recorded([&] {
+      EXPECT_EQ(PD(stringify_counter_matchspec)(session(), kDevice, handle, 9999, buffer.data()),
+                0);
+    });
+    const bool has_label = std::ranges::find(labelled, handle) != std::end(labelled);
+    ASSERT_EQ(calls.size(), has_label ? 1u : 0u) << handle;
+    if (!has_label) continue;
+    EXPECT_EQ(calls[0].scalar("table"), handle);
+    ++read;
+  }
+  EXPECT_EQ(read, 8u);
+  EXPECT_TRUE(buffer.is_untouched());
+}
+
+}  // namespace
+}  // namespace pd_test
