@@ -30,7 +30,8 @@ Outcome run(const std::string &command) {
   if (pipe == nullptr) return outcome;
   char buffer[4096];
   size_t read = 0;
-  while ((read = std::fread(buffer, 1, sizeof buffer, pipe)) > 0) outcome.output.append(buffer, read);
+  while ((read = std::fread(buffer, 1, sizeof buffer, pipe)) > 0)
+    outcome.output.append(buffer, read);
   const int status = pclose(pipe);
   outcome.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   return outcome;
@@ -41,7 +42,8 @@ std::string first_difference(const std::string &wanted, const std::string &found
   const auto wanted_lines = lines_of(wanted);
   const auto found_lines = lines_of(found);
   size_t i = 0;
-  while (i < wanted_lines.size() && i < found_lines.size() && wanted_lines[i] == found_lines[i]) ++i;
+  while (i < wanted_lines.size() && i < found_lines.size() && wanted_lines[i] == found_lines[i])
+    ++i;
   const auto at = [&](const auto &lines) { return i < lines.size() ? lines[i] : "(end)"; };
   return "line " + std::to_string(i + 1) + ":\n  " + at(wanted_lines) + "\n  " + at(found_lines);
 }

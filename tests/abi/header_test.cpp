@@ -37,19 +37,17 @@ struct Dialect {
   const char *standard;
 };
 constexpr Dialect kDialects[] = {
-    {"gcc", "c", "c99"},       {"gcc", "c", "c11"},       {"gcc", "c", "c17"},
-    {"g++", "c++", "c++17"},   {"g++", "c++", "c++20"},   {"clang", "c", "c99"},
-    {"clang", "c", "c11"},     {"clang", "c", "c17"},     {"clang++", "c++", "c++17"},
+    {"gcc", "c", "c99"},         {"gcc", "c", "c11"},     {"gcc", "c", "c17"},
+    {"g++", "c++", "c++17"},     {"g++", "c++", "c++20"}, {"clang", "c", "c99"},
+    {"clang", "c", "c11"},       {"clang", "c", "c17"},   {"clang++", "c++", "c++17"},
     {"clang++", "c++", "c++20"},
 };
 
-bool is_installed(const std::string &compiler) {
-  return run("command -v " + compiler).status == 0;
-}
+bool is_installed(const std::string &compiler) { return run("command -v " + compiler).status == 0; }
 
 Outcome compile(const Dialect &dialect, const char *abi, const std::string &source) {
-  return run(std::string(dialect.compiler) + " -x " + dialect.language + " -std=" +
-             dialect.standard + " " + abi +
+  return run(std::string(dialect.compiler) + " -x " + dialect.language +
+             " -std=" + dialect.standard + " " + abi +
              " -fsyntax-only -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror"
              " -I" PD_SOURCE_DIR "/include -I" PD_SOURCE_DIR "/sdk/include " +
              source);
@@ -68,8 +66,9 @@ TEST(Header, CompilesByItselfEverywhere) {
     last = dialect.compiler;
     for (const char *abi : {"-m64", "-m32"}) {
       const Outcome outcome = compile(dialect, abi, source);
-      EXPECT_EQ(outcome.status, 0) << dialect.compiler << " " << dialect.standard << " " << abi
-                                   << "\n" << outcome.output.substr(0, 2000);
+      EXPECT_EQ(outcome.status, 0)
+          << dialect.compiler << " " << dialect.standard << " " << abi << "\n"
+          << outcome.output.substr(0, 2000);
       ++checks;
     }
   }
@@ -83,7 +82,8 @@ TEST(Header, EveryOtherHeaderCompilesByItself) {
   const Scratch scratch;
   size_t checks = 0;
   for (const char *folder : {"/include", "/sdk/include", "/sdk/soft/include"}) {
-    for (const auto &file : std::filesystem::directory_iterator(PD_SOURCE_DIR + std::string(folder))) {
+    for (const auto &file :
+         std::filesystem::directory_iterator(PD_SOURCE_DIR + std::string(folder))) {
       if (file.path().extension() != ".h") continue;
       const std::string source =
           scratch.write("alone.c", "#include \"" + file.path().string() + "\"\nextern int end;\n");
@@ -113,7 +113,8 @@ TEST(Header, ALayoutThatTheRulesGive) {
   EXPECT_NE(compile({"gcc", "c", "c11"}, "-m64", scratch.write("wrong.c", wrong)).status, 0);
   const std::string not_c = scratch.write("not_c.c", "namespace x { class y; }\n");
   EXPECT_NE(compile(kDialects[0], "-m64", not_c).status, 0);
-  const std::string warns = scratch.write("warns.c", "char f(int x);\nchar f(int x) { return x; }\n");
+  const std::string warns =
+      scratch.write("warns.c", "char f(int x);\nchar f(int x) { return x; }\n");
   EXPECT_NE(compile(kDialects[0], "-m64", warns).status, 0);
 }
 

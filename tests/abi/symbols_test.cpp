@@ -46,10 +46,11 @@ Names sdk_functions() {
 }
 
 bool may_be_undefined(const std::string &name, const Names &sdk) {
-  static const Names libc = {
-      "inet_ntop", "malloc",  "free",    "memcmp", "memcpy",   "memmove", "memset",
-      "snprintf",  "sprintf", "dprintf", "strchr", "strcmp",   "strcpy",  "strlen",
-      "strncmp",   "strncpy", "strcat",  "write",  "vdprintf", "stpcpy",  "strcasecmp"};
+  static const Names libc = {"inet_ntop",  "malloc",          "free",     "memcmp",   "memcpy",
+                             "memmove",    "memset",          "snprintf", "sprintf",  "dprintf",
+                             "strchr",     "strcmp",          "strcpy",   "strlen",   "strncmp",
+                             "strncpy",    "strcat",          "write",    "vdprintf", "stpcpy",
+                             "strcasecmp", "__errno_location"};
   // What the linker's start files ask for in every shared object.
   static const Names linker = {"_ITM_deregisterTMCloneTable", "_ITM_registerTMCloneTable",
                                "__cxa_finalize", "__gmon_start__", "__stack_chk_fail"};

@@ -162,14 +162,14 @@ TEST_F(DeviceState, OnlyTheExactNameIsRestored) {
     EXPECT_TRUE(calls.empty()) << name;
     EXPECT_EQ(state_text(), empty) << name;
   }
-  const auto calls =
-      recorded([&] { restore_text(R"({"act_profs":[{"name":"lagPortActionProfile")" + state + "]}"); });
+  const auto calls = recorded(
+      [&] { restore_text(R"({"act_profs":[{"name":"lagPortActionProfile")" + state + "]}"); });
   EXPECT_EQ(calls.size(), 1u);
   uint32_t action = 0;
   const PD(lagGroup_match_spec_t) key = {};
-  const auto added = recorded([&] {
-    PD(lagGroup_add_entry)(session(), kTarget, &key, 1, 7, &action);
-  });
+  const auto added =
+      recorded([&] { PD(lagGroup_add_entry)
+                     (session(), kTarget, &key, 1, 7, &action); });
   EXPECT_EQ(added.at(1).scalar("action"), 536871358u);
 }
 
@@ -291,8 +291,8 @@ class Replay : public DeviceState {
     const Call call = only_call([] {
       EXPECT_EQ(PD(restore_virtual_dev_state)(session(), kDevice, 9, BF_ALL_PIPES, 0), BF_SUCCESS);
     });
-    callback_ = reinterpret_cast<pipe_mgr_replay_cb_t>(
-        call.get<soft::journal::Opaque>("callback").address);
+    callback_ =
+        reinterpret_cast<pipe_mgr_replay_cb_t>(call.get<soft::journal::Opaque>("callback").address);
   }
 
   bf_status_t report(uint32_t action, uint32_t group, uint32_t member, uint32_t has_resources = 0,

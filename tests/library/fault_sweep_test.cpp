@@ -15,14 +15,25 @@ bool returns_status(const Export &exported) {
   return std::string_view(exported.result) == "p4_pd_status_t";
 }
 
-// Calls that record a change which the pipeline manager has made already, or that prepare a service;
-// what they answer cannot change the result.
+// Text functions answer a failure with a length of 0, comparisons with "not equal"; printing tells
+// the status after a line that says so.
+uint64_t answer_to(const Export &exported, uint64_t failure) {
+  if (returns_status(exported)) return failure;
+  return std::string_view(exported.family).ends_with("plcmt_data_print") ? failure : 0;
+}
+
+// Calls that record a change which the pipeline manager has made already, or that prepare a
+// service; what they answer cannot change the result.
 bool is_ignored(const std::string &function) {
-  static const std::set<std::string> ignored = {
-      "p4_pd_ms_init",     "p4_pd_ms_new_mbr",
-      "p4_pd_ms_set_mbr_act", "p4_pd_ms_del_mbr",     "p4_pd_ms_new_grp",
-      "p4_pd_ms_add_mbr_to_grp", "p4_pd_ms_del_mbr_from_grp", "p4_pd_ms_set_grp_act",
-      "p4_pd_ms_mbr_get_res"};
+  static const std::set<std::string> ignored = {"p4_pd_ms_init",
+                                                "p4_pd_ms_new_mbr",
+                                                "p4_pd_ms_set_mbr_act",
+                                                "p4_pd_ms_del_mbr",
+                                                "p4_pd_ms_new_grp",
+                                                "p4_pd_ms_add_mbr_to_grp",
+                                                "p4_pd_ms_del_mbr_from_grp",
+                                                "p4_pd_ms_set_grp_act",
+                                                "p4_pd_ms_mbr_get_res"};
   return ignored.contains(function);
 }
 
@@ -79,11 +90,12 @@ class FaultSweep : public testing::Test {
       return;
     }
     if (!is_answered(struck)) {
-      EXPECT_EQ(result, status) << struck;
+      EXPECT_EQ(result, answer_to(exported, status)) << struck;
     } else {
       EXPECT_NE(result, BF_SUCCESS) << struck;
     }
-    // A configuration that cannot be read counts as none, and the pipeline manager is asked with it.
+    // A configuration that cannot be read counts as none, and the pipeline manager is asked with
+    // it.
     const bool asked_on = is_answered(struck) && scene.calls().size() == n + 1;
     EXPECT_TRUE(scene.calls().size() == n || asked_on) << "called on after " << struck;
     if (exported.family == std::string_view("snapshot_capture_data_get") && n > 1) return;
@@ -104,7 +116,7 @@ class FaultSweep : public testing::Test {
       SCOPED_TRACE(std::string(exported.name) + ", allocation " + std::to_string(n));
       Scene scene(exported);
       soft::faults::fail_allocation(n);
-      EXPECT_EQ(scene.play(), P4_PD_NO_MEMORY);
+      EXPECT_EQ(scene.play(), answer_to(exported, P4_PD_NO_MEMORY));
       EXPECT_EQ(soft::faults::pending(), 0u);
       soft::faults::clear();
       const std::string written = scene.written_outputs();
@@ -138,7 +150,8 @@ bool may_be_null(std::string_view family, std::string_view name) {
   if (name == "callback" || name == "cookie" || name == "client_data") return true;
   if (name == "handle") return true;  // nothing is written then
   if (name == "action_name" || name == "action") return family == "get_entry";
-  return name == "meter_spec" && (family.starts_with("table_modify") || family == "set_default_action");
+  return name == "meter_spec" &&
+         (family.starts_with("table_modify") || family == "set_default_action");
 }
 
 class NullSweep : public testing::Test {
@@ -175,7 +188,8 @@ class NullSweep : public testing::Test {
   void spoil(const Export &exported, const bindings::Parameter &parameter) {
     SCOPED_TRACE(std::string(exported.name) + ", null " + parameter.name);
     const FamilyCalls *row = calls_of_family(exported.family);
-    const bool needed = is_record_of_action(exported, parameter) && writes(exported, parameter.name);
+    const bool needed =
+        is_record_of_action(exported, parameter) && writes(exported, parameter.name);
     Scene scene(exported);
     scene.arguments().set(parameter.name, nullptr);
     const auto status = static_cast<p4_pd_status_t>(scene.play());

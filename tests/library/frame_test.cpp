@@ -51,8 +51,7 @@ TEST(Frame, TheFrameworkHoldsThreeCallbacks) {
 
 TEST(Frame, ASecondInitKeepsTheStates) {
   const auto refused = recorded([] { EXPECT_EQ(PD(init)(), P4_PD_DRIVER_REFUSED); });
-  EXPECT_EQ(functions_of(refused),
-            (std::vector<std::string>{"p4_pd_ms_init", "bf_drv_register"}));
+  EXPECT_EQ(functions_of(refused), (std::vector<std::string>{"p4_pd_ms_init", "bf_drv_register"}));
   EXPECT_EQ(soft_client_count(), 1u);
 }
 

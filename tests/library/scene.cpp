@@ -15,21 +15,21 @@ namespace {
 // What must be there for a call of a family to succeed. An entry, member or group that a parameter
 // names, and the entry of a match spec that only names one, are there without saying so.
 enum Need : uint32_t {
-  kEntry = 1,          // the table has an entry
-  kSecond = 2,         // ... and another object behind it
-  kDefault = 4,        // the default entry is set
-  kAgeing = 8,         // the table ages its entries
-  kMember = 16,        // the profile has a member
-  kGroup = 32,         // ... and a group
-  kJoined = 64,        // ... and the member is in it
-  kNewKey = 128,       // the match spec names no entry yet
-  kPlacement = 256,    // placement data of the entry or member
-  kVirtual = 512,      // a second, virtual device
+  kEntry = 1,            // the table has an entry
+  kSecond = 2,           // ... and another object behind it
+  kDefault = 4,          // the default entry is set
+  kAgeing = 8,           // the table ages its entries
+  kMember = 16,          // the profile has a member
+  kGroup = 32,           // ... and a group
+  kJoined = 64,          // ... and the member is in it
+  kNewKey = 128,         // the match spec names no entry yet
+  kPlacement = 256,      // placement data of the entry or member
+  kVirtual = 512,        // a second, virtual device
   kDeregistered = 1024,  // the library is not registered with the driver framework
-  kValueEntry = 2048,   // the value set has an entry
-  kDigest = 4096,       // the digest has a callback, and a message waits
-  kHash = 8192,         // the hash calculation has its field list and algorithm, and an attribute
-  kSnapshot = 16384     // there is a snapshot with a capture
+  kValueEntry = 2048,    // the value set has an entry
+  kDigest = 4096,        // the digest has a callback, and a message waits
+  kHash = 8192,          // the hash calculation has its field list and algorithm, and an attribute
+  kSnapshot = 16384      // there is a snapshot with a capture
 };
 
 struct FamilyNeeds {
@@ -70,6 +70,24 @@ constexpr FamilyNeeds kFamilyNeeds[] = {
     {"get_member_from_plcmt_data", kPlacement | kMember},
     {"get_full_member_info_from_plcmt_data", kPlacement | kMember},
     {"restore_virtual_dev_state", kVirtual},
+    {"table_value", kEntry},
+    {"stringify_counter_match_spec", kEntry},
+    {"stringify_counter_matchspec", kEntry},
+    {"plcmt_data_print", kPlacement | kEntry},
+    {"plcmt_data_value", kPlacement | kEntry},
+    {"plcmt_data_eq_to_hw", kPlacement | kEntry},
+    {"adt_plcmt_data_print", kPlacement | kMember},
+    {"adt_plcmt_data_value", kPlacement | kMember},
+    {"by_handle_plcmt_data_print", kPlacement | kEntry},
+    {"by_handle_plcmt_data_value", kPlacement | kEntry},
+    {"by_handle_plcmt_data_eq_to_hw", kPlacement | kEntry},
+    {"by_handle_adt_plcmt_data_print", kPlacement | kMember},
+    {"by_handle_adt_plcmt_data_value", kPlacement | kMember},
+    {"by_handle_entry_value", kEntry},
+    {"by_handle_entry_hdl_first", kEntry},
+    {"by_handle_entry_hdl_next", kEntry | kSecond},
+    {"by_handle_entry_hdl_default", kDefault},
+    {"by_handle_member_hdl_next", kMember | kSecond},
     {"digest_deregister", kDigest},
     {"digest_notify_ack", kDigest},
     {"pvs_entry_modify", kValueEntry},
@@ -83,11 +101,18 @@ constexpr FamilyNeeds kFamilyNeeds[] = {
     {"snapshot_capture_data_get", kSnapshot},
 };
 
-// The functions that take a table's handle for its registers know no table of their own.
+bool is_by_handle(std::string_view family) { return family.starts_with("by_handle_"); }
+
+bool takes_profile_handle(std::string_view family) {
+  return family.find("_adt_") != family.npos || family.find("_member_") != family.npos;
+}
+
+// The functions that take a table's handle know no table of their own.
 const pdgen::Table *table_of(const Export &exported) {
-  if (std::string_view(exported.family).ends_with("_direct")) {
-    return &table_named("flowDigestGeneration");
-  }
+  const std::string_view family = exported.family;
+  if (family.ends_with("_direct")) return &table_named("flowDigestGeneration");
+  if (family == "stringify_counter_matchspec") return &table_named("trapToCpu");
+  if (is_by_handle(family) && !takes_profile_handle(family)) return &table_named("firewallPolicy");
   if (const auto *table = pdgen::find_row(program().tables, exported.object)) return table;
   for (const auto *resources : {&program().counters, &program().meters}) {
     const pdgen::Resource *resource = pdgen::find_row(*resources, exported.object);
@@ -98,6 +123,9 @@ const pdgen::Table *table_of(const Export &exported) {
 
 const pdgen::Profile *profile_of(const Export &exported, const pdgen::Table *table) {
   if (table != nullptr && table->indirect()) return table->profile.target;
+  if (is_by_handle(exported.family) && takes_profile_handle(exported.family)) {
+    return &program().profiles.front();
+  }
   return pdgen::find_row(program().profiles, exported.object);
 }
 
@@ -281,10 +309,10 @@ void Scene::set_up_ageing() {
 void Scene::take_placement(uint32_t needs) {
   const bool member = (needs & kEntry) == 0;
   if (!member && entry_ == 0) return;
-  EXPECT_EQ(member ? soft_placement_of_member(kDevice, profile_->action_data_handle, member_,
-                                              &placement_)
-                   : soft_placement_of_entry(kDevice, table_->handle, entry_, &placement_),
-            BF_SUCCESS)
+  EXPECT_EQ(
+      member ? soft_placement_of_member(kDevice, profile_->action_data_handle, member_, &placement_)
+             : soft_placement_of_entry(kDevice, table_->handle, entry_, &placement_),
+      BF_SUCCESS)
       << exported_.name;
 }
 
@@ -311,8 +339,9 @@ void Scene::send_digest() {
   listen.set("callback", reinterpret_cast<const void *>(keep)).set("cookie", &message_);
   expect_done(listen);
   const Bytes entry(digest.size, 0x11);
-  EXPECT_EQ(soft_digest_inject(kDevice, kPipe, digest.handle, entry.data(), 1, digest.size, nullptr),
-            BF_SUCCESS);
+  EXPECT_EQ(
+      soft_digest_inject(kDevice, kPipe, digest.handle, entry.data(), 1, digest.size, nullptr),
+      BF_SUCCESS);
   EXPECT_NE(message_, nullptr);
 }
 
@@ -320,7 +349,8 @@ void Scene::send_digest() {
 void Scene::configure_hashes() {
   const p4_pd_hash_calc_attr_t attribute = {1, 0, 0x77};
   for (const pdgen::Hash &hash : program().hashes) {
-    expect_done(Arguments(*find_export("hash_calc_input_set", hash.name)).set("input", uint64_t{0}));
+    expect_done(
+        Arguments(*find_export("hash_calc_input_set", hash.name)).set("input", uint64_t{0}));
     Arguments algorithm(*find_export("hash_calc_algorithm_set", hash.name));
     expect_done(algorithm.set("algorithm", uint64_t{0}));
     Arguments set(*find_export("hash_calc_input_field_attribute_set", hash.name));
@@ -340,7 +370,8 @@ void Scene::take_snapshot() {
   trigger.set("snapshot", uint64_t{snapshot_});
   expect_done(trigger.set("value", any.data()).set("mask", any.data()));
   uint32_t captures = 0;
-  EXPECT_EQ(soft_snapshot_inject(kDevice, kPipe, 0, 1, any.data(), 1, bytes, &captures), BF_SUCCESS);
+  EXPECT_EQ(soft_snapshot_inject(kDevice, kPipe, 0, 1, any.data(), 1, bytes, &captures),
+            BF_SUCCESS);
   EXPECT_EQ(captures, 1u);
 }
 

@@ -143,8 +143,11 @@ bool Scene::fill_value(const bindings::Parameter &parameter) {
   if (name == "member") return give(member_);
   if (name == "group") return give(group_);
   if (name == "table") return give(table_->handle);
+  if (name == "table_handle") return give(table_ != nullptr ? table_->handle : 0);
+  if (name == "profile_handle") return give(profile_->action_data_handle);
   if (name == "snapshot") return give(snapshot_);
   const std::string_view family = exported_.family;
+  if (name == "descriptor") return give(~uint64_t{0});  // no file: what is printed goes nowhere
   if (name == "meter") return give(family.starts_with("packets") ? 0x05000002 : 0x05000001);
   if (name == "property") {
     return family.starts_with("pvs") ? give(PIPE_PVS_CAPACITY) : give(PIPE_TABLE_CAPACITY);

@@ -61,8 +61,8 @@ class Threads : public LibraryTest {
 };
 
 TEST_F(Threads, WorkOnSeparateTables) {
-  const char *const tables[] = {"ipv4ShortMaskLpm", "cpuEncap", "nextHop", "l2LookupMiss",
-                                "trapToCpu", "pdpPolicy"};
+  const char *const tables[] = {"ipv4ShortMaskLpm", "cpuEncap",  "nextHop",
+                                "l2LookupMiss",     "trapToCpu", "pdpPolicy"};
   constexpr size_t kRounds = 300;
   std::vector<size_t> good(std::size(tables));
   std::vector<std::thread> threads;

@@ -146,6 +146,56 @@
  *   even when the capture itself fails; a stage that is shorter than a record fills it up with
  *   zeroes. P4_PD_NO_MEMORY, and no record written, when the capture could not be allocated.
  *
+ * Schemas
+ *   Objects described as literals of nested tuples, for tools that know none of them. The
+ *   match-spec and action schemas are constants. The others are written into buffer with a NUL
+ *   and their length is returned; P4_PD_TINY_SCHEMA_MAX bytes hold any of them. cli_schema
+ *   takes the handle of a table or the action-data handle of a profile and writes "()" for any
+ *   other. A null buffer gets 0.
+ *
+ * Value strings
+ *   The numbers of a match spec, an action or an entry as a literal that lists what the schema
+ *   lists, cut to the key bits, in hexadecimal. They are written into buffer with a NUL and
+ *   their length is returned: P4_PD_TINY_MATCH_SPEC_VALUE_MAX, P4_PD_TINY_ACTION_VALUE_MAX and
+ *   P4_PD_TINY_VALUE_MAX bytes hold any of them. A table's value reads the entry by get_entry.
+ *   When that fails, and for a null pointer, 0 is returned and buffer stays as it was.
+ *
+ * Printing
+ *   match_spec_print and an action's print write one line a field to a file descriptor, one write a
+ *   line, and return the length of the last line, or -1 when it could not be written. The
+ *   header line of a match spec follows indent blanks, the others one blank more, and two at
+ *   indent 0. The helpers _print_* write a label and an address into buffer and return the
+ *   length. The ternary ones return 0 for a mask of 0; 0 goes with nothing written, also for a
+ *   null pointer. IPv6 addresses have 16 bytes; MAC addresses come in halves of 24 bits.
+ *
+ * Labels of counted entries
+ *   For the tables whose entries carry a counter that monitoring shows. A label names the fields
+ *   that the entry matches on. It is written into buffer with a NUL and its length is
+ *   returned; P4_PD_TINY_LABEL_MAX bytes hold any of them. stringify_counter_match_spec reads
+ *   the entry from the hardware; the default entry, which has no key, has an empty label. When
+ *   that fails, for a table without labels and for a null pointer, 0 is returned and buffer
+ *   stays as it was.
+ *
+ * Comparison and names
+ *   match_specs_are_equal compares member by member under the key bits: a value and its mask are
+ *   two members, so entries that differ in what they do not care about differ.
+ *   action_specs_are_equal compares the bits of each parameter's width. A null pointer equals
+ *   nothing. width returns the bits of a key field. action_enum_to_string returns the full
+ *   name of a value, null beyond the last; action_string_to_enum returns the value of a full
+ *   name, else the number of actions.
+ *
+ * Rendering of placement data
+ *   plcmt_data_print writes key and action of placement data to a file descriptor and returns 0, or
+ *   the status of the decoder after a line that says that it failed. plcmt_data_value writes a
+ *   value string (P4_PD_TINY_VALUE_MAX bytes hold any) and returns its length, 0 when the data
+ *   cannot be decoded. plcmt_data_eq_to_hw returns 1 when the data describes the entry that
+ *   the hardware holds under the handle, priorities apart, and 0 otherwise, also when either
+ *   cannot be read; entries that point at groups must point at the same one. The functions by
+ *   handle do the same for a table or for the action-data table of a profile; an unknown
+ *   handle is printed as not found, has no value and equals nothing. entry_hdl_first,
+ *   entry_hdl_next, entry_hdl_default and member_hdl_next walk entries and members; an unknown
+ *   handle stores 0xffffffff and returns 0, member_hdl_next 0xffffffff.
+ *
  * Made by pdgen from the catalogue of tiny. Edit the catalogue and run
  * scripts/generate, not this file.
  */
@@ -231,6 +281,57 @@ typedef struct p4_pd_tiny_action_specs {
   } spec;
 } p4_pd_tiny_action_specs_t;
 
+const char *p4_pd_tiny_pass_schema(void);
+const char *p4_pd_tiny_discard_schema(void);
+const char *p4_pd_tiny_sendTo_schema(void);
+const char *p4_pd_tiny_setHop_schema(void);
+const char *p4_pd_tiny_setRouter_schema(void);
+const char *p4_pd_tiny_countOnly_schema(void);
+const char *p4_pd_tiny_police_schema(void);
+const char *p4_pd_tiny_sample_schema(void);
+const char *p4_pd_tiny_setMember_schema(void);
+const char *p4_pd_tiny_seenBit_schema(void);
+int p4_pd_tiny_pass_value(char *buffer);
+int p4_pd_tiny_discard_value(char *buffer);
+int p4_pd_tiny_sendTo_value(const p4_pd_tiny_sendTo_action_spec_t *action_spec, char *buffer);
+int p4_pd_tiny_setHop_value(const p4_pd_tiny_setHop_action_spec_t *action_spec, char *buffer);
+int p4_pd_tiny_setRouter_value(const p4_pd_tiny_setRouter_action_spec_t *action_spec, char *buffer);
+int p4_pd_tiny_countOnly_value(const p4_pd_tiny_countOnly_action_spec_t *action_spec, char *buffer);
+int p4_pd_tiny_police_value(const p4_pd_tiny_police_action_spec_t *action_spec, char *buffer);
+int p4_pd_tiny_sample_value(const p4_pd_tiny_sample_action_spec_t *action_spec, char *buffer);
+int p4_pd_tiny_setMember_value(const p4_pd_tiny_setMember_action_spec_t *action_spec, char *buffer);
+int p4_pd_tiny_seenBit_value(char *buffer);
+int p4_pd_tiny_sendTo_print(int descriptor, int indent,
+    const p4_pd_tiny_sendTo_action_spec_t *action_spec);
+int p4_pd_tiny_setHop_print(int descriptor, int indent,
+    const p4_pd_tiny_setHop_action_spec_t *action_spec);
+int p4_pd_tiny_setRouter_print(int descriptor, int indent,
+    const p4_pd_tiny_setRouter_action_spec_t *action_spec);
+int p4_pd_tiny_countOnly_print(int descriptor, int indent,
+    const p4_pd_tiny_countOnly_action_spec_t *action_spec);
+int p4_pd_tiny_police_print(int descriptor, int indent,
+    const p4_pd_tiny_police_action_spec_t *action_spec);
+int p4_pd_tiny_sample_print(int descriptor, int indent,
+    const p4_pd_tiny_sample_action_spec_t *action_spec);
+int p4_pd_tiny_setMember_print(int descriptor, int indent,
+    const p4_pd_tiny_setMember_action_spec_t *action_spec);
+bool p4_pd_tiny_sendTo_action_specs_are_equal(const p4_pd_tiny_sendTo_action_spec_t *a,
+    const p4_pd_tiny_sendTo_action_spec_t *b);
+bool p4_pd_tiny_setHop_action_specs_are_equal(const p4_pd_tiny_setHop_action_spec_t *a,
+    const p4_pd_tiny_setHop_action_spec_t *b);
+bool p4_pd_tiny_setRouter_action_specs_are_equal(const p4_pd_tiny_setRouter_action_spec_t *a,
+    const p4_pd_tiny_setRouter_action_spec_t *b);
+bool p4_pd_tiny_countOnly_action_specs_are_equal(const p4_pd_tiny_countOnly_action_spec_t *a,
+    const p4_pd_tiny_countOnly_action_spec_t *b);
+bool p4_pd_tiny_police_action_specs_are_equal(const p4_pd_tiny_police_action_spec_t *a,
+    const p4_pd_tiny_police_action_spec_t *b);
+bool p4_pd_tiny_sample_action_specs_are_equal(const p4_pd_tiny_sample_action_spec_t *a,
+    const p4_pd_tiny_sample_action_spec_t *b);
+bool p4_pd_tiny_setMember_action_specs_are_equal(const p4_pd_tiny_setMember_action_spec_t *a,
+    const p4_pd_tiny_setMember_action_spec_t *b);
+const char *p4_pd_tiny_action_enum_to_string(uint32_t value);
+uint32_t p4_pd_tiny_action_string_to_enum(const char *name);
+
 /* ==== Table portMap (0x01000001), exact ==== */
 
 /* Key of 9 bits in 2 bytes. */
@@ -293,6 +394,22 @@ p4_pd_status_t p4_pd_tiny_portMap_get_next_entry_handles(p4_pd_session_handle_t 
 p4_pd_status_t p4_pd_tiny_portMap_get_entry_from_plcmt_data(const pipe_mgr_placement_t *placement,
     p4_pd_tiny_portMap_match_spec_t *match_spec, p4_pd_tiny_action_specs_t *action_specs,
     bool *no_key);
+const char *p4_pd_tiny_portMap_match_spec_schema(void);
+int p4_pd_tiny_portMap_schema(char *buffer);
+int p4_pd_tiny_portMap_match_spec_value(const p4_pd_tiny_portMap_match_spec_t *match_spec,
+    char *buffer);
+int p4_pd_tiny_portMap_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tiny_portMap_match_spec_print(int descriptor, int indent,
+    const p4_pd_tiny_portMap_match_spec_t *match_spec);
+bool p4_pd_tiny_portMap_match_specs_are_equal(const p4_pd_tiny_portMap_match_spec_t *a,
+    const p4_pd_tiny_portMap_match_spec_t *b);
+uint32_t p4_pd_tiny_portMap_ig_intr_md_in_port_width(void);
+int p4_pd_tiny_portMap_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tiny_portMap_plcmt_data_value(const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tiny_portMap_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table filter (0x01000002), ternary ==== */
 
@@ -385,6 +502,36 @@ p4_pd_status_t p4_pd_tiny_filter_get_next_entry_handles(p4_pd_session_handle_t s
 p4_pd_status_t p4_pd_tiny_filter_get_entry_from_plcmt_data(const pipe_mgr_placement_t *placement,
     p4_pd_tiny_filter_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tiny_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tiny_filter_match_spec_schema(void);
+int p4_pd_tiny_filter_schema(char *buffer);
+int p4_pd_tiny_filter_match_spec_value(const p4_pd_tiny_filter_match_spec_t *match_spec,
+    char *buffer);
+int p4_pd_tiny_filter_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tiny_filter_match_spec_print(int descriptor, int indent,
+    const p4_pd_tiny_filter_match_spec_t *match_spec);
+int p4_pd_tiny_filter_match_spec_stringify_for_counter(
+    const p4_pd_tiny_filter_match_spec_t *match_spec, char *buffer);
+int p4_pd_tiny_filter_stringify_counter_match_spec(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, char *buffer);
+bool p4_pd_tiny_filter_match_specs_are_equal(const p4_pd_tiny_filter_match_spec_t *a,
+    const p4_pd_tiny_filter_match_spec_t *b);
+uint32_t p4_pd_tiny_filter_ig_intr_md_in_port_width(void);
+uint32_t p4_pd_tiny_filter_eth_dstOui_width(void);
+uint32_t p4_pd_tiny_filter_eth_dstStation_width(void);
+uint32_t p4_pd_tiny_filter_ip4_src_width(void);
+uint32_t p4_pd_tiny_filter_ip6_dst_width(void);
+uint32_t p4_pd_tiny_filter_meta_layer4_width(void);
+uint32_t p4_pd_tiny_filter_meta_bits_width(void);
+uint32_t p4_pd_tiny_filter_tag_0__width(void);
+uint32_t p4_pd_tiny_filter_tag_0__tagId_width(void);
+uint32_t p4_pd_tiny_filter_meta_dead_width(void);
+uint32_t p4_pd_tiny_filter_fw_dead_width(void);
+int p4_pd_tiny_filter_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tiny_filter_plcmt_data_value(const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tiny_filter_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table fib4 (0x01000003), longest prefix, ages its entries ==== */
 
@@ -462,6 +609,22 @@ p4_pd_status_t p4_pd_tiny_fib4_get_hit_state(p4_pd_session_handle_t session, uin
 p4_pd_status_t p4_pd_tiny_fib4_get_entry_from_plcmt_data(const pipe_mgr_placement_t *placement,
     p4_pd_tiny_fib4_match_spec_t *match_spec, p4_pd_tiny_action_specs_t *action_specs,
     bool *no_key);
+const char *p4_pd_tiny_fib4_match_spec_schema(void);
+int p4_pd_tiny_fib4_schema(char *buffer);
+int p4_pd_tiny_fib4_match_spec_value(const p4_pd_tiny_fib4_match_spec_t *match_spec, char *buffer);
+int p4_pd_tiny_fib4_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tiny_fib4_match_spec_print(int descriptor, int indent,
+    const p4_pd_tiny_fib4_match_spec_t *match_spec);
+bool p4_pd_tiny_fib4_match_specs_are_equal(const p4_pd_tiny_fib4_match_spec_t *a,
+    const p4_pd_tiny_fib4_match_spec_t *b);
+uint32_t p4_pd_tiny_fib4_l3_vrf_width(void);
+uint32_t p4_pd_tiny_fib4_ip4_dst_width(void);
+int p4_pd_tiny_fib4_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tiny_fib4_plcmt_data_value(const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tiny_fib4_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table fib6 (0x01000004), longest prefix ==== */
 
@@ -514,6 +677,21 @@ p4_pd_status_t p4_pd_tiny_fib6_get_next_entry_handles(p4_pd_session_handle_t ses
 p4_pd_status_t p4_pd_tiny_fib6_get_entry_from_plcmt_data(const pipe_mgr_placement_t *placement,
     p4_pd_tiny_fib6_match_spec_t *match_spec, p4_pd_tiny_action_specs_t *action_specs,
     bool *no_key);
+const char *p4_pd_tiny_fib6_match_spec_schema(void);
+int p4_pd_tiny_fib6_schema(char *buffer);
+int p4_pd_tiny_fib6_match_spec_value(const p4_pd_tiny_fib6_match_spec_t *match_spec, char *buffer);
+int p4_pd_tiny_fib6_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tiny_fib6_match_spec_print(int descriptor, int indent,
+    const p4_pd_tiny_fib6_match_spec_t *match_spec);
+bool p4_pd_tiny_fib6_match_specs_are_equal(const p4_pd_tiny_fib6_match_spec_t *a,
+    const p4_pd_tiny_fib6_match_spec_t *b);
+uint32_t p4_pd_tiny_fib6_ip6_dst_width(void);
+int p4_pd_tiny_fib6_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tiny_fib6_plcmt_data_value(const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tiny_fib6_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table hops (0x01000005), exact, ages its entries ==== */
 
@@ -592,6 +770,21 @@ p4_pd_status_t p4_pd_tiny_hops_get_hit_state(p4_pd_session_handle_t session, uin
 p4_pd_status_t p4_pd_tiny_hops_get_entry_from_plcmt_data(const pipe_mgr_placement_t *placement,
     p4_pd_tiny_hops_match_spec_t *match_spec, p4_pd_tiny_action_specs_t *action_specs,
     bool *no_key);
+const char *p4_pd_tiny_hops_match_spec_schema(void);
+int p4_pd_tiny_hops_schema(char *buffer);
+int p4_pd_tiny_hops_match_spec_value(const p4_pd_tiny_hops_match_spec_t *match_spec, char *buffer);
+int p4_pd_tiny_hops_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tiny_hops_match_spec_print(int descriptor, int indent,
+    const p4_pd_tiny_hops_match_spec_t *match_spec);
+bool p4_pd_tiny_hops_match_specs_are_equal(const p4_pd_tiny_hops_match_spec_t *a,
+    const p4_pd_tiny_hops_match_spec_t *b);
+uint32_t p4_pd_tiny_hops_l3_hop_width(void);
+int p4_pd_tiny_hops_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tiny_hops_plcmt_data_value(const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tiny_hops_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table paths (0x01000006), ternary, bound to pathMembers ==== */
 
@@ -658,6 +851,22 @@ p4_pd_status_t p4_pd_tiny_paths_get_entry(p4_pd_session_handle_t session, uint8_
 p4_pd_status_t p4_pd_tiny_paths_get_entry_from_plcmt_data(const pipe_mgr_placement_t *placement,
     p4_pd_tiny_paths_match_spec_t *match_spec, uint32_t *priority, p4_pd_member_handle_t *member,
     p4_pd_group_handle_t *group, bool *has_member, bool *has_group, bool *no_key);
+const char *p4_pd_tiny_paths_match_spec_schema(void);
+int p4_pd_tiny_paths_schema(char *buffer);
+int p4_pd_tiny_paths_match_spec_value(const p4_pd_tiny_paths_match_spec_t *match_spec,
+    char *buffer);
+int p4_pd_tiny_paths_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tiny_paths_match_spec_print(int descriptor, int indent,
+    const p4_pd_tiny_paths_match_spec_t *match_spec);
+bool p4_pd_tiny_paths_match_specs_are_equal(const p4_pd_tiny_paths_match_spec_t *a,
+    const p4_pd_tiny_paths_match_spec_t *b);
+uint32_t p4_pd_tiny_paths_l3_path_width(void);
+int p4_pd_tiny_paths_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tiny_paths_plcmt_data_value(const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tiny_paths_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table flows (0x01000007), exact ==== */
 
@@ -722,6 +931,22 @@ p4_pd_status_t p4_pd_tiny_flows_get_next_entry_handles(p4_pd_session_handle_t se
 p4_pd_status_t p4_pd_tiny_flows_get_entry_from_plcmt_data(const pipe_mgr_placement_t *placement,
     p4_pd_tiny_flows_match_spec_t *match_spec, p4_pd_tiny_action_specs_t *action_specs,
     bool *no_key);
+const char *p4_pd_tiny_flows_match_spec_schema(void);
+int p4_pd_tiny_flows_schema(char *buffer);
+int p4_pd_tiny_flows_match_spec_value(const p4_pd_tiny_flows_match_spec_t *match_spec,
+    char *buffer);
+int p4_pd_tiny_flows_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tiny_flows_match_spec_print(int descriptor, int indent,
+    const p4_pd_tiny_flows_match_spec_t *match_spec);
+bool p4_pd_tiny_flows_match_specs_are_equal(const p4_pd_tiny_flows_match_spec_t *a,
+    const p4_pd_tiny_flows_match_spec_t *b);
+uint32_t p4_pd_tiny_flows_meta_flowId_width(void);
+int p4_pd_tiny_flows_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tiny_flows_plcmt_data_value(const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tiny_flows_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table flood (0x01000008), ternary ==== */
 
@@ -779,6 +1004,23 @@ p4_pd_status_t p4_pd_tiny_flood_get_next_entry_handles(p4_pd_session_handle_t se
 p4_pd_status_t p4_pd_tiny_flood_get_entry_from_plcmt_data(const pipe_mgr_placement_t *placement,
     p4_pd_tiny_flood_match_spec_t *match_spec, uint32_t *priority,
     p4_pd_tiny_action_specs_t *action_specs, bool *no_key);
+const char *p4_pd_tiny_flood_match_spec_schema(void);
+int p4_pd_tiny_flood_schema(char *buffer);
+int p4_pd_tiny_flood_match_spec_value(const p4_pd_tiny_flood_match_spec_t *match_spec,
+    char *buffer);
+int p4_pd_tiny_flood_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tiny_flood_match_spec_print(int descriptor, int indent,
+    const p4_pd_tiny_flood_match_spec_t *match_spec);
+bool p4_pd_tiny_flood_match_specs_are_equal(const p4_pd_tiny_flood_match_spec_t *a,
+    const p4_pd_tiny_flood_match_spec_t *b);
+uint32_t p4_pd_tiny_flood_eth_dstOui_width(void);
+uint32_t p4_pd_tiny_flood_meta_slice_width(void);
+int p4_pd_tiny_flood_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tiny_flood_plcmt_data_value(const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tiny_flood_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table sampling (0x01000009), exact ==== */
 
@@ -831,6 +1073,22 @@ p4_pd_status_t p4_pd_tiny_sampling_get_next_entry_handles(p4_pd_session_handle_t
 p4_pd_status_t p4_pd_tiny_sampling_get_entry_from_plcmt_data(const pipe_mgr_placement_t *placement,
     p4_pd_tiny_sampling_match_spec_t *match_spec, p4_pd_tiny_action_specs_t *action_specs,
     bool *no_key);
+const char *p4_pd_tiny_sampling_match_spec_schema(void);
+int p4_pd_tiny_sampling_schema(char *buffer);
+int p4_pd_tiny_sampling_match_spec_value(const p4_pd_tiny_sampling_match_spec_t *match_spec,
+    char *buffer);
+int p4_pd_tiny_sampling_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tiny_sampling_match_spec_print(int descriptor, int indent,
+    const p4_pd_tiny_sampling_match_spec_t *match_spec);
+bool p4_pd_tiny_sampling_match_specs_are_equal(const p4_pd_tiny_sampling_match_spec_t *a,
+    const p4_pd_tiny_sampling_match_spec_t *b);
+uint32_t p4_pd_tiny_sampling_meta_layer4_width(void);
+int p4_pd_tiny_sampling_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tiny_sampling_plcmt_data_value(const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tiny_sampling_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table ticks (0x0100000a), exact ==== */
 
@@ -883,6 +1141,22 @@ p4_pd_status_t p4_pd_tiny_ticks_get_next_entry_handles(p4_pd_session_handle_t se
 p4_pd_status_t p4_pd_tiny_ticks_get_entry_from_plcmt_data(const pipe_mgr_placement_t *placement,
     p4_pd_tiny_ticks_match_spec_t *match_spec, p4_pd_tiny_action_specs_t *action_specs,
     bool *no_key);
+const char *p4_pd_tiny_ticks_match_spec_schema(void);
+int p4_pd_tiny_ticks_schema(char *buffer);
+int p4_pd_tiny_ticks_match_spec_value(const p4_pd_tiny_ticks_match_spec_t *match_spec,
+    char *buffer);
+int p4_pd_tiny_ticks_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tiny_ticks_match_spec_print(int descriptor, int indent,
+    const p4_pd_tiny_ticks_match_spec_t *match_spec);
+bool p4_pd_tiny_ticks_match_specs_are_equal(const p4_pd_tiny_ticks_match_spec_t *a,
+    const p4_pd_tiny_ticks_match_spec_t *b);
+uint32_t p4_pd_tiny_ticks_tag_0__width(void);
+int p4_pd_tiny_ticks_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tiny_ticks_plcmt_data_value(const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tiny_ticks_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table seen (0x0100000b), no key ==== */
 
@@ -914,6 +1188,14 @@ p4_pd_status_t p4_pd_tiny_seen_get_next_entry_handles(p4_pd_session_handle_t ses
     p4_pd_entry_handle_t *entries);
 p4_pd_status_t p4_pd_tiny_seen_get_entry_from_plcmt_data(const pipe_mgr_placement_t *placement,
     p4_pd_tiny_action_specs_t *action_specs, bool *no_key);
+int p4_pd_tiny_seen_schema(char *buffer);
+int p4_pd_tiny_seen_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tiny_seen_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tiny_seen_plcmt_data_value(const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tiny_seen_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Table finish (0x0100000c), no key ==== */
 
@@ -946,6 +1228,14 @@ p4_pd_status_t p4_pd_tiny_finish_get_next_entry_handles(p4_pd_session_handle_t s
     p4_pd_entry_handle_t *entries);
 p4_pd_status_t p4_pd_tiny_finish_get_entry_from_plcmt_data(const pipe_mgr_placement_t *placement,
     p4_pd_tiny_action_specs_t *action_specs, bool *no_key);
+int p4_pd_tiny_finish_schema(char *buffer);
+int p4_pd_tiny_finish_value(p4_pd_session_handle_t session, uint8_t device,
+    p4_pd_entry_handle_t entry, bool read_from_hardware, char *buffer);
+int p4_pd_tiny_finish_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tiny_finish_plcmt_data_value(const pipe_mgr_placement_t *placement, char *buffer);
+int p4_pd_tiny_finish_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
 
 /* ==== Profile pathMembers (action data 0x02000006, selector 0x03000001) ==== */
 
@@ -1022,6 +1312,10 @@ p4_pd_status_t p4_pd_tiny_pathMembers_get_member_from_plcmt_data(
 p4_pd_status_t p4_pd_tiny_pathMembers_get_full_member_info_from_plcmt_data(uint8_t device,
     p4_pd_member_handle_t member, const pipe_mgr_placement_t *placement,
     p4_pd_tiny_action_specs_t *action_specs);
+int p4_pd_tiny_pathMembers_schema(char *buffer);
+int p4_pd_tiny_pathMembers_adt_plcmt_data_print(int descriptor, int indent,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tiny_pathMembers_plcmt_data_value(const pipe_mgr_placement_t *placement, char *buffer);
 
 /* ==== Meters ==== */
 
@@ -1227,11 +1521,13 @@ typedef struct __attribute__((packed)) p4_pd_tiny_snapshot_ingress_trigger {
   uint32_t ip4_src;
   uint8_t reserved[9];
 } p4_pd_tiny_snapshot_ingress_trigger_t;
+
 /* Trigger of egress snapshots, 16 bytes: field values, or the bits of them that count. */
 typedef struct __attribute__((packed)) p4_pd_tiny_snapshot_egress_trigger {
   uint16_t out_port;
   uint8_t reserved[14];
 } p4_pd_tiny_snapshot_egress_trigger_t;
+
 /* What one stage captured, 16 bytes. Fields of several bytes have the most significant first. */
 typedef struct __attribute__((packed)) p4_pd_tiny_snapshot_capture {
   uint8_t eth_src[6];
@@ -1246,6 +1542,59 @@ p4_pd_status_t p4_pd_tiny_snapshot_capture_trigger_set(uint32_t snapshot, const 
     const void *mask);
 p4_pd_status_t p4_pd_tiny_snapshot_capture_data_get(uint32_t snapshot, uint16_t pipe,
     p4_pd_tiny_snapshot_capture_t *records, bf_snapshot_control_t *control, uint32_t *captures);
+
+/* ==== Introspection ==== */
+
+/* Bytes that hold any text of a family, its NUL included. */
+enum {
+  P4_PD_TINY_SCHEMA_MAX = 1324, /* schema of a table or profile */
+  P4_PD_TINY_MATCH_SPEC_VALUE_MAX = 197, /* a match spec alone */
+  P4_PD_TINY_ACTION_VALUE_MAX = 47, /* an action alone */
+  P4_PD_TINY_VALUE_MAX = 245, /* an entry */
+  P4_PD_TINY_LABEL_MAX = 221, /* label of a counted entry */
+};
+
+int p4_pd_tiny_cli_schema(uint32_t handle, char *buffer);
+int p4_pd_tiny__print_v4addr_exact(char *buffer, const char *label, uint32_t address);
+int p4_pd_tiny__print_v4addr_lpm(char *buffer, const char *label, uint32_t address,
+    uint16_t prefix_length);
+int p4_pd_tiny__print_v4addr_ternary(char *buffer, const char *label, uint32_t address,
+    uint32_t mask);
+int p4_pd_tiny__print_v6addr_exact(char *buffer, const char *label, const uint8_t *address);
+int p4_pd_tiny__print_v6addr_lpm(char *buffer, const char *label, const uint8_t *address,
+    uint16_t prefix_length);
+int p4_pd_tiny__print_v6addr_ternary(char *buffer, const char *label, const uint8_t *address,
+    const uint8_t *mask);
+int p4_pd_tiny__print_mac_exact(char *buffer, const char *label, uint32_t oui, uint32_t station);
+int p4_pd_tiny__print_mac_ternary(char *buffer, const char *label, uint32_t oui, uint32_t oui_mask,
+    uint32_t station, uint32_t station_mask);
+int p4_pd_tiny_stringify_counter_matchspec(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, char *buffer);
+
+/* ==== Rendering by handle ==== */
+
+int p4_pd_tiny_plcmt_data_print(int descriptor, int indent, uint32_t table_handle,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tiny_adt_plcmt_data_print(int descriptor, int indent, uint32_t profile_handle,
+    const pipe_mgr_placement_t *placement);
+int p4_pd_tiny_plcmt_data_value(uint32_t table_handle, const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tiny_adt_plcmt_data_value(uint32_t profile_handle, const pipe_mgr_placement_t *placement,
+    char *buffer);
+int p4_pd_tiny_plcmt_data_eq_to_hw(p4_pd_session_handle_t session, uint8_t device,
+    uint32_t table_handle, p4_pd_entry_handle_t entry, const pipe_mgr_placement_t *placement);
+int p4_pd_tiny_entry_value(p4_pd_session_handle_t session, uint32_t device, uint32_t table_handle,
+    p4_pd_entry_handle_t entry, uint32_t read_from_hardware, char *buffer);
+p4_pd_status_t p4_pd_tiny_entry_hdl_first(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t table_handle, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tiny_entry_hdl_next(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t table_handle, p4_pd_entry_handle_t entry,
+    uint32_t count, p4_pd_entry_handle_t *entries);
+p4_pd_status_t p4_pd_tiny_entry_hdl_default(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t table_handle, p4_pd_entry_handle_t *entry);
+p4_pd_status_t p4_pd_tiny_member_hdl_next(p4_pd_session_handle_t session,
+    p4_pd_device_target_t target, uint32_t profile_handle, p4_pd_member_handle_t member,
+    uint32_t count, p4_pd_member_handle_t *members);
 
 #ifdef __cplusplus
 }
