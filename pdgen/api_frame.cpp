@@ -110,7 +110,8 @@ void add_frame_functions(Api &api) {
                "init creates the member-selector states, registers the client with the driver "
                "framework and binds the callbacks for device removal, log and restore. Call it "
                "once, before any other function; P4_PD_NO_MEMORY when a state cannot be made and "
-               "P4_PD_DRIVER_REFUSED when the framework refuses the client. cleanup deregisters the client. device_state_cleanup does nothing. "
+               "P4_PD_DRIVER_REFUSED when the framework refuses the client. cleanup deregisters "
+               "the client. device_state_cleanup does nothing. "
                "bf_drv_hdl is the client's handle.");
   api.begin_unit("frame", {"frame.hpp"});
   api.declare(kFrame, "extern uint32_t bf_drv_hdl;\n");

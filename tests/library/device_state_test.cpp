@@ -167,9 +167,10 @@ TEST_F(DeviceState, OnlyTheExactNameIsRestored) {
   EXPECT_EQ(calls.size(), 1u);
   uint32_t action = 0;
   const PD(lagGroup_match_spec_t) key = {};
-  const auto added =
-      recorded([&] { PD(lagGroup_add_entry)
-                     (session(), kTarget, &key, 1, 7, &action); });
+  const auto added = recorded([&] {
+    PD(lagGroup_add_entry)
+    (session(), kTarget, &key, 1, 7, &action);
+  });
   EXPECT_EQ(added.at(1).scalar("action"), 536871358u);
 }
 

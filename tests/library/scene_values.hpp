@@ -11,8 +11,8 @@ namespace pd_test {
 inline constexpr bf_device_id_t kSceneVirtualDevice = 9;
 inline constexpr p4_pd_parser_target_t kSceneParser = {kDevice, 1, kPipe, 3};
 
-inline constexpr p4_pd_idle_time_params_t kSceneAgeing = {
-    PIPE_IDLE_NOTIFY, 100, 70000, 0, 0, 0x5a5a5a5a};
+inline constexpr p4_pd_idle_time_params_t kSceneAgeing = {PIPE_IDLE_NOTIFY, 100, 70000, 0, 0,
+                                                          0x5a5a5a5a};
 
 inline bool is_pointer(const bindings::Parameter &parameter) {
   return std::string_view(parameter.type).ends_with("*");

@@ -1,4 +1,5 @@
-// A second library, of another program, from the same generator and core: the code knows no program.
+// A second library, of another program, from the same generator and core: the code knows no
+// program.
 #include <gtest/gtest.h>
 
 #include <cstring>

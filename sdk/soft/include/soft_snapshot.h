@@ -28,9 +28,9 @@ extern "C" {
  * at each of them, in the layout of the direction (0 ingress, 1 egress) with multi-byte fields in
  * network byte order; bytes is the length of them all. captures receives how many snapshots
  * captured the packet (null: not wanted).
- * BF_NOT_SUPPORTED: the program has no snapshots. BF_WRONG_LENGTH: bytes is not stage_count records.
- * BF_INVALID_ARGUMENT: another direction, or a stage out of range. BF_INVALID_PIPE also for all
- * pipes. */
+ * BF_NOT_SUPPORTED: the program has no snapshots. BF_WRONG_LENGTH: bytes is not stage_count
+ * records. BF_INVALID_ARGUMENT: another direction, or a stage out of range. BF_INVALID_PIPE also
+ * for all pipes. */
 bf_status_t soft_snapshot_inject(bf_device_id_t device, bf_pipe_id_t pipe, uint32_t direction,
                                  uint8_t first_stage, const uint8_t *records, uint32_t stage_count,
                                  uint32_t bytes, uint32_t *captures);

@@ -32,8 +32,8 @@ bf_status_t soft_register_write(bf_device_id_t device, bf_pipe_id_t pipe, pipe_o
 
 /* Which entry does a value match in one parser? The entry whose value agrees with it in the bits of
  * its mask; the oldest one where several do. direction is 0 ingress, 1 egress.
- * BF_OBJECT_NOT_FOUND: none. BF_INVALID_ARGUMENT: another direction, or all parsers. BF_INVALID_PIPE
- * also for all pipes. */
+ * BF_OBJECT_NOT_FOUND: none. BF_INVALID_ARGUMENT: another direction, or all parsers.
+ * BF_INVALID_PIPE also for all pipes. */
 bf_status_t soft_value_set_match(bf_device_id_t device, pipe_object_handle_t value_set,
                                  uint32_t direction, bf_pipe_id_t pipe, uint8_t parser,
                                  uint32_t value, pipe_entry_handle_t *entry);
