@@ -82,11 +82,22 @@ void OutputFiles::add(std::filesystem::path path, std::string contents) {
   files_.push_back({std::move(path), std::move(contents)});
 }
 
+namespace {
+
+// Only a regular file is read: a device may have no end.
+bool holds(const std::filesystem::path &path, const std::string &contents) {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(path, error)) return false;
+  std::ifstream current(path, std::ios::binary);
+  const std::string old((std::istreambuf_iterator<char>(current)), {});
+  return current.is_open() && old == contents;
+}
+
+}  // namespace
+
 bool OutputFiles::write(std::string &message) const {
   for (const File &file : files_) {
-    std::ifstream current(file.path, std::ios::binary);
-    const std::string old((std::istreambuf_iterator<char>(current)), {});
-    if (current.is_open() && old == file.contents) continue;
+    if (holds(file.path, file.contents)) continue;
     std::error_code error;
     if (file.path.has_parent_path())
       std::filesystem::create_directories(file.path.parent_path(), error);
