@@ -31,6 +31,10 @@ Param read_param(const TomlValue &value, const std::string &owner, NameScope &na
   for (Word &word : row.optional_identifiers("index_of")) {
     param.index_of.push_back({std::move(word.text), std::move(word.place), nullptr});
   }
+  if (param.is_index() && param.width != 32) {
+    row.report("width", fmt::format("parameter {} names a cell, so it has 32 bits, not {}",
+                                    param.name, param.width));
+  }
   row.finish();
   return param;
 }

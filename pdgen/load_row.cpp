@@ -3,9 +3,29 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace pdgen {
+
+namespace {
+
+// Words that C or C++ keeps for itself and that a catalogue might want.
+bool is_keyword(std::string_view text) {
+  constexpr std::string_view kKeywords[] = {
+      "auto",      "bool",     "break",    "case",    "catch",     "char",   "class",
+      "const",     "continue", "default",  "delete",  "do",        "double", "else",
+      "enum",      "explicit", "export",   "extern",  "false",     "float",  "for",
+      "friend",    "goto",     "if",       "inline",  "int",       "long",   "mutable",
+      "namespace", "new",      "operator", "private", "protected", "public", "register",
+      "restrict",  "return",   "short",    "signed",  "sizeof",    "static", "struct",
+      "switch",    "template", "this",     "throw",   "true",      "try",    "typedef",
+      "typename",  "union",    "unsigned", "using",   "virtual",   "void",   "volatile",
+      "while",     "and",      "or",       "not",     "xor"};
+  return std::find(std::begin(kKeywords), std::end(kKeywords), text) != std::end(kKeywords);
+}
+
+}  // namespace
 
 bool is_identifier(std::string_view text) {
   const auto is_letter = [](char c) {
@@ -90,9 +110,11 @@ const TomlValue *RowReader::optional_value(std::string_view key) { return value(
 std::string RowReader::identifier(std::string_view key) {
   const auto *text = typed<std::string>(key, true, "a string");
   if (text == nullptr) return {};
-  if (is_identifier(*text)) return *text;
-  report(key, fmt::format("\"{}\" is no identifier: a letter or '_', then letters, digits and '_'",
-                          *text));
+  if (is_identifier(*text) && !is_keyword(*text)) return *text;
+  report(key,
+         fmt::format(
+             "\"{}\" is no identifier: a letter or '_', then letters, digits and '_'; no keyword",
+             *text));
   return {};
 }
 

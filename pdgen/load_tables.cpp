@@ -121,6 +121,10 @@ void check_match_kinds(const RowReader &row, const Table &table) {
       report(fmt::format("field {} of {} is lpm, but the key has ternary fields", field.name,
                          row.what()));
     }
+    if (table.kind != TableKind::kTernary && field.width % 8 != 0) {
+      report(fmt::format("field {} of {} is lpm, so its width is a multiple of 8, not {}",
+                         field.name, row.what(), field.width));
+    }
     lpm = &field;
   }
 }

@@ -46,7 +46,7 @@ bool parse(int argc, char **argv, Options &options) {
       return false;
     }
   }
-  return argc % 2 == 1 && !options.catalogue.empty();
+  return argc % 2 == 1 && !options.catalogue.empty() && options.soname > 0;
 }
 
 // Two exports of one name are a fault of the catalogue that shows only here.

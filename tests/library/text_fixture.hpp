@@ -105,7 +105,7 @@ class TextBuffer {
   std::string text(uint64_t length) const {
     EXPECT_LT(length, size_);
     EXPECT_EQ(std::strlen(bytes_.data()), length);
-    EXPECT_EQ(untouched_from(length + 1), bytes_.size()) << bytes_.data();
+    EXPECT_EQ(untouched_from(static_cast<size_t>(length) + 1), bytes_.size()) << bytes_.data();
     return bytes_.data();
   }
   bool is_untouched() const { return untouched_from(0) == bytes_.size(); }

@@ -25,7 +25,7 @@ class Threads : public LibraryTest {
  private:
   // The entry stays for a while: a key of few bits is added once more only after it is gone.
   static bool comes_back(const pdgen::Table &table, p4_pd_session_handle_t own, Random &random) {
-    const pdgen::Pair &pair = table.pairs[random() % table.pairs.size()];
+    const pdgen::Pair &pair = table.pairs[static_cast<size_t>(random() % table.pairs.size())];
     const Bytes match = random_record(record_of(table), random);
     const Bytes spec = random_record(record_of(*pair.action), random);
     const auto meter = random_meter_spec(random);

@@ -122,7 +122,13 @@ INSTANTIATE_TEST_SUITE_P(
              "4294967295"},
         Slip{"BadIdentifier", "actions.toml", "name = \"mark\"", "name = \"2nd-mark\"", "2nd-mark",
              "actions.params.name: \"2nd-mark\" is no identifier: a letter or '_', then letters, "
-             "digits and '_'"},
+             "digits and '_'; no keyword"},
+        Slip{"Keyword", "actions.toml", "name = \"mark\"", "name = \"int\"", "\"int\"",
+             "actions.params.name: \"int\" is no identifier: a letter or '_', then letters, "
+             "digits and '_'; no keyword"},
+        Slip{"NarrowIndex", "actions.toml", "\"rateCell\", width = 32", "\"rateCell\", width = 16",
+             "\"rateCell\", width = 16",
+             "actions.params.width: parameter rateCell names a cell, so it has 32 bits, not 16"},
         Slip{"TextNotPrintable", "labels.toml", "label = \"dead\"", "label = \"d\\tead\"",
              "d\\tead",
              "label.items.label: the text of item meta_dead of label filter must be printable "
