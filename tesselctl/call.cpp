@@ -4,6 +4,7 @@
 #include <string>
 
 #include "tesselctl/library.hpp"
+#include "tesselctl/trace.hpp"
 
 namespace tesselctl {
 
@@ -39,7 +40,9 @@ uint64_t Call::run() const {
                              " is not set");
     }
   }
-  return target_->call(words_.data());
+  const uint64_t result = target_->call(words_.data());
+  trace_call(*target_, words_.data(), result);
+  return result;
 }
 
 }  // namespace tesselctl

@@ -1,9 +1,12 @@
 #include "tesselctl/command.hpp"
 
 #include <algorithm>
-#include <cctype>
+#include <atomic>
+#include <new>
 
+#include "tesselctl/dry_run.hpp"
 #include "tesselctl/suggest.hpp"
+#include "tesselctl/trace.hpp"
 #include "tesselctl/value.hpp"
 
 namespace tesselctl {
@@ -68,14 +71,52 @@ const Command &find_command(Words words, Invocation &invocation) {
   return *found;
 }
 
-bool run_line(Context &context, std::string_view line) {
+namespace {
+
+std::atomic<bool> interrupted = false;
+
+std::string_view trimmed(std::string_view line) {
+  const size_t first = line.find_first_not_of(" \t\r");
+  if (first == std::string_view::npos) return {};
+  return line.substr(first, line.find_last_not_of(" \t\r") - first + 1);
+}
+
+void run_command(Context &context, const Command &command, const Invocation &invocation) {
+  const TraceScope trace(context.settings.trace ? &context.results : nullptr);
+  if (context.settings.dry_run) return run_on_copy(context, command, invocation);
+  command.run(context, invocation);
+}
+
+}  // namespace
+
+void check_interrupt() {
+  if (interrupted.load(std::memory_order_relaxed)) throw Fault("interrupted");
+}
+void request_interrupt() noexcept { interrupted.store(true, std::memory_order_relaxed); }
+void clear_interrupt() noexcept { interrupted.store(false, std::memory_order_relaxed); }
+
+Ran run_line(Context &context, std::string_view line) {
+  context.settings = context.defaults;
+  context.results.begin(context.settings, trimmed(line), false);
   std::vector<Word> words;
   split_words(line, words);
-  if (words.empty()) return false;
+  const Flags flags = take_flags(words, context.settings);
+  if (words.empty()) {
+    if (!flags.given.empty()) throw Fault(flags.given[0], "there is no command on this line");
+    return Ran::nothing;
+  }
   Invocation invocation;
   const Command &command = find_command(words, invocation);
-  command.run(context, invocation);
-  return true;
+  context.results.begin(context.settings, trimmed(line), command.kind == Kind::lists);
+  flags.check(command);
+  try {
+    run_command(context, command, invocation);
+    context.results.end();
+  } catch (const std::bad_alloc &) {
+    throw Fault(invocation.command, "there is no memory for this");
+  }
+  const bool changes = command.kind == Kind::changes && !context.settings.dry_run;
+  return changes ? Ran::changed : Ran::asked;
 }
 
 Word need_argument(const Invocation &invocation, size_t at, std::string_view what) {

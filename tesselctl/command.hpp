@@ -11,6 +11,7 @@
 
 #include "tesselctl/device.hpp"
 #include "tesselctl/output.hpp"
+#include "tesselctl/results.hpp"
 #include "tesselctl/words.hpp"
 
 namespace tesselctl {
@@ -24,12 +25,17 @@ struct ExpiredEntry {
 struct Context {
   Device &device;
   Output &out;
-  // Commands that change something say so; those that ask always answer.
-  bool verbose = false;
+  // Of every command that does not say otherwise.
+  Settings defaults = {};
+  // Of the command that runs, and its answers.
+  Settings settings = {};
+  Results results{out};
   // Handles that commands were asked to remember (as=NAME), for $NAME.
   std::map<std::string, uint32_t, std::less<>> labels = {};
   // Entries that expired since it was cleared; the device writes here while time advances.
   std::vector<ExpiredEntry> expired = {};
+
+  bool verbose() const { return settings.verbose; }
 };
 
 struct Invocation {
@@ -37,11 +43,18 @@ struct Invocation {
   Words arguments;
 };
 
+// What a command does decides which words that begin with "--" it takes: all take --json, --terse
+// and --trace; those that list also --count, --filter NAME=PATTERN and --sort NAME; those that
+// change something --dry-run.
+enum class Kind : uint8_t { asks, lists, changes };
+
 struct Command {
   std::string_view name;       // one word or two: "add", "meter set"
   std::string_view arguments;  // "TABLE FIELD=VALUE..."; a word in capitals is to be replaced
   std::string_view summary;    // one line
   void (*run)(Context &context, const Invocation &invocation);  // throws Fault
+  Kind kind = Kind::asks;
+  std::string_view flags = {};  // further "--" words, separated by blanks: "--raw"
 };
 
 // All commands by topic; every span is a topic.
@@ -50,8 +63,24 @@ std::span<const std::span<const Command>> command_topics();
 // The command that the words name. Throws Fault with a near name.
 const Command &find_command(Words words, Invocation &invocation);
 
-// Runs one line; a line without words does nothing and returns false. Throws Fault.
-bool run_line(Context &context, std::string_view line);
+enum class Ran : uint8_t { nothing, asked, changed };
+
+// Runs one line; one without words does nothing. Throws Fault, behind which context.results waits
+// for fail.
+Ran run_line(Context &context, std::string_view line);
+
+// The words of a line that begin with "--" go to the settings, the others stay. Throws Fault.
+struct Flags {
+  std::vector<Word> given;  // without values
+  void check(const Command &command) const;
+};
+Flags take_flags(std::vector<Word> &words, Settings &settings);
+
+// A command that takes long asks now and then; throws Fault once somebody interrupted it.
+void check_interrupt();
+// Safe in signal handlers.
+void request_interrupt() noexcept;
+void clear_interrupt() noexcept;
 
 // ---- For commands ----
 

@@ -14,6 +14,18 @@ const bindings::Export &outcome_export(const EntryLine &line, std::string_view d
   return need_export(line.member() ? member : group, line.table().name());
 }
 
+Row table_row(const EntryLine &line) {
+  Row row;
+  row.object("table", line.table().name());
+  return row;
+}
+
+Row count_row(const TableInfo &table, uint32_t entries) {
+  Row row;
+  row.object("table", table.name()).number("entries", entries);
+  return row;
+}
+
 void add(Context &context, const Invocation &invocation) {
   EntryLine line(context, invocation);
   line.refuse_entry();
@@ -24,7 +36,7 @@ void add(Context &context, const Invocation &invocation) {
   line.fill(call, true);
   check(call.set("entry", &entry).run(), line.table_word());
   if (line.label()) remember(context, *line.label(), entry);
-  if (context.verbose) context.out.line("{} entry={} added", line.table().name(), entry);
+  context.results.done(table_row(line).number("entry", entry), "added");
 }
 
 void modify(Context &context, const Invocation &invocation) {
@@ -40,7 +52,7 @@ void modify(Context &context, const Invocation &invocation) {
   if (by_handle) call.set("entry", uint64_t{line.entry()->value});
   line.fill(call, false);
   check(call.run(), by_handle ? line.entry()->word : line.table_word());
-  if (context.verbose) context.out.line("{} modified", line.table().name());
+  context.results.done(table_row(line), "modified");
 }
 
 void remove(Context &context, const Invocation &invocation) {
@@ -55,7 +67,7 @@ void remove(Context &context, const Invocation &invocation) {
   if (by_handle) call.set("entry", uint64_t{line.entry()->value});
   line.fill(call, false);
   check(call.run(), by_handle ? line.entry()->word : line.table_word());
-  if (context.verbose) context.out.line("{} deleted", line.table().name());
+  context.results.done(table_row(line), "deleted");
 }
 
 void find(Context &context, const Invocation &invocation) {
@@ -68,7 +80,7 @@ void find(Context &context, const Invocation &invocation) {
   line.fill(call, false);
   check(call.set("entry", &entry).run(), line.table_word());
   if (line.label()) remember(context, *line.label(), entry);
-  context.out.line("{} entry={}", line.table().name(), entry);
+  context.results.row(table_row(line).number("entry", entry));
 }
 
 uint32_t entry_count(const Context &context, const TableInfo &table, Word word) {
@@ -82,28 +94,33 @@ void count(Context &context, const Invocation &invocation) {
   if (!invocation.arguments.empty()) {
     for (const Word &word : invocation.arguments) {
       const TableInfo table = resolve_table(word);
-      context.out.line("{} {}", table.name(), entry_count(context, table, word));
+      context.results.row(count_row(table, entry_count(context, table, word)));
     }
     return;
   }
-  Listing listing({"table", ">entries"});
+  bool any = false;
   for (const bindings::Record &record : tables()) {
     const TableInfo table = resolve_table({record.name, 0});
     const uint32_t entries = entry_count(context, table, invocation.command);
-    if (entries != 0) listing.add({table.name(), grouped(entries)});
+    if (entries == 0) continue;
+    any = true;
+    context.results.row(count_row(table, entries));
   }
-  if (listing.empty()) return context.out.line("all tables are empty");
-  listing.print(context.out);
+  if (!any && !context.settings.json && !context.settings.count) {
+    context.results.text("all tables are empty");
+  }
 }
 
 constexpr Command kCommands[] = {
     {"add", "TABLE FIELD=VALUE... [priority=N] [ttl=MS] [meter=CIR,CBS,PIR,PBS] [as=NAME] OUTCOME",
-     "adds an entry", add},
+     "adds an entry", add, Kind::changes},
     {"modify", "TABLE entry=HANDLE|FIELD=VALUE... [priority=N] [meter=CIR,CBS,PIR,PBS] OUTCOME",
-     "gives an entry another action, member or group", modify},
-    {"delete", "TABLE entry=HANDLE|FIELD=VALUE... [priority=N]", "deletes an entry", remove},
+     "gives an entry another action, member or group", modify, Kind::changes},
+    {"delete", "TABLE entry=HANDLE|FIELD=VALUE... [priority=N]", "deletes an entry", remove,
+     Kind::changes},
     {"find", "TABLE FIELD=VALUE... [priority=N] [as=NAME]", "tells the handle of an entry", find},
-    {"count", "[TABLE...]", "counts the entries of tables, or of all that have any", count},
+    {"count", "[TABLE...]", "counts the entries of tables, or of all that have any", count,
+     Kind::lists},
 };
 
 }  // namespace

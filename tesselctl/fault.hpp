@@ -25,13 +25,18 @@ class Fault : public std::exception {
   explicit Fault(std::string message) : message_(std::move(message)) {}
   // A fault at a word; suggestion is a word that would do, or empty.
   Fault(Word word, std::string message, std::string suggestion = {})
-      : token_(word.text),
+      : token_(word.text.substr(0, kShownToken)),
+        token_bytes_(word.text.size()),
         column_(word.column),
         message_(std::move(message)),
-        suggestion_(std::move(suggestion)) {}
+        suggestion_(std::move(suggestion)) {
+    if (token_.size() < token_bytes_) token_ += "...";
+  }
 
   const char *what() const noexcept override { return message_.c_str(); }
+  // The word, or the beginning of a long one with "..." behind it.
   const std::string &token() const { return token_; }
+  size_t token_bytes() const { return token_bytes_; }
   size_t column() const { return column_; }
   const std::string &suggestion() const { return suggestion_; }
 
@@ -45,7 +50,10 @@ class Fault : public std::exception {
   }
 
  private:
+  static constexpr size_t kShownToken = 60;
+
   std::string token_;
+  size_t token_bytes_ = 0;
   size_t column_ = 0;
   std::string message_;
   std::string suggestion_;

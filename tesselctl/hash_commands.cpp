@@ -27,7 +27,8 @@ void set(Context &context, const Invocation &invocation) {
     check(call.set(names[i], options.number(names[i], limits[i])).run(), invocation.arguments[0]);
   }
   if (!any) throw Fault(invocation.arguments[0], "input=, algorithm= or seed= is missing");
-  if (context.verbose) context.out.line("{} set", hash.name);
+  Row row;
+  context.results.done(row.object("hash", hash.name), "set");
 }
 
 void get(Context &context, const Invocation &invocation) {
@@ -42,7 +43,9 @@ void get(Context &context, const Invocation &invocation) {
   check(device.prepare("hash_calc_algorithm_get", hash.name).set("algorithm", &algorithm).run(),
         word);
   check(device.prepare("hash_calc_seed_get", hash.name).set("seed", &seed).run(), word);
-  context.out.line("{} input={} algorithm={} seed={:#x}", hash.name, input, algorithm, seed);
+  Row row;
+  row.object("hash", hash.name).number("input", input).number("algorithm", algorithm);
+  context.results.row(row.text("seed", hexadecimal(seed)));
 }
 
 // "VALUE/BITS" words in the order of the calculation's fields.
@@ -88,11 +91,15 @@ void compute(Context &context, const Invocation &invocation) {
   input.bind(call);
   call.set("hash", bytes).set("hash_length", uint64_t{sizeof bytes});
   check(call.run(), invocation.arguments[0]);
-  context.out.line("{} hash={:#018x}", hash.name, from_bytes(bytes, sizeof bytes).low);
+  Row row;
+  row.object("calculation", hash.name);
+  context.results.row(
+      row.text("hash", fmt::format("{:#018x}", from_bytes(bytes, sizeof bytes).low)));
 }
 
 constexpr Command kCommands[] = {
-    {"hash set", "HASH [input=N] [algorithm=N] [seed=N]", "configures a hash calculation", set},
+    {"hash set", "HASH [input=N] [algorithm=N] [seed=N]", "configures a hash calculation", set,
+     Kind::changes},
     {"hash get", "HASH", "prints how a hash calculation is configured", get},
     {"hash compute", "HASH VALUE/BITS...",
      "computes the hash of values, in the order of the fields", compute},

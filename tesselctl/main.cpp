@@ -2,8 +2,10 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
+#include <csignal>
 #include <cstdlib>
 
+#include "tesselctl/command_help.hpp"
 #include "tesselctl/files.hpp"
 #include "tesselctl/library.hpp"
 #include "tesselctl/routes.hpp"
@@ -20,8 +22,8 @@ constexpr int kFault = 1;
 struct Options {
   bool no_colour = false;
   DeviceOptions device;
+  Settings settings;
   ScriptOptions script;
-  bool verbose = false;
   std::string script_file;
   RoutesOptions routes;
 };
@@ -37,57 +39,68 @@ std::string version_text() {
                      kInterfaceVersion);
 }
 
-// The commands of scripts, for the end of the help.
-std::string command_help() {
-  std::string text = "Commands of a script, one a line:\n";
-  for (const std::span<const Command> topic : command_topics()) {
-    for (const Command &command : topic) {
-      text += fmt::format("  {} {}\n      {}\n", command.name, command.arguments, command.summary);
-    }
-  }
-  return text +
-         "OUTCOME is action=NAME [PARAM=VALUE...], or member=HANDLE or group=HANDLE for a table\n"
-         "that is bound to a profile. $NAME stands for a handle that as=NAME remembered.";
-}
-
-void add_device_options(CLI::App &command, Options &options) {
-  command.add_option("--device", options.device.id, "id of the device")
-      ->check(CLI::Range(0, 255))
-      ->capture_default_str();
-  command.add_option("--pipes", options.device.pipes, "pipes of the device")
-      ->check(CLI::Range(1, 8))
-      ->capture_default_str();
-}
+// Where a command line comes from and goes to.
+struct Streams {
+  explicit Streams(const Options &options)
+      : out(stdout, wants_colour(options, STDOUT_FILENO)),
+        errors(stderr, wants_colour(options, STDERR_FILENO)) {}
+  Output out;
+  Output errors;
+};
 
 int run_file(const Options &options) {
-  Output out(stdout, wants_colour(options, STDOUT_FILENO));
-  Output errors(stderr, wants_colour(options, STDERR_FILENO));
+  Streams streams(options);
   const std::string text = read_input(options.script_file);
   const std::string name = options.script_file == "-" ? "standard input" : options.script_file;
   Device device(options.device);
-  Context context = {.device = device, .out = out, .verbose = options.verbose};
-  const ScriptResult result = run_script(context, name, text, options.script, errors);
-  out.line("{}: {} command{}, {} fault{}", name, result.commands, result.commands == 1 ? "" : "s",
-           result.faults, result.faults == 1 ? "" : "s");
+  LocalRunner runner(device, streams.out, streams.errors, options.settings);
+  const ScriptResult result = run_script(runner, name, text, options.script);
+  if (!options.settings.json) {
+    streams.out.line("{}: {} command{}, {} fault{}", name, result.commands,
+                     result.commands == 1 ? "" : "s", result.faults, result.faults == 1 ? "" : "s");
+  }
+  streams.out.flush();
   return result.faults == 0 ? kDone : kFault;
 }
 
 int run_routes(const Options &options) {
-  Output out(stdout, wants_colour(options, STDOUT_FILENO));
-  Output errors(stderr, wants_colour(options, STDERR_FILENO));
+  Streams streams(options);
   RoutesOptions routes = options.routes;
   routes.progress = isatty(STDERR_FILENO) != 0;
   const Device device(options.device);
-  return load_routes(device, routes, out, errors) ? kDone : kFault;
+  const bool good = load_routes(device, routes, streams.out, streams.errors);
+  streams.out.flush();
+  return good ? kDone : kFault;
 }
 
-void add_commands(CLI::App &app, Options &options) {
-  CLI::App *run = app.add_subcommand("run", "Runs a script of commands on a new soft device");
+// The words of the shell that called, as one line of ours.
+std::string line_of(const std::vector<std::string> &words) {
+  std::string line;
+  for (const std::string &word : words) {
+    if (!line.empty()) line += ' ';
+    const bool plain = !word.empty() && word.find_first_of(" \t\r\v\f#") == std::string::npos;
+    if (!plain && word.find('"') != std::string::npos) {
+      throw Fault(word + ": a word with blanks cannot hold quotes");
+    }
+    line += plain ? word : '"' + word + '"';
+  }
+  return line;
+}
+
+int run_one(const Options &options, const std::vector<std::string> &words) {
+  Streams streams(options);
+  Device device(options.device);
+  LocalRunner runner(device, streams.out, streams.errors, options.settings);
+  const std::string line = line_of(words);
+  const LineOutcome outcome = runner.run({{}, 0, line});
+  streams.out.flush();
+  return outcome == LineOutcome::fault ? kFault : kDone;
+}
+
+void add_subcommands(CLI::App &app, Options &options) {
+  CLI::App *run = app.add_subcommand("run", "Runs a script of commands");
   run->add_option("FILE", options.script_file, "the script, or - for standard input")->required();
   run->add_flag("-k,--keep-going", options.script.keep_going, "go on behind a line with a fault");
-  run->add_flag("-v,--verbose", options.verbose, "tell what each command changed");
-  run->footer(command_help);
-  add_device_options(*run, options);
 
   CLI::App *routes =
       app.add_subcommand("routes", "Loads route files into a new soft device and verifies them");
@@ -99,23 +112,40 @@ void add_commands(CLI::App &app, Options &options) {
   routes->add_option("--nexthop", options.routes.nexthop, "next hop of lines without one")
       ->check(CLI::Range(0, 16383))
       ->capture_default_str();
-  add_device_options(*routes, options);
+}
+
+void add_options(CLI::App &app, Options &options) {
+  app.set_version_flag("--version", version_text);
+  app.add_option("--device", options.device.id, "id of the device")
+      ->check(CLI::Range(0, 255))
+      ->capture_default_str();
+  app.add_option("--pipes", options.device.pipes, "pipes of the device")
+      ->check(CLI::Range(1, 8))
+      ->capture_default_str();
+  app.add_flag("--json", options.settings.json, "answer in JSON, a line for every command");
+  app.add_flag("--terse", options.settings.terse, "answer with one row a line, without columns");
+  app.add_flag("-v,--verbose", options.settings.verbose, "tell what each command changed");
+  app.add_flag("--trace", options.settings.trace, "print the C calls behind the commands");
+  app.add_flag("--no-color", options.no_colour, "never print in colour (also: NO_COLOR)");
 }
 
 int run_tool(int argc, char **argv) {
   Options options;
   CLI::App app("Works on the tables of the tessel_switch program, in a soft device", "tesselctl");
-  app.require_subcommand(1);
+  app.require_subcommand(0, 1);
   app.fallthrough();
-  app.set_version_flag("--version", version_text);
-  app.add_flag("--no-color", options.no_colour, "never print in colour (also: NO_COLOR)");
-  add_commands(app, options);
+  app.prefix_command();
+  app.footer(command_help);
+  add_options(app, options);
+  add_subcommands(app, options);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError &error) {
     return app.exit(error) == 0 ? kDone : kFault;
   }
-  return app.got_subcommand("run") ? run_file(options) : run_routes(options);
+  if (app.got_subcommand("run")) return run_file(options);
+  if (app.got_subcommand("routes")) return run_routes(options);
+  return run_one(options, app.remaining());
 }
 
 }  // namespace

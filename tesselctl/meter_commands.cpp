@@ -99,25 +99,26 @@ class MeterLine {
 void set(Context &context, const Invocation &invocation) {
   MeterLine line(context, invocation, true);
   check(line.prepare(context, "meter_set").run(), line.word());
-  if (context.verbose) context.out.line("{} set", line.meter().name);
+  Row row;
+  context.results.done(row.object("meter", line.meter().name), "set");
 }
 
 void get(Context &context, const Invocation &invocation) {
   MeterLine line(context, invocation, false);
   check(line.prepare(context, "meter_read").run(), line.word());
-  std::string text = line.meter().name;
+  Row row;
+  row.object("meter", line.meter().name);
   const bool packets = line.meter().unit == PIPE_RATE_PACKETS;
   for (const Part &part : kParts) {
-    text += fmt::format(" {}={} {}", part.name, line.spec.*part.member,
-                        packets ? part.packets_unit : part.bytes_unit);
+    row.number(part.name, line.spec.*part.member, packets ? part.packets_unit : part.bytes_unit);
   }
   const bool aware = line.spec.meter_type == PD_METER_TYPE_COLOR_AWARE;
-  context.out.line("{} type={}", text, aware ? "aware" : "unaware");
+  context.results.row(row.text("type", aware ? "aware" : "unaware"));
 }
 
 constexpr Command kCommands[] = {
     {"meter set", "METER index=N|entry=HANDLE cir=N cbs=N pir=N pbs=N [type=unaware|aware]",
-     "sets the rates and bursts of a meter cell", set},
+     "sets the rates and bursts of a meter cell", set, Kind::changes},
     {"meter get", "METER index=N|entry=HANDLE", "tells the rates and bursts of a meter cell", get},
 };
 

@@ -1,6 +1,10 @@
 #include "tesselctl/output.hpp"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#include "tesselctl/fault.hpp"
 
 namespace tesselctl {
 
@@ -9,11 +13,15 @@ void Output::write(std::string_view text) {
   if (stream_ != nullptr && text_.size() > 1u << 16) flush();
 }
 
-void Output::flush() {
-  if (stream_ == nullptr) return;
-  fwrite(text_.data(), 1, text_.size(), stream_);
-  fflush(stream_);
+bool Output::try_flush() noexcept {
+  if (stream_ == nullptr || text_.empty()) return true;
+  const bool written = fwrite(text_.data(), 1, text_.size(), stream_) == text_.size();
   text_.clear();
+  return fflush(stream_) == 0 && written;
+}
+
+void Output::flush() {
+  if (!try_flush()) throw Fault(fmt::format("cannot write the output: {}", std::strerror(errno)));
 }
 
 std::string Output::styled(Style style, std::string_view text) const {

@@ -16,9 +16,10 @@ class Output {
  public:
   // Collects everything until take.
   Output() = default;
-  // Writes to the stream, which stays the caller's; flushes when it is destroyed.
+  // Writes to the stream, which stays the caller's. What was not flushed when it is destroyed is
+  // written then, and nobody hears of an error.
   Output(std::FILE *stream, bool colour) : stream_(stream), colour_(colour) {}
-  ~Output() { flush(); }
+  ~Output() { try_flush(); }
   Output(const Output &) = delete;
   Output &operator=(const Output &) = delete;
 
@@ -31,10 +32,13 @@ class Output {
   std::string styled(Style style, std::string_view text) const;
   bool colour() const { return colour_; }
 
+  // Throws Fault when not everything could be written.
   void flush();
   std::string take() { return std::move(text_); }
 
  private:
+  bool try_flush() noexcept;
+
   std::FILE *stream_ = nullptr;
   bool colour_ = false;
   std::string text_;

@@ -18,6 +18,12 @@ const soft_profile_t &profile_of(const Invocation &invocation) {
   return resolve_object<soft_profile_t>(profile_word(invocation), "profile");
 }
 
+Row profile_row(const soft_profile_t &profile) {
+  Row row;
+  row.object("profile", profile.name);
+  return row;
+}
+
 // The action= word of the line and the parameters behind it; the words before it are for Options.
 struct ActionWords {
   RecordWriter action;
@@ -53,7 +59,7 @@ void member_add(Context &context, const Invocation &invocation) {
   call.set_if_taken("action_spec", static_cast<const void *>(words.action.data()));
   check(call.set("member", &member).run(), profile_word(invocation));
   if (options.has("as")) remember(context, options.need("as"), member);
-  if (context.verbose) context.out.line("{} member={} added", profile.name, member);
+  context.results.done(profile_row(profile).number("member", member), "added");
 }
 
 void member_modify(Context &context, const Invocation &invocation) {
@@ -64,7 +70,8 @@ void member_modify(Context &context, const Invocation &invocation) {
   call.set("member", uint64_t{options.handle(context, "member")});
   call.set_if_taken("action_spec", static_cast<const void *>(words.action.data()));
   check(call.run(), profile_word(invocation));
-  if (context.verbose) context.out.line("{} member modified", profile.name);
+  context.results.done(profile_row(profile).number("member", options.handle(context, "member")),
+                       "modified");
 }
 
 // The calls that take a group, a member or both and answer with a status alone.
@@ -74,15 +81,15 @@ void change(Context &context, const Invocation &invocation, const char *family,
   const soft_profile_t &profile = profile_of(invocation);
   const Options options(invocation, 1, names);
   Call call = context.device.prepare(family, profile.name);
-  std::string text;
+  Row row = profile_row(profile);
   for (const std::string_view name : names) {
     const uint32_t handle = options.handle(context, name);
     call.set(name, uint64_t{handle});
-    text += fmt::format(" {}={}", name, handle);
+    row.number(name, handle);
   }
   if (state != nullptr) call.set("state", uint64_t{*state});
   check(call.run(), profile_word(invocation));
-  if (context.verbose) context.out.line("{}{} {}", profile.name, text, done);
+  context.results.done(row, done);
 }
 
 void member_delete(Context &context, const Invocation &invocation) {
@@ -122,7 +129,7 @@ void group_add(Context &context, const Invocation &invocation) {
   call.set("max_size", options.number("size", 0xffffffffu)).set("group", &group);
   check(call.run(), profile_word(invocation));
   if (options.has("as")) remember(context, options.need("as"), group);
-  if (context.verbose) context.out.line("{} group={} added", profile.name, group);
+  context.results.done(profile_row(profile).number("group", group), "added");
 }
 
 void group_choose(Context &context, const Invocation &invocation) {
@@ -134,8 +141,9 @@ void group_choose(Context &context, const Invocation &invocation) {
   call.set("group", uint64_t{options.handle(context, "group")}).set("member", &member);
   call.set("hash", bytes.data() + 12).set("hash_length", uint64_t{4});
   check(call.run(), profile_word(invocation));
-  context.out.line("{} member={} {}", profile.name, member,
-                   member_text(context.device, profile.name, member, profile_word(invocation)));
+  Row row = profile_row(profile).number("member", member);
+  add_member(row, context.device, profile.name, member, profile_word(invocation));
+  context.results.row(row);
 }
 
 void member_show(Context &context, const Invocation &invocation) {
@@ -144,8 +152,9 @@ void member_show(Context &context, const Invocation &invocation) {
   const Device &device = context.device;
   const Options options(invocation, 1, {"member"});
   const auto print = [&](p4_pd_member_handle_t member) {
-    context.out.line("{} member={} {}", profile.name, member,
-                     member_text(device, profile.name, member, word));
+    Row row = profile_row(profile).number("member", member);
+    add_member(row, device, profile.name, member, word);
+    context.results.row(row);
   };
   if (options.has("member")) return print(options.handle(context, "member"));
   for_each_handle({device.prepare("get_first_member", profile.name),
@@ -153,10 +162,11 @@ void member_show(Context &context, const Invocation &invocation) {
                   word, print);
 }
 
-// "member=3 member=4(inactive)"
-std::string members_text(const Device &device, const char *profile, p4_pd_group_handle_t group,
-                         Word word) {
-  std::string text;
+// "members=3,4 inactive=4"
+void add_members(Row &row, const Device &device, const char *profile, p4_pd_group_handle_t group,
+                 Word word) {
+  std::vector<uint64_t> members;
+  std::vector<uint64_t> inactive;
   Call first = device.prepare("get_first_group_member", profile);
   Call next = device.prepare("get_next_group_members", profile);
   first.set("group", uint64_t{group});
@@ -166,10 +176,11 @@ std::string members_text(const Device &device, const char *profile, p4_pd_group_
     Call call = device.prepare("group_member_state_get", profile);
     call.set("group", uint64_t{group}).set("member", uint64_t{member}).set("state", &state);
     check(call.run(), word);
-    text += " member=" + decimal(member);
-    if (state == P4_PD_GRP_MBR_STATE_INACTIVE) text += "(inactive)";
+    members.push_back(member);
+    if (state == P4_PD_GRP_MBR_STATE_INACTIVE) inactive.push_back(member);
   });
-  return text;
+  row.list("members", members);
+  if (!inactive.empty()) row.list("inactive", inactive);
 }
 
 void group_show(Context &context, const Invocation &invocation) {
@@ -178,8 +189,9 @@ void group_show(Context &context, const Invocation &invocation) {
   const Device &device = context.device;
   const Options options(invocation, 1, {"group"});
   const auto print = [&](p4_pd_group_handle_t group) {
-    context.out.line("{} group={}{}", profile.name, group,
-                     members_text(device, profile.name, group, word));
+    Row row = profile_row(profile).number("group", group);
+    add_members(row, device, profile.name, group, word);
+    context.results.row(row);
   };
   if (options.has("group")) return print(options.handle(context, "group"));
   for_each_handle({device.prepare("get_first_group", profile.name),
@@ -188,24 +200,30 @@ void group_show(Context &context, const Invocation &invocation) {
 }
 
 constexpr Command kCommands[] = {
-    {"member add", "PROFILE [as=NAME] action=NAME [PARAM=VALUE...]", "adds a member", member_add},
+    {"member add", "PROFILE [as=NAME] action=NAME [PARAM=VALUE...]", "adds a member", member_add,
+     Kind::changes},
     {"member modify", "PROFILE member=HANDLE action=NAME [PARAM=VALUE...]",
-     "changes the parameters of a member", member_modify},
-    {"member delete", "PROFILE member=HANDLE", "deletes a member", member_delete},
-    {"member show", "PROFILE [member=HANDLE]", "prints members", member_show},
-    {"group add", "PROFILE size=N [as=NAME]", "adds a group for at most N members", group_add},
-    {"group delete", "PROFILE group=HANDLE", "deletes a group", group_delete},
-    {"group join", "PROFILE group=HANDLE member=HANDLE", "puts a member into a group", group_join},
-    {"group leave", "PROFILE group=HANDLE member=HANDLE", "takes a member out", group_leave},
-    {"group enable", "PROFILE group=HANDLE member=HANDLE", "makes a member active", group_enable},
+     "changes the parameters of a member", member_modify, Kind::changes},
+    {"member delete", "PROFILE member=HANDLE", "deletes a member", member_delete, Kind::changes},
+    {"member show", "PROFILE [member=HANDLE]", "prints members", member_show, Kind::lists},
+    {"group add", "PROFILE size=N [as=NAME]", "adds a group for at most N members", group_add,
+     Kind::changes},
+    {"group delete", "PROFILE group=HANDLE", "deletes a group", group_delete, Kind::changes},
+    {"group join", "PROFILE group=HANDLE member=HANDLE", "puts a member into a group", group_join,
+     Kind::changes},
+    {"group leave", "PROFILE group=HANDLE member=HANDLE", "takes a member out", group_leave,
+     Kind::changes},
+    {"group enable", "PROFILE group=HANDLE member=HANDLE", "makes a member active", group_enable,
+     Kind::changes},
     {"group disable", "PROFILE group=HANDLE member=HANDLE", "makes a member inactive",
-     group_disable},
+     group_disable, Kind::changes},
     {"group choose", "PROFILE group=HANDLE hash=N", "tells the member that a hash chooses",
      group_choose},
-    {"group show", "PROFILE [group=HANDLE]", "prints groups with their members", group_show},
+    {"group show", "PROFILE [group=HANDLE]", "prints groups with their members", group_show,
+     Kind::lists},
     {"fallback set", "PROFILE member=HANDLE", "sets what stands in for groups without members",
-     fallback_set},
-    {"fallback reset", "PROFILE", "takes the fallback member back", fallback_reset},
+     fallback_set, Kind::changes},
+    {"fallback reset", "PROFILE", "takes the fallback member back", fallback_reset, Kind::changes},
 };
 
 }  // namespace

@@ -22,49 +22,48 @@ struct Target {
     call.set("has_member", &has_member).set("has_group", &has_group);
     call.set("group", &group).set("member", &member);
   }
-  std::string text() const {
-    if (has_group) return "group=" + decimal(group);
-    return has_member ? "member=" + decimal(member) : "no outcome";
+  void add_to(Row &row) const {
+    if (has_group) row.number("group", group);
+    if (!has_group && has_member) row.number("member", member);
   }
 };
 
-// " meter=CIR,CBS,PIR,PBS" of the meter that every entry of the table has, or nothing.
-std::string meter_text(const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry) {
+// The meter that every entry of the table has.
+void add_meter(Row &row, const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry) {
   for (const soft_meter_t &meter : program_rows<soft_meter_t>()) {
     if (meter.table == 0 || meter.table != table.description->handle) continue;
     p4_pd_bytes_meter_spec_t spec = {};
     Call call = device.prepare("meter_read", meter.name);
-    if (call.set("entry", uint64_t{entry}).set("meter_spec", &spec).run() != BF_SUCCESS) return "";
-    return fmt::format(" meter={},{},{},{}", spec.committed_rate, spec.committed_burst,
-                       spec.peak_rate, spec.peak_burst);
+    if (call.set("entry", uint64_t{entry}).set("meter_spec", &spec).run() != BF_SUCCESS) return;
+    row.list("meter", {spec.committed_rate, spec.committed_burst, spec.peak_rate, spec.peak_burst});
   }
-  return "";
 }
 
-std::string ttl_text(const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry) {
-  if (!table.ages()) return "";
+void add_ttl(Row &row, const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry) {
+  if (!table.ages()) return;
   uint32_t ttl = 0;
   Call call = device.prepare("get_ttl", table.name());
-  if (call.set("entry", uint64_t{entry}).set("ttl", &ttl).run() != BF_SUCCESS) return "";
-  return " ttl=" + decimal(ttl);
+  call.set("entry", uint64_t{entry}).set("ttl", &ttl);
+  if (call.run() == BF_SUCCESS) row.number("ttl", ttl);
 }
 
-std::string specs_text(const ActionSpecs &specs) {
-  return outcome_text(specs.action, reinterpret_cast<const uint8_t *>(&specs.spec));
+void add_specs(Row &row, const ActionSpecs &specs) {
+  add_outcome(row, specs.action, reinterpret_cast<const uint8_t *>(&specs.spec));
 }
 
 }  // namespace
 
-std::string outcome_text(uint32_t action, const uint8_t *record) {
+void add_outcome(Row &row, uint32_t action, const uint8_t *record) {
   for (const bindings::Record &known : actions()) {
     if (known.number != action) continue;
-    return "action=" + std::string(known.name) + record_text(action_shape(known.name), record);
+    row.text("action", known.name);
+    return add_record(row, Row::kParameters, action_shape(known.name), record);
   }
-  return fmt::format("action={}", action);
+  row.number("action", action);
 }
 
-std::string entry_text(const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry,
-                       Word word) {
+void add_entry(Row &row, const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry,
+               Word word) {
   std::vector<uint8_t> key(table.record->size);
   alignas(16) uint8_t parameters[sizeof(ActionSpecs)] = {};
   uint32_t priority = 0;
@@ -83,35 +82,43 @@ std::string entry_text(const Device &device, const TableInfo &table, p4_pd_entry
     call.set("action_spec", parameters);
   }
   check(call.run(), word);
-  std::string text = no_key || !table.keyed() ? "" : record_text(table.shape(), key.data());
-  if (table.has_priority() && !no_key) text += " priority=" + decimal(priority);
-  if (!no_key) text += ttl_text(device, table, entry);
-  text += meter_text(device, table, entry);
-  text += " " + (table.indirect() ? target.text() : outcome_text(action, parameters));
-  return text.substr(1);
+  const bool has_key = !no_key && table.keyed();
+  if (has_key) add_record(row, Row::kKey, table.shape(), key.data());
+  if (has_key && table.has_priority()) row.number("priority", priority);
+  if (has_key) add_ttl(row, device, table, entry);
+  add_meter(row, device, table, entry);
+  if (table.indirect()) return target.add_to(row);
+  add_outcome(row, action, parameters);
 }
 
-std::string default_entry_text(const Device &device, const TableInfo &table, Word word) {
+Row entry_row(const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry, Word word) {
+  Row row;
+  row.object("table", table.name()).number("entry", entry);
+  add_entry(row, device, table, entry, word);
+  return row;
+}
+
+void add_default_entry(Row &row, const Device &device, const TableInfo &table, Word word) {
   Call call = device.prepare("table_get_default_entry", table.name());
   call.set("read_from_hardware", uint64_t{0});
   if (table.indirect()) {
     Target target;
     target.bind(call);
     check(call.run(), word);
-    return target.text();
+    return target.add_to(row);
   }
   ActionSpecs specs = {};
   check(call.set("action_specs", &specs).run(), word);
-  return specs_text(specs);
+  add_specs(row, specs);
 }
 
-std::string member_text(const Device &device, const char *profile, p4_pd_member_handle_t member,
-                        Word word) {
+void add_member(Row &row, const Device &device, const char *profile, p4_pd_member_handle_t member,
+                Word word) {
   ActionSpecs specs = {};
   Call call = device.prepare("get_member", profile);
   call.set("member", uint64_t{member}).set("read_from_hardware", uint64_t{0});
   check(call.set("action_specs", &specs).run(), word);
-  return specs_text(specs);
+  add_specs(row, specs);
 }
 
 void for_each_handle(Enumeration enumeration, Word word,
@@ -129,6 +136,7 @@ void for_each_handle(Enumeration enumeration, Word word,
     status = enumeration.next.set(enumeration.from, uint64_t{last}).run();
     if (status == BF_OBJECT_NOT_FOUND) return;
     check(status, word);
+    check_interrupt();
     for (const uint32_t handle : batch) {
       if (handle == kNone) return;
       visit(handle);

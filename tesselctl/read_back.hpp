@@ -9,17 +9,19 @@
 
 namespace tesselctl {
 
-// "vrfId=1 dip=10.0.0.0/8 ttl=0 action=setNextHop nextHop=12": what would add the entry again.
-// Throws Fault at the word when it cannot be read.
-std::string entry_text(const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry,
-                       Word word);
-// "action=onMiss", "member=3" or "group=1".
-std::string default_entry_text(const Device &device, const TableInfo &table, Word word);
-std::string member_text(const Device &device, const char *profile, p4_pd_member_handle_t member,
-                        Word word);
+// Adds what would add the entry again: its key, priority, ttl, meter and outcome. Throws Fault at
+// the word when it cannot be read.
+void add_entry(Row &row, const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry,
+               Word word);
+// Adds the outcome: action and parameters, member or group.
+void add_default_entry(Row &row, const Device &device, const TableInfo &table, Word word);
+void add_member(Row &row, const Device &device, const char *profile, p4_pd_member_handle_t member,
+                Word word);
+// An action by its enumeration value and record.
+void add_outcome(Row &row, uint32_t action, const uint8_t *record);
 
-// "action=NAME PARAM=VALUE..." of an action by its enumeration value and record.
-std::string outcome_text(uint32_t action, const uint8_t *record);
+// The row of an entry with the name of its table and its handle before it.
+Row entry_row(const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry, Word word);
 
 // Visits what a pair of get_first and get_next functions enumerates: entries of a table, members or
 // groups of a profile, members of a group. first and next are prepared but for their outputs, whose

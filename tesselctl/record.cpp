@@ -37,14 +37,14 @@ void RecordWriter::finish(Word word) {
   if (!missing.empty()) throw Fault(word, what_ + " also needs " + missing);
 }
 
-std::string record_text(const Shape &shape, const uint8_t *record) {
-  std::string text;
+void add_record(Row &row, std::string_view group, const Shape &shape, const uint8_t *record) {
   for (const Field *field : shape.shown()) {
     const FieldValue value = load_value(*field, record);
     if (field->match == Match::ternary && value.mask.is_zero()) continue;
-    text += " " + field->label + "=" + format_value(*field, value);
+    std::string text = format_value(*field, value);
+    const bool is_number = text.find_first_not_of("0123456789") == std::string::npos;
+    row.field(group, field->label, std::move(text), is_number);
   }
-  return text;
 }
 
 }  // namespace tesselctl

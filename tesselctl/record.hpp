@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "tesselctl/row.hpp"
 #include "tesselctl/shape.hpp"
 #include "tesselctl/value.hpp"
 #include "tesselctl/words.hpp"
@@ -38,7 +39,7 @@ class RecordWriter {
   std::vector<bool> given_;  // by own field
 };
 
-// " name=value" for every shown field of a record; ternary fields that match anything are left out.
-std::string record_text(const Shape &shape, const uint8_t *record);
+// Adds every shown field of a record; ternary fields that match anything are left out.
+void add_record(Row &row, std::string_view group, const Shape &shape, const uint8_t *record);
 
 }  // namespace tesselctl

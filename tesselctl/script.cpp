@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "tesselctl/utf8.hpp"
+
 namespace tesselctl {
 
 std::string fault_text(const Fault &fault, std::string_view file, uint64_t line) {
@@ -13,14 +15,8 @@ std::string fault_text(const Fault &fault, std::string_view file, uint64_t line)
 
 namespace {
 
-// A terminal would obey control characters of the source.
-std::string printable(std::string_view text) {
-  std::string copy(text);
-  for (char &c : copy) {
-    if (static_cast<unsigned char>(c) < ' ' || c == '\x7f') c = c == '\t' ? ' ' : '?';
-  }
-  return copy;
-}
+// What is shown of a line that is longer than a terminal is wide: the part around the column.
+constexpr size_t kShown = 200;
 
 }  // namespace
 
@@ -28,30 +24,33 @@ void print_fault(const Fault &fault, std::string_view file, uint64_t line, std::
                  Output &errors) {
   errors.line("{}", errors.styled(Style::bad, printable(fault_text(fault, file, line))));
   if (fault.column() == 0 || source.empty()) return;
+  size_t at = fault.column() - 1;  // in bytes, of the part that is shown
+  if (source.size() > kShown && at > kShown / 2) {
+    source.remove_prefix(at - kShown / 2);
+    at = kShown / 2;
+  }
+  source = source.substr(0, kShown);
+  const size_t blanks = utf8_count(source.substr(0, at));
+  const size_t marks = utf8_count(source.substr(at, fault.token_bytes()));
   errors.line("  {}", printable(source));
-  const std::string space(fault.column() - 1, ' ');
-  const std::string mark(std::max<size_t>(1, fault.token().size()), '^');
-  errors.line("  {}{}", space, errors.styled(Style::good, mark));
+  errors.line("  {}{}", std::string(blanks, ' '),
+              errors.styled(Style::good, std::string(std::max<size_t>(1, marks), '^')));
 }
 
-ScriptResult run_script(Context &context, std::string_view file, std::string_view text,
-                        const ScriptOptions &options, Output &errors) {
+ScriptResult run_script(Runner &runner, std::string_view file, std::string_view text,
+                        const ScriptOptions &options) {
   ScriptResult result;
   while (!text.empty()) {
     const size_t end = text.find('\n');
     const std::string_view line = text.substr(0, end);
     text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
     ++result.lines;
-    try {
-      if (run_line(context, line)) ++result.commands;
-    } catch (const Fault &fault) {
-      ++result.commands;
-      ++result.faults;
-      // What the commands before it printed comes first.
-      context.out.flush();
-      print_fault(fault, file, result.lines, line, errors);
-      if (!options.keep_going) break;
-    }
+    const LineOutcome outcome = runner.run({file, result.lines, line});
+    if (outcome == LineOutcome::blank) continue;
+    ++result.commands;
+    if (outcome == LineOutcome::done) continue;
+    ++result.faults;
+    if (!options.keep_going) break;
   }
   return result;
 }

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "tesselctl/command.hpp"
+#include "tesselctl/runner.hpp"
 
 namespace tesselctl {
 
@@ -18,11 +18,9 @@ struct ScriptResult {
   uint64_t faults = 0;
 };
 
-// Runs the lines of text, which came from a file of that name. Each fault goes to errors as
-//   FILE:LINE:COLUMN: 'TOKEN': what is wrong; did you mean 'SUGGESTION'?
-// with the line and a mark below it.
-ScriptResult run_script(Context &context, std::string_view file, std::string_view text,
-                        const ScriptOptions &options, Output &errors);
+// Runs the lines of text, which came from a file of that name.
+ScriptResult run_script(Runner &runner, std::string_view file, std::string_view text,
+                        const ScriptOptions &options);
 
 // The fault as one line of text, without its source. line 0 leaves the place out.
 std::string fault_text(const Fault &fault, std::string_view file, uint64_t line);

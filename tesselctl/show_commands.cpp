@@ -29,14 +29,19 @@ void default_set(Context &context, const Invocation &invocation) {
   line.fill(call, false);
   check(call.set("entry", &entry).run(), line.table_word());
   if (line.label()) remember(context, *line.label(), entry);
-  if (context.verbose) context.out.line("{} default entry={} set", table, entry);
+  Row row;
+  context.results.done(row.object("table", table).object("which", "default").number("entry", entry),
+                       "set");
 }
 
 void default_get(Context &context, const Invocation &invocation) {
   const Word word = need_argument(invocation, 0, "the name of a table");
   const TableInfo table = resolve_table(word);
   refuse_arguments_from(invocation, 1);
-  context.out.line("{} default {}", table.name(), default_entry_text(context.device, table, word));
+  Row row;
+  row.object("table", table.name()).object("which", "default");
+  add_default_entry(row, context.device, table, word);
+  context.results.row(row);
 }
 
 void default_reset(Context &context, const Invocation &invocation) {
@@ -44,7 +49,8 @@ void default_reset(Context &context, const Invocation &invocation) {
   const TableInfo table = resolve_table(word);
   refuse_arguments_from(invocation, 1);
   check(context.device.prepare("table_reset_default_entry", table.name()).run(), word);
-  if (context.verbose) context.out.line("{} default reset", table.name());
+  Row row;
+  context.results.done(row.object("table", table.name()).object("which", "default"), "reset");
 }
 
 void show(Context &context, const Invocation &invocation) {
@@ -52,19 +58,20 @@ void show(Context &context, const Invocation &invocation) {
   const TableInfo table = resolve_table(word);
   const Options options(invocation, 1, {"entry"});
   const auto print = [&](p4_pd_entry_handle_t entry) {
-    context.out.line("{} entry={} {}", table.name(), entry,
-                     entry_text(context.device, table, entry, word));
+    context.results.row(entry_row(context.device, table, entry, word));
   };
   if (options.has("entry")) return print(options.handle(context, "entry"));
   for_each_entry(context.device, table, word, print);
 }
 
 constexpr Command kCommands[] = {
-    {"show", "TABLE [entry=HANDLE]", "prints the entries of a table, or one of them", show},
+    {"show", "TABLE [entry=HANDLE]", "prints the entries of a table, or one of them", show,
+     Kind::lists},
     {"default set", "TABLE [meter=CIR,CBS,PIR,PBS] [as=NAME] OUTCOME",
-     "sets what a table does without a hit", default_set},
+     "sets what a table does without a hit", default_set, Kind::changes},
     {"default get", "TABLE", "prints what a table does without a hit", default_get},
-    {"default reset", "TABLE", "puts back the default entry of the program", default_reset},
+    {"default reset", "TABLE", "puts back the default entry of the program", default_reset,
+     Kind::changes},
 };
 
 }  // namespace

@@ -48,14 +48,16 @@ void age_enable(Context &context, const Invocation &invocation) {
   check(listen.run(), invocation.arguments[0]);
   Call enable = context.device.prepare("idle_tmo_enable", table.name());
   check(enable.set("params", &parameters).run(), invocation.arguments[0]);
-  if (context.verbose) context.out.line("{} ages its entries", table.name());
+  Row row;
+  context.results.done(row.object("table", table.name()), "ages its entries");
 }
 
 void age_disable(Context &context, const Invocation &invocation) {
   const TableInfo table = ageing_table(invocation);
   refuse_arguments_from(invocation, 1);
   check(context.device.prepare("idle_tmo_disable", table.name()).run(), invocation.arguments[0]);
-  if (context.verbose) context.out.line("{} no longer ages its entries", table.name());
+  Row row;
+  context.results.done(row.object("table", table.name()), "no longer ages its entries");
 }
 
 void age_advance(Context &context, const Invocation &invocation) {
@@ -68,8 +70,11 @@ void age_advance(Context &context, const Invocation &invocation) {
     for (const bindings::Record &record : tables()) {
       if (record.number != expired.table) continue;
       const TableInfo table = resolve_table({record.name, 0});
-      context.out.line("{} entry={} expired {}", table.name(), expired.entry,
-                       entry_text(context.device, table, expired.entry, word));
+      Row row;
+      row.object("table", table.name()).number("entry", expired.entry);
+      row.object("event", "expired");
+      add_entry(row, context.device, table, expired.entry, word);
+      context.results.row(row);
     }
   }
 }
@@ -89,7 +94,8 @@ void state_log(Context &context, const Invocation &invocation) {
   const std::unique_ptr<char, DeleteJson> text(cJSON_Print(document.get()));
   if (!text) throw Fault(word, "there is no memory for the text");
   write_file(std::string(word.text), std::string(text.get()) + "\n");
-  if (context.verbose) context.out.line("state written to {}", word.text);
+  Row row;
+  context.results.done(row.text("file", word.text), "written");
 }
 
 void state_restore(Context &context, const Invocation &invocation) {
@@ -100,16 +106,18 @@ void state_restore(Context &context, const Invocation &invocation) {
       cJSON_ParseWithLength(text.data(), text.size()));
   if (!document) throw Fault(word, "the file holds no JSON document");
   check(soft_device_restore(context.device.id(), document.get()), word);
-  if (context.verbose) context.out.line("state read from {}", word.text);
+  Row row;
+  context.results.done(row.text("file", word.text), "read");
 }
 
 constexpr Command kCommands[] = {
     {"age enable", "TABLE [sweep=MS] [ttl=MS] [min=MS] [max=MS]",
-     "starts ageing; ttl is that of entries added without one", age_enable},
-    {"age disable", "TABLE", "ends ageing", age_disable},
-    {"age advance", "MS", "lets time pass and lists the entries that expire", age_advance},
+     "starts ageing; ttl is that of entries added without one", age_enable, Kind::changes},
+    {"age disable", "TABLE", "ends ageing", age_disable, Kind::changes},
+    {"age advance", "MS", "lets time pass and lists the entries that expire", age_advance,
+     Kind::changes},
     {"state log", "FILE", "writes the member and group state of the library", state_log},
-    {"state restore", "FILE", "reads it back", state_restore},
+    {"state restore", "FILE", "reads it back", state_restore, Kind::changes},
 };
 
 }  // namespace

@@ -22,7 +22,9 @@ void synchronise(Context &context, const char *family, const char *object, Word 
   Call call = context.device.prepare(family, object);
   call.set("callback", reinterpret_cast<const void *>(&note_synchronised)).set("cookie", &done);
   check(call.run(), word);
-  context.out.line("{} {}", object, done ? "synchronised" : "not yet synchronised");
+  Row row;
+  row.object("object", object).object("state", done ? "synchronised" : "not yet synchronised");
+  context.results.row(row);
 }
 
 // ---- Counters ----
@@ -46,8 +48,9 @@ void counter_read(Context &context, const Invocation &invocation) {
   Call call = context.device.prepare("counter_read", counter.name);
   call.set(cell, uint64_t{at}).set("flags", read_flags(options)).set("values", &values);
   check(call.run(), invocation.arguments[0]);
-  context.out.line("{} {}={} packets={} bytes={}", counter.name, cell, at, values.packets,
-                   values.bytes);
+  Row row;
+  row.object("counter", counter.name).number(cell, at);
+  context.results.row(row.number("packets", values.packets).number("bytes", values.bytes));
 }
 
 void counter_write(Context &context, const Invocation &invocation) {
@@ -60,7 +63,8 @@ void counter_write(Context &context, const Invocation &invocation) {
   Call call = context.device.prepare("counter_write", counter.name);
   call.set(cell, uint64_t{options.handle(context, cell)}).set("values", &values);
   check(call.run(), invocation.arguments[0]);
-  if (context.verbose) context.out.line("{} written", counter.name);
+  Row row;
+  context.results.done(row.object("counter", counter.name), "written");
 }
 
 void counter_sync(Context &context, const Invocation &invocation) {
@@ -81,17 +85,18 @@ const soft_register_t &register_of(const Invocation &invocation) {
 uint64_t widest_value(const soft_register_t &reg) { return low_ones(reg.width).low; }
 
 // The values that a read wrote: an array of the smallest integers that hold a cell.
-std::string values_text(const soft_register_t &reg, const std::vector<uint32_t> &buffer,
-                        size_t first, size_t count) {
+Row values_row(const soft_register_t &reg, uint64_t index, const std::vector<uint32_t> &buffer,
+               size_t first, size_t count) {
   const auto *bytes = reinterpret_cast<const uint8_t *>(buffer.data());
   const size_t size = reg.width <= 8 ? 1 : reg.width / 8;
-  std::string text;
+  std::vector<uint64_t> values;
   for (size_t i = first; i < first + count; ++i) {
     uint32_t value = 0;
     memcpy(&value, bytes + i * size, size);
-    text += " " + decimal(value);
+    values.push_back(value);
   }
-  return text;
+  Row row;
+  return row.object("register", reg.name).number("index", index).list("values", values);
 }
 
 void register_read(Context &context, const Invocation &invocation) {
@@ -104,7 +109,7 @@ void register_read(Context &context, const Invocation &invocation) {
   call.set("index", index).set("flags", read_flags(options));
   call.set("values", values.data()).set("value_count", &count);
   check(call.run(), invocation.arguments[0]);
-  context.out.line("{} index={} values{}", reg.name, index, values_text(reg, values, 0, count));
+  context.results.row(values_row(reg, index, values, 0, count));
 }
 
 void register_range(Context &context, const Invocation &invocation) {
@@ -121,8 +126,7 @@ void register_range(Context &context, const Invocation &invocation) {
   check(call.run(), invocation.arguments[0]);
   const size_t each = indexes == 0 ? 0 : count / indexes;
   for (uint32_t i = 0; i < indexes; ++i) {
-    context.out.line("{} index={} values{}", reg.name, first + i,
-                     values_text(reg, values, i * each, each));
+    context.results.row(values_row(reg, first + i, values, i * each, each));
   }
 }
 
@@ -134,7 +138,8 @@ void register_write(Context &context, const Invocation &invocation) {
   Call call = context.device.prepare(one ? "register_write" : "register_write_all", reg.name);
   if (one) call.set("index", options.number("index", 0xffffffffu));
   check(call.set("value", &value).run(), invocation.arguments[0]);
-  if (context.verbose) context.out.line("{} written", reg.name);
+  Row row;
+  context.results.done(row.object("register", reg.name), "written");
 }
 
 void register_reset(Context &context, const Invocation &invocation) {
@@ -148,7 +153,8 @@ void register_reset(Context &context, const Invocation &invocation) {
     call.set("index_count", options.number("count", 0xffffffffu));
   }
   check(call.run(), invocation.arguments[0]);
-  if (context.verbose) context.out.line("{} reset", reg.name);
+  Row row;
+  context.results.done(row.object("register", reg.name), "reset");
 }
 
 void register_sync(Context &context, const Invocation &invocation) {
@@ -161,18 +167,19 @@ constexpr Command kCommands[] = {
     {"counter read", "COUNTER index=N|entry=HANDLE [source=hardware|software]",
      "prints the packets and bytes of a counter cell", counter_read},
     {"counter write", "COUNTER index=N|entry=HANDLE packets=N bytes=N",
-     "sets the packets and bytes of a counter cell", counter_write},
-    {"counter sync", "COUNTER", "brings the software copy of a counter up to date", counter_sync},
+     "sets the packets and bytes of a counter cell", counter_write, Kind::changes},
+    {"counter sync", "COUNTER", "brings the software copy of a counter up to date", counter_sync,
+     Kind::changes},
     {"register read", "REGISTER index=N [source=hardware|software]",
      "prints a register cell, one value a pipe", register_read},
     {"register range", "REGISTER first=N count=N [source=hardware|software]",
-     "prints several cells", register_range},
+     "prints several cells", register_range, Kind::lists},
     {"register write", "REGISTER [index=N] value=N", "writes a register cell, or all of them",
-     register_write},
+     register_write, Kind::changes},
     {"register reset", "REGISTER [first=N count=N]", "clears a register, or cells of it",
-     register_reset},
+     register_reset, Kind::changes},
     {"register sync", "REGISTER", "brings the software copy of a register up to date",
-     register_sync},
+     register_sync, Kind::changes},
 };
 
 }  // namespace

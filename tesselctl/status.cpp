@@ -34,13 +34,23 @@ constexpr LibraryStatus kLibraryStatuses[] = {
 
 }  // namespace
 
-std::string status_text(uint32_t status) {
+namespace {
+
+LibraryStatus status_row(uint32_t status) {
   for (const LibraryStatus &known : kLibraryStatuses) {
-    if (known.code == status) {
-      return fmt::format("{} ({}): {}", known.name, static_cast<int32_t>(status), known.text);
-    }
+    if (known.code == status) return known;
   }
-  return fmt::format("{} ({}): {}", soft_status_name(status), status, soft_status_text(status));
+  return {status, soft_status_name(status), soft_status_text(status)};
+}
+
+}  // namespace
+
+std::string status_name(uint32_t status) {
+  return fmt::format("{} ({})", status_row(status).name, static_cast<int32_t>(status));
+}
+
+std::string status_text(uint32_t status) {
+  return status_name(status) + ": " + status_row(status).text;
 }
 
 }  // namespace tesselctl

@@ -8,5 +8,7 @@ namespace tesselctl {
 
 // "BF_TABLE_FULL (8): The table, profile, group or set has no room left."
 std::string status_text(uint32_t status);
+// "BF_TABLE_FULL (8)"
+std::string status_name(uint32_t status);
 
 }  // namespace tesselctl

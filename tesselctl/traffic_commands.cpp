@@ -62,14 +62,13 @@ bf_pipe_id_t pipe_of(const Context &context, const Options &options) {
   return static_cast<bf_pipe_id_t>(options.number_or("pipe", context.device.pipes() - 1, 0));
 }
 
-std::string hit_text(const Context &context, const PacketLine &line, p4_pd_entry_handle_t entry,
-                     bool is_default) {
-  if (is_default) {
-    return fmt::format("{} default {}", line.table().name(),
-                       default_entry_text(context.device, line.table(), line.word()));
-  }
-  return fmt::format("{} entry={} {}", line.table().name(), entry,
-                     entry_text(context.device, line.table(), entry, line.word()));
+Row hit_row(const Context &context, const PacketLine &line, p4_pd_entry_handle_t entry,
+            bool is_default) {
+  if (!is_default) return entry_row(context.device, line.table(), entry, line.word());
+  Row row;
+  row.object("table", line.table().name()).object("which", "default");
+  add_default_entry(row, context.device, line.table(), line.word());
+  return row;
 }
 
 void lookup(Context &context, const Invocation &invocation) {
@@ -80,7 +79,7 @@ void lookup(Context &context, const Invocation &invocation) {
   check(soft_lookup(context.device.id(), pipe_of(context, options), line.table().record->number,
                     line.key(), line.length(), &entry, &is_default),
         line.word());
-  context.out.line("{}", hit_text(context, line, entry, is_default));
+  context.results.row(hit_row(context, line, entry, is_default));
 }
 
 void traffic(Context &context, const Invocation &invocation) {
@@ -99,15 +98,16 @@ void traffic(Context &context, const Invocation &invocation) {
                          line.table().record->number, &packets, &hit),
         line.word());
   const char *colors[] = {"green", "yellow", "red"};
-  std::string text = hit_text(context, line, hit.entry, hit.is_default);
-  if (line.table().indirect() && hit.member != 0) text += fmt::format(" chose={}", hit.member);
-  context.out.line("{} color={}", text, colors[hit.color % std::size(colors)]);
+  Row row = hit_row(context, line, hit.entry, hit.is_default);
+  if (line.table().indirect() && hit.member != 0) row.number("chose", hit.member);
+  context.results.row(row.text("color", colors[hit.color % std::size(colors)]));
 }
 
 constexpr Command kCommands[] = {
     {"lookup", "TABLE FIELD=VALUE... [pipe=N]", "tells the entry that a packet would hit", lookup},
     {"traffic", "TABLE FIELD=VALUE... [pipe=N] [packets=N] [bytes=N] [hash=N]",
-     "sends packets through a table: counters, meters and idle time follow", traffic},
+     "sends packets through a table: counters, meters and idle time follow", traffic,
+     Kind::changes},
 };
 
 }  // namespace

@@ -12,6 +12,12 @@ const soft_value_set_t &set_of(const Invocation &invocation) {
                                           "value set");
 }
 
+Row set_row(const soft_value_set_t &set) {
+  Row row;
+  row.object("valueset", set.name);
+  return row;
+}
+
 constexpr uint32_t kAllParsers = 0xff;
 
 // Without pipe= or parser= all of them.
@@ -36,7 +42,7 @@ void add(Context &context, const Invocation &invocation) {
   call.set("mask", options.number_or("mask", 0xffffffffu, 0xffffffffu)).set("entry", &entry);
   check(call.run(), invocation.arguments[0]);
   if (options.has("as")) remember(context, options.need("as"), entry);
-  if (context.verbose) context.out.line("{} entry={} added", set.name, entry);
+  context.results.done(set_row(set).number("entry", entry), "added");
 }
 
 void modify(Context &context, const Invocation &invocation) {
@@ -47,7 +53,7 @@ void modify(Context &context, const Invocation &invocation) {
   call.set("value", options.number("value", 0xffffffffu));
   call.set("mask", options.number_or("mask", 0xffffffffu, 0xffffffffu));
   check(call.run(), invocation.arguments[0]);
-  if (context.verbose) context.out.line("{} modified", set.name);
+  context.results.done(set_row(set), "modified");
 }
 
 void remove(Context &context, const Invocation &invocation) {
@@ -56,7 +62,7 @@ void remove(Context &context, const Invocation &invocation) {
   Call call = context.device.prepare("pvs_entry_delete", set.name);
   check(call.set("entry", uint64_t{options.handle(context, "entry")}).run(),
         invocation.arguments[0]);
-  if (context.verbose) context.out.line("{} deleted", set.name);
+  context.results.done(set_row(set), "deleted");
 }
 
 void show(Context &context, const Invocation &invocation) {
@@ -74,17 +80,20 @@ void show(Context &context, const Invocation &invocation) {
     Call call = context.device.prepare("pvs_entry_get", set.name);
     call.set("entry", uint64_t{entry}).set("value", &value).set("mask", &mask);
     check(call.run(), word);
-    context.out.line("{} entry={} value={:#x} mask={:#x}", set.name, entry, value, mask);
+    Row row = set_row(set).number("entry", entry);
+    context.results.row(row.text("value", hexadecimal(value)).text("mask", hexadecimal(mask)));
   });
 }
 
 constexpr Command kCommands[] = {
     {"valueset add",
      "SET value=N [mask=N] [direction=ingress|egress] [pipe=N] [parser=N] [as=NAME]",
-     "adds a value to parsers, to all of them unless told otherwise", add},
-    {"valueset modify", "SET entry=HANDLE value=N [mask=N]", "changes a value", modify},
-    {"valueset delete", "SET entry=HANDLE", "deletes a value", remove},
-    {"valueset show", "SET [direction=ingress|egress] [pipe=N] [parser=N]", "prints values", show},
+     "adds a value to parsers, to all of them unless told otherwise", add, Kind::changes},
+    {"valueset modify", "SET entry=HANDLE value=N [mask=N]", "changes a value", modify,
+     Kind::changes},
+    {"valueset delete", "SET entry=HANDLE", "deletes a value", remove, Kind::changes},
+    {"valueset show", "SET [direction=ingress|egress] [pipe=N] [parser=N]", "prints values", show,
+     Kind::lists},
 };
 
 }  // namespace

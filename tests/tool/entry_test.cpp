@@ -50,14 +50,14 @@ TEST_F(ToolTest, EntriesAreFoundModifiedAndDeletedByKeyAndByHandle) {
                 " dmac=02:00:00:00:00:01 egrL2Domain=10 action=l2LookupKnownMcast "
                 "l2McastId=65535\n");
   EXPECT_EQ(run("modify l2Lookup dmac=02:00:00:00:00:01 egrL2Domain=10 action=onMiss"), "");
-  EXPECT_EQ(run("count l2Lookup"), "l2Lookup 1\n");
+  EXPECT_EQ(run("count l2Lookup"), "l2Lookup entries=1\n");
   EXPECT_EQ(run("delete l2Lookup entry=$one"), "");
-  EXPECT_EQ(run("count l2Lookup"), "l2Lookup 0\n");
+  EXPECT_EQ(run("count l2Lookup"), "l2Lookup entries=0\n");
   EXPECT_EQ(run("show l2Lookup"), "");
 }
 
 TEST_F(ToolTest, VerboseCommandsTellTheHandle) {
-  context_.verbose = true;
+  context_.defaults.verbose = true;
   const std::string added =
       run("add nextHop nextHop=1 action=setNextHopDetails dmac=2 domain=0 as=x");
   EXPECT_EQ(added, "nextHop entry=" + std::to_string(context_.labels["x"]) + " added\n");
@@ -137,8 +137,8 @@ TEST_F(ToolTest, MembersAndGroupsServeIndirectEntries) {
   EXPECT_EQ(run("group disable ecmpMemberActionProfile group=$g member=$b"), "");
   const auto handle = [&](const char *name) { return std::to_string(context_.labels[name]); };
   EXPECT_EQ(run("group show ecmpMemberActionProfile"),
-            "ecmpMemberActionProfile group=" + handle("g") + " member=" + handle("a") +
-                " member=" + handle("b") + "(inactive)\n");
+            "ecmpMemberActionProfile group=" + handle("g") + " members=" + handle("a") + "," +
+                handle("b") + " inactive=" + handle("b") + "\n");
   EXPECT_EQ(run("group choose ecmpMemberActionProfile group=$g hash=12345"),
             "ecmpMemberActionProfile member=" + handle("a") + " action=setEcmpNextHop nextHop=1\n");
   EXPECT_EQ(run("add ecmpGroup ecmpGroup=7 group=$g as=e"), "");

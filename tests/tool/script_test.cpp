@@ -8,9 +8,8 @@ namespace {
 class ScriptTest : public ToolTest {
  protected:
   ScriptResult script(std::string_view text, bool keep_going = false) {
-    return run_script(context_, "x.tessel", text, {.keep_going = keep_going}, errors_);
+    return run_script(runner_, "x.tessel", text, {.keep_going = keep_going});
   }
-  Output errors_;
 };
 
 TEST_F(ScriptTest, CommentsAndBlankLinesAreNoCommands) {
@@ -29,7 +28,7 @@ TEST_F(ScriptTest, StopsAtTheFirstFaultAndMarksTheWord) {
       "count nextHop");
   EXPECT_EQ(result.commands, 2u);
   EXPECT_EQ(result.faults, 1u);
-  EXPECT_EQ(out_.take(), "nextHop 0\n");
+  EXPECT_EQ(out_.take(), "nextHop entries=0\n");
   EXPECT_EQ(errors_.take(),
             "x.tessel:2:31: 'setNextHopDetail': nextHop has no action of this name; did you mean "
             "'setNextHopDetails'?\n"
@@ -41,7 +40,7 @@ TEST_F(ScriptTest, GoesOnWhenAsked) {
   const ScriptResult result = script("cuont\ncount nextHop\nmeter", true);
   EXPECT_EQ(result.commands, 3u);
   EXPECT_EQ(result.faults, 2u);
-  EXPECT_EQ(out_.take(), "nextHop 0\n");
+  EXPECT_EQ(out_.take(), "nextHop entries=0\n");
   EXPECT_EQ(errors_.take(),
             "x.tessel:1:1: 'cuont': no command has this name; did you mean 'count'?\n"
             "  cuont\n  ^^^^^\n"
@@ -64,7 +63,8 @@ TEST_F(ScriptTest, TheExampleRunsAndShowsWhatItLoaded) {
             std::string::npos)
       << shown;
   EXPECT_EQ(run("count ingressPortMapping ipv4ShortMaskLpm firewallPolicy l2LookupMiss"),
-            "ingressPortMapping 6\nipv4ShortMaskLpm 3\nfirewallPolicy 4\nl2LookupMiss 3\n");
+            "ingressPortMapping entries=6\nipv4ShortMaskLpm entries=3\nfirewallPolicy entries=4\n"
+            "l2LookupMiss entries=3\n");
 }
 
 // Whatever show prints adds the same entry to another table of the same shape: here, after a

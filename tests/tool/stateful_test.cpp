@@ -46,16 +46,16 @@ TEST_F(ToolTest, CountersByIndexKeepWhatIsWritten) {
 TEST_F(ToolTest, RegistersOfBothWidthsAreWrittenReadAndReset) {
   EXPECT_EQ(run("register write flowDigestCountReg index=3 value=0xfedcba98"), "");
   EXPECT_EQ(run("register range flowDigestCountReg first=2 count=2"),
-            "flowDigestCountReg index=2 values 0 0\n"
-            "flowDigestCountReg index=3 values 4275878552 4275878552\n");
+            "flowDigestCountReg index=2 values=0,0\n"
+            "flowDigestCountReg index=3 values=4275878552,4275878552\n");
   EXPECT_EQ(run("register reset flowDigestCountReg first=3 count=1"), "");
   EXPECT_EQ(run("register read flowDigestCountReg index=3"),
-            "flowDigestCountReg index=3 values 0 0\n");
+            "flowDigestCountReg index=3 values=0,0\n");
   EXPECT_EQ(run("register write ingVlanCheckData index=9 value=1"), "");
   EXPECT_EQ(run("register range ingVlanCheckData first=8 count=3"),
-            "ingVlanCheckData index=8 values 0 0\n"
-            "ingVlanCheckData index=9 values 1 1\n"
-            "ingVlanCheckData index=10 values 0 0\n");
+            "ingVlanCheckData index=8 values=0,0\n"
+            "ingVlanCheckData index=9 values=1,1\n"
+            "ingVlanCheckData index=10 values=0,0\n");
   EXPECT_EQ(run("register write ingVlanCheckData index=9 value=2"), "47: '2': value is at most 1");
 }
 

@@ -25,7 +25,9 @@ class ToolTest : public ::testing::Test {
 
   Device device_{DeviceOptions{.id = 0, .pipes = 2}};
   Output out_;
-  Context context_{.device = device_, .out = out_};
+  Output errors_;
+  LocalRunner runner_{device_, out_, errors_, Settings{.terse = true}};
+  Context &context_ = runner_.context();
 };
 
 }  // namespace tesselctl

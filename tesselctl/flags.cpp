@@ -1,0 +1,95 @@
+// The words of a command line that begin with "--".
+#include "tesselctl/command.hpp"
+#include "tesselctl/suggest.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+struct Flag {
+  std::string_view name;
+  std::string_view value;  // what stands behind it, in capitals; empty for nothing
+  void (*set)(Settings &settings, Word value);
+};
+
+void set_filter(Settings &settings, Word value) {
+  const Assignment words = split_assignment(value);
+  settings.filters.push_back({std::string(words.name.text), std::string(words.value.text)});
+}
+
+constexpr Flag kFlags[] = {
+    {"--json", {}, [](Settings &settings, Word) { settings.json = true; }},
+    {"--terse", {}, [](Settings &settings, Word) { settings.terse = true; }},
+    {"--trace", {}, [](Settings &settings, Word) { settings.trace = true; }},
+    {"--verbose", {}, [](Settings &settings, Word) { settings.verbose = true; }},
+    {"--dry-run", {}, [](Settings &settings, Word) { settings.dry_run = true; }},
+    {"--count", {}, [](Settings &settings, Word) { settings.count = true; }},
+    {"--filter", "NAME=PATTERN", set_filter},
+    {"--sort", "NAME", [](Settings &settings, Word value) { settings.sort = value.text; }},
+    {"--raw", {}, [](Settings &settings, Word) { settings.raw = true; }},
+    {"--atomic", {}, [](Settings &settings, Word) { settings.atomic = true; }},
+};
+
+const Flag &find_flag(Word name) {
+  Nearest near(name.text);
+  for (const Flag &flag : kFlags) {
+    if (flag.name == name.text) return flag;
+    near.consider(flag.name);
+  }
+  throw Fault(name, "no option has this name", near.name());
+}
+
+constexpr std::string_view kOfAll = "--json --terse --trace --verbose";
+constexpr std::string_view kOfListings = "--count --filter --sort";
+constexpr std::string_view kOfChanges = "--dry-run";
+
+bool has_word(std::string_view words, std::string_view word) {
+  while (!words.empty()) {
+    const size_t end = words.find(' ');
+    if (words.substr(0, end) == word) return true;
+    words.remove_prefix(end == std::string_view::npos ? words.size() : end + 1);
+  }
+  return false;
+}
+
+}  // namespace
+
+Flags take_flags(std::vector<Word> &words, Settings &settings) {
+  Flags flags;
+  std::vector<Word> others;
+  for (size_t i = 0; i < words.size(); ++i) {
+    const Word word = words[i];
+    if (!word.text.starts_with("--")) {
+      others.push_back(word);
+      continue;
+    }
+    const size_t equals = word.text.find('=');
+    const Word name = word.first(std::min(equals, word.text.size()));
+    const Flag &flag = find_flag(name);
+    Word value = {{}, word.column};
+    if (equals != std::string_view::npos) {
+      if (flag.value.empty()) throw Fault(word, std::string(flag.name) + " takes no value");
+      value = word.from(equals + 1);
+    } else if (!flag.value.empty()) {
+      if (++i == words.size()) {
+        throw Fault(word, std::string(flag.name) + " needs " + std::string(flag.value));
+      }
+      value = words[i];
+    }
+    flag.set(settings, value);
+    flags.given.push_back(name);
+  }
+  words = std::move(others);
+  return flags;
+}
+
+void Flags::check(const Command &command) const {
+  for (const Word &flag : given) {
+    const bool taken = has_word(kOfAll, flag.text) || has_word(command.flags, flag.text) ||
+                       (command.kind == Kind::lists && has_word(kOfListings, flag.text)) ||
+                       (command.kind == Kind::changes && has_word(kOfChanges, flag.text));
+    if (!taken) throw Fault(flag, std::string(command.name) + " does not take this option");
+  }
+}
+
+}  // namespace tesselctl

@@ -1,0 +1,92 @@
+// What commands answer, in the form that was asked for.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tesselctl/fault.hpp"
+#include "tesselctl/output.hpp"
+#include "tesselctl/row.hpp"
+
+namespace tesselctl {
+
+// How commands answer and work; the words that begin with "--" on a command line.
+struct Settings {
+  struct Filter {
+    std::string name;
+    std::string pattern;  // '*' stands for any characters
+  };
+  bool verbose = false;
+  bool json = false;
+  bool terse = false;  // one row a line instead of columns
+  bool trace = false;
+  bool dry_run = false;
+  bool count = false;
+  bool raw = false;
+  bool atomic = false;
+  std::vector<Filter> filters = {};
+  std::string sort = {};
+};
+
+// The version of the JSON that commands print; docs/json.md and docs/tesselctl.schema.json tell
+// what it is.
+inline constexpr int kJsonVersion = 1;
+
+// Between begin and end or fail lies one command. In JSON it becomes one line:
+//   {"version":1,"command":"count nextHop","rows":[...]}
+//   {"version":1,"command":"cuont","rows":[],"error":{"message":...}}
+class Results {
+ public:
+  explicit Results(Output &out) : out_(&out) {}
+
+  // listing: the command answers with any number of rows, which stand in columns.
+  void begin(const Settings &settings, std::string_view command, bool listing);
+  void row(const Row &row);
+  // Rows for people to read as they stand: the text is what it says in words, the row in JSON.
+  void row(const Row &row, const std::string &text);
+  // Of a change: told when somebody wants to hear of it.
+  void done(const Row &row, std::string_view what);
+  // A text that is no row. In JSON a row with a "text".
+  void text(std::string_view text);
+  // Throws Fault when a filter or sort names what no row has.
+  void end();
+  void fail(const Fault &fault, std::string_view file, uint64_t line);
+
+ private:
+  bool passes(const Row &row);
+  void print(const Row &row);
+  void print_columns();
+  void choose_columns();
+  std::vector<std::string> cells(const Row &row) const;
+  void start_json();
+  void check_names() const;
+
+  struct Column {
+    std::string name;
+    bool number;
+    bool key;
+    size_t width;
+  };
+
+  Output *out_;
+  Settings settings_;
+  std::string command_;
+  bool listing_ = false;
+  bool json_started_ = false;
+  uint64_t count_ = 0;
+  uint64_t seen_ = 0;                   // rows, with those that a filter held back
+  std::vector<std::string> names_;      // of the rows seen, for the fault of a wrong name
+  std::vector<bool> filter_was_known_;  // by filter
+  bool sort_was_known_ = false;
+  std::vector<Row> held_;  // to be sorted, or to measure the columns
+  std::vector<Column> columns_;
+};
+
+// Whether a text is one that a pattern with '*' describes.
+bool matches_pattern(std::string_view text, std::string_view pattern);
+// As people sort: runs of digits count as numbers.
+bool sorts_before(std::string_view a, std::string_view b);
+
+}  // namespace tesselctl

@@ -1,0 +1,30 @@
+#include "tesselctl/runner.hpp"
+
+#include "tesselctl/script.hpp"
+
+namespace tesselctl {
+
+void LocalRunner::report(const Fault &fault, const SourceLine &source) {
+  context_.results.fail(fault, source.file, source.line);
+  // What the command printed before comes first.
+  context_.out.flush();
+  if (context_.settings.json) return;
+  const std::string_view file = source.file.empty() ? "tesselctl" : source.file;
+  print_fault(fault, file, source.line, source.text, *errors_);
+  errors_->flush();
+}
+
+LineOutcome LocalRunner::run(const SourceLine &source) {
+  try {
+    const Ran ran = run_line(context_, source.text);
+    changed_ = changed_ || ran == Ran::changed;
+    return ran == Ran::nothing ? LineOutcome::blank : LineOutcome::done;
+  } catch (const Fault &fault) {
+    // The command may have changed something before it failed.
+    changed_ = true;
+    report(fault, source);
+    return LineOutcome::fault;
+  }
+}
+
+}  // namespace tesselctl
