@@ -14,6 +14,20 @@ void LocalRunner::report(const Fault &fault, const SourceLine &source) {
   errors_->flush();
 }
 
+std::string LocalRunner::ask(std::string_view line) {
+  Output answer;
+  Context context = {.device = context_.device,
+                     .out = answer,
+                     .defaults = {.terse = true},
+                     .labels = context_.labels};
+  try {
+    run_line(context, line);
+  } catch (const Fault &) {
+    return {};
+  }
+  return answer.take();
+}
+
 LineOutcome LocalRunner::run(const SourceLine &source) {
   try {
     const Ran ran = run_line(context_, source.text);

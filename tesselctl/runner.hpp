@@ -1,6 +1,7 @@
 // What runs command lines: a device of this process, or a server.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "tesselctl/command.hpp"
@@ -24,6 +25,8 @@ class Runner {
   // with the line and a mark below it; in JSON within the answer. Throws Fault when the line cannot
   // be run at all: the output or the server is gone.
   virtual LineOutcome run(const SourceLine &source) = 0;
+  // What a line answers, for the tool itself; nothing after a fault.
+  virtual std::string ask(std::string_view line) = 0;
 };
 
 class LocalRunner : public Runner {
@@ -32,6 +35,7 @@ class LocalRunner : public Runner {
       : errors_(&errors), context_{.device = device, .out = out, .defaults = defaults} {}
 
   LineOutcome run(const SourceLine &source) override;
+  std::string ask(std::string_view line) override;
   Context &context() { return context_; }
   // Whether a command changed the device since the runner was made.
   bool has_changed() const { return changed_; }
