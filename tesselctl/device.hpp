@@ -27,7 +27,10 @@ class Device {
   uint32_t pipes() const { return pipes_; }
   p4_pd_session_handle_t session() const { return session_; }
   const p4_pd_device_target_t &target() const { return target_; }
-  void choose_pipe(uint16_t pipe) { target_.pipe_id = pipe; }
+  // The same in one pipe.
+  p4_pd_device_target_t target_of(uint32_t pipe) const {
+    return {target_.device_id, static_cast<uint16_t>(pipe)};
+  }
 
   // A call whose session, device and target are set, as far as the function takes them.
   Call prepare(const bindings::Export &target) const;

@@ -1,7 +1,5 @@
 #include "tesselctl/device_copy.hpp"
 
-#include <cjson/cJSON.h>
-
 #include "soft_sdk.h"
 #include "tesselctl/status.hpp"
 
@@ -9,20 +7,9 @@ namespace tesselctl {
 
 namespace {
 
-struct DeleteJson {
-  void operator()(cJSON *item) const { cJSON_Delete(item); }
-};
-
-void need(bf_status_t status) {
-  if (status != BF_SUCCESS) throw Fault("cannot copy the device: " + status_text(status));
-}
-
-// The contents, then what the library keeps beside them.
 void copy_contents(const Device &from, const Device &to) {
-  const std::unique_ptr<cJSON, DeleteJson> state(cJSON_CreateObject());
-  need(soft_device_log(from.id(), state.get()));
-  // COPY
-  need(soft_device_restore(to.id(), state.get()));
+  const bf_status_t status = soft_device_copy(from.id(), to.id());
+  if (status != BF_SUCCESS) throw Fault("cannot copy the device: " + status_text(status));
 }
 
 uint32_t free_id() {

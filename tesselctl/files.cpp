@@ -8,8 +8,9 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
-#include <string_view>
+#include <utility>
 
 #include "tesselctl/fault.hpp"
 
@@ -100,26 +101,68 @@ std::string read_input(const std::string &path) {
   return read_all(file.get(), path);
 }
 
-void write_file(const std::string &path, const std::string &text) {
-  std::string temporary = path + ".XXXXXX";
-  const Descriptor file(mkostemp(temporary.data(), O_CLOEXEC));
-  if (file.get() < 0) throw_system(path);
-  size_t done = 0;
-  while (done < text.size()) {
-    const ssize_t wrote = write(file.get(), text.data() + done, text.size() - done);
+FileWriter::FileWriter(std::string path) : path_(std::move(path)), temporary_(path_ + ".XXXXXX") {
+  fd_ = mkostemp(temporary_.data(), O_CLOEXEC);
+  if (fd_ < 0) throw_system(path_);
+}
+
+FileWriter::~FileWriter() {
+  if (fd_ < 0) return;
+  close(fd_);
+  unlink(temporary_.c_str());
+}
+
+void FileWriter::fail() {
+  const int error = errno;
+  close(std::exchange(fd_, -1));
+  unlink(temporary_.c_str());
+  errno = error;
+  throw_system(path_);
+}
+
+void FileWriter::write(std::string_view text) {
+  while (!text.empty()) {
+    const ssize_t wrote = ::write(fd_, text.data(), text.size());
     if (wrote < 0 && errno == EINTR) continue;
-    if (wrote < 0) break;
-    done += static_cast<size_t>(wrote);
+    if (wrote < 0) fail();
+    text.remove_prefix(static_cast<size_t>(wrote));
   }
+}
+
+void FileWriter::commit() {
   const mode_t mask = umask(0);
   umask(mask);
-  const bool good = done == text.size() && fchmod(file.get(), 0666 & ~mask) == 0 &&
-                    fsync(file.get()) == 0 && rename(temporary.c_str(), path.c_str()) == 0;
-  if (good) return;
-  const int error = errno;
-  unlink(temporary.c_str());
-  errno = error;
-  throw_system(path);
+  if (fchmod(fd_, 0666 & ~mask) != 0 || fsync(fd_) != 0) fail();
+  if (rename(temporary_.c_str(), path_.c_str()) != 0) fail();
+  close(std::exchange(fd_, -1));
+}
+
+void write_file(const std::string &path, std::string_view text) {
+  FileWriter file(path);
+  file.write(text);
+  file.commit();
+}
+
+FileLines::FileLines(const std::string &path)
+    : path_(path), file_(path == "-" ? stdin : fopen(path.c_str(), "re")) {
+  if (file_ == nullptr) throw_system(path);
+}
+
+FileLines::~FileLines() {
+  free(line_);
+  if (file_ != stdin) fclose(file_);
+}
+
+bool FileLines::next(std::string_view &line) {
+  errno = 0;
+  const ssize_t size = getline(&line_, &room_, file_);
+  if (size < 0) {
+    if (ferror(file_) != 0 || errno != 0) throw_system(path_);
+    return false;
+  }
+  line = {line_, static_cast<size_t>(size)};
+  if (line.ends_with('\n')) line.remove_suffix(1);
+  return true;
 }
 
 }  // namespace tesselctl

@@ -1,7 +1,9 @@
 // Whole files as text; read plain or compressed with xz, written in one step.
 #pragma once
 
+#include <cstdio>
 #include <string>
+#include <string_view>
 
 namespace tesselctl {
 
@@ -9,8 +11,43 @@ namespace tesselctl {
 // decompressed by the xz program. Throws Fault when it cannot be read.
 std::string read_input(const std::string &path);
 
-// Replaces the file by one of that contents: writes a temporary file beside it, brings it to the
-// disk and renames it. Throws Fault; the file is as it was then.
-void write_file(const std::string &path, const std::string &text);
+// A file that is written beside the one it replaces, brought to the disk and renamed. Whatever goes
+// wrong before commit is done, the old file stays as it was. All throw Fault.
+class FileWriter {
+ public:
+  explicit FileWriter(std::string path);
+  ~FileWriter();
+  FileWriter(const FileWriter &) = delete;
+  FileWriter &operator=(const FileWriter &) = delete;
+
+  void write(std::string_view text);
+  void commit();
+
+ private:
+  [[noreturn]] void fail();
+  std::string path_;
+  std::string temporary_;
+  int fd_ = -1;
+};
+
+void write_file(const std::string &path, std::string_view text);
+
+// The lines of a file, or of standard input for "-", without their ends.
+class FileLines {
+ public:
+  explicit FileLines(const std::string &path);
+  ~FileLines();
+  FileLines(const FileLines &) = delete;
+  FileLines &operator=(const FileLines &) = delete;
+
+  // False behind the last line. The line is good until the next call. Throws Fault.
+  bool next(std::string_view &line);
+
+ private:
+  std::string path_;
+  std::FILE *file_;
+  char *line_ = nullptr;
+  size_t room_ = 0;
+};
 
 }  // namespace tesselctl

@@ -157,9 +157,7 @@ void member_show(Context &context, const Invocation &invocation) {
     context.results.row(row);
   };
   if (options.has("member")) return print(options.handle(context, "member"));
-  for_each_handle({device.prepare("get_first_member", profile.name),
-                   device.prepare("get_next_members", profile.name), "member", "members", "member"},
-                  word, print);
+  for_each_member(device, profile.name, word, print);
 }
 
 // "members=3,4 inactive=4"
@@ -167,17 +165,9 @@ void add_members(Row &row, const Device &device, const char *profile, p4_pd_grou
                  Word word) {
   std::vector<uint64_t> members;
   std::vector<uint64_t> inactive;
-  Call first = device.prepare("get_first_group_member", profile);
-  Call next = device.prepare("get_next_group_members", profile);
-  first.set("group", uint64_t{group});
-  next.set("group", uint64_t{group});
-  for_each_handle({first, next, "member", "members", "member"}, word, [&](uint32_t member) {
-    uint32_t state = P4_PD_GRP_MBR_STATE_ACTIVE;
-    Call call = device.prepare("group_member_state_get", profile);
-    call.set("group", uint64_t{group}).set("member", uint64_t{member}).set("state", &state);
-    check(call.run(), word);
+  for_each_group_member(device, profile, group, word, [&](uint32_t member, bool active) {
     members.push_back(member);
-    if (state == P4_PD_GRP_MBR_STATE_INACTIVE) inactive.push_back(member);
+    if (!active) inactive.push_back(member);
   });
   row.list("members", members);
   if (!inactive.empty()) row.list("inactive", inactive);
@@ -194,9 +184,7 @@ void group_show(Context &context, const Invocation &invocation) {
     context.results.row(row);
   };
   if (options.has("group")) return print(options.handle(context, "group"));
-  for_each_handle({device.prepare("get_first_group", profile.name),
-                   device.prepare("get_next_groups", profile.name), "group", "groups", "group"},
-                  word, print);
+  for_each_group(device, profile.name, word, print);
 }
 
 constexpr Command kCommands[] = {

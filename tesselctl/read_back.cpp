@@ -1,6 +1,7 @@
 #include "tesselctl/read_back.hpp"
 
 #include <algorithm>
+#include <cstring>
 
 #include "p4_pd_tessel_switch.h"
 #include "tesselctl/status.hpp"
@@ -151,6 +152,43 @@ void for_each_entry(const Device &device, const TableInfo &table, Word word,
       {device.prepare("get_first_entry_handle", table.name()),
        device.prepare("get_next_entry_handles", table.name()), "entry", "entries", "entry"},
       word, visit);
+}
+
+void for_each_member(const Device &device, const char *profile, Word word,
+                     const std::function<void(p4_pd_member_handle_t)> &visit) {
+  for_each_handle({device.prepare("get_first_member", profile),
+                   device.prepare("get_next_members", profile), "member", "members", "member"},
+                  word, visit);
+}
+
+void for_each_group(const Device &device, const char *profile, Word word,
+                    const std::function<void(p4_pd_group_handle_t)> &visit) {
+  for_each_handle({device.prepare("get_first_group", profile),
+                   device.prepare("get_next_groups", profile), "group", "groups", "group"},
+                  word, visit);
+}
+
+void for_each_group_member(const Device &device, const char *profile, p4_pd_group_handle_t group,
+                           Word word,
+                           const std::function<void(p4_pd_member_handle_t, bool active)> &visit) {
+  Call first = device.prepare("get_first_group_member", profile);
+  Call next = device.prepare("get_next_group_members", profile);
+  first.set("group", uint64_t{group});
+  next.set("group", uint64_t{group});
+  for_each_handle({first, next, "member", "members", "member"}, word, [&](uint32_t member) {
+    uint32_t state = P4_PD_GRP_MBR_STATE_ACTIVE;
+    Call call = device.prepare("group_member_state_get", profile);
+    call.set("group", uint64_t{group}).set("member", uint64_t{member}).set("state", &state);
+    check(call.run(), word);
+    visit(member, state != P4_PD_GRP_MBR_STATE_INACTIVE);
+  });
+}
+
+uint32_t register_value(unsigned width, const void *values, size_t at) {
+  const size_t size = width <= 8 ? 1 : width / 8;
+  uint32_t value = 0;
+  memcpy(&value, static_cast<const uint8_t *>(values) + at * size, size);
+  return value;
 }
 
 }  // namespace tesselctl

@@ -39,4 +39,15 @@ void for_each_handle(Enumeration enumeration, Word word,
 void for_each_entry(const Device &device, const TableInfo &table, Word word,
                     const std::function<void(p4_pd_entry_handle_t)> &visit);
 
+void for_each_member(const Device &device, const char *profile, Word word,
+                     const std::function<void(p4_pd_member_handle_t)> &visit);
+void for_each_group(const Device &device, const char *profile, Word word,
+                    const std::function<void(p4_pd_group_handle_t)> &visit);
+void for_each_group_member(const Device &device, const char *profile, p4_pd_group_handle_t group,
+                           Word word,
+                           const std::function<void(p4_pd_member_handle_t, bool active)> &visit);
+
+// One value of the array that a register read wrote: the smallest integers that hold a cell.
+uint32_t register_value(unsigned width, const void *values, size_t at);
+
 }  // namespace tesselctl

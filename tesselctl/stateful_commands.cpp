@@ -1,9 +1,8 @@
 // Counters and registers.
-#include <cstring>
-
 #include "tesselctl/library.hpp"
 #include "tesselctl/number.hpp"
 #include "tesselctl/options.hpp"
+#include "tesselctl/read_back.hpp"
 
 namespace tesselctl {
 
@@ -87,13 +86,9 @@ uint64_t widest_value(const soft_register_t &reg) { return low_ones(reg.width).l
 // The values that a read wrote: an array of the smallest integers that hold a cell.
 Row values_row(const soft_register_t &reg, uint64_t index, const std::vector<uint32_t> &buffer,
                size_t first, size_t count) {
-  const auto *bytes = reinterpret_cast<const uint8_t *>(buffer.data());
-  const size_t size = reg.width <= 8 ? 1 : reg.width / 8;
   std::vector<uint64_t> values;
   for (size_t i = first; i < first + count; ++i) {
-    uint32_t value = 0;
-    memcpy(&value, bytes + i * size, size);
-    values.push_back(value);
+    values.push_back(register_value(reg.width, buffer.data(), i));
   }
   Row row;
   return row.object("register", reg.name).number("index", index).list("values", values);

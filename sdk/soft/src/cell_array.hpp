@@ -2,6 +2,7 @@
 // from the first time that it is written, together with its neighbours.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <memory_resource>
 #include <utility>
@@ -34,6 +35,20 @@ class CellArray {
     return pages_[page][index % kPageCells];
   }
 
+  static constexpr uint32_t kNone = 0xffffffff;
+  // The first cell at or behind from that test(const T &) holds for, or kNone.
+  template <class Test>
+  uint32_t next(uint32_t from, Test test) const {
+    for (uint32_t page = from / kPageCells; page < pages_.size(); ++page) {
+      const auto &cells = pages_[page];
+      const uint32_t first = page * kPageCells;
+      for (uint32_t at = from > first ? from - first : 0; at < cells.size(); ++at) {
+        if (test(cells[at])) return first + at;
+      }
+    }
+    return kNone;
+  }
+
   // Runs visit(T &) on all cells that have memory.
   template <class Visit>
   void each(Visit visit) {
@@ -53,6 +68,16 @@ class PipedCells {
   PipedCells(uint32_t pipes, std::pmr::memory_resource *memory) : arrays_(memory) {
     arrays_.reserve(pipes);
     for (uint32_t pipe = 0; pipe < pipes; ++pipe) arrays_.emplace_back(memory);
+  }
+
+  // The same in any pipe.
+  template <class Test>
+  bf_status_t next(uint32_t from, uint32_t *cell, Test test) const {
+    uint32_t nearest = CellArray<T>::kNone;
+    for (const auto &array : arrays_) nearest = std::min(nearest, array.next(from, test));
+    if (nearest == CellArray<T>::kNone) return BF_OBJECT_NOT_FOUND;
+    *cell = nearest;
+    return BF_SUCCESS;
   }
 
   // Runs visit(CellArray<T> &) on the array of a pipe, or on all for BF_ALL_PIPES.

@@ -93,6 +93,21 @@ void CellPlane::copy(const CellPlane &other) {
   elsewhere_ = other.elsewhere_;
 }
 
+uint32_t CellPlane::next_other(uint32_t from, uint32_t end, uint32_t value) const {
+  while (from < end) {
+    const size_t page = from / kPageCells;
+    if (page >= pages_.size()) return elsewhere_ == value ? end : from;
+    const Page &here = pages_[page];
+    const uint32_t behind = std::min(end, static_cast<uint32_t>(page + 1) * kPageCells);
+    if (here.cells == nullptr && here.alike != value) return from;
+    for (; here.cells != nullptr && from < behind; ++from) {
+      if (load(here, from % kPageCells) != value) return from;
+    }
+    from = behind;
+  }
+  return end;
+}
+
 size_t CellPlane::memory_bytes() const {
   size_t bytes = pages_.capacity() * sizeof(Page);
   for (const Page &page : pages_) {

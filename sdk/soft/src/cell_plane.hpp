@@ -35,6 +35,9 @@ class CellPlane {
   // then no cell has changed.
   void copy(const CellPlane &other);
 
+  // The first cell at or behind from and before end that holds another value, or end.
+  uint32_t next_other(uint32_t from, uint32_t end, uint32_t value) const;
+
   size_t memory_bytes() const;
 
  private:

@@ -84,6 +84,15 @@ bf_status_t Counter::count(bf_pipe_id_t pipe, uint32_t index, uint64_t packets, 
   return BF_SUCCESS;
 }
 
+bf_status_t Counter::next_cell(uint32_t from, uint32_t *cell) {
+  if (direct_) return BF_NOT_SUPPORTED;
+  const std::lock_guard lock(mutex_);
+  return cells_.next(from, cell, [](const EntryCounters &counters) {
+    return (counters.hardware.packets | counters.hardware.bytes | counters.software.packets |
+            counters.software.bytes) != 0;
+  });
+}
+
 uint64_t Counter::memory_bytes() {
   const std::lock_guard lock(mutex_);
   return sizeof(*this) + memory_.bytes();

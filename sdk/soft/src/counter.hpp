@@ -37,6 +37,7 @@ class Counter : public ObjectOf<Counter> {
   // Traffic, in one pipe.
   bf_status_t count(bf_pipe_id_t pipe, uint32_t index, uint64_t packets, uint64_t bytes);
 
+  bf_status_t next_cell(uint32_t from, uint32_t *cell) override;
   uint64_t memory_bytes() override;
 
  private:

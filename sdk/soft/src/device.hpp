@@ -65,6 +65,9 @@ class Object {
   virtual bf_status_t acquire(uint32_t) { return BF_NOT_SUPPORTED; }
   virtual void release(uint32_t) {}
 
+  // As soft_next_cell.
+  virtual bf_status_t next_cell(uint32_t /*from*/, uint32_t *) { return BF_NOT_SUPPORTED; }
+
   // The virtual clock shows a later time.
   virtual void clock_advanced(uint64_t /*now_ms*/) {}
 

@@ -77,6 +77,12 @@ bf_status_t Meter::mark(bf_pipe_id_t pipe, uint32_t index, uint64_t packets, uin
   return BF_SUCCESS;
 }
 
+bf_status_t Meter::next_cell(uint32_t from, uint32_t *cell) {
+  if (direct_) return BF_NOT_SUPPORTED;
+  const std::lock_guard lock(mutex_);
+  return cells_.next(from, cell, [](const Cell &candidate) { return candidate.set; });
+}
+
 uint64_t Meter::memory_bytes() {
   const std::lock_guard lock(mutex_);
   return sizeof(*this) + memory_.bytes();

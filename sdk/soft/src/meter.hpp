@@ -35,6 +35,7 @@ class Meter : public ObjectOf<Meter> {
   bf_status_t mark(bf_pipe_id_t pipe, uint32_t index, uint64_t packets, uint64_t bytes,
                    uint8_t *color);
 
+  bf_status_t next_cell(uint32_t from, uint32_t *cell) override;
   uint64_t memory_bytes() override;
 
  private:

@@ -150,6 +150,19 @@ bf_status_t RegisterEngine::write_hardware(bf_pipe_id_t pipe, uint32_t index, ui
   return BF_SUCCESS;
 }
 
+bf_status_t RegisterEngine::next_cell(uint32_t from, uint32_t *cell) {
+  const std::lock_guard lock(mutex_);
+  constexpr uint32_t kLast = SOFT_REGISTER_CELLS - 1;
+  uint32_t nearest = kLast;
+  for (const Instance &instance : instances_) {
+    const CellPlane &plane = instance.hardware;
+    nearest = std::min(nearest, plane.next_other(from, kLast, plane.get(kLast)));
+  }
+  if (nearest >= kLast) return BF_OBJECT_NOT_FOUND;
+  *cell = nearest;
+  return BF_SUCCESS;
+}
+
 uint64_t RegisterEngine::memory_bytes() {
   const std::lock_guard lock(mutex_);
   uint64_t bytes = sizeof(*this) + instances_.capacity() * sizeof(Instance);

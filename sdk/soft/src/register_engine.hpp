@@ -40,6 +40,7 @@ class RegisterEngine : public ObjectOf<RegisterEngine> {
   // A write of the data plane.
   bf_status_t write_hardware(bf_pipe_id_t pipe, uint32_t index, uint32_t value);
 
+  bf_status_t next_cell(uint32_t from, uint32_t *cell) override;
   uint64_t memory_bytes() override;
 
  private:

@@ -309,6 +309,21 @@ void Selector::listen(Ear ear, pipe_mgr_sel_update_cb_t callback, void *cookie) 
   listeners_[ear == Ear::kOwner ? 0 : 1] = {callback, cookie};
 }
 
+bf_status_t Selector::max_size(pipe_group_handle_t group_handle, uint32_t *max_size) {
+  const std::lock_guard lock(mutex_);
+  const Group *group = group_of(group_handle);
+  if (group == nullptr) return BF_OBJECT_NOT_FOUND;
+  *max_size = group->max_size;
+  return BF_SUCCESS;
+}
+
+bf_status_t Selector::fallback(pipe_member_handle_t *member) {
+  const std::lock_guard lock(mutex_);
+  if (fallback_ == 0) return BF_OBJECT_NOT_FOUND;
+  *member = fallback_;
+  return BF_SUCCESS;
+}
+
 uint64_t Selector::memory_bytes() {
   const std::lock_guard lock(mutex_);
   return sizeof(*this) + memory_.bytes();

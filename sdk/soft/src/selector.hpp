@@ -84,6 +84,10 @@ class Selector : public ObjectOf<Selector> {
                            uint32_t *groups) override;
   bf_status_t acquire(uint32_t group) override;
   void release(uint32_t group) override;
+  // BF_OBJECT_NOT_FOUND: no such group; no fallback.
+  bf_status_t max_size(pipe_group_handle_t group, uint32_t *max_size);
+  bf_status_t fallback(pipe_member_handle_t *member);
+
   uint64_t memory_bytes() override;
 
  private:

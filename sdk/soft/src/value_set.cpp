@@ -128,6 +128,15 @@ bf_status_t ValueSet::get(pipe_entry_handle_t entry, uint32_t *value, uint32_t *
   return BF_SUCCESS;
 }
 
+bf_status_t ValueSet::parsers_of(pipe_entry_handle_t entry, soft_parsers_t *parsers) {
+  const std::lock_guard lock(mutex_);
+  const auto found = entries_.find(entry);
+  if (found == entries_.end()) return BF_OBJECT_NOT_FOUND;
+  const Parsers &where = found->second.where;
+  *parsers = {where.direction, where.pipe, where.parser};
+  return BF_SUCCESS;
+}
+
 bf_status_t ValueSet::find(const Parsers &where, uint32_t value, uint32_t mask,
                            pipe_entry_handle_t *entry) {
   const std::lock_guard lock(mutex_);

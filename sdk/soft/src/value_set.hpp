@@ -6,6 +6,7 @@
 #include <mutex>
 
 #include "device.hpp"
+#include "soft_contents.h"
 
 namespace soft {
 
@@ -37,6 +38,8 @@ class ValueSet : public ObjectOf<ValueSet> {
   bf_status_t modify(pipe_entry_handle_t entry, uint32_t value, uint32_t mask);
   bf_status_t erase(pipe_entry_handle_t entry);
   bf_status_t get(pipe_entry_handle_t entry, uint32_t *value, uint32_t *mask);
+
+  bf_status_t parsers_of(pipe_entry_handle_t entry, soft_parsers_t *parsers);
 
   bf_status_t find(const Parsers &where, uint32_t value, uint32_t mask, pipe_entry_handle_t *entry);
   bf_status_t match(const Parsers &where, uint32_t value, pipe_entry_handle_t *entry);
