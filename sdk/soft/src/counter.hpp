@@ -38,6 +38,7 @@ class Counter : public ObjectOf<Counter> {
   bf_status_t count(bf_pipe_id_t pipe, uint32_t index, uint64_t packets, uint64_t bytes);
 
   uint64_t memory_bytes() override;
+  void copy_from(Object &object) override;
 
  private:
   using Cells = CellArray<EntryCounters>;

@@ -36,6 +36,7 @@ class Meter : public ObjectOf<Meter> {
                    uint8_t *color);
 
   uint64_t memory_bytes() override;
+  void copy_from(Object &object) override;
 
  private:
   struct Cell {

@@ -41,6 +41,7 @@ class RegisterEngine : public ObjectOf<RegisterEngine> {
   bf_status_t write_hardware(bf_pipe_id_t pipe, uint32_t index, uint32_t value);
 
   uint64_t memory_bytes() override;
+  void copy_from(Object &object) override;
 
  private:
   struct Instance {
