@@ -7,7 +7,8 @@
 #include <functional>
 #include <new>
 
-#include "small_program.hpp"
+#include "device_contents.hpp"
+#include "p4_pd_ms.h"
 
 namespace {
 
@@ -46,7 +47,7 @@ class StateMemory : public SmallTest {
   static int until_success(const std::function<bf_status_t()> &call,
                            const std::function<Bytes()> &state) {
     const Bytes before = state();
-    for (int failures = 0; failures < 200; ++failures) {
+    for (int failures = 0; failures < 2000; ++failures) {
       allocations_left = failures;
       const bf_status_t status = call();
       allocations_left = -1;
@@ -203,6 +204,44 @@ TEST_F(StateMemory, AReplayCanBeRepeated) {
             BF_SUCCESS);
   EXPECT_EQ(members, 1u);
   EXPECT_EQ(soft_device_remove(kVirtual), BF_SUCCESS);
+}
+
+TEST_F(StateMemory, ADeviceThatCannotBeCopiedStaysAsItWas) {
+  constexpr bf_device_id_t kModel = 7;
+  ASSERT_EQ(soft_device_create(kModel, 2, &small_program(), false), BF_SUCCESS);
+  const Filled target{session, kDevice}, model{session, kModel};
+  p4_pd_ms_state_t *state = p4_pd_ms_init_state();
+  ASSERT_EQ(p4_pd_ms_new_mbr(session, state, kModel, 1), BF_SUCCESS);
+  ASSERT_EQ(p4_pd_ms_new_mbr(session, state, kDevice, 2), BF_SUCCESS);
+  for (const Filled &device : {target, model}) {
+    ASSERT_EQ(pipe_mgr_flow_lrn_set_timeout(session, device.device, 1000), BF_SUCCESS);
+    ASSERT_EQ(pipe_mgr_lrn_digest_notification_register(
+                  session, device.device, kMacDigest,
+                  [](pipe_session_handle_t, pipe_mgr_digest_message_t *, void *) -> bf_status_t {
+                    return BF_SUCCESS;
+                  },
+                  nullptr),
+              BF_SUCCESS);
+  }
+  target.add_host(9);
+  target.learn({3, 3, 3});
+  soft_clock_advance(1);  // a message that is not given back
+  model.fill();
+  const Contents before = target.read(), wanted = model.read();
+  const auto seen = [&] {
+    uint32_t held = 9;
+    EXPECT_EQ(soft_digest_pending(kDevice, kMacDigest, nullptr, &held), BF_SUCCESS);
+    const bool same = target.read() == before;
+    return Bytes{same, static_cast<uint8_t>(held),
+                 p4_pd_ms_new_mbr(session, state, kDevice, 2) == BF_ALREADY_EXISTS};
+  };
+  EXPECT_EQ(seen(), (Bytes{true, 1, true}));
+  EXPECT_GT(until_success([&] { return soft_device_copy(kModel, kDevice); }, seen), 100);
+  EXPECT_EQ(target.read(), wanted);
+  EXPECT_EQ(p4_pd_ms_new_mbr(session, state, kDevice, 1), BF_ALREADY_EXISTS);
+  EXPECT_EQ(soft_device_remove(kModel), BF_SUCCESS);
+  EXPECT_EQ(p4_pd_ms_destroy_state_for_dev(state, kModel), BF_SUCCESS);
+  EXPECT_EQ(p4_pd_ms_destroy_state_for_dev(state, kDevice), BF_SUCCESS);
 }
 
 }  // namespace

@@ -33,8 +33,8 @@ void soft_placement_corrupt(pipe_mgr_placement_t *placement);
 /* ---- Replay ----
  * pipe_mgr_hitless_ha_restore_virtual_dev_state makes a device equal to a virtual device in its
  * tables and profiles: entries, default entries, members, groups, memberships and their states,
- * fallback members, references, capacities and other properties, ageing, direct counters and meter
- * specs, all under the handles that they have in the virtual device. What the device had of them
+ * fallback members, references, capacities and other properties, ageing, direct counters and
+ * meters, all under the handles that they have in the virtual device. What the device had of them
  * before is gone. Counters, meters and registers of their own, hash calculations, digests, value
  * sets and snapshots stay as they are, and so do the callbacks of both devices; update callbacks
  * are not told of the replay.

@@ -33,6 +33,26 @@ bf_status_t soft_device_create(bf_device_id_t device, uint32_t pipe_count,
  * BF_NOT_READY: another thread is removing the device. */
 bf_status_t soft_device_remove(bf_device_id_t device);
 
+/* Makes a device the same as another one of the same program and number of pipes: entries, default
+ * entries, members, groups and fallbacks under the same handles, settings of tables and profiles,
+ * ageing, counters, meters with the tokens that they have, registers with both copies of each cell,
+ * hash calculations, value sets, WRED profiles, snapshots, and digest entries that wait to be sent.
+ * What is added to either device afterwards gets the same handles. What the device held before is
+ * gone. It stays virtual or not, and its snapshots have its own number in their handles.
+ *
+ * Nobody is told, and the listeners of both devices stay. A digest message that was sent stays with
+ * the device that sent it, readable until it is acknowledged; its entries are unknown to the copy.
+ * What the member-selector states (p4_pd_ms.h) hold of the device is copied with it. State that a
+ * driver client keeps elsewhere is not: soft_device_log and soft_device_restore bring it over.
+ *
+ * Nobody may change either device meanwhile. Calls that read meet the old contents or the new ones,
+ * never something between; those in progress on the device are waited for.
+ * BF_INVALID_ARGUMENT: one device twice, or two that differ in program or pipes.
+ * BF_IN_USE: called from inside a callback of the SDK.
+ * BF_NOT_READY: another thread is removing the device or copying to it.
+ * BF_NO_MEMORY: nothing has changed; nor has it after any other failure. */
+bf_status_t soft_device_copy(bf_device_id_t from, bf_device_id_t to);
+
 bool soft_device_exists(bf_device_id_t device);
 
 /* Writes up to capacity ids in ascending order and returns how many devices there are. */

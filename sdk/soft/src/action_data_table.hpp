@@ -42,9 +42,9 @@ class ActionDataTable : public ObjectOf<ActionDataTable> {
   // As acquire, for a member that must have this action: BF_INVALID_ARGUMENT when it has another.
   bf_status_t acquire_with_action(pipe_member_handle_t member, pipe_object_handle_t action);
 
-  // Takes over members, capacity and use counts of the same table of another device. Nobody is
-  // told, and listeners stay. May throw std::bad_alloc, and then nothing has changed.
-  void copy_from(ActionDataTable &other);
+  // When it throws, nothing has changed.
+  void copy_from(Object &object) override;
+  void inherit(Object &predecessor) noexcept override;
 
   // Greatest number of members, 0 unlimited. A capacity below the number of members keeps them.
   void set_capacity(uint32_t capacity);

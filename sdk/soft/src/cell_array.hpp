@@ -87,6 +87,11 @@ class PipedCells {
     for (auto &array : arrays_) visit(array);
   }
 
+  // Takes over the cells of as many pipes. May throw std::bad_alloc, and then some are copied.
+  void copy_from(const PipedCells &other) {
+    for (size_t pipe = 0; pipe < arrays_.size(); ++pipe) arrays_[pipe] = other.arrays_[pipe];
+  }
+
  private:
   std::pmr::vector<CellArray<T>> arrays_;
 };

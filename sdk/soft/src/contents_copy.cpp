@@ -121,18 +121,19 @@ void MatchTable::copy_from(const MatchTable &other) {
 
 // ---- Tables and profiles ----
 
-// The traffic that the direct meters have seen stays behind.
-void MatchEngine::copy_from(MatchEngine &other) {
+void MatchEngine::copy_from(Object &object) {
+  MatchEngine &other = *object.as<MatchEngine>();
   const std::scoped_lock lock(mutex_, other.mutex_);
   ResourceLists beside = other.beside_;
   auto defaults = other.defaults_;
   auto marked_idle = other.marked_idle_;
+  auto buckets = other.buckets_;
   entries_.copy_from(other.entries_);
 
   std::swap(beside_, beside);
   defaults_.swap(defaults);
   marked_idle_.swap(marked_idle);
-  buckets_.clear();
+  buckets_.swap(buckets);
   pipe_counts_ = other.pipe_counts_;
   scope_ = other.scope_;
   capacity_ = other.capacity_;
@@ -142,7 +143,15 @@ void MatchEngine::copy_from(MatchEngine &other) {
   swept_ms_ = other.swept_ms_;
 }
 
-void ActionDataTable::copy_from(ActionDataTable &other) {
+void MatchEngine::inherit(Object &predecessor) noexcept {
+  MatchEngine &old = *predecessor.as<MatchEngine>();
+  const std::lock_guard lock(old.mutex_);
+  listener_ = old.listener_;
+  expiry_listener_ = old.expiry_listener_;
+}
+
+void ActionDataTable::copy_from(Object &object) {
+  ActionDataTable &other = *object.as<ActionDataTable>();
   const std::scoped_lock lock(mutex_, other.mutex_);
   SlotStore slots(&memory_, 0);
   slots.copy_from(other.slots_);
@@ -150,7 +159,14 @@ void ActionDataTable::copy_from(ActionDataTable &other) {
   capacity_ = other.capacity_;
 }
 
-void Selector::copy_from(Selector &other) {
+void ActionDataTable::inherit(Object &predecessor) noexcept {
+  ActionDataTable &old = *predecessor.as<ActionDataTable>();
+  const std::lock_guard lock(old.mutex_);
+  listener_ = old.listener_;
+}
+
+void Selector::copy_from(Object &object) {
+  Selector &other = *object.as<Selector>();
   const std::scoped_lock lock(mutex_, other.mutex_);
   std::pmr::polymorphic_allocator<> allocator(&memory_);
   SlotStore groups(&memory_, 0);
@@ -179,6 +195,12 @@ void Selector::copy_from(Selector &other) {
   slots_.swap(slots);
   fallback_ = other.fallback_;
   capacity_ = other.capacity_;
+}
+
+void Selector::inherit(Object &predecessor) noexcept {
+  Selector &old = *predecessor.as<Selector>();
+  const std::lock_guard lock(old.mutex_);
+  listeners_ = old.listeners_;
 }
 
 }  // namespace soft

@@ -98,4 +98,10 @@ uint64_t Counter::memory_bytes() {
   return sizeof(*this) + memory_.bytes();
 }
 
+void Counter::copy_from(Object &object) {
+  Counter &other = *object.as<Counter>();
+  const std::scoped_lock lock(mutex_, other.mutex_);
+  cells_.copy_from(other.cells_);
+}
+
 }  // namespace soft

@@ -39,6 +39,7 @@ class Counter : public ObjectOf<Counter> {
 
   bf_status_t next_cell(uint32_t from, uint32_t *cell) override;
   uint64_t memory_bytes() override;
+  void copy_from(Object &object) override;
 
  private:
   using Cells = CellArray<EntryCounters>;

@@ -42,6 +42,14 @@ bool Device::index_objects() {
   return true;
 }
 
+void Device::copy_from(const Device &other) {
+  for (const auto &object : objects_) object->copy_from(*other.find(object->handle()));
+}
+
+void Device::inherit(const Device &predecessor) noexcept {
+  for (const auto &object : objects_) object->inherit(*predecessor.find(object->handle()));
+}
+
 Object *Device::find(pipe_object_handle_t handle) const {
   const size_t last = places_.size() - 1;
   for (size_t at = place_of(handle);; at = (at + 1) & last) {

@@ -74,6 +74,15 @@ class Object {
   // Bytes held for contents, the object included.
   virtual uint64_t memory_bytes() { return 0; }
 
+  // Takes over the contents of the object with the same handle of another device that has the same
+  // program and as many pipes. Listeners stay and nobody is told. May throw std::bad_alloc; unless
+  // an engine promises more, the object is then good for destruction only.
+  virtual void copy_from(Object &other) = 0;
+
+  // Takes over what the host has left with the object that this one is to replace: listeners, and
+  // messages that were sent and not given back.
+  virtual void inherit(Object & /*predecessor*/) noexcept {}
+
  protected:
   Object(pipe_object_handle_t handle, const void *type) : handle_(handle), type_(type) {}
 
@@ -115,6 +124,10 @@ class Device {
 
   // Runs all engine sets. False when two objects have the same handle.
   bool create_objects();
+
+  // As the functions of Object, for all objects.
+  void copy_from(const Device &other);
+  void inherit(const Device &predecessor) noexcept;
 
  private:
   struct Place {

@@ -7,6 +7,8 @@
 #include <thread>
 
 #include "clients.hpp"
+#include "contract_call.hpp"
+#include "shadow_copy.hpp"
 #include "soft_sdk.h"
 
 namespace soft {
@@ -62,6 +64,36 @@ bf_status_t build_device(bf_device_id_t id, uint32_t pipes, const soft_program_t
   }
 }
 
+// A device that is to stand in the place of one and is the same as another.
+std::unique_ptr<Device> make_copy(const Device &of, const Device &in_place_of) {
+  auto device = std::make_unique<Device>(in_place_of.id(), in_place_of.pipes(),
+                                         in_place_of.program(), in_place_of.is_virtual());
+  device->create_objects();
+  device->copy_from(of);
+  return device;
+}
+
+// Everything that needs memory comes before the first change. The source is held no longer than
+// that, so that two threads that copy to and fro need not wait for each other.
+bf_status_t replace_with_copy(bf_device_id_t from, bf_device_id_t to,
+                              std::unique_ptr<Device> *replaced) {
+  std::unique_ptr<Device> copy;
+  const Device &target = *slots[to].device.load();
+  {
+    const DeviceHold source(from);
+    if (!source) return BF_INVALID_DEVICE;
+    if (&source->program() != &target.program() || source->pipes() != target.pipes()) {
+      return BF_INVALID_ARGUMENT;
+    }
+    copy = make_copy(*source, target);
+  }
+  ShadowCopy shadows(static_cast<uint8_t>(from), static_cast<uint8_t>(to));
+  copy->inherit(target);
+  shadows.commit();
+  replaced->reset(slots[to].device.exchange(copy.release()));
+  return BF_SUCCESS;
+}
+
 // A hold that began before the pointer went away is seen in a cell; one that begins later finds no
 // device. Both sides are sequentially consistent, so there is no third case.
 void wait_for_holds(Slot &slot) {
@@ -113,6 +145,21 @@ bf_status_t soft_device_remove(bf_device_id_t device) {
   soft::wait_for_holds(slot);
   soft::end_change(device);
   return BF_SUCCESS;
+}
+
+bf_status_t soft_device_copy(bf_device_id_t from, bf_device_id_t to) {
+  if (soft::thread_holds_device()) return BF_IN_USE;
+  const bf_status_t begun = soft::begin_change(to, true);
+  if (begun != BF_SUCCESS) return begun;
+  std::unique_ptr<soft::Device> replaced;
+  auto body = [&] {
+    return from == to ? bf_status_t{BF_INVALID_ARGUMENT}
+                      : soft::replace_with_copy(from, to, &replaced);
+  };
+  const bf_status_t status = soft::guarded(body);
+  if (replaced != nullptr) soft::wait_for_holds(soft::slots[to]);
+  soft::end_change(to);
+  return status;
 }
 
 bool soft_device_exists(bf_device_id_t device) {

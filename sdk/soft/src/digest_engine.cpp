@@ -88,7 +88,8 @@ bool DigestEngine::collect(bf_pipe_id_t pipe, const uint8_t *entry) {
     message.head = {device_, pipe, handle(), 0, entry_bytes_, message.entries.data()};
     message.begun_ms = soft_clock_now();
   }
-  if (!known_.emplace(entry_at(entry)).second) return false;
+  if (known_.contains(entry_at(entry))) return false;
+  known_.emplace(entry_at(entry));
   message.entries.insert(message.entries.end(), entry, entry + entry_bytes_);
   if (++message.head.entry_count == SOFT_DIGEST_BATCH) close(pipe);
   return true;
@@ -111,7 +112,7 @@ void DigestEngine::close_due(uint64_t now_ms) {
 void DigestEngine::send_closed() {
   for (;;) {
     std::unique_lock lock(mutex_);
-    if (closed_.empty()) return;
+    if (closed_.empty() || callback_ == nullptr) return;
     pipe_mgr_digest_message_t *message = &closed_.front().head;
     sent_.splice(sent_.end(), closed_, closed_.begin());
     const pipe_mgr_digest_cb_t callback = callback_;
@@ -153,8 +154,7 @@ DigestEngine::Pending DigestEngine::pending() {
 uint64_t DigestEngine::memory_bytes() {
   const std::lock_guard lock(mutex_);
   uint64_t bytes = sizeof(*this) + collecting_.capacity() * sizeof(Messages) +
-                   known_.bucket_count() * sizeof(void *) +
-                   known_.size() * (sizeof(std::string) + 2 * sizeof(void *) + entry_bytes_);
+                   known_.size() * (sizeof(std::string) + 4 * sizeof(void *) + entry_bytes_);
   const auto add = [&](const Messages &messages) {
     for (const Message &message : messages) bytes += sizeof(message) + message.entries.capacity();
   };
@@ -162,6 +162,41 @@ uint64_t DigestEngine::memory_bytes() {
   add(closed_);
   add(sent_);
   return bytes;
+}
+
+void DigestEngine::copy_from(Object &object) {
+  DigestEngine &other = *object.as<DigestEngine>();
+  const std::scoped_lock lock(mutex_, other.mutex_);
+  const auto add = [this](Messages &messages, const Message &message) {
+    if (message.head.entry_count == 0) return;
+    Message &copy = messages.emplace_back(message);
+    copy.entries.reserve(size_t{SOFT_DIGEST_BATCH} * entry_bytes_);
+    copy.head.device = device_;
+    copy.head.entries = copy.entries.data();
+    for (size_t at = 0; at < copy.entries.size(); at += entry_bytes_) {
+      known_.emplace(entry_at(copy.entries.data() + at));
+    }
+  };
+  for (size_t pipe = 0; pipe < collecting_.size(); ++pipe) {
+    for (const Message &message : other.collecting_[pipe]) add(collecting_[pipe], message);
+  }
+  for (const Message &message : other.closed_) add(closed_, message);
+  timeout_us_ = other.timeout_us_;
+}
+
+void DigestEngine::inherit(Object &predecessor) noexcept {
+  DigestEngine &old = *predecessor.as<DigestEngine>();
+  const std::lock_guard lock(old.mutex_);
+  session_ = old.session_;
+  callback_ = old.callback_;
+  cookie_ = old.cookie_;
+  for (const Message &message : old.sent_) {
+    for (size_t at = 0; at < message.entries.size(); at += entry_bytes_) {
+      const auto entry = old.known_.find(entry_at(message.entries.data() + at));
+      if (entry != old.known_.end()) known_.insert(old.known_.extract(entry));
+    }
+  }
+  sent_.splice(sent_.end(), old.sent_);
 }
 
 }  // namespace soft

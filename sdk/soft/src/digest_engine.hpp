@@ -5,9 +5,9 @@
 #include <functional>
 #include <list>
 #include <mutex>
+#include <set>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 #include "device.hpp"
@@ -45,6 +45,10 @@ class DigestEngine : public ObjectOf<DigestEngine> {
 
   uint32_t entry_bytes() const { return entry_bytes_; }
   uint64_t memory_bytes() override;
+  // Into an engine without contents. What was sent stays with the listener that it was sent to;
+  // what waits, waits here for the next occasion to be sent.
+  void copy_from(Object &object) override;
+  void inherit(Object &predecessor) noexcept override;
 
  private:
   struct Message {
@@ -54,12 +58,6 @@ class DigestEngine : public ObjectOf<DigestEngine> {
   };
   // A message moves from list to list and never in memory: its address is its name.
   using Messages = std::list<Message>;
-
-  // Lets a view of an entry be looked up as it is.
-  struct EntryHash {
-    using is_transparent = void;
-    size_t operator()(std::string_view entry) const { return std::hash<std::string_view>()(entry); }
-  };
 
   std::string_view entry_at(const uint8_t *bytes) const {
     return {reinterpret_cast<const char *>(bytes), entry_bytes_};
@@ -83,8 +81,9 @@ class DigestEngine : public ObjectOf<DigestEngine> {
   std::vector<Messages> collecting_;  // of each pipe, at most one message
   Messages closed_;                   // to be sent
   Messages sent_;                     // to be acknowledged
-  // The bytes of the entries in all these messages.
-  std::unordered_set<std::string, EntryHash, std::equal_to<>> known_;
+  // The bytes of the entries in all these messages. An entry may wait and be sent: it waited in the
+  // device that this one is a copy of. Nodes move without memory.
+  std::multiset<std::string, std::less<>> known_;
 };
 
 }  // namespace soft

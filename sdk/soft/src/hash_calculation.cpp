@@ -86,4 +86,11 @@ uint64_t HashCalculation::memory_bytes() {
   return sizeof(*this) + attributes_.capacity() * sizeof(pipe_mgr_hash_attribute_t);
 }
 
+void HashCalculation::copy_from(Object &object) {
+  HashCalculation &other = *object.as<HashCalculation>();
+  const std::scoped_lock lock(mutex_, other.mutex_);
+  attributes_ = other.attributes_;
+  seed_ = other.seed_;
+}
+
 }  // namespace soft

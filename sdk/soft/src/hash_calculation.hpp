@@ -46,6 +46,7 @@ class HashCalculation : public ObjectOf<HashCalculation> {
   bf_status_t calculate(std::span<const uint8_t> stream, std::span<uint8_t> hash);
 
   uint64_t memory_bytes() override;
+  void copy_from(Object &object) override;
 
  private:
   const soft_hash_t &description_;

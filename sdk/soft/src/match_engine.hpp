@@ -105,10 +105,9 @@ class MatchEngine : public ObjectOf<MatchEngine> {
   // Whether the resource is attached to the entry; also for registers.
   bool has_resource(pipe_entry_handle_t entry, pipe_object_handle_t resource);
 
-  // Takes over entries, default entries, settings and direct counters of the same table of another
-  // device. Nobody is told, and listeners stay. May throw std::bad_alloc, and then nothing has
-  // changed.
-  void copy_from(MatchEngine &other);
+  // When it throws, nothing has changed.
+  void copy_from(Object &object) override;
+  void inherit(Object &predecessor) noexcept override;
 
   const soft_table_t &description() const { return description_; }
   uint64_t memory_bytes() override;

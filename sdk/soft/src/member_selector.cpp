@@ -8,7 +8,7 @@
 #include <mutex>
 
 #include "contract_call.hpp"
-#include "profile_shadow.hpp"
+#include "shadow_copy.hpp"
 
 struct p4_pd_ms_state {
   std::mutex mutex;
@@ -120,6 +120,25 @@ bf_status_t restore(p4_pd_ms_state_t *state, uint8_t device, const cJSON *docume
 }
 
 }  // namespace
+
+ShadowCopy::ShadowCopy(uint8_t from, uint8_t to) : to_(to) {
+  const std::lock_guard states_lock(states().mutex);
+  for (p4_pd_ms_state_t &state : states().list) {
+    Copy &copy = copies_.emplace_back(Copy{&state, {}});
+    const std::lock_guard lock(state.mutex);
+    const auto held = state.devices.find(from);
+    if (held != state.devices.end()) copy.shadow.emplace(to, held->second);
+  }
+}
+
+void ShadowCopy::commit() noexcept {
+  for (Copy &copy : copies_) {
+    const std::lock_guard lock(copy.state->mutex);
+    copy.state->devices.erase(to_);
+    copy.state->devices.merge(copy.shadow);
+  }
+}
+
 }  // namespace soft
 
 void p4_pd_ms_init(void) {

@@ -88,4 +88,11 @@ uint64_t Meter::memory_bytes() {
   return sizeof(*this) + memory_.bytes();
 }
 
+void Meter::copy_from(Object &object) {
+  Meter &other = *object.as<Meter>();
+  const std::scoped_lock lock(mutex_, other.mutex_);
+  cells_.copy_from(other.cells_);
+  adjustment_ = other.adjustment_;
+}
+
 }  // namespace soft

@@ -37,6 +37,7 @@ class Meter : public ObjectOf<Meter> {
 
   bf_status_t next_cell(uint32_t from, uint32_t *cell) override;
   uint64_t memory_bytes() override;
+  void copy_from(Object &object) override;
 
  private:
   struct Cell {

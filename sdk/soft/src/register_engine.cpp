@@ -172,4 +172,13 @@ uint64_t RegisterEngine::memory_bytes() {
   return bytes;
 }
 
+void RegisterEngine::copy_from(Object &object) {
+  RegisterEngine &other = *object.as<RegisterEngine>();
+  const std::scoped_lock lock(mutex_, other.mutex_);
+  for (size_t pipe = 0; pipe < instances_.size(); ++pipe) {
+    instances_[pipe].hardware.copy(other.instances_[pipe].hardware);
+    instances_[pipe].software.copy(other.instances_[pipe].software);
+  }
+}
+
 }  // namespace soft

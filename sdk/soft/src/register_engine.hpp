@@ -42,6 +42,7 @@ class RegisterEngine : public ObjectOf<RegisterEngine> {
 
   bf_status_t next_cell(uint32_t from, uint32_t *cell) override;
   uint64_t memory_bytes() override;
+  void copy_from(Object &object) override;
 
  private:
   struct Instance {

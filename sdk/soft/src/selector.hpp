@@ -66,10 +66,9 @@ class Selector : public ObjectOf<Selector> {
 
   // ---- The selector ----
 
-  // Takes over groups, memberships, fallback, capacity and use counts of the same selector of
-  // another device; the members follow by their own copy. Nobody is told, and listeners stay. May
-  // throw std::bad_alloc, and then nothing has changed.
-  void copy_from(Selector &other);
+  // The members follow by their own copy. When it throws, nothing has changed.
+  void copy_from(Object &object) override;
+  void inherit(Object &predecessor) noexcept override;
 
   // Greatest number of groups, 0 unlimited. A capacity below the number of groups keeps them.
   void set_capacity(uint32_t capacity);

@@ -27,7 +27,7 @@ bf_status_t SnapshotUnit::create(bf_pipe_id_t pipe, StageRange stages, uint32_t 
   uint32_t handle = 0;
   do {
     last_serial_ = (last_serial_ + 1) % kSerials;
-    handle = device_ << 24 | last_serial_ << 2 | direction << 1 | 1;
+    handle = device_ << kDeviceAt | last_serial_ << 2 | direction << 1 | 1;
   } while (snapshots_.count(handle) != 0);
   snapshots_.emplace(handle, Snapshot{pipe, stages, direction, {}, {}, {}});
   *snapshot = handle;
@@ -140,6 +140,16 @@ uint64_t SnapshotUnit::memory_bytes() {
     }
   }
   return bytes;
+}
+
+void SnapshotUnit::copy_from(Object &object) {
+  SnapshotUnit &other = *object.as<SnapshotUnit>();
+  const std::scoped_lock lock(mutex_, other.mutex_);
+  snapshots_.clear();
+  for (const auto &[handle, snapshot] : other.snapshots_) {
+    snapshots_.emplace(device_ << kDeviceAt | (handle & kBelowDevice), snapshot);
+  }
+  last_serial_ = other.last_serial_;
 }
 
 }  // namespace soft

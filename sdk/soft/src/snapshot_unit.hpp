@@ -25,7 +25,7 @@ class SnapshotUnit : public ObjectOf<SnapshotUnit> {
 
   explicit SnapshotUnit(const Device &device);
 
-  static bf_device_id_t device_of(uint32_t snapshot) { return snapshot >> 24; }
+  static bf_device_id_t device_of(uint32_t snapshot) { return snapshot >> kDeviceAt; }
 
   // Size of a record of one stage, not 0: a unit without records is never created.
   size_t record_bytes() const { return record_bytes_; }
@@ -53,8 +53,13 @@ class SnapshotUnit : public ObjectOf<SnapshotUnit> {
   uint32_t inject(const Packet &packet);
 
   uint64_t memory_bytes() override;
+  // The copies bear the number of this device in their handles.
+  void copy_from(Object &object) override;
 
  private:
+  static constexpr uint32_t kDeviceAt = 24;  // its lowest bit in a handle
+  static constexpr uint32_t kBelowDevice = (1u << kDeviceAt) - 1;
+
   struct Capture {
     std::vector<uint8_t> fields;                 // a block for each stage of the snapshot
     std::vector<bf_snapshot_control_t> control;  // the same

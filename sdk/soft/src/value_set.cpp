@@ -184,4 +184,12 @@ uint64_t ValueSet::memory_bytes() {
   return sizeof(*this) + entries_.size() * (sizeof(Entries::value_type) + 4 * sizeof(void *));
 }
 
+void ValueSet::copy_from(Object &object) {
+  ValueSet &other = *object.as<ValueSet>();
+  const std::scoped_lock lock(mutex_, other.mutex_);
+  entries_ = other.entries_;
+  last_handle_ = other.last_handle_;
+  capacity_ = other.capacity_;
+}
+
 }  // namespace soft

@@ -50,6 +50,7 @@ class ValueSet : public ObjectOf<ValueSet> {
                    std::span<pipe_entry_handle_t> entries);
 
   uint64_t memory_bytes() override;
+  void copy_from(Object &object) override;
 
  private:
   struct Entry {

@@ -52,4 +52,13 @@ uint64_t WredUnit::memory_bytes() {
   return sizeof(*this) + memory_.bytes();
 }
 
+void WredUnit::copy_from(Object &object) {
+  WredUnit &other = *object.as<WredUnit>();
+  const std::scoped_lock lock(mutex_, other.mutex_);
+  tables_.clear();
+  for (const auto &[table, cells] : other.tables_) {
+    tables_.try_emplace(table, pipes_, &memory_).first->second.copy_from(cells);
+  }
+}
+
 }  // namespace soft

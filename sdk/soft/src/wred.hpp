@@ -27,6 +27,7 @@ class WredUnit : public ObjectOf<WredUnit> {
                   pipe_mgr_wred_spec_t *spec);
 
   uint64_t memory_bytes() override;
+  void copy_from(Object &object) override;
 
  private:
   struct Cell {
