@@ -8,7 +8,6 @@
 #include "tesselctl/command_help.hpp"
 #include "tesselctl/files.hpp"
 #include "tesselctl/library.hpp"
-#include "tesselctl/routes.hpp"
 #include "tesselctl/script.hpp"
 #include "tesselctl/version.hpp"
 
@@ -25,7 +24,6 @@ struct Options {
   Settings settings;
   ScriptOptions script;
   std::string script_file;
-  RoutesOptions routes;
 };
 
 bool wants_colour(const Options &options, int fd) {
@@ -63,16 +61,6 @@ int run_file(const Options &options) {
   return result.faults == 0 ? kDone : kFault;
 }
 
-int run_routes(const Options &options) {
-  Streams streams(options);
-  RoutesOptions routes = options.routes;
-  routes.progress = isatty(STDERR_FILENO) != 0;
-  const Device device(options.device);
-  const bool good = load_routes(device, routes, streams.out, streams.errors);
-  streams.out.flush();
-  return good ? kDone : kFault;
-}
-
 // The words of the shell that called, as one line of ours.
 std::string line_of(const std::vector<std::string> &words) {
   std::string line;
@@ -101,17 +89,6 @@ void add_subcommands(CLI::App &app, Options &options) {
   CLI::App *run = app.add_subcommand("run", "Runs a script of commands");
   run->add_option("FILE", options.script_file, "the script, or - for standard input")->required();
   run->add_flag("-k,--keep-going", options.script.keep_going, "go on behind a line with a fault");
-
-  CLI::App *routes =
-      app.add_subcommand("routes", "Loads route files into a new soft device and verifies them");
-  routes->add_option("FILE", options.routes.files, "lines 'prefix[ nexthop]', plain or .xz")
-      ->required();
-  routes->add_option("--vrf", options.routes.vrf, "VRF that the routes go to")
-      ->check(CLI::Range(0, 255))
-      ->capture_default_str();
-  routes->add_option("--nexthop", options.routes.nexthop, "next hop of lines without one")
-      ->check(CLI::Range(0, 16383))
-      ->capture_default_str();
 }
 
 void add_options(CLI::App &app, Options &options) {
@@ -144,7 +121,6 @@ int run_tool(int argc, char **argv) {
     return app.exit(error) == 0 ? kDone : kFault;
   }
   if (app.got_subcommand("run")) return run_file(options);
-  if (app.got_subcommand("routes")) return run_routes(options);
   return run_one(options, app.remaining());
 }
 

@@ -31,6 +31,7 @@ class Output {
   // The text in colour where the output has any.
   std::string styled(Style style, std::string_view text) const;
   bool colour() const { return colour_; }
+  bool is_stream() const { return stream_ != nullptr; }
 
   // Throws Fault when not everything could be written.
   void flush();

@@ -33,7 +33,7 @@ class FaultReport {
     errors_.line("{}:{}{}: {}", file, line, place, message);
   }
   void finish() {
-    if (count_ > kFaultsShown) errors_.line("and {} faults more", grouped(count_ - kFaultsShown));
+    if (count_ > kFaultsShown) errors_.line("and {} more of them", grouped(count_ - kFaultsShown));
     errors_.flush();
   }
   uint64_t count() const { return count_; }
@@ -221,6 +221,8 @@ void load(RouteLoad<Route> load, Output &out) {
 }  // namespace
 
 bool load_routes(const Device &device, const RoutesOptions &options, Output &out, Output &errors) {
+  // Each kind has lines of its own to show, so that neither hides the other.
+  FaultReport parse_faults(errors);
   FaultReport faults(errors);
   const Field &nexthop = action_shape(kAction).find({kNexthop, 0}, kAction);
   const auto limit = static_cast<uint16_t>(low_ones(nexthop.width).low);
@@ -232,18 +234,20 @@ bool load_routes(const Device &device, const RoutesOptions &options, Output &out
     out.line("{}: {} IPv4 and {} IPv6 prefixes, read in {:.3f} s", name,
              grouped(routes.ipv4.size()), grouped(routes.ipv6.size()), seconds_since(start));
     for (const RouteFault &fault : routes.faults) {
-      faults.add(name, fault.line, fault.column, fault.message);
+      parse_faults.add(name, fault.line, fault.column, fault.message);
     }
   }
+  parse_faults.finish();
   out.flush();
   load(RouteLoad<Ipv4Route>(device, "ipv4ShortMaskLpm", options, &RouteFile::ipv4, files, faults),
        out);
   load(RouteLoad<Ipv6Route>(device, "ipv6ShortMaskLpm", options, &RouteFile::ipv6, files, faults),
        out);
-  out.line("{} errors", grouped(faults.count()));
+  const uint64_t count = parse_faults.count() + faults.count();
+  out.line("{} error{}", grouped(count), count == 1 ? "" : "s");
   out.flush();
   faults.finish();
-  return faults.count() == 0;
+  return count == 0;
 }
 
 }  // namespace tesselctl

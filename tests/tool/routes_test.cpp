@@ -115,7 +115,7 @@ TEST_F(RoutesTest, FaultsNameFileAndLineAndTheFirstTenAreShown) {
   EXPECT_TRUE(messages.starts_with(paths_[0] + ":3:1: this is not an IPv4 address\n" + paths_[0] +
                                    ":2: BF_ALREADY_EXISTS (4): "))
       << messages;
-  EXPECT_TRUE(messages.ends_with("and 12 faults more\n")) << messages;
+  EXPECT_TRUE(messages.ends_with("and 11 more of them\n")) << messages;
   EXPECT_TRUE(out_.take().ends_with("22 errors\n"));
 }
 
