@@ -54,4 +54,26 @@ using LineSource = std::function<bool(std::string_view &line)>;
 // that is no image or that the device refuses; the lines before it stay loaded.
 LoadCounts load_image(const Device &device, std::string_view file, const LineSource &lines);
 
+// The first and last lines of an image, by which its version, program and wholeness are known.
+class ImageFrame {
+ public:
+  // 0 takes an image of any number of pipes.
+  explicit ImageFrame(uint32_t pipes) : wanted_pipes_(pipes) {}
+  // Whether the next line is one of the frame, which is checked then. Throws Fault.
+  bool takes(std::string_view line);
+  // Behind the last line. Throws Fault when the image is not whole.
+  void finish() const;
+  uint64_t lines() const { return lines_; }
+  uint32_t pipes() const { return pipes_; }
+
+ private:
+  uint32_t wanted_pipes_;
+  uint32_t pipes_ = 0;
+  uint64_t lines_ = 0;
+  bool ended_ = false;
+};
+
+// "FILE:LINE:COLUMN: ...": the fault of a line as one of the whole file.
+Fault fault_in(std::string_view file, uint64_t line, const Fault &fault);
+
 }  // namespace tesselctl

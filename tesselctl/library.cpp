@@ -74,10 +74,15 @@ void for_each_export(std::string_view family, const std::function<void(const Exp
 std::span<const bindings::Record> tables() { return {binding.tables, binding.table_count}; }
 std::span<const bindings::Record> actions() { return {binding.actions, binding.action_count}; }
 
-const bindings::Record &action_record(std::string_view name) {
+const bindings::Record *find_action_record(std::string_view name) {
   for (const bindings::Record &record : actions()) {
-    if (name == record.name) return record;
+    if (name == record.name) return &record;
   }
+  return nullptr;
+}
+
+const bindings::Record &action_record(std::string_view name) {
+  if (const bindings::Record *found = find_action_record(name)) return *found;
   throw std::logic_error("the binding has no action " + std::string(name));
 }
 

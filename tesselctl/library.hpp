@@ -26,6 +26,8 @@ void for_each_export(std::string_view family,
 std::span<const bindings::Record> tables();
 std::span<const bindings::Record> actions();
 const bindings::Record &action_record(std::string_view name);
+// The same, or null.
+const bindings::Record *find_action_record(std::string_view name);
 
 // The program as the device learns it.
 const soft_program_t &program();

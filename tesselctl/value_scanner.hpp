@@ -30,6 +30,8 @@ class ValueScanner {
 
   std::string_view rest() const { return text_.substr(at_); }
   size_t column() const { return column_ + at_; }
+  // All of the rest.
+  Word word() const { return {rest(), column()}; }
   [[noreturn]] void fail(std::string_view wanted) const;
 
  private:
