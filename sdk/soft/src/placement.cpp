@@ -41,10 +41,8 @@ PlacementDraft::PlacementDraft(pipe_mgr_placement_t **placement, uint16_t data_r
     : placement_(placement), object_(*placement) {
   head_.data_room = data_room;
   head_.key_room = key_room;
-  const size_t length = head_.length();
-  const size_t most = length + PIPE_RESOURCES_PER_ACTION * sizeof(pipe_mgr_resource_t);
+  const size_t most = head_.length() + PIPE_RESOURCES_PER_ACTION * sizeof(pipe_mgr_resource_t);
   if (object_ == nullptr || object_->room < most) object_ = new_object(most);
-  std::memset(data(), 0, length - sizeof(PlacedHead));
 }
 
 PlacementDraft::~PlacementDraft() {
@@ -64,6 +62,7 @@ void PlacementDraft::complete(const pipe_mgr_match_spec_t &match,
   head_.reference = spec.type == PIPE_ACTION_GROUP ? spec.group : spec.member;
   head_.action = action;
   head_.resource_count = spec.resource_count;
+  if (head_.has_key == 0) std::memset(value(), 0, 2 * size_t{head_.key_room});
   std::memcpy(mask() + head_.key_room, spec.resources,
               spec.resource_count * sizeof(pipe_mgr_resource_t));
   seal();
@@ -78,6 +77,7 @@ void PlacementDraft::complete(const pipe_mgr_action_data_t &data, pipe_object_ha
 }
 
 void PlacementDraft::seal() {
+  std::memset(data() + head_.data_bytes, 0, head_.data_room - size_t{head_.data_bytes});
   std::memcpy(object_->contents(), &head_, sizeof head_);
   object_->mark = kMark;
   object_->length = static_cast<uint32_t>(head_.length());

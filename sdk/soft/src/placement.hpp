@@ -44,7 +44,7 @@ struct PlacedHead {
 };
 
 // Placement data being made, in the object that the caller has from before or in a new one. The
-// caller's pointer changes when it is complete.
+// caller's object and pointer change when it is complete.
 class PlacementDraft {
  public:
   // May throw std::bad_alloc.
@@ -53,7 +53,8 @@ class PlacementDraft {
   PlacementDraft(const PlacementDraft &) = delete;
   PlacementDraft &operator=(const PlacementDraft &) = delete;
 
-  // To be filled, zeroed.
+  // To be filled, by a reader that writes nothing if it fails: they may be those of the caller's
+  // object.
   uint8_t *data() { return object_->contents() + sizeof(PlacedHead); }
   uint8_t *value() { return data() + head_.data_room; }
   uint8_t *mask() { return value() + head_.key_room; }
