@@ -5,6 +5,7 @@
 
 #include "p4_pd_tessel_switch.h"
 #include "pipe_mgr_types.h"
+#include "soft_journal.hpp"
 #include "soft_sdk.h"
 #include "tool_fixture.hpp"
 
@@ -187,6 +188,17 @@ TEST_F(VerifyTest, AGroupThatIsGone) {
   EXPECT_EQ(differences(),
             "missing entry of ecmpGroup: 1 (( 0x0007,),('setGrpHdl',(0x1,))) / 0 \n"
             "missing group of ecmpMemberActionProfile: 1 group=1 / 0 \n");
+}
+
+TEST_F(VerifyTest, ADeviceThatCannotBeWalked) {
+  soft::faults::fail_call("pipe_mgr_get_next_entry_handles", 1, BF_NOT_READY);
+  try {
+    differences();
+    ADD_FAILURE() << "took a part of the entries for all";
+  } catch (const Fault &fault) {
+    EXPECT_EQ(fault.sentence().substr(0, 50), "walking the handles of ecmpGroup: BF_NOT_READY (11");
+  }
+  soft::faults::clear();
 }
 
 // The library lives as long as any device does, and a device may go before one that was made later.
