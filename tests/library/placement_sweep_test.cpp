@@ -318,7 +318,9 @@ TEST_F(PlacementSweep, EntriesOfEveryAction) {
       });
       const pdgen::Pair &other = table.pairs[(i + 1) % table.pairs.size()];
       if (&other != &pair && other.in_entries) {
-        const uint32_t entry = add(kNew, table, *other.action, random_given(table, &*other.action));
+        Given alike = random_given(table, &*other.action);
+        alike.match = given.match;
+        const uint32_t entry = add(kNew, table, *other.action, alike);
         EXPECT_FALSE(equals(table, entry, placed)) << other.action->name;
         remove(kNew, table, entry);
       }

@@ -196,7 +196,8 @@ TEST_F(VerifyTest, ADeviceThatCannotBeWalked) {
     differences();
     ADD_FAILURE() << "took a part of the entries for all";
   } catch (const Fault &fault) {
-    EXPECT_EQ(fault.sentence().substr(0, 50), "walking the handles of ecmpGroup: BF_NOT_READY (11");
+    EXPECT_EQ(fault.sentence().substr(0, 53),
+              "walking the handles of ipv4ShortMaskLpm: BF_NOT_READY");
   }
   soft::faults::clear();
 }
