@@ -12,9 +12,20 @@ namespace tesselctl {
 struct DeviceOptions {
   uint32_t id = 0;
   uint32_t pipes = 4;
+  bool is_virtual = false;  // its state can be replayed onto another device
 };
 
-// There is one at a time: the library is initialised with it and cleaned up after it.
+// The library is initialised while there are any of these. One thread makes and destroys them.
+class LibraryUse {
+ public:
+  // Throws Fault when the library cannot be started.
+  LibraryUse();
+  ~LibraryUse();
+  LibraryUse(const LibraryUse &) = delete;
+  LibraryUse &operator=(const LibraryUse &) = delete;
+};
+
+// Several may exist beside one another, each with an id of its own.
 class Device {
  public:
   // Throws Fault when the device cannot be made.
@@ -41,6 +52,7 @@ class Device {
   }
 
  private:
+  LibraryUse library_;
   p4_pd_device_target_t target_{};
   uint32_t pipes_;
   p4_pd_session_handle_t session_ = 0;

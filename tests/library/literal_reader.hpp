@@ -31,7 +31,7 @@ struct Literal {
       const auto nibble = std::string_view("0123456789abcdef").find(static_cast<char>(digit | 32));
       for (size_t i = 0; i < 16; ++i) {
         const unsigned low = i == 15 ? static_cast<unsigned>(nibble) : value[i + 1] >> 4;
-        value[i] = static_cast<uint8_t>(value[i] << 4 | low);
+        value[i] = static_cast<uint8_t>(value[i] * 16u | low);
       }
     }
     return value;

@@ -1,6 +1,7 @@
 // Placement data of entries and members, and the replay of a virtual device.
 #include <array>
 
+#include "placement.hpp"
 #include "small_program.hpp"
 
 namespace {
@@ -218,6 +219,61 @@ TEST_F(PlacementTest, DecodersTellWhatTheSdkDidNotMake) {
   EXPECT_EQ(soft_placement_of_member(kDevice, kMembers, 99, &none), BF_OBJECT_NOT_FOUND);
   EXPECT_EQ(soft_placement_of_member(kDevice, kAcl, acl, &none), BF_INVALID_HANDLE);
   EXPECT_EQ(none, nullptr);
+}
+
+TEST_F(PlacementTest, AnyChangedBitIsNoticed) {
+  Action forward(9, {0x01, 0x23});
+  forward.resource(kHostCount, 0, PIPE_RESOURCE_ATTACH);
+  const uint32_t host =
+      add(kDevice, kHost, Key(20, {0x0a, 0xbc, 0x2d}, {0xff, 0xff, 0xff}), kForward, forward);
+  Placement placement;
+  ASSERT_EQ(soft_placement_of_entry(kDevice, kHost, host, &placement.object), BF_SUCCESS);
+  uint8_t *const contents = placement.object->contents();
+  for (size_t bit = 0; bit < 8 * placement.object->length; ++bit) {
+    const auto flip = static_cast<uint8_t>(1u << bit % 8);
+    contents[bit / 8] ^= flip;
+    ASSERT_EQ(Decoded(placement).status, BF_CORRUPT_DATA) << bit;
+    contents[bit / 8] ^= flip;
+  }
+  EXPECT_EQ(Decoded(placement).status, BF_SUCCESS);
+  placement.object->length -= 8;
+  EXPECT_EQ(Decoded(placement).status, BF_CORRUPT_DATA);
+}
+
+TEST_F(PlacementTest, AnObjectIsUsedAgainAsLongAsItHasRoom) {
+  const uint32_t member = add_member(kDevice, 9);
+  const uint32_t host =
+      add(kDevice, kHost, Key(20, {1, 2, 3}, {0xff, 0xff, 0xff}), kForward, Action(9, {0, 7}));
+  const uint32_t drop =
+      add(kDevice, kHost, Key(20, {4, 5, 6}, {0xff, 0xff, 0xff}), kDrop, Action());
+  Placement placement;
+  ASSERT_EQ(soft_placement_of_member(kDevice, kMembers, member, &placement.object), BF_SUCCESS);
+  ASSERT_EQ(soft_placement_of_entry(kDevice, kHost, host, &placement.object), BF_SUCCESS);
+  const pipe_mgr_placement_t *const object = placement.object;
+  ASSERT_EQ(soft_placement_of_entry(kDevice, kHost, drop, &placement.object), BF_SUCCESS);
+  EXPECT_EQ(placement.object, object);
+  {
+    const Decoded decoded(placement);
+    EXPECT_EQ(decoded.status, BF_SUCCESS);
+    EXPECT_EQ(first(decoded.value, 3), (Bytes{4, 5, 6}));
+    EXPECT_EQ(decoded.action, kDrop);
+    EXPECT_EQ(decoded.spec.data.byte_count, 0);
+    EXPECT_EQ(decoded.data[0], 0xa5);
+  }
+
+  // What fails leaves it, what has gone bad is made anew.
+  EXPECT_EQ(soft_placement_of_entry(kDevice, kHost, drop + 1, &placement.object),
+            BF_OBJECT_NOT_FOUND);
+  EXPECT_EQ(placement.object, object);
+  EXPECT_EQ(Decoded(placement).action, kDrop);
+  soft_placement_corrupt(placement.object);
+  ASSERT_EQ(soft_placement_of_member(kDevice, kMembers, member, &placement.object), BF_SUCCESS);
+  EXPECT_EQ(placement.object, object);
+  uint8_t bytes[2] = {};
+  pipe_mgr_action_data_t data{0, 0, bytes};
+  uint32_t action = 0;
+  EXPECT_EQ(pipe_mgr_plcmt_adt_data_get_entry(placement.object, &data, &action), BF_SUCCESS);
+  EXPECT_EQ(bytes[1], 9);
 }
 
 // ---- Replay ----

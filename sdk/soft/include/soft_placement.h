@@ -14,9 +14,10 @@ extern "C" {
  * other kind with BF_INVALID_ARGUMENT and one whose bytes have changed with BF_CORRUPT_DATA. They
  * fill the given buffers without regard to byte_count; a null data pointer is left out. */
 
-/* Makes the placement data of an entry or default entry of a match table. The caller releases it
- * with soft_placement_free. BF_INVALID_HANDLE: no such match table. BF_OBJECT_NOT_FOUND: no such
- * entry. */
+/* Makes the placement data of an entry or default entry of a match table. *placement is null, or an
+ * object of an earlier call of either function, which is made anew without new memory as long as it
+ * has room; the caller releases it with soft_placement_free in the end. BF_INVALID_HANDLE: no such
+ * match table. BF_OBJECT_NOT_FOUND: no such entry. *placement is as it was then. */
 bf_status_t soft_placement_of_entry(bf_device_id_t device, pipe_object_handle_t table,
                                     pipe_entry_handle_t entry, pipe_mgr_placement_t **placement);
 

@@ -1,14 +1,14 @@
 // Placement data: entries and members as objects of bytes.
 #pragma once
 
-#include <span>
-
 #include "pipe_mgr_types.h"
 
 // A header in front of `length` bytes of contents, all in one block of memory.
 struct pipe_mgr_placement {
   uint32_t mark;
+  uint32_t room;  // for contents
   uint32_t length;
+  uint32_t reserved;
   uint64_t checksum;  // of the contents
 
   uint8_t *contents() { return reinterpret_cast<uint8_t *>(this + 1); }
@@ -17,29 +17,73 @@ struct pipe_mgr_placement {
 
 namespace soft {
 
-// What is placed. value, mask and data lead into the placement data or, before it is made, to the
-// caller's bytes.
-struct Placed {
-  enum class Kind : uint32_t { kEntry, kMember };
+enum class PlacedKind : uint32_t { kEntry, kMember };
 
-  // The part that is copied as it stands; the byte strings follow it in this order.
-  struct Fixed {
-    Kind kind;
-    uint32_t has_key;
-    pipe_mgr_match_spec_t match;  // without pointers
-    pipe_mgr_action_spec_t spec;  // without pointers
-    pipe_object_handle_t action;
-  } fixed;
-  std::span<const uint8_t> value;
-  std::span<const uint8_t> mask;
-  std::span<const uint8_t> data;
+// The contents begin with this. Data, value, mask and resources follow without gaps; the first
+// three take the room that the table needs, also where the action has less data or there is no key.
+struct PlacedHead {
+  PlacedKind kind;
+  uint32_t has_key;
+  uint16_t data_room;
+  uint16_t key_room;
+  uint16_t data_bits;
+  uint16_t data_bytes;
+  uint16_t key_bits;
+  uint16_t reserved;
+  uint32_t scope;
+  uint32_t priority;
+  uint32_t type;
+  uint32_t reference;  // member or group, by type
+  pipe_object_handle_t action;
+  uint32_t resource_count;
+
+  size_t length() const {
+    return sizeof(PlacedHead) + data_room + 2 * size_t{key_room} +
+           resource_count * sizeof(pipe_mgr_resource_t);
+  }
 };
 
-// A new object; the pointers in placed.fixed are dropped. May throw std::bad_alloc.
-pipe_mgr_placement_t *make_placement(Placed placed);
+// Placement data being made, in the object that the caller has from before or in a new one. The
+// caller's object and pointer change when it is complete.
+class PlacementDraft {
+ public:
+  // May throw std::bad_alloc.
+  PlacementDraft(pipe_mgr_placement_t **placement, uint16_t data_room, uint16_t key_room);
+  ~PlacementDraft();
+  PlacementDraft(const PlacementDraft &) = delete;
+  PlacementDraft &operator=(const PlacementDraft &) = delete;
 
-// BF_INVALID_ARGUMENT: null, or of another kind. BF_CORRUPT_DATA: not as make_placement left it.
-bf_status_t open_placement(const pipe_mgr_placement_t *placement, Placed::Kind kind,
-                           Placed *placed);
+  // To be filled, by a reader that writes nothing if it fails: they may be those of the caller's
+  // object.
+  uint8_t *data() { return object_->contents() + sizeof(PlacedHead); }
+  uint8_t *value() { return data() + head_.data_room; }
+  uint8_t *mask() { return value() + head_.key_room; }
+
+  // What was read into them: an entry, without a key when match.value is null, or a member.
+  void complete(const pipe_mgr_match_spec_t &match, const pipe_mgr_action_spec_t &spec,
+                pipe_object_handle_t action);
+  void complete(const pipe_mgr_action_data_t &data, pipe_object_handle_t action);
+
+ private:
+  void seal();
+
+  pipe_mgr_placement_t **placement_;
+  pipe_mgr_placement_t *object_;
+  PlacedHead head_{};
+};
+
+// Placement data to be read.
+struct Placed {
+  PlacedHead head;
+  const uint8_t *contents;
+
+  const uint8_t *data() const { return contents + sizeof(PlacedHead); }
+  const uint8_t *value() const { return data() + head.data_room; }
+  const uint8_t *mask() const { return value() + head.key_room; }
+  const uint8_t *resources() const { return mask() + head.key_room; }
+};
+
+// BF_INVALID_ARGUMENT: null, or of another kind. BF_CORRUPT_DATA: not as a draft left it.
+bf_status_t open_placement(const pipe_mgr_placement_t *placement, PlacedKind kind, Placed *placed);
 
 }  // namespace soft

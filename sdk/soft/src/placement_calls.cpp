@@ -1,6 +1,6 @@
 // Placement data: the contract, and the making of it.
 #include <algorithm>
-#include <vector>
+#include <cstring>
 
 #include "action_data_table.hpp"
 #include "contract_call.hpp"
@@ -13,6 +13,7 @@
 namespace {
 
 using soft::Placed;
+using soft::PlacedKind;
 
 // Greatest number of bytes that an action of these takes.
 uint16_t longest_data(std::span<const soft_action_t> actions) {
@@ -24,60 +25,61 @@ uint16_t longest_data(std::span<const soft_action_t> actions) {
 bf_status_t place_entry(soft::MatchEngine &table, pipe_entry_handle_t entry,
                         pipe_mgr_placement_t **placement) {
   const soft_table_t &description = table.description();
-  std::vector<uint8_t> value(description.key_bytes);
-  std::vector<uint8_t> mask(description.key_bytes);
-  std::vector<uint8_t> data(
-      longest_data(soft::described(description.actions, description.action_count)));
-  Placed placed{};
-  pipe_mgr_match_spec_t &match = placed.fixed.match;
-  pipe_mgr_action_spec_t &spec = placed.fixed.spec;
+  const uint16_t data_room =
+      longest_data(soft::described(description.actions, description.action_count));
+  soft::PlacementDraft draft(placement, data_room, description.key_bytes);
+  pipe_mgr_match_spec_t match{};
   match.byte_count = description.key_bytes;
-  match.value = value.data();
-  match.mask = mask.data();
-  spec.data.byte_count = static_cast<uint16_t>(data.size());
-  spec.data.bytes = data.data();
-  const bf_status_t status = table.read(entry, &match, &spec, &placed.fixed.action);
-  if (status != BF_SUCCESS) return status;
-  placed.fixed.kind = Placed::Kind::kEntry;
-  placed.fixed.has_key = match.value != nullptr;
-  if (placed.fixed.has_key != 0) {
-    placed.value = value;
-    placed.mask = mask;
-  }
-  placed.data = std::span(data).first(spec.data.byte_count);
-  *placement = soft::make_placement(placed);
-  return BF_SUCCESS;
+  match.value = draft.value();
+  match.mask = draft.mask();
+  pipe_mgr_action_spec_t spec{};
+  spec.data = {0, data_room, draft.data()};
+  pipe_object_handle_t action = 0;
+  const bf_status_t status = table.read(entry, &match, &spec, &action);
+  if (status == BF_SUCCESS) draft.complete(match, spec, action);
+  return status;
 }
 
 bf_status_t place_member(const soft_profile_t &profile, soft::ActionDataTable &table,
                          pipe_member_handle_t member, pipe_mgr_placement_t **placement) {
-  std::vector<uint8_t> data(longest_data(soft::described(profile.actions, profile.action_count)));
-  Placed placed{};
-  pipe_mgr_action_data_t &held = placed.fixed.spec.data;
-  held = {0, static_cast<uint16_t>(data.size()), data.data()};
-  const bf_status_t status = table.get(member, &held, &placed.fixed.action);
-  if (status != BF_SUCCESS) return status;
-  placed.fixed.kind = Placed::Kind::kMember;
-  placed.data = std::span(data).first(held.byte_count);
-  *placement = soft::make_placement(placed);
-  return BF_SUCCESS;
+  const uint16_t room = longest_data(soft::described(profile.actions, profile.action_count));
+  soft::PlacementDraft draft(placement, room, 0);
+  pipe_mgr_action_data_t data = {0, room, draft.data()};
+  pipe_object_handle_t action = 0;
+  const bf_status_t status = table.get(member, &data, &action);
+  if (status == BF_SUCCESS) draft.complete(data, action);
+  return status;
 }
 
 void fill_data(const Placed &placed, pipe_mgr_action_data_t *data) {
-  if (data->bytes != nullptr) std::copy(placed.data.begin(), placed.data.end(), data->bytes);
-  data->valid_bit_count = placed.fixed.spec.data.valid_bit_count;
-  data->byte_count = placed.fixed.spec.data.byte_count;
+  if (data->bytes != nullptr) std::memcpy(data->bytes, placed.data(), placed.head.data_bytes);
+  data->valid_bit_count = placed.head.data_bits;
+  data->byte_count = placed.head.data_bytes;
 }
 
 void fill_key(const Placed &placed, pipe_mgr_match_spec_t *match) {
   uint8_t *const value = match->value;
   uint8_t *const mask = match->mask;
-  *match = placed.fixed.match;
-  if (placed.fixed.has_key == 0) return;
-  std::copy(placed.value.begin(), placed.value.end(), value);
-  std::copy(placed.mask.begin(), placed.mask.end(), mask);
+  *match = {};
+  match->scope = placed.head.scope;
+  match->priority = placed.head.priority;
+  if (placed.head.has_key == 0) return;
+  match->valid_bit_count = placed.head.key_bits;
+  match->byte_count = placed.head.key_room;
   match->value = value;
   match->mask = mask;
+  std::memcpy(value, placed.value(), placed.head.key_room);
+  std::memcpy(mask, placed.mask(), placed.head.key_room);
+}
+
+void fill_action(const Placed &placed, pipe_mgr_action_spec_t *spec) {
+  spec->type = placed.head.type;
+  spec->member = placed.head.type == PIPE_ACTION_MEMBER ? placed.head.reference : 0;
+  spec->group = placed.head.type == PIPE_ACTION_GROUP ? placed.head.reference : 0;
+  spec->resource_count = placed.head.resource_count;
+  std::memcpy(spec->resources, placed.resources(),
+              placed.head.resource_count * sizeof(pipe_mgr_resource_t));
+  fill_data(placed, &spec->data);
 }
 
 }  // namespace
@@ -88,18 +90,15 @@ bf_status_t pipe_mgr_plcmt_mat_data_get_entry(const pipe_mgr_placement_t *placem
                                               pipe_object_handle_t *action) {
   return SOFT_CALL((placement, match, action_spec, action), {
     if (match == nullptr || action_spec == nullptr || action == nullptr) return BF_INVALID_ARGUMENT;
-    Placed placed{};
-    const bf_status_t status = soft::open_placement(placement, Placed::Kind::kEntry, &placed);
+    Placed placed;
+    const bf_status_t status = soft::open_placement(placement, PlacedKind::kEntry, &placed);
     if (status != BF_SUCCESS) return status;
-    if (placed.fixed.has_key != 0 && (match->value == nullptr || match->mask == nullptr)) {
+    if (placed.head.has_key != 0 && (match->value == nullptr || match->mask == nullptr)) {
       return BF_INVALID_ARGUMENT;
     }
     fill_key(placed, match);
-    pipe_mgr_action_data_t data = action_spec->data;
-    fill_data(placed, &data);
-    *action_spec = placed.fixed.spec;
-    action_spec->data = data;
-    *action = placed.fixed.action;
+    fill_action(placed, action_spec);
+    *action = placed.head.action;
     return status;
   });
 }
@@ -109,11 +108,11 @@ bf_status_t pipe_mgr_plcmt_adt_data_get_entry(const pipe_mgr_placement_t *placem
                                               pipe_object_handle_t *action) {
   return SOFT_CALL((placement, data, action), {
     if (data == nullptr || action == nullptr) return BF_INVALID_ARGUMENT;
-    Placed placed{};
-    const bf_status_t status = soft::open_placement(placement, Placed::Kind::kMember, &placed);
+    Placed placed;
+    const bf_status_t status = soft::open_placement(placement, PlacedKind::kMember, &placed);
     if (status != BF_SUCCESS) return status;
     fill_data(placed, data);
-    *action = placed.fixed.action;
+    *action = placed.head.action;
     return status;
   });
 }
