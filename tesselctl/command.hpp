@@ -103,5 +103,6 @@ std::span<const Command> value_set_commands();
 std::span<const Command> traffic_commands();
 std::span<const Command> state_commands();
 std::span<const Command> image_commands();
+std::span<const Command> introspection_commands();
 
 }  // namespace tesselctl
