@@ -24,7 +24,7 @@ class Reader {
   Literal read() {
     skip_blanks();
     if (at_ == text_.text.size()) fail("a literal is missing");
-    return read_items('\0', 0);
+    return read_items('\0', 0, text_.column + at_);
   }
 
  private:
@@ -48,11 +48,12 @@ class Reader {
     throw Fault(text_.from(at_).first(length), message);
   }
 
-  // Items up to a closing character, or to the end of the text for '\0'.
-  Literal read_items(char closing, size_t depth) {
+  // Items up to a closing character, or to the end of the text for '\0'. column is where the
+  // sequence begins.
+  Literal read_items(char closing, size_t depth, size_t column) {
     if (depth > kDeepest) fail("the literal nests too deep");
     Literal sequence;
-    sequence.column = text_.column + at_;
+    sequence.column = column;
     bool comma = true;
     for (skip_blanks(); at_ < text_.text.size() && !is_at(closing); skip_blanks()) {
       if (!comma && closing == '\0') fail("nothing should stand here");
@@ -73,10 +74,10 @@ class Reader {
   }
 
   Literal read_item(size_t depth) {
-    if (take('(')) return read_items(')', depth + 1);
-    if (take('[')) return read_items(']', depth + 1);
     Literal item;
     item.column = text_.column + at_;
+    if (take('(')) return read_items(')', depth + 1, item.column);
+    if (take('[')) return read_items(']', depth + 1, item.column);
     if (is_at('\'') || is_at('"')) {
       read_text(item);
     } else if (is_at('-') ||
