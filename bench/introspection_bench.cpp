@@ -84,7 +84,7 @@ class Routes {
     }
   }
 
-  const tesselctl::Device &device() const { return device_; }
+  tesselctl::Device &device() { return device_; }
   const std::vector<p4_pd_entry_handle_t> &entries() const { return entries_; }
 
  private:
@@ -93,7 +93,7 @@ class Routes {
 };
 
 void dump_by_handle(benchmark::State &state) {
-  const Routes routes;
+  Routes routes;
   if (routes.entries().size() != Routes::count) {
     state.SkipWithError("a route was refused");
     return;
@@ -114,7 +114,7 @@ BENCHMARK(dump_by_handle)->Name("dump/by_handle")->Unit(benchmark::kMillisecond)
 
 // As lines of a stream, the handles enumerated.
 void dump_by_tool(benchmark::State &state) {
-  const Routes routes;
+  Routes routes;
   std::FILE *stream = std::fopen("/dev/null", "w");
   if (routes.entries().size() != Routes::count || stream == nullptr) {
     state.SkipWithError("no routes, or nowhere to write them");
@@ -124,7 +124,8 @@ void dump_by_tool(benchmark::State &state) {
   const tesselctl::TableInfo table = tesselctl::resolve_table(word);
   {
     tesselctl::Output out(stream, false);
-    for (auto _ : state) tesselctl::dump_values(routes.device(), table, word, out);
+    tesselctl::Context context{.device = routes.device(), .out = out};
+    for (auto _ : state) tesselctl::dump_values(context, table, word);
   }
   std::fclose(stream);
   state.SetItemsProcessed(state.iterations() * Routes::count);

@@ -55,20 +55,21 @@ std::string key_text(const TableSchema &schema, size_t most) {
 }
 
 void list_tables(Context &context, const Invocation &invocation) {
-  std::vector<Word> words(invocation.arguments.begin(), invocation.arguments.end());
+  std::vector<TableInfo> chosen;
+  for (const Word &word : invocation.arguments) chosen.push_back(resolve_table(word));
   // People who read through all of them want short lines.
-  const bool clipped = words.empty() && !context.settings.json && !context.settings.terse;
-  if (words.empty()) {
-    for (const bindings::Record &record : tables()) words.push_back({record.name, 0});
+  const bool clipped = chosen.empty() && !context.settings.json && !context.settings.terse;
+  if (chosen.empty()) {
+    for (const bindings::Record &record : tables())
+      chosen.push_back(resolve_table({record.name, 0}));
   }
-  for (const Word &word : words) {
-    const TableInfo table = resolve_table(word);
+  for (const TableInfo &table : chosen) {
     const TableSchema schema = table_schema(table.name());
     Row row;
     row.object("table", table.name()).text("match", kind_of(schema));
     row.number("actions", schema.bound ? 0 : schema.actions.size());
     row.text("size", size_text(context, table))
-        .number("entries", entry_count(context, table, word));
+        .number("entries", entry_count(context, table, invocation.command));
     if (!schema.fields.empty()) row.text("fields", key_text(schema, clipped ? 3 : ~size_t{0}));
     context.results.row(row);
   }

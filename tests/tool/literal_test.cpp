@@ -6,7 +6,7 @@
 namespace tesselctl {
 namespace {
 
-using Kind = Literal::Kind;
+using LiteralKind = Literal::Kind;
 
 TEST(Literal, ValuesOfEveryKind) {
   const Literal all =
@@ -14,10 +14,11 @@ TEST(Literal, ValuesOfEveryKind) {
                      "0xffffffffffffffffffffffffffffffffL,())",
                      1});
   ASSERT_TRUE(all.is_tuple(13));
-  EXPECT_EQ(all.items[0].kind, Kind::none);
-  EXPECT_TRUE(all.items[1].kind == Kind::boolean && all.items[1].truth && !all.items[2].truth);
-  EXPECT_TRUE(all.items[3].kind == Kind::list && all.items[3].items.empty());
-  EXPECT_TRUE(all.items[4].kind == Kind::list && all.items[4].items.size() == 1);
+  EXPECT_EQ(all.items[0].kind, LiteralKind::none);
+  EXPECT_TRUE(all.items[1].kind == LiteralKind::boolean && all.items[1].truth &&
+              !all.items[2].truth);
+  EXPECT_TRUE(all.items[3].kind == LiteralKind::list && all.items[3].items.empty());
+  EXPECT_TRUE(all.items[4].kind == LiteralKind::list && all.items[4].items.size() == 1);
   EXPECT_EQ(all.items[5].number, Number(2));
   EXPECT_TRUE(all.items[6].is_tuple(1));
   EXPECT_EQ(all.items[7].number, Number(255));

@@ -11,7 +11,7 @@ TEST_F(ToolTest, TrafficCountsInHardwareUntilACounterIsRead) {
   run("add l2DmacClassify ingressPort=1 dmac=01:00:00:00:00:00&01:00:00:00:00:00 priority=1 "
       "action=setMcast as=d");
   const std::string entry = "entry=" + std::to_string(context_.labels["d"]);
-  const std::string label = " label=\"Ingress Port 0x01 dmac 0100.0000.0000/0100.0000.0000\"\n";
+  const std::string label = " label=Ingress Port 0x01 dmac 0100.0000.0000/0100.0000.0000\n";
   EXPECT_EQ(run("traffic l2DmacClassify ingressPort=1 dmac=01:00:5e:00:00:01 packets=5 bytes=640"),
             "l2DmacClassify " + entry +
                 " ingressPort=1 dmac=01:00:00:00:00:00&01:00:00:00:00:00 priority=1 "
