@@ -1,4 +1,5 @@
 // Images of the whole device: save and load.
+#include "tesselctl/command.hpp"
 #include "tesselctl/device_copy.hpp"
 #include "tesselctl/files.hpp"
 #include "tesselctl/image.hpp"
