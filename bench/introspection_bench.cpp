@@ -1,15 +1,13 @@
 // What introspection costs: value strings against one snprintf and against hexadecimal output
-// written by hand, the longest schema against a copy of its bytes, and a dump of a million routes
-// out of the soft SDK. Ratios count, all of them from one run.
+// written by hand, the longest schema against a copy of its bytes, and dumps of a million routes
+// out of the soft SDK, by handle and as the tool does it. Ratios count, all of them from one run.
 #include <benchmark/benchmark.h>
 
 #include <cstring>
 #include <vector>
 
 #include "by_hand_text.h"
-#include "soft_sdk.h"
-
-extern "C" const soft_program_t soft_program_tessel_switch;
+#include "tesselctl/entry_texts.hpp"
 
 namespace {
 
@@ -72,9 +70,6 @@ class Routes {
   static constexpr uint32_t count = 1000000;
 
   Routes() {
-    soft_device_create(0, 1, &soft_program_tessel_switch, false);
-    soft_session_open(&session_);
-    const p4_pd_device_target_t target = {0, 0xffff};
     const p4_pd_tessel_switch_setNextHop_action_spec_t action = {17};
     entries_.resize(count);
     for (uint32_t i = 0; i < count; ++i) {
@@ -82,27 +77,23 @@ class Routes {
       key.ingIpv4_dip = i << 8;
       key.ingIpv4_dip_prefix_length = 24;
       if (p4_pd_tessel_switch_ipv4ShortMaskLpm_table_add_with_setNextHop(
-              session_, target, &key, &action, 0, &entries_[i]) != BF_SUCCESS) {
+              device_.session(), device_.target(), &key, &action, 0, &entries_[i]) != BF_SUCCESS) {
         entries_.clear();
         break;
       }
     }
   }
-  ~Routes() {
-    soft_session_close(session_);
-    soft_device_remove(0);
-  }
 
+  tesselctl::Device &device() { return device_; }
   const std::vector<p4_pd_entry_handle_t> &entries() const { return entries_; }
-  p4_pd_session_handle_t session() const { return session_; }
 
  private:
-  p4_pd_session_handle_t session_ = 0;
+  tesselctl::Device device_{{.id = 0, .pipes = 1}};
   std::vector<p4_pd_entry_handle_t> entries_;
 };
 
-void dump(benchmark::State &state) {
-  const Routes routes;
+void dump_by_handle(benchmark::State &state) {
+  Routes routes;
   if (routes.entries().size() != Routes::count) {
     state.SkipWithError("a route was refused");
     return;
@@ -110,8 +101,8 @@ void dump(benchmark::State &state) {
   char buffer[P4_PD_TESSEL_SWITCH_VALUE_MAX];
   for (auto _ : state) {
     for (const p4_pd_entry_handle_t entry : routes.entries()) {
-      if (p4_pd_tessel_switch_ipv4ShortMaskLpm_value(routes.session(), 0, entry, false, buffer) ==
-          0) {
+      if (p4_pd_tessel_switch_ipv4ShortMaskLpm_value(routes.device().session(), 0, entry, false,
+                                                     buffer) == 0) {
         state.SkipWithError("a route was not found");
         return;
       }
@@ -119,7 +110,27 @@ void dump(benchmark::State &state) {
   }
   state.SetItemsProcessed(state.iterations() * Routes::count);
 }
-BENCHMARK(dump)->Name("dump/ipv4ShortMaskLpm")->Unit(benchmark::kMillisecond);
+BENCHMARK(dump_by_handle)->Name("dump/by_handle")->Unit(benchmark::kMillisecond);
+
+// As lines of a stream, the handles enumerated.
+void dump_by_tool(benchmark::State &state) {
+  Routes routes;
+  std::FILE *stream = std::fopen("/dev/null", "w");
+  if (routes.entries().size() != Routes::count || stream == nullptr) {
+    state.SkipWithError("no routes, or nowhere to write them");
+    return;
+  }
+  const tesselctl::Word word{"ipv4ShortMaskLpm", 1};
+  const tesselctl::TableInfo table = tesselctl::resolve_table(word);
+  {
+    tesselctl::Output out(stream, false);
+    tesselctl::Context context{.device = routes.device(), .out = out};
+    for (auto _ : state) tesselctl::dump_values(context, table, word);
+  }
+  std::fclose(stream);
+  state.SetItemsProcessed(state.iterations() * Routes::count);
+}
+BENCHMARK(dump_by_tool)->Name("dump/tool")->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

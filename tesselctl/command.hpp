@@ -104,5 +104,6 @@ std::span<const Command> traffic_commands();
 std::span<const Command> state_commands();
 std::span<const Command> image_commands();
 std::span<const Command> routes_commands();
+std::span<const Command> introspection_commands();
 
 }  // namespace tesselctl

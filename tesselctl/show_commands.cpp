@@ -1,4 +1,5 @@
 // Reading back: default entries, and what tables hold.
+#include "tesselctl/entry_texts.hpp"
 #include "tesselctl/options.hpp"
 #include "tesselctl/read_back.hpp"
 
@@ -58,15 +59,17 @@ void show(Context &context, const Invocation &invocation) {
   const TableInfo table = resolve_table(word);
   const Options options(invocation, 1, {"entry"});
   const auto print = [&](p4_pd_entry_handle_t entry) {
+    if (context.settings.raw) return dump_value(context, table, entry, word);
     context.results.row(entry_row(context.device, table, entry, word));
   };
   if (options.has("entry")) return print(options.handle(context, "entry"));
+  if (context.settings.raw) return dump_values(context, table, word);
   for_each_entry(context.device, table, word, print);
 }
 
 constexpr Command kCommands[] = {
     {"show", "TABLE [entry=HANDLE]", "prints the entries of a table, or one of them", show,
-     Kind::lists},
+     Kind::lists, "--raw"},
     {"default set", "TABLE [meter=CIR,CBS,PIR,PBS] [as=NAME] OUTCOME",
      "sets what a table does without a hit", default_set, Kind::changes},
     {"default get", "TABLE", "prints what a table does without a hit", default_get},

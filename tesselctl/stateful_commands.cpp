@@ -1,5 +1,7 @@
 // Counters and registers.
-#include "tesselctl/library.hpp"
+#include <algorithm>
+
+#include "tesselctl/entry_texts.hpp"
 #include "tesselctl/number.hpp"
 #include "tesselctl/options.hpp"
 #include "tesselctl/read_back.hpp"
@@ -38,18 +40,64 @@ const char *cell_of(const soft_counter_t &counter) {
   return counter.table != 0 ? "entry" : "index";
 }
 
+p4_pd_counter_values_t read_cell(const Context &context, const soft_counter_t &counter, uint32_t at,
+                                 uint64_t flags, Word word) {
+  p4_pd_counter_values_t values = {};
+  Call call = context.device.prepare("counter_read", counter.name);
+  call.set(cell_of(counter), uint64_t{at}).set("flags", flags).set("values", &values);
+  check(call.run(), word);
+  return values;
+}
+
+// With a label of what the entry counts, for a counter of a table.
+Row cell_row(const Context &context, const soft_counter_t &counter, uint32_t at,
+             const p4_pd_counter_values_t &values) {
+  Row row;
+  row.object("counter", counter.name).number(cell_of(counter), at);
+  row.number("packets", values.packets).number("bytes", values.bytes);
+  if (counter.table == 0) return row;
+  const std::string label = counter_label(context.device, counter.table, at);
+  return label.empty() ? row : row.text("label", label);
+}
+
 void counter_read(Context &context, const Invocation &invocation) {
   const soft_counter_t &counter = counter_of(invocation);
   const char *cell = cell_of(counter);
   const Options options(invocation, 1, {cell, "source"});
-  p4_pd_counter_values_t values = {};
   const uint32_t at = options.handle(context, cell);
-  Call call = context.device.prepare("counter_read", counter.name);
-  call.set(cell, uint64_t{at}).set("flags", read_flags(options)).set("values", &values);
-  check(call.run(), invocation.arguments[0]);
-  Row row;
-  row.object("counter", counter.name).number(cell, at);
-  context.results.row(row.number("packets", values.packets).number("bytes", values.bytes));
+  const p4_pd_counter_values_t values =
+      read_cell(context, counter, at, read_flags(options), invocation.arguments[0]);
+  context.results.row(cell_row(context, counter, at, values));
+}
+
+const soft_table_t &table_of(const soft_counter_t &counter) {
+  const auto rows = program_rows<soft_table_t>();
+  return *std::find_if(rows.begin(), rows.end(),
+                       [&](const soft_table_t &table) { return table.handle == counter.table; });
+}
+
+void list_cells(Context &context, const soft_counter_t &counter, Word word, uint64_t flags) {
+  const TableInfo table = resolve_table({table_of(counter).name, 0});
+  for_each_entry(context.device, table, word, [&](p4_pd_entry_handle_t entry) {
+    const p4_pd_counter_values_t values = read_cell(context, counter, entry, flags, word);
+    context.results.row(cell_row(context, counter, entry, values));
+  });
+}
+
+void counter_list(Context &context, const Invocation &invocation) {
+  const bool one = !invocation.arguments.empty() &&
+                   invocation.arguments[0].text.find('=') == std::string_view::npos;
+  const Options options(invocation, one ? 1 : 0, {"source"});
+  if (one) {
+    const soft_counter_t &counter = counter_of(invocation);
+    if (counter.table == 0) {
+      throw Fault(invocation.arguments[0], "the cells of this counter go by index, not by entry");
+    }
+    return list_cells(context, counter, invocation.arguments[0], read_flags(options));
+  }
+  for (const soft_counter_t &counter : program_rows<soft_counter_t>()) {
+    if (counter.table != 0) list_cells(context, counter, invocation.command, read_flags(options));
+  }
 }
 
 void counter_write(Context &context, const Invocation &invocation) {
@@ -161,6 +209,8 @@ void register_sync(Context &context, const Invocation &invocation) {
 constexpr Command kCommands[] = {
     {"counter read", "COUNTER index=N|entry=HANDLE [source=hardware|software]",
      "prints the packets and bytes of a counter cell", counter_read},
+    {"counter list", "[COUNTER] [source=hardware|software]",
+     "prints every counted entry and what it counts", counter_list, Kind::lists},
     {"counter write", "COUNTER index=N|entry=HANDLE packets=N bytes=N",
      "sets the packets and bytes of a counter cell", counter_write, Kind::changes},
     {"counter sync", "COUNTER", "brings the software copy of a counter up to date", counter_sync,

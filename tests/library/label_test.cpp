@@ -137,6 +137,9 @@ TEST(Label, Decapsulation) {
   EXPECT_EQ(decap(3, 1), "VxLanDecap ");
   EXPECT_EQ(decap(6, 7), "decapType 0x6 ");
   EXPECT_EQ(decap(7, 5), "decapType & 0x5 0x7 ");
+  // Whatever the mask, one beside the field's bits too.
+  EXPECT_EQ(decap(4, 3), "NoDecap ");
+  EXPECT_EQ(decap(7, 8), "NoDecap ");
 }
 
 TEST(Label, IpAddresses) {
@@ -184,6 +187,29 @@ TEST(Label, ItemsInTheirOrder) {
             "Destination IP Meter drop ttl 0xff routed ");
 }
 
+// Every field clear under a mask of its lowest bit or its lowest two.
+TEST(Label, ItemsWithPartialMasks) {
+  Spec trap("trapToCpu", {});
+  Spec egress("egressPortDropCheck", {});
+  for (Spec *spec : {&trap, &egress}) {
+    for (const Member &member : spec->record().member_list()) {
+      if (member.role != bindings::Role::mask || member.storage == 16) continue;
+      spec->set(member, member.width == 1 ? 1 : 3);
+    }
+  }
+  trap.set(trap.member("egrMd_decapType"), 7);
+  trap.set(trap.member("egrMd_decapType_mask"), 4);
+  trap.set(trap.member("ingMd_srcPort"), 0xabc);
+  EXPECT_EQ(label(trap),
+            "etherType & 0x3 0x0000 !bcast !mcast l4Attr & 0x3 0x0 srcPort & 0x3 0x0abc dstPort & "
+            "0x3 0x0000 ingVPort & 0x3 0x0000 ingL3Aintf & 0x3 0x000 !L3DmacValid Ttl & 0x3 0x00 "
+            "ARP opcode & 0x3 0x0000 !IGMP snoop dip 0.0.0.0/0 protocol & 0x3 0x00 !VXLAN flood "
+            "decapType & 0x4 0x7 !CPUinVLan cpuReasonCode & 0x3 0x00 ");
+  EXPECT_EQ(label(egress),
+            "Egress Port 0x00 !stpBlocked !invalidVlan !Firewall Source IP Meter drop !Firewall "
+            "Destination IP Meter drop ttl & 0x3 0x00 !routed ");
+}
+
 // Every flag negated, every number with a mask of its own: nothing is longer.
 TEST(Label, TheLongestFillsTheStatedBuffer) {
   Spec spec("finalDropControl", {});
@@ -194,7 +220,15 @@ TEST(Label, TheLongestFillsTheStatedBuffer) {
   spec.set(spec.member("ig_intr_md_for_tm_mcast_grp_a"), 0xffff);
   spec.set(spec.member("ig_intr_md_for_tm_mcast_grp_a_mask"), 0xfffe);
   spec.set(spec.member("egrMd_egrL2AintfUnresolved"), 0xfffff);
-  EXPECT_EQ(label(spec).size() + 1, static_cast<size_t>(P4_PD_TESSEL_SWITCH_LABEL_MAX));
+  const std::string text = label(spec);
+  EXPECT_EQ(text,
+            "Ingress Port & 0xfffe 0x00 !Ingress Port Drop - See ingressPortDropCount  !dropSmac "
+            "!dropDmac !invalidEgressPort !samePortBridging !routedMartian !mlagPrune !Invalid IP "
+            "Version egrL2AintfUnresolved & 0xffffffff 0xfffff mcast_grp_a & 0xfffe 0xffff !Routed "
+            "Drop  !trapToCpu !Datalink !stpBlocked !invalidVlan !dot1xDrop !copy_to_cpu "
+            "!stormControlDrop !Firewall Drop !escortToRecircPort !Meter Drop !New-flow Meter Drop "
+            "!Flow Limit Drop !kFlow Drop !bcast !mcast ");
+  EXPECT_EQ(text.size() + 1, static_cast<size_t>(P4_PD_TESSEL_SWITCH_LABEL_MAX));
 }
 
 }  // namespace

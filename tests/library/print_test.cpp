@@ -79,6 +79,20 @@ TEST(Print, MasksStandBehindPartialFieldsOnly) {
   EXPECT_TRUE(has("     egrMd_trapToCpu: 0x0\n"));
 }
 
+TEST(Print, LongMasksEndInL) {
+  LineSink sink;
+  const p4_pd_tessel_switch_ingressSflowSample_match_spec_t key = {0x1ff, 0x1ff, 0x12345678,
+                                                                   0xffffffff};
+  EXPECT_EQ(p4_pd_tessel_switch_ingressSflowSample_match_spec_print(sink.descriptor(), 1, &key),
+            47);
+  EXPECT_EQ(sink.lines(),
+            (std::vector<std::string>{" p4_pd_tessel_switch_ingressSflowSample_match_spec_t:\n",
+                                      "  ig_intr_md_ingress_port: 0x1ff\n",
+                                      "  ig_intr_md_ingress_port_mask: 0x1ff\n",
+                                      "  ingMd_rand mask 0xffffff00L: 0x12345600\n",
+                                      "  ingMd_rand_mask mask 0xffffff00L: 0xffffff00\n"}));
+}
+
 // Each field one write, under the schema's mask, annotated where the mask is not the whole width.
 TEST(Print, EveryMatchSpecAndAction) {
   std::mt19937 random(6);

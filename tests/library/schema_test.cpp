@@ -62,6 +62,9 @@ TEST(Schema, NamesMasksAndHintsOfFields) {
       {"finalDropControl", "( 'ingMdDrop','ingMd_drop',1,0x1,None"},
       {"finalDropControl", "( 'kflowMdDropMask','kflowMd_drop_mask',1,0x1,None"},
       {"trapToCpu", "( 'ingIpv4Dip','ingIpv4_dip',32,0xffffffffL,'v4addr'"},
+      {"ingressTrafficClass", "( 'tesselCpuHdrTrustMode','tesselCpuHdr_trustMode',2,0x3,None"},
+      {"ingressTrafficClass", "( 'tc','tesselCpuHdr_tc',3,0x7,None"},
+      {"finalizeMcResult", "( 'ingL2McEValidMask','ingL2Mc_eValid_mask',1,0x1,None"},
       // Intrinsic metadata drops its whole prefix.
       {"finalDropControl", "( 'mcastGrpA','ig_intr_md_for_tm_mcast_grp_a',16,0xffff,None"},
       {"ingressPortDropCheck",
@@ -79,6 +82,7 @@ TEST(Schema, NamesMasksAndHintsOfFields) {
       {"trapToCpu", "( 'ingVPort','phase0_ingVPort',14,0x3fff,'vport'"},
       {"ipv6ShortMaskLpm",
        "( 'dip','ingIpv6_dip',128,0xffffffffffffffffffffffffffffffffL,'v6addr'"},
+      {"tunnelTermination", "_dip',32,0xffffffffL,'v4addr'"},
       {"ipv6ShortMaskLpm", "( 'dipPrefixLength','ingIpv6_dip_prefix_length',16,0xffff,None"},
       {"l2DmacClassify", "( 'dmacOui','outerEthHdr_dmacOui',24,0xffffff,'mac'"},
       {"l2DmacClassify", "( 'dmacStationMask','outerEthHdr_dmacStation_mask',24,0xffffff,None"},
@@ -105,6 +109,12 @@ TEST(Schema, FieldsAreThoseOfTheRecord) {
       EXPECT_TRUE(field[1].is(member.name)) << table.name << " " << member.name;
       EXPECT_EQ(field[2].number(), member.width) << table.name << " " << member.name;
       EXPECT_TRUE(field[5].is_word("None") && field[6].is_word("None"));
+      if (member.role != bindings::Role::value) {
+        const bool mask = member.role == bindings::Role::mask;
+        EXPECT_TRUE(field[0].is(schema[i - 1][0].text + (mask ? "Mask" : "PrefixLength")));
+        EXPECT_EQ(field[3].text, mask ? schema[i - 1][3].text : "0xffff") << member.name;
+        EXPECT_TRUE(field[4].is_word("None")) << member.name;
+      }
       unsigned bits = 0;
       for (const uint8_t byte : field[3].bytes())
         bits += static_cast<unsigned>(std::popcount(byte));

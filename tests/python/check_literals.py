@@ -1,17 +1,19 @@
 #!/usr/bin/env python3
 """Reads every schema and value string of the library as a Python literal.
 
-usage: check_literals.py LIBSOFT_SDK LIBRARY EXPORTS
+usage: check_literals.py LIBSOFT_SDK LIBRARY EXPORTS TESSELCTL SCRIPT
 
 Loads the library through ctypes, with the soft SDK in front of it, and finds the functions by their
 names in the list of exports. Long suffixes, which Python 3 no longer reads, are removed first.
-Records are random bytes, larger than any of them.
+Records are random bytes, larger than any of them. Values of entries are what TESSELCTL dumps after
+SCRIPT.
 """
 import ast
 import ctypes
 import os
 import random
 import re
+import subprocess
 import sys
 
 PREFIX = "p4_pd_tessel_switch_"
@@ -89,7 +91,28 @@ def check_table(library, table):
         check(table + "_match_spec_value: mask", value < 1 << field[2] and in_mask)
 
 
-def main(soft_sdk, path, exports):
+def dumped(tesselctl, script, table):
+    lines = open(script).read() + "\ndump " + table + "\n"
+    run = subprocess.run([tesselctl, "run", "-"], input=lines, capture_output=True, text=True)
+    check(table + ": dump", run.returncode == 0)
+    return [line for line in run.stdout.splitlines() if line.startswith("((")]
+
+
+def check_entries(library, tables, tesselctl, script):
+    entries = 0
+    for table in tables:
+        head, key, actions = literal(schema_text(library, table + "_schema"))
+        parameters = dict(actions)
+        for line in dumped(tesselctl, script, table) if key else []:
+            (values, (action, numbers)), (priority, last) = literal(line)
+            check(line, len(values) == len(key) and len(numbers) == len(parameters[action]))
+            check(line, isinstance(priority, int) and last is True)
+            entries += 1
+    check("entries of the script", entries > 40)
+    return entries
+
+
+def main(soft_sdk, path, exports, tesselctl, script):
     ctypes.CDLL(soft_sdk, mode=ctypes.RTLD_GLOBAL)
     library = ctypes.CDLL(path, mode=os.RTLD_LAZY)
     names = [line[len(PREFIX):] for line in open(exports).read().split() if line.startswith(PREFIX)]
@@ -114,13 +137,14 @@ def main(soft_sdk, path, exports):
         check(stem + "_value", value[0][0] == stem and len(value[0][1]) == len(action[1]))
         actions += 1
     check("numbers of objects", (len(tables), len(profiles), actions) == (120, 4, 232))
+    entries = check_entries(library, tables, tesselctl, script)
     for fault in faults:
         print("no literal of its kind:", fault)
-    print(f"{len(tables)} tables, {len(profiles)} profiles, {actions} actions")
+    print(f"{len(tables)} tables, {len(profiles)} profiles, {actions} actions, {entries} entries")
     return 1 if faults else 0
 
 
 if __name__ == "__main__":
-    if len(sys.argv) != 4:
+    if len(sys.argv) != 6:
         sys.exit(__doc__)
     sys.exit(main(*sys.argv[1:]))

@@ -11,18 +11,19 @@ TEST_F(ToolTest, TrafficCountsInHardwareUntilACounterIsRead) {
   run("add l2DmacClassify ingressPort=1 dmac=01:00:00:00:00:00&01:00:00:00:00:00 priority=1 "
       "action=setMcast as=d");
   const std::string entry = "entry=" + std::to_string(context_.labels["d"]);
+  const std::string label = " label=Ingress Port 0x01 dmac 0100.0000.0000/0100.0000.0000\n";
   EXPECT_EQ(run("traffic l2DmacClassify ingressPort=1 dmac=01:00:5e:00:00:01 packets=5 bytes=640"),
             "l2DmacClassify " + entry +
                 " ingressPort=1 dmac=01:00:00:00:00:00&01:00:00:00:00:00 priority=1 "
                 "action=setMcast color=green\n");
   EXPECT_EQ(run("counter read l2DmacClassifyCount entry=$d source=software"),
-            "l2DmacClassifyCount " + entry + " packets=0 bytes=0\n");
+            "l2DmacClassifyCount " + entry + " packets=0 bytes=0" + label);
   EXPECT_EQ(run("counter read l2DmacClassifyCount entry=$d"),
-            "l2DmacClassifyCount " + entry + " packets=5 bytes=640\n");
+            "l2DmacClassifyCount " + entry + " packets=5 bytes=640" + label);
   run("traffic l2DmacClassify ingressPort=1 dmac=01:00:5e:00:00:01");
   EXPECT_EQ(run("counter sync l2DmacClassifyCount"), "l2DmacClassifyCount synchronised\n");
   EXPECT_EQ(run("counter read l2DmacClassifyCount entry=$d source=software"),
-            "l2DmacClassifyCount " + entry + " packets=6 bytes=704\n");
+            "l2DmacClassifyCount " + entry + " packets=6 bytes=704" + label);
   EXPECT_EQ(run("lookup l2DmacClassify ingressPort=1 dmac=00:00:5e:00:00:01"),
             "l2DmacClassify default action=onMiss\n");
 }
