@@ -24,6 +24,7 @@ std::span<const std::span<const Command>> command_topics() {
       traffic_commands(),        //
       state_commands(),          //
       image_commands(),          //
+      compare_commands(),        //
       routes_commands(),         //
       introspection_commands(),  //
   };
@@ -108,6 +109,7 @@ void clear_interrupt() noexcept { interrupted.store(false, std::memory_order_rel
 
 Ran run_line(Context &context, std::string_view line) {
   context.settings = context.defaults;
+  context.differs = false;
   context.results.begin(context.settings, trimmed(line), false);
   std::vector<Word> words;
   split_words(line, words);
@@ -127,7 +129,8 @@ Ran run_line(Context &context, std::string_view line) {
     throw Fault(invocation.command, "there is no memory for this");
   }
   const bool changes = command.kind == Kind::changes && !context.settings.dry_run;
-  return changes ? Ran::changed : Ran::asked;
+  if (changes) return Ran::changed;
+  return context.differs ? Ran::differs : Ran::asked;
 }
 
 Word need_argument(const Invocation &invocation, size_t at, std::string_view what) {

@@ -34,6 +34,8 @@ struct Context {
   std::map<std::string, uint32_t, std::less<>> labels = {};
   // Entries that expired since it was cleared; the device writes here while time advances.
   std::vector<ExpiredEntry> expired = {};
+  // Set by commands that compare when they found a difference.
+  bool differs = false;
 
   bool verbose() const { return settings.verbose; }
 };
@@ -63,7 +65,7 @@ std::span<const std::span<const Command>> command_topics();
 // The command that the words name. Throws Fault with a near name.
 const Command &find_command(Words words, Invocation &invocation);
 
-enum class Ran : uint8_t { nothing, asked, changed };
+enum class Ran : uint8_t { nothing, asked, changed, differs };
 
 // Runs one line; one without words does nothing. Throws Fault, behind which context.results waits
 // for fail.
@@ -103,6 +105,7 @@ std::span<const Command> value_set_commands();
 std::span<const Command> traffic_commands();
 std::span<const Command> state_commands();
 std::span<const Command> image_commands();
+std::span<const Command> compare_commands();
 std::span<const Command> routes_commands();
 std::span<const Command> introspection_commands();
 

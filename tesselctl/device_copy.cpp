@@ -12,17 +12,18 @@ void copy_contents(const Device &from, const Device &to) {
   if (status != BF_SUCCESS) throw Fault("cannot copy the device: " + status_text(status));
 }
 
-uint32_t free_id() {
+}  // namespace
+
+uint32_t free_device_id() {
   for (uint32_t id = SOFT_DEVICE_LIMIT; id-- > 0;) {
     if (!soft_device_exists(id)) return id;
   }
   throw Fault("cannot copy the device: all device ids are taken");
 }
 
-}  // namespace
-
 std::unique_ptr<Device> copy_of(const Device &device) {
-  auto copy = std::make_unique<Device>(DeviceOptions{.id = free_id(), .pipes = device.pipes()});
+  auto copy =
+      std::make_unique<Device>(DeviceOptions{.id = free_device_id(), .pipes = device.pipes()});
   copy_contents(device, *copy);
   return copy;
 }

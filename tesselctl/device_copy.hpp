@@ -7,6 +7,9 @@
 
 namespace tesselctl {
 
+// A device id that is not taken. Throws Fault.
+uint32_t free_device_id();
+
 // A device of its own under a free id that holds what the other holds, under the same handles.
 // Throws Fault.
 std::unique_ptr<Device> copy_of(const Device &device);

@@ -38,7 +38,8 @@ inline constexpr int kImageVersion = 1;
 using TextSink = std::function<void(std::string_view)>;
 
 // Writes the image in pieces of some size. Throws Fault. Counters are brought up to date first.
-void save_image(const Device &device, const TextSink &sink);
+enum class ImagePart : uint8_t { all, profiles };
+void save_image(const Device &device, const TextSink &sink, ImagePart part = ImagePart::all);
 
 struct LoadCounts {
   uint64_t lines = 0;
@@ -53,6 +54,10 @@ using LineSource = std::function<bool(std::string_view &line)>;
 // Adds what the image holds to the device. Throws Fault "FILE:LINE:COLUMN: ..." for the first line
 // that is no image or that the device refuses; the lines before it stay loaded.
 LoadCounts load_image(const Device &device, std::string_view file, const LineSource &lines);
+
+// Whole files; a file is replaced in one step. Throw Fault. Return the bytes written.
+LoadCounts load_image_file(const Device &device, const std::string &path);
+uint64_t save_image_file(const Device &device, const std::string &path);
 
 // The first and last lines of an image, by which its version, program and wholeness are known.
 class ImageFrame {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "tesselctl/command.hpp"
+#include "tesselctl/files.hpp"
 #include "tesselctl/image.hpp"
 #include "tesselctl/image_edit.hpp"
 #include "tesselctl/value.hpp"
@@ -93,6 +94,11 @@ LoadCounts load_image(const Device &device, std::string_view file, const LineSou
   }
   editor.counts.lines = frame.lines();
   return editor.counts;
+}
+
+LoadCounts load_image_file(const Device &device, const std::string &path) {
+  FileLines lines(path);
+  return load_image(device, path, [&](std::string_view &line) { return lines.next(line); });
 }
 
 }  // namespace tesselctl

@@ -1,10 +1,13 @@
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <cstring>
 #include <unordered_map>
 
 #include "p4_pd_tessel_switch.h"
 #include "soft_contents.h"
 #include "soft_state.h"
+#include "tesselctl/files.hpp"
 #include "tesselctl/image.hpp"
 #include "tesselctl/number.hpp"
 #include "tesselctl/read_back.hpp"
@@ -20,22 +23,26 @@ class ImageSaver {
  public:
   ImageSaver(const Device &device, const TextSink &sink) : device_(device), sink_(&sink) {}
 
-  void save() {
+  void save(ImagePart part) {
     line("tesselctl image {} {}", kImageVersion, program().name);
     line("pipes {}", device_.pipes());
     for (const soft_profile_t &profile : program_rows<soft_profile_t>()) save_profile(profile);
-    for (const bindings::Record &record : tables()) save_table(resolve_table({record.name, 0}));
-    for (const soft_counter_t &counter : program_rows<soft_counter_t>()) save_counter(counter);
-    for (const soft_meter_t &meter : program_rows<soft_meter_t>()) save_meter(meter);
-    for (const soft_register_t &reg : program_rows<soft_register_t>()) save_register(reg);
-    for (const soft_hash_t &hash : program_rows<soft_hash_t>()) save_hash(hash);
-    for (const soft_value_set_t &set : program_rows<soft_value_set_t>()) save_value_set(set);
+    if (part == ImagePart::all) save_others();
     const uint64_t lines = lines_;
     line("end {}", lines);
     (*sink_)(text_);
   }
 
  private:
+  void save_others() {
+    for (const bindings::Record &record : tables()) save_table(resolve_table({record.name, 0}));
+    for (const soft_counter_t &counter : program_rows<soft_counter_t>()) save_counter(counter);
+    for (const soft_meter_t &meter : program_rows<soft_meter_t>()) save_meter(meter);
+    for (const soft_register_t &reg : program_rows<soft_register_t>()) save_register(reg);
+    for (const soft_hash_t &hash : program_rows<soft_hash_t>()) save_hash(hash);
+    for (const soft_value_set_t &set : program_rows<soft_value_set_t>()) save_value_set(set);
+  }
+
   // Numbers of members and groups in the image, by handle.
   struct Numbers {
     std::unordered_map<uint32_t, uint32_t> members;
@@ -78,7 +85,7 @@ class ImageSaver {
       open("profile", name);
       const auto number = static_cast<uint32_t>(numbers.members.size() + 1);
       numbers.members.emplace(member, number);
-      line("member {} {}", number, member_value(name, member));
+      save_member(name, number, member);
     });
     for_each_group(device_, name, {}, [&](uint32_t group) {
       open("profile", name);
@@ -92,19 +99,14 @@ class ImageSaver {
     }
   }
 
-  std::string member_value(const char *profile, uint32_t member) {
+  void save_member(const char *profile, uint32_t number, uint32_t member) {
     p4_pd_tessel_switch_action_specs_t specs = {};
     Call call = device_.prepare("get_member", profile);
     call.set("member", uint64_t{member}).set("read_from_hardware", uint64_t{0});
     check(call.set("action_specs", &specs).run(), {});
-    for (const bindings::Record &action : actions()) {
-      if (action.number != specs.action) continue;
-      char text[P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX];
-      Call value(need_export("action_value", action.name));
-      value.set_if_taken("action_spec", static_cast<const void *>(&specs.spec));
-      return {text, static_cast<size_t>(value.set("buffer", text).run())};
-    }
-    throw Fault(fmt::format("member {} of {} has an unknown action", member, profile));
+    fmt::format_to(std::back_inserter(text_), "member {} ", number);
+    append_action(specs.action, reinterpret_cast<const uint8_t *>(&specs.spec));
+    end_line();
   }
 
   void save_group(const soft_profile_t &profile, uint32_t group, const Numbers &numbers) {
@@ -169,20 +171,13 @@ class ImageSaver {
   }
 
   void save_table(const TableInfo &table) {
-    char value[P4_PD_TESSEL_SWITCH_VALUE_MAX];
-    Call call = device_.prepare("table_value", table.name());
-    call.set("read_from_hardware", uint64_t{0}).set("buffer", value);
+    EntryReader reader(device_, table);
     Extras extras = extras_of(table);
     const auto save_line = [&](std::string_view keyword, uint32_t entry) {
-      const auto size = static_cast<size_t>(call.set("entry", uint64_t{entry}).run());
-      if (size == 0) throw Fault(fmt::format("{} entry={} cannot be read", table.name(), entry));
+      check(reader.read(entry), {});
       open("table", table.name());
       text_ += keyword;
-      if (table.indirect()) {
-        text_ += numbered(table, {value, size});
-      } else {
-        text_.append(value, size);
-      }
+      append_value(table, reader);
       save_extras(extras, entry, keyword == "default ");
       end_line();
     };
@@ -194,21 +189,65 @@ class ImageSaver {
     if (table.ages()) save_ageing(table);
   }
 
-  // The value of an entry of a bound table with the number of the member or group for its handle.
-  std::string numbered(const TableInfo &table, std::string_view value) {
-    const Numbers &numbers = numbers_[table.description->action_data_table];
-    for (const auto &[name, known] :
-         {std::pair{std::string_view("('setMbrHdl',("), &numbers.members},
-          std::pair{std::string_view("('setGrpHdl',("), &numbers.groups}}) {
-      const size_t at = value.find(name);
-      if (at == std::string_view::npos) continue;
-      const size_t begin = at + name.size();
-      const size_t end = value.find(',', begin);
-      const auto handle = parse_number(value.substr(begin, end - begin));
-      return fmt::format("{}{:#x}{}", value.substr(0, begin),
-                         known->at(static_cast<uint32_t>(handle->low)), value.substr(end));
+  // The value string of the entry with all bits of its key. That of the library leaves out the bits
+  // that take no part in the lookup, which entries keep all the same.
+  void append_value(const TableInfo &table, const EntryReader &reader) {
+    text_ += "((";
+    if (reader.has_key()) {
+      text_ += "( ";
+      append_record(*table.record, reader.key.data());
+      text_ += "),";
+    } else {
+      text_ += "(),";
     }
-    return std::string(value);
+    if (!table.indirect()) {
+      append_action(reader.action, reader.action_record());
+    } else if (reader.has_member || reader.has_group) {
+      const Numbers &numbers = numbers_[table.description->action_data_table];
+      const uint32_t number =
+          reader.has_group ? numbers.groups.at(reader.group) : numbers.members.at(reader.member);
+      fmt::format_to(std::back_inserter(text_), "('{}',({:#x},))",
+                     reader.has_group ? "setGrpHdl" : "setMbrHdl", number);
+    }
+    text_ += "),(";
+    const auto priority = static_cast<int32_t>(table.has_priority() ? reader.priority : 0);
+    fmt::format_to(std::back_inserter(text_), "{},True))", priority);
+  }
+
+  void append_action(uint32_t number, const uint8_t *parameters) {
+    if (last_action_ == nullptr || last_action_->number != number) {
+      const auto all = actions();
+      const auto found = std::find_if(all.begin(), all.end(), [&](const bindings::Record &action) {
+        return action.number == number;
+      });
+      if (found == all.end()) throw Fault("the device holds an unknown action");
+      last_action_ = &*found;
+    }
+    text_ += "('";
+    text_ += last_action_->name;
+    text_ += "',(";
+    append_record(*last_action_, parameters);
+    text_ += ")),";
+  }
+
+  // The numbers of a record as value strings have them.
+  void append_record(const bindings::Record &record, const uint8_t *bytes) {
+    for (const bindings::Member &member : record.member_list()) {
+      text_ += "0x";
+      const uint8_t *at = bytes + member.offset;
+      if (member.storage == 16) {
+        for (size_t i = 0; i < 16; ++i) append_hexadecimal(at[i], 2, "0123456789ABCDEF");
+      } else {
+        uint32_t value = 0;
+        memcpy(&value, at, member.storage);
+        append_hexadecimal(value, (member.width + 3) / 4, "0123456789abcdef");
+      }
+      text_ += ',';
+    }
+  }
+  void append_hexadecimal(uint32_t value, unsigned digits, const char *names) {
+    while (digits < 8 && value >> (4 * digits) != 0) ++digits;
+    for (unsigned i = digits; i-- > 0;) text_ += names[value >> (4 * i) & 0xf];
   }
 
   void save_ageing(const TableInfo &table) {
@@ -254,6 +293,9 @@ class ImageSaver {
       p4_pd_bytes_meter_spec_t spec = {};
       Call call = device_.prepare("meter_read", meter.name);
       check(call.set("index", uint64_t{cell}).set("meter_spec", &spec).run(), {});
+      const bool is_zero = (spec.committed_rate | spec.committed_burst | spec.peak_rate |
+                            spec.peak_burst) == 0;
+      if (is_zero) return;  // as one that was never set
       open("meter", meter.name);
       line("cell {} meter={},{},{},{} type={}", cell, spec.committed_rate, spec.committed_burst,
            spec.peak_rate, spec.peak_burst, spec.meter_type);
@@ -322,6 +364,7 @@ class ImageSaver {
   const TextSink *sink_;
   std::string text_;
   uint64_t lines_ = 0;
+  const bindings::Record *last_action_ = nullptr;
   std::string_view opened_kind_;
   std::string_view opened_;
   std::unordered_map<uint32_t, Numbers> numbers_;  // by action-data table
@@ -329,6 +372,19 @@ class ImageSaver {
 
 }  // namespace
 
-void save_image(const Device &device, const TextSink &sink) { ImageSaver(device, sink).save(); }
+void save_image(const Device &device, const TextSink &sink, ImagePart part) {
+  ImageSaver(device, sink).save(part);
+}
+
+uint64_t save_image_file(const Device &device, const std::string &path) {
+  FileWriter file(path);
+  uint64_t bytes = 0;
+  save_image(device, [&](std::string_view text) {
+    file.write(text);
+    bytes += text.size();
+  });
+  file.commit();
+  return bytes;
+}
 
 }  // namespace tesselctl

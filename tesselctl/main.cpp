@@ -7,6 +7,7 @@
 
 #include "tesselctl/command_help.hpp"
 #include "tesselctl/files.hpp"
+#include "tesselctl/image.hpp"
 #include "tesselctl/library.hpp"
 #include "tesselctl/script.hpp"
 #include "tesselctl/version.hpp"
@@ -17,6 +18,7 @@ namespace {
 
 constexpr int kDone = 0;
 constexpr int kFault = 1;
+constexpr int kDiffers = 2;
 
 struct Options {
   bool no_colour = false;
@@ -24,6 +26,7 @@ struct Options {
   Settings settings;
   ScriptOptions script;
   std::string script_file;
+  std::string image;
 };
 
 bool wants_colour(const Options &options, int fd) {
@@ -46,19 +49,37 @@ struct Streams {
   Output errors;
 };
 
+// The device of this process, with the image that it comes from and goes to.
+class ImageDevice {
+ public:
+  explicit ImageDevice(const Options &options) : device_(options.device), path_(options.image) {
+    if (!path_.empty() && access(path_.c_str(), F_OK) == 0) load_image_file(device_, path_);
+  }
+  Device &device() { return device_; }
+  void save_if(bool changed) const {
+    if (!path_.empty() && changed) save_image_file(device_, path_);
+  }
+
+ private:
+  Device device_;
+  std::string path_;
+};
+
 int run_file(const Options &options) {
   Streams streams(options);
   const std::string text = read_input(options.script_file);
   const std::string name = options.script_file == "-" ? "standard input" : options.script_file;
-  Device device(options.device);
-  LocalRunner runner(device, streams.out, streams.errors, options.settings);
+  ImageDevice device(options);
+  LocalRunner runner(device.device(), streams.out, streams.errors, options.settings);
   const ScriptResult result = run_script(runner, name, text, options.script);
+  device.save_if(runner.has_changed());
   if (!options.settings.json) {
     streams.out.line("{}: {} command{}, {} fault{}", name, result.commands,
                      result.commands == 1 ? "" : "s", result.faults, result.faults == 1 ? "" : "s");
   }
   streams.out.flush();
-  return result.faults == 0 ? kDone : kFault;
+  if (result.faults != 0) return kFault;
+  return result.differs ? kDiffers : kDone;
 }
 
 // The words of the shell that called, as one line of ours.
@@ -77,12 +98,14 @@ std::string line_of(const std::vector<std::string> &words) {
 
 int run_one(const Options &options, const std::vector<std::string> &words) {
   Streams streams(options);
-  Device device(options.device);
-  LocalRunner runner(device, streams.out, streams.errors, options.settings);
+  ImageDevice device(options);
+  LocalRunner runner(device.device(), streams.out, streams.errors, options.settings);
   const std::string line = line_of(words);
   const LineOutcome outcome = runner.run({{}, 0, line});
+  device.save_if(runner.has_changed());
   streams.out.flush();
-  return outcome == LineOutcome::fault ? kFault : kDone;
+  if (outcome == LineOutcome::fault) return kFault;
+  return outcome == LineOutcome::differs ? kDiffers : kDone;
 }
 
 void add_subcommands(CLI::App &app, Options &options) {
@@ -99,6 +122,8 @@ void add_options(CLI::App &app, Options &options) {
   app.add_option("--pipes", options.device.pipes, "pipes of the device")
       ->check(CLI::Range(1, 8))
       ->capture_default_str();
+  app.add_option("--image", options.image,
+                 "file that the device comes from, if there is one, and goes to when it changed");
   app.add_flag("--json", options.settings.json, "answer in JSON, a line for every command");
   app.add_flag("--terse", options.settings.terse, "answer with one row a line, without columns");
   app.add_flag("-v,--verbose", options.settings.verbose, "tell what each command changed");

@@ -12,23 +12,6 @@ namespace {
 
 using ActionSpecs = p4_pd_tessel_switch_action_specs_t;
 
-// Which member or group an entry of a table that is bound to a profile names.
-struct Target {
-  bool has_member = false;
-  bool has_group = false;
-  p4_pd_group_handle_t group = 0;
-  p4_pd_member_handle_t member = 0;
-
-  void bind(Call &call) {
-    call.set("has_member", &has_member).set("has_group", &has_group);
-    call.set("group", &group).set("member", &member);
-  }
-  void add_to(Row &row) const {
-    if (has_group) row.number("group", group);
-    if (!has_group && has_member) row.number("member", member);
-  }
-};
-
 // The meter that every entry of the table has.
 void add_meter(Row &row, const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry) {
   for (const soft_meter_t &meter : program_rows<soft_meter_t>()) {
@@ -48,11 +31,35 @@ void add_ttl(Row &row, const Device &device, const TableInfo &table, p4_pd_entry
   if (call.run() == BF_SUCCESS) row.number("ttl", ttl);
 }
 
-void add_specs(Row &row, const ActionSpecs &specs) {
-  add_outcome(row, specs.action, reinterpret_cast<const uint8_t *>(&specs.spec));
+void add_target(Row &row, const EntryReader &reader) {
+  if (reader.has_group) row.number("group", reader.group);
+  if (!reader.has_group && reader.has_member) row.number("member", reader.member);
 }
 
 }  // namespace
+
+EntryReader::EntryReader(const Device &device, const TableInfo &table)
+    : key(table.record->size),
+      keyed_(table.keyed()),
+      call_(device.prepare(table.indirect() ? "get_indirect_entry" : "get_entry", table.name())) {
+  static_assert(sizeof parameters_ >= sizeof(ActionSpecs));
+  call_.set("read_from_hardware", uint64_t{0});
+  call_.set_if_taken("match_spec", static_cast<const void *>(key.data()));
+  call_.set_if_taken("priority", static_cast<const void *>(&priority));
+  call_.set_if_taken("no_key", static_cast<const void *>(&no_key));
+  if (table.indirect()) {
+    call_.set("has_member", &has_member).set("has_group", &has_group);
+    call_.set("group", &group).set("member", &member);
+  } else {
+    call_.set("action_name", static_cast<const void *>(nullptr)).set("action", &action);
+    call_.set("action_spec", parameters_);
+  }
+}
+
+uint64_t EntryReader::read(p4_pd_entry_handle_t entry) {
+  has_member = has_group = false;
+  return call_.set("entry", uint64_t{entry}).run();
+}
 
 void add_outcome(Row &row, uint32_t action, const uint8_t *record) {
   for (const bindings::Record &known : actions()) {
@@ -65,31 +72,14 @@ void add_outcome(Row &row, uint32_t action, const uint8_t *record) {
 
 void add_entry(Row &row, const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry,
                Word word) {
-  std::vector<uint8_t> key(table.record->size);
-  alignas(16) uint8_t parameters[sizeof(ActionSpecs)] = {};
-  uint32_t priority = 0;
-  uint32_t action = 0;
-  bool no_key = false;
-  Target target;
-  Call call = device.prepare(table.indirect() ? "get_indirect_entry" : "get_entry", table.name());
-  call.set("entry", uint64_t{entry}).set("read_from_hardware", uint64_t{0});
-  call.set_if_taken("match_spec", static_cast<const void *>(key.data()));
-  call.set_if_taken("priority", static_cast<const void *>(&priority));
-  call.set_if_taken("no_key", static_cast<const void *>(&no_key));
-  if (table.indirect()) {
-    target.bind(call);
-  } else {
-    call.set("action_name", static_cast<const void *>(nullptr)).set("action", &action);
-    call.set("action_spec", parameters);
-  }
-  check(call.run(), word);
-  const bool has_key = !no_key && table.keyed();
-  if (has_key) add_record(row, Row::kKey, table.shape(), key.data());
-  if (has_key && table.has_priority()) row.number("priority", priority);
-  if (has_key) add_ttl(row, device, table, entry);
+  EntryReader reader(device, table);
+  check(reader.read(entry), word);
+  if (reader.has_key()) add_record(row, Row::kKey, table.shape(), reader.key.data());
+  if (reader.has_key() && table.has_priority()) row.number("priority", reader.priority);
+  if (reader.has_key()) add_ttl(row, device, table, entry);
   add_meter(row, device, table, entry);
-  if (table.indirect()) return target.add_to(row);
-  add_outcome(row, action, parameters);
+  if (table.indirect()) return add_target(row, reader);
+  add_outcome(row, reader.action, reader.action_record());
 }
 
 Row entry_row(const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry, Word word) {
@@ -100,17 +90,13 @@ Row entry_row(const Device &device, const TableInfo &table, p4_pd_entry_handle_t
 }
 
 void add_default_entry(Row &row, const Device &device, const TableInfo &table, Word word) {
-  Call call = device.prepare("table_get_default_entry", table.name());
-  call.set("read_from_hardware", uint64_t{0});
-  if (table.indirect()) {
-    Target target;
-    target.bind(call);
-    check(call.run(), word);
-    return target.add_to(row);
-  }
-  ActionSpecs specs = {};
-  check(call.set("action_specs", &specs).run(), word);
-  add_specs(row, specs);
+  p4_pd_entry_handle_t entry = 0;
+  Call call = device.prepare("table_get_default_entry_handle", table.name());
+  check(call.set("entry", &entry).run(), word);
+  EntryReader reader(device, table);
+  check(reader.read(entry), word);
+  if (table.indirect()) return add_target(row, reader);
+  add_outcome(row, reader.action, reader.action_record());
 }
 
 void add_member(Row &row, const Device &device, const char *profile, p4_pd_member_handle_t member,
@@ -119,7 +105,7 @@ void add_member(Row &row, const Device &device, const char *profile, p4_pd_membe
   Call call = device.prepare("get_member", profile);
   call.set("member", uint64_t{member}).set("read_from_hardware", uint64_t{0});
   check(call.set("action_specs", &specs).run(), word);
-  add_specs(row, specs);
+  add_outcome(row, specs.action, reinterpret_cast<const uint8_t *>(&specs.spec));
 }
 
 void for_each_handle(Enumeration enumeration, Word word,

@@ -9,6 +9,35 @@
 
 namespace tesselctl {
 
+// Reads the entries of one table, and its default entries by their handles; what it read last lies
+// in its members.
+class EntryReader {
+ public:
+  EntryReader(const Device &device, const TableInfo &table);
+  EntryReader(const EntryReader &) = delete;
+  EntryReader &operator=(const EntryReader &) = delete;
+
+  // A status.
+  uint64_t read(p4_pd_entry_handle_t entry);
+
+  bool has_key() const { return !no_key && keyed_; }
+  const uint8_t *action_record() const { return reinterpret_cast<const uint8_t *>(parameters_); }
+
+  std::vector<uint8_t> key;
+  uint32_t priority = 0;
+  bool no_key = false;
+  uint32_t action = 0;  // enumeration value; of a table that is bound to no profile
+  bool has_member = false;
+  bool has_group = false;
+  p4_pd_member_handle_t member = 0;
+  p4_pd_group_handle_t group = 0;
+
+ private:
+  bool keyed_;
+  alignas(16) uint32_t parameters_[64] = {};
+  Call call_;
+};
+
 // Adds what would add the entry again: its key, priority, ttl, meter and outcome. Throws Fault at
 // the word when it cannot be read.
 void add_entry(Row &row, const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry,

@@ -32,7 +32,8 @@ LineOutcome LocalRunner::run(const SourceLine &source) {
   try {
     const Ran ran = run_line(context_, source.text);
     changed_ = changed_ || ran == Ran::changed;
-    return ran == Ran::nothing ? LineOutcome::blank : LineOutcome::done;
+    if (ran == Ran::nothing) return LineOutcome::blank;
+    return ran == Ran::differs ? LineOutcome::differs : LineOutcome::done;
   } catch (const Fault &fault) {
     // The command may have changed something before it failed.
     changed_ = true;

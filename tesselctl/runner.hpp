@@ -15,7 +15,8 @@ struct SourceLine {
   std::string_view text;
 };
 
-enum class LineOutcome { blank, done, fault };
+// differs: done, and what was compared is not equal.
+enum class LineOutcome { blank, done, differs, fault };
 
 class Runner {
  public:

@@ -48,7 +48,8 @@ ScriptResult run_script(Runner &runner, std::string_view file, std::string_view 
     const LineOutcome outcome = runner.run({file, result.lines, line});
     if (outcome == LineOutcome::blank) continue;
     ++result.commands;
-    if (outcome == LineOutcome::done) continue;
+    if (outcome == LineOutcome::differs) result.differs = true;
+    if (outcome != LineOutcome::fault) continue;
     ++result.faults;
     if (!options.keep_going) break;
   }

@@ -16,6 +16,7 @@ struct ScriptResult {
   uint64_t lines = 0;
   uint64_t commands = 0;
   uint64_t faults = 0;
+  bool differs = false;  // a command found a difference
 };
 
 // Runs the lines of text, which came from a file of that name.
