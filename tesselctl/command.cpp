@@ -13,10 +13,22 @@ namespace tesselctl {
 
 std::span<const std::span<const Command>> command_topics() {
   static const std::span<const Command> topics[] = {
-      entry_commands(),    show_commands(),         profile_commands(),   meter_commands(),
-      stateful_commands(), hash_commands(),         value_set_commands(), digest_commands(),
-      snapshot_commands(), traffic_commands(),      state_commands(),     image_commands(),
-      routes_commands(),   introspection_commands()};
+      // One a line, so that topics are added without moving others.
+      entry_commands(),          //
+      show_commands(),           //
+      profile_commands(),        //
+      meter_commands(),          //
+      stateful_commands(),       //
+      hash_commands(),           //
+      value_set_commands(),      //
+      digest_commands(),         //
+      snapshot_commands(),       //
+      traffic_commands(),        //
+      state_commands(),          //
+      image_commands(),          //
+      routes_commands(),         //
+      introspection_commands(),  //
+  };
   return topics;
 }
 
