@@ -26,6 +26,28 @@ std::string action_row(const Action &action, std::uint32_t handle, bool may_be_d
                      action.data_bits, action.data_bytes, may_be_default);
 }
 
+// The bits of the key that packets are compared in; nothing when they are all of them.
+std::string compared_bytes(const Table &table) {
+  std::vector<unsigned> bytes(table.key_bytes, 0);
+  bool partial = false;
+  for (const KeyField &field : table.key) {
+    partial |= field.partial;
+    for (unsigned i = 0; i < field.bytes; ++i) {
+      const unsigned below = 8 * (field.bytes - 1 - i);
+      bytes[field.offset + i] =
+          field.wide() ? field.wide_key_bits[i] : (field.key_bits >> below & 0xff);
+    }
+  }
+  if (!partial) return "";
+  constexpr std::size_t kLine = 16;
+  std::string rows;
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    const bool last = i % kLine == kLine - 1 || i + 1 == bytes.size();
+    rows += fmt::format("{}{:#04x},{}", i % kLine == 0 ? "    " : " ", bytes[i], last ? "\n" : "");
+  }
+  return rows;
+}
+
 std::string table_rows(const Program &program, Arrays &arrays) {
   std::string rows;
   for (const Table &table : program.tables) {
@@ -40,11 +62,12 @@ std::string table_rows(const Program &program, Arrays &arrays) {
     }
     const int kinds[] = {0, 0, 1, 2};  // keyless tables count as exact
     rows += fmt::format(
-        "    {{\"{}\", {}, {}, {}, {}, {}, {}, {}, {}, {}, {}}},\n", table.name,
+        "    {{\"{}\", {}, {}, {}, {}, {}, {},\n     {}, {}, {}, {}, {}}},\n", table.name,
         hex32(table.handle), kinds[static_cast<int>(table.kind)], table.key_bits, table.key_bytes,
         arrays.add("soft_key_field_t", "key_" + table.name, fields), table.key.size(),
         arrays.add("soft_action_t", "actions_" + table.name, actions), table.pairs.size(),
-        table.profile ? hex32(table.profile->action_data_handle) : "0", table.idle_time);
+        table.profile ? hex32(table.profile->action_data_handle) : "0", table.idle_time,
+        arrays.add("uint8_t", "compared_" + table.name, compared_bytes(table)));
   }
   return rows;
 }
@@ -114,24 +137,45 @@ std::string value_set_rows(const Program &program) {
   return rows;
 }
 
+// Where a field of a packet lies in a capture: under its own name, or, a part of a longer field,
+// among the bytes of that one.
+std::string captured_at(const Snapshots &snapshots, const SnapshotField &field) {
+  for (const SnapshotField &captured : snapshots.capture) {
+    if (captured.name == field.name && captured.bytes == field.bytes) {
+      return fmt::format("{}", captured.offset);
+    }
+    if (!field.name.starts_with(captured.name + "_")) continue;
+    const std::string part = field.name.substr(captured.name.size() + 1);
+    if (part.size() != 1 || part[0] < '0' || part[0] > '9') continue;
+    const unsigned at = static_cast<unsigned>(part[0] - '0') * field.bytes;
+    if (at + field.bytes <= captured.bytes) return fmt::format("{}", captured.offset + at);
+  }
+  return "SOFT_NOT_CAPTURED";
+}
+
+std::string snapshot_layout(const Snapshots &snapshots, const std::string &name,
+                            const std::vector<SnapshotField> &fields, Arrays &arrays) {
+  std::string rows;
+  for (const SnapshotField &field : fields) {
+    rows += fmt::format("    {{\"{}\", {}, {}, {}}},\n", field.name, field.offset, field.bytes,
+                        captured_at(snapshots, field));
+  }
+  return fmt::format("{{{}, {}}}", arrays.add("soft_snapshot_field_t", "snapshot_" + name, rows),
+                     fields.size());
+}
+
 std::string snapshot_members(const Program &program, Arrays &arrays) {
-  if (!program.snapshots) return "0, {{nullptr, 0}, {nullptr, 0}}";
+  if (!program.snapshots) return "0, {{nullptr, 0}, {nullptr, 0}}, {nullptr, 0}";
+  const Snapshots &snapshots = *program.snapshots;
   std::vector<std::string> layouts;
   for (const char *direction : {"ingress", "egress"}) {
-    std::string rows;
-    std::size_t count = 0;
-    for (const SnapshotLayout &layout : program.snapshots->layouts) {
-      if (layout.name != direction) continue;
-      for (const SnapshotField &field : layout.fields) {
-        rows += fmt::format("    {{\"{}\", {}, {}}},\n", field.name, field.offset, field.bytes);
-      }
-      count = layout.fields.size();
-    }
-    layouts.push_back(fmt::format(
-        "{{{}, {}}}",
-        arrays.add("soft_snapshot_field_t", std::string("snapshot_") + direction, rows), count));
+    const SnapshotLayout *layout = find_row(snapshots.layouts, direction);
+    layouts.push_back(
+        snapshot_layout(snapshots, direction,
+                        layout == nullptr ? std::vector<SnapshotField>() : layout->fields, arrays));
   }
-  return fmt::format("{}, {{{}}}", program.snapshots->record_bytes, join(layouts, ", "));
+  return fmt::format("{}, {{{}}}, {}", snapshots.record_bytes, join(layouts, ", "),
+                     snapshot_layout(snapshots, "capture", snapshots.capture, arrays));
 }
 
 }  // namespace

@@ -21,6 +21,8 @@ std::span<const std::span<const Command>> command_topics() {
       stateful_commands(),       //
       hash_commands(),           //
       value_set_commands(),      //
+      digest_commands(),         //
+      snapshot_commands(),       //
       traffic_commands(),        //
       state_commands(),          //
       image_commands(),          //

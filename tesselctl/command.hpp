@@ -14,11 +14,20 @@
 #include "tesselctl/results.hpp"
 #include "tesselctl/words.hpp"
 
+struct pipe_mgr_digest_message;
+
 namespace tesselctl {
 
 struct ExpiredEntry {
   uint32_t table;
   uint32_t entry;
+};
+
+// Digest messages, by the numbers that the tool gives them.
+struct Messages {
+  std::map<uint32_t, pipe_mgr_digest_message *> held;  // not acknowledged; the device's
+  uint32_t delivered = 0;                              // greatest number
+  uint32_t told = 0;                                   // greatest number that was printed
 };
 
 // What commands share while a script or shell runs.
@@ -36,6 +45,7 @@ struct Context {
   std::vector<ExpiredEntry> expired = {};
   // Set by commands that compare when they found a difference.
   bool differs = false;
+  Messages messages = {};
 
   bool verbose() const { return settings.verbose; }
 };
@@ -102,6 +112,8 @@ std::span<const Command> meter_commands();
 std::span<const Command> stateful_commands();
 std::span<const Command> hash_commands();
 std::span<const Command> value_set_commands();
+std::span<const Command> digest_commands();
+std::span<const Command> snapshot_commands();
 std::span<const Command> traffic_commands();
 std::span<const Command> state_commands();
 std::span<const Command> image_commands();

@@ -1,12 +1,11 @@
 // Time and state: ageing on the virtual clock, and the state that the library keeps of a device.
 #include <cjson/cJSON.h>
 
-#include <cerrno>
-#include <cstdlib>
-#include <cstring>
+#include <algorithm>
 #include <memory>
 
 #include "soft_sdk.h"
+#include "tesselctl/digest_commands.hpp"
 #include "tesselctl/entry_line.hpp"
 #include "tesselctl/files.hpp"
 #include "tesselctl/options.hpp"
@@ -77,6 +76,7 @@ void age_advance(Context &context, const Invocation &invocation) {
       context.results.row(row);
     }
   }
+  tell_messages(context);
 }
 
 // ---- State ----
@@ -98,13 +98,24 @@ void state_log(Context &context, const Invocation &invocation) {
   context.results.done(row.text("file", word.text), "written");
 }
 
+// The document of a file. A fault names the place in the file where it ends to be JSON.
+std::unique_ptr<cJSON, DeleteJson> parse_document(Word file, const std::string &text) {
+  const char *end = text.c_str();
+  std::unique_ptr<cJSON, DeleteJson> document(
+      cJSON_ParseWithLengthOpts(text.c_str(), text.size() + 1, &end, 1));
+  if (document) return document;
+  const std::string_view before(text.data(), static_cast<size_t>(end - text.c_str()));
+  const auto line = 1 + std::count(before.begin(), before.end(), '\n');
+  const size_t start = before.rfind('\n') + 1;  // 0 in the first line
+  throw Fault(
+      file, fmt::format("{}:{}:{}: this is not JSON", file.text, line, before.size() - start + 1));
+}
+
 void state_restore(Context &context, const Invocation &invocation) {
   const Word word = need_argument(invocation, 0, "the name of a file");
   refuse_arguments_from(invocation, 1);
   const std::string text = read_input(std::string(word.text));
-  const std::unique_ptr<cJSON, DeleteJson> document(
-      cJSON_ParseWithLength(text.data(), text.size()));
-  if (!document) throw Fault(word, "the file holds no JSON document");
+  const auto document = parse_document(word, text);
   check(soft_device_restore(context.device.id(), document.get()), word);
   Row row;
   context.results.done(row.text("file", word.text), "read");
@@ -114,7 +125,8 @@ constexpr Command kCommands[] = {
     {"age enable", "TABLE [sweep=MS] [ttl=MS] [min=MS] [max=MS]",
      "starts ageing; ttl is that of entries added without one", age_enable, Kind::changes},
     {"age disable", "TABLE", "ends ageing", age_disable, Kind::changes},
-    {"age advance", "MS", "lets time pass and lists the entries that expire", age_advance,
+    {"age advance", "MS",
+     "lets time pass and lists the entries that expire and the messages that arrive", age_advance,
      Kind::changes},
     {"state log", "FILE", "writes the member and group state of the library", state_log},
     {"state restore", "FILE", "reads it back", state_restore, Kind::changes},

@@ -1,7 +1,10 @@
 // Every export on its bad days. Each SDK call and each allocation that a successful run makes fails
 // in turn; each pointer argument is null in turn. Families that are new are swept like all others,
 // once a scene can make them succeed.
+#include <cjson/cJSON.h>
+
 #include <algorithm>
+#include <memory>
 #include <set>
 
 #include "expected_calls.hpp"
@@ -58,6 +61,16 @@ std::string writes_on_failure(std::string_view family) {
   return "";
 }
 
+// What the library keeps of the members and groups of the device.
+std::string profile_state() {
+  const std::unique_ptr<cJSON, decltype(&cJSON_Delete)> document(cJSON_CreateObject(),
+                                                                 cJSON_Delete);
+  EXPECT_EQ(soft_device_log(kDevice, document.get()), BF_SUCCESS);
+  const std::unique_ptr<char, decltype(&cJSON_free)> text(cJSON_PrintUnformatted(document.get()),
+                                                          cJSON_free);
+  return text == nullptr ? "" : text.get();
+}
+
 class FaultSweep : public testing::Test {
  protected:
   // Plays all scenes of one export. Returns how many faults were played.
@@ -80,10 +93,17 @@ class FaultSweep : public testing::Test {
     SCOPED_TRACE(std::string(exported.name) + ", call " + std::to_string(n));
     Scene scene(exported);
     const bf_status_t status = kStruck + static_cast<bf_status_t>(n);
+    const bool of_profile = scene.profile() != nullptr;
+    const std::string before = of_profile ? profile_state() : "";
     soft::faults::fail_any_call(n, status);
     const uint64_t result = scene.play();
     ASSERT_EQ(soft::faults::pending(), 0u);
     const std::string &struck = scene.calls().at(n - 1).function;
+    // What the device refused, the library has not recorded.
+    if (of_profile && struck.starts_with("pipe_mgr_")) {
+      EXPECT_EQ(profile_state(), before) << struck;
+      ++compared_states_;
+    }
     if (is_ignored(struck)) {
       EXPECT_TRUE(result == expected_status(exported) || result == scene.calls().back().status)
           << struck;
@@ -103,6 +123,8 @@ class FaultSweep : public testing::Test {
     EXPECT_TRUE(written.empty() || written == writes_on_failure(exported.family))
         << written << "written after " << struck;
   }
+
+  size_t compared_states_ = 0;
 
   size_t fail_each_allocation(const Export &exported) {
     uint64_t allocations = 0;
@@ -134,6 +156,7 @@ TEST_F(FaultSweep, AFailedCallIsTheLastAndGivesTheStatus) {
   }
   // Every table's and profile's functions, each with one call or more.
   EXPECT_GE(played, 2700u);
+  EXPECT_GE(compared_states_, 100u);
 }
 
 TEST_F(FaultSweep, AFailedAllocationLeavesNothing) {

@@ -112,7 +112,7 @@ TEST(Print, EveryMatchSpecAndAction) {
       }
       for (size_t i = 0; i < record.member_count; ++i) {
         const Member &member = record.members[i];
-        const uint32_t full = static_cast<uint32_t>((uint64_t{1} << member.width) - 1);
+        const uint32_t full = member.width >= 32 ? 0xffffffff : (1u << member.width) - 1;
         const uint32_t mask =
             is_table && member.storage != 16 ? static_cast<uint32_t>(schema[i][3].number()) : full;
         std::string line = std::string(8, ' ') + (is_table ? "" : "action_") + member.name;

@@ -1,5 +1,24 @@
 // Members, groups and the tables that point at them, step by step.
+#include <dlfcn.h>
+
 #include "typed.hpp"
+
+namespace {
+
+// While it is not 0, the device answers every question for a member's state with this one.
+uint32_t odd_member_state = 0;
+
+}  // namespace
+
+extern "C" bf_status_t pipe_mgr_sel_grp_mbr_state_get(
+    pipe_session_handle_t session, bf_device_id_t device, pipe_object_handle_t selector,
+    pipe_group_handle_t group, pipe_member_handle_t member, uint32_t *state) {
+  static const auto soft_function = reinterpret_cast<decltype(&pipe_mgr_sel_grp_mbr_state_get)>(
+      dlsym(RTLD_NEXT, "pipe_mgr_sel_grp_mbr_state_get"));
+  const bf_status_t status = soft_function(session, device, selector, group, member, state);
+  if (odd_member_state != 0) *state = odd_member_state;
+  return status;
+}
 
 namespace pd_test {
 namespace {
@@ -169,6 +188,13 @@ TEST_F(LagProfile, MemberStates) {
         BF_SUCCESS);
     EXPECT_EQ(state, wanted);
   }
+  state = kUnwritten;
+  odd_member_state = 2;
+  EXPECT_EQ(
+      PD(lagPortActionProfile_group_member_state_get)(session(), kDevice, group, member, &state),
+      BF_SUCCESS);
+  odd_member_state = 0;
+  EXPECT_EQ(state, kUnwritten) << "neither of the two states";
   const auto refused = recorded([&] {
     EXPECT_EQ(set(2), P4_PD_MEMBER_STATE_REFUSED);
     EXPECT_EQ(set(0xffffffff), P4_PD_MEMBER_STATE_REFUSED);

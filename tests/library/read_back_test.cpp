@@ -4,6 +4,7 @@
 #include <cstring>
 #include <vector>
 
+#include "soft_placement.h"
 #include "typed.hpp"
 
 namespace pd_test {
@@ -270,6 +271,22 @@ class Altered {
 constexpr bf_device_id_t kOther = 12;
 constexpr p4_pd_device_target_t kOtherTarget = {kOther, 0};
 
+// Where the other device has an entry or a member.
+class Placed {
+ public:
+  template <class Place>
+  Placed(Place place, uint32_t table, uint32_t handle) {
+    EXPECT_EQ(place(kOther, table, handle, &data_), BF_SUCCESS);
+  }
+  Placed(const Placed &) = delete;
+  Placed &operator=(const Placed &) = delete;
+  ~Placed() { soft_placement_free(data_); }
+  const pipe_mgr_placement_t *data() const { return data_; }
+
+ private:
+  pipe_mgr_placement_t *data_ = nullptr;
+};
+
 void expect_nothing_read(uint32_t entry, p4_pd_status_t entry_status) {
   PD(pdpPolicy_match_spec_t) key = {1, 2};
   uint64_t spec = 3;
@@ -343,6 +360,45 @@ TEST_F(ReadBack, AForeignActionIsTheSameStatusEverywhere) {
             BF_SUCCESS);
   expect_nothing_read(entry, 15);
   expect_nothing_read(by_default, 15);
+  const Placed placed(soft_placement_of_entry, altered.table().handle, entry);
+  PD(pdpPolicy_match_spec_t) read_key = {1, 2};
+  PD(action_specs_t) specs = {};
+  specs.action = kUnwritten;
+  bool no_key = true;
+  EXPECT_EQ(PD(pdpPolicy_get_entry_from_plcmt_data)(placed.data(), &read_key, &specs, &no_key),
+            15u);
+  EXPECT_EQ(read_key.ig_intr_md_ingress_port, 1);
+  EXPECT_EQ(specs.action, kUnwritten);
+  EXPECT_TRUE(no_key);
+}
+
+TEST_F(ReadBack, AForeignActionOfAMemberIsThatStatusToo) {
+  std::vector<soft_profile_t> profiles(
+      soft_program_tessel_switch.profiles,
+      soft_program_tessel_switch.profiles + soft_program_tessel_switch.profile_count);
+  const auto ecmp = std::ranges::find(profiles, 0x0200002fu, &soft_profile_t::action_data_table);
+  soft_action_t foreign = ecmp->actions[0];
+  foreign.handle = 0x2001015a;
+  ecmp->actions = &foreign;
+  soft_program_t other = soft_program_tessel_switch;
+  other.profiles = profiles.data();
+  const Device device(kOther, false, other);
+  uint8_t data[2] = {};
+  pipe_mgr_action_spec_t spec = {};
+  spec.data = {foreign.data_bits, foreign.data_bytes, data};
+  uint32_t member = 0;
+  ASSERT_EQ(pipe_mgr_adt_ent_add(session(), kOther, BF_ALL_PIPES, 0x0200002f, 0x2001015a, &spec,
+                                 &member, 0),
+            BF_SUCCESS);
+  PD(action_specs_t) specs = {};
+  specs.action = kUnwritten;
+  EXPECT_EQ(PD(ecmpMemberActionProfile_get_member)(session(), kOther, member, false, &specs), 15u);
+  const Placed placed(soft_placement_of_member, 0x0200002f, member);
+  EXPECT_EQ(PD(ecmpMemberActionProfile_get_member_from_plcmt_data)(placed.data(), &specs), 15u);
+  EXPECT_EQ(PD(ecmpMemberActionProfile_get_full_member_info_from_plcmt_data)(kOther, member,
+                                                                             placed.data(), &specs),
+            15u);
+  EXPECT_EQ(specs.action, kUnwritten);
 }
 
 TEST_F(ReadBack, AnIndirectDefaultEntryPointsSomewhere) {

@@ -78,7 +78,6 @@ size_t output_size(const bindings::Parameter &parameter, const pdgen::Table *tab
   if (type.ends_with("_action_specs_t *")) return sizeof(p4_pd_tessel_switch_action_specs_t);
   if (type.ends_with("_meter_spec_t *")) return sizeof(p4_pd_bytes_meter_spec_t);
   if (type == "p4_pd_idle_time_params_t *") return sizeof(p4_pd_idle_time_params_t);
-  if (type == "bool *" || type == "uint8_t *") return 1;
   if (type == "char *" && name == "action_name") return 61;
   if (type == "void *" && name == "action_spec") {
     return sizeof(p4_pd_tessel_switch_action_specs_t) - sizeof(uint32_t);
@@ -86,6 +85,7 @@ size_t output_size(const bindings::Parameter &parameter, const pdgen::Table *tab
   if (std::ranges::find(kLists, name) != std::end(kLists)) return 2 * sizeof(uint32_t);
   if (name == "values" && type.starts_with("uint")) return 2 * kPipes * sizeof(uint32_t);
   if (name == "hash") return 4;
+  if (type == "bool *" || type == "uint8_t *") return 1;
   if (type == "uint64_t *") return sizeof(uint64_t);
   if (type == "uint32_t *" || type.ends_with("_handle_t *")) return sizeof(uint32_t);
   return 1 << 16;

@@ -72,7 +72,8 @@ class Snapshots : public StatefulTest {
   }
 
   // Triggers on any packet and sends one through the stages from 0 on; byte i of the record of
-  // stage s is s + i.
+  // stage s is s + i. The fields of ingress packets are the first 404 bytes of a record and of a
+  // capture.
   static void capture_all(uint32_t snapshot, uint32_t stages) {
     const Ingress anything = {};
     ASSERT_EQ(p4_pd_tessel_switch_snapshot_capture_trigger_set(snapshot, &anything, &anything),
@@ -203,10 +204,43 @@ TEST_F(Snapshots, YieldOneRecordAStage) {
   EXPECT_EQ(read.captures, 3u);
   for (size_t stage = 1; stage <= 3; ++stage) {
     Bytes expected(kRecord);
-    for (size_t i = 0; i < kRecord; ++i) expected[i] = static_cast<uint8_t>(stage + i);
+    for (size_t i = 0; i < 404; ++i) expected[i] = static_cast<uint8_t>(stage + i);
     EXPECT_EQ(read.records[stage - 1], expected) << stage;
   }
   EXPECT_EQ(read.records[3], untouched());
+}
+
+// Egress packets have their fields in another order than captures.
+TEST_F(Snapshots, YieldTheFieldsOfEgressPacketsUnderTheirNames) {
+  const uint32_t snapshot = create(1, 5, 5);
+  Egress port = {};
+  Egress port_mask = {};
+  port.eg_intr_md_egress_port = 0x0123;
+  port_mask.eg_intr_md_egress_port = 0xffff;
+  ASSERT_EQ(p4_pd_tessel_switch_snapshot_capture_trigger_set(snapshot, &port, &port_mask),
+            BF_SUCCESS);
+  Bytes packet(kRecord);
+  packet[0] = 0x01;  // egress port
+  packet[1] = 0x23;
+  packet[5] = 0xab;   // 4 to 7, the OUI of the destination
+  packet[48] = 0x51;  // 44 to 49, three parts of the hardware address of the ARP sender
+  packet[49] = 0x52;
+  packet[257] = 0x01;  // the last field: sender dropped by the firewall
+  ASSERT_EQ(soft_snapshot_inject(kDevice, 1, 1, 5, packet.data(), 1, kRecord, nullptr), BF_SUCCESS);
+  Capture capture = {};
+  uint32_t captures = 0;
+  ASSERT_EQ(
+      p4_pd_tessel_switch_snapshot_capture_data_get(snapshot, 1, &capture, nullptr, &captures),
+      BF_SUCCESS);
+  EXPECT_EQ(captures, 1u);
+  EXPECT_EQ(capture.eg_intr_md_egress_port[0], 0x01);
+  EXPECT_EQ(capture.eg_intr_md_egress_port[1], 0x23);
+  EXPECT_EQ(capture.outerEthHdr_dmacOui[1], 0xab);
+  EXPECT_EQ(capture.arpHdr_smac[4], 0x51);
+  EXPECT_EQ(capture.arpHdr_smac[5], 0x52);
+  EXPECT_EQ(capture.fwMd_sipDrop, 0x01);
+  const auto *bytes = reinterpret_cast<const uint8_t *>(&capture);
+  EXPECT_EQ(std::count_if(bytes, bytes + kRecord, [](uint8_t byte) { return byte != 0; }), 6);
 }
 
 TEST_F(Snapshots, YieldTwentyRecordsAtMost) {

@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "pdgen/load.hpp"
+#include "soft_traffic.h"
 
 namespace pd_test {
 
@@ -204,6 +205,13 @@ Bytes random_record(const bindings::Record &record, Random &random) {
   for (const bindings::Member &member : record.member_list()) {
     if (member.role != bindings::Role::prefix_length) {
       width = member.width;
+      // Cells that every counter and meter of the device has.
+      if (std::string_view(member.name).ends_with("Index") && member.storage == 4) {
+        uint32_t cell = 0;
+        std::memcpy(&cell, bytes.data() + member.offset, sizeof cell);
+        cell %= SOFT_COUNTER_CELLS;
+        std::memcpy(bytes.data() + member.offset, &cell, sizeof cell);
+      }
       continue;
     }
     const auto length = static_cast<uint16_t>(random() % (width + 2));

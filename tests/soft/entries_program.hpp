@@ -47,11 +47,11 @@ inline const soft_program_t &program() {
   static const soft_action_t encap_actions[] = {{"wrap", kWrap, 20, 3, true}};
   static const soft_action_t lag_actions[] = {{"send", kSend, 9, 2, false}};
   static const soft_table_t tables[] = {
-      {"host", kHost, SOFT_EXACT, 20, 3, host_key, 2, host_actions, 2, 0, false},
-      {"acl", kAcl, SOFT_TERNARY, 16, 2, acl_key, 1, acl_actions, 2, 0, false},
-      {"route", kRoute, SOFT_LPM, 40, 5, route_key, 2, route_actions, 1, 0, true},
-      {"encap", kEncap, SOFT_EXACT, 0, 0, nullptr, 0, encap_actions, 1, 0, false},
-      {"lag", kLag, SOFT_EXACT, 8, 1, lag_key, 1, nullptr, 0, 0x02000005, false},
+      {"host", kHost, SOFT_EXACT, 20, 3, host_key, 2, host_actions, 2, 0, false, nullptr},
+      {"acl", kAcl, SOFT_TERNARY, 16, 2, acl_key, 1, acl_actions, 2, 0, false, nullptr},
+      {"route", kRoute, SOFT_LPM, 40, 5, route_key, 2, route_actions, 1, 0, true, nullptr},
+      {"encap", kEncap, SOFT_EXACT, 0, 0, nullptr, 0, encap_actions, 1, 0, false, nullptr},
+      {"lag", kLag, SOFT_EXACT, 8, 1, lag_key, 1, nullptr, 0, 0x02000005, false, nullptr},
   };
   static const soft_profile_t profiles[] = {{"lag", 0x02000005, 0x03000005, lag_actions, 1}};
   static const soft_counter_t counters[] = {{"host", kHostCount, kHost}, {"acl", kAclCount, 0}};

@@ -23,6 +23,23 @@ TEST_F(EntryResources, RefusesResourcesThatAreNotTheirs) {
   EXPECT_EQ(with(kHostCount, PIPE_RESOURCE_ATTACH), BF_SUCCESS);
 }
 
+TEST_F(EntryResources, NameCellsThatThereAre) {
+  const Key key(16, {0x08, 0x00}, {0xff, 0xff}, 1);
+  uint32_t entry = 0;
+  for (const uint32_t handle : {kAclCount, kPoliceMeter}) {
+    Action beyond(35, {0, 0, 0, 0, 1});
+    beyond.resource(handle, 0x400000, PIPE_RESOURCE_ATTACH);
+    EXPECT_EQ(add(kAcl, key, kPermit, beyond, &entry), BF_INVALID_ARGUMENT);
+    EXPECT_EQ(count(kAcl), 0u);
+    Action last(35, {0, 0, 0, 0, 1});
+    last.resource(handle, 0x3fffff, PIPE_RESOURCE_ATTACH);
+    EXPECT_EQ(add(kAcl, key, kPermit, last, &entry), BF_SUCCESS);
+    EXPECT_EQ(pipe_mgr_mat_ent_set_action(session, kDevice, kAcl, entry, kPermit, &beyond.spec, 0),
+              BF_INVALID_ARGUMENT);
+    EXPECT_EQ(pipe_mgr_mat_ent_del(session, kDevice, kAcl, entry, 0), BF_SUCCESS);
+  }
+}
+
 // Handles of the resources of an entry, in order.
 std::vector<uint32_t> resources_of(const pipe_mgr_action_spec_t &spec) {
   std::vector<uint32_t> handles;

@@ -1,41 +1,10 @@
-// Profiles, counters and meters: allocation n of a call fails, n = 1, 2, 3 ... until the call
-// succeeds, and each time the call says so and changes nothing. Replaces operator new, so this file
-// is a program of its own.
+// Profiles, counters and meters without memory: each call says so and changes nothing. Replaces
+// operator new, so this file is a program of its own.
 #include <cjson/cJSON.h>
 
-#include <cstdlib>
-#include <functional>
-#include <new>
-
+#include "limited_memory.hpp"
 #include "p4_pd_ms.h"
 #include "profile_program.hpp"
-
-namespace {
-
-thread_local int allocations_left = -1;  // -1: as many as wanted
-
-// Out of line, so that the compiler does not look for pairs of new and delete in them.
-[[gnu::noinline]] void *take(size_t bytes) noexcept {
-  if (allocations_left == 0) return nullptr;
-  if (allocations_left > 0) --allocations_left;
-  return std::malloc(bytes == 0 ? 1 : bytes);
-}
-[[gnu::noinline]] void give_back(void *memory) noexcept { std::free(memory); }
-
-}  // namespace
-
-void *operator new(size_t bytes) {
-  void *memory = take(bytes);
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
-}
-void *operator new(size_t bytes, const std::nothrow_t &) noexcept { return take(bytes); }
-// Memory resources ask by this one, for no more than malloc aligns to anyway.
-void *operator new(size_t bytes, std::align_val_t) { return operator new(bytes); }
-void operator delete(void *memory) noexcept { give_back(memory); }
-void operator delete(void *memory, size_t) noexcept { give_back(memory); }
-void operator delete(void *memory, std::align_val_t) noexcept { give_back(memory); }
-void operator delete(void *memory, size_t, std::align_val_t) noexcept { give_back(memory); }
 
 namespace {
 
@@ -43,22 +12,6 @@ using namespace soft_test;
 
 class ProfileMemory : public ProfileTest {
  protected:
-  // Runs the call until it succeeds, at the latest at its fiftieth allocation. state() must stay
-  // the same until then. Returns how often the call failed.
-  int until_success(const std::function<bf_status_t()> &call,
-                    const std::function<uint64_t()> &state) {
-    const uint64_t before = state();
-    for (int failures = 0; failures < 50; ++failures) {
-      allocations_left = failures;
-      const bf_status_t status = call();
-      allocations_left = -1;
-      if (status == BF_SUCCESS) return failures;
-      EXPECT_EQ(status, BF_NO_MEMORY);
-      EXPECT_EQ(state(), before) << "allocation " << failures + 1;
-    }
-    ADD_FAILURE() << "the call never succeeds";
-    return 50;
-  }
   uint32_t size_of(uint32_t group) {
     uint32_t held = 0;
     EXPECT_EQ(pipe_mgr_get_sel_grp_mbr_count(session, kDevice, kSelector, group, &held),

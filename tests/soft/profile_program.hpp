@@ -23,9 +23,9 @@ inline const soft_program_t &profile_program() {
                                               {"flood", kFlood, 0, 0, false}};
   static const soft_action_t host_actions[] = {{"drop", kDrop, 0, 0, true}};
   static const soft_table_t tables[] = {
-      {"host", kHost, SOFT_EXACT, 8, 1, byte_key, 1, host_actions, 1, 0, false},
-      {"acl", kAcl, SOFT_TERNARY, 16, 2, acl_key, 1, acl_actions, 2, 0, true},
-      {"lag", kLag, SOFT_EXACT, 8, 1, byte_key, 1, nullptr, 0, kMembers, false},
+      {"host", kHost, SOFT_EXACT, 8, 1, byte_key, 1, host_actions, 1, 0, false, nullptr},
+      {"acl", kAcl, SOFT_TERNARY, 16, 2, acl_key, 1, acl_actions, 2, 0, true, nullptr},
+      {"lag", kLag, SOFT_EXACT, 8, 1, byte_key, 1, nullptr, 0, kMembers, false, nullptr},
   };
   static const soft_profile_t profiles[] = {{"lag", kMembers, kSelector, lag_actions, 2}};
   static const soft_counter_t counters[] = {{"acl", kHostCount, kAcl}, {"class", kAclCount, 0}};

@@ -1,64 +1,14 @@
-// Allocation n of a call on stateful objects fails, n = 1, 2, 3 ... until the call succeeds: each
-// time the call says so and nothing can be seen to have changed. Replaces operator new, so this
-// file is a program of its own.
-#include <algorithm>
-#include <cstddef>
-#include <cstdlib>
-#include <functional>
-#include <new>
-
+// Calls on stateful objects without memory: nothing can be seen to have changed. Replaces operator
+// new, so this file is a program of its own.
 #include "device_contents.hpp"
+#include "limited_memory.hpp"
 #include "p4_pd_ms.h"
-
-namespace {
-
-thread_local int allocations_left = -1;  // -1: as many as wanted
-
-void *allocate(size_t bytes, size_t alignment) {
-  if (allocations_left == 0) throw std::bad_alloc();
-  if (allocations_left > 0) --allocations_left;
-  void *memory = std::aligned_alloc(alignment, (bytes / alignment + 1) * alignment);
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
-}
-
-}  // namespace
-
-void *operator new(size_t bytes) { return allocate(bytes, alignof(std::max_align_t)); }
-void *operator new[](size_t bytes) { return allocate(bytes, alignof(std::max_align_t)); }
-// What memory resources call, whatever the alignment.
-void *operator new(size_t bytes, std::align_val_t alignment) {
-  return allocate(bytes, std::max(static_cast<size_t>(alignment), alignof(std::max_align_t)));
-}
-void operator delete(void *memory) noexcept { std::free(memory); }
-void operator delete(void *memory, size_t) noexcept { std::free(memory); }
-void operator delete[](void *memory) noexcept { std::free(memory); }
-void operator delete[](void *memory, size_t) noexcept { std::free(memory); }
-void operator delete(void *memory, std::align_val_t) noexcept { std::free(memory); }
-void operator delete(void *memory, size_t, std::align_val_t) noexcept { std::free(memory); }
 
 namespace {
 
 using namespace soft_test;
 
-class StateMemory : public SmallTest {
- protected:
-  // Returns how often the call failed before it succeeded. state() must stay the same until then.
-  static int until_success(const std::function<bf_status_t()> &call,
-                           const std::function<Bytes()> &state) {
-    const Bytes before = state();
-    for (int failures = 0; failures < 2000; ++failures) {
-      allocations_left = failures;
-      const bf_status_t status = call();
-      allocations_left = -1;
-      if (status == BF_SUCCESS) return failures;
-      EXPECT_EQ(status, BF_NO_MEMORY);
-      EXPECT_EQ(state(), before) << "allocation " << failures + 1;
-    }
-    ADD_FAILURE() << "the call never succeeds";
-    return -1;
-  }
-};
+class StateMemory : public SmallTest {};
 
 TEST_F(StateMemory, RegistersStayAsTheyWere) {
   pipe_stful_cell_t cell{};

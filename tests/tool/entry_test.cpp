@@ -83,7 +83,9 @@ std::string random_record(const Shape &shape, std::mt19937 &engine) {
     Number mask = low_ones(field->width);
     if (field->match == Match::lpm) mask = prefix_mask(random() % (field->width + 1), field->width);
     if (field->match == Match::ternary) mask = mask & Number(random()) << (random() % 8);
-    const Number bits = {uint64_t{random()} << 32 | random(), uint64_t{random()} << 32 | random()};
+    Number bits = {uint64_t{random()} << 32 | random(), uint64_t{random()} << 32 | random()};
+    // Cells that every counter and meter of the device has.
+    if (field->label.ends_with("Index")) bits = bits & low_ones(22);
     text += " " + field->label + "=" + format_value(*field, {bits & mask, mask});
   }
   return text;

@@ -43,6 +43,9 @@ typedef struct soft_table {
   uint32_t action_count;
   uint32_t action_data_table; /* of the profile it is bound to, or 0 */
   bool ages_entries;
+  /* The bits that packets are compared in, key_bytes of them; null: all. Entries hold whole fields
+   * none the less, and two that differ elsewhere are two. */
+  const uint8_t *compared;
 } soft_table_t;
 
 typedef struct soft_profile {
@@ -101,11 +104,14 @@ typedef struct soft_value_set {
   uint32_t handle;
 } soft_value_set_t;
 
-/* A field of a snapshot record, big-endian at offset. */
+#define SOFT_NOT_CAPTURED 0xffffu
+
+/* A field of a snapshot record, big-endian at offset. A capture has it at captured_at. */
 typedef struct soft_snapshot_field {
   const char *name;
   uint16_t offset;
   uint8_t bytes;
+  uint16_t captured_at; /* or SOFT_NOT_CAPTURED */
 } soft_snapshot_field_t;
 
 typedef struct soft_snapshot_layout {
@@ -132,7 +138,8 @@ typedef struct soft_program {
   const soft_value_set_t *value_sets;
   uint32_t value_set_count;
   uint32_t snapshot_bytes; /* size of a trigger or capture record, 0 when there are no snapshots */
-  soft_snapshot_layout_t snapshot_layouts[2]; /* ingress, egress */
+  soft_snapshot_layout_t snapshot_layouts[2]; /* of packets and triggers: ingress, egress */
+  soft_snapshot_layout_t snapshot_capture;    /* of captures; without fields: as the packet's */
 } soft_program_t;
 
 #ifdef __cplusplus

@@ -7,9 +7,11 @@
  * that the packet went through. Later packets change nothing.
  *
  * A capture is read with bf_snapshot_capture_get as blocks of snapshot_bytes, one for each stage of
- * the snapshot in ascending order, zero where the packet did not go. The control record of a stage
- * is valid where it has a block, and triggered where the trigger matched. BF_ALL_PIPES asks for the
- * lowest pipe that has a capture. Without a capture the answer is BF_NOT_READY and 0 captures.
+ * the snapshot in ascending order, zero where the packet did not go. A block holds the fields of
+ * the packet in the layout of captures, which is the same for both directions. The control record
+ * of a stage is valid where it has a block, and triggered where the trigger matched. BF_ALL_PIPES
+ * asks for the lowest pipe that has a capture. Without a capture the answer is BF_NOT_READY and 0
+ * captures.
  *
  * A handle is the device in bits 31 to 24, a serial number, the direction in bit 1, and 1 in
  * bit 0. A snapshot ends with bf_snapshot_delete or with its device. */

@@ -12,8 +12,8 @@ extern "C" {
 #endif
 
 /* Indirect counters and meters and the WRED tables have cells 0 to the limit - 1 in every pipe.
- * They take memory only where they are written. A call that names a cell behind the last one is
- * refused with BF_INVALID_ARGUMENT. */
+ * They take memory only where they are written. A call that names a cell behind the last one, an
+ * entry that attaches one included, is refused with BF_INVALID_ARGUMENT. */
 #define SOFT_COUNTER_CELLS 0x400000u
 #define SOFT_METER_CELLS 0x400000u
 #define SOFT_WRED_CELLS 0x400000u

@@ -3,6 +3,9 @@
 
 #include <mutex>
 
+#include "soft_state.h"
+#include "soft_traffic.h"
+
 namespace soft {
 namespace {
 
@@ -23,6 +26,19 @@ bf_status_t check_carrier(std::span<const T> all, pipe_object_handle_t handle,
   const T *found = described_as(all, handle);
   if (found == nullptr) return BF_INVALID_HANDLE;
   return found->table == 0 || found->table == table ? BF_SUCCESS : BF_INVALID_ARGUMENT;
+}
+
+// A cell that is attached must be one of the resource's; a direct one has none to name.
+bool has_cell(const pipe_mgr_resource_t &resource) {
+  if (resource.tag != PIPE_RESOURCE_ATTACH) return true;
+  switch (resource.handle >> 24) {
+    case kCounterKind:
+      return resource.index < SOFT_COUNTER_CELLS;
+    case kMeterKind:
+      return resource.index < SOFT_METER_CELLS;
+    default:
+      return resource.index < SOFT_REGISTER_CELLS;
+  }
 }
 
 bf_status_t check_resource(const soft_program_t &p, pipe_object_handle_t handle,
@@ -96,6 +112,7 @@ bf_status_t MatchEngine::check_resources(std::span<const pipe_mgr_resource_t> re
   for (const pipe_mgr_resource_t &resource : resources) {
     bf_status_t status = check_resource(device_.program(), resource.handle, handle());
     if (status != BF_SUCCESS) return status;
+    if (!has_cell(resource)) return BF_INVALID_ARGUMENT;
     status = checked->resources.apply(resource);
     if (status != BF_SUCCESS) return status;
     if (resource.tag == PIPE_RESOURCE_ATTACH && meters_here(resource.handle)) {

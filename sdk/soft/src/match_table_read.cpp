@@ -19,6 +19,7 @@ bf_status_t MatchTable::get(pipe_entry_handle_t entry, EntryView *view) const {
   view->value = record + record_.value;
   view->mask = record_.has_mask ? masks_.bytes(mask_of(slot)) : ones_.data();
   view->priority = priority_of(slot);
+  view->age = record_.has_age ? load<uint64_t>(record + record_.age) : 0;
   view->pipe = pipe == KeyTwins::kAllPipes ? BF_ALL_PIPES : pipe;
   view->action = load<uint32_t>(record + RecordLayout::kAction);
   view->type = data >> RecordLayout::kLengthBits;

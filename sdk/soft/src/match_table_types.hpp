@@ -55,6 +55,7 @@ struct EntryView {
   const uint8_t *value;  // key_bytes, as given to add
   const uint8_t *mask;   // key_bytes; all ones in an exact table
   uint32_t priority;
+  uint64_t age;  // grows from entry to entry; 0 in an exact table
   bf_pipe_id_t pipe;
   pipe_object_handle_t action;
   uint32_t type;

@@ -8,12 +8,41 @@
 
 namespace soft {
 
+// The look-up of a table that does not compare all bits of its key. The index over the entries is
+// of whole keys, so this one asks every entry; such tables are small.
+pipe_entry_handle_t MatchEngine::find_compared(bf_pipe_id_t pipe, const uint8_t *key) const {
+  pipe_entry_handle_t best = 0;
+  std::pair<uint32_t, uint64_t> best_rank;
+  EntryView view;
+  pipe_entry_handle_t entry = 0;
+  for (bf_status_t status = entries_.first(&entry); status == BF_SUCCESS;
+       status = entries_.next(entry, &entry)) {
+    entries_.get(entry, &view);
+    if (view.pipe != pipe && view.pipe != BF_ALL_PIPES) continue;
+    const std::pair rank(view.priority, view.age);
+    if (best != 0 && rank >= best_rank) continue;
+    uint32_t different = 0;
+    for (uint32_t i = 0; i < description_.key_bytes; ++i) {
+      different |= (key[i] ^ view.value[i]) & view.mask[i] & description_.compared[i];
+    }
+    if (different != 0) continue;
+    best = entry;
+    best_rank = rank;
+  }
+  return best;
+}
+
 // Fills entry and is_default of the hit.
 bf_status_t MatchEngine::find_hit(bf_pipe_id_t pipe, const uint8_t *key, uint32_t length,
                                   soft_hit_t *hit) {
   if (key == nullptr && length != 0) return BF_INVALID_ARGUMENT;
   if (length != description_.key_bytes) return BF_WRONG_LENGTH;
-  hit->entry = length == 0 ? 0 : entries_.lookup(key, pipe);
+  if (length == 0) {
+    hit->entry = 0;
+  } else {
+    hit->entry =
+        description_.compared == nullptr ? entries_.lookup(key, pipe) : find_compared(pipe, key);
+  }
   hit->is_default = hit->entry == 0;
   if (!hit->is_default) return BF_SUCCESS;
   size_t index = 0;
@@ -56,8 +85,7 @@ bf_status_t MatchEngine::pass(bf_pipe_id_t pipe, const soft_traffic_t &traffic, 
   return BF_SUCCESS;
 }
 
-// Counts and marks; the worst colour is the answer. A cell behind the last one of its counter or
-// meter does nothing.
+// Counts and marks; the worst colour is the answer.
 uint8_t MatchEngine::note_traffic(bf_pipe_id_t pipe, const soft_traffic_t &traffic,
                                   pipe_entry_handle_t entry, const ResourceList &resources) {
   uint8_t worst = SOFT_COLOR_GREEN;

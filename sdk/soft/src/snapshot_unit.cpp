@@ -18,7 +18,24 @@ const EngineSet snapshots{EngineOrder::kServices, [](Device &device) {
 }  // namespace
 
 SnapshotUnit::SnapshotUnit(const Device &device)
-    : ObjectOf(kHandle), device_(device.id()), record_bytes_(device.program().snapshot_bytes) {}
+    : ObjectOf(kHandle),
+      device_(device.id()),
+      record_bytes_(device.program().snapshot_bytes),
+      moves_{moves_of(device.program(), 0), moves_of(device.program(), 1)} {}
+
+std::vector<SnapshotUnit::Move> SnapshotUnit::moves_of(const soft_program_t &program,
+                                                       uint32_t direction) {
+  if (program.snapshot_capture.field_count == 0) {
+    return {{0, 0, static_cast<uint16_t>(program.snapshot_bytes)}};
+  }
+  std::vector<Move> moves;
+  const soft_snapshot_layout_t &layout = program.snapshot_layouts[direction];
+  for (const soft_snapshot_field_t &field : described(layout.fields, layout.field_count)) {
+    if (field.captured_at == SOFT_NOT_CAPTURED) continue;
+    moves.push_back({field.offset, field.captured_at, field.bytes});
+  }
+  return moves;
+}
 
 bf_status_t SnapshotUnit::create(bf_pipe_id_t pipe, StageRange stages, uint32_t direction,
                                  uint32_t *snapshot) {
@@ -110,7 +127,10 @@ bool SnapshotUnit::capture(const Packet &packet, Snapshot &snapshot) const {
     control.stage = stage;
     if (stage < packet.stages.first || stage > packet.stages.last) continue;
     const uint8_t *record = packet.records + (stage - packet.stages.first) * record_bytes_;
-    std::memcpy(&capture.fields[at * record_bytes_], record, record_bytes_);
+    uint8_t *block = &capture.fields[at * record_bytes_];
+    for (const Move &move : moves_[packet.direction]) {
+      std::memcpy(block + move.to, record + move.from, move.bytes);
+    }
     control.valid = true;
     control.triggered = matches(snapshot, record);
     triggered |= control.triggered;

@@ -74,12 +74,21 @@ class SnapshotUnit : public ObjectOf<SnapshotUnit> {
     std::map<bf_pipe_id_t, Capture> captures;
   };
 
+  // Fields of a packet and where a capture has them.
+  struct Move {
+    uint16_t from;
+    uint16_t to;
+    uint16_t bytes;
+  };
+  static std::vector<Move> moves_of(const soft_program_t &program, uint32_t direction);
+
   // Called under the lock.
   bool matches(const Snapshot &snapshot, const uint8_t *record) const;
   bool capture(const Packet &packet, Snapshot &snapshot) const;
 
   bf_device_id_t device_;
   size_t record_bytes_;
+  std::vector<Move> moves_[2];  // by direction
   std::mutex mutex_;
   uint32_t last_serial_ = 0;
   std::map<uint32_t, Snapshot> snapshots_;

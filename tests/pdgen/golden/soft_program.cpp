@@ -4,6 +4,10 @@
 
 namespace {
 
+const uint8_t compared_portMap[] = {
+    0x00, 0x7f,
+};
+
 const soft_action_t actions_portMap[] = {
     {"sendTo", 0x20000001, 14, 3, true},
     {"pass", 0x20000002, 0, 0, false},
@@ -11,6 +15,12 @@ const soft_action_t actions_portMap[] = {
 
 const soft_key_field_t key_portMap[] = {
     {"ig_intr_md_in_port", 0, 9, 0, 2},
+};
+
+const uint8_t compared_filter[] = {
+    0x01, 0xff, 0x01, 0x01, 0x01, 0x0f, 0xff, 0x08, 0xff, 0xff, 0xff, 0xff, 0xff, 0xff, 0xff, 0xff,
+    0xff, 0xff, 0xff, 0xff, 0xff, 0xff, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00,
+    0x00, 0x00, 0x00, 0x00,
 };
 
 const soft_action_t actions_filter[] = {
@@ -107,18 +117,30 @@ const soft_action_t actions_finish[] = {
 };
 
 const soft_table_t tables[] = {
-    {"portMap", 0x01000001, 0, 9, 2, key_portMap, 1, actions_portMap, 2, 0, false},
-    {"filter", 0x01000002, 1, 252, 36, key_filter, 11, actions_filter, 3, 0, false},
-    {"fib4", 0x01000003, 2, 40, 5, key_fib4, 2, actions_fib4, 2, 0, true},
-    {"fib6", 0x01000004, 2, 128, 16, key_fib6, 1, actions_fib6, 1, 0, false},
-    {"hops", 0x01000005, 0, 14, 2, key_hops, 1, actions_hops, 2, 0, true},
-    {"paths", 0x01000006, 1, 14, 2, key_paths, 1, nullptr, 0, 0x02000006, false},
-    {"flows", 0x01000007, 0, 20, 3, key_flows, 1, actions_flows, 2, 0, false},
-    {"flood", 0x01000008, 1, 27, 4, key_flood, 2, actions_flood, 1, 0, false},
-    {"sampling", 0x01000009, 0, 16, 2, key_sampling, 1, actions_sampling, 1, 0, false},
-    {"ticks", 0x0100000a, 0, 1, 1, key_ticks, 1, actions_ticks, 1, 0, false},
-    {"seen", 0x0100000b, 0, 0, 0, nullptr, 0, actions_seen, 1, 0, false},
-    {"finish", 0x0100000c, 0, 0, 0, nullptr, 0, actions_finish, 1, 0, false},
+    {"portMap", 0x01000001, 0, 9, 2, key_portMap, 1,
+     actions_portMap, 2, 0, false, compared_portMap},
+    {"filter", 0x01000002, 1, 252, 36, key_filter, 11,
+     actions_filter, 3, 0, false, compared_filter},
+    {"fib4", 0x01000003, 2, 40, 5, key_fib4, 2,
+     actions_fib4, 2, 0, true, nullptr},
+    {"fib6", 0x01000004, 2, 128, 16, key_fib6, 1,
+     actions_fib6, 1, 0, false, nullptr},
+    {"hops", 0x01000005, 0, 14, 2, key_hops, 1,
+     actions_hops, 2, 0, true, nullptr},
+    {"paths", 0x01000006, 1, 14, 2, key_paths, 1,
+     nullptr, 0, 0x02000006, false, nullptr},
+    {"flows", 0x01000007, 0, 20, 3, key_flows, 1,
+     actions_flows, 2, 0, false, nullptr},
+    {"flood", 0x01000008, 1, 27, 4, key_flood, 2,
+     actions_flood, 1, 0, false, nullptr},
+    {"sampling", 0x01000009, 0, 16, 2, key_sampling, 1,
+     actions_sampling, 1, 0, false, nullptr},
+    {"ticks", 0x0100000a, 0, 1, 1, key_ticks, 1,
+     actions_ticks, 1, 0, false, nullptr},
+    {"seen", 0x0100000b, 0, 0, 0, nullptr, 0,
+     actions_seen, 1, 0, false, nullptr},
+    {"finish", 0x0100000c, 0, 0, 0, nullptr, 0,
+     actions_finish, 1, 0, false, nullptr},
 };
 
 const soft_action_t actions_pathMembers[] = {
@@ -164,13 +186,18 @@ const soft_value_set_t value_sets[] = {
 };
 
 const soft_snapshot_field_t snapshot_ingress[] = {
-    {"in_port", 0, 2},
-    {"slice", 2, 1},
-    {"ip4_src", 3, 4},
+    {"in_port", 0, 2, 6},
+    {"slice", 2, 1, SOFT_NOT_CAPTURED},
+    {"ip4_src", 3, 4, SOFT_NOT_CAPTURED},
 };
 
 const soft_snapshot_field_t snapshot_egress[] = {
-    {"out_port", 0, 2},
+    {"out_port", 0, 2, SOFT_NOT_CAPTURED},
+};
+
+const soft_snapshot_field_t snapshot_capture[] = {
+    {"eth_src", 0, 6, 0},
+    {"in_port", 6, 2, 6},
 };
 
 }  // namespace
@@ -189,4 +216,4 @@ const soft_program_t soft_program_tiny = {
     hashes, 1,
     digests, 1,
     value_sets, 1,
-    16, {{snapshot_ingress, 3}, {snapshot_egress, 1}}};
+    16, {{snapshot_ingress, 3}, {snapshot_egress, 1}}, {snapshot_capture, 2}};

@@ -1,0 +1,173 @@
+// Learning digests: what the data plane learns, delivered to the tool until it is acknowledged.
+#include "tesselctl/digest_commands.hpp"
+
+#include <memory>
+
+#include "pipe_mgr_types.h"
+#include "soft_learning.h"
+#include "tesselctl/library.hpp"
+#include "tesselctl/options.hpp"
+#include "tesselctl/wire_record.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+const soft_digest_t &digest_of(const Invocation &invocation) {
+  return resolve_object<soft_digest_t>(need_argument(invocation, 0, "the name of a digest"),
+                                       "digest");
+}
+
+Row digest_row(const soft_digest_t &digest) {
+  Row row;
+  row.object("digest", digest.name);
+  return row;
+}
+
+// Where the library finds the fields of an entry.
+std::vector<WireField> fields_of(const soft_digest_t &digest) {
+  const std::vector<uint8_t> entry(digest.entry_bytes);
+  std::vector<WireField> fields;
+  for (uint32_t i = 0; i < digest.field_count; ++i) {
+    const char *name = digest.fields[i].name;
+    uint32_t size = 0;
+    Call call(need_export("get_digest_entry_field", ""));
+    call.set("entry", entry.data()).set("digest_name", digest.name);
+    call.set("field_name", name).set("size", &size);
+    const auto address = static_cast<uintptr_t>(call.run());
+    if (address == 0) throw std::logic_error("the library does not know " + std::string(name));
+    const uintptr_t offset = address - reinterpret_cast<uintptr_t>(entry.data());
+    fields.push_back({name, static_cast<uint32_t>(offset), size});
+  }
+  return fields;
+}
+
+const WireLayout &layout_of(const soft_digest_t &digest) {
+  static std::map<uint32_t, std::unique_ptr<WireLayout>> layouts;
+  std::unique_ptr<WireLayout> &layout = layouts[digest.handle];
+  if (!layout) layout = std::make_unique<WireLayout>(digest.name, fields_of(digest));
+  return *layout;
+}
+
+void tell_message(Context &context, uint32_t number, const pipe_mgr_digest_message_t &message) {
+  for (const soft_digest_t &digest : program_rows<soft_digest_t>()) {
+    if (digest.handle != message.digest) continue;
+    for (uint32_t i = 0; i < message.entry_count; ++i) {
+      const uint8_t *entry = message.entries + size_t{i} * message.entry_size;
+      Row row = digest_row(digest).number("message", number).number("pipe", message.pipe);
+      layout_of(digest).add_to(row, entry, true);
+      context.results.row(row);
+    }
+  }
+}
+
+bf_status_t hold(pipe_session_handle_t, pipe_mgr_digest_message_t *message, void *context) {
+  Messages &messages = static_cast<Context *>(context)->messages;
+  messages.held.emplace(++messages.delivered, message);
+  return BF_SUCCESS;
+}
+
+void listen(Context &context, const Invocation &invocation) {
+  const soft_digest_t &digest = digest_of(invocation);
+  const Options options(invocation, 1, {"timeout"});
+  if (options.has("timeout")) {
+    Call timeout = context.device.prepare("set_learning_timeout", "");
+    timeout.set("timeout", options.number("timeout", 0xffffffffu));
+    check(timeout.run(), invocation.arguments[0]);
+  }
+  Call call = context.device.prepare("digest_register", digest.name);
+  call.set("callback", reinterpret_cast<const void *>(&hold)).set("cookie", &context);
+  check(call.run(), invocation.arguments[0]);
+  tell_messages(context);
+  context.results.done(digest_row(digest), "listened to");
+}
+
+void ignore(Context &context, const Invocation &invocation) {
+  const soft_digest_t &digest = digest_of(invocation);
+  refuse_arguments_from(invocation, 1);
+  check(context.device.prepare("digest_deregister", digest.name).run(), invocation.arguments[0]);
+  context.results.done(digest_row(digest), "ignored");
+}
+
+// Fields that are not given are 0.
+void inject(Context &context, const Invocation &invocation) {
+  const soft_digest_t &digest = digest_of(invocation);
+  const WireLayout &layout = layout_of(digest);
+  RecordWriter fields = layout.writer(digest.name);
+  std::vector<Word> option_words;
+  for (const Word &word : invocation.arguments.subspan(1)) {
+    const Assignment assignment = split_assignment(word);
+    if (assignment.name.text == "pipe") {
+      option_words.push_back(word);
+    } else {
+      fields.set(assignment);
+    }
+  }
+  const Options options({invocation.command, option_words}, 0, {"pipe"});
+  const auto pipe =
+      static_cast<bf_pipe_id_t>(options.number_or("pipe", context.device.pipes() - 1, 0));
+  std::vector<uint8_t> entry(digest.entry_bytes);
+  layout.pack_values(fields.data(), ByteOrder::network, entry.data());
+  uint32_t learnt = 0;
+  check(soft_digest_inject(context.device.id(), pipe, digest.handle, entry.data(), 1,
+                           digest.entry_bytes, &learnt),
+        invocation.arguments[0]);
+  tell_messages(context);
+  if (learnt == 0) context.results.row(digest_row(digest).object("event", "known"));
+}
+
+void show(Context &context, const Invocation &invocation) {
+  const soft_digest_t &digest = digest_of(invocation);
+  refuse_arguments_from(invocation, 1);
+  for (const auto &[number, message] : context.messages.held) {
+    if (message->digest == digest.handle) tell_message(context, number, *message);
+  }
+}
+
+// One message, or all of the digest.
+void acknowledge(Context &context, const Invocation &invocation) {
+  const soft_digest_t &digest = digest_of(invocation);
+  const Options options(invocation, 1, {"message"});
+  auto &held = context.messages.held;
+  const uint64_t only = options.number_or("message", 0xffffffffu, 0);
+  size_t given_back = 0;
+  for (auto at = held.begin(); at != held.end();) {
+    const bool wanted = !options.has("message") || at->first == only;
+    if (!wanted || at->second->digest != digest.handle) {
+      ++at;
+      continue;
+    }
+    Call call = context.device.prepare("digest_notify_ack", digest.name);
+    check(call.set("message", at->second).run(), invocation.arguments[0]);
+    at = held.erase(at);
+    ++given_back;
+  }
+  if (given_back == 0 && options.has("message")) {
+    throw Fault(options.need("message"), "no message with this number is held");
+  }
+  context.results.done(digest_row(digest).number("messages", given_back), "acknowledged");
+}
+
+constexpr Command kCommands[] = {
+    {"digest listen", "DIGEST [timeout=US]",
+     "takes the messages of a digest; timeout is how long the device collects entries", listen},
+    {"digest ignore", "DIGEST", "takes no more messages", ignore},
+    {"digest inject", "DIGEST FIELD=VALUE... [pipe=N]",
+     "has the data plane learn an entry; fields that are not given are 0", inject},
+    {"digest show", "DIGEST", "prints the messages that are held", show, Kind::lists},
+    {"digest ack", "DIGEST [message=N]", "gives a message back, or all", acknowledge},
+};
+
+}  // namespace
+
+void tell_messages(Context &context) {
+  Messages &messages = context.messages;
+  for (auto at = messages.held.upper_bound(messages.told); at != messages.held.end(); ++at) {
+    tell_message(context, at->first, *at->second);
+  }
+  messages.told = messages.delivered;
+}
+
+std::span<const Command> digest_commands() { return kCommands; }
+
+}  // namespace tesselctl
