@@ -4,11 +4,15 @@
 #include <CLI/CLI.hpp>
 #include <csignal>
 #include <cstdlib>
+#include <memory>
+#include <optional>
 
+#include "tesselctl/client.hpp"
 #include "tesselctl/command_help.hpp"
 #include "tesselctl/files.hpp"
 #include "tesselctl/library.hpp"
 #include "tesselctl/script.hpp"
+#include "tesselctl/serve.hpp"
 #include "tesselctl/version.hpp"
 
 namespace tesselctl {
@@ -21,6 +25,7 @@ constexpr int kFault = 1;
 struct Options {
   bool no_colour = false;
   DeviceOptions device;
+  std::string socket;  // of the server that has the device; empty for a device of our own
   Settings settings;
   ScriptOptions script;
   std::string script_file;
@@ -46,19 +51,45 @@ struct Streams {
   Output errors;
 };
 
+// What runs command lines: a server, or a device that lives as long as this.
+class Session {
+ public:
+  Session(const Options &options, Streams &streams) {
+    if (!options.socket.empty()) {
+      runner_ = std::make_unique<RemoteRunner>(options.socket, streams.out, streams.errors,
+                                               options.settings);
+      return;
+    }
+    device_.emplace(options.device);
+    runner_ =
+        std::make_unique<LocalRunner>(*device_, streams.out, streams.errors, options.settings);
+  }
+  Runner &runner() { return *runner_; }
+
+ private:
+  std::optional<Device> device_;
+  std::unique_ptr<Runner> runner_;
+};
+
 int run_file(const Options &options) {
   Streams streams(options);
   const std::string text = read_input(options.script_file);
   const std::string name = options.script_file == "-" ? "standard input" : options.script_file;
-  Device device(options.device);
-  LocalRunner runner(device, streams.out, streams.errors, options.settings);
-  const ScriptResult result = run_script(runner, name, text, options.script);
+  Session session(options, streams);
+  const ScriptResult result = run_script(session.runner(), name, text, options.script);
   if (!options.settings.json) {
     streams.out.line("{}: {} command{}, {} fault{}", name, result.commands,
                      result.commands == 1 ? "" : "s", result.faults, result.faults == 1 ? "" : "s");
   }
   streams.out.flush();
   return result.faults == 0 ? kDone : kFault;
+}
+
+int run_serve(const Options &options) {
+  if (options.socket.empty()) throw Fault("serve needs --socket PATH");
+  Streams streams(options);
+  serve(options.device, options.socket, streams.out);
+  return kDone;
 }
 
 // The words of the shell that called, as one line of ours.
@@ -77,10 +108,9 @@ std::string line_of(const std::vector<std::string> &words) {
 
 int run_one(const Options &options, const std::vector<std::string> &words) {
   Streams streams(options);
-  Device device(options.device);
-  LocalRunner runner(device, streams.out, streams.errors, options.settings);
+  Session session(options, streams);
   const std::string line = line_of(words);
-  const LineOutcome outcome = runner.run({{}, 0, line});
+  const LineOutcome outcome = session.runner().run({{}, 0, line});
   streams.out.flush();
   return outcome == LineOutcome::fault ? kFault : kDone;
 }
@@ -89,6 +119,8 @@ void add_subcommands(CLI::App &app, Options &options) {
   CLI::App *run = app.add_subcommand("run", "Runs a script of commands");
   run->add_option("FILE", options.script_file, "the script, or - for standard input")->required();
   run->add_flag("-k,--keep-going", options.script.keep_going, "go on behind a line with a fault");
+
+  app.add_subcommand("serve", "Keeps a soft device that others work on, until it is told to end");
 }
 
 void add_options(CLI::App &app, Options &options) {
@@ -99,11 +131,20 @@ void add_options(CLI::App &app, Options &options) {
   app.add_option("--pipes", options.device.pipes, "pipes of the device")
       ->check(CLI::Range(1, 8))
       ->capture_default_str();
+  app.add_option("--socket", options.socket, "work on the device of the server that listens there");
   app.add_flag("--json", options.settings.json, "answer in JSON, a line for every command");
   app.add_flag("--terse", options.settings.terse, "answer with one row a line, without columns");
   app.add_flag("-v,--verbose", options.settings.verbose, "tell what each command changed");
   app.add_flag("--trace", options.settings.trace, "print the C calls behind the commands");
   app.add_flag("--no-color", options.no_colour, "never print in colour (also: NO_COLOR)");
+}
+
+// The device of a server is what the server made it.
+void check_socket(const CLI::App &app, const Options &options) {
+  if (options.socket.empty() || app.got_subcommand("serve")) return;
+  for (const char *name : {"--device", "--pipes"}) {
+    if (app.count(name) > 0) throw Fault(fmt::format("{} is for the server to choose", name));
+  }
 }
 
 int run_tool(int argc, char **argv) {
@@ -120,6 +161,8 @@ int run_tool(int argc, char **argv) {
   } catch (const CLI::ParseError &error) {
     return app.exit(error) == 0 ? kDone : kFault;
   }
+  check_socket(app, options);
+  if (app.got_subcommand("serve")) return run_serve(options);
   if (app.got_subcommand("run")) return run_file(options);
   return run_one(options, app.remaining());
 }
