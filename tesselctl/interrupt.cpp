@@ -38,7 +38,7 @@ void clear_interrupt() noexcept { requested.store(false, std::memory_order_relax
 
 InterruptScope::InterruptScope(std::function<bool()> interrupted) {
   asked = std::move(interrupted);
-  ask_again = Clock::now() + kBetween;
+  ask_again = {};
 }
 InterruptScope::~InterruptScope() { asked = nullptr; }
 

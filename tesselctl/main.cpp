@@ -26,6 +26,7 @@ struct Options {
   bool no_colour = false;
   DeviceOptions device;
   std::string socket;  // of the server that has the device; empty for a device of our own
+  std::string image;   // of serve
   Settings settings;
   ScriptOptions script;
   std::string script_file;
@@ -88,7 +89,7 @@ int run_file(const Options &options) {
 int run_serve(const Options &options) {
   if (options.socket.empty()) throw Fault("serve needs --socket PATH");
   Streams streams(options);
-  serve(options.device, options.socket, streams.out);
+  serve({options.device, options.socket, options.image}, streams.out);
   return kDone;
 }
 
@@ -120,7 +121,8 @@ void add_subcommands(CLI::App &app, Options &options) {
   run->add_option("FILE", options.script_file, "the script, or - for standard input")->required();
   run->add_flag("-k,--keep-going", options.script.keep_going, "go on behind a line with a fault");
 
-  app.add_subcommand("serve", "Keeps a soft device that others work on, until it is told to end");
+  app.add_subcommand("serve", "Keeps a soft device that others work on, until it is told to end")
+      ->add_option("--image", options.image, "image that is loaded before and saved after");
 }
 
 void add_options(CLI::App &app, Options &options) {

@@ -1,7 +1,10 @@
 #include "tesselctl/serve.hpp"
 
+#include <unistd.h>
+
 #include <csignal>
 
+#include "tesselctl/image_file.hpp"
 #include "tesselctl/server.hpp"
 
 namespace tesselctl {
@@ -42,13 +45,17 @@ class StopSignals {
 
 }  // namespace
 
-void serve(const DeviceOptions &options, const std::string &path, Output &out) {
-  Device device(options);
-  Server server(device, path);
+void serve(const ServeOptions &options, Output &out) {
+  Device device(options.device);
+  // First of all the socket: whoever has it has the image.
+  Server server(device, options.socket);
   const StopSignals signals(server);
-  out.line("device {} is served at {}", device.id(), path);
+  const std::string &image = options.image;
+  if (!image.empty() && access(image.c_str(), F_OK) == 0) load_image_file(device, image, image);
+  out.line("device {} is served at {}", device.id(), options.socket);
   out.flush();
   server.run();
+  if (!image.empty()) save_image_file(device, image);
 }
 
 }  // namespace tesselctl

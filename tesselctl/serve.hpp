@@ -7,8 +7,14 @@
 
 namespace tesselctl {
 
+struct ServeOptions {
+  DeviceOptions device;
+  std::string socket;
+  std::string image;  // loaded before, if it exists, and saved after; empty for none
+};
+
 // Makes a device, tells that it is there, and keeps it for the clients of the socket until SIGINT,
 // SIGTERM or SIGHUP. Throws Fault.
-void serve(const DeviceOptions &options, const std::string &path, Output &out);
+void serve(const ServeOptions &options, Output &out);
 
 }  // namespace tesselctl

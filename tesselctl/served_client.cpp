@@ -42,12 +42,16 @@ short ServedClient::events() const {
 }
 
 void ServedClient::handle(short events) {
-  if ((events & POLLIN) != 0) {
-    receive();
-  } else if ((events & (POLLERR | POLLHUP | POLLNVAL)) != 0) {
-    gone_ = true;
-  }
+  // Who hung up reads no answer, so that what it may have asked before is not done either.
+  if ((events & (POLLERR | POLLHUP | POLLNVAL)) != 0) gone_ = true;
+  if (gone_) return;
+  if ((events & POLLIN) != 0) receive();
   if ((events & POLLOUT) != 0) send_queue();
+}
+
+void ServedClient::look() {
+  pollfd now = {fd(), events(), 0};
+  if (poll(&now, 1, 0) > 0) handle(now.revents);
 }
 
 void ServedClient::receive() {
@@ -145,8 +149,7 @@ LineOutcome ServedClient::run(const Request &request) {
 // Asked while a command of this client runs.
 bool ServedClient::is_interrupted() {
   if (stopping_) return true;
-  pollfd now = {fd(), events(), 0};
-  if (poll(&now, 1, 0) > 0) handle(now.revents);
+  look();
   try {
     const auto message = reader_.front();
     return gone_ || (message && message->type == MessageType::interrupt);

@@ -27,6 +27,8 @@ class ServedClient {
   // What to poll for, and what to do with what it gave.
   short events() const;
   void handle(short events);
+  // Both at once, without waiting.
+  void look();
   // Whether a message waits that may be looked at now, and looking at it.
   bool is_ready() const;
   void step();

@@ -40,9 +40,13 @@ void Server::run() {
     for (const auto &client : clients_) {
       if (!stopping_ && client->is_ready()) client->step();
     }
-    std::erase_if(clients_, [](const auto &client) { return client->is_gone(); });
+    forget_gone();
   }
   clients_.clear();
+}
+
+void Server::forget_gone() {
+  std::erase_if(clients_, [](const auto &client) { return client->is_gone(); });
 }
 
 // Until there is something to do; takes what clients sent and sends what they wait for.
@@ -74,6 +78,10 @@ void Server::accept_clients() {
 }
 
 void Server::accept_client(Descriptor socket) {
+  if (clients_.size() >= limits_.clients) {
+    for (const auto &client : clients_) client->look();
+    forget_gone();
+  }
   if (clients_.size() < limits_.clients) {
     clients_.push_back(
         std::make_unique<ServedClient>(std::move(socket), device_, limits_, stopping_));

@@ -25,6 +25,7 @@ class Server {
 
  private:
   void wait();
+  void forget_gone();
   void accept_clients();
   void accept_client(Descriptor socket);
 
