@@ -11,6 +11,7 @@
 #include <cstring>
 
 #include "tesselctl/fault.hpp"
+#include "tesselctl/interrupt.hpp"
 
 namespace tesselctl {
 
@@ -33,8 +34,8 @@ sockaddr_un address_of(const std::string &path) {
   return address;
 }
 
-Descriptor new_socket(const std::string &path) {
-  Descriptor made(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+Descriptor new_socket(const std::string &path, int flags = SOCK_NONBLOCK) {
+  Descriptor made(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | flags, 0));
   if (!made.is_open()) throw_system(path);
   return made;
 }
@@ -44,6 +45,7 @@ int try_connect(const Descriptor &socket, const sockaddr_un &address) {
   const auto *any = reinterpret_cast<const sockaddr *>(&address);
   while (connect(socket.get(), any, sizeof address) != 0) {
     if (errno != EINTR) return errno;
+    check_interrupt();
   }
   return 0;
 }
@@ -83,10 +85,11 @@ void remove_stale(const std::string &path, const sockaddr_un &address) {
 
 Descriptor connect_to(const std::string &path) {
   const sockaddr_un address = address_of(path);
-  Descriptor socket = new_socket(path);
+  // Waits while more clients ask than the server has got round to.
+  Descriptor socket = new_socket(path, 0);
   const int error = try_connect(socket, address);
-  if (error == 0) return socket;
-  if (error == EAGAIN) throw Fault(path + ": too many clients wait for the server");
+  if (error == 0 && fcntl(socket.get(), F_SETFL, O_NONBLOCK) == 0) return socket;
+  if (error == 0) throw_system(path);
   const bool nobody = error == ENOENT || error == ECONNREFUSED;
   throw Fault(fmt::format("{}: {}", path, nobody ? "no server runs there" : strerror(error)));
 }
