@@ -1,6 +1,7 @@
 #include "tesselctl/image_file.hpp"
 
 #include "tesselctl/files.hpp"
+#include "tesselctl/interrupt.hpp"
 
 namespace tesselctl {
 
@@ -8,6 +9,7 @@ uint64_t save_image_file(const Device &device, const std::string &path) {
   FileWriter file{path};
   uint64_t bytes = 0;
   save_image(device, [&](std::string_view text) {
+    check_interrupt();
     file.write(text);
     bytes += text.size();
   });

@@ -190,7 +190,9 @@ class RouteLoad {
     for (const LoadedFile &file : files_) {
       for (const Route &route : file.routes.*routes_) {
         visit(file, route, at);
-        if (++at % kBatch == 0) progress.update(at);
+        if (++at % kBatch != 0) continue;
+        progress.update(at);
+        check_interrupt();
       }
     }
   }
