@@ -5,6 +5,7 @@
 #include "soft_sdk.h"
 #include "tesselctl/entry_line.hpp"
 #include "tesselctl/files.hpp"
+#include "tesselctl/interrupt.hpp"
 #include "tesselctl/progress.hpp"
 #include "tesselctl/route_file.hpp"
 #include "tesselctl/status.hpp"
