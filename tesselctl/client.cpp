@@ -126,7 +126,7 @@ void RemoteRunner::receive_some() {
   if (got > 0) {
     reader_.add({bytes, static_cast<size_t>(got)});
   } else if (got == 0 || !would_wait(errno)) {
-    give_up("the server is gone");
+    give_up("the server ended the connection");
   }
 }
 

@@ -74,6 +74,7 @@ void ServedClient::send_queue() {
     if (sent_ < unread()) continue;
     queue_.erase(0, sent_);
     sent_ = 0;
+    if (queue_.empty() && queue_.capacity() > limits_.paused_at) queue_.shrink_to_fit();
   }
 }
 

@@ -359,7 +359,7 @@ TEST_F(ServerTest, AServerThatGoesInTheMiddleIsAFault) {
     { const Peer gone = std::move(server); }
     runs.join();
     EXPECT_EQ(fault, answer.size() > 5 || answer[0] == 0
-                         ? path_ + ": the server is gone"
+                         ? path_ + ": the server ended the connection"
                          : "a message has 4294967295 bytes, at most 1048576");
   }
 }
