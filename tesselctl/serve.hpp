@@ -14,7 +14,7 @@ struct ServeOptions {
 };
 
 // Makes a device, tells that it is there, and keeps it for the clients of the socket until SIGINT,
-// SIGTERM or SIGHUP. Throws Fault.
+// SIGTERM or SIGHUP, which this thread is to be the one to take. Throws Fault.
 void serve(const ServeOptions &options, Output &out);
 
 }  // namespace tesselctl
