@@ -52,7 +52,7 @@ class Peer {
         return heard;
       }
       pollfd waited = {socket_.get(), POLLIN, 0};
-      if (poll(&waited, 1, 20000) <= 0) return "nothing came";
+      if (poll(&waited, 1, 60000) <= 0) return "nothing came";
       char bytes[4096];
       const ssize_t got = recv(socket_.get(), bytes, sizeof bytes, 0);
       if (got <= 0) return {};
@@ -62,7 +62,7 @@ class Peer {
   // Whether the other side hangs up without anything being read.
   bool is_left() {
     pollfd waited = {socket_.get(), 0, 0};
-    return poll(&waited, 1, 20000) > 0 && (waited.revents & POLLHUP) != 0;
+    return poll(&waited, 1, 60000) > 0 && (waited.revents & POLLHUP) != 0;
   }
   // The messages up to an end, the refusal or the last one.
   std::vector<std::string> hear_answer() {
@@ -358,7 +358,7 @@ TEST_F(ServerTest, AServerThatGoesInTheMiddleIsAFault) {
     std::thread runs([&] { fault = fault_of([&] { client.run("count"); }); });
     Peer server = [&] {
       pollfd waited = {listening.get(), POLLIN, 0};
-      poll(&waited, 1, 20000);
+      poll(&waited, 1, 60000);
       return Peer(listening.accept_client());
     }();
     EXPECT_EQ(server.hear().front(), 'r');
@@ -413,10 +413,10 @@ TEST_F(ServerTest, ASlowClientWaitsWithItsOwnCommandsOnly) {
   ASSERT_GT(shown.size(), 90000u);
   Peer slow = peer();
   // More than the socket, and were it run at once more than what drops a client.
-  for (int i = 0; i < 30; ++i) slow.say(request("show nextHop"));
+  for (int i = 0; i < 12; ++i) slow.say(request("show nextHop"));
   for (int i = 0; i < 5; ++i) expect_alive();
   peer().say(request("show nextHop"));  // and leaves with the answer under way
-  for (int i = 0; i < 30; ++i) {
+  for (int i = 0; i < 12; ++i) {
     std::string text;
     const std::vector<std::string> answer = slow.hear_answer();
     for (const std::string &message : answer) text += message.substr(message[0] == 'o' ? 1 : 0);
