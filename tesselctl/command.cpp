@@ -1,10 +1,10 @@
 #include "tesselctl/command.hpp"
 
 #include <algorithm>
-#include <atomic>
 #include <new>
 
 #include "tesselctl/dry_run.hpp"
+#include "tesselctl/files.hpp"
 #include "tesselctl/suggest.hpp"
 #include "tesselctl/trace.hpp"
 #include "tesselctl/value.hpp"
@@ -87,8 +87,6 @@ const Command &find_command(Words words, Invocation &invocation) {
 
 namespace {
 
-std::atomic<bool> interrupted = false;
-
 std::string_view trimmed(std::string_view line) {
   const size_t first = line.find_first_not_of(" \t\r");
   if (first == std::string_view::npos) return {};
@@ -103,11 +101,14 @@ void run_command(Context &context, const Command &command, const Invocation &inv
 
 }  // namespace
 
-void check_interrupt() {
-  if (interrupted.load(std::memory_order_relaxed)) throw Fault("interrupted");
+std::string Context::path(Word word) const {
+  if (directory.empty()) return std::string(word.text);
+  std::string path = path_in(directory, std::string(word.text));
+  if (word.text == "-" || is_no_regular_file(path)) {
+    throw Fault(word, "the server reads and writes regular files only");
+  }
+  return path;
 }
-void request_interrupt() noexcept { interrupted.store(true, std::memory_order_relaxed); }
-void clear_interrupt() noexcept { interrupted.store(false, std::memory_order_relaxed); }
 
 Ran run_line(Context &context, std::string_view line) {
   context.settings = context.defaults;

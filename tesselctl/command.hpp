@@ -10,25 +10,12 @@
 #include <vector>
 
 #include "tesselctl/device.hpp"
+#include "tesselctl/interrupt.hpp"
 #include "tesselctl/output.hpp"
 #include "tesselctl/results.hpp"
 #include "tesselctl/words.hpp"
 
-struct pipe_mgr_digest_message;
-
 namespace tesselctl {
-
-struct ExpiredEntry {
-  uint32_t table;
-  uint32_t entry;
-};
-
-// Digest messages, by the numbers that the tool gives them.
-struct Messages {
-  std::map<uint32_t, pipe_mgr_digest_message *> held;  // not acknowledged; the device's
-  uint32_t delivered = 0;                              // greatest number
-  uint32_t told = 0;                                   // greatest number that was printed
-};
 
 // What commands share while a script or shell runs.
 struct Context {
@@ -41,13 +28,14 @@ struct Context {
   Results results{out};
   // Handles that commands were asked to remember (as=NAME), for $NAME.
   std::map<std::string, uint32_t, std::less<>> labels = {};
-  // Entries that expired since it was cleared; the device writes here while time advances.
-  std::vector<ExpiredEntry> expired = {};
   // Set by commands that compare when they found a difference.
   bool differs = false;
-  Messages messages = {};
+  // What the names of files are relative to, when that is not where this process works.
+  std::string directory = {};
 
   bool verbose() const { return settings.verbose; }
+  // The file that the word names. Throws Fault for one that only the process of a client has.
+  std::string path(Word word) const;
 };
 
 struct Invocation {
@@ -87,12 +75,8 @@ struct Flags {
   void check(const Command &command) const;
 };
 Flags take_flags(std::vector<Word> &words, Settings &settings);
-
-// A command that takes long asks now and then; throws Fault once somebody interrupted it.
-void check_interrupt();
-// Safe in signal handlers.
-void request_interrupt() noexcept;
-void clear_interrupt() noexcept;
+// The settings as such words, from which take_flags makes the same settings.
+std::string words_of(const Settings &settings);
 
 // ---- For commands ----
 

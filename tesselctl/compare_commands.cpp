@@ -9,6 +9,10 @@ namespace tesselctl {
 
 namespace {
 
+Image image_of(const Context &context, Word word) {
+  return Image::of_file(context.path(word), word.text);
+}
+
 // One or two files; without the second the device stands in for it.
 struct Sides {
   Image before;
@@ -18,10 +22,9 @@ struct Sides {
 Sides read_sides(const Context &context, const Invocation &invocation) {
   const Word first = need_argument(invocation, 0, "the name of an image");
   refuse_arguments_from(invocation, 2);
-  Image before = Image::of_file(std::string(first.text));
-  Image after = invocation.arguments.size() > 1
-                    ? Image::of_file(std::string(invocation.arguments[1].text))
-                    : Image::of_device(context.device);
+  Image before = image_of(context, first);
+  Image after = invocation.arguments.size() > 1 ? image_of(context, invocation.arguments[1])
+                                                : Image::of_device(context.device);
   after.number_like(before);
   return {std::move(before), std::move(after)};
 }
@@ -47,7 +50,7 @@ void apply(Context &context, const Invocation &invocation) {
   const Word word = need_argument(invocation, 0, "the name of an image");
   refuse_arguments_from(invocation, 1);
   const Image before = Image::of_device(context.device);
-  Image after = Image::of_file(std::string(word.text));
+  Image after = image_of(context, word);
   after.number_like(before);
   const std::vector<Change> changes = changes_between(before, after);
   const std::unique_ptr<Device> kept = context.settings.atomic ? copy_of(context.device) : nullptr;
@@ -79,11 +82,10 @@ void verify_image(Context &context, const Invocation &invocation) {
   const Word first = need_argument(invocation, 0, "the name of an image");
   refuse_arguments_from(invocation, 2);
   const bool live = invocation.arguments.size() == 1 && numbers_are_handles(context.device);
-  Image before = Image::of_file(std::string(first.text));
-  Image after = live ? Image::of_profiles(context.device)
-                : invocation.arguments.size() > 1
-                    ? Image::of_file(std::string(invocation.arguments[1].text))
-                    : Image::of_device(context.device);
+  Image before = image_of(context, first);
+  Image after = live                              ? Image::of_profiles(context.device)
+                : invocation.arguments.size() > 1 ? image_of(context, invocation.arguments[1])
+                                                  : Image::of_device(context.device);
   before.number_like(after);
   const Device old_device(options_for_image(context.device, true));
   load_by_number(old_device, before);

@@ -5,6 +5,7 @@
 
 #include "p4_pd_types.h"
 #include "tesselctl/call.hpp"
+#include "tesselctl/events.hpp"
 #include "tesselctl/fault.hpp"
 
 namespace tesselctl {
@@ -43,6 +44,8 @@ class Device {
     return {target_.device_id, static_cast<uint16_t>(pipe)};
   }
 
+  Events &events() { return events_; }
+
   // A call whose session, device and target are set, as far as the function takes them.
   Call prepare(const bindings::Export &target) const;
   // The same by name; throws std::logic_error when the library has no such function.
@@ -53,6 +56,7 @@ class Device {
 
  private:
   LibraryUse library_;
+  Events events_;  // the device writes here as long as it exists
   p4_pd_device_target_t target_{};
   uint32_t pipes_;
   p4_pd_session_handle_t session_ = 0;

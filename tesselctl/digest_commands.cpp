@@ -62,7 +62,7 @@ void tell_message(Context &context, uint32_t number, const pipe_mgr_digest_messa
 }
 
 bf_status_t hold(pipe_session_handle_t, pipe_mgr_digest_message_t *message, void *context) {
-  Messages &messages = static_cast<Context *>(context)->messages;
+  Messages &messages = static_cast<Events *>(context)->messages;
   messages.held.emplace(++messages.delivered, message);
   return BF_SUCCESS;
 }
@@ -76,7 +76,8 @@ void listen(Context &context, const Invocation &invocation) {
     check(timeout.run(), invocation.arguments[0]);
   }
   Call call = context.device.prepare("digest_register", digest.name);
-  call.set("callback", reinterpret_cast<const void *>(&hold)).set("cookie", &context);
+  call.set("callback", reinterpret_cast<const void *>(&hold))
+      .set("cookie", &context.device.events());
   check(call.run(), invocation.arguments[0]);
   tell_messages(context);
   context.results.done(digest_row(digest), "listened to");
@@ -119,7 +120,7 @@ void inject(Context &context, const Invocation &invocation) {
 void show(Context &context, const Invocation &invocation) {
   const soft_digest_t &digest = digest_of(invocation);
   refuse_arguments_from(invocation, 1);
-  for (const auto &[number, message] : context.messages.held) {
+  for (const auto &[number, message] : context.device.events().messages.held) {
     if (message->digest == digest.handle) tell_message(context, number, *message);
   }
 }
@@ -128,7 +129,7 @@ void show(Context &context, const Invocation &invocation) {
 void acknowledge(Context &context, const Invocation &invocation) {
   const soft_digest_t &digest = digest_of(invocation);
   const Options options(invocation, 1, {"message"});
-  auto &held = context.messages.held;
+  auto &held = context.device.events().messages.held;
   const uint64_t only = options.number_or("message", 0xffffffffu, 0);
   size_t given_back = 0;
   for (auto at = held.begin(); at != held.end();) {
@@ -161,7 +162,7 @@ constexpr Command kCommands[] = {
 }  // namespace
 
 void tell_messages(Context &context) {
-  Messages &messages = context.messages;
+  Messages &messages = context.device.events().messages;
   for (auto at = messages.held.upper_bound(messages.told); at != messages.held.end(); ++at) {
     tell_message(context, at->first, *at->second);
   }

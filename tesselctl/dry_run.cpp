@@ -10,7 +10,8 @@ void run_on_copy(Context &context, const Command &command, const Invocation &inv
                    .out = context.out,
                    .defaults = context.defaults,
                    .settings = context.settings,
-                   .labels = context.labels};
+                   .labels = context.labels,
+                   .directory = context.directory};
   trial.results = context.results;
   try {
     command.run(trial, invocation);

@@ -12,6 +12,7 @@
 #include <cstring>
 #include <utility>
 
+#include "tesselctl/descriptor.hpp"
 #include "tesselctl/fault.hpp"
 
 extern char **environ;
@@ -23,20 +24,6 @@ namespace {
 using namespace std::string_view_literals;
 
 constexpr std::string_view kXzMagic = "\xfd\x37\x7a\x58\x5a\0"sv;
-
-class Descriptor {
- public:
-  explicit Descriptor(int fd) : fd_(fd) {}
-  ~Descriptor() {
-    if (fd_ > 2) close(fd_);
-  }
-  Descriptor(const Descriptor &) = delete;
-  Descriptor &operator=(const Descriptor &) = delete;
-  int get() const { return fd_; }
-
- private:
-  int fd_;
-};
 
 [[noreturn]] void throw_system(const std::string &path) {
   throw Fault(fmt::format("{}: {}", path, strerror(errno)));
@@ -163,6 +150,16 @@ bool FileLines::next(std::string_view &line) {
   line = {line_, static_cast<size_t>(size)};
   if (line.ends_with('\n')) line.remove_suffix(1);
   return true;
+}
+
+std::string path_in(const std::string &directory, const std::string &name) {
+  if (directory.empty() || name.starts_with('/')) return name;
+  return directory + (directory.ends_with('/') ? "" : "/") + name;
+}
+
+bool is_no_regular_file(const std::string &path) {
+  struct stat status;
+  return stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode);
 }
 
 }  // namespace tesselctl

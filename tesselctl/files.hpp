@@ -50,4 +50,9 @@ class FileLines {
   size_t room_ = 0;
 };
 
+// The file of that name as seen from the directory: the name itself when it is absolute.
+std::string path_in(const std::string &directory, const std::string &name);
+// Whether something is there that a read or write could wait for: a pipe, a terminal, a device.
+bool is_no_regular_file(const std::string &path);
+
 }  // namespace tesselctl

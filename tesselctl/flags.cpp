@@ -92,4 +92,20 @@ void Flags::check(const Command &command) const {
   }
 }
 
+std::string words_of(const Settings &settings) {
+  std::string words;
+  for (const Flag &flag : kFlags) {
+    if (!flag.value.empty()) continue;
+    // A flag that changes nothing is set already.
+    Settings with = settings;
+    flag.set(with, {});
+    if (with == settings) words += std::string(flag.name) + " ";
+  }
+  for (const Settings::Filter &filter : settings.filters) {
+    words += "--filter \"" + filter.name + "=" + filter.pattern + "\" ";
+  }
+  if (!settings.sort.empty()) words += "--sort \"" + settings.sort + "\" ";
+  return words;
+}
+
 }  // namespace tesselctl

@@ -55,10 +55,6 @@ using LineSource = std::function<bool(std::string_view &line)>;
 // that is no image or that the device refuses; the lines before it stay loaded.
 LoadCounts load_image(const Device &device, std::string_view file, const LineSource &lines);
 
-// Whole files; a file is replaced in one step. Throw Fault. Return the bytes written.
-LoadCounts load_image_file(const Device &device, const std::string &path);
-uint64_t save_image_file(const Device &device, const std::string &path);
-
 // The first and last lines of an image, by which its version, program and wholeness are known.
 class ImageFrame {
  public:

@@ -1,7 +1,7 @@
 // Images of the whole device: save and load.
 #include "tesselctl/command.hpp"
 #include "tesselctl/device_copy.hpp"
-#include "tesselctl/image.hpp"
+#include "tesselctl/image_file.hpp"
 
 namespace tesselctl {
 
@@ -15,18 +15,22 @@ Word file_word(const Invocation &invocation) {
 
 void save(Context &context, const Invocation &invocation) {
   const Word word = file_word(invocation);
-  const uint64_t bytes = save_image_file(context.device, std::string(word.text));
+  const uint64_t bytes = save_image_file(context.device, context.path(word));
   Row row;
   context.results.done(row.text("file", word.text).number("bytes", bytes), "saved");
 }
 
+LoadCounts load_file(const Context &context, Word word) {
+  return load_image_file(context.device, context.path(word), word.text);
+}
+
 // With --atomic a load that fails takes the device back to how it was.
-LoadCounts load_atomically(const Device &device, Word word) {
-  const std::unique_ptr<Device> before = copy_of(device);
+LoadCounts load_atomically(const Context &context, Word word) {
+  const std::unique_ptr<Device> before = copy_of(context.device);
   try {
-    return load_image_file(device, std::string(word.text));
+    return load_file(context, word);
   } catch (const std::exception &) {
-    copy_back(*before, device);
+    copy_back(*before, context.device);
     throw;
   }
 }
@@ -34,8 +38,8 @@ LoadCounts load_atomically(const Device &device, Word word) {
 void load(Context &context, const Invocation &invocation) {
   const Word word = file_word(invocation);
   const LoadCounts counts = context.settings.atomic && !context.settings.dry_run
-                                ? load_atomically(context.device, word)
-                                : load_image_file(context.device, std::string(word.text));
+                                ? load_atomically(context, word)
+                                : load_file(context, word);
   Row row;
   row.text("file", word.text).number("entries", counts.entries);
   context.results.done(row.number("members", counts.members).number("groups", counts.groups),

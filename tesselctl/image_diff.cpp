@@ -69,9 +69,9 @@ Numbered numbered(std::string_view line) {
 
 }  // namespace
 
-Image Image::of_file(const std::string &path) {
+Image Image::of_file(const std::string &path, std::string_view shown) {
   Image image;
-  image.file_ = path;
+  image.file_ = shown;
   image.text_ = read_input(path);
   image.read();
   return image;

@@ -22,7 +22,7 @@ class Image {
   };
 
   // Both throw Fault; that of a file names file, line and column.
-  static Image of_file(const std::string &path);
+  static Image of_file(const std::string &path, std::string_view shown);
   static Image of_device(const Device &device);
   // Of its profiles alone.
   static Image of_profiles(const Device &device);

@@ -4,6 +4,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cstring>
 #include <set>
 
 #include "soft_state.h"
@@ -314,11 +315,27 @@ Call ImageEditor::default_call() {
   return call.set(group ? "group" : "member", uint64_t{target_of(value_)});
 }
 
+// Whether the default entry has the action that was read already.
+bool ImageEditor::is_default_now() const {
+  p4_pd_entry_handle_t entry = 0;
+  Call call = device_.prepare("table_get_default_entry_handle", table_->name());
+  EntryReader now(device_, *table_);
+  if (!value_.has_action || call.set("entry", &entry).run() != BF_SUCCESS ||
+      now.read(entry) != BF_SUCCESS) {
+    return false;
+  }
+  const bindings::Record &action = *value_.action.action;
+  return now.action == action.number &&
+         memcmp(now.action_record(), value_.action.parameters.data(), action.size) == 0;
+}
+
 void ImageEditor::edit_default(ValueScanner &rest) {
   value_.read(*table_, rest);
   if (value_.has_key) throw Fault(keyword_, "a default entry has no key");
   const Attributes words(rest);
   words.refuse_others({"meter", "packets", "bytes"});
+  // The program's own default may have what no call can set: an index that names no cell.
+  if (edit_ == Edit::add && words.words().empty() && is_default_now()) return;
   const std::optional<p4_pd_bytes_meter_spec_t> meter = words.meter();
   p4_pd_entry_handle_t entry = 0;
   Call call = default_call();

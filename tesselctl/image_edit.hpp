@@ -68,6 +68,7 @@ class ImageEditor {
   Call entry_call();
   Call default_call();
   void edit_entry(ValueScanner &rest);
+  bool is_default_now() const;
   void edit_default(ValueScanner &rest);
   void set_extras(const Attributes &words, uint32_t entry, bool with_ttl);
   void edit_ageing(ValueScanner &rest);

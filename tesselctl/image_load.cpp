@@ -96,9 +96,4 @@ LoadCounts load_image(const Device &device, std::string_view file, const LineSou
   return editor.counts;
 }
 
-LoadCounts load_image_file(const Device &device, const std::string &path) {
-  FileLines lines(path);
-  return load_image(device, path, [&](std::string_view &line) { return lines.next(line); });
-}
-
 }  // namespace tesselctl

@@ -7,7 +7,6 @@
 #include "p4_pd_tessel_switch.h"
 #include "soft_contents.h"
 #include "soft_state.h"
-#include "tesselctl/files.hpp"
 #include "tesselctl/image.hpp"
 #include "tesselctl/number.hpp"
 #include "tesselctl/read_back.hpp"
@@ -293,8 +292,8 @@ class ImageSaver {
       p4_pd_bytes_meter_spec_t spec = {};
       Call call = device_.prepare("meter_read", meter.name);
       check(call.set("index", uint64_t{cell}).set("meter_spec", &spec).run(), {});
-      const bool is_zero = (spec.committed_rate | spec.committed_burst | spec.peak_rate |
-                            spec.peak_burst) == 0;
+      const bool is_zero =
+          (spec.committed_rate | spec.committed_burst | spec.peak_rate | spec.peak_burst) == 0;
       if (is_zero) return;  // as one that was never set
       open("meter", meter.name);
       line("cell {} meter={},{},{},{} type={}", cell, spec.committed_rate, spec.committed_burst,
@@ -374,17 +373,6 @@ class ImageSaver {
 
 void save_image(const Device &device, const TextSink &sink, ImagePart part) {
   ImageSaver(device, sink).save(part);
-}
-
-uint64_t save_image_file(const Device &device, const std::string &path) {
-  FileWriter file(path);
-  uint64_t bytes = 0;
-  save_image(device, [&](std::string_view text) {
-    file.write(text);
-    bytes += text.size();
-  });
-  file.commit();
-  return bytes;
 }
 
 }  // namespace tesselctl

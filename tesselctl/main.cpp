@@ -4,12 +4,16 @@
 #include <CLI/CLI.hpp>
 #include <csignal>
 #include <cstdlib>
+#include <memory>
+#include <optional>
 
+#include "tesselctl/client.hpp"
 #include "tesselctl/command_help.hpp"
 #include "tesselctl/files.hpp"
-#include "tesselctl/image.hpp"
+#include "tesselctl/image_file.hpp"
 #include "tesselctl/library.hpp"
 #include "tesselctl/script.hpp"
+#include "tesselctl/serve.hpp"
 #include "tesselctl/version.hpp"
 
 namespace tesselctl {
@@ -23,10 +27,11 @@ constexpr int kDiffers = 2;
 struct Options {
   bool no_colour = false;
   DeviceOptions device;
+  std::string socket;  // of the server that has the device; empty for a device of our own
+  std::string image;   // where the device comes from and goes to
   Settings settings;
   ScriptOptions script;
   std::string script_file;
-  std::string image;
 };
 
 bool wants_colour(const Options &options, int fd) {
@@ -49,30 +54,46 @@ struct Streams {
   Output errors;
 };
 
-// The device of this process, with the image that it comes from and goes to.
-class ImageDevice {
+// What runs command lines: a server, or a device that lives as long as this, or in an image.
+class Session {
  public:
-  explicit ImageDevice(const Options &options) : device_(options.device), path_(options.image) {
-    if (!path_.empty() && access(path_.c_str(), F_OK) == 0) load_image_file(device_, path_);
+  Session(const Options &options, Streams &streams) : image_(options.image) {
+    if (!options.socket.empty()) {
+      runner_ = std::make_unique<RemoteRunner>(options.socket, streams.out, streams.errors,
+                                               options.settings);
+      return;
+    }
+    device_.emplace(options.device);
+    if (!image_.empty() && access(image_.c_str(), F_OK) == 0) {
+      load_image_file(*device_, image_, image_);
+    }
+    auto local =
+        std::make_unique<LocalRunner>(*device_, streams.out, streams.errors, options.settings);
+    local_ = local.get();
+    runner_ = std::move(local);
   }
-  Device &device() { return device_; }
-  void save_if(bool changed) const {
-    if (!path_.empty() && changed) save_image_file(device_, path_);
+  Runner &runner() { return *runner_; }
+  // Call it when all is done.
+  void save_if_changed() const {
+    if (local_ != nullptr && !image_.empty() && local_->has_changed()) {
+      save_image_file(*device_, image_);
+    }
   }
 
  private:
-  Device device_;
-  std::string path_;
+  std::string image_;
+  std::optional<Device> device_;
+  std::unique_ptr<Runner> runner_;
+  LocalRunner *local_ = nullptr;
 };
 
 int run_file(const Options &options) {
   Streams streams(options);
   const std::string text = read_input(options.script_file);
   const std::string name = options.script_file == "-" ? "standard input" : options.script_file;
-  ImageDevice device(options);
-  LocalRunner runner(device.device(), streams.out, streams.errors, options.settings);
-  const ScriptResult result = run_script(runner, name, text, options.script);
-  device.save_if(runner.has_changed());
+  Session session(options, streams);
+  const ScriptResult result = run_script(session.runner(), name, text, options.script);
+  session.save_if_changed();
   if (!options.settings.json) {
     streams.out.line("{}: {} command{}, {} fault{}", name, result.commands,
                      result.commands == 1 ? "" : "s", result.faults, result.faults == 1 ? "" : "s");
@@ -80,6 +101,13 @@ int run_file(const Options &options) {
   streams.out.flush();
   if (result.faults != 0) return kFault;
   return result.differs ? kDiffers : kDone;
+}
+
+int run_serve(const Options &options) {
+  if (options.socket.empty()) throw Fault("serve needs --socket PATH");
+  Streams streams(options);
+  serve({options.device, options.socket, options.image}, streams.out);
+  return kDone;
 }
 
 // The words of the shell that called, as one line of ours.
@@ -98,11 +126,10 @@ std::string line_of(const std::vector<std::string> &words) {
 
 int run_one(const Options &options, const std::vector<std::string> &words) {
   Streams streams(options);
-  ImageDevice device(options);
-  LocalRunner runner(device.device(), streams.out, streams.errors, options.settings);
+  Session session(options, streams);
   const std::string line = line_of(words);
-  const LineOutcome outcome = runner.run({{}, 0, line});
-  device.save_if(runner.has_changed());
+  const LineOutcome outcome = session.runner().run({{}, 0, line});
+  session.save_if_changed();
   streams.out.flush();
   if (outcome == LineOutcome::fault) return kFault;
   return outcome == LineOutcome::differs ? kDiffers : kDone;
@@ -112,6 +139,8 @@ void add_subcommands(CLI::App &app, Options &options) {
   CLI::App *run = app.add_subcommand("run", "Runs a script of commands");
   run->add_option("FILE", options.script_file, "the script, or - for standard input")->required();
   run->add_flag("-k,--keep-going", options.script.keep_going, "go on behind a line with a fault");
+
+  app.add_subcommand("serve", "Keeps a soft device that others work on, until it is told to end");
 }
 
 void add_options(CLI::App &app, Options &options) {
@@ -122,6 +151,7 @@ void add_options(CLI::App &app, Options &options) {
   app.add_option("--pipes", options.device.pipes, "pipes of the device")
       ->check(CLI::Range(1, 8))
       ->capture_default_str();
+  app.add_option("--socket", options.socket, "work on the device of the server that listens there");
   app.add_option("--image", options.image,
                  "file that the device comes from, if there is one, and goes to when it changed");
   app.add_flag("--json", options.settings.json, "answer in JSON, a line for every command");
@@ -129,6 +159,14 @@ void add_options(CLI::App &app, Options &options) {
   app.add_flag("-v,--verbose", options.settings.verbose, "tell what each command changed");
   app.add_flag("--trace", options.settings.trace, "print the C calls behind the commands");
   app.add_flag("--no-color", options.no_colour, "never print in colour (also: NO_COLOR)");
+}
+
+// The device of a server is what the server made it.
+void check_socket(const CLI::App &app, const Options &options) {
+  if (options.socket.empty() || app.got_subcommand("serve")) return;
+  for (const char *name : {"--device", "--pipes", "--image"}) {
+    if (app.count(name) > 0) throw Fault(fmt::format("{} is for the server to choose", name));
+  }
 }
 
 int run_tool(int argc, char **argv) {
@@ -145,6 +183,8 @@ int run_tool(int argc, char **argv) {
   } catch (const CLI::ParseError &error) {
     return app.exit(error) == 0 ? kDone : kFault;
   }
+  check_socket(app, options);
+  if (app.got_subcommand("serve")) return run_serve(options);
   if (app.got_subcommand("run")) return run_file(options);
   return run_one(options, app.remaining());
 }

@@ -10,7 +10,8 @@ namespace tesselctl {
 
 void Output::write(std::string_view text) {
   text_ += text;
-  if (stream_ != nullptr && text_.size() > 1u << 16) flush();
+  const bool goes_out = stream_ != nullptr || sink_ != nullptr;
+  if (goes_out && text_.size() > 1u << 16) flush();
 }
 
 bool Output::try_flush() noexcept {
@@ -21,6 +22,7 @@ bool Output::try_flush() noexcept {
 }
 
 void Output::flush() {
+  if (sink_ && !text_.empty()) sink_(take());
   if (!try_flush()) throw Fault(fmt::format("cannot write the output: {}", std::strerror(errno)));
 }
 

@@ -4,6 +4,7 @@
 #include <fmt/format.h>
 
 #include <cstdio>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,9 @@ class Output {
   // Writes to the stream, which stays the caller's. What was not flushed when it is destroyed is
   // written then, and nobody hears of an error.
   Output(std::FILE *stream, bool colour) : stream_(stream), colour_(colour) {}
+  // Gives it to the sink in pieces of some 64 KiB; the sink throws Fault when it cannot take more.
+  // What was not flushed when it is destroyed is lost.
+  explicit Output(std::function<void(std::string_view)> sink) : sink_(std::move(sink)) {}
   ~Output() { try_flush(); }
   Output(const Output &) = delete;
   Output &operator=(const Output &) = delete;
@@ -32,6 +36,7 @@ class Output {
   std::string styled(Style style, std::string_view text) const;
   bool colour() const { return colour_; }
   bool is_stream() const { return stream_ != nullptr; }
+  void set_colour(bool colour) { colour_ = colour; }
 
   // Throws Fault when not everything could be written.
   void flush();
@@ -41,6 +46,7 @@ class Output {
   bool try_flush() noexcept;
 
   std::FILE *stream_ = nullptr;
+  std::function<void(std::string_view)> sink_;
   bool colour_ = false;
   std::string text_;
 };

@@ -17,6 +17,7 @@ struct Settings {
   struct Filter {
     std::string name;
     std::string pattern;  // '*' stands for any characters
+    bool operator==(const Filter &) const = default;
   };
   bool verbose = false;
   bool json = false;
@@ -28,6 +29,8 @@ struct Settings {
   bool atomic = false;
   std::vector<Filter> filters = {};
   std::string sort = {};
+
+  bool operator==(const Settings &) const = default;
 };
 
 // The version of the JSON that commands print; docs/json.md and docs/tesselctl.schema.json tell

@@ -5,6 +5,7 @@
 #include "soft_sdk.h"
 #include "tesselctl/entry_line.hpp"
 #include "tesselctl/files.hpp"
+#include "tesselctl/interrupt.hpp"
 #include "tesselctl/progress.hpp"
 #include "tesselctl/route_file.hpp"
 #include "tesselctl/status.hpp"
@@ -190,7 +191,9 @@ class RouteLoad {
     for (const LoadedFile &file : files_) {
       for (const Route &route : file.routes.*routes_) {
         visit(file, route, at);
-        if (++at % kBatch == 0) progress.update(at);
+        if (++at % kBatch != 0) continue;
+        progress.update(at);
+        check_interrupt();
       }
     }
   }

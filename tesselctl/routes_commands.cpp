@@ -14,7 +14,7 @@ void routes(Context &context, const Invocation &invocation) {
   size_t files = 0;
   for (const Word &word : invocation.arguments) {
     if (word.text.find('=') != std::string_view::npos) break;
-    options.files.emplace_back(word.text);
+    options.files.push_back(context.path(word));
     ++files;
   }
   need_argument(invocation, 0, "the name of a file");

@@ -19,7 +19,8 @@ std::string LocalRunner::ask(std::string_view line) {
   Context context = {.device = context_.device,
                      .out = answer,
                      .defaults = {.terse = true},
-                     .labels = context_.labels};
+                     .labels = context_.labels,
+                     .directory = context_.directory};
   try {
     run_line(context, line);
   } catch (const Fault &) {

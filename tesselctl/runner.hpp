@@ -16,7 +16,7 @@ struct SourceLine {
 };
 
 // differs: done, and what was compared is not equal.
-enum class LineOutcome { blank, done, differs, fault };
+enum class LineOutcome { blank, done, fault, differs };
 
 class Runner {
  public:

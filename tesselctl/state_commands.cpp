@@ -25,8 +25,8 @@ TableInfo ageing_table(const Invocation &invocation) {
 }
 
 void note_expired(bf_device_id_t, pipe_object_handle_t table, pipe_entry_handle_t entry,
-                  void *context) {
-  static_cast<Context *>(context)->expired.push_back({table, entry});
+                  void *events) {
+  static_cast<Events *>(events)->expired.push_back({table, entry});
 }
 
 void age_enable(Context &context, const Invocation &invocation) {
@@ -43,7 +43,7 @@ void age_enable(Context &context, const Invocation &invocation) {
   parameters.default_ttl_ms = milliseconds("ttl", 0);
   Call listen = context.device.prepare("idle_register_tmo_cb", table.name());
   listen.set("callback", reinterpret_cast<const void *>(&note_expired));
-  listen.set("client_data", &context);
+  listen.set("client_data", &context.device.events());
   check(listen.run(), invocation.arguments[0]);
   Call enable = context.device.prepare("idle_tmo_enable", table.name());
   check(enable.set("params", &parameters).run(), invocation.arguments[0]);
@@ -63,9 +63,10 @@ void age_advance(Context &context, const Invocation &invocation) {
   const Word word = need_argument(invocation, 0, "a number of milliseconds");
   refuse_arguments_from(invocation, 1);
   constexpr uint64_t kYear = 366ull * 24 * 3600 * 1000;
-  context.expired.clear();
+  std::vector<ExpiredEntry> &all_expired = context.device.events().expired;
+  all_expired.clear();
   soft_clock_advance(parse_limited(word, kYear, "the time"));
-  for (const ExpiredEntry &expired : context.expired) {
+  for (const ExpiredEntry &expired : all_expired) {
     for (const bindings::Record &record : tables()) {
       if (record.number != expired.table) continue;
       const TableInfo table = resolve_table({record.name, 0});
@@ -93,7 +94,7 @@ void state_log(Context &context, const Invocation &invocation) {
   check(soft_device_log(context.device.id(), document.get()), word);
   const std::unique_ptr<char, DeleteJson> text(cJSON_Print(document.get()));
   if (!text) throw Fault(word, "there is no memory for the text");
-  write_file(std::string(word.text), std::string(text.get()) + "\n");
+  write_file(context.path(word), std::string(text.get()) + "\n");
   Row row;
   context.results.done(row.text("file", word.text), "written");
 }
@@ -114,7 +115,7 @@ std::unique_ptr<cJSON, DeleteJson> parse_document(Word file, const std::string &
 void state_restore(Context &context, const Invocation &invocation) {
   const Word word = need_argument(invocation, 0, "the name of a file");
   refuse_arguments_from(invocation, 1);
-  const std::string text = read_input(std::string(word.text));
+  const std::string text = read_input(context.path(word));
   const auto document = parse_document(word, text);
   check(soft_device_restore(context.device.id(), document.get()), word);
   Row row;

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+#include "tesselctl/image.hpp"
+
+namespace tesselctl {
+
+// The image of the device replaces the file, whole or not at all. The number of bytes. Throws
+// Fault.
+uint64_t save_image_file(const Device &device, const std::string &path);
+// Adds what the file holds to the device; faults name it as shown. See load_image.
+LoadCounts load_image_file(const Device &device, const std::string &path, std::string_view shown);
+
+}  // namespace tesselctl
