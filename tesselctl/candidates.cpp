@@ -146,6 +146,20 @@ const Shape *Subject::action_shape_of(std::string_view action) const {
   return known ? &action_shape(action) : nullptr;
 }
 
+void for_each_parameter(const Subject &subject, const std::function<void(const Field &)> &visit) {
+  std::vector<std::string_view> seen;
+  const auto visit_action = [&](const soft_action_t &action) {
+    for (const Field *field : action_shape(action.name).shown()) {
+      if (std::find(seen.begin(), seen.end(), field->label) != seen.end()) continue;
+      seen.push_back(field->label);
+      visit(*field);
+    }
+  };
+  if (!subject.table) return;
+  std::for_each_n(subject.table->description->actions, subject.table->description->action_count,
+                  visit_action);
+}
+
 // ---- Fields and parameters ----
 
 const Field *find_field(const Shape &shape, std::string_view name) {

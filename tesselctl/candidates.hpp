@@ -47,6 +47,9 @@ struct Subject {
 };
 Subject find_subject(const std::vector<Argument> &grammar, Word word);
 
+// The parameters of all its actions, each name once.
+void for_each_parameter(const Subject &subject, const std::function<void(const Field &)> &visit);
+
 // Null for an unknown or ambiguous name.
 const Field *find_field(const Shape &shape, std::string_view name);
 // "32 bits, prefix, 10.0.0.0/8": of a key with its kind of match, or of a parameter.

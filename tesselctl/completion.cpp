@@ -76,7 +76,9 @@ class Completer {
   void note_behind(std::string_view behind) {
     // What is left of the word under the cursor goes with that word.
     while (!behind.empty() && !is_blank(behind.front())) behind.remove_prefix(1);
-    for (const Word &word : cut(behind).words) note_given(word);
+    const Cut rest = cut(behind);
+    for (const Word &word : rest.words) note_given(word);
+    if (!rest.in_comment) note_given({behind.substr(rest.start), 0});
   }
   void note_given(Word word) {
     const size_t equals = word.text.find('=');
@@ -224,7 +226,7 @@ void Completer::complete_flag_value(std::string_view flag) {
 
 // The names of what the command answers.
 void Completer::complete_answer_name(bool with_equals) {
-  if (current_.find('=') != std::string_view::npos) {
+  if (offers_.typed().find('=') != std::string_view::npos) {
     return offers_.hint(meaning_of_value("NAME=PATTERN"));
   }
   const std::string_view end = with_equals ? "=" : "";
@@ -234,6 +236,9 @@ void Completer::complete_answer_name(bool with_equals) {
   if (!subject_.table) return offers_.hint("a name of the answer");
   const TableInfo &table = *subject_.table;
   for (const Field *field : table.shape().shown()) offer(field->label, field_help(*field, true));
+  for_each_parameter(subject_, [&](const Field &field) {
+    if (!table.shape().has_field_named(field.label)) offer(field.label, field_help(field, false));
+  });
   offer("entry", meaning_of_name("entry"));
   if (table.has_priority()) offer("priority", meaning_of_name("priority"));
   if (table.ages()) offer("ttl", meaning_of_name("ttl"));

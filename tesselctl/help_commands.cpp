@@ -61,7 +61,7 @@ void help(Context &context, const Invocation &invocation) {
 }
 
 constexpr Command kCommands[] = {
-    {"help", "[COMMAND]", "lists the commands, or explains one", help},
+    {"help", "[COMMAND...]", "lists the commands, or explains one", help},
     {.name = "complete",
      .arguments = "LINE [cursor=N]",
      .summary = "tells what can stand at a point of a line",

@@ -83,7 +83,7 @@ TEST_F(CompletionTest, HandlesThatExist) {
   run("add nextHop nextHop=1 action=setNextHopDetails dmac=2 domain=0 as=hop");
   EXPECT_EQ(at("delete nextHop entry="), "21: $hop 1");
   EXPECT_EQ(help_of("delete nextHop entry=", "1"),
-            "nextHop=1 action=setNextHopDetails domain=0 dmac=00:00:00:00:00:02");
+            "nextHop=1 action=setNextHopDetails dmac=00:00:00:00:00:02 domain=0");
   EXPECT_EQ(at("delete nextHop entry=$"), "21: $hop");
   run("group add ecmpMemberActionProfile size=4");
   EXPECT_EQ(at("add ecmpGroup ecmpGroup=7 group=1"), "32: 1");
@@ -99,8 +99,8 @@ TEST_F(CompletionTest, HandlesThatExist) {
 
 TEST_F(CompletionTest, OptionsChoicesAndFiles) {
   EXPECT_EQ(at("show nextHop --s"), "13: --sort");
-  EXPECT_EQ(at("show nextHop --sort d"), "20: domain dmac");
-  EXPECT_EQ(at("show nextHop --filter=d"), "22: domain= dmac=");
+  EXPECT_EQ(at("show nextHop --sort d"), "20: dmac domain");
+  EXPECT_EQ(at("show nextHop --filter=d"), "22: dmac= domain=");
   EXPECT_EQ(at("add nextHop --d"), "12: --dry-run");
   EXPECT_EQ(at("add --dry-run nextHop --d"), "22:");
   EXPECT_EQ(at("counter read kf1Count source="), "29: hardware software");
