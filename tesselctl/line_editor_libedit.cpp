@@ -4,20 +4,17 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <atomic>
-#include <cerrno>
 #include <clocale>
 #include <cstdio>
 #include <cwchar>
 
 #include "tesselctl/line_editor.hpp"
+#include "tesselctl/line_input.hpp"
 #include "tesselctl/utf8.hpp"
 
 namespace tesselctl {
 
 namespace {
-
-std::atomic<bool> interrupted = false;
 
 // More candidates than that stand in columns, without their help.
 constexpr size_t kMostWithHelp = 24;
@@ -63,6 +60,7 @@ class EditedLines : public LineEditor {
   std::string prompt_;
   EditLine *editor_;
   ::History *history_;
+  bool interrupted_ = false;
   std::mbstate_t state_{};  // of a character that was read in part
 };
 
@@ -100,10 +98,9 @@ int EditedLines::read_character(EditLine *editor, wchar_t *character) {
   EditedLines &self = of(editor);
   while (true) {
     char byte = 0;
-    const ssize_t count = ::read(STDIN_FILENO, &byte, 1);
-    if (interrupted) return -1;
-    if (count < 0 && errno == EINTR) continue;
-    if (count <= 0) return static_cast<int>(count);
+    const Input input = read_input_byte(byte);
+    self.interrupted_ = input == Input::interrupted;
+    if (input != Input::byte) return self.interrupted_ ? -1 : 0;
     const size_t used = std::mbrtowc(character, &byte, 1, &self.state_);
     if (used == static_cast<size_t>(-2)) continue;
     if (used == static_cast<size_t>(-1)) {
@@ -115,11 +112,12 @@ int EditedLines::read_character(EditLine *editor, wchar_t *character) {
 }
 
 LineEnd EditedLines::read(std::string &line) {
-  interrupted = false;
+  begin_line();
+  interrupted_ = false;
   state_ = {};
   int count = 0;
   const char *text = el_gets(editor_, &count);
-  if (interrupted) {
+  if (interrupted_) {
     // What was typed goes with the line.
     el_reset(editor_);
     return LineEnd::interrupted;
@@ -231,6 +229,5 @@ std::unique_ptr<LineEditor> make_line_editor(LineHost host) {
   return std::make_unique<EditedLines>(std::move(host));
 }
 bool has_line_editing() { return true; }
-void interrupt_line() noexcept { interrupted = true; }
 
 }  // namespace tesselctl
