@@ -18,6 +18,7 @@ namespace {
 
 // More candidates than that stand in columns, without their help.
 constexpr size_t kMostWithHelp = 24;
+constexpr char kEndOfInput = 4;
 // In a prompt, what stands between two of these takes no room.
 constexpr char kNoWidth = '\1';
 
@@ -101,6 +102,8 @@ int EditedLines::read_character(EditLine *editor, wchar_t *character) {
     const Input input = read_input_byte(byte);
     self.interrupted_ = input == Input::interrupted;
     if (input != Input::byte) return self.interrupted_ ? -1 : 0;
+    // A Ctrl-D that was typed before the editor took the terminal comes as a zero.
+    if (byte == 0) byte = kEndOfInput;
     const size_t used = std::mbrtowc(character, &byte, 1, &self.state_);
     if (used == static_cast<size_t>(-2)) continue;
     if (used == static_cast<size_t>(-1)) {

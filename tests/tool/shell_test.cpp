@@ -57,11 +57,19 @@ class Session {
     return true;
   }
   const std::string &seen() const { return seen_; }
+  // -1 when the tool does not end by itself in time.
   int exit_code() {
     while (read_some()) {
     }
     int status = -1;
-    waitpid(child_, &status, 0);
+    const auto deadline = steady_clock::now() + std::chrono::seconds(30);
+    while (waitpid(child_, &status, WNOHANG) == 0) {
+      if (steady_clock::now() > deadline) {
+        ADD_FAILURE() << "the tool goes on behind: " << unread_;
+        return -1;
+      }
+      poll(nullptr, 0, 5);
+    }
     child_ = -1;
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   }
