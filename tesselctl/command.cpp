@@ -29,6 +29,7 @@ std::span<const std::span<const Command>> command_topics() {
       compare_commands(),        //
       routes_commands(),         //
       introspection_commands(),  //
+      help_commands(),           //
   };
   return topics;
 }
@@ -66,7 +67,7 @@ const Command &find_command(Words words, Invocation &invocation) {
   std::vector<std::string_view> names;
   for_each_command([&](const Command &command) {
     const std::string_view first = first_word(command.name);
-    names.push_back(first);
+    if (!command.hidden) names.push_back(first);
     if (first != words[0].text) return;
     first_is_known = true;
     if (first.size() == command.name.size()) {

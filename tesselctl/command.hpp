@@ -55,6 +55,7 @@ struct Command {
   void (*run)(Context &context, const Invocation &invocation);  // throws Fault
   Kind kind = Kind::asks;
   std::string_view flags = {};  // further "--" words, separated by blanks: "--raw"
+  bool hidden = false;          // for programs: no help lists it
 };
 
 // All commands by topic; every span is a topic.
@@ -77,6 +78,10 @@ struct Flags {
 Flags take_flags(std::vector<Word> &words, Settings &settings);
 // The settings as such words, from which take_flags makes the same settings.
 std::string words_of(const Settings &settings);
+// What stands behind such a word, in capitals, and what it does; empty for an unknown one.
+std::string_view flag_value(std::string_view name);
+std::string_view flag_help(std::string_view name);
+
 
 // ---- For commands ----
 
@@ -104,5 +109,6 @@ std::span<const Command> image_commands();
 std::span<const Command> compare_commands();
 std::span<const Command> routes_commands();
 std::span<const Command> introspection_commands();
+std::span<const Command> help_commands();
 
 }  // namespace tesselctl

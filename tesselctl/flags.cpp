@@ -10,6 +10,7 @@ struct Flag {
   std::string_view name;
   std::string_view value;  // what stands behind it, in capitals; empty for nothing
   void (*set)(Settings &settings, Word value);
+  std::string_view help;  // for people
 };
 
 void set_filter(Settings &settings, Word value) {
@@ -18,24 +19,48 @@ void set_filter(Settings &settings, Word value) {
 }
 
 constexpr Flag kFlags[] = {
-    {"--json", {}, [](Settings &settings, Word) { settings.json = true; }},
-    {"--terse", {}, [](Settings &settings, Word) { settings.terse = true; }},
-    {"--trace", {}, [](Settings &settings, Word) { settings.trace = true; }},
-    {"--verbose", {}, [](Settings &settings, Word) { settings.verbose = true; }},
-    {"--dry-run", {}, [](Settings &settings, Word) { settings.dry_run = true; }},
-    {"--count", {}, [](Settings &settings, Word) { settings.count = true; }},
-    {"--filter", "NAME=PATTERN", set_filter},
-    {"--sort", "NAME", [](Settings &settings, Word value) { settings.sort = value.text; }},
-    {"--raw", {}, [](Settings &settings, Word) { settings.raw = true; }},
-    {"--atomic", {}, [](Settings &settings, Word) { settings.atomic = true; }},
+    {"--json", {}, [](Settings &settings, Word) { settings.json = true; }, "answers in JSON"},
+    {"--terse",
+     {},
+     [](Settings &settings, Word) { settings.terse = true; },
+     "one row a line, without columns"},
+    {"--trace",
+     {},
+     [](Settings &settings, Word) { settings.trace = true; },
+     "prints the C calls behind the command"},
+    {"--verbose",
+     {},
+     [](Settings &settings, Word) { settings.verbose = true; },
+     "tells what the command changed"},
+    {"--dry-run",
+     {},
+     [](Settings &settings, Word) { settings.dry_run = true; },
+     "works on a copy of the device"},
+    {"--count",
+     {},
+     [](Settings &settings, Word) { settings.count = true; },
+     "counts the rows instead"},
+    {"--filter", "NAME=PATTERN", set_filter, "shows the rows whose value is so"},
+    {"--sort", "NAME", [](Settings &settings, Word value) { settings.sort = value.text; },
+     "sorts the rows by a value"},
+    {"--raw", {}, [](Settings &settings, Word) { settings.raw = true; }, "shows values as numbers"},
+    {"--atomic",
+     {},
+     [](Settings &settings, Word) { settings.atomic = true; },
+     "changes all or nothing"},
 };
 
-const Flag &find_flag(Word name) {
-  Nearest near(name.text);
+const Flag *try_find_flag(std::string_view name) {
   for (const Flag &flag : kFlags) {
-    if (flag.name == name.text) return flag;
-    near.consider(flag.name);
+    if (flag.name == name) return &flag;
   }
+  return nullptr;
+}
+
+const Flag &find_flag(Word name) {
+  if (const Flag *flag = try_find_flag(name.text)) return *flag;
+  Nearest near(name.text);
+  for (const Flag &flag : kFlags) near.consider(flag.name);
   throw Fault(name, "no option has this name", near.name());
 }
 
@@ -53,6 +78,16 @@ bool has_word(std::string_view words, std::string_view word) {
 }
 
 }  // namespace
+
+std::string_view flag_value(std::string_view name) {
+  const Flag *flag = try_find_flag(name);
+  return flag == nullptr ? std::string_view() : flag->value;
+}
+
+std::string_view flag_help(std::string_view name) {
+  const Flag *flag = try_find_flag(name);
+  return flag == nullptr ? std::string_view() : flag->help;
+}
 
 Flags take_flags(std::vector<Word> &words, Settings &settings) {
   Flags flags;

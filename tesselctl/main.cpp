@@ -10,10 +10,12 @@
 #include "tesselctl/client.hpp"
 #include "tesselctl/command_help.hpp"
 #include "tesselctl/files.hpp"
+#include "tesselctl/history.hpp"
 #include "tesselctl/image_file.hpp"
 #include "tesselctl/library.hpp"
 #include "tesselctl/script.hpp"
 #include "tesselctl/serve.hpp"
+#include "tesselctl/shell.hpp"
 #include "tesselctl/version.hpp"
 
 namespace tesselctl {
@@ -32,6 +34,7 @@ struct Options {
   Settings settings;
   ScriptOptions script;
   std::string script_file;
+  ShellOptions shell = {.history = default_history_path()};
 };
 
 bool wants_colour(const Options &options, int fd) {
@@ -41,8 +44,11 @@ bool wants_colour(const Options &options, int fd) {
 }
 
 std::string version_text() {
-  return fmt::format("tesselctl {} (program {}, C interface {})", kVersion, program().name,
-                     kInterfaceVersion);
+  return fmt::format(
+      "tesselctl {}\n"
+      "library libp4_pd_{}.so.{}\n"
+      "contracts: C interface {}, JSON {}",
+      kVersion, program().name, kLibraryVersion, kInterfaceVersion, kJsonVersion);
 }
 
 // Where a command line comes from and goes to.
@@ -135,6 +141,19 @@ int run_one(const Options &options, const std::vector<std::string> &words) {
   return outcome == LineOutcome::differs ? kDiffers : kDone;
 }
 
+// Without a command: a shell on a terminal, a script otherwise.
+int run_input(Options &options) {
+  if (isatty(STDIN_FILENO) == 0) {
+    options.script_file = "-";
+    return run_file(options);
+  }
+  Streams streams(options);
+  Session session(options, streams);
+  run_shell(session.runner(), streams.out, options.shell);
+  session.save_if_changed();
+  return kDone;
+}
+
 void add_subcommands(CLI::App &app, Options &options) {
   CLI::App *run = app.add_subcommand("run", "Runs a script of commands");
   run->add_option("FILE", options.script_file, "the script, or - for standard input")->required();
@@ -158,6 +177,8 @@ void add_options(CLI::App &app, Options &options) {
   app.add_flag("--terse", options.settings.terse, "answer with one row a line, without columns");
   app.add_flag("-v,--verbose", options.settings.verbose, "tell what each command changed");
   app.add_flag("--trace", options.settings.trace, "print the C calls behind the commands");
+  app.add_option("--history", options.shell.history, "file of the shell's history")
+      ->type_name("FILE");
   app.add_flag("--no-color", options.no_colour, "never print in colour (also: NO_COLOR)");
 }
 
@@ -186,6 +207,7 @@ int run_tool(int argc, char **argv) {
   check_socket(app, options);
   if (app.got_subcommand("serve")) return run_serve(options);
   if (app.got_subcommand("run")) return run_file(options);
+  if (app.remaining().empty()) return run_input(options);
   return run_one(options, app.remaining());
 }
 

@@ -1,5 +1,7 @@
 #include "tesselctl/output.hpp"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -16,9 +18,15 @@ void Output::write(std::string_view text) {
 
 bool Output::try_flush() noexcept {
   if (stream_ == nullptr || text_.empty()) return true;
-  const bool written = fwrite(text_.data(), 1, text_.size(), stream_) == text_.size();
+  // Not by the stream's buffer: a signal that comes while a terminal is slow would lose a part.
+  bool good = fflush(stream_) == 0;
+  for (size_t at = 0; good && at < text_.size();) {
+    const ssize_t count = ::write(fileno(stream_), text_.data() + at, text_.size() - at);
+    if (count > 0) at += static_cast<size_t>(count);
+    good = count > 0 || (count < 0 && errno == EINTR);
+  }
   text_.clear();
-  return fflush(stream_) == 0 && written;
+  return good;
 }
 
 void Output::flush() {

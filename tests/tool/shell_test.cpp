@@ -1,0 +1,233 @@
+// The shell as a user meets it: the built tool on a pseudo-terminal.
+#include <fcntl.h>
+#include <poll.h>
+#include <pty.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <fstream>
+#include <sstream>
+
+#include "tesselctl/line_editor.hpp"
+#include "tests/tool/tool_fixture.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+using std::chrono::steady_clock;
+
+class Session {
+ public:
+  explicit Session(const std::string &history) {
+    const winsize size = {.ws_row = 24, .ws_col = 120, .ws_xpixel = 0, .ws_ypixel = 0};
+    child_ = forkpty(&terminal_, nullptr, nullptr, &size);
+    if (child_ != 0) return;
+    setenv("TERM", "xterm", 1);
+    setenv("NO_COLOR", "1", 1);
+    setenv("TESSELCTL_HISTORY", history.c_str(), 1);
+    execl(TOOL, "tesselctl", nullptr);
+    _exit(127);
+  }
+  ~Session() {
+    close(terminal_);
+    if (child_ > 0) kill(child_, SIGKILL);
+    if (child_ > 0) waitpid(child_, nullptr, 0);
+  }
+  Session(const Session &) = delete;
+  Session &operator=(const Session &) = delete;
+
+  void type(std::string_view text) {
+    ASSERT_EQ(write(terminal_, text.data(), text.size()), static_cast<ssize_t>(text.size()));
+  }
+  // Reads on until the text comes; what came is in seen() then, up to its end.
+  bool sees(std::string_view text) {
+    const auto deadline = steady_clock::now() + std::chrono::seconds(30);
+    size_t at = std::string::npos;
+    while ((at = unread_.find(text)) == std::string::npos) {
+      if (steady_clock::now() > deadline || !read_some()) {
+        ADD_FAILURE() << "no '" << text << "' in: " << unread_;
+        return false;
+      }
+    }
+    seen_ = unread_.substr(0, at + text.size());
+    unread_.erase(0, at + text.size());
+    return true;
+  }
+  const std::string &seen() const { return seen_; }
+  // -1 when the tool does not end by itself in time.
+  int exit_code() {
+    while (read_some()) {
+    }
+    int status = -1;
+    const auto deadline = steady_clock::now() + std::chrono::seconds(30);
+    while (waitpid(child_, &status, WNOHANG) == 0) {
+      if (steady_clock::now() > deadline) {
+        ADD_FAILURE() << "the tool goes on behind: " << unread_;
+        return -1;
+      }
+      poll(nullptr, 0, 5);
+    }
+    child_ = -1;
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  }
+
+ private:
+  // False once nothing more can come.
+  bool read_some() {
+    pollfd wait = {terminal_, POLLIN, 0};
+    if (poll(&wait, 1, 30000) <= 0) return false;
+    char bytes[4096];
+    const ssize_t count = read(terminal_, bytes, sizeof bytes);
+    if (count > 0) unread_.append(bytes, static_cast<size_t>(count));
+    return count > 0;
+  }
+
+  int terminal_ = -1;
+  pid_t child_ = -1;
+  std::string unread_;
+  std::string seen_;
+};
+
+class ShellTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    folder_ = ::testing::TempDir() + "tesselctl_shell." + std::to_string(getpid());
+    history_ = folder_ + "/deep/history";
+  }
+  void TearDown() override {
+    unlink(history_.c_str());
+    rmdir((folder_ + "/deep").c_str());
+    unlink((folder_ + "/routes").c_str());
+    rmdir(folder_.c_str());
+  }
+  std::string folder_;
+  std::string history_;
+};
+
+constexpr char kPrompt[] = "tesselctl> ";
+#define NEEDS_LINE_EDITING() \
+  if (!has_line_editing()) GTEST_SKIP() << "this build has no line editing"
+
+TEST_F(ShellTest, CompletesACommandATableAndAField) {
+  NEEDS_LINE_EDITING();
+  Session shell(history_);
+  ASSERT_TRUE(shell.sees(kPrompt));
+  shell.type("fi\t");
+  ASSERT_TRUE(shell.sees("nd "));
+  shell.type("ipv4S\t");
+  ASSERT_TRUE(shell.sees("hortMaskLpm "));
+  shell.type("vr\t1 DI\t");
+  ASSERT_TRUE(shell.sees("dip="));
+  shell.type("10.0.0.0/8\r");
+  ASSERT_TRUE(shell.sees("BF_OBJECT_NOT_FOUND"));
+  ASSERT_TRUE(shell.sees(kPrompt));
+  // Nothing to insert: the candidates are listed, and the line comes back.
+  shell.type("age \t");
+  ASSERT_TRUE(shell.sees("disable  ends ageing"));
+  ASSERT_TRUE(shell.sees("tesselctl> age "));
+}
+
+TEST_F(ShellTest, ExplainsWhatCanStandAtThePoint) {
+  NEEDS_LINE_EDITING();
+  Session shell(history_);
+  ASSERT_TRUE(shell.sees(kPrompt));
+  shell.type("add ipv4ShortMaskLpm vrfId=1 ?");
+  ASSERT_TRUE(shell.sees("dip=     32 bits, prefix, 10.0.0.0/8"));
+  ASSERT_TRUE(shell.sees("action=  what is done on a hit"));
+  ASSERT_TRUE(shell.sees("tesselctl> add ipv4ShortMaskLpm vrfId=1 "));
+  shell.type("dip=?");
+  ASSERT_TRUE(shell.sees("  32 bits, prefix, 10.0.0.0/8"));
+}
+
+TEST_F(ShellTest, KeepsItsHistoryForTheUserAlone) {
+  NEEDS_LINE_EDITING();
+  {
+    Session first(history_);
+    ASSERT_TRUE(first.sees(kPrompt));
+    first.type("count nextHop\r");
+    ASSERT_TRUE(first.sees("nextHop        0"));
+    ASSERT_TRUE(first.sees(kPrompt));
+    first.type("\x04");
+    EXPECT_EQ(first.exit_code(), 0);
+  }
+  struct stat status = {};
+  ASSERT_EQ(stat(history_.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777u, 0600u);
+  Session second(history_);
+  ASSERT_TRUE(second.sees(kPrompt));
+  second.type("\x1b[A\r");
+  ASSERT_TRUE(second.sees("nextHop        0"));
+}
+
+TEST_F(ShellTest, AnInterruptClearsTheLine) {
+  Session shell(history_);
+  ASSERT_TRUE(shell.sees(kPrompt));
+  shell.type("age advance");
+  ASSERT_TRUE(shell.sees("age advance"));
+  shell.type("\x03");
+  ASSERT_TRUE(shell.sees(kPrompt));
+  shell.type("nosuch\r");
+  ASSERT_TRUE(shell.sees("'nosuch': no command has this name"));
+  ASSERT_TRUE(shell.sees(kPrompt));
+  shell.type("quit\r");
+  EXPECT_EQ(shell.exit_code(), 0);
+}
+
+// The rows fill the terminal's buffer long before the last, so the command runs while nobody reads.
+TEST_F(ShellTest, AnInterruptEndsALongCommand) {
+  constexpr int kRoutes = 20000;
+  mkdir(folder_.c_str(), 0700);
+  std::ofstream routes(folder_ + "/routes");
+  for (int i = 0; i < kRoutes; ++i) routes << "10." << i / 256 << "." << i % 256 << ".0/24\n";
+  routes.close();
+  Session shell(history_);
+  ASSERT_TRUE(shell.sees(kPrompt));
+  shell.type("routes " + folder_ + "/routes\r");
+  ASSERT_TRUE(shell.sees("0 errors"));
+  ASSERT_TRUE(shell.sees(kPrompt));
+  shell.type("show ipv4ShortMaskLpm --terse\r");
+  ASSERT_TRUE(shell.sees("ipv4ShortMaskLpm entry=1 "));
+  shell.type("\x03");
+  ASSERT_TRUE(shell.sees("interrupted"));
+  EXPECT_EQ(shell.seen().find("dip=10.78.31.0/24"), std::string::npos) << "the last route";
+  ASSERT_TRUE(shell.sees(kPrompt));
+  shell.type("count ipv4ShortMaskLpm\r");
+  ASSERT_TRUE(shell.sees("20000"));
+}
+
+TEST(Manual, HasEveryCommandAndOption) {
+  std::stringstream text;
+  text << std::ifstream(SHARE_DIR "/man/tesselctl.1").rdbuf();
+  std::string page = text.str();
+  for (size_t at; (at = page.find("\\-")) != std::string::npos;) page.erase(at, 1);
+  for (const std::span<const Command> topic : command_topics()) {
+    for (const Command &command : topic) {
+      if (command.hidden) continue;
+      std::string want = ".TP\n.B " + std::string(command.name) + "\n";
+      if (!command.arguments.empty()) want += ".I " + std::string(command.arguments) + "\n";
+      EXPECT_NE(page.find(want), std::string::npos) << want;
+    }
+  }
+  FILE *help = popen(TOOL " --help", "r");
+  ASSERT_NE(help, nullptr);
+  size_t options = 0;
+  for (char line[512]; fgets(line, sizeof line, help) != nullptr;) {
+    std::string_view word = line;
+    const size_t at = word.find("--");
+    // Those of the tool; the commands stand below, further to the right.
+    if (at == std::string_view::npos || at > 6) continue;
+    word.remove_prefix(at);
+    word = word.substr(0, word.find_first_of(" ,\n"));
+    EXPECT_NE(page.find(word), std::string::npos) << word;
+    ++options;
+  }
+  EXPECT_EQ(pclose(help), 0);
+  EXPECT_GE(options, 8u);
+}
+
+}  // namespace
+
+}  // namespace tesselctl
