@@ -82,7 +82,6 @@ std::string words_of(const Settings &settings);
 std::string_view flag_value(std::string_view name);
 std::string_view flag_help(std::string_view name);
 
-
 // ---- For commands ----
 
 // The argument at that position, or the end of them all. what is what it should be.
