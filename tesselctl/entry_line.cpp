@@ -67,7 +67,7 @@ void EntryLine::read_word(const Context &context, const Assignment &word) {
   if (action_ && action_->shape().has_field_named(word.name.text)) return action_->set(word);
   if (read_option(context, word)) return;
   if (action_) return action_->set(word);
-  key_.set_key(word);
+  key_.set(word);
 }
 
 bool EntryLine::read_option(const Context &context, const Assignment &word) {

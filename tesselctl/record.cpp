@@ -4,33 +4,13 @@
 
 namespace tesselctl {
 
-const Field &RecordWriter::find_free(const Assignment &word) const {
+void RecordWriter::set(const Assignment &word) {
   const Field &field = shape_->find(word.name, what_);
   for (const size_t position : field.positions) {
     if (given_[position]) throw Fault(word.name, field.label + " is given twice");
   }
-  return field;
-}
-
-void RecordWriter::store(const Field &field, const FieldValue &value) {
-  store_value(field, value, bytes_.data());
+  store_value(field, parse_value(field, word.value), bytes_.data());
   for (const size_t position : field.positions) given_[position] = true;
-}
-
-void RecordWriter::set(const Assignment &word) {
-  const Field &field = find_free(word);
-  store(field, parse_value(field, word.value));
-}
-
-void RecordWriter::set_key(const Assignment &word) {
-  const Field &field = find_free(word);
-  const FieldValue value = parse_value(field, word.value);
-  // Values with a mask of their own have no such bits.
-  if (!(value.value & ~value.mask).is_zero()) {
-    throw Fault(word.value, "the key takes the bits " + hexadecimal(field.key_bits) + " of " +
-                                field.label + " alone");
-  }
-  store(field, value);
 }
 
 bool RecordWriter::any_given() const {

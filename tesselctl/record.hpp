@@ -24,8 +24,6 @@ class RecordWriter {
   const Shape &shape() const { return *shape_; }
   // Throws Fault: unknown name, value that does not fit, field given before.
   void set(const Assignment &word);
-  // The same for a key, whose value must not have bits that the key does not take.
-  void set_key(const Assignment &word);
   bool any_given() const;
   // Fills in the ternary fields that were not given, as "any". Throws Fault at the word when
   // another one is missing.
@@ -35,9 +33,6 @@ class RecordWriter {
   bool empty() const { return bytes_.empty(); }
 
  private:
-  const Field &find_free(const Assignment &word) const;
-  void store(const Field &field, const FieldValue &value);
-
   const Shape *shape_;
   std::string what_;
   std::vector<uint8_t> bytes_;
