@@ -2,8 +2,9 @@
 #
 # Builds the control-plane library of a program from its catalogue:
 #   pd_<program>          libp4_pd_<program>.so, the library
-#   pd_<program>_binding  its exports as data (bindings/export_table.hpp) and its description for
-#                         the soft SDK (soft_program_<program>)
+#   soft_program_<program>
+#                         its description for the soft SDK, a static library of one constant
+#   pd_<program>_binding  its exports as data (bindings/export_table.hpp), and that description
 # The library compiles against the header p4_pd_<program>.h in HEADER_DIR, which pdgen writes with
 # --header (scripts/generate). With GENERATE_HEADER the header is made in the build folder instead.
 
@@ -16,7 +17,7 @@ function(pd_add_library program)
   cmake_parse_arguments(arg "GENERATE_HEADER" "CATALOGUE;HEADER_DIR;VERSION;SONAME" "" ${ARGN})
   set(dir ${CMAKE_CURRENT_BINARY_DIR}/generated/${program})
   set(wrappers program_data.cpp)
-  set(tables export_index.cpp soft_program.cpp)
+  set(tables export_index.cpp)
   foreach(unit ${PD_UNITS})
     list(APPEND wrappers wrappers_${unit}.cpp)
     list(APPEND tables export_table_${unit}.cpp)
@@ -31,7 +32,7 @@ function(pd_add_library program)
   file(GLOB catalogue CONFIGURE_DEPENDS ${arg_CATALOGUE}/*.toml)
   add_custom_command(
     OUTPUT ${dir}/stamp
-    BYPRODUCTS ${wrappers} ${tables} ${dir}/descriptors.hpp ${dir}/object_names.hpp
+    BYPRODUCTS ${wrappers} ${tables} ${dir}/soft_program.cpp ${dir}/descriptors.hpp ${dir}/object_names.hpp
       ${dir}/records.hpp ${dir}/texts.hpp ${dir}/schemas.hpp ${dir}/labels.hpp ${dir}/renders.hpp
       ${dir}/exports.map ${dir}/layout_test.c
     COMMAND pdgen --catalogue ${arg_CATALOGUE} --build ${dir} --soname ${arg_SONAME} ${header_option}
@@ -60,11 +61,20 @@ function(pd_add_library program)
     OUTPUT_NAME p4_pd_${program} VERSION ${arg_VERSION} SOVERSION ${arg_SONAME}
     LINKER_LANGUAGE C LINK_DEPENDS ${dir}/stamp GENERATED_DIR ${dir})
 
+  add_library(soft_program_${program} STATIC EXCLUDE_FROM_ALL ${dir}/soft_program.cpp)
+  add_dependencies(soft_program_${program} pd_${program}_generated)
+  target_include_directories(soft_program_${program}
+    PUBLIC $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/sdk/include>
+           $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/sdk/soft/include>
+           $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+  target_link_libraries(soft_program_${program} PRIVATE $<BUILD_INTERFACE:pd_warnings>)
+  set_target_properties(soft_program_${program} PROPERTIES LINKER_LANGUAGE C)
+
   add_library(pd_${program}_binding STATIC EXCLUDE_FROM_ALL ${tables})
   add_dependencies(pd_${program}_binding pd_${program}_generated)
-  target_include_directories(pd_${program}_binding PUBLIC ${CMAKE_SOURCE_DIR}
-    ${CMAKE_SOURCE_DIR}/sdk/soft/include)
+  target_include_directories(pd_${program}_binding PUBLIC ${CMAKE_SOURCE_DIR})
   # The call table is data; optimising it only costs time.
   target_compile_options(pd_${program}_binding PRIVATE -O1)
-  target_link_libraries(pd_${program}_binding PUBLIC pd_${program} PRIVATE pd_warnings)
+  target_link_libraries(pd_${program}_binding PUBLIC pd_${program} soft_program_${program}
+    PRIVATE pd_warnings)
 endfunction()

@@ -35,14 +35,15 @@ constexpr std::string_view kLowerHalf = "Station";
 // Fields as they come; the lower half of a MAC address joins its upper half.
 class Collector {
  public:
-  void add(const std::string &label, const std::string &hint, unsigned width, Match match,
-           size_t position) {
-    if (hint == "mac" && width == 24 && join(label, match, position)) return;
+  void add(const SchemaField &own) {
+    const auto &[label, name, width, key_bits, hint, match, position] = own;
+    if (hint == "mac" && width == 24 && join(own)) return;
     ShownField shown{.field = {}, .position = position};
     shown.field.label = label;
     shown.field.match = match;
     shown.field.notation = notation_of(hint);
     shown.field.width = width;
+    shown.field.key_bits = key_bits;
     if (hint == "mac" && width == 24 && label.ends_with(kUpperHalf))
       upper_.push_back(shown_.size());
     shown_.push_back(std::move(shown));
@@ -50,16 +51,17 @@ class Collector {
   std::vector<ShownField> take() { return std::move(shown_); }
 
  private:
-  bool join(const std::string &label, Match match, size_t position) {
-    if (!label.ends_with(kLowerHalf)) return false;
-    const std::string stem = label.substr(0, label.size() - kLowerHalf.size());
+  bool join(const SchemaField &half) {
+    if (!half.label.ends_with(kLowerHalf)) return false;
+    const std::string stem = half.label.substr(0, half.label.size() - kLowerHalf.size());
     for (const size_t at : upper_) {
       Field &field = shown_[at].field;
-      if (field.label != stem + std::string(kUpperHalf) || field.match != match) continue;
+      if (field.label != stem + std::string(kUpperHalf) || field.match != half.match) continue;
       field.label = stem;
       field.notation = Notation::mac;
       field.width = 48;
-      shown_[at].lower = position;
+      field.key_bits = field.key_bits << 24 | half.key_bits;
+      shown_[at].lower = half.position;
       return true;
     }
     return false;
@@ -69,9 +71,7 @@ class Collector {
   std::vector<size_t> upper_;  // places in shown_
 };
 
-// A mask of all key bits is shown as none at all, since no other bits can matter.
-FieldValue value_of(const ShownField &shown, const std::vector<Number> &numbers,
-                    const std::vector<Number> &key_bits) {
+FieldValue value_of(const ShownField &shown, const std::vector<Number> &numbers) {
   const unsigned width = shown.lower ? shown.field.width / 2 : shown.field.width;
   FieldValue result;
   const auto add = [&](size_t at) {
@@ -79,7 +79,7 @@ FieldValue value_of(const ShownField &shown, const std::vector<Number> &numbers,
     if (shown.field.match == Match::lpm) {
       const uint64_t length = std::min<uint64_t>(numbers[at + 1].low, width);
       mask = prefix_mask(static_cast<unsigned>(length), width);
-    } else if (shown.field.match == Match::ternary && numbers[at + 1] != key_bits[at]) {
+    } else if (shown.field.match == Match::ternary) {
       mask = numbers[at + 1];
     }
     result.value = result.value << width | numbers[at];
@@ -91,9 +91,9 @@ FieldValue value_of(const ShownField &shown, const std::vector<Number> &numbers,
 }
 
 void add_fields(Row &row, std::string_view group, const std::vector<ShownField> &fields,
-                const std::vector<Number> &numbers, const std::vector<Number> &key_bits) {
+                const std::vector<Number> &numbers) {
   for (const ShownField &shown : fields) {
-    const FieldValue value = value_of(shown, numbers, key_bits);
+    const FieldValue value = value_of(shown, numbers);
     if (shown.field.match == Match::ternary && value.mask.is_zero()) continue;
     std::string text = format_value(shown.field, value);
     const bool is_number = text.find_first_not_of("0123456789") == std::string::npos;
@@ -127,19 +127,15 @@ EntryValue read_entry_value(const Literal &literal, const TableSchema &schema) {
   return value;
 }
 
-EntryWords::EntryWords(const TableSchema &schema)
-    : schema_(&schema), key_bits_(schema.number_count) {
+EntryWords::EntryWords(const TableSchema &schema) : schema_(&schema) {
   Collector fields;
-  for (const SchemaField &field : schema.fields) {
-    fields.add(field.label, field.hint, field.width, field.match, field.position);
-    key_bits_[field.position] = field.key_bits;
-  }
+  for (const SchemaField &field : schema.fields) fields.add(field);
   fields_ = fields.take();
   for (const ActionSchema &action : schema.actions) {
     Collector parameters;
     for (size_t i = 0; i < action.parameters.size(); ++i) {
       const SchemaParameter &parameter = action.parameters[i];
-      parameters.add(parameter.name, parameter.hint, parameter.width, Match::exact, i);
+      parameters.add({parameter.name, {}, parameter.width, {}, parameter.hint, Match::exact, i});
     }
     parameters_[action.name] = parameters.take();
   }
@@ -147,7 +143,7 @@ EntryWords::EntryWords(const TableSchema &schema)
 
 void EntryWords::add_to(Row &row, const EntryValue &value) const {
   if (value.key) {
-    add_fields(row, Row::kKey, fields_, *value.key, key_bits_);
+    add_fields(row, Row::kKey, fields_, *value.key);
     if (schema_->match() == Match::ternary) row.number("priority", value.priority);
   }
   if (value.action.empty()) return;
@@ -158,7 +154,7 @@ void EntryWords::add_to(Row &row, const EntryValue &value) const {
     return;
   }
   row.text("action", value.action);
-  add_fields(row, Row::kParameters, parameters_.at(value.action), value.parameters, {});
+  add_fields(row, Row::kParameters, parameters_.at(value.action), value.parameters);
 }
 
 }  // namespace tesselctl

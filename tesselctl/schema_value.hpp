@@ -42,7 +42,6 @@ class EntryWords {
  private:
   const TableSchema *schema_;
   std::vector<ShownField> fields_;
-  std::vector<Number> key_bits_;                               // by position
   std::map<std::string, std::vector<ShownField>> parameters_;  // by action
 };
 

@@ -7,6 +7,7 @@
 #include <mutex>
 
 #include "tesselctl/library.hpp"
+#include "tesselctl/schema.hpp"
 #include "tesselctl/suggest.hpp"
 
 namespace tesselctl {
@@ -86,14 +87,14 @@ bool is_end_of(std::string_view name, std::string_view field) {
 
 }  // namespace
 
-Shape::Shape(const bindings::Record &record) : record_(&record) {
-  add_own_fields();
+Shape::Shape(const bindings::Record &record, const TableSchema *schema) : record_(&record) {
+  add_own_fields(schema);
   add_pairs();
   add_labels();
   choose_shown();
 }
 
-void Shape::add_own_fields() {
+void Shape::add_own_fields(const TableSchema *schema) {
   for (const bindings::Member &member : record_->member_list()) {
     if (member.role != bindings::Role::value) {
       Field &field = fields_.back();
@@ -104,6 +105,8 @@ void Shape::add_own_fields() {
     Field field;
     field.name = member.name;
     field.width = member.width;
+    field.key_bits =
+        schema == nullptr ? low_ones(field.width) : schema->fields[fields_.size()].key_bits;
     field.notation = notation_of(field.name, field.width);
     field.parts = {{&member, nullptr}};
     field.positions = {fields_.size()};
@@ -124,6 +127,7 @@ void Shape::add_pairs() {
       pair.match = fields_[i].match;
       pair.notation = Notation::mac;
       pair.width = 2 * kHalfWidth;
+      pair.key_bits = fields_[i].key_bits << kHalfWidth | fields_[j].key_bits;
       pair.parts = {fields_[i].parts[0], fields_[j].parts[0]};
       pair.positions = {i, j};
       fields_.push_back(std::move(pair));
@@ -183,19 +187,27 @@ const Field &Shape::find(Word name, std::string_view what) const {
 
 namespace {
 
-const Shape &cached_shape(const bindings::Record &record) {
+const Shape &cached_shape(const bindings::Record &record, bool is_table) {
   static std::mutex mutex;
   static std::map<const bindings::Record *, std::unique_ptr<Shape>> shapes;
   const std::lock_guard lock(mutex);
   std::unique_ptr<Shape> &shape = shapes[&record];
-  if (!shape) shape = std::make_unique<Shape>(record);
+  if (shape) return *shape;
+  if (is_table) {
+    const TableSchema schema = table_schema(record.name);
+    shape = std::make_unique<Shape>(record, &schema);
+  } else {
+    shape = std::make_unique<Shape>(record);
+  }
   return *shape;
 }
 
 }  // namespace
 
-const Shape &table_shape(const bindings::Record &table) { return cached_shape(table); }
+const Shape &table_shape(const bindings::Record &table) { return cached_shape(table, true); }
 
-const Shape &action_shape(std::string_view action) { return cached_shape(action_record(action)); }
+const Shape &action_shape(std::string_view action) {
+  return cached_shape(action_record(action), false);
+}
 
 }  // namespace tesselctl

@@ -9,6 +9,7 @@
 
 #include "bindings/export_table.hpp"
 #include "tesselctl/fault.hpp"
+#include "tesselctl/number.hpp"
 
 namespace tesselctl {
 
@@ -27,6 +28,7 @@ struct Field {
   Match match = Match::exact;
   Notation notation = Notation::number;
   unsigned width = 0;  // bits; 48 for a pair
+  Number key_bits;     // of a ternary field: the bits that take part in the key
   // One part, or two for a pair: the upper and the lower 24 bits.
   std::vector<Part> parts;
   // Positions of the parts among the record's own fields.
@@ -35,9 +37,12 @@ struct Field {
   bool is_pair() const { return parts.size() == 2; }
 };
 
+struct TableSchema;
+
 class Shape {
  public:
-  explicit Shape(const bindings::Record &record);
+  // Without a schema every bit of a field takes part in the key.
+  explicit Shape(const bindings::Record &record, const TableSchema *schema = nullptr);
 
   std::string_view name() const { return record_->name; }
   const bindings::Record &record() const { return *record_; }
@@ -56,7 +61,7 @@ class Shape {
 
  private:
   const Field *try_find(std::string_view name) const;
-  void add_own_fields();
+  void add_own_fields(const TableSchema *schema);
   void add_pairs();
   void add_labels();
   void choose_shown();

@@ -115,7 +115,8 @@ FieldValue parse_value(const Field &field, Word text) {
   if (const size_t at = text.text.find('/'); at != std::string_view::npos) {
     return parse_prefix(field, text, at);
   }
-  return {parse_plain(field, text), low_ones(field.width)};
+  const Number value = parse_plain(field, text);
+  return {value, field.match == Match::ternary ? field.key_bits : low_ones(field.width)};
 }
 
 uint64_t parse_limited(Word text, uint64_t limit, const std::string &what) {
@@ -127,14 +128,13 @@ uint64_t parse_limited(Word text, uint64_t limit, const std::string &what) {
 }
 
 std::string format_value(const Field &field, const FieldValue &value) {
-  const Number all = low_ones(field.width);
   if (field.match == Match::exact) return plain_text(field, value.value);
   const auto length = prefix_length_of(value.mask, field.width);
   if (field.match == Match::lpm) {
     return fmt::format("{}/{}", plain_text(field, value.value), length.value_or(field.width));
   }
   if (value.mask.is_zero()) return "*";
-  if (value.mask == all) return plain_text(field, value.value);
+  if (value.mask == field.key_bits) return plain_text(field, value.value);
   const bool address = field.notation == Notation::ipv4 || field.notation == Notation::ipv6;
   if (address && length) return fmt::format("{}/{}", plain_text(field, value.value), *length);
   if (field.notation == Notation::number) {

@@ -7,6 +7,8 @@
 //   VALUE/N   a prefix of N bits, for lpm and ternary fields
 //   VALUE&M   for ternary fields: the bits that are set in M take part
 //   *         anything, for lpm and ternary fields
+//
+// A plain value of a ternary field stands under the bits that the key takes of the field.
 #pragma once
 
 #include <cstdint>
@@ -25,7 +27,7 @@ struct FieldValue {
 };
 
 // Throws Fault: no such notation, wider than the field, a mask where none can be, a value with bits
-// that its mask or prefix leaves out.
+// that its mask or prefix leaves out. A plain value may have bits beyond those of the key.
 FieldValue parse_value(const Field &field, Word text);
 
 // A number from 0 to limit; what says whose it is in the message.

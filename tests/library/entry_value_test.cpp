@@ -44,17 +44,6 @@ TEST_F(EntryText, TernaryEntriesHaveASignedPriority) {
   EXPECT_EQ(value(PD(cpuEncap_value), add_cpu_encap(0xffffffff)), key + action + "(-1,True))");
 }
 
-TEST_F(EntryText, ExactAndPrefixEntriesHaveNone) {
-  const PD(ipv4ShortMaskLpm_match_spec_t) key = {7, 0x0a010200, 24};
-  const PD(setNextHop_action_spec_t) action = {0x1234};
-  p4_pd_entry_handle_t entry = 0;
-  ASSERT_EQ(
-      PD(ipv4ShortMaskLpm_table_add_with_setNextHop)(session(), kTarget, &key, &action, 0, &entry),
-      BF_SUCCESS);
-  EXPECT_EQ(value(PD(ipv4ShortMaskLpm_value), entry),
-            "((( 0x07,0x0a010200,0x0018,),('setNextHop',(0x1234,)),),(0,True))");
-}
-
 TEST_F(EntryText, DefaultEntriesHaveNoKey) {
   p4_pd_entry_handle_t entry = 0;
   ASSERT_EQ(PD(vlanDecap_table_get_default_entry_handle)(session(), kTarget, &entry), BF_SUCCESS);

@@ -78,10 +78,6 @@ TEST(Label, Numbers) {
   // A mask of more than the key's bits is not the key's.
   EXPECT_EQ(drop({{"ig_intr_md_ingress_port", 2}, {"ig_intr_md_ingress_port_mask", 0x1ff}}),
             "Ingress Port & 0x1ff 0x02 ");
-  EXPECT_EQ(trap({{"ingMd_l4Attr", 5}, {"ingMd_l4Attr_mask", 7}}), "l4Attr 0x5 ");
-  EXPECT_EQ(trap({{"ingMd_ingL3Aintf", 0xab}, {"ingMd_ingL3Aintf_mask", 0xfff}}),
-            "ingL3Aintf 0x0ab ");
-  EXPECT_EQ(trap({{"ingMd_ttl", 9}, {"ingMd_ttl_mask", 0xff}}), "Ttl 0x09 ");
   const auto ttl = [](uint32_t mask) {
     return label({"egressPortDropCheck",
                   {{"outerIpv4Hdr_ttl", 9},

@@ -186,6 +186,48 @@ TEST_F(PlacementText, EntriesThatPointAtAMemberOrGroup) {
   EXPECT_EQ(print(PD(lagGroup_plcmt_data_print), 1, by_default), "");
 }
 
+// The device knows an action where the library knows none.
+TEST_F(PlacementText, EntriesThatPointAtNothing) {
+  std::vector<soft_table_t> tables(
+      soft_program_tessel_switch.tables,
+      soft_program_tessel_switch.tables + soft_program_tessel_switch.table_count);
+  soft_table_t &table = *std::ranges::find(tables, 0x0100002fu, &soft_table_t::handle);
+  const soft_action_t nowhere = {"nowhere", 0x20fffff0, 0, 0, true};
+  table.action_data_table = 0;
+  table.actions = &nowhere;
+  table.action_count = 1;
+  soft_program_t altered = soft_program_tessel_switch;
+  altered.tables = tables.data();
+  const Device device(12, false, altered);
+  uint8_t key[] = {0, 0x12}, mask[] = {0xff, 0xff};
+  const pipe_mgr_match_spec_t match = {0, 14, 2, key, mask, {}, 0};
+  pipe_mgr_action_spec_t spec = {};
+  spec.type = PIPE_ACTION_DATA;
+  uint32_t lost = 0, entry = 0;
+  ASSERT_EQ(pipe_mgr_mat_ent_add(session(), 12, kPipe, table.handle, &match, nowhere.handle, &spec,
+                                 0, 0, &lost),
+            BF_SUCCESS);
+  const Placement at_nothing = Placement::of_entry(12, table.handle, lost);
+  PD(ecmpGroup_match_spec_t) read = {};
+  uint32_t member = kUnwritten, group = kUnwritten;
+  bool has_member = true, has_group = true, no_key = true;
+  EXPECT_EQ(PD(ecmpGroup_get_entry_from_plcmt_data)(at_nothing.object, &read, &member, &group,
+                                                    &has_member, &has_group, &no_key),
+            BF_SUCCESS);
+  EXPECT_TRUE(read.l3_ecmpGroup == 0x12 && !no_key && has_member && has_group);
+  EXPECT_TRUE(member == kUnwritten && group == kUnwritten);
+  EXPECT_EQ(value(PD(ecmpGroup_plcmt_data_value), at_nothing), "(( 0x0012,),)");
+  TextBuffer buffer(P4_PD_TESSEL_SWITCH_VALUE_MAX);
+  const int length = PD(ecmpGroup_value)(session(), 12, lost, false, buffer.data());
+  EXPECT_EQ(buffer.text(static_cast<uint64_t>(length)), "((( 0x0012,),),(0,True))");
+
+  ASSERT_EQ(PD(ecmpGroup_add_entry)(session(), kTarget, &read, add_hop(1), &entry), BF_SUCCESS);
+  const auto equal = PD(ecmpGroup_plcmt_data_eq_to_hw);
+  EXPECT_EQ(equal(session(), 12, table.handle, lost, at_nothing.object), 1);
+  EXPECT_EQ(equal(session(), kDevice, table.handle, entry, at_nothing.object), 0);
+  EXPECT_EQ(equal(session(), 12, table.handle, lost, placed(table.handle, entry).object), 0);
+}
+
 TEST_F(PlacementText, Members) {
   const Placement hop = Placement::of_member(kDevice, kEcmpMembers, add_hop(0x12));
   EXPECT_EQ(value(PD(ecmpMemberActionProfile_plcmt_data_value), hop),
@@ -241,7 +283,10 @@ class Undecodable : public PlacementText {
 
 TEST_F(Undecodable, CorruptMissingAndOfAnotherKind) {
   Placement entry = placed(0x0100005e, add_cpu_encap());
-  EXPECT_EQ(PD(cpuEncap_plcmt_data_eq_to_hw)(session(), kDevice, 0, 1, entry.object), 1);
+  const std::vector<Call> calls = recorded([&] {
+    EXPECT_EQ(PD(cpuEncap_plcmt_data_eq_to_hw)(session(), kDevice, 0, 1, entry.object), 1);
+  });
+  EXPECT_EQ(calls.back().scalar("read_from_hardware"), 1u);
   soft_placement_corrupt(entry.object);
   expect_refused(entry.object, BF_CORRUPT_DATA);
   expect_refused(nullptr, BF_INVALID_ARGUMENT);
@@ -307,6 +352,11 @@ TEST_F(PlacementText, UnknownHandlesAreAnsweredWithoutACall) {
       EXPECT_EQ(PD(member_hdl_next)(session(), kTarget, unknown, 1, 2, handles), 0xffffffffu);
       EXPECT_EQ(handles[0], 0xffffffffu);
       EXPECT_EQ(handles[1], 1u);
+      // No room at all.
+      handles[0] = 1;
+      EXPECT_EQ(PD(entry_hdl_next)(session(), kTarget, unknown, 1, 0, handles), 0u);
+      EXPECT_EQ(PD(member_hdl_next)(session(), kTarget, unknown, 1, 0, handles), 0xffffffffu);
+      EXPECT_EQ(handles[0], 1u);
     }
   });
   EXPECT_TRUE(buffer.is_untouched());

@@ -1,10 +1,12 @@
 // Records printed to a descriptor, and the address helpers.
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <climits>
+#include <csignal>
 #include <cstdio>
 #include <thread>
 
@@ -158,6 +160,16 @@ TEST(Print, LongIndentsAndFailures) {
   // A line longer than an int can tell is not begun.
   for (const int indent : {INT_MAX, INT_MIN}) EXPECT_EQ(print(file, indent, &group), -1);
   EXPECT_EQ(lseek(file, 0, SEEK_END), 5000 + 44 + 5001 + 31);
+  // Of the last line a part can be written.
+  rlimit unlimited;
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &unlimited), 0);
+  const rlimit short_by_one = {5000 + 44 + 5001 + 31 + 44 + 32, unlimited.rlim_max};
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  setrlimit(RLIMIT_FSIZE, &short_by_one);
+  const int result = print(file, 0, &group);
+  setrlimit(RLIMIT_FSIZE, &unlimited);
+  std::signal(SIGXFSZ, handler);
+  EXPECT_EQ(result, -1);
   const int closed = dup(file);
   close(closed);
   EXPECT_EQ(print(closed, 0, &group), -1);

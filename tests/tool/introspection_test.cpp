@@ -163,10 +163,13 @@ TEST_F(Introspection, CountersTellWhatTheyCount) {
   EXPECT_EQ(run("counter list"), "");
   run("add l2DmacClassify ingressPort=1 dmac=01:00:00:00:00:00&01:00:00:00:00:00 priority=1 "
       "action=setMcast as=m");
-  run("add finalDropControl ingMdDrop=1 dropSmac=0 priority=3 action=dropCount as=d");
+  run("add finalDropControl ingressPort=0x105 ingMdDrop=1 dropSmac=0 priority=3 action=dropCount "
+      "as=d");
   run("add finalDropControl priority=4 action=dropCount as=any");
-  run("traffic finalDropControl ingMdDrop=1 packets=3 bytes=192");
-  const std::string label = "Ingress Port Drop - See ingressPortDropCount  !dropSmac";
+  // The key takes 7 of the 9 bits of the port.
+  run("traffic finalDropControl ingressPort=0x85 ingMdDrop=1 packets=3 bytes=192");
+  const std::string label =
+      "Ingress Port 0x05 Ingress Port Drop - See ingressPortDropCount  !dropSmac";
   EXPECT_EQ(run("counter read finalDropControlCount entry=$d"),
             "finalDropControlCount entry=1 packets=3 bytes=192 label=" + label + "\n");
   EXPECT_EQ(run("counter read finalDropControlCount entry=$any"),

@@ -80,7 +80,17 @@ INSTANTIATE_TEST_SUITE_P(
              "00:11:22:aa:bb:cc"},
         Case{"l2Lookup", "dmacStation", "0xaabbcc", 0xaabbcc, 0xffffff, "11189196"},
         Case{"l2SmacCheck", "smac", "01:00:5e:00:00:00&ff:ff:ff:80:00:00", 0x01005e000000,
-             0xffffff800000, nullptr}));
+             0xffffff800000, nullptr},
+        // The key takes 7 bits of 9, 2 bytes of 16.
+        Case{"finalDropControl", "ingressPort", "5", 5, 0x7f, nullptr},
+        Case{"finalDropControl", "ingressPort", "0x5&0x7f", 5, 0x7f, "5"},
+        Case{"finalDropControl", "ingressPort", "0x5&0x1ff", 5, 0x1ff, nullptr},
+        Case{"trapToCpu",
+             "ingIpv6Dip",
+             "2001::",
+             {0x2001000000000000u, 0},
+             {0xffff000000000000u, 0},
+             nullptr}));
 
 TEST(ShapeTest, HalvesOfAMacAddressStandInTheirMembers) {
   const Field &pair = field_of("l2Lookup", "dmac");

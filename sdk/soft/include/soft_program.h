@@ -1,7 +1,9 @@
 /* A P4 program as the soft SDK learns it: objects, handles, key shapes and widths, as data. The
- * generator of a control-plane library emits one description per program; the host hands it over
- * when it creates a device. The SDK keeps the pointer, so the description must outlive the device;
- * generated ones are constants. */
+ * generator of a control-plane library emits one description per program, the constant
+ * soft_program_<program> in a static library of that name; the host declares it,
+ *   extern const soft_program_t soft_program_<program>;
+ * and hands it over when it creates a device. The SDK keeps the pointer, so the description must
+ * outlive the device. */
 #ifndef SOFT_PROGRAM_H
 #define SOFT_PROGRAM_H
 
