@@ -104,5 +104,6 @@ std::span<const Command> image_commands();
 std::span<const Command> compare_commands();
 std::span<const Command> routes_commands();
 std::span<const Command> introspection_commands();
+std::span<const Command> report_commands();
 
 }  // namespace tesselctl
