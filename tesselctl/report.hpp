@@ -39,7 +39,7 @@ struct TableReport {
   std::vector<uint64_t> lengths;  // entries by prefix length, 0 to the width; of lpm tables alone
   std::vector<EntryText> first;   // of the entries
 
-  bool in_use() const { return entries != 0 || capacity != 0 || default_entry.has_value(); }
+  bool in_use() const { return entries != 0 || capacity != 0; }
 };
 
 // The entries that name a member or group: how many, and the first of them.
@@ -100,7 +100,6 @@ struct MeterCell {
   std::string label;
   uint32_t rates[2];   // committed, peak
   uint32_t bursts[2];  // committed, peak
-  bool aware;          // of colours given before
 };
 
 struct MeterReport {

@@ -26,7 +26,7 @@ void write_counter(Html &html, const CounterReport &counter) {
                         counted(counter.bytes, "byte", "bytes")),
             {{"class", "soft"}});
   html.open("table");
-  write_head(html, {"Counts", ">Packets", ">Bytes", "~"});
+  write_head(html, {"Cell", ">Packets", ">Bytes", "~"});
   html.open("tbody").line();
   for (const CounterCell &cell : counter.top) {
     html.open("tr").leaf("th", cell.label, {{"scope", "row"}});
@@ -51,12 +51,10 @@ void write_meter(Html &html, const MeterReport &meter) {
   html.leaf("p", cells_text(meter.table, meter.cells, meter.cells == 1 ? "is set" : "are set"),
             {{"class", "soft"}});
   html.open("table");
-  write_head(html, {"Meters", "Committed", "Peak"});
+  write_head(html, {"Cell", "Committed", "Peak"});
   html.open("tbody").line();
   for (const MeterCell &cell : meter.first) {
-    html.open("tr").open("th", {{"scope", "row"}}).text(cell.label);
-    if (cell.aware) html.empty("br").leaf("small", "colour-aware");
-    html.close();
+    html.open("tr").leaf("th", cell.label, {{"scope", "row"}});
     for (size_t i = 0; i < 2; ++i) {
       html.leaf("td", rate_text(meter, cell.rates[i], cell.bursts[i]));
     }

@@ -360,7 +360,9 @@ class Collector {
     Call call = device_.prepare("counter_read", counter.name);
     call.set("flags", uint64_t{P4_PD_READ_FROM_HARDWARE}).set("values", &values);
     for_each_cell(counter, [&](uint32_t cell) {
-      check(call.set(counter.table != 0 ? "entry" : "index", uint64_t{cell}).run(), {});
+      call.set(counter.table != 0 ? "entry" : "index", uint64_t{cell});
+      // Default entries may be without a cell.
+      if (call.run() != BF_SUCCESS) return;
       if ((values.packets | values.bytes) == 0) return;
       cells.push_back({cell, values});
       report.packets += values.packets;
@@ -394,10 +396,8 @@ class Collector {
       if (report.first.size() >= limit_) return;
       const std::string label =
           meter.table != 0 ? entry_label(meter.table, cell) : fmt::format("cell {}", cell);
-      report.first.push_back({label,
-                              {spec.committed_rate, spec.peak_rate},
-                              {spec.committed_burst, spec.peak_burst},
-                              spec.meter_type == PD_METER_TYPE_COLOR_AWARE});
+      report.first.push_back(
+          {label, {spec.committed_rate, spec.peak_rate}, {spec.committed_burst, spec.peak_burst}});
     });
     return report;
   }

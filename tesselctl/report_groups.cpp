@@ -64,7 +64,7 @@ void write_member(Html &html, const MemberReport &member, bool with_state) {
 
 void write_members(Html &html, const std::vector<MemberReport> &members, bool with_state) {
   html.open("table");
-  write_head(html, {"Member", "Action", with_state ? "State" : "Named by"});
+  write_head(html, {"No.", "Action", with_state ? "State" : "Used by"});
   html.open("tbody").line();
   for (const MemberReport &member : members) write_member(html, member, with_state);
   html.close().close();

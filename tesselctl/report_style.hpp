@@ -16,10 +16,11 @@ inline constexpr std::string_view kReportStyle = R"(
 *{box-sizing:border-box}
 body{margin:0 auto;max-width:70rem;padding:1.25rem 1rem 3rem;background:var(--page);
 color:var(--ink);font:16px/1.5 system-ui,sans-serif;-webkit-text-size-adjust:100%}
-h1,h2,h3,p,dl,dd,ul,figure{margin:0;padding:0}
+h1,h2,h3,h4,p,dl,dd,ul,figure{margin:0;padding:0}
 h1{font-size:1.6rem;line-height:1.25;overflow-wrap:anywhere}
 h2{font-size:1.2rem;margin-bottom:.6rem}
-h3{font-size:1rem;overflow-wrap:anywhere}
+h3,h4{font-size:1rem;overflow-wrap:anywhere}
+h4{font-size:.9375rem}
 a{color:var(--link)}
 .soft,small{color:var(--soft);font-size:.875rem}
 .kicker{color:var(--soft);font-weight:600;letter-spacing:.03em}
@@ -62,6 +63,9 @@ svg{display:block;width:100%}
 .card{border:1px solid var(--line);border-radius:.6rem;padding:.75rem;min-width:0}
 .part+.part{margin-top:1.25rem}
 .part>h3+*{margin-bottom:.4rem}
+.part>h4{margin-top:.75rem}
+th small{font-weight:400;margin-left:.15rem}
+th a{margin-right:.35rem}
 .on{color:var(--good)}
 .off{color:var(--bad)}
 details{border-top:1px solid var(--line)}
@@ -73,10 +77,9 @@ details[open]{padding-bottom:.75rem}
 .lines{list-style:none;border-left:2px solid var(--line);padding-left:.6rem}
 .lines li{overflow-wrap:anywhere;padding:.1rem 0}
 .lines b{display:inline-block;width:1rem}
-.names{display:flex;flex-wrap:wrap;gap:.25rem .9rem;list-style:none}
 :focus-visible{outline:2px solid var(--link);outline-offset:2px}
 @media(max-width:30rem){body{padding:1rem .75rem 2rem}section{padding:.85rem .75rem}
-table{font-size:.875rem}.wide{width:30%}}
+table{font-size:.875rem}.wide{width:26%}}
 @media print{body{background:#fff}section{break-inside:avoid}}
 )";
 

@@ -45,7 +45,7 @@ void write_occupancy(Html &html, const TableReport &table, uint64_t most) {
 void write_table_row(Html &html, const Report &report, const TableReport &table, uint64_t most) {
   html.open("tr").open("th", {{"scope", "row"}});
   html.open("a", {{"href", "#entries-" + table.name}}).name(table.name).close();
-  html.empty("br").leaf("small", table.match).close();
+  html.leaf("small", table.match).close();
   html.open("td", {{"class", "n"}}).text(grouped(table.entries));
   if (const TableReport *before = table_before(report, table.name)) {
     const std::string change = difference_text(before->entries, table.entries);
@@ -54,6 +54,30 @@ void write_table_row(Html &html, const Report &report, const TableReport &table,
   html.close().open("td");
   write_occupancy(html, table, most);
   html.close().close().line();
+}
+
+// "setNextHop nextHop=12"
+void write_default(Html &html, const TableReport &table) {
+  if (!table.default_entry) return;
+  html.text(table.default_entry->action);
+  if (table.default_entry->parameters.empty()) return;
+  html.text(" ").leaf("span", table.default_entry->parameters, {{"class", "mono soft"}});
+}
+
+// Tables without entries answer with their default action alone.
+void write_unused(Html &html, const std::vector<const TableReport *> &unused) {
+  if (unused.empty()) return;
+  html.open("details");
+  html.leaf("summary", counted(unused.size(), "table", "tables") + " without entries");
+  html.open("table");
+  write_head(html, {"Table", "Default action"});
+  html.open("tbody").line();
+  for (const TableReport *table : unused) {
+    html.open("tr").open("th", {{"scope", "row"}}).name(table->name).close().open("td");
+    write_default(html, *table);
+    html.close().close().line();
+  }
+  html.close().close().close().line();
 }
 
 bool is_shown(const Report &report, const TableReport &table) {
@@ -70,7 +94,7 @@ bool is_nearly_full(const TableReport &table) {
 void write_tables(Html &html, const Report &report) {
   open_section(html, "tables", "Tables");
   const uint64_t most = most_entries(report.device);
-  std::vector<std::string_view> unused;
+  std::vector<const TableReport *> unused;
   html.open("table");
   write_head(html, {"Table", ">Entries", "~Occupancy"});
   html.open("tbody").line();
@@ -78,16 +102,11 @@ void write_tables(Html &html, const Report &report) {
     if (is_shown(report, table)) {
       write_table_row(html, report, table, most);
     } else {
-      unused.push_back(table.name);
+      unused.push_back(&table);
     }
   }
   html.close().close().line();
-  if (!unused.empty()) {
-    html.open("details").leaf("summary", counted(unused.size(), "empty table", "empty tables"));
-    html.open("ul", {{"class", "names soft"}});
-    for (const std::string_view name : unused) html.leaf("li", name);
-    html.close().close().line();
-  }
+  write_unused(html, unused);
   html.close().line();
 }
 
@@ -235,10 +254,8 @@ void write_entries(Html &html, const DeviceReport &device) {
     html.leaf("p", table.fields.empty() ? "No key" : "Key: " + table.fields,
               {{"class", "soft"}, {"id", "entries-" + table.name}});
     if (table.default_entry) {
-      html.open("p").text("Otherwise: ").text(table.default_entry->action);
-      if (!table.default_entry->parameters.empty()) {
-        html.text(" ").leaf("span", table.default_entry->parameters, {{"class", "mono soft"}});
-      }
+      html.open("p").text("Default action: ");
+      write_default(html, table);
       html.close();
     }
     write_actions(html, table);
