@@ -29,7 +29,7 @@ void write_counter(Html &html, const CounterReport &counter) {
   write_head(html, {"Cell", ">Packets", ">Bytes", "~"});
   html.open("tbody").line();
   for (const CounterCell &cell : counter.top) {
-    html.open("tr").leaf("th", cell.label, {{"scope", "row"}});
+    html.open("tr").open("th", {{"scope", "row"}}).name(cell.label).close();
     html.leaf("td", grouped(cell.packets), {{"class", "n"}});
     html.leaf("td", grouped(cell.bytes), {{"class", "n"}}).open("td");
     write_bar(html, cell.packets, counter.top.front().packets, false,

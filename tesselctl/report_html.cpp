@@ -211,6 +211,7 @@ void write_page_head(Html &html, const Report &report) {
 }  // namespace
 
 void write_changes(Html &html, const Report &report) {
+  constexpr size_t kUnfoldedLines = 12;
   if (!report.before) return;
   open_section(html, "changes", "Differences");
   html.leaf("p",
@@ -219,7 +220,13 @@ void write_changes(Html &html, const Report &report) {
                                                  report.before->source),
             {{"class", "soft"}});
   for (const ObjectChanges &object : report.changes) {
-    html.open("details").open("summary").name(object.name);
+    const bool few = object.first.size() <= kUnfoldedLines;
+    if (few) {
+      html.open("details", {{"open", ""}});
+    } else {
+      html.open("details");
+    }
+    html.open("summary").name(object.name);
     html.text(" ").leaf("small", object.kind);
     html.leaf("span",
               fmt::format("{} added, {} changed, {} removed", grouped(object.added),

@@ -55,7 +55,8 @@ void add_registers(const Device &device, size_t limit, std::vector<OtherReport> 
     }
     if (count > limit) text += fmt::format(" and {} more", grouped(count - limit));
     if (count == 0 && most == "0") continue;
-    text = count == 0 ? "all cells " + most : fmt::format("cells {}; all others {}", text, most);
+    text = count == 0 ? "all cells " + most
+                      : fmt::format("cell{} {}; all others {}", count == 1 ? "" : "s", text, most);
     others.push_back({"register", reg.name, text});
   }
 }

@@ -39,10 +39,11 @@ padding:.6rem .75rem}
 .alert ul{padding-left:1.1rem}
 table{border-collapse:collapse;width:100%;font-size:.9375rem}
 th{text-align:left;font-weight:600;vertical-align:top}
-thead th{color:var(--soft);font-size:.8125rem;border-bottom:1px solid var(--line)}
+thead>tr>*{color:var(--soft);font-size:.8125rem;border-bottom:1px solid var(--line)}
 th,td{padding:.35rem .5rem .35rem 0;vertical-align:top;overflow-wrap:anywhere}
 th:last-child,td:last-child{padding-right:0}
 tbody tr+tr>*{border-top:1px solid var(--line)}
+thead th{overflow-wrap:normal;white-space:nowrap}
 tbody th{font-weight:500}
 .n{text-align:right;font-variant-numeric:tabular-nums;overflow-wrap:normal;white-space:nowrap}
 .mono{font:.84375rem/1.5 ui-monospace,monospace}
@@ -66,6 +67,7 @@ svg{display:block;width:100%}
 .part>h4{margin-top:.75rem}
 th small{font-weight:400;margin-left:.15rem}
 th a{margin-right:.35rem}
+br+small{margin-left:0!important}
 .on{color:var(--good)}
 .off{color:var(--bad)}
 details{border-top:1px solid var(--line)}
@@ -79,7 +81,7 @@ details[open]{padding-bottom:.75rem}
 .lines b{display:inline-block;width:1rem}
 :focus-visible{outline:2px solid var(--link);outline-offset:2px}
 @media(max-width:30rem){body{padding:1rem .75rem 2rem}section{padding:.85rem .75rem}
-table{font-size:.875rem}.wide{width:26%}}
+table{font-size:.875rem}.wide{width:20%}}
 @media print{body{background:#fff}section{break-inside:avoid}}
 )";
 

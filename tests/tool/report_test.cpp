@@ -42,7 +42,8 @@ class ReportTest : public ToolTest {
              "group join ecmpMemberActionProfile group=$g member=$a",
              "group join ecmpMemberActionProfile group=$g member=$b",
              "group disable ecmpMemberActionProfile group=$g member=$b",
-             "add ecmpGroup ecmpGroup=7 group=$g", "add ecmpGroup ecmpGroup=8 member=$c",
+             "add ecmpGroup ecmpGroup=7 group=$g",
+             "add ecmpGroup ecmpGroup=8 member=$c",
              "add ipv4ShortMaskLpm vrfId=1 dip=10.0.0.0/8 action=setNextHop nextHop=12",
              "add ipv4ShortMaskLpm vrfId=1 dip=11.0.0.0/8 action=setNextHop nextHop=13",
              "add ipv4ShortMaskLpm vrfId=1 dip=0.0.0.0/0 action=setEcmp ecmpGroup=7",
@@ -50,7 +51,9 @@ class ReportTest : public ToolTest {
              "counter write finalDropControlCount entry=1 packets=3 bytes=192",
              "counter write firewallPolicyCount index=4 packets=5 bytes=1000",
              "counter write firewallPolicyCount index=9 packets=1500 bytes=96000",
-             "meter set newFlowMeter index=2 cir=5000 cbs=100 pir=10000 pbs=200"});
+             "meter set newFlowMeter index=2 cir=5000 cbs=100 pir=10000 pbs=200",
+             "register write flowDigestCountReg index=3 value=77",
+             "valueset add recirc_ports value=0x40 mask=0xf0"});
   }
 };
 
@@ -107,12 +110,16 @@ TEST_F(ReportTest, PageOfASmallDevice) {
   EXPECT_HOLDS(text, "<li>group #1 of ecmpMemberActionProfile has 1 of 2 members inactive</li>");
   EXPECT_HOLDS(text, "ecmpGroup=7</td><td>group #1</td>");
   // The busiest cell stands first.
-  EXPECT_HOLDS(text, "<th scope=\"row\">dropSmac</th><td class=\"n\">3</td><td class=\"n\">192");
+  EXPECT_HOLDS(text,
+               "<th scope=\"row\">drop<wbr/>Smac</th><td class=\"n\">3</td><td class=\"n\">192");
   EXPECT_LT(text.find("cell 9</th><td class=\"n\">1,500"), text.find("cell 4</th>"));
   EXPECT_HOLDS(text, "2 cells have counted: 1,505 packets, 97,000 bytes");
   EXPECT_HOLDS(text,
                "cell 2</th><td>5,000 packets/s, burst 100 packets</td><td>10,000 packets/s, burst "
                "200 packets</td>");
+  EXPECT_HOLDS(text,
+               "<small>register</small></th><td class=\"mono\">cell 3 = 77; all others 0</td>");
+  EXPECT_HOLDS(text, "<small>value set</small></th><td class=\"mono\">0x40&amp;0xf0 ingress</td>");
 }
 
 TEST_F(ReportTest, EmptyFullAndIdleDevices) {
@@ -206,9 +213,7 @@ TEST_F(ReportTest, FaultsOfTheCommand) {
   EXPECT_EQ(run("report a b c d"), "14: 'd': a report is about two images at most");
   write_file(path("a.image"), "no image\n");
   EXPECT_EQ(run("report " + path("page.html") + " " + path("a.image")),
-            "0: " + path("a.image") +
-                ":1:1: 'no image': the first line of an image is "
-                "'tesselctl image 1 tessel_switch'");
+            "0: " + path("a.image") + ":1:1: 'no image': this is no image of tesselctl");
   EXPECT_EQ(std::fopen(path("page.html").c_str(), "r"), nullptr);
 }
 
