@@ -30,6 +30,7 @@ std::span<const std::span<const Command>> command_topics() {
       routes_commands(),         //
       introspection_commands(),  //
       help_commands(),           //
+      report_commands(),         //
   };
   return topics;
 }

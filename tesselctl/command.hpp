@@ -109,5 +109,6 @@ std::span<const Command> compare_commands();
 std::span<const Command> routes_commands();
 std::span<const Command> introspection_commands();
 std::span<const Command> help_commands();
+std::span<const Command> report_commands();
 
 }  // namespace tesselctl
