@@ -231,7 +231,7 @@ ImageEditor::ActionCalls &ImageEditor::calls_of(const ActionValue &action) {
   return actions_.emplace_back(std::move(calls));
 }
 
-uint32_t ImageEditor::target_of(const EntryValue &value) const {
+uint32_t ImageEditor::target_of(const ImageEntry &value) const {
   return handle_of(value.target_is_group ? numbers_->groups : numbers_->members, value.target,
                    value.target_word);
 }

@@ -64,7 +64,7 @@ class ImageEditor {
   void edit_fallback(ValueScanner &rest);
 
   ActionCalls &calls_of(const ActionValue &action);
-  uint32_t target_of(const EntryValue &value) const;
+  uint32_t target_of(const ImageEntry &value) const;
   Call entry_call();
   Call default_call();
   void edit_entry(ValueScanner &rest);
@@ -93,7 +93,7 @@ class ImageEditor {
   Numbers *numbers_ = nullptr;
   std::map<uint32_t, Numbers> profile_numbers_;  // by action-data table
   std::vector<ActionCalls> actions_;
-  EntryValue value_;
+  ImageEntry value_;
 };
 
 }  // namespace tesselctl

@@ -72,7 +72,7 @@ void ActionValue::read(ValueScanner &scanner) {
   scanner.expect(")),");
 }
 
-void EntryValue::read(const TableInfo &table, ValueScanner &scanner) {
+void ImageEntry::read(const TableInfo &table, ValueScanner &scanner) {
   scanner.expect("((");
   has_key = !scanner.accept("(),");
   if (has_key) {
@@ -100,7 +100,7 @@ void EntryValue::read(const TableInfo &table, ValueScanner &scanner) {
 }
 
 void add_entry_line(Row &row, const TableInfo &table, ValueScanner &scanner) {
-  EntryValue value;
+  ImageEntry value;
   value.read(table, scanner);
   if (value.has_key) add_record(row, Row::kKey, table.shape(), value.key.data());
   if (value.has_key && table.has_priority()) row.number("priority", value.priority);

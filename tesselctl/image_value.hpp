@@ -38,7 +38,7 @@ struct ActionValue {
 };
 
 // The value of an entry or default entry of a table. Reading one after another takes no memory.
-struct EntryValue {
+struct ImageEntry {
   bool has_key = false;
   std::vector<uint8_t> key;
   bool has_action = false;  // not in bound tables
