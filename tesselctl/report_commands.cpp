@@ -50,8 +50,8 @@ class ImageLines {
 };
 
 // What an image holds, by way of a device of its own.
-DeviceReport report_of_image(Word file, size_t rows) {
-  ImageLines lines{std::string(file.text)};
+DeviceReport report_of_image(const Context &context, Word file, size_t rows) {
+  ImageLines lines(context.path(file));
   const Device device({.id = free_device_id(), .pipes = lines.pipes(file.text)});
   load_image(device, file.text, [&](std::string_view &line) { return lines.next(line); });
   return collect_report(device, std::string(file.text), rows);
@@ -69,10 +69,9 @@ void note_line(ObjectChanges &object, const Change &change, bool after, size_t r
   object.first.push_back({after ? '+' : '-', text});
 }
 
-std::vector<ObjectChanges> changes_of(const std::string &before_file, const std::string &after_file,
-                                      size_t rows) {
-  const Image before = Image::of_file(before_file);
-  Image after = Image::of_file(after_file);
+std::vector<ObjectChanges> changes_of(const Context &context, Words images, size_t rows) {
+  const Image before = Image::of_file(context.path(images[0]), images[0].text);
+  Image after = Image::of_file(context.path(images[1]), images[1].text);
   after.number_like(before);
   std::vector<ObjectChanges> objects;
   for (const Change &change : changes_between(before, after)) {
@@ -113,15 +112,15 @@ void report(Context &context, const Invocation &invocation) {
   if (options.has("note")) report.note = options.need("note").text;
   const Words images = invocation.arguments.subspan(1, files - 1);
   if (images.size() == 2) {
-    report.before = report_of_image(images[0], rows);
-    report.changes = changes_of(std::string(images[0].text), std::string(images[1].text), rows);
+    report.before = report_of_image(context, images[0], rows);
+    report.changes = changes_of(context, images, rows);
   }
   report.device =
       images.empty()
           ? collect_report(context.device, "device " + std::to_string(context.device.id()), rows)
-          : report_of_image(images.back(), rows);
+          : report_of_image(context, images.back(), rows);
   const std::string text = report_page(report);
-  write_file(std::string(page.text), text);
+  write_file(context.path(page), text);
   Row row;
   context.results.done(row.text("file", page.text).number("bytes", text.size()), "written");
 }
