@@ -5,6 +5,7 @@
 #include "p4_pd_tessel_switch.h"
 #include "tesselctl/call.hpp"
 #include "tesselctl/library.hpp"
+#include "tesselctl/trace.hpp"
 
 namespace tesselctl {
 
@@ -114,6 +115,8 @@ SchemaKind resolve_schema(Word name) {
 }
 
 std::string schema_text(SchemaKind kind, std::string_view name) {
+  // What the tool asks for itself is no call behind a command.
+  const TraceScope quiet(nullptr);
   Call call(need_export(family_of(kind), name));
   if (kind == SchemaKind::action) {
     return reinterpret_cast<const char *>(static_cast<uintptr_t>(call.run()));
