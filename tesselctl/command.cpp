@@ -29,6 +29,7 @@ std::span<const std::span<const Command>> command_topics() {
       compare_commands(),        //
       routes_commands(),         //
       introspection_commands(),  //
+      watch_commands(),          //
       help_commands(),           //
       report_commands(),         //
   };

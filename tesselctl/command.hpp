@@ -56,7 +56,13 @@ struct Command {
   Kind kind = Kind::asks;
   std::string_view flags = {};  // further "--" words, separated by blanks: "--raw"
   bool hidden = false;          // for programs: no help lists it
+  bool watched = false;         // changes something, and watch repeats it all the same
 };
+
+// Whether watch repeats the command.
+inline bool can_be_watched(const Command &command) {
+  return (command.kind != Kind::changes || command.watched) && command.name != "watch";
+}
 
 // All commands by topic; every span is a topic.
 std::span<const std::span<const Command>> command_topics();
@@ -108,6 +114,7 @@ std::span<const Command> image_commands();
 std::span<const Command> compare_commands();
 std::span<const Command> routes_commands();
 std::span<const Command> introspection_commands();
+std::span<const Command> watch_commands();
 std::span<const Command> help_commands();
 std::span<const Command> report_commands();
 

@@ -90,6 +90,7 @@ class Completer {
 
   void complete_line();
   bool take_flags();
+  void skip_watch();
   bool choose_command();
   void complete_first();
   void complete_flag();
@@ -115,6 +116,7 @@ class Completer {
   std::vector<Word> words_;              // before the cursor, without "--" words
   std::vector<std::string_view> flags_;  // "--" words that are given
   std::string_view open_flag_;           // it wants a value, and the current word is that
+  bool watched_ = false;                 // the command stands behind watch
   const Command *command_ = nullptr;
   std::vector<Argument> grammar_;
   Words arguments_;   // behind the command
@@ -148,8 +150,24 @@ bool Completer::take_flags() {
   return open_flag_.empty();
 }
 
+// What watch repeats is completed as a command of its own.
+void Completer::skip_watch() {
+  if (words_.empty() || words_[0].text != "watch") return;
+  watched_ = true;
+  words_.erase(words_.begin());
+  if (!words_.empty() && words_[0].text.find_first_of("0123456789.") == 0) {
+    words_.erase(words_.begin());
+  }
+  if (!words_.empty() && words_[0].text.starts_with("count=")) {
+    words_.erase(words_.begin());
+  } else if (words_.empty()) {
+    offers_.offer("count=", "the number of rounds; may be left out");
+  }
+}
+
 void Completer::complete_line() {
   const bool flags_are_whole = take_flags();
+  skip_watch();
   if (choose_command()) read_arguments();
   if (!flags_are_whole) return complete_flag_value(open_flag_);
   if (current_.starts_with("-") && command_ != nullptr) return complete_flag();
@@ -175,6 +193,7 @@ bool Completer::choose_command() {
 void Completer::complete_first() {
   std::vector<std::string_view> seen;
   for_each_shown_command([&](const Command &command) {
+    if (watched_ && !can_be_watched(command)) return;
     const std::string_view first = first_word(command.name);
     if (std::find(seen.begin(), seen.end(), first) != seen.end()) return;
     seen.push_back(first);

@@ -89,6 +89,8 @@ std::string_view meaning_of_value(std::string_view placeholder) {
   static constexpr Meaning kMeanings[] = {
       {"N", "a number"},
       {"MS", "milliseconds"},
+      {"SECONDS", "seconds from one round to the next, 0.1 to 86400"},
+      {"COMMAND", "a command"},
       {"HANDLE", "a handle: a number, or $NAME of one that as=NAME remembered"},
       {"CIR,CBS,PIR,PBS", "committed rate and burst, peak rate and burst"},
       {"NAME", "a name"},

@@ -17,6 +17,7 @@
 #include "tesselctl/serve.hpp"
 #include "tesselctl/shell.hpp"
 #include "tesselctl/version.hpp"
+#include "tesselctl/watch.hpp"
 
 namespace tesselctl {
 
@@ -60,15 +61,35 @@ struct Streams {
   Output errors;
 };
 
+// The terminal whose lines can be drawn anew, -1 when the output is none.
+int redrawn_terminal() {
+  const char *term = std::getenv("TERM");
+  const bool dumb = term == nullptr || std::string_view(term) == "dumb";
+  return isatty(STDOUT_FILENO) != 0 && !dumb ? STDOUT_FILENO : -1;
+}
+
 // What runs command lines: a server, or a device that lives as long as this, or in an image.
 class Session {
  public:
   Session(const Options &options, Streams &streams) : image_(options.image) {
-    if (!options.socket.empty()) {
+    if (options.socket.empty()) {
+      open_device(options, streams);
+    } else {
       runner_ = std::make_unique<RemoteRunner>(options.socket, streams.out, streams.errors,
                                                options.settings);
-      return;
     }
+    watch_.emplace(*runner_, streams.out, options.settings, redrawn_terminal());
+  }
+  Runner &runner() { return *watch_; }
+  // Call it when all is done.
+  void save_if_changed() const {
+    if (local_ != nullptr && !image_.empty() && local_->has_changed()) {
+      save_image_file(*device_, image_);
+    }
+  }
+
+ private:
+  void open_device(const Options &options, Streams &streams) {
     device_.emplace(options.device);
     if (!image_.empty() && access(image_.c_str(), F_OK) == 0) {
       load_image_file(*device_, image_, image_);
@@ -78,19 +99,12 @@ class Session {
     local_ = local.get();
     runner_ = std::move(local);
   }
-  Runner &runner() { return *runner_; }
-  // Call it when all is done.
-  void save_if_changed() const {
-    if (local_ != nullptr && !image_.empty() && local_->has_changed()) {
-      save_image_file(*device_, image_);
-    }
-  }
 
- private:
   std::string image_;
   std::optional<Device> device_;
   std::unique_ptr<Runner> runner_;
   LocalRunner *local_ = nullptr;
+  std::optional<WatchRunner> watch_;
 };
 
 int run_file(const Options &options) {

@@ -13,7 +13,7 @@ namespace tesselctl {
 void Output::write(std::string_view text) {
   text_ += text;
   const bool goes_out = stream_ != nullptr || sink_ != nullptr;
-  if (goes_out && text_.size() > 1u << 16) flush();
+  if (goes_out && !held_ && text_.size() > 1u << 16) flush();
 }
 
 bool Output::try_flush() noexcept {
@@ -30,12 +30,13 @@ bool Output::try_flush() noexcept {
 }
 
 void Output::flush() {
+  if (held_) return;
   if (sink_ && !text_.empty()) sink_(take());
   if (!try_flush()) throw Fault(fmt::format("cannot write the output: {}", std::strerror(errno)));
 }
 
 std::string Output::styled(Style style, std::string_view text) const {
-  const char *codes[] = {"", "\033[1m", "\033[32m", "\033[1;31m", "\033[2m"};
+  const char *codes[] = {"", "\033[1m", "\033[32m", "\033[1;31m", "\033[2m", "\033[7m"};
   if (!colour_ || style == Style::plain) return std::string(text);
   return codes[static_cast<int>(style)] + std::string(text) + "\033[0m";
 }

@@ -11,7 +11,7 @@
 
 namespace tesselctl {
 
-enum class Style { plain, heading, good, bad, faint };
+enum class Style { plain, heading, good, bad, faint, changed };
 
 class Output {
  public:
@@ -42,12 +42,25 @@ class Output {
   void flush();
   std::string take() { return std::move(text_); }
 
+  // While it lives, nothing goes out; take gives what was written.
+  class Hold {
+   public:
+    explicit Hold(Output &out) : out_(&out) { out_->held_ = true; }
+    ~Hold() { out_->held_ = false; }
+    Hold(const Hold &) = delete;
+    Hold &operator=(const Hold &) = delete;
+
+   private:
+    Output *out_;
+  };
+
  private:
   bool try_flush() noexcept;
 
   std::FILE *stream_ = nullptr;
   std::function<void(std::string_view)> sink_;
   bool colour_ = false;
+  bool held_ = false;
   std::string text_;
 };
 

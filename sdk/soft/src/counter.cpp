@@ -87,9 +87,9 @@ bf_status_t Counter::count(bf_pipe_id_t pipe, uint32_t index, uint64_t packets, 
 bf_status_t Counter::next_cell(uint32_t from, uint32_t *cell) {
   if (direct_) return BF_NOT_SUPPORTED;
   const std::lock_guard lock(mutex_);
-  return cells_.next(from, cell, [](const EntryCounters &counters) {
-    return (counters.hardware.packets | counters.hardware.bytes | counters.software.packets |
-            counters.software.bytes) != 0;
+  return cells_.next(from, cell, [](const EntryCounters &cell_counters) {
+    return (cell_counters.hardware.packets | cell_counters.hardware.bytes |
+            cell_counters.software.packets | cell_counters.software.bytes) != 0;
   });
 }
 

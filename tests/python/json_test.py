@@ -1,0 +1,178 @@
+#!/usr/bin/env python3
+"""Holds what tesselctl --json prints against its documented shape.
+
+usage: json_test.py TESSELCTL SCHEMA DOCUMENT SCRIPT
+
+Runs SCRIPT and commands of every kind, right and wrong ones, and checks each line against SCHEMA;
+and runs the examples of DOCUMENT again, on the device that SCRIPT made.
+"""
+import json
+import os
+import re
+import shlex
+import subprocess
+import sys
+import tempfile
+
+TYPES = {"object": dict, "array": list, "string": str}
+COMMANDS = """
+age enable ipv4ShortMaskLpm sweep=10 ttl=1000
+add ipv4ShortMaskLpm vrfId=2 dip=10.0.0.0/8 ttl=1500 action=setEcmp ecmpGroup=1
+lookup ipv4ShortMaskLpm vrfId=2 dip=10.1.1.1
+traffic firewallPolicy srcSegment=1 dstSegment=2 protocol=6 dstPort=443 packets=3
+counter list
+counter list --count
+counter list --filter label=x* --sort packets
+find ipv4ShortMaskLpm vrfId=1 dip=0.0.0.0/0 --trace
+tables
+describe l2LookupMiss
+describe setNextHop
+describe ecmpMemberActionProfile
+schema cpuEncapFields --raw
+dump ipv6ShortMaskLpm
+display firewallPolicy
+default get ipv4ShortMaskLpm
+member show ecmpMemberActionProfile
+group show ecmpMemberActionProfile
+show ipv4ShortMaskLpm --dry-run
+register range ingVlanCheckData first=0 count=2
+register write ingVlanCheckData index=0 value=1 --dry-run
+hash get hashOuterIpv4Hdr
+valueset show recirc_ports
+digest listen macLearningDigest timeout=0
+digest inject macLearningDigest smac=00:11:22:33:44:55 ingL2Domain=10
+digest show macLearningDigest
+digest ack macLearningDigest
+snapshot create first=0 last=1 as=s
+snapshot inject last=1 outerIpv4Hdr_dip=10.1.2.3
+snapshot show snapshot=$s
+age advance 2000
+help
+help add
+watch 0.1 count=2 count ipv4ShortMaskLpm
+"""
+# Each with the members of its error.
+FAULTS = {
+    "cuont": {"column": 1, "token": "cuont", "message": "no command has this name",
+              "suggestion": "count"},
+    "show \"\xff\x01 \\x": None,
+    "count nextHopp": None,
+    "add ipv4ShortMaskLpm vrfId=1 dip=10.1.0.1/16 action=setEcmp ecmpGroup=1": {
+        "column": 34, "token": "10.1.0.1/16", "message": "the address has bits behind its prefix",
+        "suggestion": "10.1.0.0/16"},
+    "counter list --sort nosuch": {"message": "no row has a 'nosuch'"},
+    "load /nonexistent.image": None,
+    "watch delete l2Lookup entry=1": None,
+}
+
+
+def wrong_with(value, schema, root, at="line"):
+    """What does not hold, empty for nothing. Knows the words that the schema uses, no others."""
+    def parts():
+        for word, want in schema.items():
+            if word in ("$schema", "$id", "$defs", "title", "description", "additionalProperties"):
+                continue
+            if word == "$ref":
+                yield wrong_with(value, root["$defs"][want.split("/")[-1]], root, at)
+            elif word == "anyOf":
+                each = [wrong_with(value, one, root, at) for one in want]
+                yield "" if "" in each else f"{at}: none of: {each}"
+            elif word == "type":
+                good = (type(value) is int) if want == "integer" else isinstance(value, TYPES[want])
+                yield "" if good else f"{at}: no {want}"
+            elif word == "const":
+                yield "" if type(value) is type(want) and value == want else f"{at}: not {want}"
+            elif word == "minimum":
+                yield "" if value >= want else f"{at}: below {want}"
+            elif word == "minLength" or word == "minProperties":
+                yield "" if len(value) >= want else f"{at}: too short"
+            elif word == "items":
+                yield from (wrong_with(one, want, root, f"{at}[{i}]") for i, one in enumerate(value))
+            elif word == "required":
+                yield from (f"{at}: lacks {name}" for name in want if name not in value)
+            elif word == "dependentRequired":
+                yield from (f"{at}: {name} without {other}" for name, others in want.items()
+                            for other in others if name in value and other not in value)
+            elif word == "properties":
+                others = schema.get("additionalProperties", True)
+                for name, one in value.items():
+                    if name in want:
+                        yield wrong_with(one, want[name], root, f"{at}.{name}")
+                    elif isinstance(others, dict):
+                        yield wrong_with(one, others, root, f"{at}.{name}")
+                    elif not others:
+                        yield f"{at}: has {name}"
+            else:
+                raise ValueError(f"the schema uses {word}")
+        if "properties" not in schema and isinstance(schema.get("additionalProperties"), dict):
+            for name, one in value.items():
+                yield wrong_with(one, schema["additionalProperties"], root, f"{at}.{name}")
+    return next((part for part in parts() if part), "")
+
+
+def once(pairs):
+    members = dict(pairs)
+    assert len(members) == len(pairs), f"two members of one name: {pairs}"
+    return members
+
+
+def check_checker(schema):
+    good = {"version": 1, "command": "x", "rows": [{"key": {"a": 1}, "values": [1]}],
+            "error": {"message": "m"}}
+    assert wrong_with(good, schema, schema) == ""
+    for change in ({"version": 2}, {"version": True}, {"more": 1}, {"rows": {}}, {"rows": [{}]},
+                   {"rows": [{"entry": "1"}]}, {"rows": [{"entry": -1}]}, {"rows": [{"x": None}]},
+                   {"rows": [{"key": {"a": []}}]}, {"error": {}}, {"error": {"message": ""}},
+                   {"error": {"message": "m", "column": 1}}, {"error": {"message": "m", "x": 1}}):
+        assert wrong_with({**good, **change}, schema, schema), change
+    assert wrong_with({"version": 1, "rows": []}, schema, schema)
+
+
+def main():
+    tool, schema_file, document, script = (os.path.abspath(path) for path in sys.argv[1:])
+    with open(schema_file) as file:
+        schema = json.load(file)
+    check_checker(schema)
+
+    def lines_of(words, text):
+        run = subprocess.run([tool, "--json", *words], input=text.encode("latin-1"),
+                             capture_output=True)
+        assert run.stderr == b"", run.stderr
+        lines = [json.loads(line, object_pairs_hook=once) for line in run.stdout.splitlines()]
+        for line in lines:
+            wrong = wrong_with(line, schema, schema)
+            assert not wrong, f"{wrong}: {line}"
+        return run.returncode, lines
+
+    with tempfile.TemporaryDirectory() as folder:
+        os.chdir(folder)
+        code, lines = lines_of(["--image", "leaf.image", "run", script], "")
+        assert code == 0 and len(lines) == 60 and all("error" not in line for line in lines)
+        code, lines = lines_of(["--image", "leaf.image", "run", "-"], COMMANDS)
+        assert code == 0, [line for line in lines if "error" in line]
+        assert len(lines) == 1 + len(COMMANDS.strip().splitlines())
+        assert [line["rows"] for line in lines if "--count" in line["command"]] != [[]]
+        code, lines = lines_of(["run", "-k", "-"], "".join(line + "\n" for line in FAULTS))
+        assert code == 1 and len(lines) == len(FAULTS)
+        for number, (line, want) in enumerate(zip(lines, FAULTS.values()), 1):
+            assert line["error"]["line"] == number and line["error"]["file"] == "standard input"
+            rest = {name: line["error"][name] for name in line["error"] if name not in ("file", "line")}
+            assert want is None or rest == want, f"{rest} is not {want}"
+        check_examples(tool, document, schema)
+
+
+def check_examples(tool, document, schema):
+    with open(document) as file:
+        blocks = re.findall(r"^```console\n(.*?)^```", file.read(), re.S | re.M)
+    count = 0
+    for example in "".join(blocks).split("$ tesselctl ")[1:]:
+        command, want = example.split("\n", 1)
+        run = subprocess.run([tool, *shlex.split(command)], capture_output=True, text=True)
+        assert run.stdout == want, f"{command}: {run.stdout}is not {want}"
+        for line in run.stdout.splitlines():
+            assert wrong_with(json.loads(line), schema, schema) == ""
+        count += 1
+    assert count >= 5, "the document has lost its examples"
+
+
+main()
