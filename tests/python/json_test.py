@@ -34,7 +34,6 @@ display firewallPolicy
 default get ipv4ShortMaskLpm
 member show ecmpMemberActionProfile
 group show ecmpMemberActionProfile
-show ipv4ShortMaskLpm --dry-run
 register range ingVlanCheckData first=0 count=2
 register write ingVlanCheckData index=0 value=1 --dry-run
 hash get hashOuterIpv4Hdr
@@ -60,7 +59,7 @@ FAULTS = {
     "add ipv4ShortMaskLpm vrfId=1 dip=10.1.0.1/16 action=setEcmp ecmpGroup=1": {
         "column": 34, "token": "10.1.0.1/16", "message": "the address has bits behind its prefix",
         "suggestion": "10.1.0.0/16"},
-    "counter list --sort nosuch": {"message": "no row has a 'nosuch'"},
+    "tables --sort nosuch": {"message": "no row has a 'nosuch'"},
     "load /nonexistent.image": None,
     "watch delete l2Lookup entry=1": None,
 }

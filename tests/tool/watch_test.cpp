@@ -32,9 +32,9 @@ TEST_F(WatchTest, EveryRoundIsTheCommandAnew) {
   // The words of watch and of the command do not meet; the flags are the command's.
   EXPECT_EQ(
       watch("watch --json .1 count=2 register range ingVlanCheckData first=3 count=1"),
-      "{\"version\":1,\"command\":\"--json          register range ingVlanCheckData first=3 "
+      "{\"version\":1,\"command\":\"--json            register range ingVlanCheckData first=3 "
       "count=1\",\"rows\":[{\"register\":\"ingVlanCheckData\",\"index\":3,\"values\":[1,1]}]}\n"
-      "{\"version\":1,\"command\":\"--json          register range ingVlanCheckData first=3 "
+      "{\"version\":1,\"command\":\"--json            register range ingVlanCheckData first=3 "
       "count=1\",\"rows\":[{\"register\":\"ingVlanCheckData\",\"index\":3,\"values\":[1,1]}]}\n");
   EXPECT_EQ(watch("count"), "all tables are empty\n");
 }
@@ -46,16 +46,17 @@ TEST_F(WatchTest, ShowsWhatExpires) {
             "");
   EXPECT_EQ(watch("watch 0.1 count=3 age advance 1000"),
             "TIME\nTIME\n"
-            "ipv4ShortMaskLpm entry=1 expired vrfId=1 dip=10.0.0.0/8 ttl=0 action=setEcmp "
+            "ipv4ShortMaskLpm entry=1 expired vrfId=1 dip=10.0.0.0/8 ttl=1500 action=setEcmp "
             "ecmpGroup=1\nTIME\n");
 }
 
 TEST_F(WatchTest, AFaultEndsItAndHasItsPlace) {
-  EXPECT_EQ(
-      watch("watch 0.1 show ipv4ShortMaskLpm entry=1"),
-      "TIME\nw:7:38: '1': BF_OBJECT_NOT_FOUND (7): No object with this handle or key exists.\n"
-      "            show ipv4ShortMaskLpm entry=1\n"
-      "                                       ^\n");
+  EXPECT_EQ(watch("watch 0.1 show ipv4ShortMaskLpm entry=1"),
+            "TIME\nw:7:16: 'ipv4ShortMaskLpm': BF_OBJECT_NOT_FOUND (7): No object has this handle, "
+            "key or "
+            "name.\n"
+            "            show ipv4ShortMaskLpm entry=1\n"
+            "                 ^^^^^^^^^^^^^^^^\n");
   EXPECT_EQ(outcome_, LineOutcome::fault);
   const auto refused = [&](std::string_view line) {
     const std::string text = watch(line);
