@@ -59,7 +59,7 @@ void require_json_lines(std::string_view text) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
-  static constexpr Settings kSettings[] = {
+  static const Settings kSettings[] = {
       {}, {.verbose = true, .trace = true}, {.terse = true}, {.json = true}};
   const Settings &settings = kSettings[size % std::size(kSettings)];
   Device device(DeviceOptions{.id = 0, .pipes = 2});
