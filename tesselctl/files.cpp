@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <utility>
 
 #include "tesselctl/descriptor.hpp"
@@ -74,6 +75,12 @@ std::string decompress(int fd, const std::string &path) {
   return text;
 }
 
+// The file that a link names, else the path itself: a link is to stay when its file is replaced.
+std::string followed(const std::string &path) {
+  const std::unique_ptr<char, decltype(&free)> real(realpath(path.c_str(), nullptr), free);
+  return real == nullptr ? path : real.get();
+}
+
 }  // namespace
 
 std::string read_input(const std::string &path) {
@@ -88,21 +95,38 @@ std::string read_input(const std::string &path) {
   return read_all(file.get(), path);
 }
 
-FileWriter::FileWriter(std::string path) : path_(std::move(path)), temporary_(path_ + ".XXXXXX") {
-  fd_ = mkostemp(temporary_.data(), O_CLOEXEC);
+FileWriter::FileWriter(std::string path) : path_(std::move(path)) {
+  struct stat old = {};
+  const bool replaces = stat(path_.c_str(), &old) == 0;
+  if (replaces && S_ISDIR(old.st_mode)) {
+    errno = EISDIR;
+    throw_system(path_);
+  }
+  if (replaces && !S_ISREG(old.st_mode)) {
+    fd_ = open(path_.c_str(), O_WRONLY | O_CLOEXEC);
+  } else {
+    target_ = followed(path_);
+    temporary_ = target_ + ".XXXXXX";
+    fd_ = mkostemp(temporary_.data(), O_CLOEXEC);
+  }
   if (fd_ < 0) throw_system(path_);
+  const mode_t mask = umask(0);
+  umask(mask);
+  mode_ = replaces ? old.st_mode & 0777 : 0666 & ~mask;
 }
 
 FileWriter::~FileWriter() {
-  if (fd_ < 0) return;
-  close(fd_);
-  unlink(temporary_.c_str());
+  if (fd_ >= 0) discard();
+}
+
+void FileWriter::discard() {
+  close(std::exchange(fd_, -1));
+  if (!temporary_.empty()) unlink(temporary_.c_str());
 }
 
 void FileWriter::fail() {
   const int error = errno;
-  close(std::exchange(fd_, -1));
-  unlink(temporary_.c_str());
+  discard();
   errno = error;
   throw_system(path_);
 }
@@ -117,10 +141,10 @@ void FileWriter::write(std::string_view text) {
 }
 
 void FileWriter::commit() {
-  const mode_t mask = umask(0);
-  umask(mask);
-  if (fchmod(fd_, 0666 & ~mask) != 0 || fsync(fd_) != 0) fail();
-  if (rename(temporary_.c_str(), path_.c_str()) != 0) fail();
+  if (!temporary_.empty()) {
+    if (fchmod(fd_, mode_) != 0 || fsync(fd_) != 0) fail();
+    if (rename(temporary_.c_str(), target_.c_str()) != 0) fail();
+  }
   close(std::exchange(fd_, -1));
 }
 

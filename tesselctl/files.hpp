@@ -12,7 +12,8 @@ namespace tesselctl {
 std::string read_input(const std::string &path);
 
 // A file that is written beside the one it replaces, brought to the disk and renamed. Whatever goes
-// wrong before commit is done, the old file stays as it was. All throw Fault.
+// wrong before commit is done, the old file stays as it was; the new one has its permissions. What
+// is no regular file, such as a pipe or a terminal, is written to as it is. All throw Fault.
 class FileWriter {
  public:
   explicit FileWriter(std::string path);
@@ -25,8 +26,11 @@ class FileWriter {
 
  private:
   [[noreturn]] void fail();
+  void discard();
   std::string path_;
-  std::string temporary_;
+  std::string target_;     // what is replaced
+  std::string temporary_;  // empty when it is written to as it is
+  unsigned mode_ = 0;
   int fd_ = -1;
 };
 

@@ -17,18 +17,25 @@ namespace {
 struct Step {
   std::string_view keyword;
   Edit edit;
+  Edit as = edit;  // what is done to them
 };
 
+// Entries are edited while no ageing that ends or changes holds their ttl to its limits.
 constexpr Step kSteps[] = {
-    {"member", Edit::add},    {"member", Edit::modify},   {"group", Edit::add},
-    {"group", Edit::modify},  {"fallback", Edit::add},    {"fallback", Edit::modify},
-    {"entry", Edit::remove},  {"entry", Edit::modify},    {"default", Edit::modify},
-    {"entry", Edit::add},     {"default", Edit::add},     {"default", Edit::remove},
-    {"ageing", Edit::remove}, {"ageing", Edit::modify},   {"ageing", Edit::add},
-    {"group", Edit::remove},  {"fallback", Edit::remove}, {"member", Edit::remove},
-    {"cell", Edit::remove},   {"cell", Edit::modify},     {"cell", Edit::add},
-    {"seed", Edit::remove},   {"seed", Edit::modify},     {"seed", Edit::add},
-    {"value", Edit::remove},  {"value", Edit::add},
+    {"ageing", Edit::remove},  {"ageing", Edit::modify, Edit::remove},
+    {"member", Edit::add},     {"member", Edit::modify},
+    {"group", Edit::add},      {"group", Edit::modify},
+    {"fallback", Edit::add},   {"fallback", Edit::modify},
+    {"entry", Edit::remove},   {"entry", Edit::modify},
+    {"default", Edit::modify}, {"entry", Edit::add},
+    {"default", Edit::add},    {"default", Edit::remove},
+    {"ageing", Edit::modify},  {"ageing", Edit::add},
+    {"group", Edit::remove},   {"fallback", Edit::remove},
+    {"member", Edit::remove},  {"cell", Edit::remove},
+    {"cell", Edit::modify},    {"cell", Edit::add},
+    {"seed", Edit::remove},    {"seed", Edit::modify},
+    {"seed", Edit::add},       {"value", Edit::remove},
+    {"value", Edit::add},
 };
 
 Edit edit_of(const Change &change) {
@@ -60,9 +67,9 @@ class Applier {
     }
   }
 
-  void run(const Change &change) {
+  void run(const Change &change, Edit as) {
     if (change.kind == "register") return run_register(change);
-    edit(change.kind, change.name, edit_of(change), line_of(change));
+    edit(change.kind, change.name, as, line_of(change));
   }
 
   // All cells of a register whose common value changes are written anew.
@@ -155,7 +162,7 @@ void apply_changes(const Device &device, const Image &after, const std::vector<C
       if (edit_of(change) != step.edit || keyword_of(change) != step.keyword) continue;
       if (change.kind == "register" && common.contains(change.name)) continue;
       check_interrupt();
-      applier.run(change);
+      applier.run(change, step.as);
     }
   }
   for (const auto &[name, change] : common) applier.rewrite_register(*change);

@@ -1,9 +1,11 @@
 // The command line of tesselctl.
+#include <fmt/ranges.h>
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
 #include <csignal>
 #include <cstdlib>
+#include <iostream>
 #include <memory>
 #include <optional>
 
@@ -16,6 +18,7 @@
 #include "tesselctl/script.hpp"
 #include "tesselctl/serve.hpp"
 #include "tesselctl/shell.hpp"
+#include "tesselctl/utf8.hpp"
 #include "tesselctl/version.hpp"
 #include "tesselctl/watch.hpp"
 
@@ -204,6 +207,33 @@ void check_socket(const CLI::App &app, const Options &options) {
   }
 }
 
+int run_parsed(const CLI::App &app, Options &options) {
+  check_socket(app, options);
+  if (!options.image.empty() && app.count("--pipes") == 0) {
+    options.device.pipes = pipes_of_image_file(options.image).value_or(options.device.pipes);
+  }
+  if (app.got_subcommand("serve")) return run_serve(options);
+  if (app.got_subcommand("run")) return run_file(options);
+  if (app.remaining().empty()) return run_input(options);
+  return run_one(options, app.remaining());
+}
+
+// What keeps a command from being run at all is told as JSON, too.
+void report_as_json(const Fault &fault, const Options &options,
+                    const std::vector<std::string> &words) {
+  Output out(stdout, false);
+  Results results(out);
+  results.begin(options.settings, fmt::format("{}", fmt::join(words, " ")), false);
+  results.fail(fault, {}, 0);
+  out.flush();
+}
+
+int exit_of(const CLI::App &app, const CLI::ParseError &error) {
+  const bool good = app.exit(error) == 0;
+  if (!std::cout.flush()) throw Fault("cannot write the output");
+  return good ? kDone : kFault;
+}
+
 int run_tool(int argc, char **argv) {
   Options options;
   CLI::App app("Works on the tables of the tessel_switch program, in a soft device", "tesselctl");
@@ -216,13 +246,15 @@ int run_tool(int argc, char **argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError &error) {
-    return app.exit(error) == 0 ? kDone : kFault;
+    return exit_of(app, error);
   }
-  check_socket(app, options);
-  if (app.got_subcommand("serve")) return run_serve(options);
-  if (app.got_subcommand("run")) return run_file(options);
-  if (app.remaining().empty()) return run_input(options);
-  return run_one(options, app.remaining());
+  try {
+    return run_parsed(app, options);
+  } catch (const Fault &fault) {
+    if (!options.settings.json) throw;
+    report_as_json(fault, options, app.remaining());
+    return kFault;
+  }
 }
 
 }  // namespace
@@ -233,7 +265,9 @@ int main(int argc, char **argv) {
   try {
     return tesselctl::run_tool(argc, argv);
   } catch (const std::exception &error) {
-    fmt::print(stderr, "tesselctl: {}\n", error.what());
+    const auto *fault = dynamic_cast<const tesselctl::Fault *>(&error);
+    const std::string text = fault != nullptr ? fault->sentence() : error.what();
+    fmt::print(stderr, "tesselctl: {}\n", tesselctl::printable(text));
     return 1;
   }
 }

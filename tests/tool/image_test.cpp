@@ -1,6 +1,10 @@
 // Images: what is in them, that they hold everything, and what becomes of broken ones.
 #include "tesselctl/image.hpp"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <cstdio>
 
 #include "tesselctl/entry_line.hpp"
@@ -221,6 +225,33 @@ TEST_F(ImageTest, AnAtomicLoadThatFailsLeavesTheDeviceAsItWas) {
   EXPECT_NE(image(), before);
 }
 
+// A link stays a link, a private file private, and what is no file is only written to.
+TEST_F(ImageTest, SavingKeepsWhatTheFileIs) {
+  const std::string file = path("private");
+  const std::string link = path("link");
+  const std::string pipe = path("pipe");
+  write_file(file, "");
+  ASSERT_EQ(chmod(file.c_str(), 0600), 0);
+  ASSERT_EQ(symlink(file.c_str(), link.c_str()), 0);
+  ASSERT_EQ(run("save " + link), "");
+  struct stat status = {};
+  ASSERT_EQ(lstat(link.c_str(), &status), 0);
+  EXPECT_TRUE(S_ISLNK(status.st_mode));
+  ASSERT_EQ(lstat(file.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777, 0600u);
+  EXPECT_EQ(read_input(file), image());
+
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  const int end = open(pipe.c_str(), O_RDWR | O_NONBLOCK);
+  EXPECT_EQ(run("save " + pipe), "");
+  std::string begin(23, '\0');
+  EXPECT_EQ(read(end, begin.data(), begin.size()), 23);
+  EXPECT_EQ(begin, "tesselctl image 1 tesse");
+  close(end);
+  ASSERT_EQ(lstat(pipe.c_str(), &status), 0);
+  EXPECT_TRUE(S_ISFIFO(status.st_mode));
+}
+
 TEST_F(ImageTest, ADryRunAnswersAndChangesNothing) {
   fill();
   const std::string before = image();
@@ -277,6 +308,11 @@ TEST_F(ImageTest, DiffTellsAndApplyUndoesEveryChange) {
        "+ recirc_ports value 0x50 mask=0xf0 direction=0 pipe=65535 parser=255\n"},
       {"age disable ipv4ShortMaskLpm",
        "- ipv4ShortMaskLpm ageing mode=1 sweep=100 max=90000 min=0 ttl=1000\n"},
+      // Ageing that comes, and entries that its limits changed.
+      {"age enable ipv6ShortMaskLpm sweep=100 ttl=1000",
+       "- ipv6ShortMaskLpm vrfId=1 dip=2001:db8::/32 ttl=0 action=setNextHop nextHop=3\n"
+       "+ ipv6ShortMaskLpm vrfId=1 dip=2001:db8::/32 ttl=1000 action=setNextHop nextHop=3\n"
+       "+ ipv6ShortMaskLpm ageing mode=1 sweep=100 max=0 min=0 ttl=1000\n"},
   };
   for (const auto &given : cases) {
     ASSERT_EQ(run(given.line), "");
