@@ -34,6 +34,7 @@ class Fault : public std::exception {
   }
 
   const char *what() const noexcept override { return message_.c_str(); }
+  const std::string &message() const { return message_; }
   // The word, or the beginning of a long one with "..." behind it.
   const std::string &token() const { return token_; }
   size_t token_bytes() const { return token_bytes_; }

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <iostream>
 #include <memory>
+#include <new>
 #include <optional>
 
 #include "tesselctl/client.hpp"
@@ -264,6 +265,9 @@ int run_tool(int argc, char **argv) {
 int main(int argc, char **argv) {
   try {
     return tesselctl::run_tool(argc, argv);
+  } catch (const std::bad_alloc &) {
+    fmt::print(stderr, "tesselctl: there is no memory for this\n");
+    return 1;
   } catch (const std::exception &error) {
     const auto *fault = dynamic_cast<const tesselctl::Fault *>(&error);
     const std::string text = fault != nullptr ? fault->sentence() : error.what();

@@ -253,7 +253,7 @@ void Results::fail(const Fault &fault, std::string_view file, uint64_t line) {
   Row error;
   if (line != 0) error.text("file", file).number("line", line);
   if (fault.column() != 0) error.number("column", fault.column()).text("token", fault.token());
-  error.text("message", fault.what());
+  error.text("message", fault.message());
   if (!fault.suggestion().empty()) error.text("suggestion", fault.suggestion());
   out_->write("],\"error\":" + error.json() + "}\n");
 }

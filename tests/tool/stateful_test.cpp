@@ -86,5 +86,33 @@ TEST_F(ToolTest, ValueSetsKeepTheirValues) {
   EXPECT_EQ(run("valueset show recirc_ports"), "");
 }
 
+// Names as the header has them, records that are passed by value, texts, room for what comes back.
+TEST_F(ToolTest, TheTraceIsC) {
+  const std::string begin = "  status = p4_pd_tessel_switch_";
+  EXPECT_EQ(run("default set egressMcRemap action=setL2DomainReplicated l2Domain=7 --trace"),
+            "{\n  p4_pd_tessel_switch_setL2DomainReplicated_action_spec_t action_spec = "
+            "{.action_l2Domain = 0x7};\n  p4_pd_entry_handle_t entry = {0};\n" +
+                begin +
+                "egressMcRemap_set_default_action_setL2DomainReplicated(session, target, "
+                "&action_spec, &entry);  /* BF_SUCCESS (0) */\n}\n");
+  EXPECT_EQ(run("counter write pdpClassCount index=1 packets=3 bytes=4 --trace"),
+            "{\n  p4_pd_counter_values_t values = {3u, 4u};\n" + begin +
+                "counter_write_pdpClassCount(session, target, 1, values);  /* BF_SUCCESS (0) */\n"
+                "}\n");
+  EXPECT_EQ(run("valueset add recirc_ports value=3 --trace"),
+            "{\n  p4_pd_parser_target_t parser = {0, 0, 0xffff, 0xff};\n"
+            "  p4_pd_entry_handle_t entry = {0};\n" +
+                begin +
+                "pvs_recirc_ports_entry_add(session, parser, 3, 0xffffffff, &entry);"
+                "  /* BF_SUCCESS (0) */\n}\n");
+  const std::string hash = run("hash compute hashOuterIpv4Hdr 10.0.0.1/32 6/8 --trace");
+  EXPECT_EQ(hash.substr(0, hash.find("  status")),
+            "{\n  p4_pd_hash_calc_attr_t attributes[2] = "
+            "{{.field = 0, .value = 0xa000001}, {.field = 1, .value = 0x6}};\n"
+            "  uint32_t attribute_sizes[2] = {32, 8};\n  uint8_t hash[8] = {0};\n");
+  const std::string range = run("register range flowDigestCountReg first=0 count=3 --trace");
+  EXPECT_NE(range.find("  uint32_t values[4096] = {0};\n"), std::string::npos) << range;
+}
+
 }  // namespace
 }  // namespace tesselctl
