@@ -14,10 +14,14 @@
 //   cell 3 pipe=0 packets=10 bytes=640
 //   meter pdpMeter                          cells that were set
 //   cell 3 meter=1000,128,2000,256 type=0
-//   register ingVlanCheckData               one value a pipe: of most cells, and of those that
-//   differ all 1,1,1,1 cell 8 0,0,0,0 hash flowHash seed 0x1 valueset recirc_ports value 0x40
-//   mask=0xf0 direction=0 pipe=65535 parser=255 end 14                                  the number
-//   of lines before it: the image is whole
+//   register ingVlanCheckData               cells by their values, one a pipe
+//   all 1,1,1,1                             of those that have no line
+//   cell 8 0,0,0,0
+//   hash hashOuterEthHdr
+//   seed 0x1
+//   valueset recirc_ports
+//   value 0x40 mask=0xf0 direction=0 pipe=65535 parser=255
+//   end 14                                  the lines before it: the image is whole
 //
 // Values are the value strings of the library. Members and groups are numbered from 1 in each
 // profile, and entries of bound tables name those numbers, so that equal devices have equal images
