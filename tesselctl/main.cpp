@@ -185,7 +185,8 @@ void add_options(CLI::App &app, Options &options) {
   app.add_option("--device", options.device.id, "id of the device")
       ->check(CLI::Range(0, 255))
       ->capture_default_str();
-  app.add_option("--pipes", options.device.pipes, "pipes of the device")
+  app.add_option("--pipes", options.device.pipes,
+                 "pipes of the device; those of the image if it has some")
       ->check(CLI::Range(1, 8))
       ->capture_default_str();
   app.add_option("--socket", options.socket, "work on the device of the server that listens there");
