@@ -111,10 +111,10 @@ std::string elements(std::string_view type, const uint8_t *bytes, size_t count) 
     if (type == "p4_pd_hash_calc_attr_t") {
       const auto attribute =
           value_at<p4_pd_hash_calc_attr_t>(bytes + i * sizeof(p4_pd_hash_calc_attr_t));
-      const bool is_address = attribute.value > 0xffffffffu;
+      const uint64_t value = attribute.value;
       list += fmt::format(
           "{{.field = {}, .value = {}}}", attribute.field,
-          is_address ? std::string("0 /* address of the bytes */") : hexadecimal(attribute.value));
+          value > 0xffffffffu ? std::string("0 /* address of the bytes */") : hexadecimal(value));
     } else if (type == "uint32_t") {
       list += decimal(value_at<uint32_t>(bytes + i * sizeof(uint32_t)));
     } else {
