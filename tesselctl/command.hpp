@@ -33,7 +33,6 @@ struct Context {
   // What the names of files are relative to, when that is not where this process works.
   std::string directory = {};
 
-  bool verbose() const { return settings.verbose; }
   // The file that the word names. Throws Fault for one that only the process of a client has.
   std::string path(Word word) const;
 };

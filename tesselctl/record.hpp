@@ -30,7 +30,6 @@ class RecordWriter {
   void finish(Word word);
 
   const uint8_t *data() const { return bytes_.data(); }
-  bool empty() const { return bytes_.empty(); }
 
  private:
   const Shape *shape_;

@@ -82,7 +82,7 @@ typedef struct pipe_mgr_resource {
 } pipe_mgr_resource_t;
 
 enum {
-  PIPE_ACTION_DATA = 1,   /* the spec carries the action data itself */
+  PIPE_ACTION_DATA = 1,   /* the action spec carries the action data itself */
   PIPE_ACTION_MEMBER = 2, /* it names a member of an action profile */
   PIPE_ACTION_GROUP = 4   /* it names a selector group */
 };

@@ -20,7 +20,7 @@ class ActionDataTable : public ObjectOf<ActionDataTable> {
   ActionDataTable(const Device &device, const soft_profile_t &profile);
 
   // The session is the one that the listener hears of.
-  // The spec holds data of exactly the action's length, type 0 or PIPE_ACTION_DATA and no
+  // The action spec holds data of exactly the action's length, type 0 or PIPE_ACTION_DATA and no
   // resources. BF_FOREIGN_ACTION, BF_WRONG_LENGTH, BF_INVALID_ARGUMENT; add: BF_TABLE_FULL;
   // set: BF_OBJECT_NOT_FOUND.
   bf_status_t add(pipe_session_handle_t session, pipe_object_handle_t action,

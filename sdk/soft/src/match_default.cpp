@@ -67,7 +67,7 @@ EntryAction MatchEngine::action_of(const DefaultEntry &entry) {
   return {entry.action, entry.type, entry.data, entry.reference, {}};
 }
 
-// place may hold the entry before; its direct cells stay unless the spec names them.
+// place may hold the entry before; its direct cells stay unless the action spec names them.
 bf_status_t MatchEngine::store_default(std::optional<DefaultEntry> &place, const Checked &checked) {
   DefaultEntry fresh = place.value_or(DefaultEntry{});
   fresh.action = checked.action.action;

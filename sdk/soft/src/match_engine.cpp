@@ -110,8 +110,8 @@ bf_status_t MatchEngine::set_action(pipe_session_handle_t session, const Name &n
   });
 }
 
-// Direct resources that the spec does not name stay; indirect ones go with the action that named
-// them.
+// Direct resources that the action spec does not name stay; indirect ones go with the action that
+// named them.
 bf_status_t MatchEngine::replace(pipe_entry_handle_t entry, pipe_object_handle_t action,
                                  const pipe_mgr_action_spec_t *spec) {
   const auto keep = [&](const ResourceList &list) {

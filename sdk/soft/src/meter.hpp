@@ -1,5 +1,5 @@
-// A meter of the program: its byte-count adjustment, and the cells of an indirect one. The spec of
-// a direct meter belongs to the entries of its table; calls that name a cell of it are
+// A meter of the program: its byte-count adjustment, and the cells of an indirect one. The rates of
+// a direct meter belong to the entries of its table; calls that name a cell of it are
 // BF_NOT_SUPPORTED.
 //
 // Each pipe has cells of its own. BF_ALL_PIPES sets them all and reads the one of pipe 0. A cell
@@ -15,7 +15,7 @@
 
 namespace soft {
 
-// BF_INVALID_ARGUMENT: the index is SOFT_METER_CELLS or more, or the spec does not fit the meter.
+// BF_INVALID_ARGUMENT: the index is SOFT_METER_CELLS or more, or the rates do not fit the meter.
 // Pipes are checked by the caller.
 class Meter : public ObjectOf<Meter> {
  public:
