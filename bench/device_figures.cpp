@@ -13,7 +13,7 @@
 
 #include "p4_pd_tessel_switch.h"
 #include "soft_sdk.h"
-#include "tesselctl/verify.hpp"
+#include "tesselctl/state/verify.hpp"
 
 extern "C" const soft_program_t soft_program_tessel_switch;
 

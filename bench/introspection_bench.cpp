@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "by_hand_text.h"
-#include "tesselctl/entry_texts.hpp"
+#include "tesselctl/device/entry_texts.hpp"
 
 namespace {
 

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string_view>
 
 namespace bindings {
 
@@ -40,34 +41,86 @@ struct ExportList {
 
 enum class Role : uint8_t { value, mask, prefix_length };
 
-// A member of a match spec or action spec record. storage 16 is an array of bytes.
+// A member of a record. A mask or prefix length stands right behind the value that it belongs to.
+// Numbers are integers of the host, unless they are bytes in network order.
 struct Member {
   const char *name;
   Role role;
   size_t offset;
   unsigned storage;  // bytes
   unsigned width;    // bits of the field; 16 for a prefix length
+  bool is_bytes = false;
 };
 
-// The match spec of a table or the action spec of an action; no members when it has none.
+enum class Match : uint8_t { exact, ternary, lpm };
+// How people write a value.
+enum class Notation : uint8_t { number, port, vport, ipv4, ipv6, mac };
+
+// A value of a record as people name and write it: a member, or two that are the upper and the
+// lower half of a MAC address.
+struct Field {
+  std::string_view label;  // short: "src"; no other field of the record has it
+  std::string_view name;   // of the member: "eth_src"; of a pair what its halves share
+  Notation notation;
+  Match match;
+  unsigned width;          // bits; 48 for a pair
+  uint64_t key_bits_high;  // the bits that take part in the key, upper and lower half
+  uint64_t key_bits_low;
+  const Member *parts[2];  // values; the second is null but for a pair
+  // The counters and meters whose cell the value of a parameter names.
+  std::span<const char *const> cells;
+
+  bool is_pair() const { return parts[1] != nullptr; }
+  size_t part_count() const { return is_pair() ? 2 : 1; }
+};
+
+// The match spec of a table, the action spec of an action, an entry of a digest, a record of
+// snapshots. It has no members where an object has none.
 struct Record {
   const char *name;
-  uint32_t number;  // table handle, or action enumeration value
+  uint32_t number;  // table or digest handle, or action enumeration value
   const Member *members;
   size_t member_count;
   size_t size;
+  const Field *fields;
+  size_t field_count;
+  size_t shown_count;
 
   std::span<const Member> member_list() const { return {members, member_count}; }
+  // What a record is shown as, in its order: a pair stands for its halves, in the place of the
+  // first. All fields are these and the halves behind them.
+  std::span<const Field> shown() const { return {fields, shown_count}; }
+  std::span<const Field> field_list() const { return {fields, field_count}; }
+};
+
+struct RecordList {
+  const Record *rows;
+  size_t count;
+
+  std::span<const Record> list() const { return {rows, count}; }
+};
+
+// Where routes go: a table for each kind of address that has one, and an action of all of them
+// whose one parameter is the next hop.
+struct Routes {
+  const char *const *tables;
+  size_t table_count;
+  const char *action;  // null without such tables
 };
 
 struct Binding {
   const char *program;
   const ExportList *const *lists;
   size_t list_count;
-  const Record *tables;
-  size_t table_count;
-  const Record *actions;
-  size_t action_count;
+  RecordList tables;
+  RecordList actions;
+  RecordList digests;
+  // By direction: triggers, with a mask of each value in a second record behind the first, and what
+  // packets carry; then the one capture record.
+  RecordList triggers;
+  RecordList packets;
+  RecordList captures;
+  Routes routes;
 };
 
 extern const Binding binding;

@@ -3,12 +3,12 @@
 # Builds the control-plane library of a program from its catalogue:
 #   pd_<program>          libp4_pd_<program>.so, the library
 #   soft_program_<program>
-#                         its description for the soft SDK, a static library of one constant
+#                         libsoft_program_<program>.so, its description for the soft SDK: one constant
 #   pd_<program>_binding  its exports as data (bindings/export_table.hpp), and that description
 # The library compiles against the header p4_pd_<program>.h in HEADER_DIR, which pdgen writes with
 # --header (scripts/generate). With GENERATE_HEADER the header is made in the build folder instead.
 
-# The units into which pdgen splits the wrappers, in step with Api::begin_unit.
+# The units into which pdgen splits the wrappers, as families/*.family name them.
 set(PD_UNITS frame table entry_1 entry_2 default read_back idle indirect profile meter
   placement counter register hash digest value_set snapshot schema value print label compare
   render)
@@ -29,15 +29,19 @@ function(pd_add_library program)
     set(arg_HEADER_DIR ${dir})
     set(header_option --header ${dir}/p4_pd_${program}.h)
   endif()
+  set(generator pdgen)
+  if(PD_GENERATOR)
+    set(generator ${PD_GENERATOR})
+  endif()
   file(GLOB catalogue CONFIGURE_DEPENDS ${arg_CATALOGUE}/*.toml)
   add_custom_command(
     OUTPUT ${dir}/stamp
-    BYPRODUCTS ${wrappers} ${tables} ${dir}/soft_program.cpp ${dir}/descriptors.hpp ${dir}/object_names.hpp
+    BYPRODUCTS ${wrappers} ${tables} ${dir}/soft_program.cpp ${dir}/descriptors.hpp ${dir}/limits.hpp ${dir}/object_names.hpp
       ${dir}/records.hpp ${dir}/texts.hpp ${dir}/schemas.hpp ${dir}/labels.hpp ${dir}/renders.hpp
       ${dir}/exports.map ${dir}/layout_test.c
-    COMMAND pdgen --catalogue ${arg_CATALOGUE} --build ${dir} --soname ${arg_SONAME} ${header_option}
+    COMMAND ${generator} --catalogue ${arg_CATALOGUE} --build ${dir} --soname ${arg_SONAME} ${header_option}
     COMMAND ${CMAKE_COMMAND} -E touch ${dir}/stamp
-    DEPENDS pdgen ${catalogue}
+    DEPENDS ${generator} ${catalogue}
     COMMENT "Generating the library of ${program}"
     VERBATIM)
   add_custom_target(pd_${program}_generated DEPENDS ${dir}/stamp)
@@ -61,14 +65,15 @@ function(pd_add_library program)
     OUTPUT_NAME p4_pd_${program} VERSION ${arg_VERSION} SOVERSION ${arg_SONAME}
     LINKER_LANGUAGE C LINK_DEPENDS ${dir}/stamp GENERATED_DIR ${dir})
 
-  add_library(soft_program_${program} STATIC EXCLUDE_FROM_ALL ${dir}/soft_program.cpp)
+  add_library(soft_program_${program} SHARED EXCLUDE_FROM_ALL ${dir}/soft_program.cpp)
   add_dependencies(soft_program_${program} pd_${program}_generated)
   target_include_directories(soft_program_${program}
     PUBLIC $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/sdk/include>
            $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/sdk/soft/include>
            $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   target_link_libraries(soft_program_${program} PRIVATE $<BUILD_INTERFACE:pd_warnings>)
-  set_target_properties(soft_program_${program} PROPERTIES LINKER_LANGUAGE C)
+  set_target_properties(soft_program_${program} PROPERTIES
+    VERSION ${arg_VERSION} SOVERSION ${arg_SONAME} LINKER_LANGUAGE C)
 
   add_library(pd_${program}_binding STATIC EXCLUDE_FROM_ALL ${tables})
   add_dependencies(pd_${program}_binding pd_${program}_generated)

@@ -2,9 +2,9 @@
 #include "fuzz/target.hpp"
 
 #include "fuzz/memory_file.hpp"
-#include "tesselctl/image.hpp"
-#include "tesselctl/protocol.hpp"
-#include "tesselctl/runner.hpp"
+#include "tesselctl/command/local_runner.hpp"
+#include "tesselctl/server/protocol.hpp"
+#include "tesselctl/state/image.hpp"
 
 using namespace tesselctl;
 
@@ -61,7 +61,7 @@ void try_message(const Message &message) {
   }
 }
 
-// The bytes come in pieces of sizes that they tell themselves.
+// The bytes come in pieces of sizes that are in themselves.
 void try_messages(std::string_view bytes) {
   MessageReader reader;
   while (!bytes.empty()) {

@@ -5,9 +5,11 @@
 
 #include <string>
 
-#include "tesselctl/candidates.hpp"
-#include "tesselctl/grammar.hpp"
-#include "tesselctl/script.hpp"
+#include "tesselctl/command/flags.hpp"
+#include "tesselctl/command/grammar.hpp"
+#include "tesselctl/command/local_runner.hpp"
+#include "tesselctl/command/offers.hpp"
+#include "tesselctl/command/script.hpp"
 
 using namespace tesselctl;
 
@@ -39,7 +41,9 @@ class FilelessRunner : public Runner {
   LineOutcome run(const SourceLine &source) override {
     return uses_files(source.text) ? LineOutcome::blank : runner_->run(source);
   }
+  LineOutcome run_whole(const WholeScript &script) override { return runner_->run_whole(script); }
   std::string ask(std::string_view line) override { return runner_->ask(line); }
+  Settings &defaults() override { return runner_->defaults(); }
 
  private:
   Runner *runner_;

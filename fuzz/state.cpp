@@ -8,7 +8,7 @@
 
 #include "fuzz/memory_file.hpp"
 #include "soft_sdk.h"
-#include "tesselctl/runner.hpp"
+#include "tesselctl/command/local_runner.hpp"
 
 using namespace tesselctl;
 

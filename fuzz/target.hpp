@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "tesselctl/device.hpp"
+#include "tesselctl/device/device.hpp"
 
 // Keeps the library started: every input has devices of its own, as a first one would be.
 inline const tesselctl::LibraryUse library_use;

@@ -6,6 +6,16 @@
  * unless a family says otherwise. The functions are grouped by object; what the functions
  * of a family have in common is said once, below.
  *
+ * Arguments
+ *   A pointer is mandatory unless its family says otherwise. The library refuses a null one with
+ *   P4_PD_NULL_ARGUMENT, and leaves to the pipeline manager what it hands on as it is:
+ *   callbacks, the handle of an entry that is added, found or made the default, counts of
+ *   entries, members and groups, the handles of walks, a time to live, a member chosen by hash
+ *   and that hash, placement data, and the adjustment of meter_bytecount_adjust_get_.
+ *   Functions that return a text's length return 0 for a null pointer. A device is a number of
+ *   8 bits where it is a uint8_t and of 32 bits elsewhere; of a target's device_id the
+ *   member-selector states use the low 8 bits, as entry_value does of its device.
+ *
  * Start and stop
  *   init creates the member-selector states, registers the client with the driver framework and
  *   binds the callbacks for device removal, log and restore. Call it once, before any other
@@ -17,18 +27,21 @@
  *   For every table. get_mat_table_handle writes the table's handle (a null pointer is skipped).
  *   get_entry_count counts the entries without the default entry. set_property and
  *   get_property take a property of the pipeline manager (PIPE_TABLE_*); get_property writes
- *   0xffffffff to both outputs when it fails. register_mat_update_cb has the pipeline manager
- *   call the caller after each change. table_reset_default_entry puts back the program's own
- *   default entry. supports_entry_priority returns 1 for a ternary table, else 0.
+ *   0xffffffff to both outputs when the pipeline manager refuses, and nothing when one of them
+ *   is null. register_mat_update_cb has the pipeline manager call the caller after each
+ *   change. table_reset_default_entry puts back the program's own default entry.
+ *   supports_entry_priority returns 1 for a ternary table, else 0.
  *
  * Entries
  *   For every keyed table, and for each of its actions where the name ends in one. The pipeline
  *   manager chooses the entry's handle. priority (ternary tables): the smallest number wins.
  *   ttl (tables that age their entries): milliseconds. meter_spec (tables with a direct
  *   meter): required by add, P4_PD_METER_SPEC_MISSING without; null in modify keeps the meter.
- *   match_spec_to_entry_hdl finds the entry with exactly this key and priority. Values beyond
- *   a field's width reach the pipeline manager as they stand, except that masks are cut to the
- *   width. P4_PD_NULL_ARGUMENT for a null match spec or action spec.
+ *   match_spec_to_entry_hdl finds the entry with exactly this key and priority. A field takes
+ *   whole bytes of the key or of the action data, and as many low bytes of its value reach the
+ *   pipeline manager, bits beyond the width included; the masks of ternary fields are cut to
+ *   the width. A prefix length beyond the address stands for the whole address, and the entry
+ *   comes after every other one. P4_PD_NULL_ARGUMENT for a null match spec or action spec.
  *
  * Default entries
  *   For every table. set_default_action_ exists for each action that may be the default; meter_spec
@@ -36,18 +49,20 @@
  *   table_get_default_entry of a table with actions of its own fills the action's value and,
  *   for an action with parameters, the member of spec that belongs to it; P4_PD_FOREIGN_ACTION
  *   when the default entry holds no direct action data or an action that the table does not
- *   have. Of a table bound to a profile it tells the member or the group that the default
+ *   have. Of a table bound to a profile it reports the member or the group that the default
  *   entry points at; the other handle is not written.
  *
  * Read-back
- *   get_entry fills match_spec, priority (ternary tables), no_key, action_name (at least 61 bytes,
- *   or null), action (the enumeration value, or null) and action_spec, the record of whichever
- *   action the entry holds, written only for an action with parameters. no_key is set for the
- *   default entry, whose match_spec stays as it was. P4_PD_NO_ACTION_DATA for an entry without
- *   action data, P4_PD_FOREIGN_ACTION for an action that the table does not have,
- *   P4_PD_NO_MEMORY when the resource list could not be allocated, P4_PD_NULL_ARGUMENT when a
- *   mandatory output is null; nothing is written then. get_first_entry_handle and
- *   get_next_entry_handles walk the entries; entries has room for count handles.
+ *   get_entry fills match_spec, priority (ternary tables), no_key, action_name
+ *   (P4_PD_TESSEL_SWITCH_ACTION_NAME_MAX bytes, or null), action (the enumeration value, or
+ *   null) and action_spec, the record of whichever action the entry holds, written only for an
+ *   action with parameters: &specs.spec of a p4_pd_tessel_switch_action_specs_t has room for
+ *   any, and null is refused only for such an action. no_key is set for the default entry,
+ *   whose match_spec stays as it was. P4_PD_NO_ACTION_DATA for an entry without action data,
+ *   P4_PD_FOREIGN_ACTION for an action that the table does not have, P4_PD_NO_MEMORY when the
+ *   resource list could not be allocated, P4_PD_NULL_ARGUMENT when a mandatory output is null;
+ *   nothing is written then. get_first_entry_handle and get_next_entry_handles walk the
+ *   entries; entries has room for count handles.
  *
  * Idle time
  *   For the tables that age their entries. idle_params_get writes the mode alone unless the mode is
@@ -66,8 +81,9 @@
  *   life: modify_member_with_ another one returns P4_PD_MEMBER_KEEPS_ACTION. A member that the
  *   state does not know cannot be modified or join a group; the state's status is returned.
  *   group_member_state_set takes P4_PD_GRP_MBR_STATE_*, else P4_PD_MEMBER_STATE_REFUSED.
- *   sel_track_updates registers a callback without a session. get_member fills the action's
- *   value and, for an action with parameters, the member of spec that belongs to it.
+ *   sel_track_updates registers a callback without a session. get_adt_table_handle and
+ *   get_sel_table_handle skip a null pointer. get_member fills the action's value and, for an
+ *   action with parameters, the member of spec that belongs to it.
  *
  * Meters
  *   meter_set_ and meter_read_ name the cell by entry handle for the direct meter of a table, else
@@ -112,9 +128,9 @@
  *   is the calculation's own and input is not 0. attribute_get sets filled to 0 before
  *   anything else. calculate_hash_value lays the values end to end, the last one in the lowest
  *   bits of the stream, and takes attribute_sizes[i] bits of value i: its low bits up to 32,
- *   else that many of the bytes it points at, whose last byte is the lowest. P4_PD_NO_MEMORY
- *   when a copy or the stream could not be allocated or the stream is longer than 32 bits can
- *   tell.
+ *   else that many of the bytes it points at, whose last byte is the lowest. An array of no
+ *   elements may be null. P4_PD_NO_MEMORY when a copy or the stream could not be allocated or
+ *   the stream is longer than 32 bits can tell.
  *
  * Hash calculations by name
  *   The name is that of the calculation, whole and case-sensitive; P4_PD_UNKNOWN_SELECTION for any
@@ -134,17 +150,20 @@
  * Parser value sets
  *   An entry is a value and a mask in one parser of a device; the pipeline manager chooses its
  *   handle. set_property and get_property take PIPE_PVS_*; get_property writes 0xffffffff to
- *   value when it fails. entry_get_next_entry_handles fills entries, which has room for count
- *   handles, with those behind entry.
+ *   value when the pipeline manager refuses. entry_get_next_entry_handles fills entries, which
+ *   has room for count handles, with those behind entry.
  *
  * Snapshots
  *   direction is 0 for ingress and 1 for egress; bit 1 of the handle is set for an egress snapshot.
- *   capture_trigger_set takes two trigger records of that layout in host order, field values
- *   and mask, and hands copies in network order on. capture_data_get writes a record for each
- *   stage of the capture, at most 20; records has room for 20, control (null: not wanted) for
- *   one element a stage. captures is 0 unless the capture was asked for. Records are written
- *   even when the capture itself fails; a stage that is shorter than a record fills it up with
- *   zeroes. P4_PD_NO_MEMORY, and no record written, when the capture could not be allocated.
+ *   The trigger records of the two directions differ in shape, and capture_trigger_set takes
+ *   two of the snapshot's own direction in host order, field values and mask, and hands copies
+ *   in network order on. A field that a trigger record splits ends in _0, _1 and so on, the
+ *   most significant part first; captures have it whole. capture_data_get writes a record for
+ *   each stage of the capture, at most 20; records has room for 20, control (null: not wanted)
+ *   for one element a stage. captures is 0 unless the capture was asked for, and never above
+ *   20. Records are written even when the capture itself fails; a stage that is shorter than a
+ *   record fills it up with zeroes. P4_PD_NO_MEMORY, and no record written, when the capture
+ *   could not be allocated.
  *
  * Schemas
  *   Objects described as literals of nested tuples, for tools that know none of them. The
@@ -162,12 +181,14 @@
  *   pointer, 0 is returned and buffer stays as it was.
  *
  * Printing
- *   match_spec_print and an action's print write one line a field to a file descriptor, one write a
- *   line, and return the length of the last line, or -1 when it could not be written. The
- *   header line of a match spec follows indent blanks, the others one blank more, and two at
- *   indent 0. The helpers _print_* write a label and an address into buffer and return the
- *   length. The ternary ones return 0 for a mask of 0; 0 goes with nothing written, also for a
- *   null pointer. IPv6 addresses have 16 bytes; MAC addresses come in halves of 24 bits.
+ *   match_spec_print and an action's print write one line a field to a file descriptor, in one
+ *   write while the line has at most 512 bytes, its newline included. They return the length
+ *   of the last line, -1 when it could not be written or is longer than an int can say, and 0
+ *   for a null record. The header line of a match spec follows indent blanks, the others one
+ *   blank more, and two at indent 0. The helpers _print_* write a label and an address into
+ *   buffer and return the length. The ternary ones return 0 for a mask of 0; 0 goes with
+ *   nothing written, also for a null pointer. IPv6 addresses have 16 bytes; MAC addresses come
+ *   in halves of 24 bits.
  *
  * Labels of counted entries
  *   For the tables whose entries carry a counter that monitoring shows. A label names the fields
@@ -183,19 +204,21 @@
  *   action_specs_are_equal compares the bits of each parameter's width. A null pointer equals
  *   nothing. width returns the bits of a key field. action_enum_to_string returns the full
  *   name of a value, null beyond the last; action_string_to_enum returns the value of a full
- *   name, else the number of actions.
+ *   name, else P4_PD_TESSEL_SWITCH_ACTION_COUNT.
  *
  * Rendering of placement data
- *   plcmt_data_print writes key and action of placement data to a file descriptor and returns 0, or
- *   the status of the decoder after a line that says that it failed. plcmt_data_value writes a
- *   value string (P4_PD_TESSEL_SWITCH_VALUE_MAX bytes hold any) and returns its length, 0 when
- *   the data cannot be decoded. plcmt_data_eq_to_hw returns 1 when the data describes the
- *   entry that the hardware holds under the handle, priorities apart, and 0 otherwise, also
- *   when either cannot be read; entries that point at groups must point at the same one. The
- *   functions by handle do the same for a table or for the action-data table of a profile; an
- *   unknown handle is printed as not found, has no value and equals nothing. entry_hdl_first,
- *   entry_hdl_next, entry_hdl_default and member_hdl_next walk entries and members; an unknown
- *   handle stores 0xffffffff and returns 0, member_hdl_next 0xffffffff.
+ *   plcmt_data_print writes key and action of placement data to a file descriptor and returns 0,
+ *   whether the lines could be written or not, or the status of the decoder after a line that
+ *   says that it failed. plcmt_data_value writes a value string (P4_PD_TESSEL_SWITCH_VALUE_MAX
+ *   bytes hold any) and returns its length, 0 when the data cannot be decoded.
+ *   plcmt_data_eq_to_hw returns 1 when the data describes the entry that the hardware holds
+ *   under the handle, priorities apart, and 0 otherwise, also when either cannot be read;
+ *   entries that point at groups must point at the same one. The functions by handle do the
+ *   same for a table or for the action-data table of a profile; an unknown handle is printed
+ *   as not found (the result is that of the line: its length, or -1), has no value and equals
+ *   nothing. entry_hdl_first, entry_hdl_next, entry_hdl_default and member_hdl_next walk
+ *   entries and members; an unknown handle stores 0xffffffff and returns 0, member_hdl_next
+ *   0xffffffff.
  *
  * Made by pdgen from the catalogue of tessel_switch. Edit the catalogue and run
  * scripts/generate, not this file.
@@ -208,6 +231,26 @@
 #ifdef __cplusplus
 extern "C" {
 #endif
+
+/* ==== Sizes ==== */
+
+/* Sizes of what callers make room for, the NUL of a text included. */
+enum {
+  /* actions, whose values are 0 and up */
+  P4_PD_TESSEL_SWITCH_ACTION_COUNT = 232,
+  /* bytes that hold the full name of any action */
+  P4_PD_TESSEL_SWITCH_ACTION_NAME_MAX = 61,
+  /* the schema of any table or profile */
+  P4_PD_TESSEL_SWITCH_SCHEMA_MAX = 3786,
+  /* the value string of any match spec alone */
+  P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX = 281,
+  /* the value string of any action alone */
+  P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX = 99,
+  /* the value string of any entry */
+  P4_PD_TESSEL_SWITCH_VALUE_MAX = 331,
+  /* the label of any counted entry */
+  P4_PD_TESSEL_SWITCH_LABEL_MAX = 461
+};
 
 /* ==== Start and stop ==== */
 
@@ -456,7 +499,7 @@ typedef enum p4_pd_tessel_switch_action_names {
 } p4_pd_tessel_switch_action_names_t;
 
 /* The full name of each value, prefix included. */
-extern const char *const p4_pd_tessel_switch_action_name_strings[232];
+extern const char *const p4_pd_tessel_switch_action_name_strings[P4_PD_TESSEL_SWITCH_ACTION_COUNT];
 
 typedef struct p4_pd_tessel_switch_trapPktToCpuUntagged_action_spec {
   uint16_t action_cpuPort; /* 9 bits */
@@ -945,7 +988,8 @@ typedef struct p4_pd_tessel_switch_setVlanProperties_action_spec {
   uint8_t action_vxlan; /* 1 bit */
 } p4_pd_tessel_switch_setVlanProperties_action_spec_t;
 
-/* An action with its parameters as read back; spec is written only for an action that has any. */
+/* An action with its parameters as read back; spec is written only for an action that has any.
+ * spec has room for the record of any action. */
 typedef struct p4_pd_tessel_switch_action_specs {
   uint32_t action; /* of p4_pd_tessel_switch_action_names_t */
   union {
@@ -14552,15 +14596,6 @@ p4_pd_status_t p4_pd_tessel_switch_snapshot_capture_data_get(uint32_t snapshot, 
     uint32_t *captures);
 
 /* ==== Introspection ==== */
-
-/* Bytes that hold any text of a family, its NUL included. */
-enum {
-  P4_PD_TESSEL_SWITCH_SCHEMA_MAX = 3786, /* schema of a table or profile */
-  P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX = 281, /* a match spec alone */
-  P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX = 99, /* an action alone */
-  P4_PD_TESSEL_SWITCH_VALUE_MAX = 331, /* an entry */
-  P4_PD_TESSEL_SWITCH_LABEL_MAX = 461, /* label of a counted entry */
-};
 
 int p4_pd_tessel_switch_cli_schema(uint32_t handle, char *buffer);
 int p4_pd_tessel_switch__print_v4addr_exact(char *buffer, const char *label, uint32_t address);

@@ -38,32 +38,62 @@ typedef uint32_t p4_pd_entry_handle_t;
 typedef uint32_t p4_pd_member_handle_t;
 typedef uint32_t p4_pd_group_handle_t;
 
-/* Codes of the library itself. A call that returns one of those marked (caller) has found an error
- * in its arguments: it made no SDK call and wrote nothing. */
-enum {
-  /* Scratch memory could not be allocated. */
-  P4_PD_NO_MEMORY = 2,
-  /* A selection that this object does not have: input, algorithm, field or name. */
-  P4_PD_UNKNOWN_SELECTION = 3,
-  /* The entry holds no action data of its own. */
-  P4_PD_NO_ACTION_DATA = 6,
-  /* The default entry holds no direct action data, or an action is not one of the table's. */
-  P4_PD_FOREIGN_ACTION = 15,
-  /* (caller) A mandatory pointer is null. */
-  P4_PD_NULL_ARGUMENT = 0x1001,
-  /* (caller) The table's direct meter needs a meter spec on add. */
-  P4_PD_METER_SPEC_MISSING = 0x1002,
-  /* (caller) The meter type is unknown, or colour-aware for a meter without a pre-colour. */
-  P4_PD_METER_TYPE_REFUSED = 0x1003,
-  /* (caller) The member state is neither active nor inactive. */
-  P4_PD_MEMBER_STATE_REFUSED = 0x1004,
-  /* The driver framework refused the registration of the client. */
-  P4_PD_DRIVER_REFUSED = 0x1005,
-  /* (caller) No table or profile of the program has this handle. */
-  P4_PD_UNKNOWN_HANDLE = 0x1006,
-  /* The member has another action, which it keeps for life. */
-  P4_PD_MEMBER_KEEPS_ACTION = -1
-};
+/* Codes of the library itself; p4_pd_describe_status says them in words. One marked (caller) stands
+ * for an error in the arguments: the call made no SDK call and wrote nothing. The exception is a
+ * null action_spec in get_entry, which counts only when the entry that was read has parameters.
+ *
+ * The numbers 2, 3, 6 and 15 are statuses of the SDK too (BF_NO_MEMORY, BF_INVALID_ARGUMENT,
+ * BF_NO_ACTION_DATA and BF_FOREIGN_ACTION). A caller cannot tell which of the two was meant, and a
+ * switch names one of them. */
+#define P4_PD_NO_MEMORY 2u
+#define P4_PD_UNKNOWN_SELECTION 3u
+#define P4_PD_NO_ACTION_DATA 6u
+#define P4_PD_FOREIGN_ACTION 15u
+#define P4_PD_NULL_ARGUMENT 0x1001u        /* (caller) */
+#define P4_PD_METER_SPEC_MISSING 0x1002u   /* (caller) */
+#define P4_PD_METER_TYPE_REFUSED 0x1003u   /* (caller) */
+#define P4_PD_MEMBER_STATE_REFUSED 0x1004u /* (caller) */
+#define P4_PD_DRIVER_REFUSED 0x1005u
+#define P4_PD_UNKNOWN_HANDLE 0x1006u
+#define P4_PD_MEMBER_KEEPS_ACTION 0xffffffffu
+
+/* A status in words: the name of its constant and one sentence. */
+typedef struct p4_pd_status_info {
+  p4_pd_status_t status;
+  const char *name;
+  const char *text;
+} p4_pd_status_info_t;
+
+/* The words for a code of the library; name and text are null for any other status. */
+static inline p4_pd_status_info_t p4_pd_describe_status(p4_pd_status_t status) {
+  static const p4_pd_status_info_t codes[] = {
+      {P4_PD_NO_MEMORY, "P4_PD_NO_MEMORY", "Scratch memory could not be allocated."},
+      {P4_PD_UNKNOWN_SELECTION, "P4_PD_UNKNOWN_SELECTION",
+       "A selection that this object does not have: input, algorithm, field or name."},
+      {P4_PD_NO_ACTION_DATA, "P4_PD_NO_ACTION_DATA", "The entry holds no action data of its own."},
+      {P4_PD_FOREIGN_ACTION, "P4_PD_FOREIGN_ACTION",
+       "The default entry holds no direct action data, or an action is not one of the table's or "
+       "profile's."},
+      {P4_PD_NULL_ARGUMENT, "P4_PD_NULL_ARGUMENT", "A mandatory pointer is null."},
+      {P4_PD_METER_SPEC_MISSING, "P4_PD_METER_SPEC_MISSING",
+       "The table's direct meter needs a meter spec on add."},
+      {P4_PD_METER_TYPE_REFUSED, "P4_PD_METER_TYPE_REFUSED",
+       "The meter type is unknown, or colour-aware for a meter without a pre-colour."},
+      {P4_PD_MEMBER_STATE_REFUSED, "P4_PD_MEMBER_STATE_REFUSED",
+       "The member state is neither active nor inactive."},
+      {P4_PD_DRIVER_REFUSED, "P4_PD_DRIVER_REFUSED",
+       "The driver framework refused the registration of the client."},
+      {P4_PD_UNKNOWN_HANDLE, "P4_PD_UNKNOWN_HANDLE",
+       "No profile of the program has this action-data handle."},
+      {P4_PD_MEMBER_KEEPS_ACTION, "P4_PD_MEMBER_KEEPS_ACTION",
+       "The member has another action, which it keeps for life."}};
+  p4_pd_status_info_t info = {status, NULL, NULL}; /* C: NOLINT(modernize-use-nullptr) */
+  size_t i;
+  for (i = 0; i < sizeof codes / sizeof codes[0]; ++i) {
+    if (codes[i].status == status) info = codes[i];
+  }
+  return info;
+}
 
 /* ---- Meters ---- */
 

@@ -81,6 +81,7 @@ struct Action {
   std::vector<Param> params;  // in record order
   unsigned data_bits = 0;     // sum of the parameters' widths
   unsigned data_bytes = 0;    // sum of their slots
+  unsigned record_bytes = 0;  // size of the action record
 
   bool has_params() const { return !params.empty(); }
 };
@@ -184,6 +185,7 @@ struct Table {
   std::vector<RecordField> record;       // the match record, companions included
   unsigned key_bits = 0;                 // sum of the fields' widths
   unsigned key_bytes = 0;                // sum of their slots
+  unsigned record_bytes = 0;             // size of the match record
   bool idle_time = false;
   Ref<Profile> profile;     // set: entries point at members and groups, and pairs is empty
   std::vector<Pair> pairs;  // as the catalogue orders them
@@ -302,14 +304,26 @@ struct Label {
 struct FieldHint {
   Place place;
   Hint hint = Hint::kNone;
-  std::vector<std::string> fields;    // whole names
-  std::vector<std::string> suffixes;  // name endings
-  unsigned width = 0;                 // 0: no width
+  std::vector<std::string> fields;  // whole names
+  // Name endings. Two of mac: those of the upper and of the lower half of an address.
+  std::vector<std::string> suffixes;
+  unsigned width = 0;  // 0: no width
 };
 
 struct FieldFacts {
   std::vector<std::string> instance_prefixes;
   std::vector<FieldHint> hints;  // the first that fits decides
+  // Fields and parameters that hold IPv4 addresses without a hint of their schema.
+  std::vector<std::string> v4_addresses;
+};
+
+// --- Routes ---------------------------------------------------------------------------------
+
+// Where tools load routes into.
+struct Routes {
+  Place place;
+  Ref<Action> action;  // of its one parameter, the next hop
+  std::vector<Ref<Table>> tables;
 };
 
 // --- The program ----------------------------------------------------------------------------
@@ -330,6 +344,7 @@ struct Program {
   std::optional<Snapshots> snapshots;
   std::vector<Label> labels;
   FieldFacts field_facts;
+  std::optional<Routes> routes;
 
   Program() = default;
   Program(Program &&) = default;

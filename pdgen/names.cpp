@@ -9,65 +9,8 @@ namespace pdgen {
 
 std::string name_prefix(const Program &program) { return "p4_pd_" + program.name + "_"; }
 
-// --- Functions ------------------------------------------------------------------------------
-
-std::string program_function(const Program &program, std::string_view operation) {
-  return fmt::format("{}{}", name_prefix(program), operation);
-}
-
-std::string table_function(const Program &program, const Table &table, std::string_view operation) {
-  return fmt::format("{}{}_{}", name_prefix(program), table.name, operation);
-}
-
-std::string table_function(const Program &program, const Table &table, std::string_view operation,
-                           const Action &action, std::string_view suffix) {
-  return fmt::format("{}{}_{}{}{}", name_prefix(program), table.name, operation, action.name,
-                     suffix);
-}
-
 std::string width_function(const Program &program, const Table &table, const KeyField &field) {
   return fmt::format("{}{}_{}_width", name_prefix(program), table.name, field.width_name);
-}
-
-std::string action_function(const Program &program, const Action &action,
-                            std::string_view operation) {
-  return fmt::format("{}{}_{}", name_prefix(program), action.name, operation);
-}
-
-std::string profile_function(const Program &program, const Profile &profile,
-                             std::string_view operation) {
-  return fmt::format("{}{}_{}", name_prefix(program), profile.name, operation);
-}
-
-std::string profile_function(const Program &program, const Profile &profile,
-                             std::string_view operation, const Action &action) {
-  return fmt::format("{}{}_{}{}", name_prefix(program), profile.name, operation, action.name);
-}
-
-std::string resource_function(const Program &program, const Resource &resource,
-                              std::string_view operation) {
-  const std::string_view kind = resource.kind == ResourceKind::kCounter ? "counter"
-                                : resource.kind == ResourceKind::kMeter ? "meter"
-                                                                        : "register";
-  return fmt::format("{}{}_{}_{}", name_prefix(program), kind, operation, resource.name);
-}
-
-std::string hash_function(const Program &program, const Hash &hash, std::string_view operation) {
-  return fmt::format("{}hash_calc_{}_{}", name_prefix(program), hash.name, operation);
-}
-
-std::string hash_map_function(const Program &program, const Hash &hash, std::string_view map) {
-  return fmt::format("{}{}_{}", name_prefix(program), hash.name, map);
-}
-
-std::string digest_function(const Program &program, const Digest &digest,
-                            std::string_view operation) {
-  return fmt::format("{}{}_{}", name_prefix(program), digest.name, operation);
-}
-
-std::string value_set_function(const Program &program, const ValueSet &set,
-                               std::string_view operation) {
-  return fmt::format("{}pvs_{}_{}", name_prefix(program), set.name, operation);
 }
 
 // --- Records, enumerations and data ---------------------------------------------------------
@@ -156,7 +99,7 @@ std::string_view without_stack_index(std::string_view header) {
   return indexed ? header.substr(0, end - 1) : header;
 }
 
-// What follows the instance in a field's name: "vlanId" of "vlan_0__vlanId".
+// What follows the instance in a field's name: "tagId" of "tag_0__tagId".
 std::string_view without_instance(std::string_view field,
                                   const std::vector<std::string> &instance_prefixes) {
   std::size_t longest = 0;
@@ -182,12 +125,20 @@ std::string validity_header(std::string_view field) {
   return std::string(field.substr(0, field.size() - kSuffix.size()));
 }
 
+std::string long_name(std::string_view member) { return camel_case(member); }
+
+std::string short_name(std::string_view member, const std::vector<std::string> &instance_prefixes) {
+  const std::string header = validity_header(member);
+  if (!header.empty()) return camel_case(without_stack_index(header)) + "Valid";
+  return camel_case(without_instance(member, instance_prefixes));
+}
+
 std::vector<std::string> cli_names(const std::vector<KeyField> &key,
                                    const std::vector<std::string> &instance_prefixes) {
   std::vector<std::string> names;
   for (const KeyField &field : key) {
     names.push_back(field.is_validity_bit
-                        ? camel_case(without_stack_index(validity_header(field.name))) + "Valid"
+                        ? short_name(field.name, instance_prefixes)
                         : camel_case(without_instance(field.name, instance_prefixes)));
   }
   std::vector<std::string> distinct = names;
@@ -200,6 +151,17 @@ std::vector<std::string> cli_names(const std::vector<KeyField> &key,
     }
   }
   return distinct;
+}
+
+const FieldHint *hint_of(std::string_view field, unsigned width, const FieldFacts &facts) {
+  for (const FieldHint &row : facts.hints) {
+    const bool named = std::find(row.fields.begin(), row.fields.end(), field) != row.fields.end();
+    const bool ends_so =
+        std::any_of(row.suffixes.begin(), row.suffixes.end(),
+                    [&](const std::string &suffix) { return field.ends_with(suffix); });
+    if (named || ends_so || (row.width != 0 && row.width == width)) return &row;
+  }
+  return nullptr;
 }
 
 std::string mask_cli_name(std::string_view cli_name) { return fmt::format("{}Mask", cli_name); }

@@ -1,5 +1,5 @@
-// Every derived name: the C names that the library exports, the names of records and their members,
-// and the names that tools show. Each formula stands here once; nothing else builds such a name.
+// Derived names: those of records and their members, of constants and data, and the names that
+// tools show. Each formula stands here once; the names of functions stand in the families.
 #pragma once
 
 #include <string>
@@ -13,49 +13,8 @@ namespace pdgen {
 // "p4_pd_<program>_", the beginning of every C name.
 std::string name_prefix(const Program &program);
 
-// --- Functions ------------------------------------------------------------------------------
-// `operation` is the part of the name that says what the function does.
-
-// <prefix><operation>: "init", "cli_schema".
-std::string program_function(const Program &program, std::string_view operation);
-
-// <prefix><table>_<operation>: "get_entry", "table_delete".
-std::string table_function(const Program &program, const Table &table, std::string_view operation);
-
-// <prefix><table>_<operation><action><suffix>: "table_modify_with_" … "_by_match_spec".
-std::string table_function(const Program &program, const Table &table, std::string_view operation,
-                           const Action &action, std::string_view suffix = {});
-
 // <prefix><table>_<field>_width; a validity bit is named by its header.
 std::string width_function(const Program &program, const Table &table, const KeyField &field);
-
-// <prefix><action>_<operation>: "schema", "action_specs_are_equal".
-std::string action_function(const Program &program, const Action &action,
-                            std::string_view operation);
-
-// <prefix><profile>_<operation>, and <prefix><profile>_<operation><action>: "add_member_with_".
-std::string profile_function(const Program &program, const Profile &profile,
-                             std::string_view operation);
-std::string profile_function(const Program &program, const Profile &profile,
-                             std::string_view operation, const Action &action);
-
-// <prefix>counter_<operation>_<counter>, and meter_ and register_ likewise.
-std::string resource_function(const Program &program, const Resource &resource,
-                              std::string_view operation);
-
-// <prefix>hash_calc_<hash>_<operation>: "seed_set".
-std::string hash_function(const Program &program, const Hash &hash, std::string_view operation);
-
-// <prefix><hash>_<map>: "p4_field_enum", "cmn_field_enum".
-std::string hash_map_function(const Program &program, const Hash &hash, std::string_view map);
-
-// <prefix><digest>_<operation>: "notify_ack".
-std::string digest_function(const Program &program, const Digest &digest,
-                            std::string_view operation);
-
-// <prefix>pvs_<set>_<operation>: "entry_add".
-std::string value_set_function(const Program &program, const ValueSet &set,
-                               std::string_view operation);
 
 // --- Records, enumerations and data ---------------------------------------------------------
 
@@ -71,10 +30,11 @@ std::string snapshot_capture_type(const Program &program);
 
 // The tag of a struct or enumeration: its type name without the ending.
 std::string type_tag(const std::string &type);
-// P4_PD_<PROGRAM>_<family>, in capitals: "SCHEMA_MAX".
+// P4_PD_<PROGRAM>_<family>, in capitals: "SCHEMA_MAX". All that the header declares:
 std::string size_constant(const Program &program, std::string_view family);
-inline constexpr std::string_view kSizeFamilies[] = {"SCHEMA_MAX", "MATCH_SPEC_VALUE_MAX",
-                                                     "ACTION_VALUE_MAX", "VALUE_MAX", "LABEL_MAX"};
+inline constexpr std::string_view kSizeFamilies[] = {
+    "ACTION_COUNT",     "ACTION_NAME_MAX", "SCHEMA_MAX", "MATCH_SPEC_VALUE_MAX",
+    "ACTION_VALUE_MAX", "VALUE_MAX",       "LABEL_MAX"};
 
 // Members of the records.
 std::string param_member(const Param &param);              // action_<param>
@@ -95,6 +55,14 @@ std::string validity_header(std::string_view field);
 std::vector<std::string> cli_names(const std::vector<KeyField> &key,
                                    const std::vector<std::string> &instance_prefixes);
 
+// Of any record's member by its own name: short, and with all its words for where others of its
+// record have the same short one.
+std::string short_name(std::string_view member, const std::vector<std::string> &instance_prefixes);
+std::string long_name(std::string_view member);
+
+// The hint that a field has by its name or width, null if there is none.
+const FieldHint *hint_of(std::string_view field, unsigned width, const FieldFacts &facts);
+
 std::string mask_cli_name(std::string_view cli_name);           // <name>Mask
 std::string prefix_length_cli_name(std::string_view cli_name);  // <name>PrefixLength
 
@@ -103,7 +71,7 @@ std::string prefix_length_cli_name(std::string_view cli_name);  // <name>PrefixL
 // A C name of the program's header and the row that it is made from.
 struct DerivedName {
   std::string name;
-  std::string origin;  // "table dmac", for messages
+  std::string origin;  // "table fdb", for messages
   Place place;
 };
 

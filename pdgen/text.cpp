@@ -58,7 +58,8 @@ std::string c_literal(std::string_view text) {
   std::string out = "\"";
   for (const char c : text) {
     const auto byte = static_cast<unsigned char>(c);
-    if (c == '"' || c == '\\') {
+    // The second of two question marks too: trigraphs begin with them.
+    if (c == '"' || c == '\\' || (c == '?' && out.back() == '?')) {
       out += fmt::format("\\{}", c);
     } else if (byte < 0x20 || byte >= 0x7f) {
       out += fmt::format("\\{:03o}", byte);

@@ -1,27 +1,26 @@
 // The command line of tesselctl.
-#include <fmt/ranges.h>
 #include <unistd.h>
 
-#include <CLI/CLI.hpp>
 #include <csignal>
 #include <cstdlib>
-#include <iostream>
 #include <memory>
 #include <new>
 #include <optional>
 
-#include "tesselctl/client.hpp"
-#include "tesselctl/command_help.hpp"
-#include "tesselctl/files.hpp"
-#include "tesselctl/history.hpp"
-#include "tesselctl/image_file.hpp"
-#include "tesselctl/library.hpp"
-#include "tesselctl/script.hpp"
-#include "tesselctl/serve.hpp"
-#include "tesselctl/shell.hpp"
-#include "tesselctl/utf8.hpp"
+#include "tesselctl/command/command_help.hpp"
+#include "tesselctl/command/flags.hpp"
+#include "tesselctl/command/local_runner.hpp"
+#include "tesselctl/command/options.hpp"
+#include "tesselctl/program/library.hpp"
+#include "tesselctl/server/client.hpp"
+#include "tesselctl/server/serve.hpp"
+#include "tesselctl/shell/history.hpp"
+#include "tesselctl/shell/shell.hpp"
+#include "tesselctl/shell/tool_completion.hpp"
+#include "tesselctl/shell/tool_runner.hpp"
+#include "tesselctl/state/image_file.hpp"
+#include "tesselctl/text/utf8.hpp"
 #include "tesselctl/version.hpp"
-#include "tesselctl/watch.hpp"
 
 namespace tesselctl {
 
@@ -31,20 +30,9 @@ constexpr int kDone = 0;
 constexpr int kFault = 1;
 constexpr int kDiffers = 2;
 
-struct Options {
-  bool no_colour = false;
-  DeviceOptions device;
-  std::string socket;  // of the server that has the device; empty for a device of our own
-  std::string image;   // where the device comes from and goes to
-  Settings settings;
-  ScriptOptions script;
-  std::string script_file;
-  ShellOptions shell = {.history = default_history_path()};
-};
-
-bool wants_colour(const Options &options, int fd) {
+bool wants_colour(const ToolSettings &settings, int fd) {
   const char *no_colour = std::getenv("NO_COLOR");
-  const bool refused = options.no_colour || (no_colour != nullptr && *no_colour != '\0');
+  const bool refused = settings.no_colour || (no_colour != nullptr && *no_colour != '\0');
   return !refused && isatty(fd) != 0;
 }
 
@@ -58,9 +46,9 @@ std::string version_text() {
 
 // Where a command line comes from and goes to.
 struct Streams {
-  explicit Streams(const Options &options)
-      : out(stdout, wants_colour(options, STDOUT_FILENO)),
-        errors(stderr, wants_colour(options, STDERR_FILENO)) {}
+  explicit Streams(const ToolSettings &settings)
+      : out(stdout, wants_colour(settings, STDOUT_FILENO)),
+        errors(stderr, wants_colour(settings, STDERR_FILENO)) {}
   Output out;
   Output errors;
 };
@@ -72,189 +60,174 @@ int redrawn_terminal() {
   return isatty(STDOUT_FILENO) != 0 && !dumb ? STDOUT_FILENO : -1;
 }
 
+ImageOptions image_of(const ToolSettings &settings) {
+  return {.path = settings.image, .keep_pipes = settings.pipes_are_given};
+}
+
 // What runs command lines: a server, or a device that lives as long as this, or in an image.
 class Session {
  public:
-  Session(const Options &options, Streams &streams) : image_(options.image) {
-    if (options.socket.empty()) {
-      open_device(options, streams);
+  // use: of the image, by all that will be run.
+  Session(const ToolSettings &settings, Streams &streams, ImageUse use) {
+    if (settings.socket.empty()) {
+      home_.emplace(settings.device, image_of(settings), use, streams.errors);
+      auto local = std::make_unique<LocalRunner>(home_->device(), streams.out, streams.errors,
+                                                 settings.lines);
+      local_ = local.get();
+      runner_ = std::move(local);
     } else {
-      runner_ = std::make_unique<RemoteRunner>(options.socket, streams.out, streams.errors,
-                                               options.settings);
+      runner_ = std::make_unique<RemoteRunner>(settings.socket, streams.out, streams.errors,
+                                               settings.lines);
     }
-    watch_.emplace(*runner_, streams.out, options.settings, redrawn_terminal());
+    tool_.emplace(*runner_, streams.out, streams.errors, redrawn_terminal());
+    if (home_ && home_->may_be_old()) tool_->before_each([this] { home_->read_again(); });
   }
-  Runner &runner() { return *watch_; }
+  Runner &runner() { return *tool_; }
   // Call it when all is done.
-  void save_if_changed() const {
-    if (local_ != nullptr && !image_.empty() && local_->has_changed()) {
-      save_image_file(*device_, image_);
-    }
+  void save_if_changed() {
+    if (local_ != nullptr && local_->has_changed()) home_->save();
   }
 
  private:
-  void open_device(const Options &options, Streams &streams) {
-    device_.emplace(options.device);
-    if (!image_.empty() && access(image_.c_str(), F_OK) == 0) {
-      load_image_file(*device_, image_, image_);
-    }
-    auto local =
-        std::make_unique<LocalRunner>(*device_, streams.out, streams.errors, options.settings);
-    local_ = local.get();
-    runner_ = std::move(local);
-  }
-
-  std::string image_;
-  std::optional<Device> device_;
+  std::optional<DeviceOfImage> home_;
   std::unique_ptr<Runner> runner_;
   LocalRunner *local_ = nullptr;
-  std::optional<WatchRunner> watch_;
+  std::optional<ToolRunner> tool_;
 };
 
-int run_file(const Options &options) {
-  Streams streams(options);
-  const std::string text = read_input(options.script_file);
-  const std::string name = options.script_file == "-" ? "standard input" : options.script_file;
-  Session session(options, streams);
-  const ScriptResult result = run_script(session.runner(), name, text, options.script);
-  session.save_if_changed();
-  if (!options.settings.json) {
-    streams.out.line("{}: {} command{}, {} fault{}", name, result.commands,
-                     result.commands == 1 ? "" : "s", result.faults, result.faults == 1 ? "" : "s");
-  }
-  streams.out.flush();
-  if (result.faults != 0) return kFault;
-  return result.differs ? kDiffers : kDone;
-}
-
-int run_serve(const Options &options) {
-  if (options.socket.empty()) throw Fault("serve needs --socket PATH");
-  Streams streams(options);
-  serve({options.device, options.socket, options.image}, streams.out);
-  return kDone;
-}
-
-// The words of the shell that called, as one line of ours.
-std::string line_of(const std::vector<std::string> &words) {
-  std::string line;
-  for (const std::string &word : words) {
-    if (!line.empty()) line += ' ';
-    const bool plain = !word.empty() && word.find_first_of(" \t\r\v\f#") == std::string::npos;
-    if (!plain && word.find('"') != std::string::npos) {
-      throw Fault(word + ": a word with blanks cannot hold quotes");
-    }
-    line += plain ? word : '"' + word + '"';
-  }
-  return line;
-}
-
-int run_one(const Options &options, const std::vector<std::string> &words) {
-  Streams streams(options);
-  Session session(options, streams);
-  const std::string line = line_of(words);
-  const LineOutcome outcome = session.runner().run({{}, 0, line});
-  session.save_if_changed();
-  streams.out.flush();
+int exit_of(LineOutcome outcome) {
   if (outcome == LineOutcome::fault) return kFault;
   return outcome == LineOutcome::differs ? kDiffers : kDone;
 }
 
-// Without a command: a shell on a terminal, a script otherwise.
-int run_input(Options &options) {
-  if (isatty(STDIN_FILENO) == 0) {
-    options.script_file = "-";
-    return run_file(options);
+int run_serve(const ToolSettings &settings) {
+  if (settings.socket.empty()) throw Fault("serve needs --socket PATH");
+  Streams streams(settings);
+  serve({settings.device, settings.socket, image_of(settings)}, streams.out, streams.errors);
+  return kDone;
+}
+
+// Words as one line of ours.
+std::string line_of(Words words) {
+  std::string line;
+  for (const Word &word : words) {
+    const std::string text(word.text);
+    if (!line.empty()) line += ' ';
+    const bool plain = !text.empty() && text.find_first_of(" \t\r\v\f#") == std::string::npos;
+    if (!plain && text.find('"') != std::string::npos) {
+      throw Fault(word, "a word with blanks cannot hold quotes");
+    }
+    line += plain ? text : '"' + text + '"';
   }
-  Streams streams(options);
-  Session session(options, streams);
-  run_shell(session.runner(), streams.out, options.shell);
+  return line;
+}
+
+int run_command(const ToolSettings &settings, const std::vector<Word> &words) {
+  Streams streams(settings);
+  const std::string line = line_of(words);
+  Session session(settings, streams,
+                  may_change_device(words) ? ImageUse::changes : ImageUse::reads);
+  const LineOutcome outcome = session.runner().run({{}, 0, line});
+  session.save_if_changed();
+  streams.out.flush();
+  return exit_of(outcome);
+}
+
+int run_terminal(const ToolSettings &settings) {
+  Streams streams(settings);
+  Session session(settings, streams, ImageUse::changes);
+  run_shell(session.runner(), streams.out,
+            {.history = settings.history.value_or(default_history_path())});
   session.save_if_changed();
   return kDone;
 }
 
-void add_subcommands(CLI::App &app, Options &options) {
-  CLI::App *run = app.add_subcommand("run", "Runs a script of commands");
-  run->add_option("FILE", options.script_file, "the script, or - for standard input")->required();
-  run->add_flag("-k,--keep-going", options.script.keep_going, "go on behind a line with a fault");
-
-  app.add_subcommand("serve", "Keeps a soft device that others work on, until it is told to end");
+// What can stand at a point of the tool's own command line, on the device that this line names, or
+// an empty one where there is none.
+int run_completion(const ToolSettings &settings, const Invocation &invocation) {
+  const std::string line = decode_line(need_argument(invocation, 0, "the line").text);
+  const Options options(invocation, 1, {"cursor"});
+  const auto cursor = static_cast<size_t>(options.number_or("cursor", line.size(), line.size()));
+  Streams streams(settings);
+  const auto ask = [&](const ToolSettings &named, std::string_view text, size_t at) {
+    Session session(named, streams, ImageUse::reads);
+    return read_completion(session.runner().ask(completion_request(text, at)));
+  };
+  const auto complete_line = [&](const ToolSettings &named, std::string_view text, size_t at) {
+    try {
+      return ask(named, text, at);
+    } catch (const Fault &) {
+      return ask({}, text, at);
+    }
+  };
+  Results results(streams.out);
+  results.begin(settings.lines, "complete", false);
+  print_completion(complete_tool_line(settings, line, cursor, complete_line), results);
+  results.end();
+  streams.out.flush();
+  return kDone;
 }
 
-void add_options(CLI::App &app, Options &options) {
-  app.set_version_flag("--version", version_text);
-  app.add_option("--device", options.device.id, "id of the device")
-      ->check(CLI::Range(0, 255))
-      ->capture_default_str();
-  app.add_option("--pipes", options.device.pipes,
-                 "pipes of the device; those of the image if it has some")
-      ->check(CLI::Range(1, 8))
-      ->capture_default_str();
-  app.add_option("--socket", options.socket, "work on the device of the server that listens there");
-  app.add_option("--image", options.image,
-                 "file that the device comes from, if there is one, and goes to when it changed");
-  app.add_flag("--json", options.settings.json, "answer in JSON, a line for every command");
-  app.add_flag("--terse", options.settings.terse, "answer with one row a line, without columns");
-  app.add_flag("-v,--verbose", options.settings.verbose, "tell what each command changed");
-  app.add_flag("--trace", options.settings.trace, "print the C calls behind the commands");
-  app.add_option("--history", options.shell.history, "file of the shell's history")
-      ->type_name("FILE");
-  app.add_flag("--no-color", options.no_colour, "never print in colour (also: NO_COLOR)");
+int print_text(const std::string &text) {
+  Output out(stdout, false);
+  out.line("{}", text);
+  out.flush();
+  return kDone;
 }
 
 // The device of a server is what the server made it.
-void check_socket(const CLI::App &app, const Options &options) {
-  if (options.socket.empty() || app.got_subcommand("serve")) return;
-  for (const char *name : {"--device", "--pipes", "--image"}) {
-    if (app.count(name) > 0) throw Fault(fmt::format("{} is for the server to choose", name));
+void check_socket(const ToolSettings &settings) {
+  if (settings.socket.empty() || settings.device_flag.empty()) return;
+  throw Fault(fmt::format("{} is for the server to choose", settings.device_flag));
+}
+
+// words are those behind the tool's own options.
+int run_words(ToolSettings &settings, std::vector<Word> words) {
+  std::vector<Word> plain = words;
+  Settings of_line = settings.lines;
+  const TakenFlags flags = take_flags(plain, of_line);
+  if (plain.empty() && of_line.help) return print_text(tool_help());
+  if (plain.empty() && isatty(STDIN_FILENO) != 0) {
+    if (!words.empty()) throw Fault(words[0], "this option needs a command");
+    check_socket(settings);
+    return run_terminal(settings);
   }
-}
-
-int run_parsed(const CLI::App &app, Options &options) {
-  check_socket(app, options);
-  if (!options.image.empty() && app.count("--pipes") == 0) {
-    options.device.pipes = pipes_of_image_file(options.image).value_or(options.device.pipes);
+  if (plain.empty()) {
+    plain = {{"run", 1}, {"-", 5}};
+    words.insert(words.begin(), plain.begin(), plain.end());
   }
-  if (app.got_subcommand("serve")) return run_serve(options);
-  if (app.got_subcommand("run")) return run_file(options);
-  if (app.remaining().empty()) return run_input(options);
-  return run_one(options, app.remaining());
-}
-
-// What keeps a command from being run at all is told as JSON, too.
-void report_as_json(const Fault &fault, const Options &options,
-                    const std::vector<std::string> &words) {
-  Output out(stdout, false);
-  Results results(out);
-  results.begin(options.settings, fmt::format("{}", fmt::join(words, " ")), false);
-  results.fail(fault, {}, 0);
-  out.flush();
-}
-
-int exit_of(const CLI::App &app, const CLI::ParseError &error) {
-  const bool good = app.exit(error) == 0;
-  if (!std::cout.flush()) throw Fault("cannot write the output");
-  return good ? kDone : kFault;
+  Invocation invocation;
+  const std::string_view first = plain[0].text;
+  if (!of_line.help && (first == "serve" || first == "complete")) {
+    flags.check(find_command(plain, invocation));
+    if (first == "complete") return run_completion(settings, invocation);
+    refuse_arguments_from(invocation, 0);
+    return run_serve(settings);
+  }
+  check_socket(settings);
+  // Help needs no device.
+  if (of_line.help) settings.image.clear(), settings.socket.clear();
+  return run_command(settings, words);
 }
 
 int run_tool(int argc, char **argv) {
-  Options options;
-  CLI::App app("Works on the tables of the tessel_switch program, in a soft device", "tesselctl");
-  app.require_subcommand(0, 1);
-  app.fallthrough();
-  app.prefix_command();
-  app.footer(command_help);
-  add_options(app, options);
-  add_subcommands(app, options);
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError &error) {
-    return exit_of(app, error);
+  ToolSettings settings;
+  std::vector<Word> words;
+  size_t column = 1;
+  for (int i = 1; i < argc; ++i) {
+    words.push_back({argv[i], column});
+    column += words.back().text.size() + 1;
   }
   try {
-    return run_parsed(app, options);
+    take_tool_flags(words, settings);
+    if (settings.version) return print_text(version_text());
+    return run_words(settings, words);
   } catch (const Fault &fault) {
-    if (!options.settings.json) throw;
-    report_as_json(fault, options, app.remaining());
+    // What keeps a command from being run at all is an answer in JSON, too.
+    Streams streams(settings);
+    Results results(streams.out);
+    results.begin(settings.lines, line_of(words), false);
+    report_fault(fault, {}, results, settings.lines.json, streams.out, streams.errors);
     return kFault;
   }
 }
@@ -264,6 +237,8 @@ int run_tool(int argc, char **argv) {
 }  // namespace tesselctl
 
 int main(int argc, char **argv) {
+  // A file that may not grow is a fault of the command that writes it.
+  std::signal(SIGXFSZ, SIG_IGN);
   try {
     return tesselctl::run_tool(argc, argv);
   } catch (const std::bad_alloc &) {

@@ -33,7 +33,8 @@ enum {
   BF_FOREIGN_ACTION = 15,  /* The action does not belong to the table or profile. */
   BF_WRONG_LENGTH = 16,    /* A key, action data or value has another length than declared. */
   BF_END_OF_LIST = 17,     /* There is nothing after the given object. */
-  BF_CORRUPT_DATA = 18     /* Data handed back to the SDK is not what the SDK made. */
+  BF_CORRUPT_DATA = 18,    /* Data handed back to the SDK is not what the SDK made. */
+  BF_TABLE_MISS = 19       /* The key hits no entry, and there is no default entry. */
 };
 
 /* A device, 0 and up; a pipe of a device, 0 and up, or BF_ALL_PIPES. */

@@ -53,7 +53,7 @@ PD_INLINE p4_pd_status_t encode_resource(const uint8_t *record,
 template <class A, size_t... I>
 PD_INLINE void encode_params([[maybe_unused]] const uint8_t *record,
                              [[maybe_unused]] uint8_t *bytes, std::index_sequence<I...>) {
-  (encode_param<A::params[I]>(record, bytes), ...);
+  PD_FOR_EACH(encode_param<A::params[I]>(record, bytes));
 }
 
 // Stops at the first failure; only a meter spec can fail.

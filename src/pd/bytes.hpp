@@ -9,6 +9,11 @@
 // tenth of an entry add.
 #define PD_INLINE [[gnu::always_inline]] inline
 
+// The expression once for each element of the pack in it, in order. Compilers nest the operands of
+// a fold, and clang ends at 256.
+#define PD_FOR_EACH(...) \
+  [[maybe_unused]] const int done[] = {0, (static_cast<void>(__VA_ARGS__), 0)...}
+
 namespace pd {
 
 // The member of Storage bytes (1, 2 or 4) at an address of any alignment.
@@ -65,6 +70,11 @@ inline uint32_t load_big_endian(const uint8_t *bytes, unsigned count) {
   uint32_t value = 0;
   for (unsigned i = 0; i < count; ++i) value = value << 8 | bytes[i];
   return value;
+}
+
+// How many of the items that the SDK reports are there: it may report more than it had room for.
+constexpr uint32_t held(uint32_t reported, uint32_t room) {
+  return reported < room ? reported : room;
 }
 
 // The low bits ones of a word; bits is 1 to 32.

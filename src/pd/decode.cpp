@@ -62,10 +62,11 @@ void decode_mask(const Table &table, const uint8_t *mask, void *match_spec) {
 }
 
 p4_pd_status_t ResourceList::build(const pipe_mgr_action_spec_t &spec) {
-  if (spec.resource_count == 0) return BF_SUCCESS;
-  items_ = static_cast<p4_pd_res_spec_t *>(bf_sys_calloc(spec.resource_count, sizeof *items_));
+  const uint32_t listed = held(spec.resource_count, PIPE_RESOURCES_PER_ACTION);
+  if (listed == 0) return BF_SUCCESS;
+  items_ = static_cast<p4_pd_res_spec_t *>(bf_sys_calloc(listed, sizeof *items_));
   if (items_ == nullptr) return P4_PD_NO_MEMORY;
-  for (uint32_t i = 0; i < spec.resource_count; ++i) {
+  for (uint32_t i = 0; i < listed; ++i) {
     if (spec.resources[i].tag != PIPE_RESOURCE_ATTACH) continue;
     items_[count_++] = {spec.resources[i].handle, spec.resources[i].index};
   }

@@ -20,7 +20,9 @@ class ResourceList {
   ResourceList() = default;
   ResourceList(const ResourceList &) = delete;
   ResourceList &operator=(const ResourceList &) = delete;
-  ~ResourceList() { bf_sys_free(items_); }
+  ~ResourceList() {
+    if (items_ != nullptr) bf_sys_free(items_);
+  }
 
   // P4_PD_NO_MEMORY, or BF_SUCCESS. A spec without resources allocates nothing.
   p4_pd_status_t build(const pipe_mgr_action_spec_t &spec);
@@ -44,19 +46,16 @@ const Action *find_action(const Pair *pairs, uint32_t pair_count, uint32_t handl
 // An action spec with a zeroed buffer for the action data to be read back.
 struct ReadAction {
   pipe_mgr_action_spec_t spec;
-  uint8_t bytes[read_back_bytes];
+  uint8_t bytes[limits::action_data];
 
   explicit ReadAction(uint16_t byte_count);
 };
 
-// Largest key of any program: 64 fields would need more stack than this.
-inline constexpr uint16_t max_key_bytes = 256;
-
 // A match spec with zeroed buffers for the key to be read back.
 struct ReadKey {
   pipe_mgr_match_spec_t spec;
-  uint8_t value[max_key_bytes];
-  uint8_t mask[max_key_bytes];
+  uint8_t value[limits::key];
+  uint8_t mask[limits::key];
 
   // With the table's counts set as an encoder sets them, or left 0.
   ReadKey(const Table &table, bool with_counts);

@@ -1,11 +1,13 @@
 // Shapes of the program's objects as the core sees them: offsets, widths and handles, no names.
-// The generator fills them from the catalogue (descriptors.hpp in the build folder). The codec
+// The generator fills them from the catalogue (descriptors.hpp in the build folder) and says how
+// large they get (limits.hpp beside it), so that buffers hold what this program has. The codec
 // unrolls over them at compile time; read-back and introspection loop over the same arrays.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 
+#include "limits.hpp"
 #include "p4_pd_types.h"
 
 namespace pd {
@@ -28,10 +30,10 @@ struct KeyField {
 // the action data are zero, and read-back takes it from the last attached resource of index_of.
 struct Param {
   uint16_t offset;
-  uint8_t position;  // of its first byte in the action data
-  uint8_t storage;   // size of the member: 1, 2 or 4
-  uint8_t width;     // bits
-  uint8_t bytes;     // in the action data
+  uint16_t position;  // of its first byte in the action data
+  uint8_t storage;    // size of the member: 1, 2 or 4
+  uint8_t width;      // bits
+  uint8_t bytes;      // in the action data
   uint32_t index_of[2];
 
   constexpr bool is_index() const { return index_of[0] != 0; }
@@ -43,7 +45,7 @@ struct Action {
   uint16_t record_size;
   uint16_t data_bits;
   uint16_t data_bytes;
-  uint8_t param_count;
+  uint16_t param_count;
   const Param *params;
 };
 
@@ -77,9 +79,9 @@ struct Pair {
 struct Table {
   uint32_t handle;
   Kind kind;
-  uint8_t field_count;
-  uint8_t pair_count;
-  int8_t profile;  // index of the profile that the table is bound to, or -1
+  uint16_t field_count;
+  uint32_t pair_count;
+  int32_t profile;  // index of the profile that the table is bound to, or -1
   uint16_t record_size;
   uint16_t key_bits;
   uint16_t key_bytes;
@@ -92,8 +94,8 @@ struct Profile {
   const char *name;
   uint32_t action_data_table;
   uint32_t selector;
-  uint8_t index;
-  uint8_t pair_count;
+  uint32_t index;
+  uint32_t pair_count;
   const Pair *pairs;
 };
 
@@ -136,8 +138,5 @@ extern const Program program;
 // The record that returns an action of any kind holds its enumeration value and then, at this
 // offset, the union of all action specs.
 inline constexpr size_t action_specs_union_offset = 4;
-
-// Read-back buffers hold the largest action data that the SDK may return.
-inline constexpr uint16_t read_back_bytes = 28;
 
 }  // namespace pd

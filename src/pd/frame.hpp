@@ -9,11 +9,8 @@
 
 namespace pd {
 
-// Room for every profile that a program may have; the generator refuses more.
-inline constexpr uint32_t max_profiles = 32;
-
 // Created by initialize and never destroyed; the same objects for the life of the process.
-extern p4_pd_ms_state_t *profile_states[max_profiles];
+extern p4_pd_ms_state_t *profile_states[limits::profiles];
 
 inline p4_pd_ms_state_t *state_of(const Profile &profile) { return profile_states[profile.index]; }
 

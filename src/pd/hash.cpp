@@ -127,6 +127,7 @@ p4_pd_status_t get_hash_attributes(const Hash &hash, p4_pd_session_handle_t sess
   const p4_pd_status_t status = pipe_mgr_hash_calc_input_field_attribute_get(
       session, device, hash.handle, list, max_count, read.items(), filled);
   if (status != BF_SUCCESS) return status;
+  *filled = held(*filled, max_count);
   memcpy(attributes, read.items(), size_t{*filled} * sizeof *attributes);
   return BF_SUCCESS;
 }

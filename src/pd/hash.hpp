@@ -44,7 +44,7 @@ p4_pd_status_t set_hash_attributes(const Hash &hash, p4_pd_session_handle_t sess
 // Both ask for the list that is configured, not for the caller's. P4_PD_UNKNOWN_SELECTION for an
 // input other than 0 while the calculation's own list is configured. count reads 0 on failure of
 // the query; filled reads 0 on every failure but P4_PD_NULL_ARGUMENT, unless the pipeline manager
-// has written it.
+// has written it, and never more than max_count.
 p4_pd_status_t count_hash_attributes(const Hash &hash, p4_pd_session_handle_t session,
                                      uint8_t device, uint32_t input, uint32_t *count);
 p4_pd_status_t get_hash_attributes(const Hash &hash, p4_pd_session_handle_t session, uint8_t device,

@@ -99,7 +99,7 @@ PD_INLINE void encode_field(const uint8_t *record, KeyBytes<T> &key, uint32_t &p
 template <class T, size_t... I>
 PD_INLINE void encode_fields(const uint8_t *record, KeyBytes<T> &key, uint32_t &priority,
                              std::index_sequence<I...>) {
-  (encode_field<T, I>(record, key, priority), ...);
+  PD_FOR_EACH(encode_field<T, I>(record, key, priority));
 }
 
 }  // namespace detail

@@ -36,7 +36,7 @@ void report_action(const Action &action, const uint8_t *bytes, Resources resourc
 
 // The action data and action of a placed member.
 struct PlacedMember {
-  uint8_t bytes[read_back_bytes] = {};
+  uint8_t bytes[limits::action_data] = {};
   const Action *action = nullptr;
 
   p4_pd_status_t decode(const Profile &profile, const pipe_mgr_placement_t *placement) {

@@ -87,8 +87,8 @@ p4_pd_status_t get_member(const Profile &profile, p4_pd_session_handle_t, uint8_
                           p4_pd_member_handle_t member, bool read_from_hardware,
                           void *action_specs) {
   if (action_specs == nullptr) return P4_PD_NULL_ARGUMENT;
-  uint8_t bytes[read_back_bytes] = {};
-  pipe_mgr_action_data_t data = {0, read_back_bytes, bytes};
+  uint8_t bytes[limits::action_data] = {};
+  pipe_mgr_action_data_t data = {0, limits::action_data, bytes};
   uint32_t handle = 0;
   const p4_pd_status_t status = pipe_mgr_get_action_data_entry(
       profile.action_data_table, device, member, &data, &handle, read_from_hardware);

@@ -35,7 +35,7 @@ p4_pd_status_t modify_member(const Profile &profile, p4_pd_session_handle_t sess
   uint32_t action = 0;
   const p4_pd_status_t status = p4_pd_ms_get_mbr_act(state_of(profile), device, member, &action);
   if (status != BF_SUCCESS) return status;
-  if (action != A::handle) return static_cast<p4_pd_status_t>(P4_PD_MEMBER_KEEPS_ACTION);
+  if (action != A::handle) return P4_PD_MEMBER_KEEPS_ACTION;
   ActionBytes<typename A::ActionType> data;
   pipe_mgr_action_spec_t spec;
   encode_action_data<typename A::ActionType>(action_spec, data, spec);

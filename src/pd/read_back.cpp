@@ -48,7 +48,7 @@ p4_pd_status_t get_entry(const Table &table, p4_pd_session_handle_t session, uin
     return P4_PD_NULL_ARGUMENT;
   }
   ReadKey key(table, true);
-  ReadAction read(read_back_bytes);
+  ReadAction read(limits::action_data);
   uint32_t handle = 0;
   p4_pd_status_t status = pipe_mgr_get_entry(session, table.handle, device, entry, &key.spec,
                                              &read.spec, &handle, read_from_hardware);
@@ -74,7 +74,7 @@ p4_pd_status_t get_default_entry(const Table &table, p4_pd_session_handle_t sess
                                  p4_pd_device_target_t target, bool read_from_hardware,
                                  void *action_specs) {
   if (action_specs == nullptr) return P4_PD_NULL_ARGUMENT;
-  ReadAction read(read_back_bytes);
+  ReadAction read(limits::action_data);
   uint32_t handle = 0;
   p4_pd_status_t status =
       pipe_mgr_table_get_default_entry(session, target.device_id, target.pipe_id, table.handle,

@@ -12,7 +12,7 @@ namespace pd {
 struct EntryOut {
   void *match_spec = nullptr;
   uint32_t *priority = nullptr;
-  char *action_name = nullptr;  // 61 bytes or more
+  char *action_name = nullptr;  // room for the longest full name
   void *action_spec = nullptr;
   uint32_t *action = nullptr;
   bool *no_key = nullptr;

@@ -27,14 +27,17 @@ pipe_stful_cell_t cell_of(const Register &reg, const void *typed_value) {
   return cell;
 }
 
-// Appends the cells of a query to the first used values, and returns how many are used then.
-uint32_t append(const Register &reg, const pipe_stful_query_t &query, void *values, uint32_t used) {
+// Appends the cells of a query, which has room for that many, to the first used values, and returns
+// how many are used then.
+uint32_t append(const Register &reg, const pipe_stful_query_t &query, uint32_t room, void *values,
+                uint32_t used) {
   const unsigned storage = storage_of(reg);
+  const uint32_t count = held(query.count, room);
   auto *bytes = static_cast<uint8_t *>(values);
-  for (uint32_t i = 0; i < query.count; ++i) {
+  for (uint32_t i = 0; i < count; ++i) {
     store(bytes + size_t{used + i} * storage, storage, value_of(reg, query.cells[i]));
   }
-  return used + query.count;
+  return used + count;
 }
 
 bool from_hardware(uint32_t flags) { return (flags & P4_PD_READ_FROM_HARDWARE) != 0; }
@@ -54,7 +57,7 @@ p4_pd_status_t read_register(const Register &reg, p4_pd_session_handle_t session
   pipe_stful_query_t query = {instances, cells.items()};
   status = pipe_stful_ent_query(session, target.device_id, target.pipe_id, reg.handle, index,
                                 &query, from_hardware(flags));
-  if (status == BF_SUCCESS) *value_count = append(reg, query, values, 0);
+  if (status == BF_SUCCESS) *value_count = append(reg, query, instances, values, 0);
   return status;
 }
 
@@ -79,8 +82,11 @@ p4_pd_status_t read_register_range(const Register &reg, p4_pd_session_handle_t s
   status = pipe_stful_ent_query_range(session, target.device_id, target.pipe_id, reg.handle, first,
                                       index_count, queries.items(), &read, from_hardware(flags));
   if (status != BF_SUCCESS) return status;
+  read = held(read, index_count);
   uint32_t used = 0;
-  for (uint32_t i = 0; i < read; ++i) used = append(reg, queries.items()[i], values, used);
+  for (uint32_t i = 0; i < read; ++i) {
+    used = append(reg, queries.items()[i], instances, values, used);
+  }
   *indexes_read = read;
   *value_count = used;
   return BF_SUCCESS;

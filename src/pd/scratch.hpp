@@ -19,7 +19,9 @@ class Scratch {
   }
   Scratch(const Scratch &) = delete;
   Scratch &operator=(const Scratch &) = delete;
-  ~Scratch() { bf_sys_free(items_); }
+  ~Scratch() {
+    if (items_ != nullptr) bf_sys_free(items_);
+  }
 
   // False when there is no memory for the items.
   bool ok() const { return items_ != nullptr || count_ == 0; }

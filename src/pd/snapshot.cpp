@@ -13,14 +13,12 @@ namespace {
 void cut_stages(const Snapshots &snapshots, const uint8_t *stages, uint32_t total_size,
                 uint32_t stage_size, uint8_t *records) {
   if (stage_size == 0) return;
-  const uint32_t stage_count = total_size / stage_size;
-  const uint32_t count =
-      stage_count < snapshots.capture_limit ? stage_count : snapshots.capture_limit;
-  const uint32_t held = stage_size < snapshots.record_bytes ? stage_size : snapshots.record_bytes;
+  const uint32_t count = held(total_size / stage_size, snapshots.capture_limit);
+  const uint32_t filled = stage_size < snapshots.record_bytes ? stage_size : snapshots.record_bytes;
   for (uint32_t i = 0; i < count; ++i) {
     uint8_t *record = records + size_t{i} * snapshots.record_bytes;
-    memcpy(record, stages + size_t{i} * stage_size, held);
-    memset(record + held, 0, snapshots.record_bytes - held);
+    memcpy(record, stages + size_t{i} * stage_size, filled);
+    memset(record + filled, 0, snapshots.record_bytes - filled);
   }
 }
 
@@ -52,6 +50,7 @@ p4_pd_status_t get_captures(const Snapshots &snapshots, uint32_t snapshot, uint1
   const Scratch<uint8_t> stages(total_size);
   if (!stages.ok()) return P4_PD_NO_MEMORY;
   status = bf_snapshot_capture_get(snapshot, pipe, stages.items(), control, captures);
+  *captures = held(*captures, snapshots.capture_limit);
   cut_stages(snapshots, stages.items(), total_size, stage_size, static_cast<uint8_t *>(records));
   return status;
 }

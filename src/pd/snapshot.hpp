@@ -38,7 +38,8 @@ p4_pd_status_t set_trigger(uint32_t snapshot, const void *value, const void *mas
 // records has room for capture_limit records, control (null: not wanted) for one entry a stage. A
 // record is written for each whole stage in the service's total size, also when the service failed
 // to fill it (zeroes then); a stage that is shorter than a record leaves the rest of it zero, and a
-// stage size of 0 is no stage at all. captures reads 0 on every failure in front of the capture.
+// stage size of 0 is no stage at all. captures reads 0 on every failure in front of the capture,
+// and never more than capture_limit.
 p4_pd_status_t get_captures(const Snapshots &snapshots, uint32_t snapshot, uint16_t pipe,
                             void *records, bf_snapshot_control_t *control, uint32_t *captures);
 

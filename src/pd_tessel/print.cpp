@@ -5,6 +5,8 @@
 #include <string.h>
 #include <unistd.h>
 
+#include <initializer_list>
+
 #include "text_out.hpp"
 
 namespace pd {
@@ -75,15 +77,19 @@ class Line {
 
 constexpr unsigned most_digits = 32;
 
-// Blanks, prefix and digits as one line.
-int print_line(int descriptor, size_t blanks, const char *prefix, size_t prefix_length,
-               const char *digits, unsigned digit_count) {
-  const size_t length = blanks + prefix_length + digit_count + 1;
+struct Part {
+  const char *text;
+  size_t length;
+};
+
+// Blanks and parts as one line. Nothing is written of one that is longer than an int can say.
+int print_line(int descriptor, size_t blanks, std::initializer_list<Part> parts) {
+  size_t length = blanks + 1;
+  for (const Part &part : parts) length += part.length;
   if (length > INT_MAX) return -1;
   Line line(descriptor);
   line.add_blanks(blanks);
-  line.add(prefix, prefix_length);
-  line.add(digits, digit_count);
+  for (const Part &part : parts) line.add(part.text, part.length);
   return line.end();
 }
 
@@ -103,10 +109,8 @@ size_t blanks_of(int indent) {
 
 int print_text_line(int descriptor, int indent, const char *first, const char *second,
                     const char *third) {
-  Line line(descriptor);
-  line.add_blanks(blanks_of(indent));
-  for (const char *text : {first, second, third}) line.add(text, strlen(text));
-  return line.end();
+  return print_line(descriptor, blanks_of(indent),
+                    {{first, strlen(first)}, {second, strlen(second)}, {third, strlen(third)}});
 }
 
 int print_record(int descriptor, int indent, const RecordLines &lines, const RecordMember *members,
@@ -116,15 +120,15 @@ int print_record(int descriptor, int indent, const RecordLines &lines, const Rec
   int result = 0;
   if (lines.has_header) {
     const size_t length = static_cast<size_t>(strchr(prefix, '\n') - prefix);
-    result = print_line(descriptor, blanks, prefix, length, nullptr, 0);
+    result = print_line(descriptor, blanks, {{prefix, length}});
     prefix += length + 1;
   }
   for (unsigned i = 0; i < count; ++i) {
     char digits[most_digits];
     put_member_digits(digits, members[i], static_cast<const uint8_t *>(record));
     const size_t length = static_cast<size_t>(strchr(prefix, '\n') - prefix);
-    result =
-        print_line(descriptor, blanks == 0 ? 1 : blanks, prefix, length, digits, members[i].digits);
+    result = print_line(descriptor, blanks == 0 ? 1 : blanks,
+                        {{prefix, length}, {digits, members[i].digits}});
     prefix += length + 1;
   }
   return result;

@@ -13,7 +13,7 @@ struct RecordLines {
   bool has_header;
 };
 
-// Makes one write a line (more for one of over 500 bytes) and returns what the last line came to:
+// Makes one write a line (more for one of over 512 bytes) and returns what the last line came to:
 // its length, or -1 when it could not be written or would be longer than an int can say. Keeps
 // nothing, so threads may print at the same time.
 int print_record(int descriptor, int indent, const RecordLines &lines, const RecordMember *members,

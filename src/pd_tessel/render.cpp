@@ -8,8 +8,8 @@ namespace {
 
 // Placement data of an entry, decoded.
 struct PlacedEntry {
-  alignas(4) uint8_t match_spec[max_record_size];
-  alignas(4) uint8_t action_specs[action_specs_union_offset + max_action_spec_size];
+  alignas(4) uint8_t match_spec[limits::match_spec];
+  alignas(4) uint8_t action_specs[action_specs_union_offset + limits::action_spec];
   EntryFacts facts;
 
   p4_pd_status_t decode(const Table &table, const pipe_mgr_placement_t *placement) {
@@ -154,8 +154,8 @@ int placement_equals_hardware(const RenderedTable &table, p4_pd_session_handle_t
                               const pipe_mgr_placement_t *placement) {
   PlacedEntry placed;
   if (placed.decode(*table.table, placement) != BF_SUCCESS) return 0;
-  alignas(4) uint8_t match_spec[max_record_size];
-  alignas(4) uint8_t action_spec[max_action_spec_size];
+  alignas(4) uint8_t match_spec[limits::match_spec];
+  alignas(4) uint8_t action_spec[limits::action_spec];
   EntryFacts held;
   if (read_entry(*table.table, {session, device, entry, true}, match_spec, action_spec, held) !=
       BF_SUCCESS) {

@@ -21,10 +21,6 @@ struct RecordText {
   ValueWriter value = nullptr;
 };
 
-// Room for any record that is decoded here.
-inline constexpr size_t max_record_size = 1024;
-inline constexpr size_t max_action_spec_size = 64;
-
 struct RenderedTable {
   uint32_t handle;
   const Table *table;
@@ -47,7 +43,6 @@ constexpr RecordText record_text() {
   RecordText text;
   text.value = write_value<T>;
   if constexpr (T::Shape::count != 0) {
-    static_assert(sizeof(typename T::Shape::Record) <= max_record_size);
     text.lines = T::lines;
     text.has_header = T::has_header;
     text.members = T::Shape::members;
@@ -62,13 +57,11 @@ struct RenderedActions;
 
 template <class... Text>
 struct RenderedActions<ActionTexts<Text...>> {
-  static_assert(((Text::Shape::size <= max_action_spec_size) && ...));
   static constexpr RecordText rows[] = {record_text<Text>()..., {}};
 };
 
 template <class T>
 constexpr RenderedTable rendered_table(const char *full_name) {
-  static_assert(T::Layout::table.key_bytes <= max_key_bytes);
   RenderedTable table{T::Layout::table.handle, &T::Layout::table, full_name, {}, nullptr,
                       entry_value<T>};
   if constexpr (T::Layout::table.kind != Kind::keyless) table.key = record_text<T>();

@@ -42,7 +42,7 @@ struct LabelText {
 struct LabelItem {
   LabelKind kind = LabelKind::flag;
   uint8_t digits = 0;            // numbers: least digits of the value
-  uint8_t text_count = 0;        // numbers
+  uint32_t text_count = 0;       // numbers
   LabelField field = {};         // the field, or the upper half of a MAC address
   LabelField lower = {};         // the lower half of a MAC address
   uint32_t bits = 0;             // flags: the bit that counts; numbers: see texts

@@ -2,6 +2,7 @@
 // constant that is copied whole; the digits are written over it, unrolled per record.
 #pragma once
 
+#include <initializer_list>
 #include <utility>
 
 #include "read_entry.hpp"
@@ -27,7 +28,7 @@ inline void put_member(const uint8_t *record, char *out) {
 template <class T, size_t... I>
 inline void put_members([[maybe_unused]] const uint8_t *record, [[maybe_unused]] char *out,
                         std::index_sequence<I...>) {
-  (put_member<T::Shape::members[I]>(record, out + T::digits_at[I]), ...);
+  PD_FOR_EACH(put_member<T::Shape::members[I]>(record, out + T::digits_at[I]));
 }
 
 }  // namespace detail
@@ -47,7 +48,9 @@ struct ActionTexts {
   static constexpr ValueWriter writers[] = {write_value<Text>..., nullptr};
   static constexpr size_t largest_record = [] {
     size_t largest = 0;
-    ((largest = Text::Shape::size > largest ? Text::Shape::size : largest), ...);
+    for (const size_t size : {Text::Shape::size..., size_t{0}}) {
+      largest = size > largest ? size : largest;
+    }
     return largest;
   }();
 };

@@ -59,44 +59,6 @@ TEST(Comparison, MatchSpecsDifferExactlyWhereTheirKeysDo) {
   EXPECT_GT(flips, 4000u);
 }
 
-// The numbers of a value string, each under its key mask: wide ones are written whole.
-std::vector<std::array<uint8_t, 16>> key_of(const Spec &spec, const std::vector<Literal> &schema) {
-  const auto text = read_literal(value(spec, "match_spec_value"));
-  std::vector<std::array<uint8_t, 16>> numbers;
-  for (size_t i = 0; i < schema.size(); ++i) {
-    numbers.push_back((*text)[0][i].bytes());
-    const std::array<uint8_t, 16> mask = schema[i][3].bytes();
-    for (size_t byte = 0; byte < 16; ++byte) numbers.back()[byte] &= mask[byte];
-  }
-  return numbers;
-}
-
-TEST(Comparison, RandomMatchSpecsAgreeWithTheirValues) {
-  std::mt19937 random(4);
-  size_t answers[2] = {0, 0};
-  for (const Record &table : tables()) {
-    if (table.member_count == 0) continue;
-    const std::vector<Literal> schema = schema_fields(table.name);
-    for (int round = 0; round < 40; ++round) {
-      Spec a(table);
-      a.fill(random);
-      Spec b(table);
-      b.fill(random);
-      // Records that share most bits, so that both answers come up.
-      for (const Member &member : table.member_list()) {
-        std::memcpy(b.at(member), a.at(member), member.storage);
-      }
-      const Member &member = table.members[random() % table.member_count];
-      b.at(member)[random() % member.storage] ^= static_cast<uint8_t>(1u << random() % 8);
-      EXPECT_EQ(equal(a, b), key_of(a, schema) == key_of(b, schema))
-          << table.name << " " << member.name;
-      ++answers[equal(a, b)];
-    }
-  }
-  EXPECT_GT(answers[0], 100u);
-  EXPECT_GT(answers[1], 100u);
-}
-
 TEST(Comparison, ActionSpecsDifferInTheBitsOfTheirWidths) {
   std::mt19937 random(5);
   ASSERT_EQ(exports_of("action_specs_are_equal").size(), 103u);

@@ -264,17 +264,6 @@ TEST_F(DeviceState, ALogWithoutMemoryIsShorter) {
 
 // ---- At size, and by replay ----
 
-TEST_F(DeviceState, TenThousandMembersComeBack) {
-  fill(kDevice, 2500, 125);  // of each profile
-  const std::string full = state_text();
-  EXPECT_GT(full.size(), 10000u * 20);
-  const Json document = log_device();
-  forget();
-  EXPECT_LT(state_text().size(), 1000u);
-  restore(document.get());
-  EXPECT_EQ(state_text(), full);
-}
-
 TEST_F(DeviceState, AReplayRebuildsTheSameState) {
   const Device virtual_device(9, true);
   fill(9, 2500, 125);

@@ -8,7 +8,6 @@ using namespace stateful_test;
 
 class Digests : public StatefulTest {};
 
-constexpr uint32_t kFlow = 0x21000003;
 constexpr uint32_t kMac = 0x21000011;
 
 struct Heard {
@@ -23,41 +22,6 @@ bf_status_t hear(p4_pd_session_handle_t session, pipe_mgr_digest_message_t *mess
   heard.session = session;
   ++heard.messages;
   return BF_SUCCESS;
-}
-
-TEST_F(Digests, EachNamesItsHandle) {
-  const struct {
-    const char *digest;
-    uint32_t handle;
-  } rows[] = {{"flowLearningDigest", kFlow}, {"macLearningDigest", kMac}};
-  for (const auto &row : rows) {
-    SCOPED_TRACE(row.digest);
-    Heard heard;
-    EXPECT_EQ(call_export("digest_register", row.digest,
-                          {session, kDevice, reinterpret_cast<uintptr_t>(hear), word(&heard)}),
-              uint64_t{BF_SUCCESS});
-    const Call made = take_one();
-    EXPECT_EQ(made.function, "pipe_mgr_lrn_digest_notification_register");
-    expect_scalars(made, {{"session", session}, {"device", kDevice}, {"digest", row.handle}});
-    EXPECT_EQ(made.get<soft::journal::Opaque>("cookie").address, word(&heard));
-
-    EXPECT_EQ(call_export("digest_deregister", row.digest, {session, kDevice}),
-              uint64_t{BF_SUCCESS});
-    const Call ended = take_one();
-    EXPECT_EQ(ended.function, "pipe_mgr_lrn_digest_notification_deregister");
-    expect_scalars(ended, {{"session", session}, {"device", kDevice}, {"digest", row.handle}});
-
-    pipe_mgr_digest_message_t message = {};
-    EXPECT_NE(call_export("digest_notify_ack", row.digest, {session, word(&message)}),
-              uint64_t{BF_SUCCESS});
-    const Call acknowledged = take_one();
-    EXPECT_EQ(acknowledged.function, "pipe_mgr_flow_lrn_notify_ack");
-    expect_scalars(acknowledged, {{"session", session}, {"digest", row.handle}});
-    EXPECT_EQ(acknowledged.get<soft::journal::Opaque>("message").address, word(&message));
-  }
-  EXPECT_EQ(p4_pd_tessel_switch_macLearningDigest_notify_ack(session, nullptr),
-            uint32_t{P4_PD_NULL_ARGUMENT});
-  EXPECT_TRUE(take().empty());
 }
 
 TEST_F(Digests, GoFromTheDeviceToTheCallerAndBack) {

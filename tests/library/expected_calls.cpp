@@ -78,7 +78,9 @@ class Comparison {
   }
 
   void compare_value(const Value &given, const std::string &wanted) {
-    if (wanted == "local") {
+    if (wanted == "null") {
+      EXPECT_TRUE(std::holds_alternative<soft::journal::NullPointer>(given));
+    } else if (wanted == "local") {
       EXPECT_FALSE(std::holds_alternative<soft::journal::NullPointer>(given));
     } else if (wanted == "state") {
       compare_state(given);
@@ -255,11 +257,22 @@ class Comparison {
     return meter;
   }
 
+  // The first calculation is the one that scenes name.
+  const pdgen::Hash *hash() const {
+    return family().ends_with("_by_name")
+               ? &program().hashes.front()
+               : pdgen::find_row(program().hashes, scene_.exported().object);
+  }
+
   uint32_t resource_handle() const {
+    const char *object = scene_.exported().object;
+    if (hash() != nullptr) return hash()->handle;
     for (const auto *rows : {&program().counters, &program().meters, &program().registers}) {
-      if (const auto *row = pdgen::find_row(*rows, scene_.exported().object)) return row->handle;
+      if (const auto *row = pdgen::find_row(*rows, object)) return row->handle;
     }
-    return 0;
+    if (const auto *set = pdgen::find_row(program().value_sets, object)) return set->handle;
+    const auto *digest = pdgen::find_row(program().digests, object);
+    return digest == nullptr ? 0 : digest->handle;
   }
 
   uint32_t pair_handle() const {
@@ -278,6 +291,7 @@ class Comparison {
     if (wanted == "adt") return scene_.profile()->action_data_handle;
     if (wanted == "sel") return scene_.profile()->selector_handle;
     if (wanted == "resource") return resource_handle();
+    if (wanted == "field_list") return hash()->field_list_handle;
     if (wanted == "action") return pair_handle();
     if (wanted == "member_action") return scene_.member_action();
     if (wanted == "client") return bf_drv_hdl;

@@ -12,11 +12,13 @@ namespace pd_test {
 // What the exports of a family do when they succeed.
 //
 // calls: "function(argument, ...)", one or several with "; " between. An argument is
-//   4711, 0x100        this number
+//   4711               this number
 //   session, pipe ...  the parameter of that name, by value or by address; device_id and pipe_id
 //                      are those of the target; "ttl?" is 0 where the export has no such parameter
 //   table, adt, sel    the handle of the export's table, or of its profile's two objects
-//   resource, action   the handle of the meter or counter, and of the (table, action) pair
+//   resource, action   the handle of the counter, meter, register, calculation, digest or value
+//                      set, and of the (table, action) pair
+//   field_list         that of the calculation
 //   member_action      the action that is recorded for the scene's member or group
 //   match              the key of the scene's match spec
 //   add, modify, default, member_data
@@ -24,7 +26,7 @@ namespace pd_test {
 //   to_member, to_group
 //                      an action spec that points there
 //   out x              the caller's own pointer x; what the SDK writes must arrive there
-//   local              a variable of the library
+//   local, null        a variable of the library, none
 //   state              the member-selector state of the profile
 //   got x              what the out-parameter x holds after the call
 //   key_buffer, data_buffer, no_buffer

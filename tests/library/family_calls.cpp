@@ -207,6 +207,130 @@ const std::vector<FamilyCalls> &family_calls() {
        "pipe_mgr_meter_read_entry_idx(session, device_id, pipe_id, resource, index, local) | "
        "pipe_mgr_meter_read_entry(session, device_id, pipe_id, table, entry, local)"},
 
+      // Counters. The second way is that of a direct one.
+      {"counter_read", 11,
+       "pipe_mgr_stat_ent_database_sync(session, device_id, pipe_id, resource, index); "
+       "pipe_mgr_stat_ent_query(session, device_id, pipe_id, resource, index, local) | "
+       "pipe_mgr_direct_stat_ent_database_sync(session, device_id, pipe_id, table, entry); "
+       "pipe_mgr_mat_ent_direct_stat_query(session, device_id, table, entry, local)"},
+      {"counter_write", 11,
+       "pipe_mgr_stat_ent_set(session, device_id, pipe_id, resource, index, local) | "
+       "pipe_mgr_mat_ent_direct_stat_set(session, device_id, table, entry, local)"},
+      {"counter_hw_sync", 11,
+       "pipe_mgr_stat_database_sync(session, device_id, pipe_id, resource, callback, cookie) | "
+       "pipe_mgr_direct_stat_database_sync(session, device_id, pipe_id, table, callback, cookie)"},
+
+      // Registers. No register belongs to the entries of a table: the device refuses those.
+      {"register_read", 9,
+       "pipe_stful_query_get_sizes(session, device_id, resource, local); "
+       "pipe_stful_ent_query(session, device_id, pipe_id, resource, index, local, flags)"},
+      {"register_range_read", 9,
+       "pipe_stful_query_get_sizes(session, device_id, resource, local); "
+       "pipe_stful_ent_query_range(session, device_id, pipe_id, resource, first, index_count, "
+       "local, local, flags)"},
+      {"register_write", 9,
+       "pipe_stful_ent_set(session, device_id, pipe_id, resource, index, local, 0)"},
+      {"register_write_all", 9,
+       "pipe_stful_table_reset(session, device_id, pipe_id, resource, local)"},
+      {"register_reset_all", 9,
+       "pipe_stful_table_reset(session, device_id, pipe_id, resource, null)"},
+      {"register_range_reset", 9,
+       "pipe_stful_table_reset_range(session, device_id, pipe_id, resource, first, index_count, "
+       "null)"},
+      {"register_hw_sync", 9,
+       "pipe_stful_database_sync(session, device_id, pipe_id, resource, callback, cookie)"},
+      {"register_read_indirect", 1,
+       "pipe_stful_ent_query(session, device_id, pipe_id, reg, index, local, flags)"},
+      {"register_write_indirect", 1,
+       "pipe_stful_ent_set(session, device_id, pipe_id, reg, index, local, 0)"},
+      {"register_write_all_indirect", 1,
+       "pipe_stful_table_reset(session, device_id, pipe_id, reg, local)"},
+      {"register_reset_all_indirect", 1,
+       "pipe_stful_table_reset(session, device_id, pipe_id, reg, null)"},
+      {"register_range_reset_indirect", 1,
+       "pipe_stful_table_reset_range(session, device_id, pipe_id, reg, first, index_count, null)"},
+      {"register_hw_sync_indirect", 1,
+       "pipe_stful_database_sync(session, device_id, pipe_id, reg, callback, cookie)"},
+      {"register_read_direct", 1,
+       "pipe_stful_direct_ent_query(session, device_id, table, entry, local, flags)"},
+      {"register_write_direct", 1,
+       "pipe_mgr_mat_ent_set_resource(session, device, table, entry, local, 1, 0)"},
+      {"register_hw_sync_direct", 1,
+       "pipe_stful_direct_database_sync(session, device_id, pipe_id, table, callback, cookie)"},
+
+      // Hash calculations. The values of the scene are no bits wide.
+      {"hash_calc_input_set", 8,
+       "pipe_mgr_hash_calc_input_set(session, device, resource, field_list)"},
+      {"hash_calc_input_get", 8, "pipe_mgr_hash_calc_input_get(session, device, resource, local)"},
+      {"hash_calc_algorithm_set", 8,
+       "pipe_mgr_hash_calc_algorithm_set(session, device, resource, 587202565)"},
+      {"hash_calc_algorithm_get", 8,
+       "pipe_mgr_hash_calc_algorithm_get(session, device, resource, local)"},
+      {"hash_calc_seed_set", 8, "pipe_mgr_hash_calc_seed_set(session, device, resource, seed)"},
+      {"hash_calc_seed_get", 8, "pipe_mgr_hash_calc_seed_get(session, device, resource, local)"},
+      {"hash_calc_input_field_attribute_set", 8,
+       "pipe_mgr_hash_calc_input_field_attribute_set(session, device, resource, field_list, "
+       "attribute_count, local)"},
+      {"hash_calc_input_field_attribute_count_get", 8,
+       "pipe_mgr_hash_calc_input_get(session, device, resource, local); "
+       "pipe_mgr_hash_calc_input_field_attribute_count_get(session, device, resource, field_list, "
+       "local)"},
+      {"hash_calc_input_field_attribute_get", 8,
+       "pipe_mgr_hash_calc_input_get(session, device, resource, local); "
+       "pipe_mgr_hash_calc_input_field_attribute_get(session, device, resource, field_list, "
+       "max_count, local, local)"},
+      {"hash_calc_calculate_hash_value", 8,
+       "pipe_mgr_hash_calc_calculate_hash_value(session, device, resource, null, 0, local, "
+       "hash_length)"},
+      {"hash_calc_input_set_by_name", 1,
+       "pipe_mgr_hash_calc_input_set(session, device, resource, field_list)"},
+      {"hash_calc_input_field_attribute_set_by_name", 1,
+       "pipe_mgr_hash_calc_input_field_attribute_set(session, device, resource, field_list, "
+       "attribute_count, local)"},
+      {"hash_calc_input_field_attribute_count_get_by_name", 1,
+       "pipe_mgr_hash_calc_input_get(session, device, resource, local); "
+       "pipe_mgr_hash_calc_input_field_attribute_count_get(session, device, resource, field_list, "
+       "local)"},
+      {"hash_calc_input_field_attribute_get_by_name", 1,
+       "pipe_mgr_hash_calc_input_get(session, device, resource, local); "
+       "pipe_mgr_hash_calc_input_field_attribute_get(session, device, resource, field_list, "
+       "max_count, local, local)"},
+
+      // Digests, value sets and snapshots.
+      {"digest_register", 2,
+       "pipe_mgr_lrn_digest_notification_register(session, device, resource, callback, cookie)"},
+      {"digest_deregister", 2,
+       "pipe_mgr_lrn_digest_notification_deregister(session, device, resource)"},
+      {"digest_notify_ack", 2, "pipe_mgr_flow_lrn_notify_ack(session, resource, message)"},
+      {"set_learning_timeout", 1, "pipe_mgr_flow_lrn_set_timeout(session, device, timeout)"},
+      {"pvs_set_property", 2,
+       "pipe_mgr_pvs_set_property(session, device, resource, property, value, argument, 0)"},
+      {"pvs_get_property", 2,
+       "pipe_mgr_pvs_get_property(session, device, resource, property, local, argument, 0)"},
+      {"pvs_entry_add", 2,
+       "pipe_mgr_pvs_entry_add(session, 5, resource, 1, 2, 3, value, mask, local)"},
+      {"pvs_entry_modify", 2,
+       "pipe_mgr_pvs_entry_modify(session, device, resource, entry, value, mask)"},
+      {"pvs_entry_delete", 2, "pipe_mgr_pvs_entry_delete(session, device, resource, entry)"},
+      {"pvs_entry_get", 2,
+       "pipe_mgr_pvs_entry_get(session, device, resource, entry, local, local)"},
+      {"pvs_entry_handle_get", 2,
+       "pipe_mgr_pvs_entry_handle_get(session, 5, resource, 1, 2, 3, value, mask, local)"},
+      {"pvs_entry_get_first_entry_handle", 2,
+       "pipe_mgr_pvs_entry_get_first(session, 5, resource, 1, 2, 3, local)"},
+      {"pvs_entry_get_next_entry_handles", 2,
+       "pipe_mgr_pvs_entry_get_next(session, 5, resource, 1, 2, 3, entry, count, local)"},
+      {"pvs_entry_get_count", 2,
+       "pipe_mgr_pvs_entry_get_count(session, 5, resource, 1, 2, 3, read_from_hardware, local)"},
+      {"snapshot_create", 1,
+       "bf_snapshot_create(device, pipe, first_stage, last_stage, direction, local)"},
+      {"snapshot_delete", 1, "bf_snapshot_delete(snapshot)"},
+      {"snapshot_capture_trigger_set", 1,
+       "bf_snapshot_capture_trigger_set(snapshot, local, local)"},
+      {"snapshot_capture_data_get", 1,
+       "bf_snapshot_capture_phv_fields_dict_size(snapshot, local, local); "
+       "bf_snapshot_capture_get(snapshot, pipe, local, local, local)"},
+
       // Placement data.
       {"get_entry_from_plcmt_data", 116,
        "pipe_mgr_plcmt_mat_data_get_entry(placement, local, local, local)"},
@@ -235,6 +359,7 @@ bool hands_on(const FamilyCalls &row, std::string_view parameter) {
   const std::string_view calls = row.calls;
   return calls.find("out " + std::string(parameter)) != std::string_view::npos ||
          (parameter == "hash" && calls.find("hash,") != std::string_view::npos) ||
+         (parameter == "callback" && calls.find("callback") != std::string_view::npos) ||
          (parameter == "placement" && calls.find("(placement") != std::string_view::npos);
 }
 

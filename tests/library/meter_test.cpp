@@ -145,5 +145,105 @@ TEST_F(Meter, PassesWredProfilesOnAsTheyAre) {
   EXPECT_EQ(spec.max_probability, 0.75f);
 }
 
+// ---- The meter that travels with an entry ----
+
+class StormControl : public LibraryTest {
+ protected:
+  // The action spec that the only call of body carries: no data, and one resource.
+  template <class Body>
+  static soft::journal::ActionSpec sent(Body &&body, const std::string &resource) {
+    p4_pd_status_t status = BF_HARDWARE_FAULT;
+    const Call call = only_call([&] { status = body(); });
+    EXPECT_EQ(status, BF_SUCCESS);
+    const auto spec = call.get<soft::journal::ActionSpec>("action_spec");
+    EXPECT_EQ(spec.data.byte_count, 0u);
+    EXPECT_EQ(resources_of(spec), resource);
+    return spec;
+  }
+  p4_pd_status_t add(const p4_pd_bytes_meter_spec_t *meter) {
+    return PD(l2LookupMiss_table_add_with_l2LookupBcastHit)(session(), kTarget, &key_, 4, meter,
+                                                            &entry_);
+  }
+  static void expect_meter(const soft::journal::ActionSpec &spec, uint64_t committed_rate) {
+    const pipe_mgr_meter_spec_t &meter = spec.resources.at(0).data.meter;
+    EXPECT_EQ(meter.type, 1u);
+    EXPECT_EQ(meter.committed_rate.unit, 0u);
+    EXPECT_EQ(meter.committed_rate.value, committed_rate);
+    EXPECT_EQ(meter.committed_burst, 2000u);
+    EXPECT_EQ(meter.peak_rate.unit, 0u);
+    EXPECT_EQ(meter.peak_rate.value, 3000u);
+    EXPECT_EQ(meter.peak_burst, 0xffffffffu);
+  }
+
+  p4_pd_entry_handle_t entry_ = 0;
+  PD(l2LookupMiss_match_spec_t) key_ = {};
+  p4_pd_bytes_meter_spec_t meter_ = {1000, 2000, 3000, 0xffffffff, PD_METER_TYPE_COLOR_UNAWARE};
+};
+
+TEST_F(StormControl, AddNeedsTheSpec) {
+  const auto calls = recorded([&] { EXPECT_EQ(add(nullptr), P4_PD_METER_SPEC_MISSING); });
+  EXPECT_TRUE(calls.empty());
+  EXPECT_EQ(entry_, 0u);
+  expect_meter(sent([&] { return add(&meter_); }, "05000005:0:1"), 1000);
+}
+
+TEST_F(StormControl, ModifyWithoutSpecKeepsTheMeter) {
+  ASSERT_EQ(add(&meter_), BF_SUCCESS);
+  const auto kept = sent(
+      [&] {
+        return PD(l2LookupMiss_table_modify_with_l2LookupUnknownUcastAction)(session(), kDevice,
+                                                                             entry_, nullptr);
+      },
+      "05000005:0:0");
+  EXPECT_EQ(kept.resources.at(0).data.meter.committed_rate.value, 0u);
+  p4_pd_bytes_meter_spec_t read = {};
+  EXPECT_EQ(PD(meter_read_stormControlMeter)(session(), kTarget, entry_, &read), BF_SUCCESS);
+  EXPECT_EQ(read.committed_rate, 1000u);
+
+  meter_.committed_rate = 0xfffffff0;
+  const auto changed = sent(
+      [&] {
+        return PD(l2LookupMiss_table_modify_with_l2LookupBcastHit_by_match_spec)(session(), kTarget,
+                                                                                 &key_, 4, &meter_);
+      },
+      "05000005:0:1");
+  expect_meter(changed, 0xfffffff0);
+}
+
+TEST_F(StormControl, TheDefaultEntryLetsGoOfItWithoutSpec) {
+  sent(
+      [&] {
+        return PD(l2LookupMiss_set_default_action_l2LookupBcastHit)(session(), kTarget, nullptr,
+                                                                    &entry_);
+      },
+      "05000005:0:2");
+  const auto spec = sent(
+      [&] {
+        return PD(l2LookupMiss_set_default_action_l2LookupUnknownMcastAction)(session(), kTarget,
+                                                                              &meter_, &entry_);
+      },
+      "05000005:0:1");
+  expect_meter(spec, 1000);
+}
+
+TEST_F(StormControl, RefusesAMeterThatLooksAtColours) {
+  ASSERT_EQ(add(&meter_), BF_SUCCESS);
+  for (const uint32_t type : {0u, 2u, 0xffffffffu}) {
+    meter_.meter_type = type;
+    const auto calls = recorded([&] {
+      EXPECT_EQ(add(&meter_), P4_PD_METER_TYPE_REFUSED);
+      EXPECT_EQ(
+          PD(l2LookupMiss_table_modify_with_l2LookupBcastHit)(session(), kDevice, entry_, &meter_),
+          P4_PD_METER_TYPE_REFUSED);
+      EXPECT_EQ(PD(l2LookupMiss_set_default_action_l2LookupBcastHit)(session(), kTarget, &meter_,
+                                                                     &entry_),
+                P4_PD_METER_TYPE_REFUSED);
+      EXPECT_EQ(PD(meter_set_stormControlMeter)(session(), kTarget, entry_, &meter_),
+                P4_PD_METER_TYPE_REFUSED);
+    });
+    EXPECT_TRUE(calls.empty()) << type;
+  }
+}
+
 }  // namespace
 }  // namespace pd_test

@@ -136,6 +136,8 @@ TEST_F(PlacementText, EntriesWithoutAKey) {
   EXPECT_EQ(print(PD(vlanDecap_plcmt_data_print), 3, decap),
             "   p4_pd_tessel_switch_vlanDecap:\n"
             "   p4_pd_tessel_switch_removeVlanHdr:\n");
+  // A line longer than an int can tell is not begun.
+  EXPECT_EQ(print(PD(vlanDecap_plcmt_data_print), INT_MAX, decap), "");
   ASSERT_EQ(PD(egrStpCheck_table_get_default_entry_handle)(session(), kTarget, &entry), BF_SUCCESS);
   no_key = false;
   std::memset(&specs, 0xee, sizeof specs);

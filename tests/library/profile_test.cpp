@@ -24,7 +24,6 @@ namespace pd_test {
 namespace {
 
 constexpr uint32_t kSetLagPort = 0x200001be;
-constexpr uint32_t kSetPhysicalPort = 0x200001c1;
 constexpr uint32_t kSetTunnelInfo = 0x200001c4;
 
 class LagProfile : public LibraryTest {
@@ -162,16 +161,6 @@ TEST_F(LagProfile, AGroupHasTheActionOfItsLastMember) {
   EXPECT_EQ(calls.at(1).scalar("action"), kSetLagPort);
 }
 
-TEST_F(LagProfile, ARefusedMemberIsNotRecorded) {
-  const p4_pd_group_handle_t group = create_group(1);
-  const p4_pd_member_handle_t first = add_lag_port();
-  const p4_pd_member_handle_t second = add_tunnel();
-  ASSERT_EQ(join(group, first), BF_SUCCESS);
-  EXPECT_EQ(join(group, second), BF_TABLE_FULL);
-  const auto calls = recorded([&] { EXPECT_EQ(add_entry_of_group(group), BF_SUCCESS); });
-  EXPECT_EQ(calls.at(1).scalar("action"), kSetLagPort);
-}
-
 TEST_F(LagProfile, MemberStates) {
   const p4_pd_group_handle_t group = create_group();
   const p4_pd_member_handle_t member = add_lag_port();
@@ -257,67 +246,6 @@ TEST_F(LagProfile, DefaultEntriesPointAtMembersAndGroups) {
   EXPECT_TRUE(no_key);
   EXPECT_EQ(key.egrMd_egrL2AintfUnresolved, 1u);
   EXPECT_EQ(priority, 0u);
-}
-
-TEST_F(LagProfile, TheHashChoosesAmongActiveMembers) {
-  const p4_pd_group_handle_t group = create_group();
-  const p4_pd_member_handle_t first = add_lag_port(1);
-  const p4_pd_member_handle_t second = add_lag_port(2);
-  ASSERT_EQ(join(group, first), BF_SUCCESS);
-  ASSERT_EQ(join(group, second), BF_SUCCESS);
-  const auto choose = [&](uint8_t low) {
-    const uint8_t hash[2] = {0, low};
-    p4_pd_member_handle_t member = 0;
-    EXPECT_EQ(PD(lagPortActionProfile_group_member_get_from_hash)(session(), kDevice, group, hash,
-                                                                  2, &member),
-              BF_SUCCESS);
-    return member;
-  };
-  EXPECT_NE(choose(0), choose(1));
-  ASSERT_EQ(PD(lagPortActionProfile_group_member_state_set)(session(), kDevice, group, first,
-                                                            P4_PD_GRP_MBR_STATE_INACTIVE),
-            BF_SUCCESS);
-  EXPECT_EQ(choose(0), second);
-  EXPECT_EQ(choose(1), second);
-}
-
-// ---- Callbacks ----
-
-struct Told {
-  uint32_t session;
-  uint32_t update;
-  uint32_t group;
-  uint32_t member;
-};
-
-TEST_F(LagProfile, ListenersHearOfChanges) {
-  std::vector<Told> groups;
-  std::vector<Told> members;
-  const auto hear_group = [](pipe_session_handle_t session, bf_device_id_t, pipe_object_handle_t,
-                             uint32_t update, pipe_group_handle_t group,
-                             pipe_member_handle_t member, void *cookie) {
-    static_cast<std::vector<Told> *>(cookie)->push_back({session, update, group, member});
-  };
-  const auto hear_member = [](pipe_session_handle_t session, bf_device_id_t, pipe_object_handle_t,
-                              uint32_t update, pipe_member_handle_t member, void *cookie) {
-    static_cast<std::vector<Told> *>(cookie)->push_back({session, update, 0, member});
-  };
-  ASSERT_EQ(PD(lagPortActionProfile_sel_track_updates)(kDevice, hear_group, &groups), BF_SUCCESS);
-  ASSERT_EQ(
-      PD(lagPortActionProfile_register_adt_update_cb)(session(), kDevice, hear_member, &members),
-      BF_SUCCESS);
-  const p4_pd_group_handle_t group = create_group();
-  const p4_pd_member_handle_t member = add_lag_port();
-  ASSERT_EQ(join(group, member), BF_SUCCESS);
-  ASSERT_EQ(groups.size(), 2u);
-  EXPECT_EQ(groups[0].update, uint32_t{PIPE_UPDATE_GROUP_CREATE});
-  EXPECT_EQ(groups[1].update, uint32_t{PIPE_UPDATE_MEMBER_JOIN});
-  EXPECT_EQ(groups[1].group, group);
-  EXPECT_EQ(groups[1].member, member);
-  EXPECT_EQ(groups[1].session, session());
-  ASSERT_EQ(members.size(), 1u);
-  EXPECT_EQ(members[0].update, uint32_t{PIPE_UPDATE_ADD});
-  EXPECT_EQ(members[0].member, member);
 }
 
 }  // namespace

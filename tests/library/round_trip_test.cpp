@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "oracle.hpp"
+#include "text_fixture.hpp"
 
 namespace pd_test {
 namespace {
@@ -91,10 +92,31 @@ class EntryRoundTrip : public RoundTrip {
     expect_action(*pair.action, action_image(pair, pdgen::Operation::kAdd, spec.data(), &meter),
                   read.action, read.action_spec.data());
 
+    expect_value(table, *pair.action, entry, read);
+
     Arguments del(*find_export("table_delete", table.name));
     EXPECT_EQ(del.set("entry", uint64_t{entry}).status(), BF_SUCCESS);
     EXPECT_EQ(entry_count(table), 0u);
     EXPECT_EQ(del.status(), BF_OBJECT_NOT_FOUND);
+  }
+
+  // The value of an entry is made of the values of its parts.
+  static void expect_value(const pdgen::Table &table, const pdgen::Action &action, uint32_t entry,
+                           const ReadEntry &read) {
+    const auto text = [](Arguments call, const char *record, const Bytes &bytes) {
+      TextBuffer buffer(P4_PD_TESSEL_SWITCH_VALUE_MAX);
+      if (call.takes(record)) call.set(record, bytes.data());
+      return buffer.text(call.set("buffer", buffer.data()).call());
+    };
+    Arguments whole(*find_export("table_value", table.name));
+    whole.set("entry", uint64_t{entry}).set("read_from_hardware", uint64_t{0});
+    const std::string priority =
+        std::to_string(table.has_priority() ? static_cast<int32_t>(read.priority) : 0);
+    const std::string key = text(Arguments(*find_export("match_spec_value", table.name)),
+                                 "match_spec", read.match_spec);
+    const std::string value =
+        text(Arguments(*find_export("action_value", action.name)), "action_spec", read.action_spec);
+    EXPECT_EQ(text(whole, "", {}), "((" + key + value + "),(" + priority + ",True))");
   }
 };
 

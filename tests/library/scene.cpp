@@ -319,12 +319,12 @@ void Scene::take_placement(uint32_t needs) {
 // ---- Stateful services ----
 
 void Scene::add_value_entries() {
-  for (uint32_t value = 1; value <= 2; ++value) {
+  for (uint64_t value = 21; value <= 22; ++value) {
     uint32_t entry = 0;
     Arguments add(*find_export("pvs_entry_add", exported_.object));
-    add.set("value", uint64_t{value}).set("mask", uint64_t{1}).set("entry", &entry);
+    add.set("value", value).set("mask", uint64_t{23}).set("entry", &entry);
     expect_done(add.set("target", &kSceneParser));
-    if (value == 1) entry_ = entry;
+    if (value == 21) entry_ = entry;
   }
 }
 

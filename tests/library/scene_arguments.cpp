@@ -15,7 +15,7 @@ struct NamedValue {
   uint64_t value;
 };
 constexpr NamedValue kValues[] = {
-    {"value", 1},
+    {"value", 21},
     {"argument", 0},
     {"count", 2},
     {"max_size", 8},
@@ -35,9 +35,9 @@ constexpr NamedValue kValues[] = {
     {"attribute_count", 1},
     {"max_count", 2},
     {"reg", 0x06000005},
-    {"first", 2},
+    {"first", 4},
     {"index_count", 2},
-    {"mask", 1},
+    {"mask", 23},
     {"first_stage", 1},
     {"last_stage", 2},
     {"direction", 0},

@@ -90,6 +90,10 @@ Function *soft_function(Function *, const char *name) {
   return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
 }
 
+// While on, a range read of a register leaves the records behind the last cell that it read as they
+// were given.
+extern bool leaves_unread_records;
+
 // ---- Exports by family and object ----
 
 template <class Visit>

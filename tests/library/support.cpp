@@ -5,8 +5,23 @@
 #include <algorithm>
 #include <cstring>
 
-#include "pdgen/load.hpp"
+#include "bf_sys.h"
+#include "pdgen/load/load.hpp"
 #include "soft_traffic.h"
+#include "stateful_fixture.hpp"
+
+namespace {
+
+pd_test::Frees frees_seen;
+
+}  // namespace
+
+extern "C" void bf_sys_free(void *memory) {
+  static auto *const free_memory = stateful_test::soft_function(bf_sys_free, "bf_sys_free");
+  ++frees_seen.made;
+  if (memory == nullptr) ++frees_seen.of_nothing;
+  free_memory(memory);
+}
 
 namespace pd_test {
 
@@ -49,11 +64,11 @@ const bindings::Record &record_named(const bindings::Record *records, size_t cou
 }  // namespace
 
 const bindings::Record &record_of(const pdgen::Table &table) {
-  return record_named(bindings::binding.tables, bindings::binding.table_count, table.name);
+  return record_named(bindings::binding.tables.rows, bindings::binding.tables.count, table.name);
 }
 
 const bindings::Record &record_of(const pdgen::Action &action) {
-  return record_named(bindings::binding.actions, bindings::binding.action_count, action.name);
+  return record_named(bindings::binding.actions.rows, bindings::binding.actions.count, action.name);
 }
 
 // ---- The exports ----
@@ -110,6 +125,7 @@ class Process : public testing::Environment {
     ASSERT_EQ(first.status, BF_SUCCESS);
   }
   void TearDown() override {
+    EXPECT_EQ(frees().of_nothing, 0u) << "the library frees what it has allocated";
     EXPECT_EQ(p4_pd_tessel_switch_cleanup(), BF_SUCCESS);
     EXPECT_EQ(soft_session_close(open_session), BF_SUCCESS);
     EXPECT_EQ(soft_allocations_live(), 0u);
@@ -123,6 +139,8 @@ testing::Environment *const process = testing::AddGlobalTestEnvironment(new Proc
 p4_pd_session_handle_t session() { return open_session; }
 
 const FirstInit &first_init() { return first; }
+
+const Frees &frees() { return frees_seen; }
 
 Device::Device(bf_device_id_t id, bool is_virtual, const soft_program_t &description) : id_(id) {
   EXPECT_EQ(soft_device_create(id, kPipes, &description, is_virtual), BF_SUCCESS);

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <cstdint>
 #include <deque>
 #include <map>
@@ -71,6 +72,13 @@ struct FirstInit {
   std::vector<Call> calls;
 };
 const FirstInit &first_init();
+
+// Calls of the SDK's allocator that give memory back, and those among them that give back none.
+struct Frees {
+  std::atomic<uint64_t> made;
+  std::atomic<uint64_t> of_nothing;
+};
+const Frees &frees();
 
 // A device that runs the program, for as long as the object lives.
 class Device {

@@ -8,6 +8,7 @@
 #include <cstring>
 #include <initializer_list>
 #include <random>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -36,10 +37,10 @@ inline std::string constant_text(const std::string &family, const std::string &o
 }
 
 inline std::span<const Record> tables() {
-  return {bindings::binding.tables, bindings::binding.table_count};
+  return {bindings::binding.tables.rows, bindings::binding.tables.count};
 }
 inline std::span<const Record> actions() {
-  return {bindings::binding.actions, bindings::binding.action_count};
+  return {bindings::binding.actions.rows, bindings::binding.actions.count};
 }
 inline const Record &record_of(std::span<const Record> records, std::string_view name) {
   for (const Record &record : records) {
@@ -57,6 +58,20 @@ class Spec {
   explicit Spec(const Record &record) : record_(record), bytes_(record.size + 1) {}
   Spec(std::string_view table, Values values) : Spec(record_of(tables(), table)) {
     for (const auto &[name, value] : values) set(member(name), value);
+  }
+
+  // "name=number name=number ..."; the 16 bytes of a wide member as 32 digits.
+  Spec(const Record &record, std::string_view members) : Spec(record) {
+    std::istringstream words{std::string(members)};
+    for (std::string text; words >> text;) {
+      const size_t equals = text.find('=');
+      const Member &named = member(std::string_view(text).substr(0, equals));
+      const std::string number = text.substr(equals + 1);
+      for (size_t i = 0; named.storage == 16 && i < 16; ++i) {
+        at(named)[i] = static_cast<uint8_t>(std::stoul(number.substr(2 * i, 2), nullptr, 16));
+      }
+      if (named.storage != 16) set(named, static_cast<uint32_t>(std::stoul(number, nullptr, 0)));
+    }
   }
 
   const Member &member(std::string_view name) const {

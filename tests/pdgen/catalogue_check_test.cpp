@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "pdgen/check.hpp"
-#include "pdgen/load.hpp"
+#include "pdgen/check/check.hpp"
+#include "pdgen/load/load.hpp"
 
 namespace pdgen {
 namespace {
@@ -17,7 +17,7 @@ const std::string kSourceDir = PDGEN_SOURCE_DIR;
 // The files of the tiny catalogue, under the directory name "tiny".
 std::vector<CatalogueFile> tiny_files() {
   Diagnostics diagnostics;
-  auto files = read_catalogue(kSourceDir + "/tests/pdgen/fixtures/tiny", diagnostics);
+  auto files = read_files(kSourceDir + "/tests/pdgen/fixtures/tiny", ".toml", diagnostics);
   EXPECT_EQ(diagnostics.text(), "");
   for (CatalogueFile &file : files) {
     file.path = "tiny" + file.path.substr(file.path.rfind('/'));
@@ -57,7 +57,7 @@ struct Slip {
   const char *name;
   const char *file;
   const char *before;
-  const char *after;
+  std::string after;
   // Text of the edited file on the line that the fault must name; "file: text" if it is another
   // file's.
   const char *at;
@@ -118,14 +118,29 @@ INSTANTIATE_TEST_SUITE_P(
              "table.resources.actions: resource flowRate of table flows has a whole number here, "
              "which must be a string"},
         Slip{"NegativeNumber", "digests.toml", "offset = 0", "offset = -1", "offset = -1",
-             "digest.fields.offset: -1 of field eth_src of digest arrival must be from 0 to "
-             "4294967295"},
+             "digest.fields.offset: -1 of field eth_src of digest arrival must be from 0 to 65535"},
         Slip{"BadIdentifier", "actions.toml", "name = \"mark\"", "name = \"2nd-mark\"", "2nd-mark",
              "actions.params.name: \"2nd-mark\" is no identifier: a letter or '_', then letters, "
-             "digits and '_'; no keyword"},
-        Slip{"Keyword", "actions.toml", "name = \"mark\"", "name = \"int\"", "\"int\"",
-             "actions.params.name: \"int\" is no identifier: a letter or '_', then letters, "
-             "digits and '_'; no keyword"},
+             "digits and '_'; no word of C or C++"},
+        Slip{"MacroOfTheContract", "actions.toml", "name = \"mark\"", "name = \"BF_ALL_PIPES\"",
+             "BF_ALL_PIPES",
+             "actions.params.name: \"BF_ALL_PIPES\" is no identifier: a letter or '_', then "
+             "letters, "
+             "digits and '_'; no word of C or C++"},
+        Slip{"KeywordOfCpp20", "actions.toml", "name = \"mark\"", "name = \"requires\"", "requires",
+             "actions.params.name: \"requires\" is no identifier: a letter or '_', then letters, "
+             "digits and '_'; no word of C or C++"},
+        Slip{"PredefinedMacro", "tables.toml", "field = \"meta_slice\"", "field = \"linux\"",
+             "linux",
+             "table.key.field: \"linux\" is no identifier: a letter or '_', then letters, digits "
+             "and "
+             "'_'; no word of C or C++"},
+        Slip{"MacroOfIntegerTypes", "snapshots.toml", "name = \"slice\"", "name = \"INT8_MAX\"",
+             "INT8_MAX",
+             "layout.fields.name: \"INT8_MAX\" is no identifier: a letter or '_', then letters, "
+             "digits and '_'; no word of C or C++"},
+        Slip{"NoRows", "value_sets.toml", "{ name = \"trunk_ports\", handle = 0x101 },", "",
+             "value_sets = [", "value_sets: value_sets.toml lists nothing here"},
         Slip{"NarrowIndex", "actions.toml", "\"rateCell\", width = 32", "\"rateCell\", width = 16",
              "\"rateCell\", width = 16",
              "actions.params.width: parameter rateCell names a cell, so it has 32 bits, not 16"},
@@ -140,8 +155,8 @@ INSTANTIATE_TEST_SUITE_P(
         Slip{"TableTwice", "tables.toml", "name = \"seen\"", "name = \"portMap\"",
              "name = \"portMap\"\nhandle = 0x0100000b",
              "table.name: the name portMap is taken at tiny/tables.toml:5"},
-        Slip{"FieldTwice", "tables.toml", "meta_slice", "eth_dstOui",
-             "{ field = \"eth_dstOui\", width = 3 }",
+        Slip{"FieldTwice", "tables.toml", "\"meta_slice\", width = 3", "\"eth_dstOui\", width = 24",
+             "\"eth_dstOui\", width = 24 }",
              "table.key.field: the name eth_dstOui is taken at tiny/tables.toml:104"},
         Slip{"ActionTwiceInTable", "tables.toml", "\"pass\",   handle = 0x20000002",
              "\"sendTo\", handle = 0x20000002", "0x20000002",
@@ -172,6 +187,9 @@ INSTANTIATE_TEST_SUITE_P(
         Slip{"FieldNamedAsMask", "tables.toml", "meta_slice", "eth_dstOui_mask", "eth_dstOui_mask",
              "table.key.field: field eth_dstOui_mask of table flood and field eth_dstOui of table "
              "flood at tiny/tables.toml:104 make the same record member eth_dstOui_mask"},
+        Slip{"FieldShownAsAnother", "tables.toml", "l3_vrf", "ip4__dst", "\"ip4_dst\", width",
+             "table.key.field: field ip4_dst of table fib4 and field ip4__dst of table fib4 at "
+             "tiny/tables.toml:45 make the same tool name ip4Dst"},
         Slip{"FieldNamedAsHeader", "tables.toml", "{ field = \"l3_vrf\",  width = 8 }",
              "{ field = \"l3\",  width = 8 }, { field = \"l3_valid\",  width = 1 }", "l3_valid",
              "table.key.field: field l3_valid of table fib4 and field l3 of table fib4 at "
@@ -180,9 +198,8 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     References, CatalogueSlip,
     testing::Values(
-        Slip{"ActionOfTable", "tables.toml", "\"setHop\", handle = 0x20000008",
-             "\"setHopp\", handle = 0x20000008", "setHopp",
-             "table.actions.action: table fib6 names setHopp, which is no action"},
+        Slip{"ActionOfTable", "tables.toml", "\"setRouter\", handle", "\"setRoute\", handle",
+             "setRoute", "table.actions.action: table hops names setRoute, which is no action"},
         Slip{"ActionOfProfile", "profiles.toml", "setMember", "setMembers", "setMembers",
              "profile.actions.action: profile pathMembers names setMembers, which is no action"},
         Slip{"Profile", "tables.toml", "profile = \"pathMembers\"", "profile = \"paths\"",
@@ -212,7 +229,9 @@ INSTANTIATE_TEST_SUITE_P(
              "actions.params.hint: \"vlan\" of parameter egress of action setMember must be one "
              "of mac, v4addr, vport"},
         Slip{"FieldOfHint", "fields.toml", "\"ip4_dst\"", "\"ip4_dest\"", "ip4_dest",
-             "hints.fields: ip4_dest is no key field of any table"}));
+             "hints.fields: ip4_dest is no key field of any table"},
+        Slip{"TableOfRoutes", "program.toml", "\"fib6\"", "\"fib5\"", "fib5",
+             "routes.tables: routes names fib5, which is no table"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Keys, CatalogueSlip,
@@ -370,6 +389,58 @@ INSTANTIATE_TEST_SUITE_P(
         Slip{"MeterUnit", "stateful.toml", "unit = \"packets\"", "unit = \"frames\"", "frames",
              "meters.unit: \"frames\" of meter sampleRate must be one of bytes, packets"}));
 
+// Rows of `count` members of 32 bits.
+std::string members(const char *key, int count) {
+  std::string rows;
+  for (int i = 0; i < count; ++i) {
+    rows += "{ " + std::string(key) + " = \"x" + std::to_string(i) + "\", width = 32 }, ";
+  }
+  return rows;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Limits, CatalogueSlip,
+    testing::Values(
+        Slip{"ActionData", "actions.toml", "\"discard\",   value = 1",
+             "\"discard\", value = 1, params = [" + members("name", 1025) + "]", "discard",
+             "actions.params: the data of action discard has 4100 bytes; at most 4096 can be"},
+        Slip{"Key", "tables.toml", "{ field = \"meta_flowId\", width = 20 },",
+             members("field", 1025), "name = \"flows\"",
+             "table.key: the key of table flows has 4100 bytes; at most 4096 can be"},
+        Slip{"Cells", "actions.toml", "\"egress\", width = 9, hint = \"vport\"",
+             "\"egress\", width = 32, index_of = [\"flowCount\", \"flowRate\", \"sampleRate\"]",
+             "egress",
+             "actions.params.index_of: parameter egress of action setMember names cells of 3 "
+             "resources; at most 2 can be"},
+        Slip{"DigestSize", "digests.toml", "size = 9", "size = 65536", "size = 65536",
+             "digest.size: 65536 of digest arrival must be from 1 to 65535"},
+        Slip{"FieldOfTwoWidths", "tables.toml", "\"meta_slice\", width = 3",
+             "\"meta_layer4\", width = 3", "\"meta_layer4\", width = 3",
+             "table.key.width: field meta_layer4 of table flood has 3 bits, but 16 at "
+             "tiny/tables.toml:24"},
+        Slip{"HintOfOtherWidth", "fields.toml", "\"ip4_dst\"", "\"ip4_dst\", \"meta_slice\"",
+             "meta_slice",
+             "hints.hint: this hint goes with 32 bits, but field meta_slice of table flood has 3"},
+        Slip{"HintOfParameterOfOtherWidth", "actions.toml", "\"gateIp\", width = 32",
+             "\"gateIp\", width = 31", "gateIp",
+             "actions.params.hint: the hint of parameter gateIp of action setRouter goes with 32 "
+             "bits, not 31"},
+        Slip{"MissingPart", "snapshots.toml", "name = \"ip4_src\", bytes = 4",
+             "name = \"eth_src_1\", bytes = 2", "eth_src_1",
+             "layout.fields.name: eth_src_1 is a part of eth_src, whose part eth_src_0 is missing "
+             "in layout ingress"},
+        Slip{"PartBeyondWhole", "snapshots.toml", "name = \"ip4_src\", bytes = 4",
+             "name = \"eth_src_0\", bytes = 4 }, { name = \"eth_src_1\", bytes = 4", "eth_src_1",
+             "layout.fields.bytes: eth_src_1, 4 bytes of eth_src from byte 4, ends beyond it"},
+        Slip{"TextBeyondWidth", "labels.toml", "value = 0xfff", "value = 0x1000", "value = 0x1000",
+             "label.items.texts.value: 0x1000 of field tag_0__tagId of table filter is beyond its "
+             "12 bits"},
+        Slip{"LabelWithoutCounter", "stateful.toml", "0x04000001, table = \"filter\"", "0x04000001",
+             "labels.toml: table = \"filter\"",
+             "label.table: table filter has no counter of its entries, so nothing to label"},
+        Slip{"NameOfGeneratedCode", "hashes.toml", "\"flowHash\"", "\"names\"", "\"names\"",
+             "hashes.name: hash names has a name that the generated code uses itself"}));
+
 INSTANTIATE_TEST_SUITE_P(
     Texts, CatalogueSlip,
     testing::Values(
@@ -390,10 +461,6 @@ INSTANTIATE_TEST_SUITE_P(
              "kind = \"flag\", field = \"ig_intr_md_in_port\", label = \"Port\"", "Port",
              "label.items.field: field ig_intr_md_in_port of table filter: a flag needs a ternary "
              "field of at most 32 bits"},
-        Slip{"NumberOfExactField", "labels.toml", "kind = \"exact\"", "kind = \"number\"",
-             "in_port",
-             "label.items.field: field ig_intr_md_in_port of table filter: a number needs a "
-             "ternary field of at most 32 bits"},
         Slip{"ExactOfTernaryField", "labels.toml", "kind = \"number\", field = \"meta_layer4\"",
              "kind = \"exact\", field = \"meta_layer4\"", "meta_layer4",
              "label.items.field: field meta_layer4 of table filter: an exact number needs an "
@@ -414,6 +481,8 @@ INSTANTIATE_TEST_SUITE_P(
              "digits = 4",
              "label.items.texts_mask: item meta_layer4 of label filter has a texts_mask but no "
              "texts"},
+        Slip{"RoutesIntoAnotherTable", "program.toml", "\"fib6\"", "\"hops\"", "hops",
+             "routes.tables: hops must be a longest-prefix table with the action setHop"},
         Slip{"HintForNothing", "fields.toml", ", width = 128", "", "v6addr",
              "hints.hint: hint v6addr needs fields, suffixes or a width to go with"},
         Slip{"SnapshotFieldSize", "snapshots.toml", "name = \"ip4_src\", bytes = 4",
@@ -438,6 +507,7 @@ TEST(CatalogueFaults, AllAreReportedSortedByFileAndLine) {
   EXPECT_EQ(result.diagnostics.text(),
             "tiny/actions.toml:14: actions.value: action seenBit has the value 11, but the next "
             "free one is 9\n"
+            "tiny/program.toml:5: routes.tables: routes names fib6, which is no table\n"
             "tiny/stateful.toml:9: meters.unit: meter sampleRate lacks this key\n"
             "tiny/stateful.toml:9: meters.units: meter sampleRate has no such key\n"
             "tiny/tables.toml:17: table.handle: 0x2000002 of table filter must lie in 0x01000000 "
@@ -469,6 +539,15 @@ TEST(CatalogueFaults, NeededFilesMustBeThereAndOthersMustBeKnown) {
             kSourceDir +
                 "/no_such_directory:1: directory: this directory cannot be read: No such "
                 "file or directory\n");
+}
+
+TEST(CatalogueFaults, AProgramHasActionsAndTables) {
+  const std::vector<CatalogueFile> files = {{"a/program.toml", "name = \"none\""},
+                                            {"a/actions.toml", "actions = []"},
+                                            {"a/tables.toml", "table = []"}};
+  EXPECT_EQ(load_program(files).diagnostics.text(),
+            "a/actions.toml:1: actions: actions.toml lists nothing here\n"
+            "a/tables.toml:1: table: tables.toml lists nothing here\n");
 }
 
 TEST(CatalogueFaults, FilesOfObjectsThatAProgramLacksMayBeLeftOut) {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "pdgen/text.hpp"
-#include "pdgen/texts.hpp"
+#include "pdgen/texts/texts.hpp"
 
 namespace pdgen {
 namespace {

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Holds what tesselctl --json prints against its documented shape.
+"""Compares what tesselctl --json prints with its documented shape.
 
 usage: json_test.py TESSELCTL SCHEMA DOCUMENT SCRIPT
 
@@ -49,7 +49,66 @@ age advance 2000
 help
 help add
 watch 0.1 count=2 count ipv4ShortMaskLpm
+save before.image
+modify ipv4ShortMaskLpm vrfId=1 dip=0.0.0.0/0 action=setNextHop nextHop=9
+delete ipv6ShortMaskLpm vrfId=1 dip=2001:db8:20::/48
+default set egressMcRemap action=setL2DomainReplicated l2Domain=77
+default reset l2LookupMiss
+age disable ipv4ShortMaskLpm
+member modify ecmpMemberActionProfile member=1 action=setEcmpNextHop nextHop=9
+member add ecmpMemberActionProfile as=m action=setEcmpNextHop nextHop=5
+group join ecmpMemberActionProfile group=1 member=$m
+group disable ecmpMemberActionProfile group=1 member=$m
+group enable ecmpMemberActionProfile group=1 member=$m
+group choose ecmpMemberActionProfile group=1 hash=5
+group leave ecmpMemberActionProfile group=1 member=1
+group add ecmpMemberActionProfile size=4 as=g
+fallback set ecmpMemberActionProfile member=$m
+meter set pdpMeter index=4 cir=1 cbs=2 pir=3 pbs=4
+meter get pdpMeter index=4
+counter write pdpClassCount index=5 packets=1 bytes=64
+counter read pdpClassCount index=5
+counter sync pdpClassCount
+register write ingVlanCheckData index=3 value=1
+register write flowDigestCountReg value=7
+register read ingVlanCheckData index=3
+register sync ingVlanCheckData
+hash set hashOuterIpv4Hdr seed=7
+hash compute hashOuterIpv4Hdr 10.0.0.1/32 10.0.0.2/32 6/8 1/16 2/16
+valueset add recirc_ports value=0x40 mask=0xf0 as=v
+valueset modify recirc_ports entry=$v value=0x50
+valueset add recirc_ports value=0x60 as=w
+valueset delete recirc_ports entry=$w
+group add ecmpMemberActionProfile size=1 as=h
+group delete ecmpMemberActionProfile group=$h
+member add ecmpMemberActionProfile as=n action=setEcmpNextHop nextHop=6
+member delete ecmpMemberActionProfile member=$n
+save after.image
+diff before.image after.image
+apply before.image
+verify after.image
+register reset ingVlanCheckData
+fallback reset ecmpMemberActionProfile
+digest ignore macLearningDigest
+snapshot trigger snapshot=$s outerIpv4Hdr_dip=10.1.2.3
+snapshot delete snapshot=$s
+state log state.json
+state restore state.json
+report page.html before.image after.image
+show l2LookupMiss
 """
+# What the diff answers for items of each kind, as their own commands do.
+DIFF_ROWS = [
+    {"change": "-", "profile": "ecmpMemberActionProfile", "group": "#1", "size": 8,
+     "members": [1, 2]},
+    {"change": "+", "profile": "ecmpMemberActionProfile", "what": "fallback", "member": "#3"},
+    {"change": "+", "counter": "pdpClassCount", "index": 5, "pipe": 0, "packets": 1, "bytes": 64},
+    {"change": "+", "meter": "pdpMeter", "index": 4, "cir": 1, "cbs": 2, "pir": 3, "pbs": 4,
+     "type": "unaware"},
+    {"change": "+", "register": "ingVlanCheckData", "index": 3, "values": [1, 1, 1, 1]},
+    {"change": "+", "register": "flowDigestCountReg", "what": "all", "values": [7, 7, 7, 7]},
+    {"change": "+", "hash": "hashOuterIpv4Hdr", "seed": "0x7"},
+]
 # Each with the members of its error.
 FAULTS = {
     "cuont": {"column": 1, "token": "cuont", "message": "no command has this name",
@@ -136,7 +195,7 @@ def main():
     def lines_of(words, text):
         run = subprocess.run([tool, "--json", *words], input=text.encode("latin-1"),
                              capture_output=True)
-        assert run.stderr == b"", run.stderr
+        assert run.stderr in (b"", b"new image leaf.image\n"), run.stderr
         lines = [json.loads(line, object_pairs_hook=once) for line in run.stdout.splitlines()]
         for line in lines:
             wrong = wrong_with(line, schema, schema)
@@ -148,16 +207,32 @@ def main():
         code, lines = lines_of(["--image", "leaf.image", "run", script], "")
         assert code == 0 and len(lines) == 60 and all("error" not in line for line in lines)
         code, lines = lines_of(["--image", "leaf.image", "run", "-"], COMMANDS)
-        assert code == 0, [line for line in lines if "error" in line]
+        assert code == 2, [line for line in lines if "error" in line]  # for the diff
         assert len(lines) == 1 + len(COMMANDS.strip().splitlines())
         assert [line["rows"] for line in lines if "--count" in line["command"]] != [[]]
+        rows = [row for line in lines for row in line["rows"] if "change" in row]
+        assert all(row in rows for row in DIFF_ROWS), [row for row in DIFF_ROWS if row not in rows]
+        all_lines = lines
         code, lines = lines_of(["run", "-k", "-"], "".join(line + "\n" for line in FAULTS))
         assert code == 1 and len(lines) == len(FAULTS)
         for number, (line, want) in enumerate(zip(lines, FAULTS.values()), 1):
             assert line["error"]["line"] == number and line["error"]["file"] == "standard input"
             rest = {name: line["error"][name] for name in line["error"] if name not in ("file", "line")}
             assert want is None or rest == want, f"{rest} is not {want}"
+        check_every_command(all_lines + lines)
         check_examples(tool, document, schema)
+
+
+# Commands that answer nothing unless something is wrong, or that the rest of the tests run.
+UNSEEN = {"run", "serve", "shell", "routes", "quit", "exit"}
+
+
+def check_every_command(lines):
+    """Every command that help lists was run."""
+    (listed,) = [line["rows"] for line in lines if line["command"] == "help"]
+    names = {row["command"] for row in listed}
+    seen = {name for name in names for line in lines if f"{line['command']} ".startswith(f"{name} ")}
+    assert names - seen <= UNSEEN, names - seen
 
 
 def check_examples(tool, document, schema):

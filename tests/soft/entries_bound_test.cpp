@@ -59,32 +59,6 @@ TEST_F(BoundEntries, KeepTheirMemberInUse) {
   EXPECT_EQ(del_member(second), BF_SUCCESS) << "a refused add left no reference behind";
 }
 
-TEST_F(BoundEntries, ReadBackTheMemberOrGroup) {
-  const uint32_t member = add_member(1);
-  uint32_t group = 0, to_member = 0, to_group = 0, action = 0;
-  ASSERT_EQ(pipe_mgr_sel_grp_add(session, kDevice, BF_ALL_PIPES, kGroups, 0, &group, 0),
-            BF_SUCCESS);
-  ASSERT_EQ(add_lag(1, naming(PIPE_ACTION_MEMBER, member), &to_member), BF_SUCCESS);
-  ASSERT_EQ(add_lag(2, naming(PIPE_ACTION_GROUP, group), &to_group), BF_SUCCESS);
-  EXPECT_EQ(pipe_mgr_sel_grp_del(session, kDevice, kGroups, group, 0), BF_IN_USE);
-
-  Key key(8, {0}, {0});
-  pipe_mgr_action_spec_t spec{};  // no room for data, none needed
-  ASSERT_EQ(pipe_mgr_get_entry(session, kLag, kDevice, to_member, &key.spec, &spec, &action, false),
-            BF_SUCCESS);
-  EXPECT_EQ(spec.type, uint32_t{PIPE_ACTION_MEMBER});
-  EXPECT_EQ(spec.member, member);
-  EXPECT_EQ(spec.group, 0u);
-  EXPECT_EQ(spec.data.byte_count, 0);
-  EXPECT_EQ(action, kSend);
-  ASSERT_EQ(pipe_mgr_get_entry(session, kLag, kDevice, to_group, &key.spec, &spec, &action, false),
-            BF_SUCCESS);
-  EXPECT_EQ(spec.type, uint32_t{PIPE_ACTION_GROUP});
-  EXPECT_EQ(spec.group, group);
-  EXPECT_EQ(spec.member, 0u);
-  EXPECT_EQ(key.value[0], 2);
-}
-
 TEST_F(BoundEntries, DefaultEntriesReferToo) {
   const uint32_t first = add_member(1), second = add_member(2);
   uint32_t entry = 0;

@@ -1,7 +1,6 @@
 // The call journal and the fault plan.
 #include <gtest/gtest.h>
 
-#include <set>
 #include <thread>
 
 #include "bf_sys.h"
@@ -185,28 +184,6 @@ TEST_F(Journal, ForgetsACallThatWasInProgressWhenItStartedAnew) {
   EXPECT_EQ(calls[0].function, "pipe_register_mat_update_cb");
   EXPECT_EQ(calls[0].status, BF_INVALID_HANDLE) << "not that of the call before";
   EXPECT_TRUE(calls[0].results.empty());
-}
-
-TEST_F(Journal, KeepsEveryCallOfSeveralThreads) {
-  std::vector<std::thread> threads;
-  for (uint8_t t = 0; t < 4; ++t) {
-    threads.emplace_back([this, t] {
-      for (uint8_t i = 0; i < 50; ++i) {
-        uint32_t entry = 0;
-        EXPECT_EQ(add_host(static_cast<uint8_t>(t * 50 + i), &entry), BF_SUCCESS);
-      }
-    });
-  }
-  for (std::thread &thread : threads) thread.join();
-  const auto calls = journal::calls();
-  ASSERT_EQ(calls.size(), 200u);
-  std::set<uint8_t> seen;
-  for (size_t i = 0; i < calls.size(); ++i) {
-    EXPECT_EQ(calls[i].number, i + 1);
-    EXPECT_TRUE(calls[i].finished);
-    seen.insert((*calls[i].get<journal::MatchSpec>("match").value)[2]);
-  }
-  EXPECT_EQ(seen.size(), 200u);
 }
 
 // ---- Faults ----

@@ -4,7 +4,6 @@
 
 #include <cstdlib>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "p4_pd_ms.h"
@@ -285,28 +284,6 @@ TEST(MemberSelector, LogsAllOrNothingWhenMemoryRunsOut) {
   cJSON_InitHooks(nullptr);
   EXPECT_EQ(status, BF_SUCCESS);
   EXPECT_GT(failures, 30) << "each number, array, object and key of the log is an allocation";
-}
-
-TEST(MemberSelector, ThreadsShareAState) {
-  Shadow shadow;
-  ASSERT_EQ(shadow.add_group(1), BF_SUCCESS);
-  std::vector<std::thread> threads;
-  for (uint32_t first : {1000u, 2000u, 3000u, 4000u}) {
-    threads.emplace_back([&shadow, first] {
-      for (uint32_t member = first; member < first + 500; ++member) {
-        shadow.add(member);
-        shadow.join(member, 1);
-        if (member % 2 == 1) shadow.del(member);
-      }
-    });
-  }
-  for (std::thread &thread : threads) thread.join();
-  cJSON *document = cJSON_CreateObject();
-  ASSERT_EQ(p4_pd_ms_log_state(2, shadow.state, document), BF_SUCCESS);
-  EXPECT_EQ(cJSON_GetArraySize(cJSON_GetObjectItem(document, "members")), 1000);
-  const cJSON *group = cJSON_GetArrayItem(cJSON_GetObjectItem(document, "groups"), 0);
-  EXPECT_EQ(cJSON_GetArraySize(cJSON_GetObjectItem(group, "members")), 1000);
-  cJSON_Delete(document);
 }
 
 }  // namespace

@@ -161,7 +161,11 @@ TEST_F(Meters, DirectMeterBelongsToItsEntry) {
   ASSERT_EQ(pipe_mgr_mat_ent_set_resource(session, kDevice, kAcl, entry, &again, 1, 0), BF_SUCCESS);
   EXPECT_EQ(hit(0, kAcl, {0x08, 0x01}, 1, 250).color, SOFT_COLOR_GREEN) << "full again";
   EXPECT_EQ(hit(0, kAcl, {0x08, 0x01}, 1, 1).color, SOFT_COLOR_RED);
+  uint64_t held = 0, left = 0;
+  ASSERT_EQ(soft_memory_bytes(kDevice, kAcl, &held), BF_SUCCESS);
   ASSERT_EQ(pipe_mgr_mat_ent_del(session, kDevice, kAcl, entry, 0), BF_SUCCESS);
+  ASSERT_EQ(soft_memory_bytes(kDevice, kAcl, &left), BF_SUCCESS);
+  EXPECT_LT(left, held) << "its buckets are gone";
   EXPECT_EQ(read(entry, &got), BF_OBJECT_NOT_FOUND);
 }
 
@@ -213,26 +217,13 @@ TEST_F(Meters, TrafficFollowsMembersAndGroups) {
   const uint8_t key[] = {3};
   traffic.key = key;
   traffic.key_length = 1;
-  EXPECT_EQ(soft_traffic_hit(kDevice, 0, kLag, &traffic, &found), BF_OBJECT_NOT_FOUND)
+  EXPECT_EQ(soft_traffic_hit(kDevice, 0, kLag, &traffic, &found), BF_TABLE_MISS)
       << "no entry and no default entry";
   EXPECT_EQ(soft_traffic_hit(kDevice, BF_ALL_PIPES, kLag, &traffic, &found), BF_INVALID_PIPE);
   EXPECT_EQ(soft_traffic_hit(kDevice, 0, kMembers, &traffic, &found), BF_INVALID_HANDLE);
   traffic.key_length = 2;
   EXPECT_EQ(soft_traffic_hit(kDevice, 0, kLag, &traffic, &found), BF_WRONG_LENGTH);
   EXPECT_EQ(found.member, flooding) << "nothing is written";
-}
-
-TEST_F(Meters, TrafficKeepsEntriesYoung) {
-  const uint32_t entry = new_acl(1, Action());
-  pipe_mgr_idle_params_t params{};
-  params.mode = PIPE_IDLE_POLL;
-  ASSERT_EQ(pipe_mgr_idle_tmo_enable(session, kDevice, kAcl, params), BF_SUCCESS);
-  ASSERT_EQ(pipe_mgr_idle_time_update_hit_state(session, kDevice, kAcl, entry, PIPE_ENTRY_IDLE),
-            BF_SUCCESS);
-  hit(0, kAcl, {0x08, 0x01}, 1, 64);
-  uint32_t state = 99;
-  ASSERT_EQ(pipe_mgr_idle_time_get_hit_state(session, kDevice, kAcl, entry, &state), BF_SUCCESS);
-  EXPECT_EQ(state, uint32_t{PIPE_ENTRY_ACTIVE});
 }
 
 // ---- WRED ----
@@ -255,6 +246,14 @@ TEST_F(Meters, WredCellsReadBack) {
   EXPECT_EQ(got.max_probability, 0.25f);
   ASSERT_EQ(set_wred(BF_ALL_PIPES, 0x07ffffff, SOFT_WRED_CELLS - 1), BF_SUCCESS);
   EXPECT_EQ(soft_wred_get(kDevice, 0, 0x07ffffff, SOFT_WRED_CELLS - 1, &got), BF_SUCCESS);
+  // One after the other, in pipe 1.
+  pipe_object_handle_t wred = 0;
+  uint32_t index = 0;
+  ASSERT_EQ(soft_next_wred_cell(kDevice, 1, &wred, &index), BF_SUCCESS);
+  EXPECT_EQ(std::pair(wred, index), std::pair(kWred, 3u));
+  ASSERT_EQ(soft_next_wred_cell(kDevice, 1, &wred, &++index), BF_SUCCESS);
+  EXPECT_EQ(std::pair(wred, index), std::pair(0x07ffffffu, SOFT_WRED_CELLS - 1));
+  EXPECT_EQ(soft_next_wred_cell(kDevice, 1, &wred, &++index), BF_OBJECT_NOT_FOUND);
   EXPECT_EQ(set_wred(0, kWred, SOFT_WRED_CELLS), BF_INVALID_ARGUMENT);
   for (uint32_t handle : {0x07000000u, 0x06000001u, kPoliceMeter, 0u}) {
     EXPECT_EQ(set_wred(0, handle, 0), BF_INVALID_HANDLE) << handle;

@@ -1,8 +1,8 @@
 // Placement data of entries and members, and the replay of a virtual device.
 #include <array>
 
-#include "placement.hpp"
 #include "small_program.hpp"
+#include "tables/placement.hpp"
 
 namespace {
 
@@ -116,17 +116,6 @@ TEST_F(PlacementTest, OfAnEntryHoldsItsKeyAndAction) {
   ASSERT_EQ(decoded.spec.resource_count, 1u);
   EXPECT_EQ(decoded.spec.resources[0].handle, kHostCount);
   EXPECT_EQ(decoded.spec.resources[0].tag, PIPE_RESOURCE_ATTACH);
-}
-
-TEST_F(PlacementTest, OfATernaryEntryHoldsMaskAndPriority) {
-  const uint32_t acl = add(kDevice, kAcl, Key(16, {0x08, 0x00}, {0xff, 0x0f}, 77), kDeny, Action());
-  Placement placement;
-  ASSERT_EQ(soft_placement_of_entry(kDevice, kAcl, acl, &placement.object), BF_SUCCESS);
-  const Decoded decoded(placement);
-  EXPECT_EQ(first(decoded.mask, 2), (Bytes{0xff, 0x0f}));
-  EXPECT_EQ(decoded.match.priority, 77u);
-  EXPECT_EQ(decoded.action, kDeny);
-  EXPECT_EQ(decoded.spec.data.byte_count, 0);
 }
 
 TEST_F(PlacementTest, OfADefaultEntryHasNoKey) {
@@ -372,113 +361,6 @@ TEST_F(Replay, ProfilesKeepHandlesStatesAndReferences) {
   EXPECT_EQ(pipe_mgr_sel_grp_del(session, kVirtual, kSelector, group, 0), BF_IN_USE);
   EXPECT_EQ(pipe_mgr_sel_grp_mbr_enable(session, kVirtual, kSelector, group, member_a, 0),
             BF_SUCCESS);
-}
-
-TEST_F(Replay, TablesKeepHandlesOrderAndDefaults) {
-  const Action deny;
-  // Three that one packet meets, the first two at the same priority, and one with its own mask.
-  const uint32_t old = add(kVirtual, kAcl, Key(16, {0x08, 0x00}, {0xff, 0x00}, 5), kDeny, deny);
-  add(kVirtual, kAcl, Key(16, {0x08, 0x06}, {0xff, 0xff}, 5), kDeny, deny);
-  add(kVirtual, kAcl, Key(16, {0x08, 0x00}, {0xff, 0x00}, 6), kDeny, deny);
-  // So many that freed places are given out again.
-  for (int i = 0; i < 1100; ++i) {
-    const uint32_t gone = add(kVirtual, kAcl, Key(16, {9, 9}, {0xff, 0xff}, 1), kDeny, deny);
-    EXPECT_EQ(pipe_mgr_mat_ent_del(session, kVirtual, kAcl, gone, 0), BF_SUCCESS);
-  }
-  std::vector<uint32_t> hosts;
-  for (uint8_t n = 0; n < 200; ++n) {
-    hosts.push_back(add(kVirtual, kHost, Key(20, {0, 1, n}, {0xff, 0xff, 0xff}), kDrop, deny));
-  }
-  const Action permit(35, {1, 2, 3, 4, 5});
-  uint32_t entry = 0;
-  ASSERT_EQ(pipe_mgr_mat_default_entry_set(session, kVirtual, BF_ALL_PIPES, kAcl, kPermit,
-                                           &permit.spec, 0, &entry),
-            BF_SUCCESS);
-  EXPECT_EQ(pipe_mgr_tbl_set_property(session, kVirtual, kHost, PIPE_TABLE_CAPACITY, 200, 0),
-            BF_SUCCESS);
-  const uint32_t before = add(kDevice, kHost, Key(20, {7, 7, 7}, {0xff, 0xff, 0xff}), kDrop, deny);
-
-  ASSERT_EQ(replay(), BF_SUCCESS);
-  EXPECT_EQ(hit(kDevice, kAcl, {0x08, 0x06}), old);
-  EXPECT_EQ(hit(kDevice, kAcl, {0x09, 0x09}), 0u);
-  EXPECT_EQ(hit(kDevice, kLag, {1}), lag);
-  for (uint8_t n = 0; n < 200; ++n) EXPECT_EQ(hit(kDevice, kHost, {0, 1, n}), hosts[n]);
-  EXPECT_EQ(hit(kDevice, kHost, {7, 7, 7}), 0u) << "what was there gave way: " << before;
-  uint32_t handle = 0;
-  EXPECT_EQ(pipe_mgr_table_get_default_entry_handle(session, kDevice, BF_ALL_PIPES, kAcl, &handle),
-            BF_SUCCESS);
-  EXPECT_EQ(handle, entry);
-  const Key one_more(20, {7, 7, 7}, {0xff, 0xff, 0xff});
-  EXPECT_EQ(pipe_mgr_mat_ent_add(session, kDevice, BF_ALL_PIPES, kHost, &one_more.spec, kDrop,
-                                 &deny.spec, 0, 0, &handle),
-            BF_TABLE_FULL);
-
-  // The copy is a table like any other: entries go and come, the older ones first.
-  const uint32_t young = add(kDevice, kAcl, Key(16, {0x08, 0x06}, {0x0f, 0xff}, 5), kDeny, deny);
-  EXPECT_EQ(hit(kDevice, kAcl, {0x08, 0x06}), old);
-  EXPECT_EQ(hit(kDevice, kAcl, {0x18, 0x06}), young);
-  EXPECT_EQ(pipe_mgr_mat_ent_del(session, kDevice, kAcl, old, 0), BF_SUCCESS);
-  EXPECT_NE(hit(kDevice, kAcl, {0x08, 0x06}), 0u);
-  EXPECT_EQ(hit(kVirtual, kAcl, {0x08, 0x06}), old);
-  EXPECT_NE(add(kDevice, kAcl, Key(16, {0x08, 0x00}, {0xff, 0x00}, 5), kDeny, deny), old);
-}
-
-TEST_F(Replay, EntriesKeepPipesKeysAndResources) {
-  EXPECT_EQ(pipe_mgr_tbl_set_property(session, kVirtual, kHost, PIPE_TABLE_ENTRY_SCOPE, 1, 0),
-            BF_SUCCESS);
-  Action forward(9, {0x00, 0x01});
-  forward.resource(kHostCount, 0, PIPE_RESOURCE_ATTACH);
-  forward.resource(kAclCount, 12, PIPE_RESOURCE_ATTACH);
-  const Key key(20, {0x0a, 0xbc, 0x2d}, {0xff, 0xff, 0xff});
-  uint32_t entry = 0;
-  ASSERT_EQ(pipe_mgr_mat_ent_add(session, kVirtual, 1, kHost, &key.spec, kForward, &forward.spec, 0,
-                                 0, &entry),
-            BF_SUCCESS);
-  const pipe_mgr_counter_t counted{640, 10};
-  EXPECT_EQ(pipe_mgr_mat_ent_direct_stat_set(session, kVirtual, kHost, entry, &counted),
-            BF_SUCCESS);
-
-  ASSERT_EQ(replay(), BF_SUCCESS);
-  uint32_t count = 9;
-  for (const bf_pipe_id_t pipe : {0u, 1u}) {
-    EXPECT_EQ(pipe_mgr_get_entry_count(session, kDevice, pipe, kHost, 0, &count), BF_SUCCESS);
-    EXPECT_EQ(count, pipe);
-  }
-  Key read(20, Bytes(3), Bytes(3));
-  Action spec(9, Bytes(2));
-  uint32_t action = 0;
-  EXPECT_EQ(
-      pipe_mgr_get_entry(session, kHost, kDevice, entry, &read.spec, &spec.spec, &action, false),
-      BF_SUCCESS);
-  EXPECT_EQ(read.value, key.value);
-  EXPECT_EQ(read.mask, key.mask);
-  ASSERT_EQ(spec.spec.resource_count, 2u);
-  EXPECT_EQ(spec.spec.resources[0].handle + spec.spec.resources[1].handle, kHostCount + kAclCount);
-  pipe_mgr_counter_t copied{};
-  EXPECT_EQ(pipe_mgr_mat_ent_direct_stat_query(session, kDevice, kHost, entry, &copied),
-            BF_SUCCESS);
-  EXPECT_EQ(copied.packets, 10u);
-}
-
-TEST_F(Replay, EntriesGoOnAgeing) {
-  pipe_mgr_idle_params_t params{PIPE_IDLE_NOTIFY, 1, 0, 0, 0, 0};
-  ASSERT_EQ(pipe_mgr_idle_tmo_enable(session, kVirtual, kRoute, params), BF_SUCCESS);
-  const uint32_t route = add(kVirtual, kRoute, Key(40, {1, 10, 0, 0, 0}, {0xff, 0xff, 0, 0, 0}),
-                             kNextHop, Action(14, {0x00, 0x01}), 100);
-  soft_clock_advance(60);
-  ASSERT_EQ(replay(), BF_SUCCESS);
-  std::vector<uint32_t> expired;
-  ASSERT_EQ(pipe_mgr_idle_register_tmo_cb(
-                session, kDevice, kRoute,
-                [](bf_device_id_t, uint32_t, uint32_t entry, void *list) {
-                  static_cast<std::vector<uint32_t> *>(list)->push_back(entry);
-                },
-                &expired),
-            BF_SUCCESS);
-  soft_clock_advance(39);
-  EXPECT_TRUE(expired.empty());
-  soft_clock_advance(1);
-  EXPECT_EQ(expired, (std::vector<uint32_t>{route}));
 }
 
 TEST_F(Replay, CallbackMayEndItAndTheDeviceIsComplete) {

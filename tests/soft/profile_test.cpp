@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <string>
-#include <thread>
 
 namespace {
 
@@ -93,18 +92,6 @@ TEST_F(Profiles, RefusesMembersThatTheProgramDoesNotDeclare) {
   EXPECT_EQ(count(kMembers), 1u);
 }
 
-TEST_F(Profiles, ChecksSessionDevicePipeAndHandleInThisOrder) {
-  uint32_t handle = 0;
-  EXPECT_EQ(pipe_mgr_sel_grp_add(0, 9, 2, kMembers, 0, &handle, 0), BF_INVALID_SESSION);
-  EXPECT_EQ(pipe_mgr_sel_grp_add(session, 9, 2, kMembers, 0, &handle, 0), BF_INVALID_DEVICE);
-  EXPECT_EQ(pipe_mgr_sel_grp_add(session, kDevice, 2, kMembers, 0, &handle, 0), BF_INVALID_PIPE);
-  EXPECT_EQ(pipe_mgr_sel_grp_add(session, kDevice, 1, kMembers, 0, &handle, 0), BF_INVALID_HANDLE);
-  EXPECT_EQ(pipe_mgr_sel_grp_add(session, kDevice, 1, kSelector, 0, nullptr, 0),
-            BF_INVALID_ARGUMENT);
-  EXPECT_EQ(pipe_mgr_adt_ent_del(session, kDevice, kSelector, 1, 0), BF_INVALID_HANDLE);
-  EXPECT_EQ(count(kSelector), 0u);
-}
-
 TEST_F(Profiles, CapacityLimitsMembersAndGroups) {
   ASSERT_EQ(soft_profile_capacity_set(kDevice, kMembers, 2), BF_SUCCESS);
   ASSERT_EQ(soft_profile_capacity_set(kDevice, kSelector, 1), BF_SUCCESS);
@@ -183,23 +170,6 @@ TEST_F(Profiles, WhatIsReferredToStays) {
   EXPECT_EQ(add_lag(1, PIPE_ACTION_GROUP, group, &entry), BF_ALREADY_EXISTS);
   ASSERT_EQ(pipe_mgr_mat_ent_del(session, kDevice, kLag, entry, 0), BF_SUCCESS);
   EXPECT_EQ(del_group(group), BF_SUCCESS) << "the refused entry took no reference";
-}
-
-TEST_F(Profiles, EntriesNameWhatIsThere) {
-  const uint32_t member = new_member(1), group = new_group(0);
-  uint32_t entry = 0;
-  EXPECT_EQ(add_lag(1, PIPE_ACTION_MEMBER, member + 1, &entry), BF_OBJECT_NOT_FOUND);
-  EXPECT_EQ(add_lag(1, PIPE_ACTION_GROUP, group + 1, &entry), BF_OBJECT_NOT_FOUND);
-  EXPECT_EQ(add_lag(1, PIPE_ACTION_MEMBER, member, &entry, kDeny), BF_FOREIGN_ACTION);
-  EXPECT_EQ(count(kLag), 0u);
-  pipe_mgr_action_spec_t spec = naming(PIPE_ACTION_MEMBER, member);
-  ASSERT_EQ(
-      pipe_mgr_mat_default_entry_set(session, kDevice, BF_ALL_PIPES, kLag, kSend, &spec, 0, &entry),
-      BF_SUCCESS);
-  EXPECT_EQ(del_member(member), BF_IN_USE);
-  ASSERT_EQ(pipe_mgr_mat_tbl_default_entry_reset(session, kDevice, BF_ALL_PIPES, kLag, 0),
-            BF_SUCCESS);
-  EXPECT_EQ(del_member(member), BF_SUCCESS);
 }
 
 // ---- Choice ----
@@ -395,32 +365,6 @@ TEST_F(Profiles, ListenersHearOfEveryUpdate) {
   del_group(new_group(0));
   EXPECT_EQ(owner.size(), 6u);
   EXPECT_EQ(further.size(), 8u);
-}
-
-TEST_F(Profiles, ThreadsKeepReferencesInStep) {
-  const uint32_t group = new_group(0), shared = new_member(0);
-  std::vector<std::thread> threads;
-  for (uint8_t at = 0; at < 4; ++at) {
-    threads.emplace_back([&, at] {
-      for (uint32_t round = 0; round < 200; ++round) {
-        uint32_t mine = 0, entry = 0;
-        add_member(at, &mine);
-        join(group, mine);
-        join(group, shared);
-        add_lag(at, round % 2 == 0 ? PIPE_ACTION_MEMBER : PIPE_ACTION_GROUP,
-                round % 2 == 0 ? shared : group, &entry);
-        leave(group, shared);
-        leave(group, mine);
-        EXPECT_EQ(pipe_mgr_mat_ent_del(session, kDevice, kLag, entry, 0), BF_SUCCESS);
-        EXPECT_EQ(del_member(mine), BF_SUCCESS);
-      }
-    });
-  }
-  for (std::thread &thread : threads) thread.join();
-  leave(group, shared);
-  EXPECT_EQ(del_member(shared), BF_SUCCESS);
-  EXPECT_EQ(del_group(group), BF_SUCCESS);
-  EXPECT_EQ(count(kMembers) + count(kSelector) + count(kLag), 0u);
 }
 
 }  // namespace

@@ -97,6 +97,13 @@ TEST_F(Tiny, AFilter) {
   ASSERT_EQ(spec.resources.size(), 1u);
   EXPECT_EQ(spec.resources[0].handle, 0x04000001u);
 
+  // A label whose text reads like a trigraph.
+  p4_pd_tiny_filter_match_spec_t any = {};
+  any.tag_0__tagId = any.tag_0__tagId_mask = 0xfff;
+  char label[P4_PD_TINY_LABEL_MAX];
+  EXPECT_EQ(p4_pd_tiny_filter_match_spec_stringify_for_counter(&any, label), 18);
+  EXPECT_STREQ(label, "Port 0x000 any?\?) ");
+
   p4_pd_tiny_filter_match_spec_t read = {};
   p4_pd_tiny_sendTo_action_spec_t read_send = {};
   uint32_t priority = 0;
@@ -165,8 +172,16 @@ TEST_F(Tiny, PathsPointAtMembers) {
 
 TEST_F(Tiny, ItsExportsAreThereAsData) {
   EXPECT_STREQ(bindings::binding.program, "tiny");
-  EXPECT_EQ(bindings::binding.table_count, 12u);
-  EXPECT_EQ(bindings::binding.action_count, 10u);
+  EXPECT_EQ(bindings::binding.tables.count, 12u);
+  EXPECT_EQ(bindings::binding.actions.count, 10u);
+  const bindings::Record &router = bindings::binding.actions.rows[4];
+  ASSERT_EQ(router.shown_count, 2u);
+  EXPECT_EQ(router.fields[0].notation, bindings::Notation::ipv4);
+  EXPECT_EQ(router.fields[1].label, "hw");  // of hwOui and hwStation
+  EXPECT_EQ(router.fields[1].notation, bindings::Notation::mac);
+  EXPECT_EQ(router.fields[1].parts[0]->name, std::string("hwOui"));
+  EXPECT_EQ(bindings::binding.actions.rows[6].fields[0].cells[1], std::string("flowRate"));
+  EXPECT_EQ(bindings::binding.routes.tables[1], std::string("fib6"));
 }
 
 }  // namespace

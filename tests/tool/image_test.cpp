@@ -1,5 +1,5 @@
 // Images: what is in them, that they hold everything, and what becomes of broken ones.
-#include "tesselctl/image.hpp"
+#include "tesselctl/state/image.hpp"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -7,8 +7,9 @@
 
 #include <cstdio>
 
-#include "tesselctl/entry_line.hpp"
-#include "tesselctl/files.hpp"
+#include "tesselctl/device/entry_line.hpp"
+#include "tesselctl/text/file_writer.hpp"
+#include "tesselctl/text/files.hpp"
 #include "tool_fixture.hpp"
 
 namespace tesselctl {
@@ -153,17 +154,17 @@ TEST_F(ImageTest, EveryTableComesBack) {
       const soft_action_t &action = table.description->actions[i];
       if (find_export("table_add", table.name(), action.name) == nullptr) continue;
       std::string line = fmt::format("add {}", table.name());
-      for (const Field *field : table.shape().shown()) {
+      for (const Field &field : record.shown()) {
         // A value with the number of the action, under its own mask or prefix.
-        const char *all = field->match == Match::exact ? "" : "/";
-        line += fmt::format(" {}={}", field->name, field->width < 8 ? i % 2 : i + 1);
-        if (*all != 0) line += fmt::format("/{}", field->width);
+        const char *all = field.match == Match::exact ? "" : "/";
+        line += fmt::format(" {}={}", field.name, field.width < 8 ? i % 2 : i + 1);
+        if (*all != 0) line += fmt::format("/{}", field.width);
       }
       if (table.has_priority()) line += fmt::format(" priority={}", i + 1);
       if (record.name == std::string("l2LookupMiss")) line += " meter=1,2,3,4";
       line += fmt::format(" action={}", action.name);
-      for (const Field *field : action_shape(action.name).shown()) {
-        line += fmt::format(" {}=1", field->name);
+      for (const Field &field : action_record(action.name).shown()) {
+        line += fmt::format(" {}=1", field.name);
       }
       const std::string answer = run(line);
       if (answer.empty()) ++entries;
@@ -178,36 +179,69 @@ TEST_F(ImageTest, EveryTableComesBack) {
 
 TEST_F(ImageTest, BrokenImagesNameTheirPlace) {
   const std::string first = "tesselctl image 1 tessel_switch\n";
+  const std::string head = first + "pipes 2\n";
   const struct {
     std::string text;
     const char *message;
   } cases[] = {
       {"", "x:1:1: 'end of file': the image is not whole: the line 'end' is missing"},
       {"hello\n", "x:1:1: 'hello': this is no image of tesselctl"},
-      {"tesselctl image 2 tessel_switch\n",
-       "x:1:17: '2 tessel_switch': this tool reads images of "
-       "version 1"},
+      {"tesselctl image 2 tessel_switch\n", "x:1:17: '2': this tool reads images of version 1"},
       {"tesselctl image 1 other\n", "x:1:19: 'other': the device runs tessel_switch"},
       {first, "x:2:1: 'end of file': the image is not whole: the line 'end' is missing"},
-      {first + "end 7\n", "x:2:5: '7': there are 1 lines before this one"},
+      {first + "end 1\n", "x:2:1: 'end': the line 'pipes' should come here"},
       {first + "pipes 4\n", "x:2:7: '4': the device has 2 pipes"},
-      {first + "table nextHopp\n",
-       "x:2:7: 'nextHopp': no table has this name; did you mean 'nextHop'?"},
-      {first + "member 1 ('setEcmpNextHop',(0x0009,)),\n",
-       "x:2:1: 'member': this does not belong "
-       "here"},
-      {first + "table nextHop\nentry (((0x1,),\n", "x:3:9: '(': '( ' should stand here"},
-      {first + "table nextHop\nentry ((( 0x4000,),('x',()),),(0,True))\n",
-       "x:3:11: '0x4000': l3_nextHop has 14 bits, so this is too much"},
-      {first + "table nextHop\nentry ((( 0x1,),('setNextHop',(0x1,)),),(0,True))\n",
-       "x:3:19: 'setNextHop': the table has no action of this name"},
-      {first + "table ecmpGroup\nentry ((( 0x1,),('setGrpHdl',(0x3,))),(0,True))\n",
-       "x:3:31: '0x3,))),(0,True))': nothing has this number"},
-      {first + "register ingVlanCheckData\ncell 5 1\n",
-       "x:3:8: '1': there should be 2 values, one a pipe"},
-      {first + "end 1\nend 1\n", "x:3:1: 'end': nothing should follow the line 'end'"},
+      {head + "end 7\n", "x:3:5: '7': there are 2 lines before this one"},
+      {head + "end 2 checksum=0123456789abcdef\n",
+       "x:3:7: 'checksum=0123456789abcdef': the image is damaged: its lines have "
+       "checksum=5d484060268705d2"},
+      {head + "table nextHopp\n",
+       "x:3:7: 'nextHopp': no table has this name; did you mean 'nextHop'?"},
+      {head + "member 1 ('setEcmpNextHop',(0x0009,)),\n",
+       "x:3:1: 'member': this does not belong here"},
+      {head + "table nextHop\nentry (((0x1,),\n", "x:4:9: '(': '( ' should stand here"},
+      {head + "table nextHop\nentry ((( 0x4000,),('x',()),),(0,True))\n",
+       "x:4:11: '0x4000': l3_nextHop has 14 bits, so this is too much"},
+      {head + "table ipv4ShortMaskLpm\nentry ((( 0x01,0x0a000000,0x0028,),\n",
+       "x:4:27: '0x0028': a prefix has at most 32 bits"},
+      {head + "table nextHop\nentry ((( 0x1,),('setNextHop',(0x1,)),),(0,True))\n",
+       "x:4:19: 'setNextHop': the table has no action of this name"},
+      {head + "table ecmpGroup\nentry ((( 0x1,),('setGrpHdl',(0x3,))),(0,True))\n",
+       "x:4:1: 'entry': there is no group #3"},
+      {head + "profile ecmpMemberActionProfile\ngroup 1 size=4 members=1,1,1\n",
+       "x:4:24: '1,1,1': member #1 is there twice"},
+      {head + "table ipv4ShortMaskLpm\nageing mode=1 mode=1\n",
+       "x:4:15: 'mode': this is given twice"},
+      {head + "register ingVlanCheckData\ncell 5 1\n",
+       "x:4:1: 'cell': there should be 2 values, one a pipe"},
+      {head + "end 2\nend 1\n", "x:4:1: 'end': nothing should follow the line 'end'"},
   };
   for (const auto &given : cases) EXPECT_EQ(load(given.text), given.message);
+}
+
+// Every flipped bit is noticed, or leaves the image what it was. IMAGE_BIT_FLIPS=N tries so many.
+TEST_F(ImageTest, ADamagedImageIsNoticed) {
+  fill();
+  const std::string text = image();
+  const char *const wanted = getenv("IMAGE_BIT_FLIPS");
+  const size_t flips = wanted == nullptr ? 2000 : std::stoul(wanted);
+  size_t refused = 0;
+  for (size_t i = 0; i < flips; ++i) {
+    // A prime, so that every place has its turn.
+    const size_t bit = i * 7919 % (8 * text.size());
+    std::string damaged = text;
+    damaged[bit / 8] = static_cast<char>(damaged[bit / 8] ^ 1 << bit % 8);
+    std::string again;
+    if (!load(damaged, &again).empty()) {
+      ++refused;
+    } else {
+      EXPECT_EQ(again, text) << "bit " << bit;
+    }
+  }
+  RecordProperty("refused", static_cast<int>(refused));
+  EXPECT_GT(refused, flips * 99 / 100);
+  // Without the checksum it is an image too.
+  EXPECT_EQ(load(text.substr(0, text.rfind(" checksum=")) + "\n"), "");
 }
 
 TEST_F(ImageTest, AnAtomicLoadThatFailsLeavesTheDeviceAsItWas) {
@@ -282,30 +316,33 @@ TEST_F(ImageTest, DiffTellsAndApplyUndoesEveryChange) {
       {"modify ecmpGroup ecmpGroup=8 member=$b",
        "- ecmpGroup ecmpGroup=8 member=#1\n+ ecmpGroup ecmpGroup=8 member=#2\n"},
       {"group leave ecmpMemberActionProfile group=$g member=$a",
-       "- ecmpMemberActionProfile group 1 size=4 members=1,2 inactive=2\n"
-       "+ ecmpMemberActionProfile group 1 size=4 members=2 inactive=2\n"},
+       "- ecmpMemberActionProfile group=#1 size=4 members=1,2 inactive=2\n"
+       "+ ecmpMemberActionProfile group=#1 size=4 members=2 inactive=2\n"},
       {"group enable ecmpMemberActionProfile group=$g member=$b",
-       "- ecmpMemberActionProfile group 1 size=4 members=1,2 inactive=2\n"
-       "+ ecmpMemberActionProfile group 1 size=4 members=1,2\n"},
+       "- ecmpMemberActionProfile group=#1 size=4 members=1,2 inactive=2\n"
+       "+ ecmpMemberActionProfile group=#1 size=4 members=1,2\n"},
       {"member modify ecmpMemberActionProfile member=$a action=setEcmpNextHop nextHop=50",
        "- ecmpMemberActionProfile member=#1 action=setEcmpNextHop nextHop=1\n"
        "+ ecmpMemberActionProfile member=#1 action=setEcmpNextHop nextHop=50\n"},
       {"member add ecmpMemberActionProfile action=setEcmpNextHop nextHop=51",
        "+ ecmpMemberActionProfile member=#3 action=setEcmpNextHop nextHop=51\n"},
       {"fallback set ecmpMemberActionProfile member=$a",
-       "- ecmpMemberActionProfile fallback 2\n+ ecmpMemberActionProfile fallback 1\n"},
+       "- ecmpMemberActionProfile fallback member=#2\n"
+       "+ ecmpMemberActionProfile fallback member=#1\n"},
       {"default reset egressMcRemap",
        "- egressMcRemap default action=setL2DomainReplicated l2Domain=77\n"
        "+ egressMcRemap default action=setL2DomainReplicated l2Domain=0\n"},
       {"counter write pdpClassCount index=5 packets=1 bytes=64",
-       "+ pdpClassCount cell 5 pipe=0 packets=1 bytes=64\n"},
+       "+ pdpClassCount index=5 pipe=0 packets=1 bytes=64\n"},
       {"meter set pdpMeter index=4 cir=9 cbs=2 pir=9 pbs=4",
-       "- pdpMeter cell 4 meter=1,2,3,4 type=1\n+ pdpMeter cell 4 meter=9,2,9,4 type=1\n"},
-      {"register write ingVlanCheckData index=8 value=1", "- ingVlanCheckData cell 8 0,0\n"},
+       "- pdpMeter index=4 cir=1 kbit/s cbs=2 kbit pir=3 kbit/s pbs=4 kbit type=unaware\n"
+       "+ pdpMeter index=4 cir=9 kbit/s cbs=2 kbit pir=9 kbit/s pbs=4 kbit type=unaware\n"},
+      {"register write ingVlanCheckData index=8 value=1",
+       "- ingVlanCheckData index=8 values=0,0\n"},
       {"register write ingVlanCheckData value=0",
-       "- ingVlanCheckData all 1,1\n- ingVlanCheckData cell 8 0,0\n"},
+       "- ingVlanCheckData all values=1,1\n- ingVlanCheckData index=8 values=0,0\n"},
       {"valueset add recirc_ports value=0x50 mask=0xf0",
-       "+ recirc_ports value 0x50 mask=0xf0 direction=0 pipe=65535 parser=255\n"},
+       "+ recirc_ports value=0x50 mask=0xf0 direction=ingress\n"},
       {"age disable ipv4ShortMaskLpm",
        "- ipv4ShortMaskLpm ageing mode=1 sweep=100 max=90000 min=0 ttl=1000\n"},
       // Ageing that comes, and entries that its limits changed.

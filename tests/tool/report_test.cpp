@@ -1,5 +1,5 @@
 // Reports: what stands on the page, that it is well formed, and that it stays small.
-#include "tesselctl/report.hpp"
+#include "tesselctl/report/report.hpp"
 
 #include <fmt/format.h>
 
@@ -7,9 +7,10 @@
 #include <vector>
 
 #include "soft_sdk.h"
-#include "tesselctl/entry_line.hpp"
-#include "tesselctl/files.hpp"
-#include "tesselctl/html.hpp"
+#include "tesselctl/device/entry_line.hpp"
+#include "tesselctl/text/file_writer.hpp"
+#include "tesselctl/text/files.hpp"
+#include "tesselctl/text/html.hpp"
 #include "tool_fixture.hpp"
 
 namespace tesselctl {
@@ -117,9 +118,10 @@ TEST_F(ReportTest, PageOfASmallDevice) {
   EXPECT_HOLDS(text,
                "cell 2</th><td>5,000 packets/s, burst 100 packets</td><td>10,000 packets/s, burst "
                "200 packets</td>");
+  EXPECT_HOLDS(text, "<small>register</small></th><td class=\"mono\">index=3 values=77,77</td>");
   EXPECT_HOLDS(text,
-               "<small>register</small></th><td class=\"mono\">cell 3 = 77; all others 0</td>");
-  EXPECT_HOLDS(text, "<small>value set</small></th><td class=\"mono\">0x40&amp;0xf0 ingress</td>");
+               "<small>value set</small></th><td class=\"mono\">value=0x40 mask=0xf0 "
+               "direction=ingress</td>");
 }
 
 TEST_F(ReportTest, EmptyFullAndIdleDevices) {

@@ -9,10 +9,12 @@
 #include <random>
 #include <thread>
 
-#include "tesselctl/client.hpp"
-#include "tesselctl/files.hpp"
-#include "tesselctl/serve.hpp"
-#include "tesselctl/server.hpp"
+#include "tesselctl/command/flags.hpp"
+#include "tesselctl/server/client.hpp"
+#include "tesselctl/server/serve.hpp"
+#include "tesselctl/server/server.hpp"
+#include "tesselctl/text/file_writer.hpp"
+#include "tesselctl/text/files.hpp"
 #include "tool_fixture.hpp"
 
 namespace tesselctl {
@@ -100,7 +102,7 @@ class ServerTest : public ToolTest {
  protected:
   ~ServerTest() override { stop(); }
   void start(const ServerLimits &limits = {}) {
-    server_.emplace(device_, path_, limits);
+    server_.emplace(device_, ListeningSocket(path_), limits);
     thread_ = std::thread([this] { server_->run(); });
   }
   void stop() {
@@ -291,7 +293,7 @@ TEST_F(ServerTest, FilesAreThoseOfTheClientsDirectory) {
   client.say(request("state log x.json", directory_) + request("state restore x.json", directory_) +
              request("save image", directory_) + request("load " + directory_ + "/image") +
              request("state restore x.json") + request("state restore pipe", directory_) +
-             request("save -", directory_));
+             request("load -", directory_));
   EXPECT_EQ(client.hear(), "x\x01");
   EXPECT_EQ(client.hear(), "x\x01");
   EXPECT_TRUE(std::filesystem::exists(directory_ + "/x.json"));
@@ -483,7 +485,7 @@ TEST_F(ServerTest, OnlyTheSocketOfADeadServerIsReplaced) {
 TEST(ServeTest, ASignalEndsItAndTheImageOutlivesIt) {
   const TemporaryDirectory temporary;
   const ServeOptions options = {
-      {.id = 5, .pipes = 2}, temporary.name + "/socket", temporary.name + "/image"};
+      {.id = 5, .pipes = 2}, temporary.name + "/socket", {temporary.name + "/image"}};
   const auto connected = [&]() -> std::unique_ptr<TestClient> {
     while (true) {
       try {
@@ -495,7 +497,8 @@ TEST(ServeTest, ASignalEndsItAndTheImageOutlivesIt) {
   };
   const auto with_server = [&](auto body) {
     Output out;
-    std::thread thread([&] { serve(options, out); });
+    Output errors;
+    std::thread thread([&] { serve(options, out, errors); });
     body(*connected());
     pthread_kill(thread.native_handle(), SIGTERM);
     thread.join();

@@ -8,9 +8,8 @@
 
 #include <chrono>
 #include <fstream>
-#include <sstream>
 
-#include "tesselctl/line_editor.hpp"
+#include "tesselctl/shell/line_editor.hpp"
 #include "tests/tool/tool_fixture.hpp"
 
 namespace tesselctl {
@@ -196,36 +195,6 @@ TEST_F(ShellTest, AnInterruptEndsALongCommand) {
   ASSERT_TRUE(shell.sees(kPrompt));
   shell.type("count ipv4ShortMaskLpm\r");
   ASSERT_TRUE(shell.sees("20000"));
-}
-
-TEST(Manual, HasEveryCommandAndOption) {
-  std::stringstream text;
-  text << std::ifstream(SHARE_DIR "/man/tesselctl.1").rdbuf();
-  std::string page = text.str();
-  for (size_t at; (at = page.find("\\-")) != std::string::npos;) page.erase(at, 1);
-  for (const std::span<const Command> topic : command_topics()) {
-    for (const Command &command : topic) {
-      if (command.hidden) continue;
-      std::string want = ".TP\n.B " + std::string(command.name) + "\n";
-      if (!command.arguments.empty()) want += ".I " + std::string(command.arguments) + "\n";
-      EXPECT_NE(page.find(want), std::string::npos) << want;
-    }
-  }
-  FILE *help = popen(TOOL " --help", "r");
-  ASSERT_NE(help, nullptr);
-  size_t options = 0;
-  for (char line[512]; fgets(line, sizeof line, help) != nullptr;) {
-    std::string_view word = line;
-    const size_t at = word.find("--");
-    // Those of the tool; the commands stand below, further to the right.
-    if (at == std::string_view::npos || at > 6) continue;
-    word.remove_prefix(at);
-    word = word.substr(0, word.find_first_of(" ,\n"));
-    EXPECT_NE(page.find(word), std::string::npos) << word;
-    ++options;
-  }
-  EXPECT_EQ(pclose(help), 0);
-  EXPECT_GE(options, 8u);
 }
 
 }  // namespace

@@ -6,8 +6,8 @@
 #include <memory>
 #include <string>
 
-#include "tesselctl/command.hpp"
-#include "tesselctl/script.hpp"
+#include "tesselctl/command/local_runner.hpp"
+#include "tesselctl/command/script.hpp"
 
 namespace tesselctl {
 

@@ -1,79 +1,15 @@
 // Commands that run again and again.
-#include "tesselctl/watch.hpp"
+#include "tesselctl/shell/tool_runner.hpp"
 
-#include <regex>
-
-#include "tesselctl/completion.hpp"
+#include "tesselctl/command/completion.hpp"
+#include "tesselctl/shell/watch_screen.hpp"
 #include "tests/tool/tool_fixture.hpp"
 
 namespace tesselctl {
 
 namespace {
 
-class WatchTest : public ToolTest {
- protected:
-  // What the line prints, with TIME for each line that tells the time.
-  std::string watch(std::string_view line, Settings settings = {.terse = true}) {
-    context_.defaults = settings;
-    WatchRunner watching(runner_, out_, settings, -1);
-    outcome_ = watching.run({"w", 7, line});
-    static const std::regex time("# \\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\n");
-    return std::regex_replace(out_.take(), time, "TIME\n") + errors_.take();
-  }
-  LineOutcome outcome_ = LineOutcome::blank;
-};
-
-TEST_F(WatchTest, EveryRoundIsTheCommandAnew) {
-  ASSERT_EQ(run("register write ingVlanCheckData index=3 value=1"), "");
-  EXPECT_EQ(watch("watch 0.1 count=2 register read ingVlanCheckData index=3"),
-            "TIME\ningVlanCheckData index=3 values=1,1\n"
-            "TIME\ningVlanCheckData index=3 values=1,1\n");
-  EXPECT_EQ(outcome_, LineOutcome::done);
-  // The words of watch and of the command do not meet; the flags are the command's.
-  const std::string round =
-      "{\"version\":1,\"command\":\"--json            register range ingVlanCheckData first=3 "
-      "count=1\",\"rows\":[{\"register\":\"ingVlanCheckData\",\"index\":3,\"values\":[1,1]}]}\n";
-  EXPECT_EQ(watch("watch --json .1 count=2 register range ingVlanCheckData first=3 count=1"),
-            round + round);
-  EXPECT_EQ(watch("count"), "all tables are empty\n");
-}
-
-// Time goes on with every round.
-TEST_F(WatchTest, ShowsWhatExpires) {
-  ASSERT_EQ(run("age enable ipv4ShortMaskLpm sweep=10 ttl=1000"), "");
-  ASSERT_EQ(run("add ipv4ShortMaskLpm vrfId=1 dip=10.0.0.0/8 ttl=1500 action=setEcmp ecmpGroup=1"),
-            "");
-  EXPECT_EQ(watch("watch 0.1 count=3 age advance 1000"),
-            "TIME\nTIME\n"
-            "ipv4ShortMaskLpm entry=1 expired vrfId=1 dip=10.0.0.0/8 ttl=1500 action=setEcmp "
-            "ecmpGroup=1\nTIME\n");
-}
-
-TEST_F(WatchTest, AFaultEndsItAndHasItsPlace) {
-  EXPECT_EQ(
-      watch("watch 0.1 show ipv4ShortMaskLpm entry=1"),
-      "TIME\nw:7:16: 'ipv4ShortMaskLpm': BF_OBJECT_NOT_FOUND (7): No object has this handle, key "
-      "or name.\n"
-      "            show ipv4ShortMaskLpm entry=1\n"
-      "                 ^^^^^^^^^^^^^^^^\n");
-  EXPECT_EQ(outcome_, LineOutcome::fault);
-  const auto refused = [&](std::string_view line) {
-    const std::string text = watch(line);
-    return text.substr(0, text.find('\n'));
-  };
-  EXPECT_EQ(refused("watch"), "w:7: watch wants a command behind it");
-  EXPECT_EQ(refused("watch 0 count"), "w:7:7: '0': this should be seconds, 0.1 to 86400");
-  EXPECT_EQ(refused("watch 1e3 count"), "w:7:7: '1e3': this should be seconds, 0.1 to 86400");
-  EXPECT_EQ(refused("watch count=0 count"), "w:7:13: '0': this should be 1 or more");
-  EXPECT_EQ(refused("watch 1 cuont"),
-            "w:7:9: 'cuont': no command has this name; did you mean 'count'?");
-  EXPECT_EQ(refused("watch delete l2Lookup entry=1"),
-            "w:7:7: 'delete': watch repeats what asks and lists; this changes the device");
-  EXPECT_EQ(refused("watch watch count"), "w:7:7: 'watch': watch repeats other commands");
-  // A server does not wait for anybody.
-  EXPECT_EQ(run("watch 1 count"),
-            "1: 'watch': only the tool that the command is typed into can repeat it");
-}
+class WatchTest : public ToolTest {};
 
 TEST_F(WatchTest, AnInterruptEndsIt) {
   clear_interrupt();
@@ -83,10 +19,13 @@ TEST_F(WatchTest, AnInterruptEndsIt) {
     request_interrupt();
   });
   LocalRunner runner(device_, out, errors_, {.terse = true});
-  WatchRunner watching(runner, out, {}, -1);
+  ToolRunner watching(runner, out, errors_, -1);
   EXPECT_EQ(watching.run({"w", 1, "watch 3600 count"}), LineOutcome::done);
   EXPECT_TRUE(text.ends_with("\nall tables are empty\n")) << text;
   EXPECT_FALSE(interrupt_requested());
+  // A server does not wait for anybody.
+  EXPECT_EQ(run("watch 1 count"),
+            "1: 'watch': only the tool that the command is typed into can repeat it");
 }
 
 TEST_F(WatchTest, CompletesWhatItRepeats) {

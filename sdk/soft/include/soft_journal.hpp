@@ -23,16 +23,16 @@ namespace soft::journal {
 
 // A pointer that was null.
 struct NullPointer {
-  bool operator==(const NullPointer &) const = default;
+  bool operator==(const NullPointer &) const { return true; }
 };
 // A pointer to an out-parameter; what it points at is not looked at before the call.
 struct Output {
-  bool operator==(const Output &) const = default;
+  bool operator==(const Output &) const { return true; }
 };
 // A callback, a cookie or an object whose inside is not the SDK's to read.
 struct Opaque {
   uintptr_t address;
-  bool operator==(const Opaque &) const = default;
+  bool operator==(const Opaque &other) const { return address == other.address; }
 };
 
 using Bytes = std::vector<uint8_t>;

@@ -10,7 +10,7 @@ extern "C" {
 #endif
 
 /* ---- Placement data ----
- * Works for devices and virtual devices alike. The decoders of the contract tell an object of the
+ * Works for devices and virtual devices alike. The decoders of the contract refuse an object of the
  * other kind with BF_INVALID_ARGUMENT and one whose bytes have changed with BF_CORRUPT_DATA. They
  * fill the given buffers without regard to byte_count; a null data pointer is left out. */
 
@@ -38,9 +38,9 @@ void soft_placement_corrupt(pipe_mgr_placement_t *placement);
  * meters, all under the handles that they have in the virtual device. What the device had of them
  * before is gone. Counters, meters and registers of their own, hash calculations, digests, value
  * sets and snapshots stay as they are, and so do the callbacks of both devices; update callbacks
- * are not told of the replay.
+ * do not hear of the replay.
  *
- * Then the callback is told of all members of all profiles, then of all groups, with action 0, then
+ * Then the callback hears of all members of all profiles, then of all groups, with action 0, then
  * of all memberships, with the action of the member. has_resources is always 0, as members hold no
  * resources. The first status other than BF_SUCCESS ends the report and is returned; the device is
  * complete all the same.

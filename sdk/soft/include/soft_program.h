@@ -1,9 +1,9 @@
 /* A P4 program as the soft SDK learns it: objects, handles, key shapes and widths, as data. The
  * generator of a control-plane library emits one description per program, the constant
- * soft_program_<program> in a static library of that name; the host declares it,
+ * soft_program_<program> in a shared library of that name. A host that links it declares it,
  *   extern const soft_program_t soft_program_<program>;
- * and hands it over when it creates a device. The SDK keeps the pointer, so the description must
- * outlive the device. */
+ * one that loads it by name looks the symbol up; either hands it over when it creates a device.
+ * The SDK keeps the pointer, so the description must outlive the device. */
 #ifndef SOFT_PROGRAM_H
 #define SOFT_PROGRAM_H
 
@@ -112,7 +112,7 @@ typedef struct soft_value_set {
 typedef struct soft_snapshot_field {
   const char *name;
   uint16_t offset;
-  uint8_t bytes;
+  uint16_t bytes;
   uint16_t captured_at; /* or SOFT_NOT_CAPTURED */
 } soft_snapshot_field_t;
 

@@ -40,7 +40,7 @@ bf_status_t soft_device_remove(bf_device_id_t device);
  * What is added to either device afterwards gets the same handles. What the device held before is
  * gone. It stays virtual or not, and its snapshots have its own number in their handles.
  *
- * Nobody is told, and the listeners of both devices stay. A digest message that was sent stays with
+ * The listeners of both devices stay and hear nothing. A digest message that was sent stays with
  * the device that sent it, readable until it is acknowledged; its entries are unknown to the copy.
  * What the member-selector states (p4_pd_ms.h) hold of the device is copied with it. State that a
  * driver client keeps elsewhere is not: soft_device_log and soft_device_restore bring it over.
@@ -97,7 +97,7 @@ bf_status_t soft_table_capacity_get(bf_device_id_t device, pipe_object_handle_t 
 /* Which entry does a key hit in a pipe? key has the length of the table's key; exact, longest
  * prefix, or the smallest priority number (among equals the oldest entry) by the kind of table.
  * Without a hit the default entry is the answer and is_default is set (null: not wanted).
- * BF_OBJECT_NOT_FOUND: no hit and no default entry. Nothing is counted and no entry grows young. */
+ * BF_TABLE_MISS: no hit and no default entry. Nothing is counted and no entry grows young. */
 bf_status_t soft_lookup(bf_device_id_t device, bf_pipe_id_t pipe, pipe_object_handle_t table,
                         const uint8_t *key, uint32_t length, pipe_entry_handle_t *entry,
                         bool *is_default);

@@ -46,7 +46,8 @@ typedef struct soft_hit {
  * to the entry count the traffic in hardware, its meters mark it, its idle time starts anew. Then a
  * member or group is followed: the hash chooses the member as
  * pipe_mgr_sel_grp_mbr_get_from_hash does. Member and action are 0 for a group that has nothing to
- * choose. Without a meter, or with one that was never set, the traffic is green.
+ * choose. Without a meter, or with one that was never set, the traffic is green. BF_TABLE_MISS:
+ * the key hits no entry and the table has no default entry; nothing is counted.
  *
  * A meter has two token buckets, full at first, which gain tokens at the committed and at the peak
  * rate on the virtual clock, up to their bursts. Traffic costs its bits, with the byte-count
@@ -71,6 +72,10 @@ bf_status_t soft_meter_mark(bf_device_id_t device, bf_pipe_id_t pipe, pipe_objec
  * 0x07000000 names a WRED table. BF_OBJECT_NOT_FOUND: the cell was never set. */
 bf_status_t soft_wred_get(bf_device_id_t device, bf_pipe_id_t pipe, pipe_object_handle_t wred,
                           uint32_t index, pipe_mgr_wred_spec_t *spec);
+/* Moves on to the first cell at or behind the given one that was set in the pipe, by handle and
+ * then by index. BF_OBJECT_NOT_FOUND: there is none. */
+bf_status_t soft_next_wred_cell(bf_device_id_t device, bf_pipe_id_t pipe,
+                                pipe_object_handle_t *wred, uint32_t *index);
 
 /* ---- Profiles ---- */
 

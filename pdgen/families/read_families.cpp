@@ -1,0 +1,326 @@
+// Reads the files of the families.
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <sstream>
+
+#include "pdgen/families/families.hpp"
+#include "pdgen/families/lines.hpp"
+
+namespace pdgen {
+
+namespace {
+
+struct DeclaredParameter {
+  std::string type;
+  Where where;
+};
+
+// Words that stand for a parameter, by word and by "*word".
+using DeclaredParameters = std::map<std::string, DeclaredParameter, std::less<>>;
+
+bool is_word(char c) { return kWordCharacters.find(c) != std::string_view::npos; }
+
+// Cuts off what follows the last " <keyword> " outside of parentheses.
+std::string cut_tail(std::string &text, std::string_view keyword) {
+  const std::string mark = fmt::format(" {} ", keyword);
+  const std::size_t at = text.rfind(mark);
+  const std::size_t close = text.rfind(')');
+  if (at == std::string::npos || (close != std::string::npos && at < close)) return {};
+  std::string tail = text.substr(at + mark.size());
+  text.erase(at);
+  return tail;
+}
+
+Where where_of(std::string text) {
+  const bool negated = text.starts_with("not ");
+  return {negated ? text.substr(4) : text, negated};
+}
+
+class FamilyReader {
+ public:
+  FamilyReader(const CatalogueFile &file, const DeclaredParameters &declared,
+               Diagnostics &diagnostics)
+      : lines_(file), declared_(declared), diagnostics_(diagnostics) {}
+
+  Family read() {
+    Family family;
+    while (const TextLine *line = lines_.next(0)) {
+      std::string text = line->text;
+      const Place place = lines_.place(*line);
+      if (text.starts_with("note ")) {
+        read_note(text.substr(5), place, family);
+      } else if (text.starts_with("unit ")) {
+        read_unit(text.substr(5), place, family);
+      } else if (text.starts_with("each ") || text.starts_with("program")) {
+        family.blocks.push_back(read_block(text, place, 2));
+      } else {
+        report(place, "line", fmt::format("\"{}\" begins no note, unit, each or program", text));
+        lines_.skip(1);
+      }
+    }
+    if (family.unit.empty()) report(lines_.start(), "unit", "this file names no unit");
+    return family;
+  }
+
+ private:
+  void read_note(std::string title, const Place &place, Family &family) {
+    const Where where = where_of(cut_tail(title, "where"));
+    family.notes.push_back({place, title, lines_.joined(2), where});
+  }
+
+  void read_unit(const std::string &text, const Place &place, Family &family) {
+    const std::size_t colon = text.find(": ");
+    std::string name = text.substr(0, colon);
+    const std::string parts = cut_tail(name, "in");
+    family.place = place;
+    family.unit = name;
+    if (!parts.empty()) family.parts = static_cast<unsigned>(std::atoi(parts.c_str()));
+    if (colon == std::string::npos || family.parts == 0 || family.parts > 9) {
+      report(place, "unit",
+             fmt::format("\"{}\" must be NAME: HEADERS or NAME in N: HEADERS", text));
+      return;
+    }
+    family.includes = words(text.substr(colon + 2));
+  }
+
+  Block read_block(std::string head, const Place &place, std::size_t indent) {
+    Block block;
+    block.place = place;
+    block.group = cut_tail(head, "under");
+    block.where = where_of(cut_tail(head, "where"));
+    if (head.starts_with("each ")) block.walk = head.substr(5);
+    while (const TextLine *line = lines_.next(indent)) {
+      const Place at = lines_.place(*line);
+      if (line->text == "declare") {
+        block.items.emplace_back(StatedText{at, "", lines_.verbatim(indent + 2), {}});
+      } else if (line->text.starts_with("each ")) {
+        block.items.emplace_back(read_block(line->text, at, indent + 2));
+      } else {
+        block.items.emplace_back(read_function(*line, at, indent));
+      }
+    }
+    return block;
+  }
+
+  StatedFunction read_function(const TextLine &first, const Place &place, std::size_t indent) {
+    std::string head = first.text;
+    for (const std::string &rest : lines_.deeper(indent + 3)) head += " " + rest;
+    StatedFunction function;
+    function.place = place;
+    function.where = where_of(cut_tail(head, "where"));
+    function.family = cut_tail(head, "as");
+    const std::size_t open = head.find('(');
+    if (open == std::string::npos || head.back() != ')') {
+      report(place, "function", fmt::format("\"{}\" is no RESULT NAME(PARAMETERS)", head));
+      return function;
+    }
+    std::size_t name = open;
+    while (name > 0 &&
+           (is_word(head[name - 1]) || head[name - 1] == '<' || head[name - 1] == '>')) {
+      --name;
+    }
+    function.name = head.substr(name, open - name);
+    function.result = head.substr(0, head.find_last_not_of(' ', name - 1) + 1);
+    if (function.result == "status") function.result = "p4_pd_status_t";
+    if (function.family.empty()) function.family = family_of(function.name);
+    for (const std::string &item : list_items(head.substr(open + 1, head.size() - open - 2))) {
+      function.parameters.push_back(read_parameter(item, place));
+    }
+    function.statement = lines_.joined(indent + 2);
+    return function;
+  }
+
+  // The name without the objects in it.
+  static std::string family_of(std::string name) {
+    for (const char *object : {"_with_<action>", "_<action>"}) {
+      if (const std::size_t at = name.find(object); at != std::string::npos) {
+        name.erase(at, std::string_view(object).size());
+      }
+    }
+    std::size_t open = 0;
+    while ((open = name.find('<')) != std::string::npos) {
+      const std::size_t end = std::min(name.find('>', open), name.size() - 1) + 1;
+      const bool with_separator_in_front = end == name.size() && open > 0;
+      if (with_separator_in_front) --open;
+      name.erase(open, end - open + (with_separator_in_front ? 0 : 1));
+    }
+    return name;
+  }
+
+  StatedParameter read_parameter(std::string item, const Place &place) {
+    const bool optional = item.ends_with("?");
+    if (optional) item.pop_back();
+    if (item.find(' ') != std::string::npos) return full_parameter(item, optional, place);
+    const bool pointer = item.starts_with("*");
+    const std::string word = pointer ? item.substr(1) : item;
+    auto found = declared_.find(item);
+    const bool exact = found != declared_.end();
+    if (!exact) found = declared_.find(word);
+    if (found == declared_.end()) {
+      report(place, "function", fmt::format("{} is no parameter that is declared", item));
+      return {"int", word, {}};
+    }
+    if (optional && found->second.where.name.empty()) {
+      report(place, "function", fmt::format("{} has no condition, so it is never left out", item));
+    }
+    const std::string star =
+        pointer && !exact ? (found->second.type.ends_with("*") ? "*" : " *") : "";
+    return {found->second.type + star, word, optional ? found->second.where : Where{}};
+  }
+
+  // "const char *label"
+  StatedParameter full_parameter(const std::string &item, bool optional, const Place &place) {
+    std::size_t name = item.size();
+    while (name > 0 && is_word(item[name - 1])) --name;
+    if (optional || name == item.size()) {
+      report(place, "function", fmt::format("\"{}\" is no parameter: TYPE NAME", item));
+    }
+    std::string type = item.substr(0, name);
+    if (type.ends_with(" ")) type.pop_back();
+    return {type, item.substr(name), {}};
+  }
+
+  void report(const Place &place, std::string_view key, std::string message) const {
+    diagnostics_.report(place, key, std::move(message));
+  }
+
+  TextLines lines_;
+  const DeclaredParameters &declared_;
+  Diagnostics &diagnostics_;
+};
+
+// A file of text: "% each KIND", "% when CONDITION" and "% end" stand on lines of their own.
+class OutputReader {
+ public:
+  OutputReader(const CatalogueFile &file, Diagnostics &diagnostics)
+      : file_(file), diagnostics_(diagnostics) {}
+
+  Family read() {
+    std::istringstream lines(file_.text);
+    blocks_.emplace_back();
+    for (std::string line; std::getline(lines, line);) {
+      ++place_.line;
+      if (line.starts_with("% ")) {
+        read_order(line.substr(2));
+      } else if (!line.starts_with("%#")) {
+        add_text(line + "\n");
+      }
+    }
+    if (blocks_.size() > 1) report("a block has no end");
+    if (output_.unit.empty()) report("this file names no file");
+    while (blocks_.size() > 1) close();
+    output_.blocks.push_back(std::move(blocks_.back()));
+    return std::move(output_);
+  }
+
+ private:
+  void read_order(std::string order) {
+    if (order.starts_with("file ")) {
+      output_.unit = order.substr(5);
+    } else if (order == "end" && blocks_.size() > 1) {
+      close();
+    } else if (order.starts_with("each ") || order.starts_with("when ")) {
+      Block block;
+      block.place = place_;
+      block.where = where_of(order[0] == 'w' ? order.substr(5) : cut_tail(order, "where"));
+      if (order[0] == 'e') block.walk = order.substr(5);
+      blocks_.push_back(std::move(block));
+    } else {
+      report(fmt::format("\"{}\" is no file, each, when or end of one", order));
+    }
+  }
+
+  void add_text(const std::string &line) {
+    auto &items = blocks_.back().items;
+    if (items.empty() || !std::holds_alternative<StatedText>(items.back())) {
+      items.emplace_back(StatedText{place_, "", "", {}});
+    }
+    std::get<StatedText>(items.back()).text += line;
+  }
+
+  void close() {
+    Block inner = std::move(blocks_.back());
+    blocks_.pop_back();
+    blocks_.back().items.emplace_back(std::move(inner));
+  }
+
+  void report(std::string message) { diagnostics_.report(place_, "output", std::move(message)); }
+
+  const CatalogueFile &file_;
+  Diagnostics &diagnostics_;
+  Place place_ = {file_.path, 0};
+  Family output_;
+  std::vector<Block> blocks_;  // those that are open
+};
+
+// interface.family: the parameters, and the names of the other files in order.
+struct Index {
+  DeclaredParameters parameters;
+  std::vector<std::pair<std::string, Place>> files;  // with their endings
+};
+
+Index read_index(const CatalogueFile &file, Diagnostics &diagnostics) {
+  Index index;
+  TextLines lines(file);
+  while (const TextLine *line = lines.next(0)) {
+    std::string text = line->text;
+    const Place place = lines.place(*line);
+    std::vector<std::string> parts = words(text);
+    if (parts.front() == "families" || parts.front() == "outputs") {
+      const char *ending = parts.front() == "outputs" ? ".output" : ".family";
+      for (std::size_t i = 1; i < parts.size(); ++i)
+        index.files.emplace_back(parts[i] + ending, place);
+    } else if (parts.front() == "parameter" && parts.size() > 2) {
+      const Where where = where_of(cut_tail(text, "where"));
+      if (text.ends_with(",")) text.pop_back();
+      const std::size_t type =
+          text.find_first_not_of(' ', text.find(" " + parts[1]) + 1 + parts[1].size());
+      if (!index.parameters.try_emplace(parts[1], DeclaredParameter{text.substr(type), where})
+               .second) {
+        diagnostics.report(place, "parameter", fmt::format("{} is declared twice", parts[1]));
+      }
+    } else {
+      diagnostics.report(
+          place, "line",
+          fmt::format("\"{}\" must be parameter NAME TYPE, families NAMES or outputs NAMES", text));
+    }
+  }
+  return index;
+}
+
+const CatalogueFile *find_file(const std::vector<CatalogueFile> &files, const std::string &name) {
+  const auto found = std::find_if(files.begin(), files.end(), [&](const CatalogueFile &file) {
+    return std::filesystem::path(file.path).filename() == name;
+  });
+  return found == files.end() ? nullptr : &*found;
+}
+
+}  // namespace
+
+Families load_families(const std::vector<CatalogueFile> &files, Diagnostics &diagnostics) {
+  Families families;
+  const CatalogueFile *interface = find_file(files, "interface.family");
+  if (interface == nullptr) {
+    diagnostics.report({"interface.family", 1}, "file", "the families need this file");
+    return families;
+  }
+  const Index index = read_index(*interface, diagnostics);
+  for (const auto &[name, place] : index.files) {
+    const CatalogueFile *file = find_file(files, name);
+    if (file == nullptr) {
+      diagnostics.report(place, "families", fmt::format("there is no file {}", name));
+      continue;
+    }
+    if (name.ends_with(".output")) {
+      families.outputs.push_back(OutputReader(*file, diagnostics).read());
+    } else {
+      families.families.push_back(FamilyReader(*file, index.parameters, diagnostics).read());
+    }
+  }
+  check_families(families, diagnostics);
+  return families;
+}
+
+}  // namespace pdgen

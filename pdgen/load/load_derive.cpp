@@ -1,0 +1,127 @@
+// Fills in what follows from the rows: positions, sizes, records, tool names, resource items.
+#include <algorithm>
+
+#include "pdgen/check/check.hpp"
+#include "pdgen/load/load_sections.hpp"
+#include "pdgen/names.hpp"
+
+namespace pdgen {
+
+namespace {
+
+// The size of a C record of members of that storage; 16 bytes are an array, aligned like one byte.
+template <typename Row>
+unsigned record_size(const std::vector<Row> &members) {
+  unsigned size = 0;
+  unsigned largest = 1;
+  const auto align = [&](unsigned alignment) {
+    size += (alignment - size % alignment) % alignment;
+  };
+  for (const Row &member : members) {
+    const unsigned alignment = member.storage_bytes == 16 ? 1 : member.storage_bytes;
+    align(alignment);
+    size += member.storage_bytes;
+    largest = std::max(largest, alignment);
+  }
+  align(largest);
+  return size;
+}
+
+void place_params(Action &action) {
+  for (Param &param : action.params) {
+    param.offset = action.data_bytes;
+    action.data_bytes += param.bytes;
+    action.data_bits += param.width;
+  }
+  action.record_bytes = record_size(action.params);
+}
+
+void place_key(Table &table) {
+  for (const std::size_t index : table.key_order) {
+    KeyField &field = table.key[index];
+    field.offset = table.key_bytes;
+    table.key_bytes += field.bytes;
+    table.key_bits += field.width;
+  }
+}
+
+void name_fields(Table &table, const FieldFacts &facts) {
+  const std::vector<std::string> names = cli_names(table.key, facts.instance_prefixes);
+  for (std::size_t i = 0; i < table.key.size(); ++i) {
+    table.key[i].cli_name = names[i];
+    const FieldHint *hint = hint_of(table.key[i].name, table.key[i].width, facts);
+    if (hint != nullptr) table.key[i].hint = hint->hint;
+  }
+}
+
+RecordField companion(const KeyField &field, std::size_t index) {
+  RecordField member;
+  member.key_index = index;
+  if (field.match == Match::kTernary) {
+    member.role = RecordRole::kMask;
+    member.name = mask_member(field.name);
+    member.cli_name = mask_cli_name(field.cli_name);
+    member.width = field.width;
+    member.storage_bytes = field.storage_bytes;
+  } else {
+    member.role = RecordRole::kPrefixLength;
+    member.name = prefix_length_member(field.name);
+    member.cli_name = prefix_length_cli_name(field.cli_name);
+    member.width = 16;
+    member.storage_bytes = 2;
+  }
+  return member;
+}
+
+void lay_out_record(Table &table) {
+  for (std::size_t i = 0; i < table.key.size(); ++i) {
+    const KeyField &field = table.key[i];
+    RecordField value;
+    value.key_index = i;
+    value.name = field.name;
+    value.cli_name = field.cli_name;
+    value.hint = field.hint;
+    value.width = field.width;
+    value.storage_bytes = field.storage_bytes;
+    table.record.push_back(value);
+    if (field.match != Match::kExact) table.record.push_back(companion(field, i));
+  }
+  table.record_bytes = record_size(table.record);
+}
+
+void list_resource_items(Table &table) {
+  for (Pair &pair : table.pairs) {
+    for (const ResourceRow &row : table.resources) {
+      if (!applies_to(row, pair)) continue;
+      const Param *index = row.index.empty() ? nullptr : find_row(pair.action->params, row.index);
+      for (std::size_t operation = 0; operation < kOperationCount; ++operation) {
+        if (row.in[operation]) {
+          pair.items[operation].push_back({row.resource.target, index, row.tag});
+        }
+      }
+    }
+  }
+}
+
+void complete_labels(Program &program) {
+  for (Label &label : program.labels) {
+    for (LabelItem &item : label.items) {
+      if (item.kind == LabelKind::kFlag && item.bit == 0) item.bit = 1;
+    }
+  }
+}
+
+}  // namespace
+
+void derive_facts(Program &program) {
+  for (Action &action : program.actions) place_params(action);
+  for (Table &table : program.tables) {
+    place_key(table);
+    name_fields(table, program.field_facts);
+    lay_out_record(table);
+    list_resource_items(table);
+  }
+  complete_labels(program);
+}
+
+}  // namespace pdgen

@@ -1,0 +1,77 @@
+#include "pdgen/load/toml_reader.hpp"
+
+#define TOML_EXCEPTIONS 0
+#include <toml++/toml.h>
+
+#include <utility>
+
+namespace pdgen {
+
+namespace {
+
+Place place_of(const std::string &path, const toml::source_region &source) {
+  return {path, source.begin.line};
+}
+
+TomlValue convert(const std::string &path, const toml::node &node) {
+  TomlValue value;
+  value.place = place_of(path, node.source());
+  if (const auto *table = node.as_table()) {
+    TomlValue::Table members;
+    for (const auto &[key, member] : *table) {
+      members.push_back(
+          {std::string(key.str()), place_of(path, key.source()), convert(path, member)});
+    }
+    value.data = std::move(members);
+  } else if (const auto *array = node.as_array()) {
+    TomlValue::Array elements;
+    for (const toml::node &element : *array) elements.push_back(convert(path, element));
+    value.data = std::move(elements);
+  } else if (const auto *text = node.as_string()) {
+    value.data = text->get();
+  } else if (const auto *number = node.as_integer()) {
+    value.data = number->get();
+  } else if (const auto *boolean = node.as_boolean()) {
+    value.data = boolean->get();
+  }
+  return value;
+}
+
+}  // namespace
+
+const TomlMember *TomlValue::find(std::string_view key) const {
+  const Table *members = std::get_if<Table>(&data);
+  if (members == nullptr) return nullptr;
+  for (const TomlMember &member : *members) {
+    if (member.key == key) return &member;
+  }
+  return nullptr;
+}
+
+std::string_view TomlValue::kind_text() const {
+  static constexpr std::string_view kTexts[] = {"a number with a point, a date or a time",
+                                                "true or false",
+                                                "a whole number",
+                                                "a string",
+                                                "an array",
+                                                "a table"};
+  return kTexts[data.index()];
+}
+
+TomlFile parse_toml(const std::string &path, std::string_view text, Diagnostics &diagnostics) {
+  TomlFile file;
+  file.root.place = {path, 1};
+  file.root.data = TomlValue::Table{};
+  const toml::parse_result result = toml::parse(text, std::string_view(path));
+  if (!result) {
+    diagnostics.report(place_of(path, result.error().source()), "syntax",
+                       std::string(result.error().description()));
+    return file;
+  }
+  file.root = convert(path, result.table());
+  file.root.place.line = 1;
+  file.parsed = true;
+  return file;
+}
+
+}  // namespace pdgen

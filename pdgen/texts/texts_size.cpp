@@ -1,0 +1,95 @@
+// How long texts can get: what callers size their buffers by.
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "pdgen/names.hpp"
+#include "pdgen/texts/texts.hpp"
+
+namespace pdgen {
+
+namespace {
+
+constexpr std::size_t kMac = std::string_view("0011.2233.4455").size();
+constexpr std::size_t kV4Addr = std::string_view("255.255.255.255").size();
+constexpr std::size_t kV6Addr = std::string_view("1111:2222:3333:4444:5555:6666:7777:8888").size();
+
+void raise(std::size_t &greatest, std::size_t size) { greatest = std::max(greatest, size); }
+
+std::size_t pointee_size() { return std::string_view("('setMbrHdl',(0xffffffff,))").size(); }
+
+std::size_t number_size(const LabelItem &item) {
+  const KeyField &field = *item.field;
+  const auto value_digits = [&] {
+    return std::max<std::size_t>(item.digits, fmt::formatted_size("{:x}", field.key_bits));
+  };
+  // The mask is written as the record holds it.
+  const std::size_t masked = std::string_view(" & 0x").size() + 2 * field.storage_bytes;
+  const std::size_t number = item.format.size() + std::string_view(" 0x ").size() + value_digits() +
+                             (item.kind == LabelKind::kNumber ? masked : 0);
+  std::size_t greatest = number;
+  for (const LabelText &text : item.texts) raise(greatest, text.text.size());
+  return greatest;
+}
+
+std::size_t item_size(const LabelItem &item) {
+  const auto address = [&](std::size_t value, std::size_t mask) {
+    return item.label.size() + std::string_view(" / ").size() + value + mask;
+  };
+  switch (item.kind) {
+    case LabelKind::kFlag:
+      return std::string_view("!").size() + item.label.size() + item.after;
+    case LabelKind::kNumber:
+    case LabelKind::kExact:
+      return number_size(item);
+    case LabelKind::kSilent:
+      return 0;
+    case LabelKind::kMac:
+      return address(kMac, kMac);
+    case LabelKind::kV4Addr:
+      return address(kV4Addr, std::string_view("32").size());
+    case LabelKind::kV6Addr:
+      return address(kV6Addr, kV6Addr);
+  }
+  return 0;
+}
+
+}  // namespace
+
+std::size_t entry_value_size(const Table &table) {
+  std::size_t key = std::string_view("(),").size();
+  if (table.keyed()) raise(key, match_spec_value(table).text.size());
+  std::size_t action = table.indirect() ? pointee_size() : 0;
+  for (const Pair &pair : table.pairs) raise(action, action_value(*pair.action).text.size());
+  const std::size_t priority = std::string_view(table.has_priority() ? "-2147483648" : "0").size();
+  return std::string_view("((),(,True))").size() + key + action + priority + 1;
+}
+
+std::size_t label_size(const Label &label) {
+  std::size_t size = 1;
+  for (const LabelItem &item : label.items) size += item_size(item);
+  return size;
+}
+
+TextSizes text_sizes(const Program &program) {
+  TextSizes sizes;
+  for (const Table &table : program.tables) {
+    raise(sizes.schema, table_schema(table).size() + 1);
+    raise(sizes.value, entry_value_size(table));
+    if (table.keyed()) raise(sizes.match_spec_value, match_spec_value(table).text.size() + 1);
+  }
+  for (const Profile &profile : program.profiles) {
+    raise(sizes.schema, profile_schema(profile).size() + 1);
+  }
+  for (const Action &action : program.actions) {
+    raise(sizes.action_value, action_value(action).text.size() + 1);
+    raise(sizes.action_name, action_constant(program, action).size() + 1);
+  }
+  // A program may have no keyed table and no label; their functions write a NUL at most.
+  raise(sizes.match_spec_value, 1);
+  raise(sizes.label, 1);
+  for (const Label &label : program.labels) raise(sizes.label, label_size(label));
+  return sizes;
+}
+
+}  // namespace pdgen

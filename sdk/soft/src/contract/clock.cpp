@@ -1,0 +1,25 @@
+// The virtual clock of the process.
+#include <atomic>
+
+#include "device/device_registry.hpp"
+#include "soft_sdk.h"
+
+namespace {
+
+std::atomic<uint64_t> clock_ms{0};
+
+}  // namespace
+
+uint64_t soft_clock_now(void) { return clock_ms.load(std::memory_order_relaxed); }
+
+// Objects learn the time that was reached, not the step: where two threads advance at once, or a
+// callback advances again, an object may hear of a time that it has passed already.
+void soft_clock_advance(uint64_t milliseconds) {
+  const uint64_t now = clock_ms.fetch_add(milliseconds, std::memory_order_relaxed) + milliseconds;
+  for (bf_device_id_t id = 0; id < SOFT_DEVICE_LIMIT; ++id) {
+    if (!soft_device_exists(id)) continue;
+    const soft::DeviceHold device(id);
+    if (!device) continue;
+    for (const auto &object : device->objects()) object->clock_advanced(now);
+  }
+}

@@ -1,0 +1,103 @@
+#include "stateful/counter.hpp"
+
+#include "soft_traffic.h"
+
+namespace soft {
+namespace {
+
+const EngineSet counters{
+    EngineOrder::kStateful,
+    add_all<Counter, &soft_program_t::counters, &soft_program_t::counter_count>};
+
+}  // namespace
+
+Counter::Counter(const Device &device, const soft_counter_t &description)
+    : ObjectOf(description.handle),
+      direct_(description.table != 0),
+      memory_(std::pmr::new_delete_resource()),
+      cells_(direct_ ? 0 : device.pipes(), &memory_) {}
+
+bf_status_t Counter::check(uint32_t index) const {
+  if (direct_) return BF_NOT_SUPPORTED;
+  return index < SOFT_COUNTER_CELLS ? BF_SUCCESS : BF_INVALID_ARGUMENT;
+}
+
+bf_status_t Counter::query(bf_pipe_id_t pipe, uint32_t index, pipe_mgr_counter_t *value) {
+  if (const bf_status_t status = check(index); status != BF_SUCCESS) return status;
+  if (value == nullptr) return BF_INVALID_ARGUMENT;
+  pipe_mgr_counter_t sum{};
+  const std::lock_guard lock(mutex_);
+  cells_.in(pipe, [&](const Cells &cells) {
+    const EntryCounters *cell = cells.find(index);
+    if (cell == nullptr) return;
+    sum.packets += cell->software.packets;
+    sum.bytes += cell->software.bytes;
+  });
+  *value = sum;
+  return BF_SUCCESS;
+}
+
+bf_status_t Counter::set(bf_pipe_id_t pipe, uint32_t index, const pipe_mgr_counter_t *value) {
+  if (const bf_status_t status = check(index); status != BF_SUCCESS) return status;
+  if (value == nullptr) return BF_INVALID_ARGUMENT;
+  const std::lock_guard lock(mutex_);
+  // The one cell that may need memory comes first; in other pipes a cell without it is zero.
+  cells_.in(pipe == BF_ALL_PIPES ? 0 : pipe, [&](Cells &cells) { cells.at(index); });
+  pipe_mgr_counter_t rest = *value;
+  cells_.in(pipe, [&](Cells &cells) {
+    EntryCounters *cell = cells.find(index);
+    if (cell == nullptr) return;
+    *cell = {{}, rest};
+    rest = {};
+  });
+  return BF_SUCCESS;
+}
+
+bf_status_t Counter::sync(bf_pipe_id_t pipe, uint32_t index) {
+  if (const bf_status_t status = check(index); status != BF_SUCCESS) return status;
+  const std::lock_guard lock(mutex_);
+  cells_.in(pipe, [&](Cells &cells) {
+    if (EntryCounters *cell = cells.find(index)) synchronise(*cell);
+  });
+  return BF_SUCCESS;
+}
+
+bf_status_t Counter::sync_all(bf_pipe_id_t pipe) {
+  if (direct_) return BF_NOT_SUPPORTED;
+  const std::lock_guard lock(mutex_);
+  cells_.in(pipe, [](Cells &cells) { cells.each(synchronise); });
+  return BF_SUCCESS;
+}
+
+bf_status_t Counter::count(bf_pipe_id_t pipe, uint32_t index, uint64_t packets, uint64_t bytes) {
+  if (const bf_status_t status = check(index); status != BF_SUCCESS) return status;
+  const std::lock_guard lock(mutex_);
+  cells_.in(pipe, [&](Cells &cells) {
+    pipe_mgr_counter_t &counted = cells.at(index).hardware;
+    counted.packets += packets;
+    counted.bytes += bytes;
+  });
+  return BF_SUCCESS;
+}
+
+bf_status_t Counter::next_cell(uint32_t from, uint32_t *cell) {
+  if (direct_) return BF_NOT_SUPPORTED;
+  const std::lock_guard lock(mutex_);
+  return cells_.next(from, cell, [](const EntryCounters &cell_counters) {
+    return (cell_counters.hardware.packets | cell_counters.hardware.bytes |
+            cell_counters.software.packets | cell_counters.software.bytes) != 0;
+  });
+}
+
+uint64_t Counter::memory_bytes() {
+  const std::lock_guard lock(mutex_);
+  return sizeof(*this) + memory_.bytes();
+}
+
+void Counter::copy_from(Object &object) {
+  Counter &other = *object.as<Counter>();
+  const std::scoped_lock lock(mutex_, other.mutex_);
+  cells_.copy_from(other.cells_);
+}
+
+}  // namespace soft

@@ -1,0 +1,60 @@
+// A meter of the program: its byte-count adjustment, and the cells of an indirect one. The rates of
+// a direct meter belong to the entries of its table; calls that name a cell of it are
+// BF_NOT_SUPPORTED.
+//
+// Each pipe has cells of its own. BF_ALL_PIPES sets them all and reads the one of pipe 0. A cell
+// that was never set reads as a colour-unaware spec of zeros and marks all traffic green.
+#pragma once
+
+#include <mutex>
+
+#include "device/device.hpp"
+#include "stateful/meter_buckets.hpp"
+#include "store/cell_array.hpp"
+#include "store/counting_resource.hpp"
+
+namespace soft {
+
+// BF_INVALID_ARGUMENT: the index is SOFT_METER_CELLS or more, or the rates do not fit the meter.
+// Pipes are checked by the caller.
+class Meter : public ObjectOf<Meter> {
+ public:
+  Meter(const Device &device, const soft_meter_t &description);
+
+  bf_status_t set(bf_pipe_id_t pipe, uint32_t index, const pipe_mgr_meter_spec_t *spec);
+  bf_status_t get(bf_pipe_id_t pipe, uint32_t index, pipe_mgr_meter_spec_t *spec);
+
+  // Of the whole meter, a signed number.
+  void set_adjustment(uint32_t adjustment);
+  uint32_t adjustment();
+
+  // Tokens that traffic costs in this meter; also of a direct one.
+  uint64_t cost(uint64_t packets, uint64_t bytes);
+
+  // Traffic, in one pipe. One of SOFT_COLOR_*.
+  bf_status_t mark(bf_pipe_id_t pipe, uint32_t index, uint64_t packets, uint64_t bytes,
+                   uint8_t *color);
+
+  bf_status_t next_cell(uint32_t from, uint32_t *cell) override;
+  uint64_t memory_bytes() override;
+  void copy_from(Object &object) override;
+
+ private:
+  struct Cell {
+    pipe_mgr_meter_spec_t spec;
+    MeterBuckets buckets;
+    bool set;
+  };
+  using Cells = CellArray<Cell>;
+
+  bf_status_t check(uint32_t index) const;
+
+  bool direct_;
+  uint32_t unit_;
+  std::mutex mutex_;
+  CountingResource memory_;
+  PipedCells<Cell> cells_;
+  uint32_t adjustment_ = 0;
+};
+
+}  // namespace soft

@@ -1,0 +1,98 @@
+// Finds numbered records by the hash of their key: open addressing that grows in small steps.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory_resource>
+#include <vector>
+
+namespace soft {
+
+// A directory over the top bits of the hash leads to segments of up to 4096 cells. A segment that
+// fills up is split in two, so growing never touches more than one segment, and the cost per record
+// does not depend on their number. Several directory slots may share a segment.
+//
+// A cell holds the record number plus one in its low 26 bits and 38 bits of the hash above, enough
+// to place it anew without looking at the record; 0 is a free cell.
+class KeyIndex {
+ public:
+  static constexpr uint32_t kNone = 0xffffffff;
+
+  explicit KeyIndex(std::pmr::memory_resource *memory) : memory_(memory), directory_(memory) {}
+  ~KeyIndex();
+  KeyIndex(const KeyIndex &) = delete;
+  KeyIndex &operator=(const KeyIndex &) = delete;
+
+  // Makes an empty index equal to another one. May throw std::bad_alloc; the object can
+  // then only be destroyed.
+  void copy_from(const KeyIndex &other);
+
+  // The first record of this hash for which same(record) holds, or kNone.
+  template <typename Same>
+  uint32_t find(uint64_t hash, Same same) const {
+    if (directory_.empty()) return kNone;
+    const Segment &segment = *directory_[slot_of(hash)];
+    const uint64_t *cells = segment.cells();
+    for (uint32_t at = home(hash, segment);; at = (at + 1) & segment.last) {
+      const uint64_t cell = cells[at];
+      if ((cell ^ hash) <= kRecord && cell != 0) {
+        const uint32_t record = static_cast<uint32_t>(cell & kRecord) - 1;
+        if (same(record)) return record;
+      }
+      if (cell == 0) return kNone;
+    }
+  }
+
+  // Makes room for one more record of this hash. May throw std::bad_alloc, and then all records are
+  // still found.
+  void reserve(uint64_t hash);
+
+  // Adds a record, after reserve() of the same hash.
+  void insert(uint64_t hash, uint32_t record);
+
+  // For a record that is there under this hash.
+  void replace(uint64_t hash, uint32_t record, uint32_t with);
+  void erase(uint64_t hash, uint32_t record);
+
+  // Forgets all records and gives the memory back.
+  void reset();
+
+ private:
+  static constexpr uint64_t kRecord = (uint64_t{1} << 26) - 1;
+  static constexpr size_t kLine = 64;
+  static constexpr uint32_t kFirstCells = 16;
+  static constexpr uint32_t kMostCells = 4096;
+  static constexpr uint32_t kMostDepth = 20;
+
+  // Its cells follow in the same block of memory.
+  struct alignas(kLine) Segment {
+    uint32_t last;   // number of cells minus one
+    uint32_t used;   // cells
+    uint32_t depth;  // leading hash bits that all its records share
+
+    uint64_t *cells() { return reinterpret_cast<uint64_t *>(this + 1); }
+    const uint64_t *cells() const { return reinterpret_cast<const uint64_t *>(this + 1); }
+  };
+
+  size_t slot_of(uint64_t hash) const { return static_cast<size_t>(hash >> 1 >> (63 - depth_)); }
+  static uint32_t home(uint64_t hash, const Segment &segment) {
+    return static_cast<uint32_t>(hash >> 26) & segment.last;
+  }
+  static size_t bytes_of(uint32_t cells) { return sizeof(Segment) + cells * sizeof(uint64_t); }
+  static void put(Segment &segment, uint64_t cell);
+  static uint64_t *cell_of(Segment &segment, uint64_t cell);
+
+  Segment *make(uint32_t cells, uint32_t depth);
+  void free(Segment *segment);
+  void free_segments();
+  void enlarge(uint64_t hash);
+  void split(uint64_t hash);
+  void double_directory();
+  void point(uint64_t hash, uint32_t depth, Segment *to);
+
+  std::pmr::memory_resource *memory_;
+  uint32_t depth_ = 0;  // leading hash bits that choose the directory slot
+  std::pmr::vector<Segment *> directory_;
+};
+
+}  // namespace soft

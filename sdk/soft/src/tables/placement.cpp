@@ -1,0 +1,106 @@
+#include "tables/placement.hpp"
+
+#include <cstring>
+#include <new>
+
+namespace soft {
+namespace {
+
+constexpr uint32_t kMark = 0x706c6364;
+
+// More than any entry needs: what claims to be longer is no placement data, and is not read.
+constexpr uint32_t kMostContents = 1u << 20;
+
+// Every step can be undone, so contents that differ in eight bytes only never have the same sum.
+uint64_t mixed(uint64_t sum, uint64_t word) {
+  sum = (sum ^ word) * 0x9e3779b97f4a7c15u;
+  return sum ^ sum >> 32;
+}
+
+uint64_t checksum_of(const uint8_t *contents, size_t length) {
+  uint64_t sum = length;
+  uint64_t word = 0;
+  for (; length >= sizeof word; contents += sizeof word, length -= sizeof word) {
+    std::memcpy(&word, contents, sizeof word);
+    sum = mixed(sum, word);
+  }
+  word = 0;
+  std::memcpy(&word, contents, length);
+  return mixed(sum, word);
+}
+
+pipe_mgr_placement_t *new_object(size_t room) {
+  return new (::operator new(sizeof(pipe_mgr_placement) + room))
+      pipe_mgr_placement{0, static_cast<uint32_t>(room), 0, 0, 0};
+}
+
+}  // namespace
+
+PlacementDraft::PlacementDraft(pipe_mgr_placement_t **placement, uint16_t data_room,
+                               uint16_t key_room)
+    : placement_(placement), object_(*placement) {
+  head_.data_room = data_room;
+  head_.key_room = key_room;
+  const size_t most = head_.length() + PIPE_RESOURCES_PER_ACTION * sizeof(pipe_mgr_resource_t);
+  if (object_ == nullptr || object_->room < most) object_ = new_object(most);
+}
+
+PlacementDraft::~PlacementDraft() {
+  if (object_ != *placement_) ::operator delete(object_);
+}
+
+void PlacementDraft::complete(const pipe_mgr_match_spec_t &match,
+                              const pipe_mgr_action_spec_t &spec, pipe_object_handle_t action) {
+  head_.kind = PlacedKind::kEntry;
+  head_.has_key = match.value != nullptr;
+  head_.key_bits = match.valid_bit_count;
+  head_.scope = match.scope;
+  head_.priority = match.priority;
+  head_.data_bits = spec.data.valid_bit_count;
+  head_.data_bytes = spec.data.byte_count;
+  head_.type = spec.type;
+  head_.reference = spec.type == PIPE_ACTION_GROUP ? spec.group : spec.member;
+  head_.action = action;
+  head_.resource_count = spec.resource_count;
+  if (head_.has_key == 0) std::memset(value(), 0, 2 * size_t{head_.key_room});
+  std::memcpy(mask() + head_.key_room, spec.resources,
+              spec.resource_count * sizeof(pipe_mgr_resource_t));
+  seal();
+}
+
+void PlacementDraft::complete(const pipe_mgr_action_data_t &data, pipe_object_handle_t action) {
+  head_.kind = PlacedKind::kMember;
+  head_.data_bits = data.valid_bit_count;
+  head_.data_bytes = data.byte_count;
+  head_.action = action;
+  seal();
+}
+
+void PlacementDraft::seal() {
+  std::memset(data() + head_.data_bytes, 0, head_.data_room - size_t{head_.data_bytes});
+  std::memcpy(object_->contents(), &head_, sizeof head_);
+  object_->mark = kMark;
+  object_->length = static_cast<uint32_t>(head_.length());
+  object_->checksum = checksum_of(object_->contents(), object_->length);
+  if (object_ == *placement_) return;
+  ::operator delete(*placement_);
+  *placement_ = object_;
+}
+
+bf_status_t open_placement(const pipe_mgr_placement_t *placement, PlacedKind kind, Placed *placed) {
+  if (placement == nullptr) return BF_INVALID_ARGUMENT;
+  if (placement->mark != kMark || placement->length < sizeof(PlacedHead) ||
+      placement->length > kMostContents ||
+      placement->checksum != checksum_of(placement->contents(), placement->length)) {
+    return BF_CORRUPT_DATA;
+  }
+  placed->contents = placement->contents();
+  std::memcpy(&placed->head, placed->contents, sizeof(PlacedHead));
+  if (placed->head.kind != kind) return BF_INVALID_ARGUMENT;
+  const bool fits = placed->head.resource_count <= PIPE_RESOURCES_PER_ACTION &&
+                    placed->head.data_bytes <= placed->head.data_room &&
+                    placed->head.length() == placement->length;
+  return fits ? BF_SUCCESS : BF_CORRUPT_DATA;
+}
+
+}  // namespace soft

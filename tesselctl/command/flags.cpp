@@ -1,0 +1,246 @@
+#include "tesselctl/command/flags.hpp"
+
+#include <algorithm>
+
+#include "tesselctl/program/value.hpp"
+#include "tesselctl/text/suggest.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+// The setter of a flag that has no value.
+template <bool Settings::*Member>
+void turn_on(ToolSettings &settings, Word) {
+  settings.lines.*Member = true;
+}
+
+void set_image(ToolSettings &settings, Word value) {
+  settings.image = value.text;
+  settings.device_flag = "--image";
+}
+
+void set_device(ToolSettings &settings, Word value) {
+  settings.device.id = static_cast<uint32_t>(parse_limited(value, 255, "the device id"));
+  settings.device_flag = "--device";
+}
+
+void set_pipes(ToolSettings &settings, Word value) {
+  settings.device_flag = "--pipes";
+  settings.device.pipes = static_cast<uint32_t>(parse_limited(value, 8, "the number of pipes"));
+  if (settings.device.pipes == 0) throw Fault(value, "a device has 1 to 8 pipes");
+  settings.pipes_are_given = true;
+}
+
+void set_filter(ToolSettings &settings, Word value) {
+  const Assignment words = split_assignment(value);
+  settings.lines.filters.push_back({std::string(words.name.text), std::string(words.value.text)});
+}
+
+constexpr Flag kFlags[] = {
+    {"--image",
+     {},
+     "FILE",
+     FlagOf::tool,
+     set_image,
+     "works on the device of an image, and saves it there when a command changed it"},
+    {"--socket",
+     {},
+     "PATH",
+     FlagOf::tool,
+     [](ToolSettings &settings, Word value) { settings.socket = value.text; },
+     "works on the device of the server that listens there; of serve: where it listens"},
+    {"--device", {}, "N", FlagOf::tool, set_device, "id of the device, 0 to 255 (0)"},
+    {"--pipes",
+     {},
+     "N",
+     FlagOf::tool,
+     set_pipes,
+     "pipes of the device, 1 to 8 (those of the image, or 4)"},
+    {"--history",
+     {},
+     "FILE",
+     FlagOf::tool,
+     [](ToolSettings &settings, Word value) { settings.history = value.text; },
+     "file of the shell's history; \"\" keeps none"},
+    {"--no-color",
+     {},
+     {},
+     FlagOf::tool,
+     [](ToolSettings &settings, Word) { settings.no_colour = true; },
+     "never prints in colour"},
+    {"--version",
+     {},
+     {},
+     FlagOf::tool,
+     [](ToolSettings &settings, Word) { settings.version = true; },
+     "prints the versions of the tool, the library and its contracts"},
+    {"--json",
+     {},
+     {},
+     FlagOf::all,
+     turn_on<&Settings::json>,
+     "answers in JSON, one line a command"},
+    {"--terse", {}, {}, FlagOf::all, turn_on<&Settings::terse>, "one row a line, without columns"},
+    {"--trace",
+     {},
+     {},
+     FlagOf::all,
+     turn_on<&Settings::trace>,
+     "prints the C calls behind the command"},
+    {"--verbose", "-v", {}, FlagOf::all, turn_on<&Settings::verbose>, "prints what was changed"},
+    {"--help", "-h", {}, FlagOf::all, turn_on<&Settings::help>, "explains the command instead"},
+    {"--dry-run",
+     {},
+     {},
+     FlagOf::changes,
+     turn_on<&Settings::dry_run>,
+     "answers as if it were done, on a copy of the device"},
+    {"--count", {}, {}, FlagOf::listings, turn_on<&Settings::count>, "counts the rows instead"},
+    {"--filter",
+     {},
+     "NAME=PATTERN",
+     FlagOf::listings,
+     set_filter,
+     "shows the rows whose value matches"},
+    {"--sort",
+     {},
+     "NAME",
+     FlagOf::listings,
+     [](ToolSettings &settings, Word value) { settings.lines.sort = value.text; },
+     "sorts the rows by a value"},
+    {"--raw", {}, {}, FlagOf::named, turn_on<&Settings::raw>, "shows values as numbers"},
+    {"--atomic", {}, {}, FlagOf::named, turn_on<&Settings::atomic>, "changes all or nothing"},
+    {"--keep-going",
+     "-k",
+     {},
+     FlagOf::named,
+     turn_on<&Settings::keep_going>,
+     "goes on behind a line with a fault"},
+};
+
+const Flag &need_flag(Word word) {
+  if (const Flag *flag = find_flag(word.text)) return *flag;
+  const Word name = word.first(std::min(word.text.find('='), word.text.size()));
+  Nearest near(name.text);
+  for (const Flag &flag : kFlags) near.consider(flag.name);
+  throw Fault(name, "no option has this name", near.name());
+}
+
+// The value of the flag at words[at]; at moves on when it is a word of its own.
+Word take_value(const Flag &flag, Words words, size_t &at) {
+  const Word word = words[at];
+  const size_t equals = word.text.find('=');
+  if (flag.wants_next(word.text)) {
+    if (at + 1 < words.size()) return words[++at];
+    throw Fault(word, std::string(flag.name) + " needs " + std::string(flag.value));
+  }
+  if (equals == std::string_view::npos) return {{}, word.column};
+  if (flag.value.empty()) throw Fault(word, std::string(flag.name) + " takes no value");
+  return word.from(equals + 1);
+}
+
+bool has_word(std::string_view words, std::string_view word) {
+  while (!words.empty()) {
+    const size_t end = std::min(words.find(' '), words.size());
+    if (words.substr(0, end) == word) return true;
+    words.remove_prefix(std::min(end + 1, words.size()));
+  }
+  return false;
+}
+
+}  // namespace
+
+std::span<const Flag> all_flags() { return kFlags; }
+
+bool is_flag(std::string_view word) {
+  const auto is_letter = [](char c) { return (c | 0x20) >= 'a' && (c | 0x20) <= 'z'; };
+  return word.starts_with("--") || (word.size() > 1 && word[0] == '-' && is_letter(word[1]));
+}
+
+const Flag *find_flag(std::string_view word) {
+  const std::string_view name = word.substr(0, word.find('='));
+  const auto *found = std::find_if(std::begin(kFlags), std::end(kFlags), [&](const Flag &flag) {
+    return flag.name == name || (!name.empty() && flag.letter == name);
+  });
+  return found == std::end(kFlags) ? nullptr : found;
+}
+
+bool takes_flag(const Command &command, const Flag &flag) {
+  return flag.of == FlagOf::all || has_word(command.flags, flag.name) ||
+         (flag.of == FlagOf::listings && command.kind == Kind::lists) ||
+         (flag.of == FlagOf::changes && command.kind == Kind::changes);
+}
+
+TakenFlags take_flags(std::vector<Word> &words, Settings &settings) {
+  TakenFlags taken;
+  if (std::none_of(words.begin(), words.end(), [](Word word) { return is_flag(word.text); })) {
+    return taken;
+  }
+  ToolSettings tool = {.lines = settings};
+  std::vector<Word> others;
+  for (size_t i = 0; i < words.size(); ++i) {
+    const Word word = words[i];
+    if (!is_flag(word.text)) {
+      others.push_back(word);
+      continue;
+    }
+    const Flag &flag = need_flag(word);
+    if (flag.of == FlagOf::tool) {
+      throw Fault(word, "this option belongs to the command line that starts tesselctl");
+    }
+    flag.set(tool, take_value(flag, words, i));
+    taken.words.push_back(word.first(std::min(word.text.find('='), word.text.size())));
+    taken.flags.push_back(&flag);
+  }
+  words = std::move(others);
+  settings = std::move(tool.lines);
+  return taken;
+}
+
+void take_tool_flags(std::vector<Word> &words, ToolSettings &settings) {
+  std::vector<Word> others;
+  bool in_command = false;
+  for (size_t i = 0; i < words.size(); ++i) {
+    const size_t first = i;
+    if (!is_flag(words[i].text)) {
+      in_command = true;
+      others.push_back(words[i]);
+      continue;
+    }
+    const Flag &flag = need_flag(words[i]);
+    const Word value = take_value(flag, words, i);
+    if (flag.of == FlagOf::tool || (flag.of == FlagOf::all && !in_command)) {
+      flag.set(settings, value);
+    } else {
+      others.insert(others.end(), words.begin() + static_cast<ptrdiff_t>(first),
+                    words.begin() + static_cast<ptrdiff_t>(i + 1));
+    }
+  }
+  words = std::move(others);
+}
+
+void TakenFlags::check(const Command &command) const {
+  for (size_t i = 0; i < flags.size(); ++i) {
+    if (takes_flag(command, *flags[i])) continue;
+    throw Fault(words[i], std::string(command.name) + " does not take this option");
+  }
+}
+
+std::string words_of(const Settings &settings) {
+  std::string words;
+  for (const Flag &flag : kFlags) {
+    if (flag.of == FlagOf::tool || !flag.value.empty()) continue;
+    // A flag that changes nothing is set already.
+    ToolSettings with = {.lines = settings};
+    flag.set(with, {});
+    if (with.lines == settings) words += std::string(flag.name) + " ";
+  }
+  for (const Settings::Filter &filter : settings.filters) {
+    words += "--filter \"" + filter.name + "=" + filter.pattern + "\" ";
+  }
+  if (!settings.sort.empty()) words += "--sort \"" + settings.sort + "\" ";
+  return words;
+}
+
+}  // namespace tesselctl

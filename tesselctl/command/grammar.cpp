@@ -1,0 +1,138 @@
+#include "tesselctl/command/grammar.hpp"
+
+#include <algorithm>
+
+namespace tesselctl {
+
+namespace {
+
+constexpr std::string_view kAgain = "...";
+
+// Takes brackets and dots off a word. inside is whether a bracket is open, before and after it.
+Argument peel(std::string_view &word, bool &inside) {
+  Argument argument;
+  if (word.starts_with('[')) {
+    inside = true;
+    word.remove_prefix(1);
+  }
+  argument.optional = inside;
+  while (word.ends_with(']') || word.ends_with(kAgain)) {
+    const bool closes = word.ends_with(']');
+    word.remove_suffix(closes ? 1 : kAgain.size());
+    if (closes) inside = false;
+    if (!closes) argument.repeated = true;
+  }
+  return argument;
+}
+
+// The end of the first alternative: '|' parts arguments when one with '=' follows, and values of
+// one argument otherwise.
+size_t alternative_end(std::string_view word) {
+  for (size_t bar = word.find('|'); bar != std::string_view::npos; bar = word.find('|', bar + 1)) {
+    const std::string_view next = word.substr(bar + 1, word.find('|', bar + 1) - bar - 1);
+    if (next.find('=') != std::string_view::npos) return bar;
+  }
+  return word.size();
+}
+
+struct Meaning {
+  std::string_view word;
+  std::string_view text;
+};
+
+std::string_view look_up(std::span<const Meaning> meanings, std::string_view word) {
+  const auto found = std::find_if(meanings.begin(), meanings.end(),
+                                  [&](const Meaning &meaning) { return meaning.word == word; });
+  return found == meanings.end() ? std::string_view() : found->text;
+}
+
+}  // namespace
+
+std::vector<Argument> grammar_of(std::string_view text) {
+  std::vector<Argument> grammar;
+  bool inside = false;
+  for (size_t choice = 0; !text.empty(); ++choice) {
+    const size_t blank = std::min(text.find(' '), text.size());
+    std::string_view word = text.substr(0, blank);
+    text.remove_prefix(std::min(blank + 1, text.size()));
+    Argument argument = peel(word, inside);
+    argument.choice = choice;
+    while (!word.empty()) {
+      const size_t end = alternative_end(word);
+      const std::string_view one = word.substr(0, end);
+      const size_t equals = one.find('=');
+      const bool named = equals != std::string_view::npos;
+      argument.name = named ? one.substr(0, equals) : std::string_view();
+      argument.value = named ? one.substr(equals + 1) : one;
+      grammar.push_back(argument);
+      word.remove_prefix(std::min(end + 1, word.size()));
+    }
+  }
+  return grammar;
+}
+
+std::vector<std::string_view> alternatives_of(std::string_view value) {
+  std::vector<std::string_view> alternatives;
+  while (!value.empty()) {
+    const size_t bar = std::min(value.find('|'), value.size());
+    alternatives.push_back(value.substr(0, bar));
+    value.remove_prefix(std::min(bar + 1, value.size()));
+  }
+  return alternatives;
+}
+
+bool is_placeholder(std::string_view word) {
+  return !word.empty() && word[0] >= 'A' && word[0] <= 'Z';
+}
+
+std::string_view meaning_of_value(std::string_view placeholder) {
+  static constexpr Meaning kMeanings[] = {
+      {"N", "a number"},
+      {"MS", "milliseconds"},
+      {"SECONDS", "seconds from one round to the next, 0.1 to 86400"},
+      {"COMMAND", "a command"},
+      {"HANDLE", "a handle: a number, or $NAME of one that as=NAME remembered"},
+      {"CIR,CBS,PIR,PBS", "committed rate and burst, peak rate and burst"},
+      {"NAME", "a name"},
+      {"FILE", "a file"},
+      {"VALUE/BITS", "a value and its width, in the order of the calculation's fields"},
+      {"VALUE", "a value in any notation that suits the field"},
+      {"NAME=PATTERN", "a name of the answer and what its value is; '*' stands for anything"},
+  };
+  return look_up(kMeanings, placeholder);
+}
+
+std::string_view meaning_of_name(std::string_view name) {
+  static constexpr Meaning kMeanings[] = {
+      {"priority", "the smallest number wins"},
+      {"ttl", "milliseconds without a hit until an entry expires"},
+      {"meter", "CIR,CBS,PIR,PBS of the entry's own meter"},
+      {"as", "a name that remembers the handle, for $NAME"},
+      {"entry", "the handle of an entry"},
+      {"member", "the handle of a member"},
+      {"group", "the handle of a group"},
+      {"action", "what is done on a hit"},
+      {"index", "the number of a cell"},
+      {"source", "hardware brings the value up to date, software does not"},
+      {"cir", "committed rate"},
+      {"cbs", "committed burst"},
+      {"pir", "peak rate"},
+      {"pbs", "peak burst"},
+  };
+  return look_up(kMeanings, name);
+}
+
+std::span<const NotationHelp> notations() {
+  static constexpr NotationHelp kNotations[] = {
+      {"4094, 0xffe, 65_536", "every field"},
+      {"10.0.0.1", "fields of 32 bits"},
+      {"2001:db8::1", "fields of 128 bits"},
+      {"00:11:22:33:44:55", "MAC addresses; also 00-11-22-33-44-55 and 0011.2233.4455"},
+      {"10.0.0.0/8", "prefix and ternary fields: the leading bits"},
+      {"0x1f90&0xfff0", "ternary fields: the bits of the mask take part"},
+      {"*", "prefix and ternary fields: anything"},
+  };
+  return kNotations;
+}
+
+}  // namespace tesselctl

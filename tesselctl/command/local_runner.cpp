@@ -1,0 +1,93 @@
+#include "tesselctl/command/local_runner.hpp"
+
+#include "tesselctl/command/script.hpp"
+#include "tesselctl/device/device_copy.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+// What every line of a script takes from the settings of its run.
+Settings settings_of_lines(Settings settings) {
+  settings.atomic = settings.dry_run = settings.keep_going = false;
+  return settings;
+}
+
+}  // namespace
+
+std::string LocalRunner::ask(std::string_view line) {
+  Output answer;
+  Context context = {.device = context_.device,
+                     .out = answer,
+                     .defaults = {.terse = true},
+                     .labels = context_.labels,
+                     .directory = context_.directory};
+  try {
+    run_line(context, line);
+  } catch (const Fault &) {
+    return {};
+  }
+  return answer.take();
+}
+
+LineOutcome LocalRunner::run(const SourceLine &source) {
+  try {
+    if (!run_line(context_, source.text)) return LineOutcome::blank;
+    return context_.differs ? LineOutcome::differs : LineOutcome::done;
+  } catch (const Fault &fault) {
+    report_fault(fault, source, context_.results, context_.settings.json, context_.out, *errors_);
+    return LineOutcome::fault;
+  }
+}
+
+LineOutcome LocalRunner::run_whole(const WholeScript &script) {
+  try {
+    return script.settings.dry_run ? try_whole(script) : run_all_or_nothing(script);
+  } catch (const Fault &fault) {
+    const SourceLine source = {script.name, 0, {}};
+    report_fault(fault, source, context_.results, script.settings.json, context_.out, *errors_);
+    return LineOutcome::fault;
+  }
+}
+
+LineOutcome LocalRunner::try_whole(const WholeScript &script) {
+  const std::unique_ptr<Device> copy = copy_of(context_.device);
+  LocalRunner trial(*copy, context_.out, *errors_, settings_of_lines(script.settings));
+  trial.context_.labels = context_.labels;
+  trial.context_.directory = context_.directory;
+  trial.context_.is_trial = true;
+  const ScriptResult result =
+      run_script(trial, script.name, script.text, {.keep_going = script.settings.keep_going});
+  if (!script.settings.json) {
+    print_summary(context_.out, script.name, result, "on a copy of the device, nothing is changed");
+  }
+  return result.outcome();
+}
+
+LineOutcome LocalRunner::run_all_or_nothing(const WholeScript &script) {
+  const std::unique_ptr<Device> before = copy_of(context_.device);
+  LocalRunner lines(context_.device, context_.out, *errors_, settings_of_lines(script.settings));
+  lines.context_.labels = context_.labels;
+  lines.context_.directory = context_.directory;
+  ScriptResult result;
+  try {
+    result =
+        run_script(lines, script.name, script.text, {.keep_going = script.settings.keep_going});
+  } catch (...) {
+    copy_back(*before, context_.device);
+    throw;
+  }
+  if (result.faults != 0) {
+    copy_back(*before, context_.device);
+  } else {
+    context_.labels = std::move(lines.context_.labels);
+    context_.changed = context_.changed || lines.has_changed();
+  }
+  if (!script.settings.json) {
+    print_summary(context_.out, script.name, result,
+                  result.faults != 0 ? "the device is as it was" : "");
+  }
+  return result.outcome();
+}
+
+}  // namespace tesselctl

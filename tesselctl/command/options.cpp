@@ -1,0 +1,54 @@
+#include "tesselctl/command/options.hpp"
+
+#include <algorithm>
+
+#include "tesselctl/program/value.hpp"
+#include "tesselctl/text/suggest.hpp"
+
+namespace tesselctl {
+
+Options::Options(const Invocation &invocation, size_t at,
+                 std::initializer_list<std::string_view> names)
+    : command_(invocation.command) {
+  for (size_t i = at; i < invocation.arguments.size(); ++i) {
+    const Assignment word = split_assignment(invocation.arguments[i]);
+    const auto known = std::find(names.begin(), names.end(), word.name.text);
+    if (known == names.end()) {
+      throw Fault(word.name, "the command takes no such word", nearest(word.name.text, names));
+    }
+    if (has(*known)) throw Fault(word.name, std::string(*known) + " is given twice");
+    given_.push_back({*known, word.value});
+  }
+}
+
+const Word *Options::find(std::string_view name) const {
+  for (const Option &option : given_) {
+    if (option.name == name) return &option.value;
+  }
+  return nullptr;
+}
+
+Word Options::need(std::string_view name) const {
+  if (const Word *value = find(name)) return *value;
+  throw Fault(command_, std::string(name) + "= is missing");
+}
+
+uint64_t Options::number(std::string_view name, uint64_t limit) const {
+  return parse_limited(need(name), limit, std::string(name));
+}
+
+size_t Options::choice_or(std::string_view name, std::initializer_list<std::string_view> words,
+                          size_t otherwise) const {
+  const Word *value = find(name);
+  if (value == nullptr) return otherwise;
+  std::string list;
+  size_t at = 0;
+  for (const std::string_view word : words) {
+    if (value->text == word) return at;
+    ++at;
+    list += (list.empty() ? "" : ", ") + std::string(word);
+  }
+  throw Fault(*value, std::string(name) + " is one of " + list, nearest(value->text, words));
+}
+
+}  // namespace tesselctl

@@ -1,0 +1,78 @@
+// What the first word behind a command names, and so what the words behind it can be. Each kind of
+// object states its own part.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <optional>
+
+#include "tesselctl/command/grammar.hpp"
+#include "tesselctl/command/offers.hpp"
+#include "tesselctl/device/read_back.hpp"
+
+namespace tesselctl {
+
+// Null for an unknown or ambiguous name.
+const Field *find_field(const bindings::Record &record, std::string_view name);
+
+struct Subject {
+  std::optional<TableInfo> table;           // also the one whose entries a counter or meter follows
+  const soft_profile_t *profile = nullptr;  // also the one that the table is bound to
+  bool is_cells = false;                    // a counter or meter
+  // What offers the handles behind entry=, member= or group=. May throw Fault.
+  std::map<std::string_view, std::function<void(Offers &, const Device &)>> handles;
+
+  // Whether the object takes an argument of that name at all.
+  bool takes(std::string_view name) const;
+  // The field of the table that NAME=VALUE gives, unless the grammar has that name itself.
+  const Field *field_of(std::string_view name, const std::vector<Argument> &grammar) const;
+  std::span<const soft_action_t> actions() const;
+  // The parameters of one of its actions, or null.
+  const bindings::Record *action_of(std::string_view action) const;
+};
+
+// A word in capitals that stands for the objects of a kind.
+struct ObjectWord {
+  std::string_view placeholder;
+  // Offers their names; given are the words behind the command.
+  void (*offer)(Offers &offers, const Command &command, Words given);
+  // Says what the object of that name is about, if there is one; null for nothing.
+  void (*choose)(Subject &subject, std::string_view name) = nullptr;
+};
+// Null for a word that stands for something else.
+const ObjectWord *find_object_word(std::string_view placeholder);
+
+Subject find_subject(const std::vector<Argument> &grammar, Word word);
+
+// ---- For kinds ----
+
+// The object of that name, or null.
+template <class Row>
+const Row *find_object(std::string_view name) {
+  const auto rows = program_rows<Row>();
+  const auto found =
+      std::find_if(rows.begin(), rows.end(), [&](const Row &row) { return name == row.name; });
+  return found == rows.end() ? nullptr : &*found;
+}
+
+// Offers the objects of a kind with a line of help each.
+template <class Row, class Help>
+void offer_objects(Offers &offers, Help help) {
+  for (const Row &row : program_rows<Row>()) {
+    if (offers.begins(row.name)) offers.offer(row.name, help(row));
+  }
+}
+
+// Offers what is enumerated until there is enough; describe may throw Fault.
+void offer_handles(Offers &offers, Enumeration enumeration,
+                   const std::function<std::string(uint32_t)> &describe);
+
+// The entries of a table are what is meant, also by a counter or meter of them.
+void choose_table(Subject &subject, const TableInfo &table);
+// The same of the members and groups of a profile.
+void choose_profile(Subject &subject, const soft_profile_t &profile);
+// A counter or meter: of the entries of the table with that handle, or with 0 of its own.
+void choose_cells(Subject &subject, uint32_t table);
+std::string cells_help(uint32_t table);
+
+}  // namespace tesselctl

@@ -1,0 +1,170 @@
+#include "tesselctl/device/entry_line.hpp"
+
+#include <algorithm>
+
+#include "tesselctl/device/handles.hpp"
+#include "tesselctl/text/suggest.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+Given parse_given(const Assignment &word) {
+  const auto value = parse_limited(word.value, 0xffffffffu, std::string(word.name.text));
+  return {static_cast<uint32_t>(value), word.whole};
+}
+
+Given parse_given_handle(const Context &context, const Assignment &word) {
+  return {parse_handle(context, word.value, std::string(word.name.text)), word.whole};
+}
+
+template <class T>
+void set_once(std::optional<T> &slot, const Assignment &word, T value) {
+  if (slot) throw Fault(word.name, std::string(word.name.text) + " is given twice");
+  slot = value;
+}
+
+}  // namespace
+
+EntryLine::EntryLine(const Context &context, const Invocation &invocation)
+    : table_word_(need_argument(invocation, 0, "the name of a table")),
+      table_(resolve_table(table_word_)),
+      key_(*table_.record, table_.name()) {
+  for (const Word &word : invocation.arguments.subspan(1)) {
+    read_word(context, split_assignment(word));
+  }
+  if (action_) action_->finish(action_word_);
+}
+
+void EntryLine::read_word(const Context &context, const Assignment &word) {
+  if (action_ && has_field_named(action_->record(), word.name.text)) return action_->set(word);
+  if (read_option(context, word)) return;
+  if (action_) return action_->set(word);
+  key_.set(word);
+}
+
+bool EntryLine::read_option(const Context &context, const Assignment &word) {
+  const std::string_view name = word.name.text;
+  const bool is_field = has_field_named(*table_.record, name);
+  if (name == "priority" && (table_.has_priority() || !is_field)) {
+    set_once(priority_, word, parse_given(word));
+  } else if (name == "ttl" && (table_.ages() || !is_field)) {
+    set_once(ttl_, word, parse_given(word));
+  } else if (name == "meter") {
+    set_once(meter_, word, GivenMeter{meter_spec(parse_meter(word.value)), word.whole});
+  } else if (name == "entry") {
+    set_once(entry_, word, parse_given_handle(context, word));
+  } else if (name == "member") {
+    set_once(member_, word, parse_given_handle(context, word));
+  } else if (name == "group") {
+    set_once(group_, word, parse_given_handle(context, word));
+  } else if (name == "as") {
+    if (word.value.text.empty()) throw Fault(word.whole, "as= needs a name");
+    set_once(label_, word, word.value);
+  } else if (name == "action") {
+    if (action_) throw Fault(word.name, "action is given twice");
+    read_action(word);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void EntryLine::read_action(const Assignment &word) {
+  if (table_.indirect()) {
+    throw Fault(word.whole, std::string(table_.name()) +
+                                " is bound to a profile, so it takes member= or group=");
+  }
+  const std::span<const soft_action_t> own(table_.description->actions,
+                                           table_.description->action_count);
+  const auto is_own = [&](const soft_action_t &action) { return word.value.text == action.name; };
+  if (std::none_of(own.begin(), own.end(), is_own)) {
+    Nearest near(word.value.text);
+    for (const soft_action_t &action : own) near.consider(action.name);
+    throw Fault(word.value, std::string(table_.name()) + " has no action of this name",
+                near.name());
+  }
+  action_word_ = word.value;
+  action_.emplace(action_record(word.value.text), std::string(word.value.text));
+}
+
+void EntryLine::need_key_or_entry() const {
+  if (!table_.keyed()) {
+    throw Fault(table_word_,
+                std::string(table_.name()) + " has no key, so it has a default entry and no other");
+  }
+  if (entry_ && has_key()) throw Fault(entry_->word, "give entry= or a key, not both");
+}
+
+void EntryLine::need_key() {
+  need_key_or_entry();
+  key_.finish(table_word_);
+}
+
+void EntryLine::refuse_outcome() const {
+  if (action_) throw Fault(action_word_, "the command takes no action");
+  refuse(member_);
+  refuse(group_);
+}
+
+void EntryLine::refuse_label() const {
+  if (label_) throw Fault(*label_, "the command makes no handle that could be remembered");
+}
+
+bool EntryLine::need_outcome() const {
+  if (table_.indirect()) {
+    if (member_ && group_) throw Fault(group_->word, "give member= or group=, not both");
+    if (!member_ && !group_) throw Fault(table_word_, "member= or group= is missing");
+    return false;
+  }
+  for (const std::optional<Given> *given : {&member_, &group_}) {
+    if (!*given) continue;
+    throw Fault((*given)->word,
+                std::string(table_.name()) + " is bound to no profile, so it takes action=");
+  }
+  if (!action_) throw Fault(table_word_, "action= is missing");
+  return true;
+}
+
+void EntryLine::fill(Call &call, bool meter_is_needed) {
+  const std::string name = table_.name();
+  if (call.takes("match_spec")) call.set("match_spec", key_.data());
+  if (call.takes("priority")) {
+    if (!priority_) throw Fault(table_word_, name + " is a ternary table, so it needs priority=N");
+    call.set("priority", uint64_t{priority_->value});
+  } else if (priority_) {
+    throw Fault(priority_->word, call.takes("match_spec") ? name + " has no priorities"
+                                                          : "the command takes no priority");
+  }
+  if (call.takes("ttl")) {
+    call.set("ttl", uint64_t{ttl_ ? ttl_->value : 0});
+  } else if (ttl_) {
+    throw Fault(ttl_->word,
+                table_.ages() ? "the command takes no ttl" : name + " does not age its entries");
+  }
+  if (call.takes("meter_spec")) {
+    if (!meter_ && meter_is_needed) {
+      throw Fault(table_word_,
+                  name + " has a meter for each entry, so it needs meter=" + "CIR,CBS,PIR,PBS");
+    }
+    call.set("meter_spec", static_cast<const void *>(meter_ ? &meter_->value : nullptr));
+  } else if (meter_) {
+    throw Fault(meter_->word, name + " has no meter for its entries");
+  }
+  if (call.takes("action_spec")) {
+    call.set("action_spec", static_cast<const void *>(action_->data()));
+  }
+  if (member_) call.set_if_taken("member", uint64_t{member_->value});
+  if (group_) call.set_if_taken("group", uint64_t{group_->value});
+}
+
+void check_outcome(uint64_t status, const Device &device, const EntryLine &line, Word otherwise) {
+  const soft_profile_t *profile = line.table().profile();
+  if (status == BF_SUCCESS || profile == nullptr) return check(status, otherwise);
+  std::vector<WrittenHandle> handles;
+  if (line.member()) handles.push_back({"member", line.member()->value, line.member()->word});
+  if (line.group()) handles.push_back({"group", line.group()->value, line.group()->word});
+  check_handles(status, device, profile->name, handles, otherwise);
+}
+
+}  // namespace tesselctl

@@ -1,0 +1,60 @@
+// The handles of what a device holds, one after the other.
+#pragma once
+
+#include <functional>
+
+#include "tesselctl/device/device.hpp"
+#include "tesselctl/device/table_info.hpp"
+
+namespace tesselctl {
+
+// Visits what a pair of get_first and get_next functions enumerates: entries of a table, members or
+// groups of a profile, members of a group. first and next are prepared but for their outputs, whose
+// parameters are named one (in first) and many (in next); next also takes the handle before as
+// from. Throws Fault at the word when the device refuses.
+struct Enumeration {
+  Call first;
+  Call next;
+  const char *one;
+  const char *many;
+  const char *from;
+};
+// Ends early when visit gives false.
+void visit_handles(Enumeration enumeration, Word word, const std::function<bool(uint32_t)> &visit);
+void for_each_handle(Enumeration enumeration, Word word,
+                     const std::function<void(uint32_t)> &visit);
+
+Enumeration entries_of(const Device &device, const TableInfo &table);
+Enumeration members_of(const Device &device, const char *profile);
+Enumeration groups_of(const Device &device, const char *profile);
+// Of the parsers of a target.
+Enumeration set_values_of(const Device &device, const char *value_set,
+                          const p4_pd_parser_target_t &target);
+
+void for_each_entry(const Device &device, const TableInfo &table, Word word,
+                    const std::function<void(p4_pd_entry_handle_t)> &visit);
+void for_each_member(const Device &device, const char *profile, Word word,
+                     const std::function<void(p4_pd_member_handle_t)> &visit);
+void for_each_group(const Device &device, const char *profile, Word word,
+                    const std::function<void(p4_pd_group_handle_t)> &visit);
+void for_each_group_member(const Device &device, const char *profile, p4_pd_group_handle_t group,
+                           Word word,
+                           const std::function<void(p4_pd_member_handle_t, bool active)> &visit);
+
+// A handle that somebody wrote: of a "member" or a "group".
+struct WrittenHandle {
+  std::string_view kind;
+  uint32_t handle;
+  Word word;
+};
+bool has_handle(const Device &device, const char *profile, std::string_view kind, uint32_t handle);
+// Throws Fault unless the status is good: at the first handle that the profile does not have, else
+// at the word otherwise.
+void check_handles(uint64_t status, const Device &device, const char *profile,
+                   const std::vector<WrittenHandle> &handles, Word otherwise);
+
+// The cells of a counter, meter or register that are not as most are.
+void for_each_cell(const Device &device, uint32_t handle,
+                   const std::function<void(uint32_t)> &visit);
+
+}  // namespace tesselctl

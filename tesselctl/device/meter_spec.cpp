@@ -1,0 +1,49 @@
+#include "tesselctl/device/meter_spec.hpp"
+
+#include <fmt/format.h>
+
+#include "tesselctl/program/value.hpp"
+
+namespace tesselctl {
+
+MeterNumbers numbers_of(const p4_pd_bytes_meter_spec_t &spec) {
+  return {spec.committed_rate, spec.committed_burst, spec.peak_rate, spec.peak_burst};
+}
+
+p4_pd_bytes_meter_spec_t meter_spec(const MeterNumbers &numbers, uint32_t type) {
+  p4_pd_bytes_meter_spec_t spec = {};
+  spec.committed_rate = numbers[0];
+  spec.committed_burst = numbers[1];
+  spec.peak_rate = numbers[2];
+  spec.peak_burst = numbers[3];
+  spec.meter_type = type;
+  return spec;
+}
+
+MeterNumbers parse_meter(Word text) {
+  static constexpr const char *kNames[] = {"the committed rate", "the committed burst",
+                                           "the peak rate", "the peak burst"};
+  MeterNumbers numbers = {};
+  Word rest = text;
+  for (size_t i = 0; i < numbers.size(); ++i) {
+    const size_t comma = rest.text.find(',');
+    const bool last = i + 1 == numbers.size();
+    if ((comma == std::string_view::npos) != last) {
+      throw Fault(text, "a meter is four numbers: CIR,CBS,PIR,PBS");
+    }
+    const Word number = last ? rest : rest.first(comma);
+    numbers[i] = static_cast<uint32_t>(parse_limited(number, 0xffffffffu, kNames[i]));
+    if (!last) rest = rest.from(comma + 1);
+  }
+  return numbers;
+}
+
+void append_meter(std::string &text, const MeterNumbers &numbers) {
+  fmt::format_to(std::back_inserter(text), "meter={}", fmt::join(numbers, ","));
+}
+
+void add_meter(Row &row, const MeterNumbers &numbers) {
+  row.list("meter", {numbers.begin(), numbers.end()});
+}
+
+}  // namespace tesselctl

@@ -1,0 +1,177 @@
+// Groups of action profiles in images.
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "tesselctl/kinds/profile_items.hpp"
+
+namespace tesselctl {
+
+GroupValue::GroupValue(std::string_view value) : size(read_bytes<uint32_t>(value)) {
+  for (size_t at = sizeof size; at < value.size(); at += sizeof(Membership)) {
+    members.push_back(read_bytes<Membership>(value, at));
+  }
+}
+
+void GroupValue::store(std::string &value) {
+  std::ranges::sort(members);
+  value.clear();
+  append_bytes(value, size);
+  for (const Membership &member : members) append_bytes(value, member);
+}
+
+namespace {
+
+std::vector<uint64_t> numbers_of(const GroupValue &group, bool with_active) {
+  std::vector<uint64_t> numbers;
+  for (const Membership &member : group.members) {
+    if (with_active || member.is_active == 0) numbers.push_back(member.member);
+  }
+  return numbers;
+}
+
+// The members of "1,2,3" and those of them that are inactive.
+void parse_members(Word members, const Word *inactive, GroupValue &group) {
+  for (const uint32_t number : number_list(members)) group.members.push_back({number, 1});
+  std::ranges::sort(group.members);
+  const auto twice = std::ranges::adjacent_find(group.members);
+  if (twice != group.members.end()) {
+    throw Fault(members, fmt::format("member #{} is there twice", twice->member));
+  }
+  if (inactive == nullptr) return;
+  for (const uint32_t number : number_list(*inactive)) {
+    const auto found = std::ranges::lower_bound(group.members, Membership{number, 1});
+    if (found == group.members.end() || *found != Membership{number, 1}) {
+      throw Fault(*inactive, fmt::format("member #{} is no active member of the group", number));
+    }
+    found->is_active = 0;
+  }
+}
+
+// "group 1 size=4 members=1,2 inactive=2"
+class Groups : public ObjectItems {
+ public:
+  explicit Groups(const char *profile) : profile_(need_row<soft_profile_t>(profile)) {}
+
+  void parse(ValueScanner &line, ItemBytes &item) override {
+    item.clear();
+    append_bytes(item.identity, parse_item_number(line));
+    const LineWords words(line, {"size", "members", "inactive"});
+    GroupValue group;
+    group.size = words.number32("size");
+    parse_members(words.need("members"), words.find("inactive"), group);
+    group.store(item.value);
+  }
+  void print(std::string &text, const ItemView &item) const override {
+    const GroupValue group(item.value);
+    const auto inactive = numbers_of(group, false);
+    const auto out = std::back_inserter(text);
+    fmt::format_to(out, "{} size={} members={}", read_bytes<uint32_t>(item.identity), group.size,
+                   fmt::join(numbers_of(group, true), ","));
+    if (!inactive.empty()) fmt::format_to(out, " inactive={}", fmt::join(inactive, ","));
+  }
+  void add_to(Row &row, const ItemView &item) const override {
+    const GroupValue group(item.value);
+    add_number(row, "group", read_bytes<uint32_t>(item.identity), Naming::numbers);
+    row.number("size", group.size).list("members", numbers_of(group, true));
+    const auto inactive = numbers_of(group, false);
+    if (!inactive.empty()) row.list("inactive", inactive);
+  }
+
+  void read(Source &from, const ItemVisitor &visit) override {
+    const ProfileNumbers &numbers = from.numbering.of(profile_.action_data_table);
+    ItemBytes item;
+    for_each_group(from.device, profile_.name, {}, [&](p4_pd_group_handle_t handle) {
+      GroupValue group;
+      for_each_group_member(
+          from.device, profile_.name, handle, {}, [&](uint32_t member, bool active) {
+            group.members.push_back({numbers.members.number_of(member), active ? 1u : 0u});
+          });
+      check(soft_group_max_size(from.device.id(), profile_.selector, handle, &group.size), {});
+      item.clear();
+      append_bytes(item.identity, numbers.groups.number_of(handle));
+      group.store(item.value);
+      visit(item.view());
+    });
+  }
+
+  void write(Target &to, Edit edit, const ItemView &item, Word word) override {
+    NumberMap &groups = to.numbering.of(profile_.action_data_table).groups;
+    const auto number = read_bytes<uint32_t>(item.identity);
+    const GroupValue group(item.value);
+    if (edit == Edit::add) add(to, groups, number, group.size, word);
+    const uint32_t handle = need_handle(groups, "group", number, word);
+    if (edit == Edit::remove) {
+      Call call = to.device.prepare("del_group", profile_.name);
+      check(call.set("group", uint64_t{handle}).run(), word);
+      return groups.erase(number);
+    }
+    change_members(to, handle, group, word);
+  }
+
+  uint32_t profile() const override { return profile_.action_data_table; }
+  void renumber(std::span<char> identity, std::span<char> value,
+                const Renumbering &numbers) const override {
+    numbers.replace(Numbered::groups, identity);
+    for (size_t at = sizeof(GroupValue::size); at < value.size(); at += sizeof(Membership)) {
+      numbers.replace(Numbered::members, value, at);
+    }
+    std::string bytes;
+    GroupValue({value.data(), value.size()}).store(bytes);
+    memcpy(value.data(), bytes.data(), bytes.size());
+  }
+  // The size.
+  std::string_view lasting(std::string_view value) const override {
+    return value.substr(0, sizeof(GroupValue::size));
+  }
+
+ private:
+  void add(Target &to, NumberMap &groups, uint32_t number, uint32_t size, Word word) const {
+    if (groups.handle_of(number) != 0) throw Fault(word, "this number is taken");
+    p4_pd_group_handle_t group = 0;
+    Call create = to.device.prepare("create_group", profile_.name);
+    check(create.set("max_size", uint64_t{size}).set("group", &group).run(), word);
+    groups.add(number, group);
+    ++to.counts.groups;
+  }
+
+  void change_members(Target &to, uint32_t handle, const GroupValue &group, Word word) const {
+    const NumberMap &members = to.numbering.of(profile_.action_data_table).members;
+    std::map<uint32_t, bool> wanted;
+    for (const Membership &member : group.members) {
+      wanted[need_handle(members, "member", member.member, word)] = member.is_active != 0;
+    }
+    std::map<uint32_t, bool> has;
+    for_each_group_member(to.device, profile_.name, handle, word,
+                          [&](uint32_t member, bool active) { has[member] = active; });
+    const auto call = [&](const char *family, uint32_t member) {
+      Call prepared = to.device.prepare(family, profile_.name);
+      return prepared.set("group", uint64_t{handle}).set("member", uint64_t{member});
+    };
+    for (const auto &[member, active] : has) {
+      if (!wanted.contains(member)) check(call("del_member_from_group", member).run(), word);
+    }
+    for (const auto &[member, active] : wanted) {
+      const auto found = has.find(member);
+      if (found == has.end()) check(call("add_member_to_group", member).run(), word);
+      if (active == (found == has.end() || found->second)) continue;
+      const uint64_t state = active ? P4_PD_GRP_MBR_STATE_ACTIVE : P4_PD_GRP_MBR_STATE_INACTIVE;
+      check(call("group_member_state_set", member).set("state", state).run(), word);
+    }
+  }
+
+  const soft_profile_t &profile_;
+};
+
+constexpr Step kSteps[] = {
+    {Phase::groups, Edit::add}, {Phase::groups, Edit::modify}, {Phase::groups_leave, Edit::remove}};
+
+}  // namespace
+
+extern const ItemKind kGroupKind = {kProfileObjects, "group", kSteps,
+                                    [](const char *profile) -> std::unique_ptr<ObjectItems> {
+                                      return std::make_unique<Groups>(profile);
+                                    },
+                                    Numbered::groups};
+
+}  // namespace tesselctl

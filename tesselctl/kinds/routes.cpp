@@ -1,0 +1,294 @@
+#include "tesselctl/kinds/routes.hpp"
+
+#include <algorithm>
+#include <cstring>
+
+#include "soft_sdk.h"
+#include "tesselctl/device/entry_line.hpp"
+#include "tesselctl/program/status.hpp"
+#include "tesselctl/text/files.hpp"
+#include "tesselctl/text/interrupt.hpp"
+#include "tesselctl/text/progress.hpp"
+#include "tesselctl/text/route_file.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+// Faults beyond these are counted and not printed.
+constexpr uint64_t kFaultsShown = 10;
+constexpr size_t kBatch = 4096;
+
+struct LoadedFile {
+  std::string name;
+  RouteFile routes;
+};
+
+class FaultReport {
+ public:
+  explicit FaultReport(Output &errors) : errors_(errors) {}
+  void add(const std::string &file, uint64_t line, size_t column, const std::string &message) {
+    if (++count_ > kFaultsShown) return;
+    const std::string place = column == 0 ? "" : ":" + std::to_string(column);
+    errors_.line("{}:{}{}: {}", file, line, place, message);
+  }
+  void finish() {
+    if (count_ > kFaultsShown) errors_.line("and {} more of them", grouped(count_ - kFaultsShown));
+    errors_.flush();
+  }
+  uint64_t count() const { return count_; }
+
+ private:
+  Output &errors_;
+  uint64_t count_ = 0;
+};
+
+// The table of the program's routes whose prefixes are such addresses, or null.
+const bindings::Record *table_for(Notation address) {
+  const bindings::Routes &routes = bindings::binding.routes;
+  for (size_t i = 0; i < routes.table_count; ++i) {
+    const bindings::Record *table = find_record(tables(), routes.tables[i]);
+    for (const Field &field : table->shown()) {
+      if (field.match == Match::lpm && field.notation == address) return table;
+    }
+  }
+  return nullptr;
+}
+
+const bindings::Record &route_action() {
+  if (bindings::binding.routes.action != nullptr)
+    return action_record(bindings::binding.routes.action);
+  throw Fault("the program has no tables of routes");
+}
+
+// Adds and finds the entries of one table. The functions are looked up once; for each route only
+// the members of the records change.
+class RouteTable {
+ public:
+  RouteTable(const Device &device, const char *table, uint64_t vrf)
+      : device_(device),
+        info_(resolve_table({table, 0})),
+        key_(info_.record->size),
+        parameters_(route_action().size),
+        nexthop_(route_action().shown().front()),
+        add_(device.prepare("table_add", table, route_action().name)),
+        find_(device.prepare("match_spec_to_entry_hdl", table)) {
+    for (const Field &field : info_.record->shown()) {
+      if (field.match == Match::lpm) {
+        address_ = field.parts[0]->offset;
+        length_ = field.parts[0][1].offset;
+      } else {
+        store_value(field, {vrf, low_ones(field.width)}, key_.data());
+      }
+    }
+    add_.set("match_spec", key_.data()).set("action_spec", parameters_.data());
+    add_.set("ttl", uint64_t{0}).set("entry", &entry_);
+    find_.set("match_spec", key_.data()).set("entry", &entry_);
+  }
+
+  // The status; the handle is entry() then.
+  template <class Route>
+  uint32_t add(const Route &route) {
+    write_key(route);
+    store_value(nexthop_, {route.nexthop, low_ones(nexthop_.width)}, parameters_.data());
+    return static_cast<uint32_t>(add_.run());
+  }
+  template <class Route>
+  uint32_t find(const Route &route) {
+    write_key(route);
+    return static_cast<uint32_t>(find_.run());
+  }
+  p4_pd_entry_handle_t entry() const { return entry_; }
+  const char *name() const { return info_.name(); }
+  uint64_t memory() const {
+    uint64_t bytes = 0;
+    soft_memory_bytes(device_.id(), info_.record->number, &bytes);
+    return bytes;
+  }
+
+ private:
+  template <class Route>
+  void write_key(const Route &route) {
+    memcpy(key_.data() + address_, &route.address, sizeof route.address);
+    const uint16_t length = route.length;
+    memcpy(key_.data() + length_, &length, sizeof length);
+  }
+
+  const Device &device_;
+  TableInfo info_;
+  std::vector<uint8_t> key_;
+  std::vector<uint8_t> parameters_;
+  const Field &nexthop_;
+  size_t address_ = 0;  // offsets in the key
+  size_t length_ = 0;
+  Call add_;
+  Call find_;
+  p4_pd_entry_handle_t entry_ = 0;
+};
+
+// The load of all files of one family.
+template <class Route>
+class RouteLoad {
+ public:
+  RouteLoad(const Device &device, const char *table, const RoutesOptions &options,
+            std::vector<Route> RouteFile::*routes, const std::vector<LoadedFile> &files,
+            FaultReport &faults)
+      : table_(device, table, options.vrf),
+        progress_(options.progress),
+        routes_(routes),
+        files_(files),
+        faults_(faults) {
+    for (const LoadedFile &file : files) total_ += (file.routes.*routes).size();
+  }
+
+  void add_all() {
+    handles_.resize(total_);
+    const uint64_t before = table_.memory();
+    Progress progress(std::string("adding to ") + table_.name(), total_, progress_);
+    const StopWatch watch;
+    for_each(progress, [&](const LoadedFile &file, const Route &route, size_t at) {
+      const uint32_t status = table_.add(route);
+      if (status == BF_SUCCESS) {
+        handles_[at] = table_.entry();
+        ++by_length_[route.length];
+        ++added_;
+      } else {
+        faults_.add(file.name, route.line, 0, status_text(status));
+      }
+    });
+    add_time_ = watch.cpu_seconds();
+    bytes_ = table_.memory() - before;
+  }
+
+  void verify_all() {
+    Progress progress(std::string("verifying ") + table_.name(), total_, progress_);
+    const StopWatch watch;
+    for_each(progress, [&](const LoadedFile &file, const Route &route, size_t at) {
+      const uint32_t status = table_.find(route);
+      if (status == BF_SUCCESS && table_.entry() == handles_[at]) {
+        ++found_;
+      } else if (status != BF_SUCCESS) {
+        faults_.add(file.name, route.line, 0, "not found again: " + status_text(status));
+      } else if (handles_[at] != 0) {
+        faults_.add(file.name, route.line, 0, "another entry was found for this prefix");
+      }
+    });
+    verify_time_ = watch.cpu_seconds();
+  }
+
+  void print(Output &out) const {
+    out.line("{}", out.styled(Style::heading, table_.name()));
+    print_step(out, "added", added_, add_time_);
+    print_step(out, "verified", found_, verify_time_);
+    const double each = added_ == 0 ? 0 : static_cast<double>(bytes_) / static_cast<double>(added_);
+    out.line("  memory    {:>10} bytes, {:.1f} an entry", grouped(bytes_), each);
+    Listing listing({"  length", ">entries"});
+    for (size_t length = 0; length < std::size(by_length_); ++length) {
+      if (by_length_[length] == 0) continue;
+      listing.add({fmt::format("  /{}", length), grouped(by_length_[length])});
+    }
+    listing.print(out);
+  }
+
+ private:
+  // Of the thread: what else the machine does is none of the library's time.
+  void print_step(Output &out, const char *step, uint64_t count, double cpu_seconds) const {
+    const double rate = cpu_seconds > 0 ? static_cast<double>(count) / cpu_seconds : 0;
+    out.line("  {:<9} {:>10} of {} in {:.3f} s of CPU time, {} a second", step, grouped(count),
+             grouped(total_), cpu_seconds, grouped(static_cast<uint64_t>(rate)));
+  }
+
+  template <class Visit>
+  void for_each(Progress &progress, Visit visit) {
+    size_t at = 0;
+    for (const LoadedFile &file : files_) {
+      for (const Route &route : file.routes.*routes_) {
+        visit(file, route, at);
+        if (++at % kBatch != 0) continue;
+        progress.update(at);
+        check_interrupt();
+      }
+    }
+  }
+
+  RouteTable table_;
+  bool progress_;
+  std::vector<Route> RouteFile::*routes_;
+  const std::vector<LoadedFile> &files_;
+  FaultReport &faults_;
+  std::vector<p4_pd_entry_handle_t> handles_;
+  size_t total_ = 0;
+  uint64_t added_ = 0;
+  uint64_t found_ = 0;
+  uint64_t bytes_ = 0;
+  uint64_t by_length_[129] = {};
+  double add_time_ = 0;  // seconds
+  double verify_time_ = 0;
+};
+
+template <class Route>
+void load(const Device &device, Notation address, std::vector<Route> RouteFile::*routes,
+          const RoutesOptions &options, const std::vector<LoadedFile> &files, FaultReport &faults,
+          Output &out) {
+  const auto has_any = [&](const LoadedFile &file) { return !(file.routes.*routes).empty(); };
+  const auto first = std::find_if(files.begin(), files.end(), has_any);
+  if (first == files.end()) return;
+  const bindings::Record *table = table_for(address);
+  if (table == nullptr) {
+    return faults.add(first->name, (first->routes.*routes).front().line, 0,
+                      "the program has no table for such routes");
+  }
+  RouteLoad<Route> load(device, table->name, options, routes, files, faults);
+  load.add_all();
+  load.verify_all();
+  load.print(out);
+}
+
+}  // namespace
+
+RouteLimits route_limits() {
+  RouteLimits limits;
+  limits.nexthop = static_cast<uint16_t>(
+      std::min<uint64_t>(0xffff, low_ones(route_action().shown().front().width).low));
+  limits.vrf = ~uint64_t{0};
+  for (const Notation address : {Notation::ipv4, Notation::ipv6}) {
+    const bindings::Record *table = table_for(address);
+    if (table == nullptr) continue;
+    for (const Field &field : table->shown()) {
+      if (field.match != Match::lpm) limits.vrf = std::min(limits.vrf, low_ones(field.width).low);
+    }
+  }
+  return limits;
+}
+
+bool load_routes(const Device &device, const RoutesOptions &options, Output &out, Output &errors) {
+  // Each kind has lines of its own to show, so that neither hides the other.
+  FaultReport parse_faults(errors);
+  FaultReport faults(errors);
+  const uint16_t limit = route_limits().nexthop;
+  std::vector<LoadedFile> files;
+  for (const std::string &name : options.files) {
+    const Clock::time_point start = Clock::now();
+    FileLines lines(name);
+    files.push_back({name, parse_routes([&](std::string_view &line) { return lines.next(line); },
+                                        options.nexthop, limit,
+                                        [&](const RouteFault &fault) {
+                                          parse_faults.add(name, fault.line, fault.column,
+                                                           fault.message);
+                                        })});
+    const RouteFile &routes = files.back().routes;
+    out.line("{}: {} IPv4 and {} IPv6 prefixes, read in {:.3f} s", name,
+             grouped(routes.ipv4.size()), grouped(routes.ipv6.size()), seconds_since(start));
+  }
+  parse_faults.finish();
+  out.flush();
+  load(device, Notation::ipv4, &RouteFile::ipv4, options, files, faults, out);
+  load(device, Notation::ipv6, &RouteFile::ipv6, options, files, faults, out);
+  const uint64_t count = parse_faults.count() + faults.count();
+  out.line("{} error{}", grouped(count), count == 1 ? "" : "s");
+  out.flush();
+  faults.finish();
+  return count == 0;
+}
+
+}  // namespace tesselctl

@@ -1,0 +1,71 @@
+// What the items of tables have in common: value strings and calls of entries and default entries.
+#pragma once
+
+#include <optional>
+
+#include "tesselctl/device/entry_value.hpp"
+#include "tesselctl/state/kind.hpp"
+#include "tesselctl/state/line_words.hpp"
+
+namespace tesselctl {
+
+extern const ObjectKind kTableObjects;
+
+// Entries or default entries:
+//   ((( 0x01,0x0a000000,0x0008,),('setNextHop',(0x000c,)),),(0,True)) ttl=0
+//   (((),('setMbrHdl',(0x1,))),(0,True))
+class TableItems : public ObjectItems {
+ public:
+  void parse(ValueScanner &line, ItemBytes &item) override;
+  void print(std::string &text, const ItemView &item) const override;
+  void add_to(Row &row, const ItemView &item) const override {
+    add_entry(row, table_, item, Naming::numbers);
+  }
+  uint32_t profile() const override { return table_.description->action_data_table; }
+  void renumber(std::span<char> identity, std::span<char> value,
+                const Renumbering &numbers) const override;
+
+ protected:
+  // The functions that give entries an action of the table, null where it has none, and their calls
+  // on one device.
+  struct ActionCalls {
+    const bindings::Record *action;
+    const bindings::Export *add;
+    const bindings::Export *modify;
+    const Device *device = nullptr;
+    std::optional<Call> add_call = {};
+    std::optional<Call> modify_call = {};
+  };
+  struct Families {
+    const char *add;
+    const char *modify;
+  };
+
+  // keyed says whether the items have keys; the families are those of functions with an action.
+  TableItems(const char *table, bool keyed, Families families);
+
+  const TableInfo &table() const { return table_; }
+  // Reads the entry with numbers for handles. Throws Fault.
+  void read_entry(Source &from, EntryReader &reader, p4_pd_entry_handle_t entry, ItemBytes &item);
+  // The call that gives an entry the action of the value.
+  Call &action_call(const Target &to, std::string_view value, Edit edit);
+  // The handle of the member or group of the value. Throws Fault at the word.
+  uint32_t target_of(Target &to, const EntryHead &head, Word word) const;
+  // Sets the counter, which no call of an entry gives.
+  void write_counter(const Target &to, Edit edit, const EntryHead &head, uint32_t entry,
+                     Word word) const;
+
+ private:
+  ActionCalls &calls_of(const bindings::Record &action);
+  void check_action(const bindings::Record &action, Word word);
+  void parse_resources(const ValueScanner &line, EntryHead &head) const;
+
+  TableInfo table_;
+  bool keyed_;
+  Families families_;
+  const soft_counter_t *counter_;
+  std::vector<ActionCalls> calls_;
+  const bindings::Record *last_action_ = nullptr;
+};
+
+}  // namespace tesselctl

@@ -1,0 +1,122 @@
+// What a packet would meet: look-ups and traffic.
+#include <algorithm>
+
+#include "soft_sdk.h"
+#include "soft_traffic.h"
+#include "tesselctl/command/options.hpp"
+#include "tesselctl/device/entry_line.hpp"
+#include "tesselctl/device/read_back.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+// "TABLE FIELD=VALUE... [NAME=VALUE...]": a key with the values of a packet, and options.
+class PacketLine {
+ public:
+  PacketLine(const Invocation &invocation, std::initializer_list<std::string_view> names)
+      : word_(need_argument(invocation, 0, "the name of a table")),
+        table_(resolve_table(word_)),
+        fields_(*table_.record, table_.name()) {
+    for (const Word &word : invocation.arguments.subspan(1)) {
+      const Assignment assignment = split_assignment(word);
+      const bool is_option =
+          std::find(names.begin(), names.end(), assignment.name.text) != names.end();
+      if (is_option && !has_field_named(*table_.record, assignment.name.text)) {
+        option_words_.push_back(word);
+      } else {
+        fields_.set(assignment);
+      }
+    }
+    fields_.finish(word_);
+    pack();
+  }
+
+  Word word() const { return word_; }
+  const TableInfo &table() const { return table_; }
+  Invocation options() const { return {word_, option_words_}; }
+  const uint8_t *key() const { return key_.empty() ? nullptr : key_.data(); }
+  uint32_t length() const { return static_cast<uint32_t>(key_.size()); }
+
+ private:
+  // The key as packets carry it: the fields big-endian at their places.
+  void pack() {
+    const soft_table_t &description = *table_.description;
+    key_.resize(description.key_bytes);
+    for (uint32_t i = 0; i < description.field_count; ++i) {
+      const soft_key_field_t &place = description.fields[i];
+      const Field &field = find_field(*table_.record, {place.name, 0}, table_.name());
+      const auto bytes = to_bytes(load_value(field, fields_.data()).value);
+      std::copy(bytes.end() - place.bytes, bytes.end(), key_.begin() + place.offset);
+    }
+  }
+
+  Word word_;
+  TableInfo table_;
+  RecordWriter fields_;
+  std::vector<Word> option_words_;
+  std::vector<uint8_t> key_;
+};
+
+bf_pipe_id_t pipe_of(const Context &context, const Options &options) {
+  return static_cast<bf_pipe_id_t>(options.number_or("pipe", context.device.pipes() - 1, 0));
+}
+
+Row hit_row(const Context &context, const PacketLine &line, p4_pd_entry_handle_t entry,
+            bool is_default) {
+  return is_default ? default_entry_row(context.device, line.table(), line.word())
+                    : entry_row(context.device, line.table(), entry, line.word());
+}
+
+// A packet that hits nothing in a table without a default entry.
+Row miss_row(const PacketLine &line) {
+  return Row().object("table", line.table().name()).object("result", "hits no entry");
+}
+
+void lookup(Context &context, const Invocation &invocation) {
+  const PacketLine line(invocation, {"pipe"});
+  const Options options(line.options(), 0, {"pipe"});
+  pipe_entry_handle_t entry = 0;
+  bool is_default = false;
+  const bf_status_t status =
+      soft_lookup(context.device.id(), pipe_of(context, options), line.table().record->number,
+                  line.key(), line.length(), &entry, &is_default);
+  if (status == BF_TABLE_MISS) return context.results.row(miss_row(line));
+  check(status, line.word());
+  context.results.row(hit_row(context, line, entry, is_default));
+}
+
+void traffic(Context &context, const Invocation &invocation) {
+  const PacketLine line(invocation, {"pipe", "packets", "bytes", "hash"});
+  const Options options(line.options(), 0, {"pipe", "packets", "bytes", "hash"});
+  const auto hash = to_bytes(options.number_or("hash", 0xffffffffu, 0));
+  soft_traffic_t packets = {};
+  packets.key = line.key();
+  packets.key_length = line.length();
+  packets.hash = hash.data() + 12;
+  packets.hash_length = 4;
+  packets.packets = options.number_or("packets", 1ull << 48, 1);
+  packets.bytes = options.number_or("bytes", 1ull << 56, 64 * packets.packets);
+  soft_hit_t hit = {};
+  const bf_status_t status = soft_traffic_hit(context.device.id(), pipe_of(context, options),
+                                              line.table().record->number, &packets, &hit);
+  if (status == BF_TABLE_MISS) return context.results.row(miss_row(line));
+  check(status, line.word());
+  const char *colors[] = {"green", "yellow", "red"};
+  Row row = hit_row(context, line, hit.entry, hit.is_default);
+  if (line.table().indirect() && hit.member != 0) row.number("chose", hit.member);
+  context.results.row(row.text("color", colors[hit.color % std::size(colors)]));
+}
+
+constexpr Command kCommands[] = {
+    {"lookup", "TABLE FIELD=VALUE... [pipe=N]", "shows the entry that a packet would hit", lookup},
+    {"traffic", "TABLE FIELD=VALUE... [pipe=N] [packets=N] [bytes=N] [hash=N]",
+     "sends packets through a table: counters, meters and idle time follow", traffic,
+     Kind::changes},
+};
+
+}  // namespace
+
+std::span<const Command> traffic_commands() { return kCommands; }
+
+}  // namespace tesselctl

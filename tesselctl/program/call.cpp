@@ -1,0 +1,48 @@
+#include "tesselctl/program/call.hpp"
+
+#include <stdexcept>
+#include <string>
+
+#include "tesselctl/program/library.hpp"
+#include "tesselctl/program/trace.hpp"
+
+namespace tesselctl {
+
+const bindings::Export &need_export(std::string_view family, std::string_view object,
+                                    std::string_view action) {
+  if (const bindings::Export *found = find_export(family, object, action)) return *found;
+  throw std::logic_error("the library has no function " + std::string(family) + " of " +
+                         std::string(object) + " " + std::string(action));
+}
+
+size_t Call::position(std::string_view parameter) const {
+  for (size_t i = 0; i < target_->parameter_count; ++i) {
+    if (parameter == target_->parameters[i].name) return i;
+  }
+  return kNone;
+}
+
+Call &Call::set(std::string_view parameter, uint64_t value) {
+  const size_t at = position(parameter);
+  if (at == kNone || at >= kMostParameters) {
+    throw std::logic_error(std::string(target_->name) + " has no parameter " +
+                           std::string(parameter));
+  }
+  words_[at] = value;
+  set_ |= 1u << at;
+  return *this;
+}
+
+uint64_t Call::run() const {
+  for (size_t i = 0; i < target_->parameter_count; ++i) {
+    if ((set_ >> i & 1) == 0) {
+      throw std::logic_error(std::string(target_->name) + ": " + target_->parameters[i].name +
+                             " is not set");
+    }
+  }
+  const uint64_t result = target_->call(words_.data());
+  trace_call(*target_, words_.data(), result);
+  return result;
+}
+
+}  // namespace tesselctl

@@ -1,0 +1,129 @@
+#include "tesselctl/program/library.hpp"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "tesselctl/text/suggest.hpp"
+
+extern "C" {
+extern const soft_program_t soft_program_tessel_switch;
+}
+
+namespace tesselctl {
+
+namespace {
+
+using bindings::binding;
+using bindings::Export;
+
+// Exports by family, object and action: open addressing at half load.
+class ExportIndex {
+ public:
+  ExportIndex() {
+    size_t count = 0;
+    for (size_t i = 0; i < binding.list_count; ++i) count += binding.lists[i]->count;
+    size_t size = 64;
+    while (size < 2 * count) size *= 2;
+    slots_.resize(size);
+    for (size_t i = 0; i < binding.list_count; ++i) {
+      const bindings::ExportList &list = *binding.lists[i];
+      for (size_t j = 0; j < list.count; ++j) insert(list.rows[j]);
+    }
+  }
+
+  const Export *find(std::string_view family, std::string_view object,
+                     std::string_view action) const {
+    for (size_t at = hash(family, object, action);; ++at) {
+      const Export *row = slots_[at & (slots_.size() - 1)];
+      if (row == nullptr) return nullptr;
+      if (family == row->family && object == row->object && action == row->action) return row;
+    }
+  }
+
+ private:
+  static size_t hash(std::string_view family, std::string_view object, std::string_view action) {
+    const std::hash<std::string_view> of;
+    return of(family) * 31 + of(object) * 7 + of(action);
+  }
+  void insert(const Export &row) {
+    size_t at = hash(row.family, row.object, row.action);
+    while (slots_[at & (slots_.size() - 1)] != nullptr) ++at;
+    slots_[at & (slots_.size() - 1)] = &row;
+  }
+
+  std::vector<const Export *> slots_;
+};
+
+}  // namespace
+
+const Export *find_export(std::string_view family, std::string_view object,
+                          std::string_view action) {
+  static const ExportIndex index;
+  return index.find(family, object, action);
+}
+
+void for_each_export(std::string_view family, const std::function<void(const Export &)> &visit) {
+  for (size_t i = 0; i < binding.list_count; ++i) {
+    const bindings::ExportList &list = *binding.lists[i];
+    for (size_t j = 0; j < list.count; ++j) {
+      if (family == list.rows[j].family) visit(list.rows[j]);
+    }
+  }
+}
+
+std::span<const bindings::Record> tables() { return binding.tables.list(); }
+std::span<const bindings::Record> actions() { return binding.actions.list(); }
+
+const bindings::Record *find_record(std::span<const bindings::Record> records,
+                                    std::string_view name) {
+  for (const bindings::Record &record : records) {
+    if (name == record.name) return &record;
+  }
+  return nullptr;
+}
+
+const bindings::Record &action_record(std::string_view name) {
+  if (const bindings::Record *found = find_record(actions(), name)) return *found;
+  throw std::logic_error("the binding has no action " + std::string(name));
+}
+
+const soft_program_t &program() { return soft_program_tessel_switch; }
+
+template <>
+std::span<const soft_table_t> program_rows() {
+  return {program().tables, program().table_count};
+}
+template <>
+std::span<const soft_profile_t> program_rows() {
+  return {program().profiles, program().profile_count};
+}
+template <>
+std::span<const soft_counter_t> program_rows() {
+  return {program().counters, program().counter_count};
+}
+template <>
+std::span<const soft_meter_t> program_rows() {
+  return {program().meters, program().meter_count};
+}
+template <>
+std::span<const soft_register_t> program_rows() {
+  return {program().registers, program().register_count};
+}
+template <>
+std::span<const soft_hash_t> program_rows() {
+  return {program().hashes, program().hash_count};
+}
+template <>
+std::span<const soft_digest_t> program_rows() {
+  return {program().digests, program().digest_count};
+}
+template <>
+std::span<const soft_value_set_t> program_rows() {
+  return {program().value_sets, program().value_set_count};
+}
+
+void throw_unknown(Word word, std::string_view kind, const std::vector<std::string_view> &names) {
+  throw Fault(word, "no " + std::string(kind) + " has this name", nearest(word.text, names));
+}
+
+}  // namespace tesselctl

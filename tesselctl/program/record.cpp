@@ -1,0 +1,80 @@
+#include "tesselctl/program/record.hpp"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "tesselctl/program/library.hpp"
+
+namespace tesselctl {
+
+void RecordWriter::set(const Assignment &word) {
+  const Field &field = find_field(*record_, word.name, what_);
+  for (size_t i = 0; i < field.part_count(); ++i) {
+    if (given_[place_of(field.parts[i])]) {
+      throw Fault(word.name, fmt::format("{} is given twice", field.label));
+    }
+  }
+  store_value(field, parse_value(field, word.value), bytes_.data());
+  for (size_t i = 0; i < field.part_count(); ++i) given_[place_of(field.parts[i])] = true;
+}
+
+bool RecordWriter::any_given() const {
+  return std::find(given_.begin(), given_.end(), true) != given_.end();
+}
+
+void RecordWriter::finish(Word word) {
+  std::string missing;
+  const auto miss = [&](std::string_view label) {
+    missing += fmt::format("{}{}", missing.empty() ? "" : ", ", label);
+  };
+  const auto is_given = [&](const bindings::Member *member) { return given_[place_of(member)]; };
+  for (const Field &field : record_->shown()) {
+    if (field.match == Match::ternary) continue;
+    const bool upper = is_given(field.parts[0]);
+    const bool lower = field.is_pair() ? is_given(field.parts[1]) : upper;
+    if (!upper && !lower) {
+      miss(field.label);
+    } else if (!upper || !lower) {
+      miss(find_field(*record_, {field.parts[upper ? 1 : 0]->name, 0}, what_).label);
+    }
+  }
+  if (!missing.empty()) throw Fault(word, what_ + " also needs " + missing);
+}
+
+namespace {
+
+bool same_field_value(const void *field, std::string_view shown, Word written) {
+  return same_value(*static_cast<const Field *>(field), shown, written);
+}
+
+bool same_action(const void *, std::string_view shown, Word written) {
+  resolve(written, actions(), "action");
+  return shown == written.text;
+}
+
+}  // namespace
+
+void add_record(Row &row, std::string_view group, const bindings::Record &record,
+                const uint8_t *bytes, LeaveOut leave_out) {
+  for (const Field &field : record.shown()) {
+    const FieldValue value = load_value(field, bytes);
+    if (field.match == Match::ternary && value.mask.is_zero()) continue;
+    if (leave_out == LeaveOut::zeroes && value.value.is_zero()) continue;
+    row.field(group, field.label, format_value(field, value), {same_field_value, &field});
+  }
+}
+
+void add_action(Row &row, const bindings::Record &action, const uint8_t *bytes) {
+  row.field({}, "action", action.name, {same_action, nullptr});
+  add_record(row, Row::kParameters, action, bytes);
+}
+
+void add_samples(Row &row, std::string_view group, const bindings::Record &record) {
+  for (const Field &field : record.shown()) {
+    const std::string value = format_value(field, {{}, low_ones(field.width)});
+    row.field(group, field.label, value, {same_field_value, &field});
+  }
+}
+
+}  // namespace tesselctl

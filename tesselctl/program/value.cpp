@@ -1,0 +1,220 @@
+#include "tesselctl/program/value.hpp"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace tesselctl {
+
+namespace {
+
+bool has(std::string_view text, char c) { return text.find(c) != std::string_view::npos; }
+
+[[noreturn]] void throw_not_a(Word text, const char *what) {
+  throw Fault(text, fmt::format("this is not {}", what));
+}
+
+std::string limit_text(unsigned width) {
+  return width <= 32 ? decimal(low_ones(width).low) : hexadecimal(low_ones(width));
+}
+
+Number check_width(const Field &field, Word text, Number value) {
+  if (value.fits(field.width)) return value;
+  throw Fault(text, fmt::format("{} has {} bit{}, so at most {}", field.label, field.width,
+                                field.width == 1 ? "" : "s", limit_text(field.width)));
+}
+
+// "10.1.0.0" of "10.1", as some tools write networks; empty where it is not so.
+std::string completed_ipv4(std::string_view text) {
+  std::string address(text);
+  const auto dots = std::count(text.begin(), text.end(), '.');
+  for (auto missing = 3 - dots; missing > 0; --missing) address += ".0";
+  return parse_ipv4(address) ? address : std::string();
+}
+
+// One value in the notations that fit the width of the field.
+Number parse_plain(const Field &field, Word text) {
+  const bool colon = has(text.text, ':');
+  const bool dot = has(text.text, '.');
+  if (field.width == 48 && (colon || dot || has(text.text, '-'))) {
+    const auto mac = parse_mac(text.text);
+    if (!mac) throw_not_a(text, "a MAC address");
+    return *mac;
+  }
+  if (field.width == 128 && colon) {
+    const auto address = parse_ipv6(text.text);
+    if (!address) throw_not_a(text, "an IPv6 address");
+    return *address;
+  }
+  if (field.width == 32 && dot) {
+    const auto address = parse_ipv4(text.text);
+    if (address) return *address;
+    throw Fault(text, "this is not an IPv4 address", completed_ipv4(text.text));
+  }
+  const auto number = parse_number(text.text);
+  if (!number) {
+    if (field.notation == Notation::ipv4) throw_not_a(text, "an IPv4 address");
+    if (field.notation == Notation::ipv6) throw_not_a(text, "an IPv6 address");
+    if (field.notation == Notation::mac) throw_not_a(text, "a MAC address");
+    throw_not_a(text, "a number");
+  }
+  return check_width(field, text, *number);
+}
+
+void check_maskable(const Field &field, Word text) {
+  if (field.match == Match::exact) {
+    throw Fault(text, fmt::format("{} is matched exactly, so it takes one value", field.label));
+  }
+}
+
+FieldValue parse_prefix(const Field &field, Word text, size_t slash) {
+  check_maskable(field, text);
+  const Number value = parse_plain(field, text.first(slash));
+  const Word length_word = text.from(slash + 1);
+  const auto length = parse_number(length_word.text);
+  if (!length) throw_not_a(length_word, "a prefix length");
+  if (length->high != 0 || length->low > field.width) {
+    throw Fault(length_word,
+                fmt::format("a prefix of {} has at most {} bits", field.label, field.width));
+  }
+  const FieldValue parsed = {value, prefix_mask(static_cast<unsigned>(length->low), field.width)};
+  if ((value & ~parsed.mask).is_zero()) return parsed;
+  const bool is_short = field.notation == Notation::ipv4 && !has(text.text, '.');
+  const auto meant =
+      is_short ? parse_ipv4(completed_ipv4(text.text.substr(0, slash))) : std::nullopt;
+  throw Fault(text, "the address has bits behind its prefix",
+              format_value(field, {(meant ? *meant : value) & parsed.mask, parsed.mask}));
+}
+
+FieldValue parse_masked(const Field &field, Word text, size_t ampersand) {
+  check_maskable(field, text);
+  if (field.match == Match::lpm) {
+    throw Fault(text, fmt::format("{} takes a prefix (VALUE/LENGTH), not a mask", field.label));
+  }
+  const FieldValue parsed = {parse_plain(field, text.first(ampersand)),
+                             parse_plain(field, text.from(ampersand + 1))};
+  if ((parsed.value & ~parsed.mask).is_zero()) return parsed;
+  throw Fault(text, "the value has bits that its mask leaves out",
+              format_value(field, {parsed.value & parsed.mask, parsed.mask}));
+}
+
+std::string plain_text(const Field &field, Number value) {
+  switch (field.notation) {
+    case Notation::ipv4:
+      return ipv4_text(static_cast<uint32_t>(value.low));
+    case Notation::ipv6:
+      return ipv6_text(value);
+    case Notation::mac:
+      return mac_text(value.low);
+    default:
+      break;
+  }
+  return value.high == 0 ? decimal(value.low) : hexadecimal(value);
+}
+
+}  // namespace
+
+FieldValue parse_value(const Field &field, Word text) {
+  if (text.text.empty()) throw Fault(text, fmt::format("{} needs a value", field.label));
+  if (text.text == "*") {
+    check_maskable(field, text);
+    return {};
+  }
+  if (const size_t at = text.text.find('&'); at != std::string_view::npos) {
+    return parse_masked(field, text, at);
+  }
+  if (const size_t at = text.text.find('/'); at != std::string_view::npos) {
+    return parse_prefix(field, text, at);
+  }
+  const Number value = parse_plain(field, text);
+  return {value, field.match == Match::ternary ? key_bits(field) : low_ones(field.width)};
+}
+
+uint64_t parse_limited(Word text, uint64_t limit, const std::string &what) {
+  if (text.text.empty()) throw Fault(text, what + " needs a value");
+  const auto number = parse_number(text.text);
+  if (!number) throw_not_a(text, "a number");
+  if (number->high == 0 && number->low <= limit) return number->low;
+  throw Fault(text, fmt::format("{} is at most {}", what, limit));
+}
+
+std::string format_value(const Field &field, const FieldValue &value) {
+  if (field.match == Match::exact) return plain_text(field, value.value);
+  const auto length = prefix_length_of(value.mask, field.width);
+  if (field.match == Match::lpm) {
+    return fmt::format("{}/{}", plain_text(field, value.value), length.value_or(field.width));
+  }
+  if (value.mask.is_zero()) return "*";
+  if (value.mask == key_bits(field)) return plain_text(field, value.value);
+  const bool address = field.notation == Notation::ipv4 || field.notation == Notation::ipv6;
+  if (address && length) return fmt::format("{}/{}", plain_text(field, value.value), *length);
+  if (!address && field.notation != Notation::mac) {
+    return hexadecimal(value.value) + "&" + hexadecimal(value.mask);
+  }
+  return plain_text(field, value.value) + "&" + plain_text(field, value.mask);
+}
+
+bool same_value(const Field &field, std::string_view shown, Word written) {
+  Field maskable = field;
+  if (field.match == Match::exact) maskable.match = Match::ternary;
+  return parse_value(maskable, written) == parse_value(maskable, {shown, 0});
+}
+
+namespace {
+
+// Both ABIs are little-endian, so the first bytes of a word are the integer of that size.
+void store_member(const bindings::Member &member, Number value, uint8_t *record) {
+  uint8_t *at = record + member.offset;
+  if (member.is_bytes) {
+    const auto bytes = to_bytes(value);
+    std::copy(bytes.end() - member.storage, bytes.end(), at);
+  } else {
+    memcpy(at, &value.low, member.storage);
+  }
+}
+
+Number load_member(const bindings::Member &member, const uint8_t *record) {
+  const uint8_t *at = record + member.offset;
+  if (member.is_bytes) return from_bytes(at, member.storage);
+  uint64_t word = 0;
+  memcpy(&word, at, member.storage);
+  return word;
+}
+
+}  // namespace
+
+void store_value(const Field &field, const FieldValue &value, uint8_t *record) {
+  unsigned shift = field.width;
+  for (size_t i = 0; i < field.part_count(); ++i) {
+    const bindings::Member *part = field.parts[i];
+    shift -= part->width;
+    const Number ones = low_ones(part->width);
+    store_member(*part, value.value >> shift & ones, record);
+    if (field.match == Match::ternary) {
+      store_member(part[1], value.mask >> shift & ones, record);
+    } else if (field.match == Match::lpm) {
+      store_member(part[1], *prefix_length_of(value.mask, field.width), record);
+    }
+  }
+}
+
+FieldValue load_value(const Field &field, const uint8_t *record) {
+  FieldValue loaded;
+  for (size_t i = 0; i < field.part_count(); ++i) {
+    const bindings::Member *part = field.parts[i];
+    const unsigned width = part->width;
+    loaded.value = loaded.value << width | load_member(*part, record);
+    Number mask = low_ones(width);
+    if (field.match == Match::ternary) {
+      mask = load_member(part[1], record);
+    } else if (field.match == Match::lpm) {
+      const uint64_t length = load_member(part[1], record).low;
+      mask = prefix_mask(static_cast<unsigned>(std::min<uint64_t>(length, width)), width);
+    }
+    loaded.mask = loaded.mask << width | mask;
+  }
+  return loaded;
+}
+
+}  // namespace tesselctl

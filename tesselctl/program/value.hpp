@@ -1,0 +1,46 @@
+// Values of fields: native notation on one side, the members of a record on the other.
+//
+//   number    decimal, 0x hexadecimal, '_' between digits
+//   ipv4      a.b.c.d, for every field of 32 bits
+//   ipv6      for every field of 128 bits
+//   mac       aa:bb:cc:dd:ee:ff, aa-bb-cc-dd-ee-ff, aabb.ccdd.eeff
+//   VALUE/N   a prefix of N bits, for lpm and ternary fields
+//   VALUE&M   for ternary fields: the bits that are set in M take part
+//   *         anything, for lpm and ternary fields
+//
+// A plain value of a ternary field stands under the bits that the key takes of the field.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "tesselctl/program/field.hpp"
+#include "tesselctl/text/number.hpp"
+
+namespace tesselctl {
+
+struct FieldValue {
+  Number value;
+  Number mask;  // of a ternary field; the ones of the prefix of an lpm field; all ones otherwise
+
+  friend bool operator==(const FieldValue &, const FieldValue &) = default;
+};
+
+// Throws Fault: no such notation, wider than the field, a mask where none can be, a value with bits
+// that its mask or prefix leaves out. A plain value may have bits beyond those of the key.
+FieldValue parse_value(const Field &field, Word text);
+
+// A number from 0 to limit; what says whose it is in the message.
+uint64_t parse_limited(Word text, uint64_t limit, const std::string &what);
+
+// The shortest text that parse_value reads as the same.
+std::string format_value(const Field &field, const FieldValue &value);
+
+// Whether two texts are one value of the field, in whatever notation. An exact field may be written
+// with its full mask or prefix as well. Throws Fault where written is no value of the field.
+bool same_value(const Field &field, std::string_view shown, Word written);
+
+void store_value(const Field &field, const FieldValue &value, uint8_t *record);
+FieldValue load_value(const Field &field, const uint8_t *record);
+
+}  // namespace tesselctl

@@ -1,0 +1,269 @@
+// Tables on the page of a report: occupancy, prefix lengths, entries.
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "tesselctl/report/report_parts.hpp"
+#include "tesselctl/text/number.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+uint64_t most_entries(const DeviceReport &device) {
+  uint64_t most = 0;
+  for (const TableReport &table : device.tables) most = std::max(most, table.entries);
+  return most;
+}
+
+const TableReport *table_before(const Report &report, std::string_view name) {
+  if (!report.before) return nullptr;
+  for (const TableReport &table : report.before->tables) {
+    if (table.name == name) return &table;
+  }
+  return nullptr;
+}
+
+std::string difference_text(uint64_t before, uint64_t after) {
+  if (before == after) return {};
+  return after > before ? "+" + grouped(after - before) : "-" + grouped(before - after);
+}
+
+void write_occupancy(Html &html, const TableReport &table, uint64_t most) {
+  if (table.capacity == 0) {
+    const std::string label =
+        fmt::format("{}, no limit is set", counted(table.entries, "entry", "entries"));
+    return write_bar(html, table.entries, most, false, label);
+  }
+  const std::string share = percent(table.entries, table.capacity);
+  write_bar(
+      html, table.entries, table.capacity, true,
+      fmt::format("{} of {} entries, {}", grouped(table.entries), grouped(table.capacity), share));
+  html.leaf("small", fmt::format("{} of {}", share, grouped(table.capacity)));
+}
+
+void write_table_row(Html &html, const Report &report, const TableReport &table, uint64_t most) {
+  html.open("tr").open("th", {{"scope", "row"}});
+  html.open("a", {{"href", "#entries-" + table.name}}).name(table.name).close();
+  html.leaf("small", table.match).close();
+  html.open("td", {{"class", "n"}}).text(grouped(table.entries));
+  if (const TableReport *before = table_before(report, table.name)) {
+    const std::string change = difference_text(before->entries, table.entries);
+    if (!change.empty()) html.empty("br").leaf("small", change);
+  }
+  html.close().open("td");
+  write_occupancy(html, table, most);
+  html.close().close().line();
+}
+
+// "forward port=12"
+void write_default(Html &html, const TableReport &table) {
+  if (!table.default_entry) return;
+  html.text(table.default_entry->action);
+  if (table.default_entry->parameters.empty()) return;
+  html.text(" ").leaf("span", table.default_entry->parameters, {{"class", "mono soft"}});
+}
+
+// Tables without entries answer with their default action alone.
+void write_unused(Html &html, const std::vector<const TableReport *> &unused) {
+  if (unused.empty()) return;
+  html.open("details");
+  html.leaf("summary", counted(unused.size(), "table", "tables") + " without entries");
+  html.open("table");
+  write_head(html, {"Table", "Default action"});
+  html.open("tbody").line();
+  for (const TableReport *table : unused) {
+    html.open("tr").open("th", {{"scope", "row"}}).name(table->name).close().open("td");
+    write_default(html, *table);
+    html.close().close().line();
+  }
+  html.close().close().close().line();
+}
+
+bool is_shown(const Report &report, const TableReport &table) {
+  const TableReport *before = table_before(report, table.name);
+  return table.in_use() || (before != nullptr && before->in_use());
+}
+
+}  // namespace
+
+bool is_nearly_full(const TableReport &table) {
+  return table.capacity != 0 && table.entries >= table.capacity - table.capacity / 10;
+}
+
+void write_tables(Html &html, const Report &report) {
+  open_section(html, "tables", "Tables");
+  const uint64_t most = most_entries(report.device);
+  std::vector<const TableReport *> unused;
+  html.open("table");
+  write_head(html, {"Table", ">Entries", "~Occupancy"});
+  html.open("tbody").line();
+  for (const TableReport &table : report.device.tables) {
+    if (is_shown(report, table)) {
+      write_table_row(html, report, table, most);
+    } else {
+      unused.push_back(&table);
+    }
+  }
+  html.close().close().line();
+  write_unused(html, unused);
+  html.close().line();
+}
+
+// ---- Prefix lengths ----
+
+namespace {
+
+void write_columns(Html &html, const TableReport &table, uint64_t most, size_t top) {
+  const size_t count = table.lengths.size();
+  const std::string label =
+      fmt::format("{} by prefix length, most of them /{}: {}",
+                  counted(table.entries, "entry", "entries"), top, grouped(most));
+  html.open("svg", {{"class", "chart"},
+                    {"role", "img"},
+                    {"aria-label", label},
+                    {"viewBox", fmt::format("0 0 {} 100", count)},
+                    {"preserveAspectRatio", "none"}});
+  for (size_t length = 0; length < count; ++length) {
+    const uint64_t entries = table.lengths[length];
+    if (entries == 0) continue;
+    // Whatever is there can be seen.
+    const double height =
+        std::max(2.0, 96.0 * static_cast<double>(entries) / static_cast<double>(most));
+    html.open("rect", {{"class", "fill"},
+                       {"x", fmt::format("{:.2f}", static_cast<double>(length) + 0.1)},
+                       {"y", fmt::format("{:.2f}", 100.0 - height)},
+                       {"width", "0.8"},
+                       {"height", fmt::format("{:.2f}", height)}});
+    html.leaf("title", fmt::format("/{}: {}", length, grouped(entries))).close();
+  }
+  html.close().open("div", {{"class", "axis"}, {"aria-hidden", "true"}});
+  const size_t width = count - 1;
+  for (size_t tick = 0; tick <= 4; ++tick) {
+    const size_t length = width * tick / 4;
+    const double left = 100.0 * (static_cast<double>(length) + 0.5) / static_cast<double>(count);
+    // The outer ones end where the chart does.
+    const double place = tick == 0 ? 0.0 : tick == 4 ? 100.0 : left;
+    html.leaf("span", fmt::format("/{}", length), {{"style", fmt::format("left:{:.2f}%", place)}});
+  }
+  html.close().line();
+}
+
+void write_length_table(Html &html, const TableReport &table, uint64_t most) {
+  html.open("details").leaf("summary", "In numbers").open("table");
+  write_head(html, {"Length", ">Entries", ">Share", "~"});
+  html.open("tbody").line();
+  for (size_t length = 0; length < table.lengths.size(); ++length) {
+    const uint64_t entries = table.lengths[length];
+    if (entries == 0) continue;
+    html.open("tr").leaf("th", fmt::format("/{}", length), {{"scope", "row"}});
+    html.leaf("td", grouped(entries), {{"class", "n"}});
+    html.leaf("td", percent(entries, table.entries), {{"class", "n"}}).open("td");
+    write_bar(html, entries, most, false, percent(entries, table.entries));
+    html.close().close().line();
+  }
+  html.close().close().close();
+}
+
+}  // namespace
+
+void write_lengths(Html &html, const DeviceReport &device) {
+  bool opened = false;
+  for (const TableReport &table : device.tables) {
+    if (table.lengths.empty()) continue;
+    if (!opened) {
+      open_section(html, "lengths", "Prefix lengths");
+      html.open("div", {{"class", "cards"}});
+      opened = true;
+    }
+    const auto longest = std::max_element(table.lengths.begin(), table.lengths.end());
+    const auto top = static_cast<size_t>(longest - table.lengths.begin());
+    html.open("figure", {{"class", "card"}}).open("figcaption");
+    html.open("h3").name(table.name).close();
+    html.leaf("p",
+              fmt::format("{}, {} of them /{}", counted(table.entries, "entry", "entries"),
+                          percent(*longest, table.entries), top),
+              {{"class", "soft"}});
+    html.close();
+    write_columns(html, table, *longest, top);
+    write_length_table(html, table, *longest);
+    html.close().line();
+  }
+  if (opened) html.close().close().line();
+}
+
+// ---- Entries ----
+
+namespace {
+
+void write_actions(Html &html, const TableReport &table) {
+  if (table.actions.empty()) return;
+  html.open("table");
+  write_head(html, {"Action", ">Entries", "~"});
+  html.open("tbody");
+  for (const Tally &action : table.actions) {
+    const std::string share = percent(action.count, table.entries);
+    html.open("tr").open("th", {{"scope", "row"}}).name(action.name).close();
+    html.leaf("td", grouped(action.count), {{"class", "n"}}).open("td");
+    write_bar(html, action.count, table.entries, false, share + " of the entries");
+    html.close().close();
+  }
+  html.close().close().line();
+}
+
+void write_outcome(Html &html, const EntryText &entry) {
+  html.name(entry.action);
+  if (entry.parameters.empty()) return;
+  html.empty("br").leaf("span", entry.parameters, {{"class", "mono soft"}});
+}
+
+void write_first_entries(Html &html, const TableReport &table) {
+  if (table.first.empty()) return;
+  const bool ordered = !table.first.front().priority.empty();
+  html.open("table");
+  if (ordered) {
+    write_head(html, {"Match", ">Priority", "Action"});
+  } else {
+    write_head(html, {"Match", "Action"});
+  }
+  html.open("tbody").line();
+  for (const EntryText &entry : table.first) {
+    html.open("tr").open("td", {{"class", "mono"}}).text(entry.key.empty() ? "any" : entry.key);
+    if (!entry.extras.empty()) html.empty("br").leaf("span", entry.extras, {{"class", "soft"}});
+    html.close();
+    if (ordered) html.leaf("td", entry.priority, {{"class", "n"}});
+    html.open("td");
+    write_outcome(html, entry);
+    html.close().close().line();
+  }
+  html.close().close();
+  write_rest(html, table.entries, table.first.size());
+}
+
+}  // namespace
+
+void write_entries(Html &html, const DeviceReport &device) {
+  open_section(html, "entries", "Entries");
+  bool any = false;
+  for (const TableReport &table : device.tables) {
+    if (!table.in_use()) continue;
+    any = true;
+    html.open("details").open("summary").name(table.name);
+    html.leaf("span", counted(table.entries, "entry", "entries"), {{"class", "n"}}).close();
+    // A link to something within opens what is folded.
+    html.leaf("p", table.fields.empty() ? "No key" : "Key: " + table.fields,
+              {{"class", "soft"}, {"id", "entries-" + table.name}});
+    if (table.default_entry) {
+      html.open("p").text("Default action: ");
+      write_default(html, table);
+      html.close();
+    }
+    write_actions(html, table);
+    write_first_entries(html, table);
+    html.close().line();
+  }
+  if (!any) html.leaf("p", "No table holds anything.", {{"class", "soft"}});
+  html.close().line();
+}
+
+}  // namespace tesselctl

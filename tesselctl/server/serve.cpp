@@ -1,0 +1,38 @@
+#include "tesselctl/server/serve.hpp"
+
+#include "tesselctl/server/server.hpp"
+#include "tesselctl/text/interrupt.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+std::atomic<Server *> served = nullptr;
+
+void stop_server(int) {
+  if (Server *server = served.load()) server->stop();
+}
+
+struct ServedScope {
+  explicit ServedScope(Server &server) { served = &server; }
+  ~ServedScope() { served = nullptr; }
+  ServedScope(const ServedScope &) = delete;
+  ServedScope &operator=(const ServedScope &) = delete;
+};
+
+}  // namespace
+
+void serve(const ServeOptions &options, Output &out, Output &errors) {
+  // First of all the socket, so that a second server is refused by the first one's.
+  ListeningSocket listening(options.socket);
+  DeviceOfImage home(options.device, options.image, ImageUse::changes, errors);
+  Server server(home.device(), std::move(listening));
+  const ServedScope scope(server);
+  const SignalScope signals({SIGINT, SIGTERM, SIGHUP}, stop_server);
+  out.line("device {} is served at {}", home.device().id(), options.socket);
+  out.flush();
+  server.run();
+  home.save();
+}
+
+}  // namespace tesselctl

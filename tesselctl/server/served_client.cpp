@@ -1,0 +1,175 @@
+#include "tesselctl/server/served_client.hpp"
+
+#include <poll.h>
+#include <sys/socket.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <utility>
+
+#include "tesselctl/command/flags.hpp"
+#include "tesselctl/server/unix_socket.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+constexpr size_t kPiece = size_t{1} << 16;
+
+Settings settings_of(std::string_view text) {
+  std::vector<Word> words;
+  split_words(text, words);
+  Settings settings;
+  take_flags(words, settings);
+  if (!words.empty()) throw Fault("the settings of a request hold other words");
+  return settings;
+}
+
+}  // namespace
+
+ServedClient::ServedClient(Descriptor socket, Device &device, const ServerLimits &limits,
+                           const std::atomic<bool> &stopping)
+    : socket_(std::move(socket)),
+      limits_(limits),
+      stopping_(stopping),
+      out_([this](std::string_view text) { push_pieces(MessageType::output, text); }),
+      errors_([this](std::string_view text) { push_pieces(MessageType::errors, text); }),
+      runner_(device, out_, errors_, Settings{}) {}
+
+short ServedClient::events() const {
+  int events = 0;
+  if (reader_.room() > 0) events |= POLLIN;
+  if (unread() > 0) events |= POLLOUT;
+  return static_cast<short>(events);
+}
+
+void ServedClient::handle(short events) {
+  // Who hung up reads no answer, so that what it may have asked before is not done either.
+  if ((events & (POLLERR | POLLHUP | POLLNVAL)) != 0) gone_ = true;
+  if (gone_) return;
+  if ((events & POLLIN) != 0) receive();
+  if ((events & POLLOUT) != 0) send_queue();
+}
+
+void ServedClient::look() {
+  pollfd now = {fd(), events(), 0};
+  if (poll(&now, 1, 0) > 0) handle(now.revents);
+}
+
+void ServedClient::receive() {
+  char bytes[kPiece];
+  const ssize_t got = recv(fd(), bytes, std::min(sizeof bytes, reader_.room()), 0);
+  if (got > 0) {
+    reader_.add({bytes, static_cast<size_t>(got)});
+  } else if (got == 0 || !would_wait(errno)) {
+    gone_ = true;
+  }
+}
+
+void ServedClient::send_queue() {
+  while (unread() > 0) {
+    const ssize_t wrote = send(fd(), queue_.data() + sent_, unread(), MSG_NOSIGNAL);
+    if (wrote < 0 && !would_wait(errno)) gone_ = true;
+    if (wrote < 0) return;
+    sent_ += static_cast<size_t>(wrote);
+    // Moves no more bytes than were sent.
+    if (sent_ < unread()) continue;
+    queue_.erase(0, sent_);
+    sent_ = 0;
+    if (queue_.empty() && queue_.capacity() > limits_.paused_at) queue_.shrink_to_fit();
+  }
+}
+
+void ServedClient::push(std::string_view bytes) {
+  if (unread() + bytes.size() > limits_.dropped_at) gone_ = true;
+  if (gone_) throw Fault("the client is gone or does not read");
+  queue_ += bytes;
+  send_queue();
+}
+
+void ServedClient::push_pieces(MessageType type, std::string_view text) {
+  while (!text.empty()) {
+    push(encode_message(type, text.substr(0, kPiece)));
+    text.remove_prefix(std::min(text.size(), kPiece));
+  }
+}
+
+bool ServedClient::is_ready() const {
+  if (gone_ || unread() >= limits_.paused_at) return false;
+  try {
+    return reader_.front().has_value();
+  } catch (const Fault &) {
+    return true;  // step refuses it
+  }
+}
+
+void ServedClient::step() {
+  try {
+    if (const auto message = reader_.front()) look_at(*message);
+  } catch (const std::exception &error) {
+    if (gone_) return;
+    // What the socket takes at once is all that such a client gets.
+    queue_ += encode_message(MessageType::refusal, error.what());
+    send_queue();
+    gone_ = true;
+  }
+}
+
+void ServedClient::look_at(const Message &message) {
+  if (message.type == MessageType::interrupt) return reader_.pop();  // its command has ended
+  if (message.type != MessageType::request) throw Fault("a client sends requests and interrupts");
+  const Request request = decode_request(message.payload);
+  reader_.pop();
+  if (request.script && request.more) return collect(request.text);
+  prepare(request);
+  const InterruptScope scope([this] { return is_interrupted(); });
+  const LineOutcome outcome = run(request);
+  out_.flush();
+  errors_.flush();
+  push(encode_end(outcome));
+}
+
+void ServedClient::prepare(const Request &request) {
+  if (!request.directory.starts_with('/')) throw Fault("a request names no directory");
+  runner_.context().defaults = settings_of(request.settings);
+  runner_.context().directory = request.directory;
+  out_.set_colour(request.colour_output);
+  errors_.set_colour(request.colour_errors);
+}
+
+void ServedClient::collect(std::string_view text) {
+  script_ += text;
+  if (script_.size() > kMostScript) throw Fault("a script is too long");
+}
+
+LineOutcome ServedClient::run(const Request &request) {
+  try {
+    std::string script = std::exchange(script_, {});
+    if (request.script) {
+      script += request.text;
+      return runner_.run_whole({request.file, script, runner_.defaults()});
+    }
+    if (!request.ask) return runner_.run({request.file, request.line, request.text});
+    out_.write(runner_.ask(request.text));
+    return LineOutcome::done;
+  } catch (const Fault &) {
+    throw;  // the output is gone
+  } catch (const std::exception &error) {
+    errors_.line("tesselctl: {}", error.what());
+    return LineOutcome::fault;
+  }
+}
+
+// Asked while a command of this client runs.
+bool ServedClient::is_interrupted() {
+  if (stopping_) return true;
+  look();
+  try {
+    const auto message = reader_.front();
+    return gone_ || (message && message->type == MessageType::interrupt);
+  } catch (const Fault &) {
+    return true;
+  }
+}
+
+}  // namespace tesselctl

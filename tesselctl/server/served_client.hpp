@@ -1,0 +1,64 @@
+// One client of a server: what it sent and was not looked at, what it was sent and has not read,
+// and what its commands share. Nothing here waits for the client.
+#pragma once
+
+#include <atomic>
+
+#include "tesselctl/command/local_runner.hpp"
+#include "tesselctl/server/protocol.hpp"
+#include "tesselctl/text/descriptor.hpp"
+
+namespace tesselctl {
+
+struct ServerLimits {
+  size_t clients = 64;
+  // Of the bytes that a client has not read yet: with so many its next command waits, with more
+  // than so many it is dropped.
+  size_t paused_at = size_t{1} << 20;
+  size_t dropped_at = size_t{256} << 20;
+};
+
+class ServedClient {
+ public:
+  // The device, limits and stopping outlive the client; a command ends early once stopping is set.
+  ServedClient(Descriptor socket, Device &device, const ServerLimits &limits,
+               const std::atomic<bool> &stopping);
+
+  int fd() const { return socket_.get(); }
+  // What to poll for, and what to do with what it gave.
+  short events() const;
+  void handle(short events);
+  // Both at once, without waiting.
+  void look();
+  // Whether a message waits that may be looked at now, and looking at it.
+  bool is_ready() const;
+  void step();
+  // To be forgotten: the client left, broke the protocol or does not read.
+  bool is_gone() const { return gone_; }
+
+ private:
+  size_t unread() const { return queue_.size() - sent_; }
+  void receive();
+  void send_queue();
+  void push(std::string_view bytes);
+  void push_pieces(MessageType type, std::string_view text);
+  void look_at(const Message &message);
+  void prepare(const Request &request);
+  LineOutcome run(const Request &request);
+  void collect(std::string_view text);
+  bool is_interrupted();
+
+  Descriptor socket_;
+  const ServerLimits &limits_;
+  const std::atomic<bool> &stopping_;
+  bool gone_ = false;
+  MessageReader reader_;
+  std::string queue_;
+  size_t sent_ = 0;  // of the queue
+  Output out_;
+  Output errors_;
+  LocalRunner runner_;
+  std::string script_;  // what came of it so far
+};
+
+}  // namespace tesselctl

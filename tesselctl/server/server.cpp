@@ -1,0 +1,95 @@
+#include "tesselctl/server/server.hpp"
+
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <sys/socket.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+namespace tesselctl {
+
+namespace {
+
+// When the process has no descriptor left for a client that waits, it tries again so much later.
+constexpr int kTryAgainMs = 100;
+
+}  // namespace
+
+Server::Server(Device &device, ListeningSocket listening, const ServerLimits &limits)
+    : device_(device),
+      limits_(limits),
+      wake_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
+      listening_(std::move(listening)) {
+  if (!wake_.is_open()) throw Fault(fmt::format("cannot start the server: {}", strerror(errno)));
+}
+
+void Server::stop() noexcept {
+  const int error = errno;
+  stopping_ = true;
+  const uint64_t one = 1;
+  // It can only fail when the server is awake already.
+  [[maybe_unused]] const ssize_t wrote = write(wake_.get(), &one, sizeof one);
+  errno = error;
+}
+
+void Server::run() {
+  while (!stopping_) {
+    wait();
+    for (const auto &client : clients_) {
+      if (!stopping_ && client->is_ready()) client->step();
+    }
+    forget_gone();
+  }
+  clients_.clear();
+}
+
+void Server::forget_gone() {
+  std::erase_if(clients_, [](const auto &client) { return client->is_gone(); });
+}
+
+// Until there is something to do; takes what clients sent and sends what they wait for.
+void Server::wait() {
+  std::vector<pollfd> waited = {{wake_.get(), POLLIN, 0}};
+  waited.push_back({listening_.get(), POLLIN, 0});
+  if (out_of_descriptors_) waited.back().events = 0;
+  int timeout = out_of_descriptors_ ? kTryAgainMs : -1;
+  for (const auto &client : clients_) {
+    waited.push_back({client->fd(), client->events(), 0});
+    if (client->is_ready()) timeout = 0;
+  }
+  out_of_descriptors_ = false;
+  if (poll(waited.data(), static_cast<nfds_t>(waited.size()), timeout) < 0) {
+    if (errno == EINTR) return;
+    throw Fault(fmt::format("the server cannot wait for clients: {}", strerror(errno)));
+  }
+  for (size_t i = 0; i < clients_.size(); ++i) clients_[i]->handle(waited[i + 2].revents);
+  if (waited[1].revents != 0) accept_clients();
+}
+
+void Server::accept_clients() {
+  while (true) {
+    Descriptor socket = listening_.accept_client();
+    if (!socket.is_open()) break;
+    accept_client(std::move(socket));
+  }
+  out_of_descriptors_ = errno != EAGAIN && errno != EWOULDBLOCK;
+}
+
+void Server::accept_client(Descriptor socket) {
+  if (clients_.size() >= limits_.clients) {
+    for (const auto &client : clients_) client->look();
+    forget_gone();
+  }
+  if (clients_.size() < limits_.clients) {
+    clients_.push_back(
+        std::make_unique<ServedClient>(std::move(socket), device_, limits_, stopping_));
+    return;
+  }
+  const std::string refusal = encode_message(
+      MessageType::refusal, fmt::format("the server has {} clients, no more", limits_.clients));
+  send(socket.get(), refusal.data(), refusal.size(), MSG_NOSIGNAL);
+}
+
+}  // namespace tesselctl

@@ -1,0 +1,105 @@
+#include "tesselctl/shell/tool_runner.hpp"
+
+#include "tesselctl/command/flags.hpp"
+#include "tesselctl/command/script.hpp"
+#include "tesselctl/command/watch_line.hpp"
+#include "tesselctl/shell/watch.hpp"
+#include "tesselctl/text/files.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+constexpr unsigned kDeepest = 16;
+
+// While it lives, the lines of a script run, one script deeper, with settings of their own.
+class ScriptScope {
+ public:
+  ScriptScope(Settings &settings, const Settings &of_lines, unsigned &depth)
+      : settings_(settings), before_(std::exchange(settings, of_lines)), depth_(depth) {
+    ++depth_;
+  }
+  ~ScriptScope() {
+    settings_ = std::move(before_);
+    --depth_;
+  }
+  ScriptScope(const ScriptScope &) = delete;
+  ScriptScope &operator=(const ScriptScope &) = delete;
+
+ private:
+  Settings &settings_;
+  Settings before_;
+  unsigned &depth_;
+};
+
+// The command of the line in its place, with blanks for the words of watch before it, so that the
+// columns of faults stay true.
+std::string watched_line(std::string_view line, Words words, const Watch &watch) {
+  std::string text(line);
+  for (const Word &word : words.first(watch.first)) {
+    text.replace(word.column - 1, word.text.size(), word.text.size(), ' ');
+  }
+  return text;
+}
+
+}  // namespace
+
+LineOutcome ToolRunner::run(const SourceLine &source) {
+  Settings settings = runner_->defaults();
+  std::vector<Word> words;
+  std::string line;
+  Watch watch;
+  try {
+    split_words(source.text, words);
+    const TakenFlags flags = take_flags(words, settings);
+    const std::string_view first = words.empty() || settings.help ? "" : words[0].text;
+    if (first != "watch" && first != "run") return runner_->run(source);
+    if (first == "watch") {
+      watch = read_watch(words);
+      line = watched_line(source.text, words, watch);
+    } else {
+      Invocation invocation;
+      flags.check(find_command(words, invocation));
+      need_argument(invocation, 0, "the name of a script");
+      refuse_arguments_from(invocation, 1);
+    }
+  } catch (const Fault &) {
+    // The runner finds the same fault, and reports it as it reports all.
+    return runner_->run(source);
+  }
+  if (watch.first != 0) {
+    return WatchRounds(*runner_, *out_, settings.json ? -1 : terminal_, prepare_)
+        .run(watch, {source.file, source.line, line}, settings.json);
+  }
+  try {
+    return run_file(words[1], settings);
+  } catch (const Fault &fault) {
+    Results results(*out_);
+    results.begin(settings, source.text, false);
+    report_fault(fault, source, results, settings.json, *out_, *errors_);
+    return LineOutcome::fault;
+  }
+}
+
+LineOutcome ToolRunner::run_file(Word file, const Settings &settings) {
+  if (depth_ == kDeepest) throw Fault(file, "the scripts that run one another are too many");
+  const std::string path(file.text);
+  const std::string name = path == "-" ? "standard input" : path;
+  if (settings.atomic || settings.dry_run) {
+    return runner_->run_whole({name, read_input(path), settings});
+  }
+  Settings of_lines = settings;
+  of_lines.keep_going = false;
+  const ScriptScope scope(runner_->defaults(), of_lines, depth_);
+  FileLines lines(path);
+  const auto next = [&](std::string_view &line) {
+    // Whoever writes the lines may wait for the answer to the one before.
+    if (path == "-") out_->flush();
+    return lines.next(line);
+  };
+  const ScriptResult result = run_script(*this, name, next, {.keep_going = settings.keep_going});
+  if (!settings.json) print_summary(*out_, name, result);
+  return result.outcome();
+}
+
+}  // namespace tesselctl

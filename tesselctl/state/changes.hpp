@@ -1,0 +1,32 @@
+// What two states differ in, and how a device becomes the other one.
+#pragma once
+
+#include "tesselctl/state/device_state.hpp"
+
+namespace tesselctl {
+
+// An item that one state has and the other has not, or has otherwise. before is null where it is
+// new, after where it is gone. All belongs to the states.
+struct Change {
+  const DeviceState::Part *part;
+  const ItemStore::Item *before;
+  const ItemStore::Item *after;
+
+  Edit edit() const {
+    if (before == nullptr) return Edit::add;
+    return after == nullptr ? Edit::remove : Edit::modify;
+  }
+};
+
+// The changes that lead from one state to the other, in the order of images. after must have been
+// numbered like before. Throws Fault for a state that has an item twice.
+std::vector<Change> changes_between(const DeviceState &before, const DeviceState &after);
+
+// Carries them out on a device that is as before, in the order of phases. Throws Fault at the first
+// change that the device refuses.
+void apply_changes(const Device &device, const std::vector<Change> &changes);
+
+// An item in the words of commands: "-" or "+", the object, and what it holds.
+Row change_row(std::string_view sign, const DeviceState::Part &part, const ItemStore::Item &item);
+
+}  // namespace tesselctl

@@ -1,0 +1,95 @@
+#include "tesselctl/state/image_file.hpp"
+
+#include <unistd.h>
+
+#include "tesselctl/text/interrupt.hpp"
+#include "tesselctl/text/number.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+// The lines of an image, of which the first two are looked at before a device is made for it.
+class ImageLines {
+ public:
+  explicit ImageLines(const std::string &path) : lines_(path) {
+    std::string_view line;
+    while (first_.size() < 2 && lines_.next(line)) first_.emplace_back(line);
+  }
+  // Of the device that was saved; nothing when the image does not say.
+  std::optional<uint32_t> pipes() const {
+    constexpr std::string_view kKeyword = "pipes ";
+    if (first_.size() < 2 || !first_[1].starts_with(kKeyword)) return {};
+    const auto pipes = parse_number(std::string_view(first_[1]).substr(kKeyword.size()));
+    if (!pipes || pipes->high != 0 || pipes->low < 1 || pipes->low > 8) return {};
+    return static_cast<uint32_t>(pipes->low);
+  }
+  LoadCounts load(const Device &device, std::string_view shown) {
+    size_t given = 0;
+    return load_image(device, shown, [&](std::string_view &line) {
+      if (given == first_.size()) return lines_.next(line);
+      line = first_[given++];
+      return true;
+    });
+  }
+
+ private:
+  FileLines lines_;
+  std::vector<std::string> first_;
+};
+
+}  // namespace
+
+uint64_t save_image_file(const Device &device, const std::string &path) {
+  FileWriter file{path};
+  uint64_t bytes = 0;
+  save_image(device, [&](std::string_view text) {
+    check_interrupt();
+    file.write(text);
+    bytes += text.size();
+  });
+  file.commit();
+  return bytes;
+}
+
+LoadCounts load_image_file(const Device &device, const std::string &path, std::string_view shown) {
+  return ImageLines(path).load(device, shown);
+}
+
+DeviceOfImage::DeviceOfImage(const DeviceOptions &device, const ImageOptions &image, ImageUse use,
+                             Output &errors)
+    : options_(device), image_(image), use_(use), errors_(errors) {
+  if (image_.path.empty()) {
+    device_.emplace(options_);
+    return;
+  }
+  if (use_ == ImageUse::changes) {
+    place_ = FilePlace::of_file(image_.path);
+    if (place_.folder.is_open()) lock_.emplace(place_);
+  }
+  // Only now: whoever had the lock may have made the image.
+  is_new_ = use_ == ImageUse::changes && access(image_.path.c_str(), F_OK) != 0;
+  if (is_new_) {
+    device_.emplace(options_);
+  } else {
+    read_again();
+  }
+}
+
+void DeviceOfImage::read_again() {
+  ImageLines lines(image_.path);
+  if (!image_.keep_pipes) options_.pipes = lines.pipes().value_or(options_.pipes);
+  device_.emplace(options_);
+  lines.load(*device_, image_.path);
+}
+
+void DeviceOfImage::save() {
+  if (image_.path.empty()) return;
+  save_image_file(*device_, image_.path);
+  if (!is_new_) return;
+  is_new_ = false;
+  errors_.line("new image {}", image_.path);
+  errors_.flush();
+}
+
+}  // namespace tesselctl

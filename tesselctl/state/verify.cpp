@@ -1,0 +1,42 @@
+#include "tesselctl/state/verify.hpp"
+
+namespace tesselctl {
+
+const char *difference_text(Difference difference) {
+  switch (difference) {
+    case Difference::missing:
+      return "missing";
+    case Difference::different:
+      return "different";
+    default:
+      return "extra";
+  }
+}
+
+const pipe_mgr_placement_t *Placement::of_entry(const Device &device, const TableInfo &table,
+                                                uint32_t entry) {
+  check(soft_placement_of_entry(device.id(), table.description->handle, entry, &object_),
+        {table.name(), 1});
+  return object_;
+}
+
+const pipe_mgr_placement_t *Placement::of_member(const Device &device,
+                                                 const soft_profile_t &profile, uint32_t member) {
+  check(soft_placement_of_member(device.id(), profile.action_data_table, member, &object_),
+        {profile.name, 1});
+  return object_;
+}
+
+VerifyCounts verify(const Device &old_device, const Device &new_device,
+                    const std::function<void(const Finding &)> &report) {
+  Verification run = {old_device, new_device, report};
+  for (const soft_table_t &table : program_rows<soft_table_t>()) {
+    verify_table(run, table_of_handle(table.handle));
+  }
+  for (const soft_profile_t &profile : program_rows<soft_profile_t>()) {
+    verify_profile(run, profile);
+  }
+  return run.counts;
+}
+
+}  // namespace tesselctl

@@ -1,0 +1,47 @@
+// How a command that takes long is ended: by a signal of the process, or by whom the command is
+// for.
+#pragma once
+
+#include <signal.h>
+
+#include <functional>
+#include <initializer_list>
+#include <vector>
+
+namespace tesselctl {
+
+// A command that takes long asks now and then; throws Fault once somebody interrupted it.
+void check_interrupt();
+bool interrupt_requested() noexcept;
+// Safe in signal handlers.
+void request_interrupt() noexcept;
+void clear_interrupt() noexcept;
+
+// While it lives, the handler takes the signals and wakes up what waits. One that is ignored, as by
+// nohup, stays so.
+class SignalScope {
+ public:
+  SignalScope(std::initializer_list<int> signals, void (*handler)(int));
+  ~SignalScope();
+  SignalScope(const SignalScope &) = delete;
+  SignalScope &operator=(const SignalScope &) = delete;
+
+ private:
+  struct Before {
+    int signal;
+    struct sigaction action;
+  };
+  std::vector<Before> before_;
+};
+
+// While it lives, check_interrupt on this thread asks this too, fifty times a second at most. One
+// at a time in a thread.
+class InterruptScope {
+ public:
+  explicit InterruptScope(std::function<bool()> interrupted);
+  ~InterruptScope();
+  InterruptScope(const InterruptScope &) = delete;
+  InterruptScope &operator=(const InterruptScope &) = delete;
+};
+
+}  // namespace tesselctl

@@ -1,0 +1,293 @@
+#include "tesselctl/text/results.hpp"
+
+#include <algorithm>
+#include <cctype>
+
+#include "tesselctl/text/number.hpp"
+#include "tesselctl/text/suggest.hpp"
+#include "tesselctl/text/utf8.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+// Rows that are looked at before the columns are chosen; a dump of a million rows starts at once.
+constexpr size_t kMeasured = 1000;
+
+// A pattern, or the same value in whatever notation. Throws Fault where it is no such value.
+bool matches(const Item &item, std::string_view pattern) {
+  if (matches_pattern(item.value, pattern)) return true;
+  if (pattern.find('*') != std::string_view::npos) return false;
+  if (item.of.same != nullptr) return item.of.same(item.of.what, item.value, {pattern, 0});
+  const std::optional<Number> wanted = parse_number(pattern);
+  if (!wanted && item.kind == Item::Kind::number) throw Fault("this is not a number");
+  return wanted && parse_number(item.value) == wanted;
+}
+
+// Items that stand in a column of their own; the others follow as words.
+bool has_column(const Item &item) {
+  return item.group != Row::kParameters && item.kind != Item::Kind::list;
+}
+
+bool is_digit(char c) { return c >= '0' && c <= '9'; }
+
+}  // namespace
+
+bool matches_pattern(std::string_view text, std::string_view pattern) {
+  const size_t star = pattern.find('*');
+  if (star == std::string_view::npos) return text == pattern;
+  if (!text.starts_with(pattern.substr(0, star))) return false;
+  text.remove_prefix(star);
+  pattern.remove_prefix(star + 1);
+  while (true) {
+    const size_t next = pattern.find('*');
+    const std::string_view piece = pattern.substr(0, next);
+    if (next == std::string_view::npos) return text.ends_with(piece);
+    const size_t found = text.find(piece);
+    if (found == std::string_view::npos) return false;
+    text.remove_prefix(found + piece.size());
+    pattern.remove_prefix(next + 1);
+  }
+}
+
+bool sorts_before(std::string_view a, std::string_view b) {
+  while (!a.empty() && !b.empty()) {
+    if (!is_digit(a[0]) || !is_digit(b[0])) {
+      if (a[0] != b[0]) return a[0] < b[0];
+      a.remove_prefix(1);
+      b.remove_prefix(1);
+      continue;
+    }
+    const auto run = [](std::string_view &text) {
+      text.remove_prefix(std::min(text.find_first_not_of('0'), text.size()));
+      size_t end = 0;
+      while (end < text.size() && is_digit(text[end])) ++end;
+      const std::string_view digits = text.substr(0, end);
+      text.remove_prefix(end);
+      return digits;
+    };
+    const std::string_view left = run(a);
+    const std::string_view right = run(b);
+    if (left.size() != right.size()) return left.size() < right.size();
+    if (left != right) return left < right;
+  }
+  return a.size() < b.size();
+}
+
+void Results::begin(const Settings &settings, std::string_view command, bool listing) {
+  settings_ = settings;
+  command_ = command;
+  listing_ = listing;
+  json_started_ = false;
+  count_ = 0;
+  names_.clear();
+  filter_states_.assign(settings.filters.size(), {});
+  sort_was_known_ = false;
+  held_.clear();
+  columns_.clear();
+}
+
+// Whether the item has what the filter wants; notes what that shows about the filter.
+bool Results::passes(size_t filter, const Item &item) {
+  FilterState &state = filter_states_[filter];
+  state.is_known = true;
+  try {
+    const bool passes = matches(item, settings_.filters[filter].pattern);
+    state.is_value = true;
+    return passes;
+  } catch (const Fault &fault) {
+    const Settings::Filter &wrong = settings_.filters[filter];
+    state.refusal.emplace(
+        Word{wrong.pattern, 0},
+        fmt::format("--filter {}: '{}': {}", wrong.name, wrong.pattern, fault.message()),
+        fault.suggestion());
+    return false;
+  }
+}
+
+void Results::note_names(const Row &row) {
+  if (!settings_.sort.empty() && row.find(settings_.sort) != nullptr) sort_was_known_ = true;
+  if ((settings_.filters.empty() && settings_.sort.empty()) || names_.size() > 100) return;
+  for (const Item &item : row.items()) {
+    if (std::find(names_.begin(), names_.end(), item.name) == names_.end()) {
+      names_.push_back(item.name);
+    }
+  }
+}
+
+// Every filter must hold.
+bool Results::passes(const Row &row) {
+  note_names(row);
+  bool all = true;
+  for (size_t i = 0; i < settings_.filters.size(); ++i) {
+    const Item *item = row.find(settings_.filters[i].name);
+    all = item != nullptr && passes(i, *item) && all;
+  }
+  return all;
+}
+
+void Results::expect(const Row &row) {
+  note_names(row);
+  for (size_t i = 0; i < settings_.filters.size(); ++i) {
+    for (const Item &item : row.items()) {
+      if (same_name(item.name, settings_.filters[i].name)) passes(i, item);
+    }
+  }
+}
+
+void Results::row(const Row &row) {
+  if (!passes(row)) return;
+  ++count_;
+  if (settings_.count) return;
+  const bool columns = listing_ && !settings_.terse && !settings_.json;
+  if (settings_.sort.empty() && (!columns || !columns_.empty())) return print(row);
+  held_.push_back(row);
+  if (settings_.sort.empty() && held_.size() == kMeasured) print_columns();
+}
+
+void Results::row(const Row &row, const std::string &text) {
+  if (settings_.json || settings_.count || !settings_.filters.empty()) return this->row(row);
+  ++count_;
+  out_->line("{}", text);
+}
+
+void Results::done(const Row &row, std::string_view what) {
+  Row with_what = row;
+  with_what.object("done", what);
+  if (settings_.json || settings_.verbose || settings_.dry_run) print(with_what);
+}
+
+void Results::text(std::string_view text) {
+  if (settings_.json) return print(Row().text("text", text));
+  out_->write(text);
+  if (!text.ends_with('\n')) out_->write("\n");
+}
+
+void Results::start_json() {
+  if (json_started_) return;
+  json_started_ = true;
+  out_->write(fmt::format("{{\"version\":{},\"command\":{},\"rows\":[", kJsonVersion,
+                          json_string(command_)));
+}
+
+void Results::print(const Row &row) {
+  if (settings_.json) {
+    if (json_started_) out_->write(",");
+    start_json();
+    out_->write(row.json());
+    return;
+  }
+  if (columns_.empty()) return out_->line("{}", row.words());
+  const std::vector<std::string> texts = cells(row);
+  std::string line;
+  for (size_t i = 0; i < texts.size(); ++i) {
+    if (i > 0) line += "  ";
+    const size_t width = i < columns_.size() ? columns_[i].width : 0;
+    const std::string padding(width - std::min(width, texts[i].size()), ' ');
+    line += i < columns_.size() && columns_[i].number ? padding + texts[i] : texts[i] + padding;
+  }
+  line.erase(line.find_last_not_of(' ') + 1);
+  out_->line("{}", line);
+}
+
+void Results::choose_columns() {
+  for (const Row &row : held_) {
+    size_t after = 0;
+    for (const Item &item : row.items()) {
+      if (!has_column(item)) continue;
+      auto found = std::find_if(columns_.begin(), columns_.end(),
+                                [&](const Column &column) { return column.name == item.name; });
+      if (found == columns_.end()) {
+        // Behind the column of the item before it, as the rows have it.
+        const auto at = columns_.begin() + static_cast<std::ptrdiff_t>(after);
+        found = columns_.insert(at, {item.name, item.kind == Item::Kind::number,
+                                     item.group == Row::kKey, item.name.size()});
+      }
+      found->width = std::max(found->width, item.value.size());
+      after = static_cast<size_t>(found - columns_.begin()) + 1;
+    }
+  }
+}
+
+// One text a column, and one for the rest of the row.
+std::vector<std::string> Results::cells(const Row &row) const {
+  std::vector<std::string> texts;
+  for (const Column &column : columns_) texts.push_back(column.key ? "*" : "-");
+  std::string rest;
+  for (const Item &item : row.items()) {
+    const auto found = std::find_if(columns_.begin(), columns_.end(),
+                                    [&](const Column &column) { return column.name == item.name; });
+    if (has_column(item) && found != columns_.end()) {
+      texts[static_cast<size_t>(found - columns_.begin())] = item.value;
+    } else {
+      rest += (rest.empty() ? "" : " ") + item_words(item);
+    }
+  }
+  texts.push_back(rest);
+  return texts;
+}
+
+void Results::print_columns() {
+  if (held_.empty()) return;
+  choose_columns();
+  std::string line;
+  for (const Column &column : columns_) {
+    if (!line.empty()) line += "  ";
+    const std::string padding(column.width - column.name.size(), ' ');
+    line += column.number ? padding + column.name : column.name + padding;
+  }
+  line.erase(line.find_last_not_of(' ') + 1);
+  out_->line("{}", out_->styled(Style::heading, line));
+  for (const Row &row : held_) print(row);
+  held_.clear();
+}
+
+void Results::check_names() const {
+  if (names_.empty()) return;
+  const auto unknown = [&](const std::string &name) {
+    throw Fault({name, 0}, "no row has a '" + name + "'", nearest(name, names_));
+  };
+  for (size_t i = 0; i < settings_.filters.size(); ++i) {
+    const FilterState &state = filter_states_[i];
+    if (!state.is_known) unknown(settings_.filters[i].name);
+    if (!state.is_value && state.refusal) throw *state.refusal;
+  }
+  if (!settings_.sort.empty() && !sort_was_known_) unknown(settings_.sort);
+}
+
+void Results::end() {
+  check_names();
+  if (!settings_.sort.empty()) {
+    const auto value = [&](const Row &row) {
+      const Item *item = row.find(settings_.sort);
+      return item == nullptr ? std::string_view() : std::string_view(item->value);
+    };
+    std::stable_sort(held_.begin(), held_.end(),
+                     [&](const Row &a, const Row &b) { return sorts_before(value(a), value(b)); });
+  }
+  if (settings_.count && !settings_.json) return out_->line("{}", count_);
+  if (!held_.empty() && listing_ && !settings_.terse && !settings_.json) {
+    print_columns();
+  } else {
+    for (const Row &row : held_) print(row);
+  }
+  held_.clear();
+  if (!settings_.json) return;
+  if (settings_.count) print(Row().number("count", count_));
+  start_json();
+  out_->write("]}\n");
+}
+
+void Results::fail(const Fault &fault, std::string_view file, uint64_t line) {
+  held_.clear();
+  if (!settings_.json) return;
+  start_json();
+  Row error;
+  if (line != 0) error.text("file", file).number("line", line);
+  if (fault.column() != 0) error.number("column", fault.column()).text("token", fault.token());
+  error.text("message", fault.message());
+  if (!fault.suggestion().empty()) error.text("suggestion", fault.suggestion());
+  out_->write("],\"error\":" + error.json() + "}\n");
+}
+
+}  // namespace tesselctl

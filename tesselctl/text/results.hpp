@@ -1,0 +1,108 @@
+// What commands answer, in the form that was asked for.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tesselctl/text/fault.hpp"
+#include "tesselctl/text/output.hpp"
+#include "tesselctl/text/row.hpp"
+
+namespace tesselctl {
+
+// How commands answer and work; the words that begin with "--" on a command line.
+struct Settings {
+  struct Filter {
+    std::string name;
+    std::string pattern;  // '*' stands for any characters
+    bool operator==(const Filter &) const = default;
+  };
+  bool verbose = false;
+  bool json = false;
+  bool terse = false;  // one row a line instead of columns
+  bool trace = false;
+  bool dry_run = false;
+  bool count = false;
+  bool raw = false;
+  bool atomic = false;
+  bool keep_going = false;  // of a script: behind a line with a fault
+  bool help = false;
+  std::vector<Filter> filters = {};
+  std::string sort = {};
+
+  bool operator==(const Settings &) const = default;
+};
+
+// The version of the JSON that commands print; docs/json.md and docs/tesselctl.schema.json
+// describe it.
+inline constexpr int kJsonVersion = 1;
+
+// Between begin and end or fail lies one command. In JSON it becomes one line:
+//   {"version":1,"command":"count fdb","rows":[...]}
+//   {"version":1,"command":"cuont","rows":[],"error":{"message":...}}
+class Results {
+ public:
+  explicit Results(Output &out) : out_(&out) {}
+
+  // listing: the command answers with any number of rows, which stand in columns.
+  void begin(const Settings &settings, std::string_view command, bool listing);
+  void row(const Row &row);
+  // Rows for people to read as they stand: the text is what it says in words, the row in JSON.
+  void row(const Row &row, const std::string &text);
+  // Of a change: printed with --verbose, --json and --dry-run.
+  void done(const Row &row, std::string_view what);
+  // A text that is no row. In JSON a row with a "text".
+  void text(std::string_view text);
+  // An item that rows may have, with a value of its kind: what filters and sort may name even where
+  // no row has it.
+  void expect(const Row &row);
+  // Throws Fault when a filter or sort names what no row has, and when a filter's value is none of
+  // what it names.
+  void end();
+  void fail(const Fault &fault, std::string_view file, uint64_t line);
+
+ private:
+  bool passes(const Row &row);
+  bool passes(size_t filter, const Item &item);
+  void note_names(const Row &row);
+  void print(const Row &row);
+  void print_columns();
+  void choose_columns();
+  std::vector<std::string> cells(const Row &row) const;
+  void start_json();
+  void check_names() const;
+
+  struct Column {
+    std::string name;
+    bool number;
+    bool key;
+    size_t width;
+  };
+
+  Output *out_;
+  Settings settings_;
+  std::string command_;
+  bool listing_ = false;
+  bool json_started_ = false;
+  uint64_t count_ = 0;
+  std::vector<std::string> names_;  // of the rows seen, for the fault of a wrong name
+  // What is known of a filter: whether rows have its name, and its value is one of theirs.
+  struct FilterState {
+    bool is_known = false;
+    bool is_value = false;
+    std::optional<Fault> refusal = {};
+  };
+  std::vector<FilterState> filter_states_;  // by filter
+  bool sort_was_known_ = false;
+  std::vector<Row> held_;  // to be sorted, or to measure the columns
+  std::vector<Column> columns_;
+};
+
+// Whether a text is one that a pattern with '*' describes.
+bool matches_pattern(std::string_view text, std::string_view pattern);
+// As people sort: runs of digits count as numbers.
+bool sorts_before(std::string_view a, std::string_view b);
+
+}  // namespace tesselctl

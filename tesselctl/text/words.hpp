@@ -1,0 +1,32 @@
+// The words of a command line.
+#pragma once
+
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "tesselctl/text/fault.hpp"
+
+namespace tesselctl {
+
+using Words = std::span<const Word>;
+
+// Splits a line at white space. A word that begins with '#' starts a comment; a word in double
+// quotes may hold white space and '#', but no quote. The words point into the line. Throws Fault
+// for a quote that does not end.
+void split_words(std::string_view line, std::vector<Word> &words);
+
+// Without the white space around it.
+std::string_view trimmed(std::string_view line);
+
+// "name=value" in its two parts. The value of "name=" is empty.
+struct Assignment {
+  Word whole;
+  Word name;
+  Word value;
+};
+
+// Throws Fault when the word has no '=' or nothing before it.
+Assignment split_assignment(Word word);
+
+}  // namespace tesselctl

@@ -1,0 +1,109 @@
+#!/usr/bin/env python3
+"""Installs a build, moves what was installed, and uses it there.
+
+usage: install_test.py BUILD SOURCE LIBDIR CMAKE TOOLCHAIN COMPILER [FLAG...]
+TOOLCHAIN may be empty.
+"""
+import os
+import pathlib
+import re
+import shlex
+import subprocess
+import sys
+import tempfile
+
+BY_NAME = r"""
+#include <dlfcn.h>
+#include <stdio.h>
+static void *load(const char *name, int scope) {
+  void *library = dlopen(name, RTLD_NOW | scope);
+  if (!library) fprintf(stderr, "%s\n", dlerror());
+  return library;
+}
+int main(void) {
+  void *sdk = load("libsoft_sdk.so.1", RTLD_GLOBAL);
+  void *pd = load("libp4_pd_tessel_switch.so.1", RTLD_LOCAL);
+  void *program = load("libsoft_program_tessel_switch.so.1", RTLD_LOCAL);
+  if (!sdk || !pd || !program) return 1;
+  unsigned (*create)(unsigned, unsigned, const void *, _Bool) = dlsym(sdk, "soft_device_create");
+  unsigned (*init)(void) = dlsym(pd, "p4_pd_tessel_switch_init");
+  return init() || create(0, 4, dlsym(program, "soft_program_tessel_switch"), 0);
+}
+"""
+
+
+def run(*command, **options):
+    done = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                          **options)
+    if done.returncode:
+        sys.exit(f"{shlex.join(map(str, command))}: exit code {done.returncode}\n{done.stdout}")
+    return done.stdout
+
+
+def check(what, wanted, got):
+    if wanted != got:
+        sys.exit(f"{what}\nwanted:\n{wanted}\ngot:\n{got}")
+
+
+def blocks_with_prompt(page):
+    for block in re.findall(r"^```\n(.*?)^```", page, re.M | re.S):
+        if block.startswith("$ ") and "build/" not in block:
+            yield re.findall(r"^\$ (.*)\n((?:(?!\$ ).*\n)*)", block, re.M)
+
+
+def run_page(page, folder, environment):
+    """Runs each command of the page's blocks; a file that a block shows by cat is made from it."""
+    count = 0
+    for command, wanted in (step for block in blocks_with_prompt(page) for step in block):
+        if command.startswith("cat "):
+            (folder / command.split()[1]).write_text(wanted)
+            continue
+        done = subprocess.run(["sh", "-c", command], cwd=folder, env=environment, text=True,
+                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+        code = f"(exit code {done.returncode})\n" if done.returncode else ""
+        # The page leaves out the code of a fault, which explains itself.
+        check(command, wanted, done.stdout + (code if code in wanted else ""))
+        count += 1
+    check("commands of the page", True, count > 10)
+
+
+def check_hosts(prefix, libdir, source, folder, cmake, toolchain, compiler):
+    loaded = dict(os.environ, LD_LIBRARY_PATH=str(prefix / libdir),
+                  PKG_CONFIG_LIBDIR=str(prefix / libdir / "pkgconfig"))
+    flags = run("pkg-config", "--cflags", "--libs", "tessel_switch", "tessel_switch_soft_sdk",
+                env=loaded).split()
+    for flag in flags:
+        if flag[:2] in ("-I", "-L"):
+            check("folder of pkg-config", True, pathlib.Path(flag[2:]).is_dir())
+    run(*compiler, source / "examples/host.c", "-o", folder / "host", *flags)
+    wanted = "entry 1: ((( 0x03,0x0a010200,0x0018,),('setNextHop',(0x0011,)),),(0,True))\n"
+    check("host by pkg-config", wanted, run(folder / "host", env=loaded))
+
+    run(cmake, "-S", source / "examples", "-B", folder / "b", f"-DCMAKE_PREFIX_PATH={prefix}",
+        f"-DCMAKE_C_COMPILER={compiler[0]}", "-DCMAKE_C_FLAGS=" + " ".join(compiler[1:]),
+        f"-DCMAKE_TOOLCHAIN_FILE={toolchain}")
+    run(cmake, "--build", folder / "b")
+    check("host by find_package", wanted, run(folder / "b/host"))
+
+    (folder / "by_name.c").write_text(BY_NAME)
+    run(*compiler, folder / "by_name.c", "-o", folder / "by_name", "-ldl")
+    run(folder / "by_name", env=loaded)
+
+
+def main():
+    build, source, libdir, cmake, toolchain, *compiler = sys.argv[1:]
+    source = pathlib.Path(source)
+    with tempfile.TemporaryDirectory() as name:
+        folder = pathlib.Path(name)
+        run(cmake, "--install", build, "--prefix", folder / "installed")
+        prefix = (folder / "installed").rename(folder / "moved")
+        environment = dict(os.environ, PATH=f"{prefix}/bin:{os.environ['PATH']}")
+        own = [line.split() for line in run("ldd", prefix / "bin/tesselctl").splitlines()
+               if re.search("libp4_pd_|libsoft_", line)]
+        check("libraries of the tool", [True] * 3,
+              [os.path.realpath(words[2]).startswith(str(prefix)) for words in own])
+        run_page((source / "README.md").read_text(), folder, environment)
+        check_hosts(prefix, libdir, source, folder, cmake, toolchain, compiler)
+
+
+main()
