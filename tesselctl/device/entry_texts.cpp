@@ -25,19 +25,22 @@ class Dump {
   Dump(Context &context, const TableInfo &table, Word word)
       : context_(context), table_(table), word_(word), values_(context.device, table) {
     const Settings &settings = context.settings;
-    rows_ = settings.json || settings.count || !settings.filters.empty() || !settings.sort.empty();
+    rows_ = settings.json || settings.count || context.results.asks_for_names();
+    context.results.expect(row(0, {}));
   }
 
   void add(p4_pd_entry_handle_t entry) {
     std::string_view line = values_.line(entry, word_);
     if (!rows_) return context_.out.write(line);
     line.remove_suffix(1);
-    Row row;
-    context_.results.row(
-        row.object("table", table_.name()).number("entry", entry).text("value", line));
+    context_.results.row(row(entry, line));
   }
 
  private:
+  Row row(p4_pd_entry_handle_t entry, std::string_view line) const {
+    return Row().object("table", table_.name()).number("entry", entry).text("value", line);
+  }
+
   Context &context_;
   const TableInfo &table_;
   Word word_;

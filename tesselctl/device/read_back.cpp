@@ -185,20 +185,37 @@ void add_entry(Row &row, const TableInfo &table, const ItemView &item, Naming na
   add_number(row, head.outcome == EntryHead::kGroup ? "group" : "member", head.number, naming);
 }
 
-void expect_entries(Results &results, const TableInfo &table) {
-  Row row;
-  row.object("table", table.name()).number("entry", 0);
-  add_samples(row, Row::kKey, *table.record);
-  if (table.has_priority()) row.number("priority", 0);
-  if (table.ages()) row.number("ttl", 0);
-  row.list("meter", {});
-  if (table.indirect()) row.number("member", 0).number("group", 0);
-  for (uint32_t i = 0; i < table.description->action_count; ++i) {
-    const bindings::Record &action = action_record(table.description->actions[i].name);
+namespace {
+
+template <class Owner>
+void add_action_samples(Row &row, const Owner &owner) {
+  for (uint32_t i = 0; i < owner.action_count; ++i) {
+    const bindings::Record &action = action_record(owner.actions[i].name);
     const std::vector<uint8_t> zeroes(action.size);
     if (i == 0) add_action(row, action, zeroes.data());
     add_samples(row, Row::kParameters, action);
   }
+}
+
+}  // namespace
+
+void add_entry_samples(Row &row, const TableInfo &table) {
+  add_samples(row, Row::kKey, *table.record);
+  if (table.has_priority()) row.number("priority", 0);
+  if (table.ages()) row.number("ttl", 0);
+  row.list("meter", {}).number("packets", 0).number("bytes", 0);
+  if (table.indirect()) row.number("member", 0).number("group", 0);
+  add_action_samples(row, *table.description);
+}
+
+void add_member_samples(Row &row, const soft_profile_t &profile) {
+  add_action_samples(row, profile);
+}
+
+void expect_entries(Results &results, const TableInfo &table) {
+  Row row;
+  row.object("table", table.name()).number("entry", 0);
+  add_entry_samples(row, table);
   results.expect(row);
 }
 

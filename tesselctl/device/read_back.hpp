@@ -113,7 +113,9 @@ void add_entry(Row &row, const TableInfo &table, const ItemView &item, Naming na
 // An action and its parameters: the value of a member.
 void add_action(Row &row, std::string_view value);
 
-// What filters may name in rows of entries, before there are any.
+// For Results::expect, before there are any: all that rows of entries and of members may have.
+void add_entry_samples(Row &row, const TableInfo &table);
+void add_member_samples(Row &row, const soft_profile_t &profile);
 void expect_entries(Results &results, const TableInfo &table);
 
 // All throw Fault at the word when the device cannot be read. With the name of the table and the

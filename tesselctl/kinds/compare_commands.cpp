@@ -27,6 +27,7 @@ void print_changes(Context &context, const std::vector<Change> &changes) {
 void diff(Context &context, const Invocation &invocation) {
   const Word first = need_argument(invocation, 0, "the name of an image");
   refuse_arguments_from(invocation, 2);
+  expect_changes(context.results);
   const DeviceState before = state_of(context, first);
   DeviceState after = invocation.arguments.size() > 1 ? state_of(context, invocation.arguments[1])
                                                       : DeviceState::of_device(context.device);

@@ -14,6 +14,9 @@ class DefaultEntry : public TableItems {
     row.object("which", "default");
     TableItems::add_to(row, item);
   }
+  void add_samples_to(Row &row) const override {
+    TableItems::add_samples_to(row.object("which", "default"));
+  }
 
   void read(Source &from, const ItemVisitor &visit) override {
     EntryReader reader(from.device, table(), EntryReader::Resources::all);

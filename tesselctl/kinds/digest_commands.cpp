@@ -27,12 +27,16 @@ const bindings::Record &record_of(const soft_digest_t &digest) {
   return *find_record(bindings::binding.digests.list(), digest.name);
 }
 
+Row message_row(const soft_digest_t &digest, uint32_t number, bf_pipe_id_t pipe) {
+  return digest_row(digest).number("message", number).number("pipe", pipe);
+}
+
 void tell_message(Context &context, uint32_t number, const pipe_mgr_digest_message_t &message) {
   for (const soft_digest_t &digest : program_rows<soft_digest_t>()) {
     if (digest.handle != message.digest) continue;
     for (uint32_t i = 0; i < message.entry_count; ++i) {
       const uint8_t *entry = message.entries + size_t{i} * message.entry_size;
-      Row row = digest_row(digest).number("message", number).number("pipe", message.pipe);
+      Row row = message_row(digest, number, message.pipe);
       add_record(row, "fields", record_of(digest), entry);
       context.results.row(row);
     }
@@ -95,6 +99,9 @@ void inject(Context &context, const Invocation &invocation) {
 void show(Context &context, const Invocation &invocation) {
   const soft_digest_t &digest = digest_of(invocation);
   refuse_arguments_from(invocation, 1);
+  Row sample = message_row(digest, 0, 0);
+  add_samples(sample, "fields", record_of(digest));
+  context.results.expect(sample);
   for (const auto &[number, message] : context.device.events().messages.held) {
     if (message->digest == digest.handle) tell_message(context, number, *message);
   }

@@ -104,11 +104,13 @@ void count(Context &context, const Invocation &invocation) {
   for (const bindings::Record &record : tables()) {
     const TableInfo table = resolve_table({record.name, 0});
     const uint32_t entries = entry_count(context, table, invocation.command);
+    context.results.expect(count_row(table, entries));
     if (entries == 0) continue;
     any = true;
     context.results.row(count_row(table, entries));
   }
-  if (!any && !context.settings.json && !context.settings.count) {
+  if (!any && !context.settings.json && !context.settings.count &&
+      !context.results.asks_for_names()) {
     context.results.text("all tables are empty");
   }
 }

@@ -77,6 +77,10 @@ class Groups : public ObjectItems {
     const auto inactive = numbers_of(group, false);
     if (!inactive.empty()) row.list("inactive", inactive);
   }
+  void add_samples_to(Row &row) const override {
+    add_number(row, "group", 0, Naming::numbers);
+    row.number("size", 0).list("members", {}).list("inactive", {});
+  }
 
   void read(Source &from, const ItemVisitor &visit) override {
     const ProfileNumbers &numbers = from.numbering.of(profile_.action_data_table);

@@ -43,6 +43,10 @@ class Members : public ObjectItems {
     add_number(row, "member", read_bytes<uint32_t>(item.identity), Naming::numbers);
     add_action(row, item.value);
   }
+  void add_samples_to(Row &row) const override {
+    add_number(row, "member", 0, Naming::numbers);
+    add_member_samples(row, profile_);
+  }
 
   void read(Source &from, const ItemVisitor &visit) override {
     MemberReader reader(from.device, profile_.name);

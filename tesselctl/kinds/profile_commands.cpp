@@ -168,6 +168,9 @@ void member_show(Context &context, const Invocation &invocation) {
     add_member(row, device, profile.name, member, word);
     context.results.row(row);
   };
+  Row sample = profile_row(profile).number("member", 0);
+  add_member_samples(sample, profile);
+  context.results.expect(sample);
   if (options.has("member")) return print(options.handle(context, "member"));
   for_each_member(device, profile.name, word, print);
 }
@@ -195,6 +198,8 @@ void group_show(Context &context, const Invocation &invocation) {
     add_members(row, device, profile.name, group, word);
     context.results.row(row);
   };
+  context.results.expect(
+      profile_row(profile).number("group", 0).list("members", {}).list("inactive", {}));
   if (options.has("group")) {
     const uint32_t group = options.handle(context, "group");
     if (!has_handle(device, profile.name, "group", group)) check(BF_OBJECT_NOT_FOUND, word);

@@ -132,11 +132,21 @@ void inject(Context &context, const Invocation &invocation) {
   context.results.row(row.number("captures", captures));
 }
 
+Row stage_row(uint32_t snapshot, const bf_snapshot_control_t &control) {
+  Row row = snapshot_row(snapshot);
+  row.text("direction", direction_name(snapshot >> 1 & 1)).number("stage", control.stage);
+  return row.text("triggered", control.triggered ? "yes" : "no");
+}
+
 // A row for each stage that the packet went through, with the fields that are not 0; none before
 // anything is captured.
 void show(Context &context, const Invocation &invocation) {
   const Options options(invocation, 0, {"snapshot", "pipe"});
   const uint32_t snapshot = options.handle(context, "snapshot");
+  const bindings::Record &capture = record_in(bindings::binding.captures, "capture", {});
+  Row sample = stage_row(snapshot, {});
+  add_samples(sample, "fields", capture);
+  context.results.expect(sample);
   std::vector<Capture> records(kMostCaptures);
   std::vector<bf_snapshot_control_t> control(SOFT_STAGE_LIMIT);
   uint32_t captures = 0;
@@ -150,11 +160,8 @@ void show(Context &context, const Invocation &invocation) {
   for (size_t i = 0; i < kMostCaptures; ++i) {
     if (!control[i].valid) continue;
     const auto *bytes = reinterpret_cast<const uint8_t *>(&records[i]);
-    Row row = snapshot_row(snapshot);
-    row.text("direction", direction_name(snapshot >> 1 & 1)).number("stage", control[i].stage);
-    row.text("triggered", control[i].triggered ? "yes" : "no");
-    add_record(row, "fields", record_in(bindings::binding.captures, "capture", {}), bytes,
-               LeaveOut::zeroes);
+    Row row = stage_row(snapshot, control[i]);
+    add_record(row, "fields", capture, bytes, LeaveOut::zeroes);
     context.results.row(row);
   }
 }

@@ -53,15 +53,21 @@ p4_pd_counter_values_t read_cell(const Context &context, const soft_counter_t &c
   return values;
 }
 
-// With a label of what the entry counts, for a counter of a table.
-Row cell_row(const Context &context, const soft_counter_t &counter, uint32_t at,
-             const p4_pd_counter_values_t &values) {
+// The label says what the cell counts.
+Row cell_row(const soft_counter_t &counter, uint32_t at, const p4_pd_counter_values_t &values,
+             const std::string &label) {
   Row row;
   row.object("counter", counter.name).number(cell_of(counter), at);
   row.number("packets", values.packets).number("bytes", values.bytes);
-  if (counter.table == 0) return row;
-  const std::string label = counter_label(context.device, counter.table, at);
   return label.empty() ? row : row.text("label", label);
+}
+
+// With a label for a counter of a table.
+Row cell_row(const Context &context, const soft_counter_t &counter, uint32_t at,
+             const p4_pd_counter_values_t &values) {
+  const std::string label =
+      counter.table != 0 ? counter_label(context.device, counter.table, at) : "";
+  return cell_row(counter, at, values, label);
 }
 
 void counter_read(Context &context, const Invocation &invocation) {
@@ -104,10 +110,7 @@ class CountedCells {
 
   void print(Results &results) const {
     for (const auto &[index, cell] : cells_) {
-      Row row;
-      row.object("counter", counter_.name).number("index", index);
-      row.number("packets", cell.values.packets).number("bytes", cell.values.bytes);
-      results.row(cell.label.empty() ? row : row.text("label", cell.label));
+      results.row(cell_row(counter_, index, cell.values, cell.label));
     }
   }
 
@@ -160,6 +163,7 @@ class CountedCells {
 };
 
 void list_cells(Context &context, const soft_counter_t &counter, Word word, uint64_t flags) {
+  context.results.expect(cell_row(counter, 0, {}, "label"));
   if (counter.table != 0) return list_entries(context, counter, word, flags);
   CountedCells(context, counter, word, flags).print(context.results);
 }
@@ -244,6 +248,7 @@ void register_range(Context &context, const Invocation &invocation) {
   call.set("first", first).set("index_count", wanted).set("flags", read_flags(options));
   call.set("indexes_read", &indexes).set("values", values.data()).set("value_count", &count);
   check(call.run(), invocation.arguments[0]);
+  context.results.expect(values_row(reg, first, values, 0, 0));
   const size_t each = indexes == 0 ? 0 : count / indexes;
   for (uint32_t i = 0; i < indexes; ++i) {
     context.results.row(values_row(reg, first + i, values, i * each, each));

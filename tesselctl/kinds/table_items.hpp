@@ -21,6 +21,7 @@ class TableItems : public ObjectItems {
   void add_to(Row &row, const ItemView &item) const override {
     add_entry(row, table_, item, Naming::numbers);
   }
+  void add_samples_to(Row &row) const override { add_entry_samples(row, table_); }
   uint32_t profile() const override { return table_.description->action_data_table; }
   void renumber(std::span<char> identity, std::span<char> value,
                 const Renumbering &numbers) const override;

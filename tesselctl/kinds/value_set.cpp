@@ -101,6 +101,9 @@ void show(Context &context, const Invocation &invocation) {
   const Options options(invocation, 1, {"direction", "pipe", "parser"});
   const p4_pd_parser_target_t target = parser_of(context, options);
   const Word word = invocation.arguments[0];
+  Row sample = set_row(set).number("entry", 0);
+  add_value(sample, {});
+  context.results.expect(sample);
   for_each_handle(set_values_of(context.device, set.name, target), word, [&](uint32_t entry) {
     Row row = set_row(set).number("entry", entry);
     add_value(row, read_value(context.device, set, entry, word));

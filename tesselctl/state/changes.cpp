@@ -114,11 +114,32 @@ void apply_changes(const Device &device, const std::vector<Change> &changes) {
   }
 }
 
+namespace {
+
+Row object_row(std::string_view sign, const ItemKind &kind, const char *object) {
+  return Row().object("change", sign).object(kind.object.keyword, object);
+}
+
+}  // namespace
+
 Row change_row(std::string_view sign, const DeviceState::Part &part, const ItemStore::Item &item) {
-  Row row;
-  row.object("change", sign).object(part.kind->object.keyword, part.object);
+  Row row = object_row(sign, *part.kind, part.object);
   part.access->add_to(row, item.view());
   return row;
+}
+
+void expect_changes(Results &results) {
+  if (!results.asks_for_names()) return;
+  for (const ItemKind *kind : kinds()) {
+    const char *object;
+    for (size_t i = 0; (object = kind->object.name(i)) != nullptr; ++i) {
+      const auto items = kind->open(object);
+      if (!items) continue;
+      Row row = object_row("-", *kind, object);
+      items->add_samples_to(row);
+      results.expect(row.object("change", "+"));
+    }
+  }
 }
 
 }  // namespace tesselctl

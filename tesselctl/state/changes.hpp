@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tesselctl/state/device_state.hpp"
+#include "tesselctl/text/results.hpp"
 
 namespace tesselctl {
 
@@ -28,5 +29,7 @@ void apply_changes(const Device &device, const std::vector<Change> &changes);
 
 // An item in the words of commands: "-" or "+", the object, and what it holds.
 Row change_row(std::string_view sign, const DeviceState::Part &part, const ItemStore::Item &item);
+// What such rows may have.
+void expect_changes(Results &results);
 
 }  // namespace tesselctl

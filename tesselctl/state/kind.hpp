@@ -60,6 +60,8 @@ class ObjectItems {
   virtual void print(std::string &text, const ItemView &item) const = 0;
   // In the words of commands; members and groups by number.
   virtual void add_to(Row &row, const ItemView &item) const = 0;
+  // All that rows of such items may have, for Results::expect.
+  virtual void add_samples_to(Row &row) const = 0;
 
   // Visits what the device holds, in the order of images. Throws Fault.
   virtual void read(Source &from, const ItemVisitor &visit) = 0;
@@ -151,6 +153,7 @@ class CellItems : public ObjectItems {
   void add_to(Row &row, const ItemView &item) const final {
     add_cell(row, read_bytes<Identity>(item.identity), read_bytes<Value>(item.value));
   }
+  void add_samples_to(Row &row) const final { add_cell(row, Identity{}, Value{}); }
   void read(Source &from, const ItemVisitor &visit) final {
     ItemBytes item;
     read_cells(from, [&](const Identity &identity, const Value &value) {

@@ -1,7 +1,7 @@
 #include "tesselctl/text/results.hpp"
 
 #include <algorithm>
-#include <cctype>
+#include <array>
 
 #include "tesselctl/text/number.hpp"
 #include "tesselctl/text/suggest.hpp"
@@ -14,13 +14,30 @@ namespace {
 // Rows that are looked at before the columns are chosen; a dump of a million rows starts at once.
 constexpr size_t kMeasured = 1000;
 
+bool is_plain(std::string_view pattern) { return pattern.find('*') == std::string_view::npos; }
+
+// Throws Fault.
+std::vector<Number> numbers_of(std::string_view list) {
+  std::vector<Number> numbers;
+  for (size_t at = 0; at < list.size();) {
+    const size_t end = std::min(list.find(',', at), list.size());
+    const std::optional<Number> number = parse_number(list.substr(at, end - at));
+    if (!number) throw Fault("this is not a list of numbers");
+    numbers.push_back(*number);
+    at = end + 1;
+  }
+  return numbers;
+}
+
 // A pattern, or the same value in whatever notation. Throws Fault where it is no such value.
 bool matches(const Item &item, std::string_view pattern) {
   if (matches_pattern(item.value, pattern)) return true;
-  if (pattern.find('*') != std::string_view::npos) return false;
+  if (!is_plain(pattern)) return false;
   if (item.of.same != nullptr) return item.of.same(item.of.what, item.value, {pattern, 0});
+  if (item.kind == Item::Kind::list) return numbers_of(item.value) == numbers_of(pattern);
   const std::optional<Number> wanted = parse_number(pattern);
-  if (!wanted && item.kind == Item::Kind::number) throw Fault("this is not a number");
+  const bool is_number = item.kind == Item::Kind::number || item.value.starts_with("0x");
+  if (!wanted && is_number) throw Fault("this is not a number");
   return wanted && parse_number(item.value) == wanted;
 }
 
@@ -91,23 +108,26 @@ void Results::begin(const Settings &settings, std::string_view command, bool lis
 bool Results::passes(size_t filter, const Item &item) {
   FilterState &state = filter_states_[filter];
   state.is_known = true;
+  const std::string &pattern = settings_.filters[filter].pattern;
+  // Of names there are those that rows have, and no more.
+  if (item.kind == Item::Kind::object && is_plain(pattern)) {
+    if (item.value == pattern) return state.is_value = true;
+    if (!state.is_value) state.near = nearest(pattern, std::array{state.near, item.value});
+    return false;
+  }
   try {
-    const bool passes = matches(item, settings_.filters[filter].pattern);
+    const bool passes = matches(item, pattern);
     state.is_value = true;
     return passes;
   } catch (const Fault &fault) {
-    const Settings::Filter &wrong = settings_.filters[filter];
-    state.refusal.emplace(
-        Word{wrong.pattern, 0},
-        fmt::format("--filter {}: '{}': {}", wrong.name, wrong.pattern, fault.message()),
-        fault.suggestion());
+    if (!state.refusal || state.refusal->suggestion().empty()) state.refusal.emplace(fault);
     return false;
   }
 }
 
 void Results::note_names(const Row &row) {
   if (!settings_.sort.empty() && row.find(settings_.sort) != nullptr) sort_was_known_ = true;
-  if ((settings_.filters.empty() && settings_.sort.empty()) || names_.size() > 100) return;
+  if (!asks_for_names() || names_.size() > 100) return;
   for (const Item &item : row.items()) {
     if (std::find(names_.begin(), names_.end(), item.name) == names_.end()) {
       names_.push_back(item.name);
@@ -243,14 +263,18 @@ void Results::print_columns() {
 }
 
 void Results::check_names() const {
-  if (names_.empty()) return;
   const auto unknown = [&](const std::string &name) {
     throw Fault({name, 0}, "no row has a '" + name + "'", nearest(name, names_));
   };
   for (size_t i = 0; i < settings_.filters.size(); ++i) {
     const FilterState &state = filter_states_[i];
-    if (!state.is_known) unknown(settings_.filters[i].name);
-    if (!state.is_value && state.refusal) throw *state.refusal;
+    const auto &[name, pattern] = settings_.filters[i];
+    if (!state.is_known) unknown(name);
+    if (state.is_value) continue;
+    const Fault why = state.refusal.value_or(Fault({}, "no row can have this", state.near));
+    throw Fault(Word{pattern, 0},
+                fmt::format("--filter {}: '{}': {}", name, pattern, why.message()),
+                why.suggestion());
   }
   if (!settings_.sort.empty() && !sort_was_known_) unknown(settings_.sort);
 }

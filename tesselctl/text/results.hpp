@@ -58,6 +58,8 @@ class Results {
   // An item that rows may have, with a value of its kind: what filters and sort may name even where
   // no row has it.
   void expect(const Row &row);
+  // Whether anything does.
+  bool asks_for_names() const { return !settings_.filters.empty() || !settings_.sort.empty(); }
   // Throws Fault when a filter or sort names what no row has, and when a filter's value is none of
   // what it names.
   void end();
@@ -93,6 +95,7 @@ class Results {
     bool is_known = false;
     bool is_value = false;
     std::optional<Fault> refusal = {};
+    std::string near = {};  // among the names that rows have
   };
   std::vector<FilterState> filter_states_;  // by filter
   bool sort_was_known_ = false;

@@ -193,35 +193,5 @@ TEST_F(NamesTest, NamesAreUniqueAndThoseOfBeforeAreAccepted) {
   }
 }
 
-TEST_F(NamesTest, FiltersCompareValues) {
-  run("add l2Lookup egrL2Domain=7 dmac=02:00:00:00:0a:11 action=onMiss");
-  run("add ipv4ShortMaskLpm vrfId=1 dip=10.0.0.1/32 action=setNextHop nextHop=12");
-  run("add ipv6ShortMaskLpm vrfId=1 dip=2001:db8:10::/48 action=setNextHop nextHop=13");
-  const struct {
-    const char *line;
-    const char *answer;
-  } cases[] = {
-      {"show ipv4ShortMaskLpm --count --filter dip=10.0.0.1/32", "1\n"},
-      {"show ipv4ShortMaskLpm --count --filter dip=10.0.0.1", "1\n"},
-      {"show ipv4ShortMaskLpm --count --filter dip=0x0a000001", "1\n"},
-      {"show ipv4ShortMaskLpm --count --filter nextHop=0xc --filter dip=10.*", "1\n"},
-      {"show l2Lookup --count --filter dmac=02:00:00:00:0A:11", "1\n"},
-      {"show ipv4ShortMaskLpm --count --filter action=setEcmp", "0\n"},
-      {"show ipv6ShortMaskLpm --count --filter dip=2001:0db8:0010::/48", "1\n"},
-      {"show ipv4ShortMaskLpm --filter dip=10.0.0",
-       "0: --filter dip: '10.0.0': this is not an IPv4 address; did you mean '10.0.0.0'?"},
-      {"show ipv4ShortMaskLpm --filter vrfId=256",
-       "0: --filter vrfId: '256': vrfId has 8 bits, so at most 255"},
-      {"show ipv4ShortMaskLpm --filter entry=x", "0: --filter entry: 'x': this is not a number"},
-      {"show ipv4ShortMaskLpm --filter action=setNextHopp",
-       "0: --filter action: 'setNextHopp': no action has this name; did you mean 'setNextHop'?"},
-      // Of a table without entries as well.
-      {"show l2LookupMiss --filter dmacc=1", "0: no row has a 'dmacc'; did you mean 'dmac'?"},
-      {"show l2LookupMiss --filter dmac=5::1",
-       "0: --filter dmac: '5::1': this is not a MAC address"},
-  };
-  for (const auto &given : cases) EXPECT_EQ(run(given.line), given.answer) << given.line;
-}
-
 }  // namespace
 }  // namespace tesselctl
