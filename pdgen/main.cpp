@@ -15,11 +15,12 @@
 namespace {
 
 constexpr const char *kUsage =
-    "usage: pdgen --catalogue DIR [--header FILE] [--exports FILE] [--build DIR]\n"
-    "             [--soname N] [--families DIR]\n"
+    "usage: pdgen --catalogue DIR [--header FILE] [--exports FILE] [--handles FILE]\n"
+    "             [--build DIR] [--soname N] [--families DIR]\n"
     "  --catalogue DIR  folder of the program's .toml files\n"
     "  --header FILE    write the public header\n"
     "  --exports FILE   write the list of exported names\n"
+    "  --handles FILE   write the list of handles with their objects\n"
     "  --build DIR      write all that is compiled: descriptors, wrappers, version script,\n"
     "                   layout test, soft SDK description, call table\n"
     "  --soname N       version of the shared object (1)\n"
@@ -30,17 +31,17 @@ struct Options {
   std::string catalogue;
   std::string header;
   std::string exports;
+  std::string handles;
   std::string build;
   std::string families;
   unsigned soname = 1;
 };
 
 bool parse(int argc, char **argv, Options &options) {
-  const std::map<std::string, std::string *> texts = {{"--catalogue", &options.catalogue},
-                                                      {"--header", &options.header},
-                                                      {"--exports", &options.exports},
-                                                      {"--build", &options.build},
-                                                      {"--families", &options.families}};
+  const std::map<std::string, std::string *> texts = {
+      {"--catalogue", &options.catalogue}, {"--header", &options.header},
+      {"--exports", &options.exports},     {"--handles", &options.handles},
+      {"--build", &options.build},         {"--families", &options.families}};
   for (int i = 1; i + 1 < argc; i += 2) {
     const std::string option = argv[i];
     if (const auto found = texts.find(option); found != texts.end()) {
@@ -124,6 +125,7 @@ int main(int argc, char **argv) {
   pdgen::OutputFiles files;
   if (!options.header.empty()) files.add(options.header, pdgen::emit_header(api));
   if (!options.exports.empty()) files.add(options.exports, pdgen::emit_exports(api));
+  if (!options.handles.empty()) files.add(options.handles, pdgen::emit_handles(api.program()));
   if (!options.build.empty()) add_build_files(api, families, options, files);
   std::string message;
   if (!files.write(message)) {

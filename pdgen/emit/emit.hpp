@@ -10,9 +10,10 @@
 
 namespace pdgen {
 
-// Checked in: the public header and the list of exported names.
+// Checked in: the public header, the list of exported names, and all handles with their objects.
 std::string emit_header(const Api &api);
 std::string emit_exports(const Api &api);
+std::string emit_handles(const Program &program);
 
 // Built: the program record. What is a row for each object alone is an output of the families.
 std::string emit_program_data(const Api &api);

@@ -172,14 +172,13 @@ class CheckedIn : public testing::Test {
   const pdgen::Api api_ = pdgen::build_api(loaded_.program.value());
 };
 
-TEST_F(CheckedIn, TheHeaderIsFresh) {
-  const std::string header = read_file(PD_SOURCE_DIR "/include/p4_pd_tessel_switch.h");
-  EXPECT_EQ(first_difference(header, pdgen::emit_header(api_)), "") << kRenew;
-}
-
-TEST_F(CheckedIn, TheExportListIsFresh) {
-  const std::string exports = read_file(PD_SOURCE_DIR "/abi/exports.txt");
-  EXPECT_EQ(first_difference(exports, pdgen::emit_exports(api_)), "") << kRenew;
+TEST_F(CheckedIn, FilesAreFresh) {
+  const auto difference = [](const char *file, const std::string &fresh) {
+    return first_difference(read_file(PD_SOURCE_DIR + std::string(file)), fresh);
+  };
+  EXPECT_EQ(difference("/include/p4_pd_tessel_switch.h", pdgen::emit_header(api_)), "") << kRenew;
+  EXPECT_EQ(difference("/abi/exports.txt", pdgen::emit_exports(api_)), "") << kRenew;
+  EXPECT_EQ(difference("/abi/handles.txt", pdgen::emit_handles(api_.program())), "") << kRenew;
 }
 
 TEST_F(CheckedIn, AStaleFileWouldBeNoticed) {
