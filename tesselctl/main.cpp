@@ -85,7 +85,8 @@ class Session {
   Runner &runner() { return *tool_; }
   // Call it when all is done.
   void save_if_changed() {
-    if (local_ != nullptr && local_->has_changed()) home_->save();
+    if (local_ == nullptr || local_->changed() == Changed::no) return;
+    if (local_->changed() == Changed::yes || home_->is_worth_saving()) home_->save();
   }
 
  private:

@@ -18,6 +18,9 @@
 
 namespace tesselctl {
 
+// What commands did to the device. One with a fault may have done a part.
+enum class Changed : uint8_t { no, perhaps, yes };
+
 // What commands share while a script or shell runs.
 struct Context {
   Device &device;
@@ -29,8 +32,7 @@ struct Context {
   Results results{out};
   // Handles that commands were asked to remember (as=NAME), for $NAME.
   std::map<std::string, uint32_t, std::less<>> labels = {};
-  // Set before a command runs that changes the device, or some of it before a fault.
-  bool changed = false;
+  Changed changed = Changed::no;
   // Set by commands that compare when they found a difference.
   bool differs = false;
   // What the names of files are relative to, when that is not where this process works.

@@ -81,7 +81,7 @@ LineOutcome LocalRunner::run_all_or_nothing(const WholeScript &script) {
     copy_back(*before, context_.device);
   } else {
     context_.labels = std::move(lines.context_.labels);
-    context_.changed = context_.changed || lines.has_changed();
+    context_.changed = std::max(context_.changed, lines.changed());
   }
   if (!script.settings.json) {
     print_summary(context_.out, script.name, result,

@@ -16,8 +16,8 @@ class LocalRunner : public Runner {
   std::string ask(std::string_view line) override;
   Settings &defaults() override { return context_.defaults; }
   Context &context() { return context_; }
-  // Whether a command changed the device since the runner was made.
-  bool has_changed() const { return context_.changed; }
+  // Since the runner was made.
+  Changed changed() const { return context_.changed; }
 
  private:
   LineOutcome try_whole(const WholeScript &script);

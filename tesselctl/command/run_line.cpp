@@ -1,5 +1,6 @@
 #include "tesselctl/command/run_line.hpp"
 
+#include <algorithm>
 #include <new>
 
 #include "tesselctl/command/flags.hpp"
@@ -64,8 +65,10 @@ bool run_line(Context &context, std::string_view line) {
   const Command &command = find_command(words, invocation);
   context.results.begin(context.settings, trimmed(line), command.kind == Kind::lists);
   if (!context.settings.help) flags.check(command);
-  if (command.kind == Kind::changes && !context.settings.dry_run) context.changed = true;
+  const bool changes = command.kind == Kind::changes && !context.settings.dry_run;
+  if (changes) context.changed = std::max(context.changed, Changed::perhaps);
   run_command(context, command, invocation);
+  if (changes) context.changed = Changed::yes;
   return true;
 }
 

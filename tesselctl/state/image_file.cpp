@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include "tesselctl/device/device_copy.hpp"
 #include "tesselctl/text/interrupt.hpp"
 #include "tesselctl/text/number.hpp"
 
@@ -81,6 +82,21 @@ void DeviceOfImage::read_again() {
   if (!image_.keep_pipes) options_.pipes = lines.pipes().value_or(options_.pipes);
   device_.emplace(options_);
   lines.load(*device_, image_.path);
+}
+
+bool DeviceOfImage::is_worth_saving() const {
+  if (!is_new_) return true;
+  DeviceOptions options = options_;
+  options.id = free_device_id();
+  std::string empty;
+  save_image(Device(options), [&](std::string_view piece) { empty += piece; });
+  std::string_view rest = empty;
+  bool is_equal = true;
+  save_image(*device_, [&](std::string_view piece) {
+    is_equal = is_equal && rest.starts_with(piece);
+    if (is_equal) rest.remove_prefix(piece.size());
+  });
+  return !is_equal || !rest.empty();
 }
 
 void DeviceOfImage::save() {

@@ -39,6 +39,8 @@ class DeviceOfImage {
   // Whether others may change the image meanwhile, and the device as the image is now.
   bool may_be_old() const { return !image_.path.empty() && use_ == ImageUse::reads; }
   void read_again();
+  // False where there was no image and the device is as a new one.
+  bool is_worth_saving() const;
   // The device as the image from now on, with a note on errors when there was none before. Nothing
   // where there is no image.
   void save();
