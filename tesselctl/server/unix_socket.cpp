@@ -83,10 +83,10 @@ Descriptor connect_to(const std::string &path) {
 
 ListeningSocket::ListeningSocket(std::string path) : path_(std::move(path)) {
   const sockaddr_un address = address_of(path_);
-  // Of two servers that start at once the second waits here, so that it cannot take the socket of
-  // the first for one that is left over.
+  // Of two servers that start at once the second is refused here, so that it cannot take the socket
+  // of the first for one that is left over.
   const FilePlace place = FilePlace::of_name(path_);
-  const FileLock lock(place);
+  const FileLock lock(place, 0);
   socket_ = new_socket(path_);
   if (!try_bind(socket_, address)) {
     if (errno != EADDRINUSE) throw_system(path_);

@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <chrono>
 #include <climits>
+#include <cstring>
 #include <mutex>
 #include <thread>
 #include <vector>
@@ -36,6 +37,11 @@ std::string path_of(int fd, const std::string &given) {
   const ssize_t size = readlink(fmt::format("/proc/self/fd/{}", fd).c_str(), path, sizeof path);
   if (size < 0) throw_system(given);
   return {path, static_cast<size_t>(size)};
+}
+
+// The fault of a call that failed for a file of ours beside that of the place.
+[[noreturn]] void throw_beside(const FilePlace &place, const std::string &name) {
+  throw Fault(fmt::format("{}: {} beside it: {}", place.path, name, strerror(errno)));
 }
 
 // The lock files that this process holds, by device and number.
@@ -81,8 +87,7 @@ std::optional<FilePlace> FilePlace::look_up(const std::string &path) {
   struct stat named = {};
   const bool is_link = lstat(path.c_str(), &named) == 0 && S_ISLNK(named.st_mode);
   errno = error;
-  if (!file.is_open() && error != ENOENT) throw_system(path);
-  if (!file.is_open() && is_link) throw Fault(path + ": the link leads to no file");
+  if (!file.is_open() && (error != ENOENT || is_link)) throw_unopened(path);
   struct stat found = {};
   if (file.is_open() && fstat(file.get(), &found) != 0) throw_system(path);
   errno = EISDIR;
@@ -108,13 +113,15 @@ FilePlace FilePlace::of_file(const std::string &path) {
   throw Fault(path + ": the file is moved all the time");
 }
 
-FileLock::FileLock(const FilePlace &place) : place_(place), name_("." + place.name + ".lock") {
-  const Clock::time_point end = Clock::now() + std::chrono::seconds(kLockSeconds);
+FileLock::FileLock(const FilePlace &place, int seconds)
+    : place_(place), name_("." + place.name + ".lock") {
+  const Clock::time_point end = Clock::now() + std::chrono::seconds(seconds);
   while (!try_take()) {
     if (is_shared()) return;
     if (Clock::now() >= end) {
-      throw Fault(fmt::format("{}: {} holds the lock of this file, waited {} seconds", place_.path,
-                              holder_of(file_.get()), kLockSeconds));
+      throw Fault(fmt::format("{}: {} holds the lock {}{}", place_.path, holder_of(file_.get()),
+                              name_,
+                              seconds == 0 ? "" : fmt::format(", waited {} seconds", seconds)));
     }
     check_interrupt();
     std::this_thread::sleep_for(kTryAgain);
@@ -132,7 +139,7 @@ bool FileLock::try_take() {
     if (!file_.is_open()) errno = EACCES;
   }
   struct stat status = {};
-  if (!file_.is_open() || fstat(file_.get(), &status) != 0) throw_system(place_.path);
+  if (!file_.is_open() || fstat(file_.get(), &status) != 0) throw_beside(place_, name_);
   if (flock(file_.get(), LOCK_EX | LOCK_NB) != 0) {
     if (errno != EWOULDBLOCK && errno != EINTR) throw_system(place_.path);
     return false;
@@ -142,7 +149,7 @@ bool FileLock::try_take() {
       fstatat(place_.folder.get(), name_.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0;
   if (!is_named || !is_same_file(status, named)) return false;
   if (!is_ours) {
-    if (unlinkat(place_.folder.get(), name_.c_str(), 0) != 0) throw_system(place_.path);
+    if (unlinkat(place_.folder.get(), name_.c_str(), 0) != 0) throw_beside(place_, name_);
     return false;
   }
   write_holder(file_.get());
@@ -177,7 +184,9 @@ FileWriter::FileWriter(const std::string &path) : place_(FilePlace::of_file(path
 void FileWriter::open_temporary() {
   lock_.emplace(place_);
   const std::string name = "." + place_.name + ".new";
-  unlinkat(place_.folder.get(), name.c_str(), 0);
+  if (unlinkat(place_.folder.get(), name.c_str(), 0) != 0 && errno != ENOENT) {
+    throw_beside(place_, name);
+  }
   const int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
   file_ = Descriptor(openat(place_.folder.get(), name.c_str(), flags, place_.exists ? 0600 : 0666));
   if (file_.is_open()) temporary_ = name;

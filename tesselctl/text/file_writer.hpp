@@ -11,7 +11,7 @@
 
 namespace tesselctl {
 
-// So long a process waits for one that holds the lock of a file.
+// So long a process waits for one that holds the lock of a file that it is to write.
 inline constexpr int kLockSeconds = 5;
 
 // A file, there or not, as a name in a folder.
@@ -36,8 +36,8 @@ struct FilePlace {
 // shares it with itself.
 class FileLock {
  public:
-  // The folder of the place outlives the lock. Throws Fault with the number of the holder.
-  explicit FileLock(const FilePlace &place);
+  // The place outlives the lock. Waits so long for another holder. Throws Fault with its number.
+  explicit FileLock(const FilePlace &place, int seconds = kLockSeconds);
   ~FileLock();
   FileLock(const FileLock &) = delete;
   FileLock &operator=(const FileLock &) = delete;

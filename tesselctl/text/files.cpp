@@ -63,10 +63,19 @@ void throw_system(const std::string &path) {
   throw Fault(fmt::format("{}: {}", path, strerror(errno)));
 }
 
+void throw_unopened(const std::string &path) {
+  const int error = errno;
+  struct stat status = {};
+  const bool is_link = lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+  if (error == ENOENT && is_link) throw Fault(path + ": the link leads to no file");
+  errno = error;
+  throw_system(path);
+}
+
 FileBytes::FileBytes(const std::string &path)
     : path_(path == "-" ? "standard input" : path),
       file_(path == "-" ? STDIN_FILENO : open(path.c_str(), O_RDONLY | O_CLOEXEC)) {
-  if (!file_.is_open()) throw_system(path_);
+  if (!file_.is_open()) throw_unopened(path_);
   if (path != "-" && is_xz(file_.get())) xz_ = start_xz(file_, path_);
 }
 

@@ -74,5 +74,7 @@ bool is_no_regular_file(const std::string &path);
 
 // The fault of a call of the system that failed, by errno.
 [[noreturn]] void throw_system(const std::string &path);
+// The same of open, which says of a link to nothing no more than of nothing.
+[[noreturn]] void throw_unopened(const std::string &path);
 
 }  // namespace tesselctl
