@@ -27,8 +27,7 @@ void set_device(ToolSettings &settings, Word value) {
 
 void set_pipes(ToolSettings &settings, Word value) {
   settings.device_flag = "--pipes";
-  settings.device.pipes = static_cast<uint32_t>(parse_limited(value, 8, "the number of pipes"));
-  if (settings.device.pipes == 0) throw Fault(value, "a device has 1 to 8 pipes");
+  settings.device.pipes = static_cast<uint32_t>(parse_limited(value, 8, "the number of pipes", 1));
   settings.pipes_are_given = true;
 }
 

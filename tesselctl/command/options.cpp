@@ -33,8 +33,8 @@ Word Options::need(std::string_view name) const {
   throw Fault(command_, std::string(name) + "= is missing");
 }
 
-uint64_t Options::number(std::string_view name, uint64_t limit) const {
-  return parse_limited(need(name), limit, std::string(name));
+uint64_t Options::number(std::string_view name, uint64_t limit, uint64_t least) const {
+  return parse_limited(need(name), limit, std::string(name), least);
 }
 
 size_t Options::choice_or(std::string_view name, std::initializer_list<std::string_view> words,

@@ -21,7 +21,7 @@ class Options {
   // The value. Throws Fault when it is missing.
   Word need(std::string_view name) const;
 
-  uint64_t number(std::string_view name, uint64_t limit) const;
+  uint64_t number(std::string_view name, uint64_t limit, uint64_t least = 0) const;
   uint64_t number_or(std::string_view name, uint64_t limit, uint64_t otherwise) const {
     return has(name) ? number(name, limit) : otherwise;
   }

@@ -48,9 +48,7 @@ Watch read_watch(Words words) {
       watch.period = parse_period(word);
       continue;
     }
-    const Word value = word.from(6);
-    watch.rounds = parse_limited(value, 1000000000, "the number of rounds");
-    if (watch.rounds == 0) throw Fault(value, "this should be 1 or more");
+    watch.rounds = parse_limited(word.from(6), 1000000000, "the number of rounds", 1);
   }
   find_watched(words);
   return watch;

@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "soft_traffic.h"
 #include "tesselctl/command/command.hpp"
 #include "tesselctl/command/subject.hpp"
 #include "tesselctl/device/handles.hpp"
@@ -75,7 +76,9 @@ class MeterLine {
 
   void read_word(const Context &context, const Assignment &word, bool wants_spec) {
     if (word.name.text == cell_name()) {
-      cell_ = parse_handle(context, word.value, cell_name());
+      constexpr uint64_t kLast = SOFT_METER_CELLS - 1;
+      cell_ = meter_.table != 0 ? parse_handle(context, word.value, cell_name())
+                                : static_cast<uint32_t>(parse_limited(word.value, kLast, "index"));
       return;
     }
     for (size_t i = 0; wants_spec && i < std::size(kParts); ++i) {

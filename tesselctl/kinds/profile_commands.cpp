@@ -134,9 +134,7 @@ void group_add(Context &context, const Invocation &invocation) {
   const Options options(invocation, 1, {"size", "as"});
   p4_pd_group_handle_t group = 0;
   Call call = context.device.prepare("create_group", profile.name);
-  const uint64_t size = options.number("size", kMostMembers);
-  if (size == 0) throw Fault(options.need("size"), fmt::format("size is 1 to {}", kMostMembers));
-  call.set("max_size", size).set("group", &group);
+  call.set("max_size", options.number("size", kMostMembers, 1)).set("group", &group);
   check(call.run(), profile_word(invocation));
   if (options.has("as")) remember(context, options.need("as"), group);
   context.results.done(profile_row(profile).number("group", group), "added");

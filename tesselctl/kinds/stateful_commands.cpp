@@ -4,6 +4,7 @@
 
 #include "soft_contents.h"
 #include "soft_state.h"
+#include "soft_traffic.h"
 #include "tesselctl/command/options.hpp"
 #include "tesselctl/command/subject.hpp"
 #include "tesselctl/device/entry_texts.hpp"
@@ -44,6 +45,11 @@ const char *cell_of(const soft_counter_t &counter) {
   return counter.table != 0 ? "entry" : "index";
 }
 
+uint32_t cell_word(const Context &context, const soft_counter_t &counter, const Options &options) {
+  if (counter.table != 0) return options.handle(context, cell_of(counter));
+  return static_cast<uint32_t>(options.number(cell_of(counter), SOFT_COUNTER_CELLS - 1));
+}
+
 p4_pd_counter_values_t read_cell(const Context &context, const soft_counter_t &counter, uint32_t at,
                                  uint64_t flags, Word word) {
   p4_pd_counter_values_t values = {};
@@ -72,9 +78,8 @@ Row cell_row(const Context &context, const soft_counter_t &counter, uint32_t at,
 
 void counter_read(Context &context, const Invocation &invocation) {
   const soft_counter_t &counter = counter_of(invocation);
-  const char *cell = cell_of(counter);
-  const Options options(invocation, 1, {cell, "source"});
-  const uint32_t at = options.handle(context, cell);
+  const Options options(invocation, 1, {cell_of(counter), "source"});
+  const uint32_t at = cell_word(context, counter, options);
   const p4_pd_counter_values_t values =
       read_cell(context, counter, at, read_flags(options), invocation.arguments[0]);
   context.results.row(cell_row(context, counter, at, values));
@@ -187,7 +192,7 @@ void counter_write(Context &context, const Invocation &invocation) {
   values.packets = options.number("packets", ~uint64_t{0});
   values.bytes = options.number("bytes", ~uint64_t{0});
   Call call = context.device.prepare("counter_write", counter.name);
-  call.set(cell, uint64_t{options.handle(context, cell)}).set("values", &values);
+  call.set(cell, uint64_t{cell_word(context, counter, options)}).set("values", &values);
   check(call.run(), invocation.arguments[0]);
   Row row;
   context.results.done(row.object("counter", counter.name), "written");

@@ -83,7 +83,7 @@ FieldValue parse_prefix(const Field &field, Word text, size_t slash) {
   const bool is_short = field.notation == Notation::ipv4 && !has(text.text, '.');
   const auto meant =
       is_short ? parse_ipv4(completed_ipv4(text.text.substr(0, slash))) : std::nullopt;
-  throw Fault(text, "the address has bits behind its prefix",
+  throw Fault(text, meant ? "the address is not whole" : "the address has bits behind its prefix",
               format_value(field, {(meant ? *meant : value) & parsed.mask, parsed.mask}));
 }
 
@@ -131,12 +131,13 @@ FieldValue parse_value(const Field &field, Word text) {
   return {value, field.match == Match::ternary ? key_bits(field) : low_ones(field.width)};
 }
 
-uint64_t parse_limited(Word text, uint64_t limit, const std::string &what) {
+uint64_t parse_limited(Word text, uint64_t limit, const std::string &what, uint64_t least) {
   if (text.text.empty()) throw Fault(text, what + " needs a value");
   const auto number = parse_number(text.text);
   if (!number) throw_not_a(text, "a number");
-  if (number->high == 0 && number->low <= limit) return number->low;
-  throw Fault(text, fmt::format("{} is at most {}", what, limit));
+  if (number->high == 0 && number->low <= limit && number->low >= least) return number->low;
+  throw Fault(text, least == 0 ? fmt::format("{} is at most {}", what, limit)
+                               : fmt::format("{} is {} to {}", what, least, limit));
 }
 
 std::string format_value(const Field &field, const FieldValue &value) {

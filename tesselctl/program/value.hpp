@@ -30,8 +30,8 @@ struct FieldValue {
 // that its mask or prefix leaves out. A plain value may have bits beyond those of the key.
 FieldValue parse_value(const Field &field, Word text);
 
-// A number from 0 to limit; what says whose it is in the message.
-uint64_t parse_limited(Word text, uint64_t limit, const std::string &what);
+// A number from least to limit; what says whose it is in the message.
+uint64_t parse_limited(Word text, uint64_t limit, const std::string &what, uint64_t least = 0);
 
 // The shortest text that parse_value reads as the same.
 std::string format_value(const Field &field, const FieldValue &value);

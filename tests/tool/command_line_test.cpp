@@ -65,7 +65,7 @@ TEST_F(CommandLineTest, RefusesWhatItDoesNotKnowAndChangesNothing) {
       {"add --sort x nextHop nextHop=9", "'--sort': add does not take this option"},
       {"--foo count", "'--foo': no option has this name"},
       {"-x count", "'-x': no option has this name"},
-      {"--pipes 9 count", "'9': the number of pipes is at most 8"},
+      {"--pipes 9 count", "'9': the number of pipes is 1 to 8"},
       {"count --device", "'--device': --device needs N"},
       {"--no-color=1 count", "--no-color takes no value"},
       {"--verbose --count", "'--count': "},
