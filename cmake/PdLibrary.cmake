@@ -8,22 +8,43 @@
 # The library compiles against the header p4_pd_<program>.h in HEADER_DIR, which pdgen writes with
 # --header (scripts/generate). With GENERATE_HEADER the header is made in the build folder instead.
 
-# The units into which pdgen splits the wrappers, as families/*.family name them.
-set(PD_UNITS frame table entry_1 entry_2 default read_back idle indirect profile meter
-  placement counter register hash digest value_set snapshot schema value print label compare
-  render)
+# The files that pdgen writes, as the outputs name them: "% file NAME" or, one for each unit of
+# wrappers, "% file NAME_<unit>.cpp for each unit". A family says "unit NAME: ..." or, in N parts,
+# "unit NAME in N: ...".
+file(GLOB pd_families CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/families/*.family)
+file(GLOB pd_outputs CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/families/*.output)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${pd_families} ${pd_outputs})
+set(PD_UNITS "")
+foreach(family ${pd_families})
+  file(STRINGS ${family} unit REGEX "^unit ")
+  if(unit MATCHES "^unit ([a-z_]+) in ([0-9]+):")
+    foreach(part RANGE 1 ${CMAKE_MATCH_2})
+      list(APPEND PD_UNITS ${CMAKE_MATCH_1}_${part})
+    endforeach()
+  elseif(unit MATCHES "^unit ([a-z_]+):")
+    list(APPEND PD_UNITS ${CMAKE_MATCH_1})
+  endif()
+endforeach()
+set(PD_GENERATED "")
+foreach(output ${pd_outputs})
+  file(STRINGS ${output} line REGEX "^% file ")
+  if(line MATCHES "^% file ([a-z_]+)_<unit>.cpp for each unit")
+    foreach(unit ${PD_UNITS})
+      list(APPEND PD_GENERATED ${CMAKE_MATCH_1}_${unit}.cpp)
+    endforeach()
+  elseif(line MATCHES "^% file ([a-z_.]+)$")
+    list(APPEND PD_GENERATED ${CMAKE_MATCH_1})
+  endif()
+endforeach()
 
 function(pd_add_library program)
   cmake_parse_arguments(arg "GENERATE_HEADER" "CATALOGUE;HEADER_DIR;VERSION;SONAME" "" ${ARGN})
   set(dir ${CMAKE_CURRENT_BINARY_DIR}/generated/${program})
-  set(wrappers program_data.cpp)
-  set(tables export_index.cpp)
-  foreach(unit ${PD_UNITS})
-    list(APPEND wrappers wrappers_${unit}.cpp)
-    list(APPEND tables export_table_${unit}.cpp)
-  endforeach()
-  list(TRANSFORM wrappers PREPEND ${dir}/)
-  list(TRANSFORM tables PREPEND ${dir}/)
+  list(TRANSFORM PD_GENERATED PREPEND ${dir}/ OUTPUT_VARIABLE generated)
+  set(wrappers ${generated})
+  list(FILTER wrappers INCLUDE REGEX "/(wrappers_[a-z_0-9]+|program_data)\\.cpp$")
+  set(tables ${generated})
+  list(FILTER tables INCLUDE REGEX "/export_(table_[a-z_0-9]+|index)\\.cpp$")
   set(header_option "")
   if(arg_GENERATE_HEADER)
     set(arg_HEADER_DIR ${dir})
@@ -36,9 +57,7 @@ function(pd_add_library program)
   file(GLOB catalogue CONFIGURE_DEPENDS ${arg_CATALOGUE}/*.toml)
   add_custom_command(
     OUTPUT ${dir}/stamp
-    BYPRODUCTS ${wrappers} ${tables} ${dir}/soft_program.cpp ${dir}/descriptors.hpp ${dir}/limits.hpp ${dir}/object_names.hpp
-      ${dir}/records.hpp ${dir}/texts.hpp ${dir}/schemas.hpp ${dir}/labels.hpp ${dir}/renders.hpp
-      ${dir}/exports.map ${dir}/layout_test.c
+    BYPRODUCTS ${generated}
     COMMAND ${generator} --catalogue ${arg_CATALOGUE} --build ${dir} --soname ${arg_SONAME} ${header_option}
     COMMAND ${CMAKE_COMMAND} -E touch ${dir}/stamp
     DEPENDS ${generator} ${catalogue}

@@ -67,6 +67,7 @@ struct Param {
   unsigned storage_bytes = 0;  // of the record field: 1, 2 or 4
   unsigned bytes = 0;          // of its slot in the action data: the width in whole bytes
   unsigned offset = 0;         // of its slot in the action data
+  unsigned record_offset = 0;  // of the record field
   Hint hint = Hint::kNone;
   std::vector<Ref<Resource>> index_of;  // the resources whose cell it names, in look-up order
 
@@ -124,6 +125,7 @@ struct RecordField {
   Hint hint = Hint::kNone;     // none for companions
   unsigned width = 0;          // bits of the value: the field's; 16 for a prefix length
   unsigned storage_bytes = 0;  // the field's; 2 for a prefix length
+  unsigned record_offset = 0;
 };
 
 enum class ResourceTag {
@@ -150,6 +152,7 @@ struct ResourceItem {
   const Resource *resource = nullptr;
   const Param *index = nullptr;  // of the pair's action; null: cell 0
   ResourceTag tag = ResourceTag::kAttach;
+  unsigned operations = 0;  // those that send it: a bit each, by Operation
 };
 
 // An action that a table accepts.
@@ -160,6 +163,7 @@ struct Pair {
   bool in_entries = false;   // false only in tables without a key
   bool as_default = false;   // may be the default action
   std::array<std::vector<ResourceItem>, kOperationCount> items;  // by Operation, in list order
+  std::vector<ResourceItem> all_items;  // of all operations, a resource once
 
   const std::vector<ResourceItem> &sent_in(Operation operation) const {
     return items[static_cast<std::size_t>(operation)];
@@ -189,6 +193,7 @@ struct Table {
   bool idle_time = false;
   Ref<Profile> profile;     // set: entries point at members and groups, and pairs is empty
   std::vector<Pair> pairs;  // as the catalogue orders them
+  const Table *first_of_key = nullptr;  // the first table whose key has the same schema
   std::vector<ResourceRow> resources;
 
   bool keyed() const { return kind != TableKind::kKeyless; }
@@ -326,6 +331,49 @@ struct Routes {
   std::vector<Ref<Table>> tables;
 };
 
+// --- Handles --------------------------------------------------------------------------------
+
+struct Handle {
+  std::uint32_t handle = 0;
+  std::string object;  // "table fdb", "selector of profile ecmp"
+};
+
+// --- Records as tools see them --------------------------------------------------------------
+
+struct ToolMember {
+  std::string name;
+  RecordRole role = RecordRole::kValue;
+  std::string offset;  // an expression of C
+  unsigned storage = 0;
+  unsigned width = 0;
+  bool is_bytes = false;  // in network order
+};
+
+struct ToolField {
+  std::string label;  // short, unique in its record
+  std::string name;   // of the member, or what two halves share
+  std::string notation;
+  Match match = Match::kExact;
+  unsigned width = 0;
+  std::array<std::uint8_t, 16> key_bits{};
+  std::vector<std::size_t> parts;  // members: one, or the upper and the lower half of an address
+  std::vector<std::string> cells;  // counters and meters whose cell the value names
+};
+
+struct ToolRecord {
+  std::string name;
+  std::string number;
+  std::string size;  // an expression of C
+  std::vector<ToolMember> members;
+  std::vector<ToolField> fields;  // those that are shown, then the halves that pairs stand for
+  std::size_t shown = 0;
+};
+
+struct ToolRecords {
+  std::string name;  // what they are records of
+  std::vector<ToolRecord> records;
+};
+
 // --- The program ----------------------------------------------------------------------------
 
 struct Program {
@@ -345,6 +393,8 @@ struct Program {
   std::vector<Label> labels;
   FieldFacts field_facts;
   std::optional<Routes> routes;
+  std::vector<Handle> handles;  // ascending
+  std::vector<ToolRecords> tool_records;
 
   Program() = default;
   Program(Program &&) = default;
@@ -352,6 +402,9 @@ struct Program {
   Program(const Program &) = delete;
   Program &operator=(const Program &) = delete;
 };
+
+// The lowest `width` bits, width 1 to 32.
+inline std::uint32_t low_bits(unsigned width) { return 0xffffffffU >> (32 - width); }
 
 // The row of that name in one of the lists above, null if there is none.
 template <typename Row>

@@ -4,6 +4,9 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdlib>
+
+#include "pdgen/text.hpp"
 
 namespace pdgen {
 
@@ -53,10 +56,7 @@ std::string snapshot_capture_type(const Program &program) {
 
 std::string type_tag(const std::string &type) { return type.substr(0, type.size() - 2); }
 std::string size_constant(const Program &program, std::string_view family) {
-  std::string name = fmt::format("{}{}", name_prefix(program), family);
-  std::transform(name.begin(), name.end(), name.begin(),
-                 [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-  return name;
+  return in_capitals(fmt::format("{}{}", name_prefix(program), family));
 }
 
 std::string param_member(const Param &param) { return "action_" + param.name; }
@@ -168,6 +168,16 @@ std::string mask_cli_name(std::string_view cli_name) { return fmt::format("{}Mas
 
 std::string prefix_length_cli_name(std::string_view cli_name) {
   return fmt::format("{}PrefixLength", cli_name);
+}
+
+CapturedPart captured_part(const Snapshots &snapshots, std::string_view name) {
+  const std::size_t end = name.find_last_not_of("0123456789");
+  if (end == name.npos || name[end] != '_' || end + 1 == name.size()) return {};
+  if (find_row(snapshots.capture, name) != nullptr) return {};
+  const std::string_view digits = name.substr(end + 1);
+  if (digits.size() > 4 || (digits.size() > 1 && digits[0] == '0')) return {};
+  return {find_row(snapshots.capture, name.substr(0, end)),
+          static_cast<unsigned>(std::atoi(digits.data()))};
 }
 
 // --- All of them ----------------------------------------------------------------------------

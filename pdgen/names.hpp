@@ -66,6 +66,14 @@ const FieldHint *hint_of(std::string_view field, unsigned width, const FieldFact
 std::string mask_cli_name(std::string_view cli_name);           // <name>Mask
 std::string prefix_length_cli_name(std::string_view cli_name);  // <name>PrefixLength
 
+// A part of a captured field that is too long for a layout: <field>_<number>, numbered from the
+// most significant. No whole if the name is none of a part.
+struct CapturedPart {
+  const SnapshotField *whole = nullptr;
+  unsigned number = 0;
+};
+CapturedPart captured_part(const Snapshots &snapshots, std::string_view name);
+
 // --- All of them ----------------------------------------------------------------------------
 
 // A C name of the program's header and the row that it is made from.

@@ -8,49 +8,33 @@
 
 namespace pdgen {
 
-std::string expand(std::string_view pattern, const std::vector<std::string> &arguments) {
-  std::string out;
-  out.reserve(pattern.size() + 64);
-  for (std::size_t i = 0; i < pattern.size(); ++i) {
-    if (pattern[i] != '$' || i + 1 == pattern.size()) {
-      out += pattern[i];
-      continue;
-    }
-    const char selector = pattern[++i];
-    if (selector == '$') {
-      out += '$';
-    } else {
-      out += arguments.at(static_cast<std::size_t>(selector - '0'));
-    }
-  }
-  return out;
-}
-
 std::string hex32(std::uint32_t value) { return fmt::format("0x{:08x}", value); }
 
 std::string join(const std::vector<std::string> &parts, std::string_view separator) {
   return fmt::format("{}", fmt::join(parts, separator));
 }
 
-std::string wrap(std::string_view text, std::size_t width, std::string_view indent) {
+std::string fill(const std::vector<std::string> &words, std::size_t width, std::string_view indent,
+                 std::size_t column) {
   std::string out;
-  std::size_t column = 0;
-  bool at_start = true;
-  while (!text.empty()) {
-    const std::size_t end = std::min(text.find(' '), text.size());
-    if (!at_start && column + 1 + end > width) {
-      out += '\n';
-      out += indent;
+  for (const std::string &word : words) {
+    const std::size_t blank = out.empty() ? 0 : 1;
+    if (column > 0 && column + blank + word.size() > width) {
+      out += fmt::format("\n{}", indent);
       column = indent.size();
-    } else if (!at_start) {
+    } else if (blank != 0) {
       out += ' ';
       ++column;
     }
-    out += text.substr(0, end);
-    column += end;
-    at_start = false;
-    text.remove_prefix(std::min(end + 1, text.size()));
+    out += word;
+    column += word.size();
   }
+  return out;
+}
+
+std::string in_capitals(std::string_view text) {
+  std::string out(text);
+  for (char &c : out) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
   return out;
 }
 
@@ -68,15 +52,6 @@ std::string c_literal(std::string_view text) {
     }
   }
   return out + '"';
-}
-
-std::string comment(std::string_view text) {
-  std::string out = "/* ";
-  for (const char c : text) {
-    out += c;
-    if (c == '\n') out += " * ";
-  }
-  return out + " */\n";
 }
 
 void OutputFiles::add(std::filesystem::path path, std::string contents) {

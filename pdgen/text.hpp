@@ -9,23 +9,20 @@
 
 namespace pdgen {
 
-// Replaces $0 to $9 by the arguments and $$ by a dollar sign.
-std::string expand(std::string_view pattern, const std::vector<std::string> &arguments);
-
 // "0x" and eight digits.
 std::string hex32(std::uint32_t value);
 
 std::string join(const std::vector<std::string> &parts, std::string_view separator);
 
-// Breaks text at blanks into lines of at most width columns; every line but the first starts with
-// the indent.
-std::string wrap(std::string_view text, std::size_t width, std::string_view indent);
+// The words with blanks between them, in lines of at most width columns. The first line starts in
+// that column, every other one with the indent.
+std::string fill(const std::vector<std::string> &words, std::size_t width, std::string_view indent,
+                 std::size_t column = 0);
+
+std::string in_capitals(std::string_view text);
 
 // A string literal of C with that contents.
 std::string c_literal(std::string_view text);
-
-// A C block comment of the text's lines.
-std::string comment(std::string_view text);
 
 // Files of one run. A file is written only if its contents change, so that nothing is rebuilt
 // without need.

@@ -1,33 +1,43 @@
-// The families applied to a program: every function with its parameters and statement.
+// The families applied to a program: every function with its parameters and statement, and what the
+// outputs make of them.
 #include "pdgen/families/api.hpp"
 
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <map>
 
 #include "pdgen/families/lines.hpp"
 #include "pdgen/families/scope.hpp"
 #include "pdgen/names.hpp"
-#include "pdgen/text.hpp"
 
 namespace pdgen {
 
 namespace {
 
-std::string filled_in(const Kinds &kinds, std::string_view text, const Scope &scope) {
-  std::string out;
-  std::size_t done = 0;
-  for (const std::string_view name : placeholders(text)) {
-    const auto open = static_cast<std::size_t>(name.data() - text.data()) - 1;
-    out.append(text.substr(done, open - done));
-    out += find_placeholder(kinds, name)->text(scope);
-    done = open + name.size() + 2;
-  }
-  return out.append(text.substr(done));
+// Lines of a comment begin like its first one.
+void repeat_margin(std::string &out, std::size_t at, const std::string &margin) {
+  while ((at = out.find('\n', at)) != std::string::npos) out.insert(++at, margin);
 }
 
-bool holds(const Kinds &kinds, const Where &where, const Scope &scope) {
-  return where.name.empty() || find_condition(kinds, where.name)->holds(scope) != where.negated;
+void append(std::string &out, const StatedText &text, const Scope &scope) {
+  for (const StatedText::Piece &piece : text.pieces) {
+    out += piece.before;
+    if (!piece.placeholder) continue;
+    const std::size_t at = out.size();
+    out += piece.placeholder(scope);
+    if (piece.begins_comment) repeat_margin(out, at, piece.before);
+  }
+}
+
+std::string filled_in(const StatedText &text, const Scope &scope) {
+  std::string out;
+  append(out, text, scope);
+  return out;
+}
+
+bool holds(const Where &where, const Scope &scope) {
+  return where.name.empty() || where.holds(scope) != where.negated;
 }
 
 // Drops the items of lists that are marked with a parameter that is missing, and all marks.
@@ -62,41 +72,48 @@ std::string without_missing(std::string_view statement, const std::vector<Parame
   return out;
 }
 
-// The objects that a block is for, and the kinds in reach there.
-std::vector<Scope> objects_of(const Block &block, const Scope &outer, Kinds &kinds) {
-  if (block.walk.empty()) return {outer};
-  const Walk &walk = *find_walk(kinds, block.walk);
-  kinds.insert(kinds.end(), walk.kinds.begin(), walk.kinds.end());
-  return walk.objects(outer);
+std::vector<Scope> objects_of(const Block &block, const Scope &outer) {
+  if (block.objects == nullptr) return {outer};
+  return block.objects->objects(outer);
 }
 
-void append_text(std::string &out, Kinds kinds, const Block &block, const Scope &outer) {
-  for (const Scope &scope : objects_of(block, outer, kinds)) {
-    if (!holds(kinds, block.where, scope)) continue;
-    for (const auto &item : block.items) {
-      if (const auto *text = std::get_if<StatedText>(&item)) {
-        out += filled_in(kinds, text->text, scope);
-      } else if (const auto *inner = std::get_if<Block>(&item)) {
-        append_text(out, kinds, *inner, scope);
-      }
+void append(std::string &out, const Block &block, const Scope &outer);
+
+void append_items(std::string &out, const Block &block, const Scope &scope) {
+  for (const auto &item : block.items) {
+    if (const auto *text = std::get_if<StatedText>(&item)) {
+      append(out, *text, scope);
+    } else if (const auto *inner = std::get_if<Block>(&item)) {
+      append(out, *inner, scope);
     }
+  }
+}
+
+void append(std::string &out, const Block &block, const Scope &outer) {
+  bool first = true;
+  for (const Scope &scope : objects_of(block, outer)) {
+    if (!holds(block.where, scope)) continue;
+    if (!first) out += block.separator;
+    first = false;
+    append_items(out, block, scope);
   }
 }
 
 class Builder {
  public:
-  Builder(Api &api, const Program &program) : api_(api) { program_.program = &program; }
+  explicit Builder(Api &api) : api_(api), program_(api) {}
 
   void add(const Family &family) {
-    for (const StatedText &note : family.notes) {
-      if (!holds(kProgram, note.where, program_)) continue;
-      api_.add_note(note.title, filled_in(kProgram, note.text, program_));
+    for (const StatedNote &note : family.notes) {
+      if (!holds(note.where, program_)) continue;
+      api_.notes.push_back({filled_in(note.title, program_), filled_in(note.text, program_)});
     }
     for (unsigned part = 0; part < family.parts; ++part) {
       const std::string number = family.parts == 1 ? "" : fmt::format("_{}", part + 1);
-      api_.begin_unit(family.unit + number, family.includes);
+      api_.units.push_back({family.unit + number, family.includes, {}, {}});
+      lists_.clear();
       for (const Block &block : family.blocks) {
-        add(kProgram, block, program_, block.group, {part, family.parts});
+        add(block, program_, block.group, {part, family.parts});
       }
     }
   }
@@ -108,109 +125,115 @@ class Builder {
     std::size_t parts = 1;
   };
 
-  void add(Kinds kinds, const Block &block, const Scope &outer, const std::string &group,
-           Share share) {
-    const std::vector<Scope> scopes = objects_of(block, outer, kinds);
+  void add(const Block &block, const Scope &outer, const std::string &group, Share share) {
+    const std::vector<Scope> scopes = objects_of(block, outer);
     const std::size_t end = scopes.size() * (share.part + 1) / share.parts;
     for (std::size_t i = scopes.size() * share.part / share.parts; i < end; ++i) {
       const Scope &scope = scopes[i];
-      if (!holds(kinds, block.where, scope)) continue;
+      if (!holds(block.where, scope)) continue;
       const std::string title = group.empty() ? scope.group() : group;
       for (const auto &item : block.items) {
         if (const auto *function = std::get_if<StatedFunction>(&item)) {
-          if (holds(kinds, function->where, scope)) add(kinds, *function, scope, title);
-        } else if (const auto *text = std::get_if<StatedText>(&item)) {
-          api_.declare(title, filled_in(kinds, text->text, scope));
+          if (holds(function->where, scope)) add(*function, scope, title);
+        } else if (const auto &inner = std::get<Block>(item); inner.declares) {
+          std::string &text = group_of(title).declarations;
+          if (!text.empty()) text += '\n';
+          append_items(text, inner, scope);
         } else {
-          add(kinds, std::get<Block>(item), scope, group, {});
+          add(inner, scope, group, {});
         }
       }
     }
   }
 
-  void add(const Kinds &kinds, const StatedFunction &stated, const Scope &scope,
-           const std::string &group) {
-    Function function;
-    function.name = name_prefix(*scope.program) + filled_in(kinds, stated.name, scope);
+  void add(const StatedFunction &stated, const Scope &scope, const std::string &group) {
+    Function &function = api_.functions.emplace_back();
+    function.name = name_prefix(api_.program) + filled_in(stated.name, scope);
     function.result = stated.result;
     for (const StatedParameter &parameter : stated.parameters) {
-      if (!holds(kinds, parameter.where, scope)) continue;
-      function.parameters.push_back({filled_in(kinds, parameter.type, scope), parameter.name});
+      if (!holds(parameter.where, scope)) continue;
+      function.parameters.push_back({filled_in(parameter.type, scope), parameter.name});
     }
-    if (!stated.statement.empty()) {
-      const std::string statement = without_missing(stated.statement, function.parameters);
-      function.statement = "return " + filled_in(kinds, statement, scope);
+    if (!stated.statement.text.empty()) {
+      function.statement =
+          "return " + without_missing(filled_in(stated.statement, scope), function.parameters);
     }
     function.family = stated.family;
     function.object = scope.object();
-    const bool of_object = scope.table != nullptr || scope.profile != nullptr;
-    if (of_object && scope.action != nullptr) function.action = scope.action->name;
-    api_.add(group, std::move(function));
+    const bool of_object = scope.find<Table>() != nullptr || scope.find<Profile>() != nullptr;
+    const Action *action = scope.find<Action>();
+    if (of_object && action != nullptr) function.action = action->name;
+    function.list = list_of(function.parameters);
+    group_of(group).functions.push_back(&function);
+    api_.units.back().functions.push_back(&function);
   }
 
-  static inline const Kinds kProgram = {"program"};
+  // The group of that title, made at the end if there is none.
+  Group &group_of(const std::string &title) {
+    const auto found = std::find_if(api_.groups.begin(), api_.groups.end(),
+                                    [&](const Group &group) { return group.title == title; });
+    return found != api_.groups.end() ? *found : api_.groups.emplace_back(Group{title, {}, {}});
+  }
+
+  std::string list_of(const std::vector<Parameter> &parameters) {
+    std::string key;
+    for (const Parameter &parameter : parameters) key += parameter.type + parameter.name + ", ";
+    const auto [list, added] = lists_.try_emplace(key, fmt::format("list_{}", lists_.size()));
+    if (parameters.empty()) return "nullptr";
+    if (added) api_.units.back().lists.push_back({list->second, parameters});
+    return list->second;
+  }
+
   Api &api_;
   Scope program_;
+  std::map<std::string, std::string> lists_;  // of the unit, by their parameters
 };
+
+Families compiled_in() {
+  Diagnostics diagnostics;
+  return load_families(embedded_families(), diagnostics);
+}
 
 }  // namespace
 
-Group &Api::group(const std::string &title) {
-  const auto found = std::find_if(groups_.begin(), groups_.end(),
-                                  [&](const Group &group) { return group.title == title; });
-  if (found != groups_.end()) return *found;
-  groups_.push_back({title, {}, {}});
-  return groups_.back();
-}
-
-void Api::declare(const std::string &title, const std::string &declarations) {
-  std::string &text = group(title).declarations;
-  if (!text.empty()) text += '\n';
-  text += declarations;
-}
-
-void Api::add(const std::string &title, Function function) {
-  Group &home = group(title);
-  home.functions.push_back(std::move(function));
-  order_.push_back({units_.size() - 1, static_cast<std::size_t>(&home - groups_.data()),
-                    home.functions.size() - 1});
-}
-
-std::vector<const Function *> Api::functions_of(const Unit &unit) const {
-  const auto wanted = static_cast<std::size_t>(&unit - units_.data());
-  std::vector<const Function *> found;
-  for (const Address &address : order_) {
-    if (address.unit == wanted) found.push_back(&groups_[address.group].functions[address.index]);
-  }
-  return found;
-}
-
-std::vector<const Function *> Api::functions() const {
-  std::vector<const Function *> all;
-  for (const Address &address : order_) {
-    all.push_back(&groups_[address.group].functions[address.index]);
-  }
-  return all;
-}
-
 Api build_api(const Program &program, const Families &families) {
   Api api(program);
-  Builder builder(api, program);
+  Builder builder(api);
   for (const Family &family : families.families) builder.add(family);
+  api.exports = {"bf_drv_hdl", action_name_strings(program)};
+  for (const Function &function : api.functions) api.exports.push_back(function.name);
+  std::sort(api.exports.begin(), api.exports.end());
   return api;
 }
 
-std::string fill_in(const Family &output, const Program &program) {
-  Scope scope;
-  scope.program = &program;
-  std::string text;
-  for (const Block &block : output.blocks) append_text(text, {"program"}, block, scope);
-  return text;
+Api build_api(const Program &program) { return build_api(program, compiled_in()); }
+
+std::string declaration(const Function &function, std::size_t width) {
+  const auto typed = [](const std::string &type, const std::string &name) {
+    return type + (type.back() == '*' ? "" : " ") + name;
+  };
+  std::vector<std::string> parameters;
+  for (const Parameter &parameter : function.parameters) {
+    parameters.push_back(typed(parameter.type, parameter.name) + ",");
+  }
+  if (parameters.empty()) parameters.push_back("void,");
+  parameters.back().back() = ')';
+  const std::string head = typed(function.result, function.name) + "(";
+  return head + fill(parameters, width, "    ", head.size());
 }
 
-Api build_api(const Program &program) {
-  Diagnostics diagnostics;
-  return build_api(program, load_families(embedded_families(), diagnostics));
+std::vector<CatalogueFile> written(const Output &output, const Api &api) {
+  std::vector<CatalogueFile> files;
+  for (const Scope &scope : objects_of(output.block, Scope(api))) {
+    files.push_back({filled_in(output.file, scope), ""});
+    append_items(files.back().text, output.block, scope);
+  }
+  return files;
+}
+
+std::string written(std::string_view output, const Api &api) {
+  const Families families = compiled_in();
+  return written(*find_row(families.outputs, output), api).front().text;
 }
 
 }  // namespace pdgen

@@ -1,13 +1,15 @@
 // The exported interface as data: every function with its parameters and the one statement of its
-// wrapper. The families fill it (families.hpp); the emit_*.cpp files print it as header, export
-// list, wrappers and call table, so a function is stated once.
+// wrapper. The families fill it (families.hpp); the outputs print it as header, export list,
+// wrappers and call table, so a function is stated once.
 #pragma once
 
+#include <deque>
 #include <string>
 #include <vector>
 
 #include "pdgen/families/families.hpp"
 #include "pdgen/model.hpp"
+#include "pdgen/text.hpp"
 
 namespace pdgen {
 
@@ -25,73 +27,61 @@ struct Function {
   std::string family;     // the operation, the same for all objects that have it
   std::string object;     // the table, profile, action ... that it belongs to; empty if none
   std::string action;     // of an operation with an action
+  std::string list;       // the parameter list of its unit; empty without parameters
 };
 
 // Functions that stand together in the header, behind the declarations that they need.
 struct Group {
   std::string title;
   std::string declarations;  // C text: records and enumerations
-  std::vector<Function> functions;
+  std::vector<const Function *> functions;
 };
 
 // What all functions of a family have in common, said once in the header.
-struct FamilyNote {
+struct Note {
   std::string title;
   std::string text;
+};
+
+// Parameters that several functions of a unit share.
+struct ParameterList {
+  std::string name;
+  std::vector<Parameter> parameters;
 };
 
 // The wrappers are compiled in several units; each holds whole families.
 struct Unit {
   std::string name;
   std::vector<std::string> includes;
+  std::vector<const Function *> functions;
+  std::vector<ParameterList> lists;
 };
 
-class Api {
- public:
-  explicit Api(const Program &program) : program_(program) {}
+// Can be moved, not copied.
+struct Api {
+  explicit Api(const Program &of) : program(of) {}
+  Api(Api &&) = default;
+  Api(const Api &) = delete;
 
-  const Program &program() const { return program_; }
-
-  void add_note(std::string title, std::string text) {
-    notes_.push_back({std::move(title), std::move(text)});
-  }
-  // Opens a unit: functions added from here on belong to it.
-  void begin_unit(std::string name, std::vector<std::string> includes) {
-    units_.push_back({std::move(name), std::move(includes)});
-  }
-  // The group of that title is made at the end if there is none; a blank line separates
-  // declarations.
-  void declare(const std::string &group, const std::string &declarations);
-  void add(const std::string &group, Function function);
-
-  const std::vector<FamilyNote> &notes() const { return notes_; }
-  const std::vector<Group> &groups() const { return groups_; }
-  const std::vector<Unit> &units() const { return units_; }
-  // The functions of a unit, in the order in which they were added.
-  std::vector<const Function *> functions_of(const Unit &unit) const;
-  std::vector<const Function *> functions() const;
-
- private:
-  struct Address {
-    std::size_t unit;
-    std::size_t group;
-    std::size_t index;
-  };
-
-  Group &group(const std::string &title);
-
-  const Program &program_;
-  std::vector<FamilyNote> notes_;
-  std::vector<Group> groups_;
-  std::vector<Unit> units_;
-  std::vector<Address> order_;
+  const Program &program;
+  unsigned long soname = 1;  // version of the shared object
+  std::deque<Function> functions;
+  std::vector<Note> notes;
+  std::vector<Group> groups;
+  std::vector<Unit> units;
+  std::vector<std::string> exports;  // sorted
 };
 
 // The whole interface. The families have no fault; without them, those that were compiled in.
 Api build_api(const Program &program, const Families &families);
 Api build_api(const Program &program);
 
-// The text of an output.
-std::string fill_in(const Family &output, const Program &program);
+// The C declaration of a function, without its semicolon, in lines of so many columns.
+std::string declaration(const Function &function, std::size_t width = std::string::npos);
+
+// What an output makes of the interface: name and text of each file.
+std::vector<CatalogueFile> written(const Output &output, const Api &api);
+// The text of an output of one file that was compiled in.
+std::string written(std::string_view output, const Api &api);
 
 }  // namespace pdgen

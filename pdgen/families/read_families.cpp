@@ -22,22 +22,6 @@ using DeclaredParameters = std::map<std::string, DeclaredParameter, std::less<>>
 
 bool is_word(char c) { return kWordCharacters.find(c) != std::string_view::npos; }
 
-// Cuts off what follows the last " <keyword> " outside of parentheses.
-std::string cut_tail(std::string &text, std::string_view keyword) {
-  const std::string mark = fmt::format(" {} ", keyword);
-  const std::size_t at = text.rfind(mark);
-  const std::size_t close = text.rfind(')');
-  if (at == std::string::npos || (close != std::string::npos && at < close)) return {};
-  std::string tail = text.substr(at + mark.size());
-  text.erase(at);
-  return tail;
-}
-
-Where where_of(std::string text) {
-  const bool negated = text.starts_with("not ");
-  return {negated ? text.substr(4) : text, negated};
-}
-
 class FamilyReader {
  public:
   FamilyReader(const CatalogueFile &file, const DeclaredParameters &declared,
@@ -67,7 +51,7 @@ class FamilyReader {
  private:
   void read_note(std::string title, const Place &place, Family &family) {
     const Where where = where_of(cut_tail(title, "where"));
-    family.notes.push_back({place, title, lines_.joined(2), where});
+    family.notes.push_back({{place, title}, {place, lines_.joined(2)}, where});
   }
 
   void read_unit(const std::string &text, const Place &place, Family &family) {
@@ -94,7 +78,9 @@ class FamilyReader {
     while (const TextLine *line = lines_.next(indent)) {
       const Place at = lines_.place(*line);
       if (line->text == "declare") {
-        block.items.emplace_back(StatedText{at, "", lines_.verbatim(indent + 2), {}});
+        block.items.emplace_back(
+            read_template(lines_.verbatim(indent + 2), at, nullptr, diagnostics_));
+        std::get<Block>(block.items.back()).declares = true;
       } else if (line->text.starts_with("each ")) {
         block.items.emplace_back(read_block(line->text, at, indent + 2));
       } else {
@@ -121,14 +107,14 @@ class FamilyReader {
            (is_word(head[name - 1]) || head[name - 1] == '<' || head[name - 1] == '>')) {
       --name;
     }
-    function.name = head.substr(name, open - name);
+    function.name = {place, head.substr(name, open - name)};
     function.result = head.substr(0, head.find_last_not_of(' ', name - 1) + 1);
     if (function.result == "status") function.result = "p4_pd_status_t";
-    if (function.family.empty()) function.family = family_of(function.name);
+    if (function.family.empty()) function.family = family_of(function.name.text);
     for (const std::string &item : list_items(head.substr(open + 1, head.size() - open - 2))) {
       function.parameters.push_back(read_parameter(item, place));
     }
-    function.statement = lines_.joined(indent + 2);
+    function.statement = {place, lines_.joined(indent + 2)};
     return function;
   }
 
@@ -160,14 +146,14 @@ class FamilyReader {
     if (!exact) found = declared_.find(word);
     if (found == declared_.end()) {
       report(place, "function", fmt::format("{} is no parameter that is declared", item));
-      return {"int", word, {}};
+      return {{place, "int"}, word, {}};
     }
     if (optional && found->second.where.name.empty()) {
       report(place, "function", fmt::format("{} has no condition, so it is never left out", item));
     }
     const std::string star =
         pointer && !exact ? (found->second.type.ends_with("*") ? "*" : " *") : "";
-    return {found->second.type + star, word, optional ? found->second.where : Where{}};
+    return {{place, found->second.type + star}, word, optional ? found->second.where : Where{}};
   }
 
   // "const char *label"
@@ -179,7 +165,7 @@ class FamilyReader {
     }
     std::string type = item.substr(0, name);
     if (type.ends_with(" ")) type.pop_back();
-    return {type, item.substr(name), {}};
+    return {{place, type}, item.substr(name), {}};
   }
 
   void report(const Place &place, std::string_view key, std::string message) const {
@@ -189,70 +175,6 @@ class FamilyReader {
   TextLines lines_;
   const DeclaredParameters &declared_;
   Diagnostics &diagnostics_;
-};
-
-// A file of text: "% each KIND", "% when CONDITION" and "% end" stand on lines of their own.
-class OutputReader {
- public:
-  OutputReader(const CatalogueFile &file, Diagnostics &diagnostics)
-      : file_(file), diagnostics_(diagnostics) {}
-
-  Family read() {
-    std::istringstream lines(file_.text);
-    blocks_.emplace_back();
-    for (std::string line; std::getline(lines, line);) {
-      ++place_.line;
-      if (line.starts_with("% ")) {
-        read_order(line.substr(2));
-      } else if (!line.starts_with("%#")) {
-        add_text(line + "\n");
-      }
-    }
-    if (blocks_.size() > 1) report("a block has no end");
-    if (output_.unit.empty()) report("this file names no file");
-    while (blocks_.size() > 1) close();
-    output_.blocks.push_back(std::move(blocks_.back()));
-    return std::move(output_);
-  }
-
- private:
-  void read_order(std::string order) {
-    if (order.starts_with("file ")) {
-      output_.unit = order.substr(5);
-    } else if (order == "end" && blocks_.size() > 1) {
-      close();
-    } else if (order.starts_with("each ") || order.starts_with("when ")) {
-      Block block;
-      block.place = place_;
-      block.where = where_of(order[0] == 'w' ? order.substr(5) : cut_tail(order, "where"));
-      if (order[0] == 'e') block.walk = order.substr(5);
-      blocks_.push_back(std::move(block));
-    } else {
-      report(fmt::format("\"{}\" is no file, each, when or end of one", order));
-    }
-  }
-
-  void add_text(const std::string &line) {
-    auto &items = blocks_.back().items;
-    if (items.empty() || !std::holds_alternative<StatedText>(items.back())) {
-      items.emplace_back(StatedText{place_, "", "", {}});
-    }
-    std::get<StatedText>(items.back()).text += line;
-  }
-
-  void close() {
-    Block inner = std::move(blocks_.back());
-    blocks_.pop_back();
-    blocks_.back().items.emplace_back(std::move(inner));
-  }
-
-  void report(std::string message) { diagnostics_.report(place_, "output", std::move(message)); }
-
-  const CatalogueFile &file_;
-  Diagnostics &diagnostics_;
-  Place place_ = {file_.path, 0};
-  Family output_;
-  std::vector<Block> blocks_;  // those that are open
 };
 
 // interface.family: the parameters, and the names of the other files in order.
@@ -299,6 +221,21 @@ const CatalogueFile *find_file(const std::vector<CatalogueFile> &files, const st
 
 }  // namespace
 
+std::string cut_tail(std::string &text, std::string_view keyword) {
+  const std::string mark = fmt::format(" {} ", keyword);
+  const std::size_t at = text.rfind(mark);
+  const std::size_t close = text.rfind(')');
+  if (at == std::string::npos || (close != std::string::npos && at < close)) return {};
+  std::string tail = text.substr(at + mark.size());
+  text.erase(at);
+  return tail;
+}
+
+Where where_of(std::string text) {
+  const bool negated = text.starts_with("not ");
+  return {negated ? text.substr(4) : text, negated};
+}
+
 Families load_families(const std::vector<CatalogueFile> &files, Diagnostics &diagnostics) {
   Families families;
   const CatalogueFile *interface = find_file(files, "interface.family");
@@ -314,12 +251,14 @@ Families load_families(const std::vector<CatalogueFile> &files, Diagnostics &dia
       continue;
     }
     if (name.ends_with(".output")) {
-      families.outputs.push_back(OutputReader(*file, diagnostics).read());
+      Output output{name.substr(0, name.find('.')), {}, {}};
+      output.block = read_template(file->text, {file->path, 0}, &output, diagnostics);
+      families.outputs.push_back(std::move(output));
     } else {
       families.families.push_back(FamilyReader(*file, index.parameters, diagnostics).read());
     }
   }
-  check_families(families, diagnostics);
+  bind_families(families, diagnostics);
   return families;
 }
 

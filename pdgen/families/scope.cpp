@@ -5,9 +5,7 @@
 
 #include <algorithm>
 
-#include "pdgen/names.hpp"
-#include "pdgen/text.hpp"
-#include "pdgen/texts/texts.hpp"
+#include "pdgen/families/members.hpp"
 
 namespace pdgen {
 
@@ -15,107 +13,149 @@ namespace {
 
 using S = const Scope &;
 
-// --- Walks ----------------------------------------------------------------------------------
+// Those of `scopes` that the condition holds for.
+template <typename Condition>
+std::vector<Scope> only(std::vector<Scope> scopes, Condition holds) {
+  std::erase_if(scopes, [&](S scope) { return !holds(scope); });
+  return scopes;
+}
 
+template <auto Member>
+std::vector<Scope> sorted_by(std::vector<Scope> scopes) {
+  std::sort(scopes.begin(), scopes.end(),
+            [](S a, S b) { return value_of<Member>(a) < value_of<Member>(b); });
+  return scopes;
+}
+
+// The rows that references lead to, of a list of them or of rows with one reference each.
 template <typename Row>
-std::vector<Scope> each(S scope, const std::vector<Row> &rows, const Row *Scope::*slot) {
-  std::vector<Scope> scopes(rows.size(), scope);
-  for (std::size_t i = 0; i < rows.size(); ++i) scopes[i].*slot = &rows[i];
+std::vector<Scope> each_target(S scope, const std::vector<Ref<Row>> &references) {
+  std::vector<Scope> scopes(references.size(), scope);
+  for (std::size_t i = 0; i < scopes.size(); ++i) scopes[i].set(*references[i]);
+  return scopes;
+}
+template <auto Rows, auto Reference>
+std::vector<Scope> each_with(S scope) {
+  std::vector<Scope> scopes = each<Rows>(scope);
+  for (Scope &row : scopes) row.set(*value_of<Reference>(row));
   return scopes;
 }
 
-std::vector<Scope> each_pair(S scope) {
-  std::vector<Scope> scopes = each(scope, scope.table->pairs, &Scope::pair);
-  for (Scope &pair : scopes) pair.action = pair.pair->action.target;
-  return scopes;
+template <auto Member>
+std::vector<Scope> of_snapshots(S scope) {
+  const auto &snapshots = scope.get<Program>().snapshots;
+  return snapshots ? each_row(scope, (*snapshots).*Member) : std::vector<Scope>{};
 }
 
-std::vector<Scope> each_default(S scope) {
-  std::vector<Scope> scopes = each_pair(scope);
-  std::erase_if(scopes, [](S pair) { return !pair.pair->as_default; });
-  return scopes;
-}
-
-std::vector<Scope> each_member(S scope) {
-  std::vector<Scope> scopes = each(scope, scope.profile->actions, &Scope::member);
-  for (Scope &member : scopes) member.action = member.member->action.target;
-  return scopes;
-}
-
-std::vector<Scope> each_captured_field(S scope) {
-  if (!scope.program->snapshots) return {};
-  return each(scope, scope.program->snapshots->capture, &Scope::packet_field);
-}
-
-std::vector<Scope> each_label(S scope) {
-  std::vector<Scope> scopes;
-  for (const Label &label : scope.program->labels) {
-    scopes.push_back(scope);
-    scopes.back().table = label.table.target;
+// Ingress and egress; a direction without a layout has no fields.
+std::vector<Scope> each_direction(S scope) {
+  static const std::vector<SnapshotLayout> kEmpty = {{"ingress", {}, {}, 0}, {"egress", {}, {}, 0}};
+  std::vector<Scope> directions = each_row(scope, kEmpty);
+  for (Scope &direction : directions) {
+    for (S layout : of_snapshots<&Snapshots::layouts>(scope)) {
+      const auto &row = layout.get<SnapshotLayout>();
+      if (row.name == direction.get<SnapshotLayout>().name) direction.set(row);
+    }
   }
-  return scopes;
+  return directions;
 }
 
-std::vector<Scope> each_layout(S scope) {
-  if (!scope.program->snapshots) return {};
-  return each(scope, scope.program->snapshots->layouts, &Scope::layout);
+std::vector<Scope> each_route_table(S scope) {
+  const auto &routes = scope.get<Program>().routes;
+  return routes ? each_target(scope, routes->tables) : std::vector<Scope>{};
 }
 
-template <auto Rows, auto Slot>
-std::vector<Scope> of_program(S scope) {
-  return each(scope, scope.program->*Rows, Slot);
-}
-
-std::vector<Scope> tables_by_handle(S scope) {
-  std::vector<Scope> scopes = each(scope, scope.program->tables, &Scope::table);
-  std::sort(scopes.begin(), scopes.end(),
-            [](S a, S b) { return a.table->handle < b.table->handle; });
-  return scopes;
-}
-
-std::vector<Scope> profiles_by_handle(S scope) {
-  std::vector<Scope> scopes = each(scope, scope.program->profiles, &Scope::profile);
-  std::sort(scopes.begin(), scopes.end(),
-            [](S a, S b) { return a.profile->action_data_handle < b.profile->action_data_handle; });
-  return scopes;
-}
-
-std::vector<Scope> each_digest_field(S scope) {
-  return each(scope, scope.digest->fields, &Scope::digest_field);
-}
-
-std::vector<Scope> each_packet_field(S scope) {
-  return each(scope, scope.layout->fields, &Scope::packet_field);
-}
+constexpr auto each_pair = each_with<&Table::pairs, &Pair::action>;
+constexpr auto each_label = each_with<&Program::labels, &Label::table>;
 
 const Walk kWalks[] = {
-    {"program", "table", {"table"}, of_program<&Program::tables, &Scope::table>},
-    {"program", "action", {"action"}, of_program<&Program::actions, &Scope::action>},
-    {"program", "profile", {"profile"}, of_program<&Program::profiles, &Scope::profile>},
+    {"program", "table", {"table"}, each<&Program::tables>},
+    {"program", "action", {"action"}, each<&Program::actions>},
+    {"program", "profile", {"profile"}, each<&Program::profiles>},
+    {"program", "counter", {"resource", "counter"}, each<&Program::counters>},
+    {"program", "meter", {"resource", "meter"}, each<&Program::meters>},
+    {"program", "register", {"resource", "register"}, each<&Program::registers>},
+    {"program", "hash", {"hash"}, each<&Program::hashes>},
+    {"program", "digest", {"digest"}, each<&Program::digests>},
+    {"program", "value_set", {"value_set"}, each<&Program::value_sets>},
+    {"program", "label", {"table", "label"}, each_label},
+    {"program", "layout", {"layout"}, of_snapshots<&Snapshots::layouts>},
+    {"program", "captured_field", {"packet_field"}, of_snapshots<&Snapshots::capture>},
+    {"program", "handle", {"handle"}, each<&Program::handles>},
+    {"program", "direction", {"layout"}, each_direction},
+    {"program", "route_table", {"table"}, each_route_table},
+    {"program", "record_list", {"record_list"}, each<&Program::tool_records>},
     {"program",
-     "counter",
-     {"resource", "counter"},
-     of_program<&Program::counters, &Scope::resource>},
-    {"program", "meter", {"resource", "meter"}, of_program<&Program::meters, &Scope::resource>},
+     "table_by_handle",
+     {"table"},
+     [](S s) { return sorted_by<&Table::handle>(each<&Program::tables>(s)); }},
     {"program",
-     "register",
-     {"resource", "register"},
-     of_program<&Program::registers, &Scope::resource>},
-    {"program", "hash", {"hash"}, of_program<&Program::hashes, &Scope::hash>},
-    {"program", "digest", {"digest"}, of_program<&Program::digests, &Scope::digest>},
-    {"program", "value_set", {"value_set"}, of_program<&Program::value_sets, &Scope::value_set>},
-    {"program", "label", {"table"}, each_label},
-    {"program", "layout", {"layout"}, each_layout},
+     "profile_by_handle",
+     {"profile"},
+     [](S s) { return sorted_by<&Profile::action_data_handle>(each<&Program::profiles>(s)); }},
+    {"program",
+     "label_by_handle",
+     {"table"},
+     [](S s) { return sorted_by<&Table::handle>(each_label(s)); }},
+    {"program",
+     "spec",
+     {"action"},
+     [](S s) {
+       return only(each<&Program::actions>(s), [](S a) { return a.get<Action>().has_params(); });
+     }},
     {"table", "pair", {"action", "pair"}, each_pair},
-    {"table", "default", {"action", "default"}, each_default},
-    {"table", "field", {"field"}, [](S s) { return each(s, s.table->key, &Scope::field); }},
-    {"profile", "member", {"action", "member"}, each_member},
-    {"action", "param", {"param"}, [](S s) { return each(s, s.action->params, &Scope::param); }},
-    {"digest", "digest_field", {"digest_field"}, each_digest_field},
-    {"layout", "packet_field", {"packet_field"}, each_packet_field},
-    {"program", "captured_field", {"packet_field"}, each_captured_field},
-    {"program", "table_by_handle", {"table"}, tables_by_handle},
-    {"program", "profile_by_handle", {"profile"}, profiles_by_handle},
+    {"table",
+     "default",
+     {"action", "default"},
+     [](S s) { return only(each_pair(s), [](S pair) { return pair.get<Pair>().as_default; }); }},
+    {"table", "field", {"field"}, each<&Table::key>},
+    {"table", "record_field", {"record_field"}, each<&Table::record>},
+    {"table",
+     "wide_field",
+     {"record_field"},
+     [](S s) {
+       return only(each<&Table::record>(s),
+                   [](S field) { return field.get<RecordField>().storage_bytes == 16; });
+     }},
+    {"pair", "item", {"resource", "item"}, each_with<&Pair::all_items, &ResourceItem::resource>},
+    {"profile",
+     "member",
+     {"action", "member"},
+     each_with<&Profile::actions, &ProfileAction::action>},
+    {"action", "param", {"param"}, each<&Action::params>},
+    {"param", "cell", {"resource"}, [](S s) { return each_target(s, s.get<Param>().index_of); }},
+    {"digest", "digest_field", {"digest_field"}, each<&Digest::fields>},
+    {"layout", "packet_field", {"packet_field"}, each<&SnapshotLayout::fields>},
+    {"layout",
+     "swapped_field",
+     {"packet_field"},
+     [](S s) {
+       return only(each<&SnapshotLayout::fields>(s),
+                   [](S field) { return field.get<SnapshotField>().bytes > 1; });
+     }},
+    {"label",
+     "item",
+     {"label_item"},
+     [](S s) {
+       return only(each<&Label::items>(s),
+                   [](S item) { return item.get<LabelItem>().kind != LabelKind::kSilent; });
+     }},
+    {"label_item", "text", {"label_text"}, each<&LabelItem::texts>},
+    {"record_list", "record", {"record"}, each<&ToolRecords::records>},
+    {"record", "member", {"tool_member"}, each<&ToolRecord::members>},
+    {"record", "tool_field", {"tool_field"}, each<&ToolRecord::fields>},
+    {"tool_field", "part", {"part"}, each<&ToolField::parts>},
+    {"tool_field", "cell", {"cell"}, each<&ToolField::cells>},
+    {"program", "note", {"note"}, each<&Api::notes>},
+    {"program", "group", {"group"}, each<&Api::groups>},
+    {"program", "unit", {"unit"}, each<&Api::units>},
+    {"program", "export", {"export"}, each<&Api::exports>},
+    {"group", "function", {"function"}, each<&Group::functions>},
+    {"unit", "function", {"function"}, each<&Unit::functions>},
+    {"unit", "include", {"include"}, each<&Unit::includes>},
+    {"unit", "parameter_list", {"parameter_list"}, each<&Unit::lists>},
+    {"parameter_list", "parameter", {"parameter"}, each<&ParameterList::parameters>},
+    {"function", "parameter", {"parameter"}, each<&Function::parameters>},
 };
 
 const char *kind_text(TableKind kind) {
@@ -131,6 +171,13 @@ std::string table_group(const Table &table) {
   return title;
 }
 
+template <typename Row, typename... Rest>
+std::string first_name(S scope) {
+  if (const Row *row = scope.find<Row>()) return row->name;
+  if constexpr (sizeof...(Rest) > 0) return first_name<Rest...>(scope);
+  return "";
+}
+
 }  // namespace
 
 const Walk *find_walk(const Kinds &kinds, std::string_view name) {
@@ -143,22 +190,16 @@ const Walk *find_walk(const Kinds &kinds, std::string_view name) {
 }
 
 std::string Scope::object() const {
-  if (table != nullptr) return table->name;
-  if (profile != nullptr) return profile->name;
-  if (action != nullptr) return action->name;
-  if (resource != nullptr) return resource->name;
-  if (hash != nullptr) return hash->name;
-  if (digest != nullptr) return digest->name;
-  return value_set != nullptr ? value_set->name : "";
+  return first_name<Table, Profile, Action, Resource, Hash, Digest, ValueSet>(*this);
 }
 
 std::string Scope::group() const {
-  if (table != nullptr) return table_group(*table);
-  if (profile != nullptr) {
+  if (const Table *table = find<Table>()) return table_group(*table);
+  if (const Profile *profile = find<Profile>()) {
     return fmt::format("Profile {} (action data {}, selector {})", profile->name,
                        hex32(profile->action_data_handle), hex32(profile->selector_handle));
   }
-  return action != nullptr ? "Actions" : "";
+  return find<Action>() != nullptr ? "Actions" : "";
 }
 
 }  // namespace pdgen

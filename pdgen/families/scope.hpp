@@ -1,53 +1,55 @@
-// What the families can say of a program: the kinds of objects that they walk, and what words in
-// angle brackets and conditions mean for an object (vocabulary.cpp).
+// What the families can say of a program: the kinds of objects that they walk (scope.cpp), and what
+// words in angle brackets and conditions mean for an object (vocabulary.cpp).
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
+#include "pdgen/families/api.hpp"
 #include "pdgen/model.hpp"
 
 namespace pdgen {
 
 // The object of each enclosing "each"; null where there is none.
-struct Scope {
-  const Program *program = nullptr;
-  const Table *table = nullptr;
-  const Pair *pair = nullptr;
-  const KeyField *field = nullptr;
-  const Action *action = nullptr;
-  const Profile *profile = nullptr;
-  const Resource *resource = nullptr;
-  const Hash *hash = nullptr;
-  const Digest *digest = nullptr;
-  const ValueSet *value_set = nullptr;
-  const SnapshotLayout *layout = nullptr;
-  const Param *param = nullptr;
-  const ProfileAction *member = nullptr;
-  const DigestField *digest_field = nullptr;
-  const SnapshotField *packet_field = nullptr;
+class Scope {
+ public:
+  explicit Scope(const Api &api) { set(api), set(api.program); }
+
+  template <typename Row>
+  void set(const Row &row) {
+    std::get<const Row *>(objects_) = &row;
+  }
+  template <typename Row>
+  const Row *find() const {
+    return std::get<const Row *>(objects_);
+  }
+  template <typename Row>
+  const Row &get() const {
+    return *find<Row>();
+  }
 
   // The object that its functions belong to, "" for the program.
   std::string object() const;
   // Their group in the header, "" where the families must say it.
   std::string group() const;
+
+ private:
+  std::tuple<const Program *, const Table *, const Pair *, const KeyField *, const RecordField *,
+             const ResourceItem *, const Action *, const Param *, const Profile *,
+             const ProfileAction *, const Resource *, const Hash *, const Digest *,
+             const DigestField *, const ValueSet *, const SnapshotLayout *, const SnapshotField *,
+             const Handle *, const Label *, const LabelItem *, const LabelText *, const ToolRecords *,
+             const ToolRecord *, const ToolMember *, const ToolField *, const Api *, const Note *,
+             const Group *, const Unit *, const ParameterList *, const Parameter *,
+             const Function *, const std::string *, const std::size_t *>
+      objects_;
 };
 
 // The kinds that are in reach, outermost first. A name is looked up from the last one on.
 using Kinds = std::vector<std::string_view>;
-
-struct Placeholder {
-  std::string_view kind;
-  std::string_view name;
-  std::string (*text)(const Scope &scope);
-};
-
-struct Condition {
-  std::string_view kind;
-  std::string_view name;
-  bool (*holds)(const Scope &scope);
-};
 
 // "each NAME" within an object of that kind: the objects, and the kinds that come into reach.
 struct Walk {
@@ -57,25 +59,12 @@ struct Walk {
   std::vector<Scope> (*objects)(const Scope &scope);
 };
 
-// Null if there is none in reach.
-const Placeholder *find_placeholder(const Kinds &kinds, std::string_view name);
-const Condition *find_condition(const Kinds &kinds, std::string_view name);
+// Null if there is none in reach. Besides what the vocabulary lists, <KIND_count> is how many
+// objects "each KIND" has, "any KIND" whether there are any, and a condition in angle brackets is
+// true or false.
 const Walk *find_walk(const Kinds &kinds, std::string_view name);
-
-std::string bit_count(unsigned width);  // "1 bit", "9 bits"
-
-// The members of C records, one a line.
-std::string match_spec_members(const Table &table);
-std::string action_spec_members(const Action &action);
-std::string trigger_members(const Snapshots &snapshots, const SnapshotLayout &layout);
-std::string capture_members(const Snapshots &snapshots);
-
-// Rows and arrays of descriptors that are more than a row for each object.
-std::size_t resource_count(const Pair &pair);
-std::string resource_rows(const Pair &pair);
-std::string compared_bytes(const Table &table);
-std::string trigger_layouts(const Program &program);
-// Where a field of a packet lies in a capture.
-std::string captured_at(const Snapshots &snapshots, const SnapshotField &field);
+std::function<std::string(const Scope &)> find_placeholder(const Kinds &kinds,
+                                                           std::string_view name);
+std::function<bool(const Scope &)> find_condition(const Kinds &kinds, std::string_view name);
 
 }  // namespace pdgen

@@ -3,9 +3,9 @@
 
 #include <algorithm>
 
-#include "pdgen/families/scope.hpp"
+#include "pdgen/families/lines.hpp"
+#include "pdgen/families/members.hpp"
 #include "pdgen/names.hpp"
-#include "pdgen/text.hpp"
 #include "pdgen/texts/texts.hpp"
 
 namespace pdgen {
@@ -13,248 +13,447 @@ namespace pdgen {
 namespace {
 
 using S = const Scope &;
+using Text = std::string;
 
 // --- Placeholders ---------------------------------------------------------------------------
 
-std::string number(std::size_t value) { return std::to_string(value); }
-std::string word(const char *text) { return text; }
+constexpr const char *kKinds[] = {"keyless", "exact", "ternary", "lpm"};
+constexpr const char *kMatches[] = {"EXACT", "TERNARY", "LPM"};
+constexpr const char *kUnits[] = {"bytes", "packets"};
+constexpr const char *kRoles[] = {"value", "mask", "prefix_length"};
+constexpr const char *kTags[] = {"attach", "detach", "meter_spec"};
+constexpr const char *kLabelKinds[] = {"flag", "number", "exact", "silent",
+                                       "mac",  "v4addr", "v6addr"};
 
-const std::string kKinds[] = {"keyless", "exact", "ternary", "lpm"};
-const std::string kMatches[] = {"EXACT", "TERNARY", "LPM"};
-
-// A table without a key counts as exact.
-std::size_t soft_match(const Table &table) {
-  return table.keyed() ? static_cast<std::size_t>(table.kind) - 1 : 0;
+template <auto Member, const auto &Names, int Shift = 0>
+Text one_of(S scope) {
+  return Names[static_cast<int>(value_of<Member>(scope)) + Shift];
 }
 
-std::size_t index_of(const Program &program, const Profile &profile) {
-  return static_cast<std::size_t>(&profile - program.profiles.data());
+// The type of an unsigned integer and its storage: uint<storage_bits>_t.
+template <auto Bytes>
+Text bits_of(S scope) {
+  return text_of(8 * value_of<Bytes>(scope));
 }
 
-std::string profile_index(const Program &program, const Table &table) {
-  return table.profile ? number(index_of(program, *table.profile)) : "-1";
+template <auto Rows>
+std::size_t index_of(S scope, const auto &row) {
+  return static_cast<std::size_t>(&row - value_of<Rows>(scope).data());
 }
 
-bool is_partial(const Table &table) {
-  return std::any_of(table.key.begin(), table.key.end(),
-                     [](const KeyField &field) { return field.partial; });
+template <auto Rows, auto Size>
+Text greatest(S scope, unsigned least) {
+  for (const auto &row : value_of<Rows>(scope)) least = std::max(least, row.*Size);
+  return text_of(least);
 }
 
-std::string companion(const KeyField &field) {
+template <auto Size>
+Text longest(S scope) {
+  return text_of(text_sizes(scope.get<Program>()).*Size);
+}
+
+const Snapshots &snapshots(S scope) { return *scope.get<Program>().snapshots; }
+
+Text origin(S s) {
+  return fmt::format(
+      "Made by pdgen from the catalogue of {}. Edit the catalogue and run\n"
+      "scripts/generate, not this file.",
+      s.get<Program>().name);
+}
+
+// The type that the header declares, without its ending.
+template <auto TypeName, typename... Rows>
+Text tag(S scope) {
+  return type_tag(TypeName(scope.get<Program>(), scope.get<Rows>()...));
+}
+
+Text profile_index(S s) {
+  const Ref<Profile> &profile = s.get<Table>().profile;
+  return profile ? text_of(index_of<&Program::profiles>(s, *profile)) : "-1";
+}
+
+bool is_partial(S s) {
+  const std::vector<KeyField> &key = s.get<Table>().key;
+  return std::any_of(key.begin(), key.end(), [](const KeyField &field) { return field.partial; });
+}
+
+bool is_keyed(S s) { return s.get<Table>().keyed(); }
+
+Text companion(const KeyField &field) {
   if (field.match == Match::kTernary) return mask_member(field.name);
   return field.match == Match::kLpm ? prefix_length_member(field.name) : field.name;
 }
 
-std::string cells(const Param &param) {
-  std::vector<std::string> handles;
-  for (const Ref<Resource> &resource : param.index_of) handles.push_back(hex32(resource->handle));
-  return join(handles, ", ");
-}
-
-std::string action_texts(const Profile &profile) {
-  std::vector<std::string> names;
-  for (const ProfileAction &row : profile.actions) {
-    names.push_back("text::action::" + row.action.name);
+// Whether each byte of a key is compared.
+Text compared_bytes(S s) {
+  std::vector<unsigned> bytes(s.get<Table>().key_bytes, 0);
+  for (const KeyField &field : s.get<Table>().key) {
+    for (unsigned i = 0; i < field.bytes; ++i) {
+      const unsigned below = 8 * (field.bytes - 1 - i);
+      bytes[field.offset + i] =
+          field.wide() ? field.wide_key_bits[i] : (field.key_bits >> below & 0xff);
+    }
   }
-  return join(names, ", ");
+  return fmt::format("{:#04x}", fmt::join(bytes, ", "));
 }
 
-// The array of a direction's fields and their number.
-std::string layout_fields(const Program &program, const std::string &direction) {
-  const SnapshotLayout *layout =
-      program.snapshots ? find_row(program.snapshots->layouts, direction) : nullptr;
-  if (layout == nullptr) return "{nullptr, 0}";
-  return fmt::format("{{snapshot_{}, {}}}", direction, layout->fields.size());
+// Where a field of a packet lies in a capture: under its own name or, a part of a longer field,
+// among the bytes of that one.
+Text captured_at(S s) {
+  const SnapshotField &field = s.get<SnapshotField>();
+  const SnapshotField *captured = find_row(snapshots(s).capture, field.name);
+  if (captured != nullptr && captured->bytes == field.bytes) return text_of(captured->offset);
+  const CapturedPart part = captured_part(snapshots(s), field.name);
+  const unsigned at = part.number * field.bytes;
+  if (part.whole == nullptr || at + field.bytes > part.whole->bytes) return "SOFT_NOT_CAPTURED";
+  return text_of(part.whole->offset + at);
 }
 
-std::string table_handle(S s) { return hex32(s.resource->table->handle); }
+// What the fields leave over of a record.
+unsigned padding(S s, const std::vector<SnapshotField> &fields) {
+  return snapshots(s).record_bytes - fields.back().offset - fields.back().bytes;
+}
 
-std::string action_values(const Program &program) {
-  std::vector<std::string> rows;
-  for (const Action &action : program.actions) {
-    rows.push_back(fmt::format("  {} = {}", action_constant(program, action), action.value));
+Text bit_count(unsigned width) { return fmt::format("{} bit{}", width, width == 1 ? "" : "s"); }
+
+// What stands behind a member in the header.
+Text field_remark(S s) {
+  const RecordField &field = s.get<RecordField>();
+  const KeyField &key = s.get<Table>().key[field.key_index];
+  if (field.role == RecordRole::kMask) return "set bits take part";
+  if (field.role == RecordRole::kPrefixLength) return fmt::format("0 to {}", key.width);
+  if (!key.partial) return bit_count(key.width);
+  return bit_count(key.width) + ", key bits " +
+         (key.wide() ? fmt::format("0x{:02x}", fmt::join(key.wide_key_bits, ""))
+                     : fmt::format("{:#x}", key.key_bits));
+}
+
+Text param_remark(S s) {
+  const Param &param = s.get<Param>();
+  std::string remark = bit_count(param.width);
+  const char *before = ", cell of ";
+  for (const Ref<Resource> &resource : param.index_of) {
+    remark += before + resource.name;
+    before = " and ";
   }
-  return join(rows, ",\n");
+  if (param.hint == Hint::kMac) remark += ", half of a MAC address";
+  if (param.hint == Hint::kV4Addr) remark += ", IPv4 address";
+  return remark;
 }
 
-std::string spec_members(const Program &program) {
-  std::vector<std::string> rows;
-  for (const Action &action : program.actions) {
-    if (!action.has_params()) continue;
-    rows.push_back(fmt::format("    {} {};", action_spec_type(program, action), action.name));
+// A literal of several lines, split behind each newline.
+Text quoted_lines(const std::string &text) {
+  std::string out;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t end = std::min(text.find('\n', at), text.size() - 1) + 1;
+    out += "\n      " + c_literal(std::string_view(text).substr(at, end - at));
+    at = end;
   }
-  if (rows.empty()) rows.push_back("    uint32_t none;");
-  return join(rows, "\n");
+  return out;
 }
 
-template <auto Size>
-std::string greatest(S scope) {
-  return number(text_sizes(*scope.program).*Size);
+Text digits_at(const ValueText &value) {
+  return fmt::format("{}", fmt::join(value.digits_at, ", "));
 }
 
-std::string rate_unit(const Resource &meter) {
-  return meter.unit == MeterUnit::kBytes ? "PIPE_RATE_BYTES" : "PIPE_RATE_PACKETS";
+Text half_of(S s, std::size_t first) {
+  const auto *bits = s.get<ToolField>().key_bits.data() + first;
+  return fmt::format("0x{:02x}", fmt::join(bits, bits + 8, ""));
 }
 
-std::string meter_spec(const Resource &meter) {
-  return meter.unit == MeterUnit::kBytes ? "p4_pd_bytes_meter_spec" : "p4_pd_packets_meter_spec";
+// --- Labels ---
+
+Text place_in_record(const KeyField &field) {
+  const std::string mask = field.match == Match::kTernary ? mask_member(field.name) : field.name;
+  return fmt::format("{{offsetof(Record, {}), offsetof(Record, {}), {}, {}}}", field.name, mask,
+                     field.storage_bytes, hex32(field.key_bits));
 }
 
-// The smallest integer that holds a cell.
-std::string value_type(const Resource &reg) {
-  return fmt::format("uint{}_t", reg.width <= 8 ? 8 : reg.width);
+bool is_number(const LabelItem &item) {
+  return item.kind == LabelKind::kNumber || item.kind == LabelKind::kExact;
 }
+
+Text label_text(S s) {
+  const LabelItem &item = s.get<LabelItem>();
+  if (item.kind == LabelKind::kFlag) {
+    return c_literal("!" + item.label + std::string(item.after, ' '));
+  }
+  return c_literal(is_number(item) ? item.format + " 0x" : item.label);
+}
+
+// Silent items have no number.
+Text item_number(S s) {
+  const std::vector<LabelItem> &items = s.get<Label>().items;
+  return text_of(static_cast<std::size_t>(
+      std::count_if(items.data(), &s.get<LabelItem>(),
+                    [](const LabelItem &item) { return item.kind != LabelKind::kSilent; })));
+}
+
+// --- The rows ---
+
+struct Placeholder {
+  std::string_view kind;
+  std::string_view name;
+  Text (*text)(S scope);
+};
 
 const Placeholder kPlaceholders[] = {
-    {"program", "program", [](S s) { return s.program->name; }},
-    {"program", "table_count", [](S s) { return number(s.program->tables.size()); }},
-    {"program", "profile_count", [](S s) { return number(s.program->profiles.size()); }},
-    {"program", "counter_count", [](S s) { return number(s.program->counters.size()); }},
-    {"program", "meter_count", [](S s) { return number(s.program->meters.size()); }},
-    {"program", "register_count", [](S s) { return number(s.program->registers.size()); }},
-    {"program", "hash_count", [](S s) { return number(s.program->hashes.size()); }},
-    {"program", "digest_count", [](S s) { return number(s.program->digests.size()); }},
-    {"program", "value_set_count", [](S s) { return number(s.program->value_sets.size()); }},
-    {"program", "trigger_layouts", [](S s) { return trigger_layouts(*s.program); }},
+    {"program", "program", text<&Program::name>},
+    {"program", "PROGRAM", [](S s) { return in_capitals(s.get<Program>().name); }},
+    {"program", "origin", origin},
+    {"program", "soname", text<&Api::soname>},
+    {"program", "action_names", tag<action_names_type>},
+    {"program", "action_name_strings", [](S s) { return action_name_strings(s.get<Program>()); }},
+    {"program", "action_specs", tag<action_specs_type>},
+    {"program", "hash_field_attr", tag<hash_field_attr_type>},
+    {"program", "capture", tag<snapshot_capture_type>},
     {"program", "snapshot_bytes",
-     [](S s) { return number(s.program->snapshots ? s.program->snapshots->record_bytes : 0); }},
-    {"program", "captured_count",
-     [](S s) { return number(s.program->snapshots ? s.program->snapshots->capture.size() : 0); }},
-    {"program", "ingress_fields", [](S s) { return layout_fields(*s.program, "ingress"); }},
-    {"program", "egress_fields", [](S s) { return layout_fields(*s.program, "egress"); }},
-    {"program", "action_names", [](S s) { return type_tag(action_names_type(*s.program)); }},
-    {"program", "action_name_strings", [](S s) { return action_name_strings(*s.program); }},
-    {"program", "action_values", [](S s) { return action_values(*s.program); }},
-    {"program", "action_count", [](S s) { return number(s.program->actions.size()); }},
-    {"program", "action_specs", [](S s) { return type_tag(action_specs_type(*s.program)); }},
-    {"program", "spec_members", [](S s) { return spec_members(*s.program); }},
-    {"program", "hash_field_attr", [](S s) { return type_tag(hash_field_attr_type(*s.program)); }},
-    {"program", "ACTION_COUNT", [](S s) { return size_constant(*s.program, "ACTION_COUNT"); }},
-    {"program", "ACTION_NAME_MAX",
-     [](S s) { return size_constant(*s.program, "ACTION_NAME_MAX"); }},
-    {"program", "SCHEMA_MAX", [](S s) { return size_constant(*s.program, "SCHEMA_MAX"); }},
-    {"program", "MATCH_SPEC_VALUE_MAX",
-     [](S s) { return size_constant(*s.program, "MATCH_SPEC_VALUE_MAX"); }},
-    {"program", "ACTION_VALUE_MAX",
-     [](S s) { return size_constant(*s.program, "ACTION_VALUE_MAX"); }},
-    {"program", "VALUE_MAX", [](S s) { return size_constant(*s.program, "VALUE_MAX"); }},
-    {"program", "LABEL_MAX", [](S s) { return size_constant(*s.program, "LABEL_MAX"); }},
-    {"program", "action_name_size", greatest<&TextSizes::action_name>},
-    {"program", "schema_size", greatest<&TextSizes::schema>},
-    {"program", "match_spec_value_size", greatest<&TextSizes::match_spec_value>},
-    {"program", "action_value_size", greatest<&TextSizes::action_value>},
-    {"program", "value_size", greatest<&TextSizes::value>},
-    {"program", "label_size", greatest<&TextSizes::label>},
-    {"program", "capture", [](S s) { return type_tag(snapshot_capture_type(*s.program)); }},
-    {"program", "capture_limit", [](S s) { return number(s.program->snapshots->capture_limit); }},
-    {"program", "record_bytes", [](S s) { return number(s.program->snapshots->record_bytes); }},
-    {"program", "capture_members", [](S s) { return capture_members(*s.program->snapshots); }},
-    {"table", "table", [](S s) { return s.table->name; }},
-    {"table", "handle", [](S s) { return hex32(s.table->handle); }},
-    {"table", "match_spec", [](S s) { return type_tag(match_spec_type(*s.program, *s.table)); }},
-    {"table", "key_size", [](S s) { return bit_count(s.table->key_bits); }},
-    {"table", "key_bytes", [](S s) { return number(s.table->key_bytes); }},
-    {"table", "members", [](S s) { return match_spec_members(*s.table); }},
-    {"table", "kind", [](S s) { return kKinds[static_cast<std::size_t>(s.table->kind)]; }},
-    {"table", "MATCH", [](S s) { return kMatches[soft_match(*s.table)]; }},
-    {"table", "field_count", [](S s) { return number(s.table->key.size()); }},
-    {"table", "pair_count", [](S s) { return number(s.table->pairs.size()); }},
-    {"table", "profile_index", [](S s) { return profile_index(*s.program, *s.table); }},
-    {"table", "record_size", [](S s) { return word(s.table->keyed() ? "sizeof(Record)" : "0"); }},
-    {"table", "key_bits", [](S s) { return number(s.table->key_bits); }},
-    {"table", "key", [](S s) { return word(s.table->keyed() ? "key" : "nullptr"); }},
-    {"table", "pairs", [](S s) { return word(s.table->indirect() ? "nullptr" : "pairs"); }},
-    {"table", "ageing", [](S s) { return word(s.table->idle_time ? "true" : "false"); }},
+     [](S s) { return text_of(s.get<Program>().snapshots ? snapshots(s).record_bytes : 0); }},
+    {"program", "capture_limit", [](S s) { return text_of(snapshots(s).capture_limit); }},
+    {"program", "padding", [](S s) { return text_of(padding(s, snapshots(s).capture)); }},
+    {"program", "route_action", [](S s) { return s.get<Program>().routes->action.name; }},
+    {"program", "schema_count",
+     [](S s) {
+       return text_of(s.get<Program>().tables.size() + s.get<Program>().profiles.size());
+     }},
+    {"program", "action_name_size", longest<&TextSizes::action_name>},
+    {"program", "schema_size", longest<&TextSizes::schema>},
+    {"program", "match_spec_value_size", longest<&TextSizes::match_spec_value>},
+    {"program", "action_value_size", longest<&TextSizes::action_value>},
+    {"program", "value_size", longest<&TextSizes::value>},
+    {"program", "label_size", longest<&TextSizes::label>},
+    // The pipeline manager may hand back so much action data whatever the program has.
+    {"program", "greatest_action_data",
+     [](S s) { return greatest<&Program::actions, &Action::data_bytes>(s, 28); }},
+    {"program", "greatest_action_spec",
+     [](S s) { return greatest<&Program::actions, &Action::record_bytes>(s, 1); }},
+    {"program", "greatest_match_spec",
+     [](S s) { return greatest<&Program::tables, &Table::record_bytes>(s, 1); }},
+    {"program", "greatest_key",
+     [](S s) { return greatest<&Program::tables, &Table::key_bytes>(s, 1); }},
+    {"program", "at_least_one_profile",
+     [](S s) { return text_of(std::max<std::size_t>(1, s.get<Program>().profiles.size())); }},
+    {"table", "table", text<&Table::name>},
+    {"table", "handle", hex<&Table::handle>},
+    {"table", "match_spec", tag<match_spec_type, Table>},
+    {"table", "key_size", [](S s) { return bit_count(s.get<Table>().key_bits); }},
+    {"table", "key_bits", text<&Table::key_bits>},
+    {"table", "key_bytes", text<&Table::key_bytes>},
+    {"table", "record_bytes", text<&Table::record_bytes>},
+    {"table", "kind", one_of<&Table::kind, kKinds>},
+    // A table without a key counts as exact.
+    {"table", "MATCH",
+     [](S s) { return is_keyed(s) ? one_of<&Table::kind, kMatches, -1>(s) : Text(kMatches[0]); }},
+    {"table", "profile_index", profile_index},
     {"table", "action_data",
      [](S s) {
-       return s.table->profile ? hex32(s.table->profile->action_data_handle) : word("0");
+       const Ref<Profile> &profile = s.get<Table>().profile;
+       return profile ? hex32(profile->action_data_handle) : "0";
      }},
-    {"table", "compared", [](S s) { return compared_bytes(*s.table); }},
-    {"table", "compared_array",
-     [](S s) { return is_partial(*s.table) ? "compared_" + s.table->name : word("nullptr"); }},
-    {"field", "name", [](S s) { return s.field->name; }},
-    {"field", "companion", [](S s) { return companion(*s.field); }},
-    {"field", "offset", [](S s) { return number(s.field->offset); }},
-    {"field", "storage", [](S s) { return number(s.field->storage_bytes); }},
-    {"field", "bytes", [](S s) { return number(s.field->bytes); }},
-    {"field", "match", [](S s) { return kKinds[static_cast<std::size_t>(s.field->match) + 1]; }},
-    {"field", "MATCH", [](S s) { return kMatches[static_cast<std::size_t>(s.field->match)]; }},
-    {"pair", "action_handle", [](S s) { return hex32(s.pair->handle); }},
-    {"pair", "as_default", [](S s) { return word(s.pair->as_default ? "true" : "false"); }},
-    {"pair", "resource_rows", [](S s) { return resource_rows(*s.pair); }},
-    {"pair", "resource_count", [](S s) { return number(resource_count(*s.pair)); }},
-    {"member", "action_handle", [](S s) { return hex32(s.member->handle); }},
-    {"action", "value", [](S s) { return number(s.action->value); }},
-    {"action", "data_bits", [](S s) { return number(s.action->data_bits); }},
-    {"action", "data_bytes", [](S s) { return number(s.action->data_bytes); }},
-    {"action", "param_count", [](S s) { return number(s.action->params.size()); }},
-    {"param", "param", [](S s) { return s.param->name; }},
-    {"param", "offset", [](S s) { return number(s.param->offset); }},
-    {"param", "storage", [](S s) { return number(s.param->storage_bytes); }},
-    {"param", "width", [](S s) { return number(s.param->width); }},
-    {"param", "bytes", [](S s) { return number(s.param->bytes); }},
-    {"param", "cells", [](S s) { return cells(*s.param); }},
-    {"field", "field", [](S s) { return s.field->width_name; }},
-    {"field", "width", [](S s) { return number(s.field->width); }},
-    {"action", "action", [](S s) { return s.action->name; }},
-    {"action", "action_spec",
-     [](S s) { return type_tag(action_spec_type(*s.program, *s.action)); }},
-    {"action", "members", [](S s) { return action_spec_members(*s.action); }},
-    {"profile", "profile", [](S s) { return s.profile->name; }},
-    {"profile", "action_data", [](S s) { return hex32(s.profile->action_data_handle); }},
-    {"profile", "selector", [](S s) { return hex32(s.profile->selector_handle); }},
-    {"profile", "index", [](S s) { return number(index_of(*s.program, *s.profile)); }},
-    {"profile", "action_count", [](S s) { return number(s.profile->actions.size()); }},
-    {"profile", "action_texts", [](S s) { return action_texts(*s.profile); }},
-    {"counter", "counter", [](S s) { return s.resource->name; }},
-    {"meter", "meter", [](S s) { return s.resource->name; }},
-    {"meter", "rate_unit", [](S s) { return rate_unit(*s.resource); }},
-    {"meter", "meter_spec", [](S s) { return meter_spec(*s.resource); }},
-    {"register", "register", [](S s) { return s.resource->name; }},
-    {"register", "width", [](S s) { return number(s.resource->width); }},
-    {"register", "value_type", [](S s) { return value_type(*s.resource); }},
-    {"resource", "handle", [](S s) { return hex32(s.resource->handle); }},
-    {"resource", "table_handle", table_handle},
-    {"resource", "owner", [](S s) { return s.resource->table ? table_handle(s) : word("0"); }},
-    {"hash", "hash", [](S s) { return s.hash->name; }},
-    {"hash", "handle", [](S s) { return hex32(s.hash->handle); }},
-    {"hash", "field_list", [](S s) { return hex32(s.hash->field_list_handle); }},
-    {"hash", "algorithm", [](S s) { return hex32(s.program->hash_algorithm); }},
-    {"hash", "field_count", [](S s) { return number(s.hash->field_count); }},
-    {"digest", "size", [](S s) { return number(s.digest->size); }},
-    {"digest", "field_count", [](S s) { return number(s.digest->fields.size()); }},
-    {"digest_field", "name", [](S s) { return s.digest_field->name; }},
-    {"digest_field", "offset", [](S s) { return number(s.digest_field->offset); }},
-    {"digest_field", "bytes", [](S s) { return number(s.digest_field->bytes); }},
-    {"packet_field", "name", [](S s) { return s.packet_field->name; }},
-    {"packet_field", "offset", [](S s) { return number(s.packet_field->offset); }},
-    {"packet_field", "bytes", [](S s) { return number(s.packet_field->bytes); }},
-    {"packet_field", "captured_at",
-     [](S s) { return captured_at(*s.program->snapshots, *s.packet_field); }},
-    {"digest", "digest", [](S s) { return s.digest->name; }},
-    {"digest", "handle", [](S s) { return hex32(s.digest->handle); }},
-    {"value_set", "value_set", [](S s) { return s.value_set->name; }},
-    {"value_set", "handle", [](S s) { return hex32(s.value_set->handle); }},
-    {"layout", "layout", [](S s) { return s.layout->name; }},
-    {"layout", "trigger",
-     [](S s) { return type_tag(snapshot_trigger_type(*s.program, *s.layout)); }},
-    {"layout", "members", [](S s) { return trigger_members(*s.program->snapshots, *s.layout); }},
+    {"table", "compared", compared_bytes},
+    {"table", "schema", [](S s) { return c_literal(table_schema(s.get<Table>())); }},
+    {"table", "key_schema", [](S s) { return c_literal(match_spec_schema(s.get<Table>())); }},
+    {"table", "first_of_key_name", [](S s) { return s.get<Table>().first_of_key->name; }},
+    {"table", "value_text", [](S s) { return c_literal(match_spec_value(s.get<Table>()).text); }},
+    {"table", "digits_at", [](S s) { return digits_at(match_spec_value(s.get<Table>())); }},
+    {"table", "lines",
+     [](S s) { return quoted_lines(match_spec_lines(s.get<Program>(), s.get<Table>())); }},
+    {"field", "name", text<&KeyField::name>},
+    {"field", "field", text<&KeyField::width_name>},
+    {"field", "companion", [](S s) { return companion(s.get<KeyField>()); }},
+    {"field", "offset", text<&KeyField::offset>},
+    {"field", "storage", text<&KeyField::storage_bytes>},
+    {"field", "width", text<&KeyField::width>},
+    {"field", "bytes", text<&KeyField::bytes>},
+    {"field", "match", one_of<&KeyField::match, kKinds, 1>},
+    {"field", "MATCH", one_of<&KeyField::match, kMatches>},
+    {"record_field", "name", text<&RecordField::name>},
+    {"record_field", "offset", text<&RecordField::record_offset>},
+    {"record_field", "storage", text<&RecordField::storage_bytes>},
+    {"record_field", "storage_bits", bits_of<&RecordField::storage_bytes>},
+    {"record_field", "digits", [](S s) { return text_of(digit_count(s.get<RecordField>().width)); }},
+    {"record_field", "bits",
+     [](S s) { return hex32(member_mask(s.get<Table>(), s.get<RecordField>())); }},
+    {"record_field", "wide_bits",
+     [](S s) {
+       return fmt::format("{:#x}",
+                          fmt::join(member_bits(s.get<Table>(), s.get<RecordField>()), ", "));
+     }},
+    {"record_field", "remark", field_remark},
+    {"pair", "action_handle", hex<&Pair::handle>},
+    {"item", "index", [](S s) { return s.get<ResourceItem>().index->name; }},
+    {"item", "tag", one_of<&ResourceItem::tag, kTags>},
+    {"item", "operations", text<&ResourceItem::operations>},
+    {"member", "action_handle", hex<&ProfileAction::handle>},
+    {"action", "action", text<&Action::name>},
+    {"action", "action_spec", tag<action_spec_type, Action>},
+    {"action", "value", text<&Action::value>},
+    {"action", "data_bits", text<&Action::data_bits>},
+    {"action", "data_bytes", text<&Action::data_bytes>},
+    {"action", "record_bytes", text<&Action::record_bytes>},
+    {"action", "schema", [](S s) { return c_literal(action_schema(s.get<Action>())); }},
+    {"action", "value_text", [](S s) { return c_literal(action_value(s.get<Action>()).text); }},
+    {"action", "digits_at", [](S s) { return digits_at(action_value(s.get<Action>())); }},
+    {"action", "lines", [](S s) { return quoted_lines(action_lines(s.get<Action>())); }},
+    {"param", "param", text<&Param::name>},
+    {"param", "offset", text<&Param::offset>},
+    {"param", "record_offset", text<&Param::record_offset>},
+    {"param", "storage", text<&Param::storage_bytes>},
+    {"param", "storage_bits", bits_of<&Param::storage_bytes>},
+    {"param", "width", text<&Param::width>},
+    {"param", "bytes", text<&Param::bytes>},
+    {"param", "digits", [](S s) { return text_of(digit_count(s.get<Param>().width)); }},
+    {"param", "bits", [](S s) { return hex32(low_bits(s.get<Param>().width)); }},
+    {"param", "remark", param_remark},
+    {"profile", "profile", text<&Profile::name>},
+    {"profile", "action_data", hex<&Profile::action_data_handle>},
+    {"profile", "selector", hex<&Profile::selector_handle>},
+    {"profile", "index",
+     [](S s) { return text_of(index_of<&Program::profiles>(s, s.get<Profile>())); }},
+    {"profile", "schema", [](S s) { return c_literal(profile_schema(s.get<Profile>())); }},
+    {"counter", "counter", text<&Resource::name>},
+    {"meter", "meter", text<&Resource::name>},
+    {"meter", "unit", one_of<&Resource::unit, kUnits>},
+    {"meter", "UNIT", [](S s) { return in_capitals(one_of<&Resource::unit, kUnits>(s)); }},
+    {"register", "register", text<&Resource::name>},
+    {"register", "width", text<&Resource::width>},
+    // The smallest integer that holds a cell.
+    {"register", "value_type",
+     [](S s) { return fmt::format("uint{}_t", std::max(8u, s.get<Resource>().width)); }},
+    {"resource", "handle", hex<&Resource::handle>},
+    {"resource", "table_handle", [](S s) { return hex32(s.get<Resource>().table->handle); }},
+    {"hash", "hash", text<&Hash::name>},
+    {"hash", "handle", hex<&Hash::handle>},
+    {"hash", "field_list", hex<&Hash::field_list_handle>},
+    {"hash", "algorithm", hex<&Program::hash_algorithm>},
+    {"hash", "field_count", text<&Hash::field_count>},
+    {"digest", "digest", text<&Digest::name>},
+    {"digest", "handle", hex<&Digest::handle>},
+    {"digest", "size", text<&Digest::size>},
+    {"digest_field", "name", text<&DigestField::name>},
+    {"digest_field", "offset", text<&DigestField::offset>},
+    {"digest_field", "bytes", text<&DigestField::bytes>},
+    {"value_set", "value_set", text<&ValueSet::name>},
+    {"value_set", "handle", hex<&ValueSet::handle>},
+    {"layout", "layout", text<&SnapshotLayout::name>},
+    {"layout", "trigger", tag<snapshot_trigger_type, SnapshotLayout>},
+    {"layout", "padding", [](S s) { return text_of(padding(s, s.get<SnapshotLayout>().fields)); }},
+    {"packet_field", "name", text<&SnapshotField::name>},
+    {"packet_field", "offset", text<&SnapshotField::offset>},
+    {"packet_field", "bytes", text<&SnapshotField::bytes>},
+    {"packet_field", "storage_bits", bits_of<&SnapshotField::bytes>},
+    {"packet_field", "captured_at", captured_at},
+    {"label_item", "item", item_number},
+    {"label_item", "kind", one_of<&LabelItem::kind, kLabelKinds>},
+    {"label_item", "digits", text<&LabelItem::digits>},
+    {"label_item", "field_place",
+     [](S s) {
+       const LabelItem &item = s.get<LabelItem>();
+       return place_in_record(item.field ? *item.field : *item.oui);
+     }},
+    {"label_item", "station_place",
+     [](S s) { return place_in_record(*s.get<LabelItem>().station); }},
+    {"label_item", "bits",
+     [](S s) {
+       const LabelItem &item = s.get<LabelItem>();
+       return hex32(item.kind == LabelKind::kFlag ? item.bit : item.texts_mask);
+     }},
+    {"label_item", "label_text", label_text},
+    {"label_item", "masked_text",
+     [](S s) { return c_literal(s.get<LabelItem>().format + " & 0x"); }},
+    {"label_text", "value", hex<&LabelText::value>},
+    {"label_text", "literal", [](S s) { return c_literal(s.get<LabelText>().text); }},
+    {"record_list", "list", text<&ToolRecords::name>},
+    {"record", "record", text<&ToolRecord::name>},
+    {"record", "number", text<&ToolRecord::number>},
+    {"record", "size", text<&ToolRecord::size>},
+    {"record", "shown", text<&ToolRecord::shown>},
+    {"tool_member", "name", text<&ToolMember::name>},
+    {"tool_member", "role", one_of<&ToolMember::role, kRoles>},
+    {"tool_member", "offset", text<&ToolMember::offset>},
+    {"tool_member", "storage", text<&ToolMember::storage>},
+    {"tool_member", "width", text<&ToolMember::width>},
+    {"tool_field", "index",
+     [](S s) { return text_of(index_of<&ToolRecord::fields>(s, s.get<ToolField>())); }},
+    {"tool_field", "label", text<&ToolField::label>},
+    {"tool_field", "name", text<&ToolField::name>},
+    {"tool_field", "notation", text<&ToolField::notation>},
+    {"tool_field", "match", one_of<&ToolField::match, kKinds, 1>},
+    {"tool_field", "width", text<&ToolField::width>},
+    {"tool_field", "upper_bits", [](S s) { return half_of(s, 0); }},
+    {"tool_field", "lower_bits", [](S s) { return half_of(s, 8); }},
+    {"part", "part", [](S s) { return text_of(s.get<std::size_t>()); }},
+    {"cell", "cell", [](S s) { return s.get<Text>(); }},
+    {"include", "include", [](S s) { return s.get<Text>(); }},
+    {"export", "export", [](S s) { return s.get<Text>(); }},
+    {"handle", "handle", hex<&Handle::handle>},
+    {"handle", "object", text<&Handle::object>},
+    {"note", "title", text<&Note::title>},
+    {"note", "text", [](S s) { return fill(words(s.get<Note>().text), 95, " *   "); }},
+    {"group", "title", text<&Group::title>},
+    // Without the last newline.
+    {"group", "declarations",
+     [](S s) {
+       const std::string &text = s.get<Group>().declarations;
+       return text.substr(0, text.size() - 1);
+     }},
+    {"unit", "unit", text<&Unit::name>},
+    {"parameter_list", "list", text<&ParameterList::name>},
+    {"parameter", "type", text<&Parameter::type>},
+    {"parameter", "name", text<&Parameter::name>},
+    {"function", "function", text<&Function::name>},
+    {"function", "family", text<&Function::family>},
+    {"function", "object", text<&Function::object>},
+    {"function", "action", text<&Function::action>},
+    {"function", "result", text<&Function::result>},
+    {"function", "list", text<&Function::list>},
+    {"function", "statement", text<&Function::statement>},
+    {"function", "declaration", [](S s) { return declaration(s.get<Function>(), 99); }},
+    {"function", "declaration_line", [](S s) { return declaration(s.get<Function>()); }},
 };
 
 // --- Conditions -----------------------------------------------------------------------------
 
+struct Condition {
+  std::string_view kind;
+  std::string_view name;
+  bool (*holds)(S scope);
+};
+
+template <auto Member>
+bool flag(S scope) {
+  return value_of<Member>(scope);
+}
+
 const Condition kConditions[] = {
-    {"program", "snapshots", [](S s) { return s.program->snapshots.has_value(); }},
-    {"table", "keyed", [](S s) { return s.table->keyed(); }},
-    {"table", "prioritized", [](S s) { return s.table->has_priority(); }},
-    {"table", "ageing", [](S s) { return s.table->idle_time; }},
-    {"table", "indirect", [](S s) { return s.table->indirect(); }},
-    {"table", "partial", [](S s) { return is_partial(*s.table); }},
-    {"action", "parameters", [](S s) { return s.action->has_params(); }},
-    {"pair", "metered", [](S s) { return s.pair->takes_meter_spec(Operation::kAdd); }},
-    {"pair", "resources", [](S s) { return resource_count(*s.pair) != 0; }},
-    {"default", "metered", [](S s) { return s.pair->takes_meter_spec(Operation::kDefault); }},
-    {"resource", "direct", [](S s) { return s.resource->direct(); }},
+    {"program", "snapshots", [](S s) { return s.get<Program>().snapshots.has_value(); }},
+    {"program", "padded", [](S s) { return padding(s, snapshots(s).capture) != 0; }},
+    {"table", "keyed", is_keyed},
+    {"table", "prioritized", [](S s) { return s.get<Table>().has_priority(); }},
+    {"table", "ageing", flag<&Table::idle_time>},
+    {"table", "indirect", [](S s) { return s.get<Table>().indirect(); }},
+    {"table", "partial", is_partial},
+    {"table", "first_of_key", [](S s) { return s.get<Table>().first_of_key == s.find<Table>(); }},
+    {"record_field", "wide", [](S s) { return s.get<RecordField>().storage_bytes == 16; }},
+    {"action", "parameters", [](S s) { return s.get<Action>().has_params(); }},
+    {"pair", "as_default", flag<&Pair::as_default>},
+    {"pair", "metered", [](S s) { return s.get<Pair>().takes_meter_spec(Operation::kAdd); }},
+    {"default", "metered", [](S s) { return s.get<Pair>().takes_meter_spec(Operation::kDefault); }},
+    {"item", "indexed", [](S s) { return s.get<ResourceItem>().index != nullptr; }},
+    {"resource", "direct", [](S s) { return s.get<Resource>().direct(); }},
+    {"layout", "padded", [](S s) { return padding(s, s.get<SnapshotLayout>().fields) != 0; }},
+    {"packet_field", "many", [](S s) { return s.get<SnapshotField>().bytes > 1; }},
+    {"label_item", "number", [](S s) { return s.get<LabelItem>().kind == LabelKind::kNumber; }},
+    {"label_item", "any_number", [](S s) { return is_number(s.get<LabelItem>()); }},
+    {"label_item", "mac", [](S s) { return s.get<LabelItem>().kind == LabelKind::kMac; }},
+    {"label_item", "bits",
+     [](S s) {
+       const LabelItem &item = s.get<LabelItem>();
+       return item.kind == LabelKind::kFlag || !item.texts.empty();
+     }},
+    {"tool_member", "is_bytes", flag<&ToolMember::is_bytes>},
+    {"group", "declarations", [](S s) { return !s.get<Group>().declarations.empty(); }},
+    {"function", "statement", [](S s) { return !s.get<Function>().statement.empty(); }},
 };
 
 // The row of the innermost kind that has the name.
@@ -270,12 +469,27 @@ const Row *find_in_reach(const Row (&rows)[N], const Kinds &kinds, std::string_v
 
 }  // namespace
 
-const Placeholder *find_placeholder(const Kinds &kinds, std::string_view name) {
-  return find_in_reach(kPlaceholders, kinds, name);
+std::function<bool(S)> find_condition(const Kinds &kinds, std::string_view name) {
+  if (const Condition *row = find_in_reach(kConditions, kinds, name)) return row->holds;
+  const Walk *walk = name.starts_with("any ") ? find_walk(kinds, name.substr(4)) : nullptr;
+  if (walk == nullptr) return nullptr;
+  return [walk](S scope) { return !walk->objects(scope).empty(); };
 }
 
-const Condition *find_condition(const Kinds &kinds, std::string_view name) {
-  return find_in_reach(kConditions, kinds, name);
+std::function<Text(S)> find_placeholder(const Kinds &kinds, std::string_view name) {
+  if (const Placeholder *row = find_in_reach(kPlaceholders, kinds, name)) return row->text;
+  if (const auto holds = find_condition(kinds, name)) {
+    return [holds](S scope) { return Text(holds(scope) ? "true" : "false"); };
+  }
+  if (std::find(std::begin(kSizeFamilies), std::end(kSizeFamilies), name) !=
+      std::end(kSizeFamilies)) {
+    return [name = Text(name)](S scope) { return size_constant(scope.get<Program>(), name); };
+  }
+  constexpr std::string_view kCount = "_count";
+  if (!name.ends_with(kCount)) return nullptr;
+  const Walk *walk = find_walk(kinds, name.substr(0, name.size() - kCount.size()));
+  if (walk == nullptr) return nullptr;
+  return [walk](S scope) { return text_of(walk->objects(scope).size()); };
 }
 
 }  // namespace pdgen

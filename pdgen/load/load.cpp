@@ -85,6 +85,7 @@ LoadResult load(const std::vector<CatalogueFile> &files, const std::string &fold
   resolve_references(program, result.diagnostics);
   check_program(program, result.diagnostics);
   if (!result.diagnostics.empty()) return result;
+  program.handles = context.handles.all();
   derive_facts(program);
   result.program = std::move(program);
   return result;

@@ -1,9 +1,11 @@
 // Fills in what follows from the rows: positions, sizes, records, tool names, resource items.
 #include <algorithm>
+#include <map>
 
 #include "pdgen/check/check.hpp"
 #include "pdgen/load/load_sections.hpp"
 #include "pdgen/names.hpp"
+#include "pdgen/texts/texts.hpp"
 
 namespace pdgen {
 
@@ -11,15 +13,16 @@ namespace {
 
 // The size of a C record of members of that storage; 16 bytes are an array, aligned like one byte.
 template <typename Row>
-unsigned record_size(const std::vector<Row> &members) {
+unsigned lay_out(std::vector<Row> &members) {
   unsigned size = 0;
   unsigned largest = 1;
   const auto align = [&](unsigned alignment) {
     size += (alignment - size % alignment) % alignment;
   };
-  for (const Row &member : members) {
+  for (Row &member : members) {
     const unsigned alignment = member.storage_bytes == 16 ? 1 : member.storage_bytes;
     align(alignment);
+    member.record_offset = size;
     size += member.storage_bytes;
     largest = std::max(largest, alignment);
   }
@@ -33,7 +36,7 @@ void place_params(Action &action) {
     action.data_bytes += param.bytes;
     action.data_bits += param.width;
   }
-  action.record_bytes = record_size(action.params);
+  action.record_bytes = lay_out(action.params);
 }
 
 void place_key(Table &table) {
@@ -86,7 +89,16 @@ void lay_out_record(Table &table) {
     table.record.push_back(value);
     if (field.match != Match::kExact) table.record.push_back(companion(field, i));
   }
-  table.record_bytes = record_size(table.record);
+  table.record_bytes = lay_out(table.record);
+}
+
+// A resource is one item, whatever operations send it.
+void add_operation(std::vector<ResourceItem> &items, ResourceItem sent, std::size_t operation) {
+  auto item = std::find_if(items.begin(), items.end(), [&](const ResourceItem &other) {
+    return other.resource == sent.resource;
+  });
+  if (item == items.end()) item = items.insert(item, sent);
+  item->operations |= 1u << operation;
 }
 
 void list_resource_items(Table &table) {
@@ -100,6 +112,18 @@ void list_resource_items(Table &table) {
         }
       }
     }
+    for (std::size_t operation = 0; operation < kOperationCount; ++operation) {
+      for (const ResourceItem &item : pair.items[operation]) {
+        add_operation(pair.all_items, item, operation);
+      }
+    }
+  }
+}
+
+void share_key_schemas(std::vector<Table> &tables) {
+  std::map<std::string, const Table *> first;
+  for (Table &table : tables) {
+    table.first_of_key = first.try_emplace(match_spec_schema(table), &table).first->second;
   }
 }
 
@@ -121,7 +145,9 @@ void derive_facts(Program &program) {
     lay_out_record(table);
     list_resource_items(table);
   }
+  share_key_schemas(program.tables);
   complete_labels(program);
+  program.tool_records = tool_records(program);
 }
 
 }  // namespace pdgen

@@ -75,9 +75,10 @@ Profile read_profile(const TomlValue &value, NameScope &names, LoadContext &cont
   RowReader row(value, {"profile", "profile", "name", ""}, context.diagnostics);
   Profile profile;
   row.name("name", names, profile);
-  profile.action_data_handle =
-      row.handle("action_data_handle", HandleKind::kActionData, context.handles);
-  profile.selector_handle = row.handle("selector_handle", HandleKind::kSelector, context.handles);
+  profile.action_data_handle = row.handle("action_data_handle", HandleKind::kActionData,
+                                          context.handles, "action data of " + row.what());
+  profile.selector_handle = row.handle("selector_handle", HandleKind::kSelector, context.handles,
+                                       "selector of " + row.what());
   NameScope action_names;
   for (const TomlValue *action : row.rows("actions")) {
     RowReader member(*action, {"profile.actions", "action", "action", row.what()},
@@ -223,14 +224,15 @@ void read_stateful(RowReader &file, LoadContext &context) {
 
 void read_hashes(RowReader &file, LoadContext &context) {
   context.program.hash_algorithm =
-      file.handle("algorithm", HandleKind::kAlgorithm, context.handles);
+      file.handle("algorithm", HandleKind::kAlgorithm, context.handles, "algorithm of the hashes");
   NameScope names;
   for (const TomlValue *value : file.rows("hashes")) {
     RowReader row(*value, {"hashes", "hash", "name", ""}, context.diagnostics);
     Hash hash;
     row.name("name", names, hash);
     hash.handle = row.handle("handle", HandleKind::kCalculation, context.handles);
-    hash.field_list_handle = row.handle("list", HandleKind::kFieldList, context.handles);
+    hash.field_list_handle =
+        row.handle("list", HandleKind::kFieldList, context.handles, "field list of " + row.what());
     hash.field_count = row.number("fields", 1, kAnyNumber).value_or(0);
     context.program.hashes.push_back(std::move(hash));
   }

@@ -85,6 +85,12 @@ void HandleScope::add(std::uint32_t handle, const std::string &owner, const Plac
   }
 }
 
+std::vector<Handle> HandleScope::all() const {
+  std::vector<Handle> handles;
+  for (const auto &[handle, holder] : taken_) handles.push_back({handle, holder.owner});
+  return handles;
+}
+
 RowReader::RowReader(const TomlValue &row, Naming naming, Diagnostics &diagnostics)
     : row_(row), naming_(std::move(naming)), what_(naming_.kind), diagnostics_(diagnostics) {
   if (const TomlMember *member = row_.find(naming_.name_key)) {
@@ -175,7 +181,8 @@ std::optional<std::uint32_t> RowReader::optional_number(std::string_view key, st
   return number_within(key, false, least, most);
 }
 
-std::uint32_t RowReader::handle(std::string_view key, HandleKind kind, HandleScope &scope) {
+std::uint32_t RowReader::handle(std::string_view key, HandleKind kind, HandleScope &scope,
+                                std::string object) {
   const auto handle = number_within(key, true, 0, 0xffffffff);
   if (!handle) return 0;
   const auto top_byte = static_cast<std::uint32_t>(kind);
@@ -184,7 +191,8 @@ std::uint32_t RowReader::handle(std::string_view key, HandleKind kind, HandleSco
                             what_, top_byte, top_byte));
     return 0;
   }
-  scope.add(*handle, what_, place(key), path(key), diagnostics_);
+  if (object.empty()) object = what_;
+  scope.add(*handle, object, place(key), path(key), diagnostics_);
   return *handle;
 }
 

@@ -53,6 +53,7 @@ class HandleScope {
  public:
   void add(std::uint32_t handle, const std::string &owner, const Place &place, std::string_view key,
            Diagnostics &diagnostics);
+  std::vector<Handle> all() const;
 
  private:
   struct Holder {
@@ -104,7 +105,9 @@ class RowReader {
                                       std::uint32_t most);
   std::optional<std::uint32_t> optional_number(std::string_view key, std::uint32_t least,
                                                std::uint32_t most);
-  std::uint32_t handle(std::string_view key, HandleKind kind, HandleScope &scope);
+  // `object`: whose handle it is, if not the row's own.
+  std::uint32_t handle(std::string_view key, HandleKind kind, HandleScope &scope,
+                       std::string object = "");
   bool optional_flag(std::string_view key);
   // The index of the value in `choices`.
   std::optional<std::size_t> choice(std::string_view key,

@@ -32,12 +32,14 @@ void read_snapshots(RowReader &file, LoadContext &context);
 // that name; a width of 0 is one that could not be read.
 unsigned read_storage_bytes(RowReader &row, unsigned width);
 inline unsigned whole_bytes(unsigned bits) { return (bits + 7) / 8; }
-// The lowest `width` bits, width 1 to 32.
-inline std::uint32_t low_bits(unsigned width) { return 0xffffffffU >> (32 - width); }
 
 // The target of each reference; a name without a row is a fault. Fields, parameters and resource
 // items of pairs come out of this step too.
 void resolve_references(Program &program, Diagnostics &diagnostics);
+
+// The records of the program as tools see them: members by their places, and the fields that people
+// name, with their names, notations and the MAC addresses that two of them are halves of.
+std::vector<ToolRecords> tool_records(const Program &program);
 
 // Positions, sizes, key order, records and tool names. The program has no fault.
 void derive_facts(Program &program);

@@ -9,7 +9,7 @@
 
 #include "files.hpp"
 #include "p4_pd_types.h"
-#include "pdgen/emit/emit.hpp"
+#include "pdgen/families/api.hpp"
 #include "pdgen/load/load.hpp"
 
 namespace pd_test {
@@ -176,13 +176,13 @@ TEST_F(CheckedIn, FilesAreFresh) {
   const auto difference = [](const char *file, const std::string &fresh) {
     return first_difference(read_file(PD_SOURCE_DIR + std::string(file)), fresh);
   };
-  EXPECT_EQ(difference("/include/p4_pd_tessel_switch.h", pdgen::emit_header(api_)), "") << kRenew;
-  EXPECT_EQ(difference("/abi/exports.txt", pdgen::emit_exports(api_)), "") << kRenew;
-  EXPECT_EQ(difference("/abi/handles.txt", pdgen::emit_handles(api_.program())), "") << kRenew;
+  EXPECT_EQ(difference("/include/p4_pd_tessel_switch.h", pdgen::written("header", api_)), "") << kRenew;
+  EXPECT_EQ(difference("/abi/exports.txt", pdgen::written("exports", api_)), "") << kRenew;
+  EXPECT_EQ(difference("/abi/handles.txt", pdgen::written("handles", api_)), "") << kRenew;
 }
 
 TEST_F(CheckedIn, AStaleFileWouldBeNoticed) {
-  const std::string fresh = pdgen::emit_exports(api_);
+  const std::string fresh = pdgen::written("exports", api_);
   std::string stale = fresh;
   stale.replace(stale.find("cpuEncap"), 8, "gpuEncap");
   EXPECT_NE(first_difference(stale, fresh), "");

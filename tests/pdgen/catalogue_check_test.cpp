@@ -171,8 +171,8 @@ INSTANTIATE_TEST_SUITE_P(
              "table.actions.handle: 0x20000003 of action pass of table fib4 is the handle of "
              "action pass of table filter at tiny/tables.toml:33"},
         Slip{"DigestHandleOfFieldList", "digests.toml", "0x21000002", "0x21000001", "0x21000001",
-             "digest.handle: 0x21000001 of digest arrival is the handle of hash flowHash at "
-             "tiny/hashes.toml:4"},
+             "digest.handle: 0x21000001 of digest arrival is the handle of field list of hash "
+             "flowHash at tiny/hashes.toml:4"},
         Slip{"HandleOfOtherKind", "profiles.toml", "0x03000001", "0x02000001", "0x02000001",
              "profile.selector_handle: 0x2000001 of profile pathMembers must lie in 0x03000000 to "
              "0x03ffffff"},

@@ -8,7 +8,7 @@
 #include <sstream>
 #include <string>
 
-#include "pdgen/emit/emit.hpp"
+#include "pdgen/families/api.hpp"
 #include "pdgen/load/load.hpp"
 
 namespace pdgen {
@@ -18,11 +18,11 @@ const std::string kTests = std::string(PDGEN_SOURCE_DIR) + "/tests/pdgen";
 
 std::string interface_text(const Api &api) {
   std::string text;
-  for (const Group &group : api.groups()) {
+  for (const Group &group : api.groups) {
     text += "==== " + group.title + "\n" + group.declarations;
-    for (const Function &function : group.functions) {
-      text += declaration(function) + " { " + function.statement + "; }  // " + function.family +
-              " " + function.action + "\n";
+    for (const Function *function : group.functions) {
+      text += declaration(*function) + " { " + function->statement + "; }  // " + function->family +
+              " " + function->action + "\n";
     }
   }
   return text;

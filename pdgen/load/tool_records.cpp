@@ -1,9 +1,9 @@
-#include "pdgen/emit/tool_records.hpp"
-
+// What tools see of records.
 #include <fmt/format.h>
 
 #include <algorithm>
 
+#include "pdgen/load/load_sections.hpp"
 #include "pdgen/names.hpp"
 #include "pdgen/text.hpp"
 #include "pdgen/texts/texts.hpp"
@@ -188,8 +188,6 @@ void add_bytes(RecordBuilder &builder, const Program &program, const std::string
               short_name(name, program.field_facts.instance_prefixes), all_bits(width));
 }
 
-}  // namespace
-
 ToolRecord tool_record(const Program &program, const Table &table) {
   RecordBuilder builder(program.field_facts);
   const std::string type = table.keyed() ? match_spec_type(program, table) : "";
@@ -255,6 +253,31 @@ ToolRecord snapshot_record(const Program &program, const std::string &name,
     add_bytes(builder, program, field.name, field.offset, field.bytes, true);
   }
   return builder.take(name, "0", std::to_string(program.snapshots->record_bytes));
+}
+
+template <class Row>
+ToolRecords records_of(const char *name, const Program &program, const std::vector<Row> &rows) {
+  ToolRecords list{name, {}};
+  for (const Row &row : rows) list.records.push_back(tool_record(program, row));
+  return list;
+}
+
+}  // namespace
+
+std::vector<ToolRecords> tool_records(const Program &program) {
+  std::vector<ToolRecords> lists = {records_of("table", program, program.tables),
+                                    records_of("action", program, program.actions),
+                                    records_of("digest", program, program.digests),
+                                    {"trigger", {}},
+                                    {"packet", {}},
+                                    {"capture", {}}};
+  if (!program.snapshots) return lists;
+  for (const SnapshotLayout &layout : program.snapshots->layouts) {
+    lists[3].records.push_back(trigger_record(program, layout));
+    lists[4].records.push_back(snapshot_record(program, layout.name, layout.fields));
+  }
+  lists[5].records.push_back(snapshot_record(program, "capture", program.snapshots->capture));
+  return lists;
 }
 
 }  // namespace pdgen
