@@ -37,7 +37,7 @@ void try_items(std::string_view text, const char *table) {
       items->parse(shown_line, again);
       require(again.view() == item.view(), "an item is read as it is printed");
       Row row;
-      items->add_to(row, item.view());
+      items->add_to(row, item.view(), Naming::numbers);
       row.json();
     });
   }

@@ -1,61 +1,11 @@
 #include "tesselctl/command/command.hpp"
+#include "tesselctl/command/topic.hpp"
 
 #include "tesselctl/program/value.hpp"
 #include "tesselctl/text/files.hpp"
 #include "tesselctl/text/suggest.hpp"
 
 namespace tesselctl {
-
-// The topics; each has a file in tesselctl/kinds.
-std::span<const Command> entry_commands();
-std::span<const Command> show_commands();
-std::span<const Command> profile_commands();
-std::span<const Command> meter_commands();
-std::span<const Command> stateful_commands();
-std::span<const Command> hash_commands();
-std::span<const Command> value_set_commands();
-std::span<const Command> traffic_commands();
-std::span<const Command> digest_commands();
-std::span<const Command> snapshot_commands();
-std::span<const Command> state_commands();
-std::span<const Command> image_commands();
-std::span<const Command> compare_commands();
-std::span<const Command> routes_commands();
-std::span<const Command> introspection_commands();
-std::span<const Command> report_commands();
-std::span<const Command> tool_commands();
-std::span<const Command> help_commands();
-std::span<const ObjectWord> table_words();
-std::span<const ObjectWord> profile_words();
-std::span<const ObjectWord> meter_words();
-std::span<const ObjectWord> stateful_words();
-std::span<const ObjectWord> hash_words();
-std::span<const ObjectWord> value_set_words();
-std::span<const ObjectWord> digest_words();
-
-std::span<const Topic> command_topics() {
-  static const Topic topics[] = {
-      {"Entries", entry_commands(), table_words},
-      {"Reading and default entries", show_commands()},
-      {"Members and groups", profile_commands(), profile_words},
-      {"Meters", meter_commands(), meter_words},
-      {"Counters and registers", stateful_commands(), stateful_words},
-      {"Hash calculations", hash_commands(), hash_words},
-      {"Value sets", value_set_commands(), value_set_words},
-      {"Packets", traffic_commands()},
-      {"Digests", digest_commands(), digest_words},
-      {"Snapshots", snapshot_commands()},
-      {"Time and state", state_commands()},
-      {"Images", image_commands()},
-      {"Comparing", compare_commands()},
-      {"Routes", routes_commands()},
-      {"Names and shapes", introspection_commands()},
-      {"Reports", report_commands()},
-      {"Scripts, servers and repetition", tool_commands()},
-      {"Help", help_commands()},
-  };
-  return topics;
-}
 
 namespace {
 
@@ -84,8 +34,8 @@ namespace {
 const Command &find_command(Words words, Invocation &invocation) {
   const Command *found = nullptr;
   bool first_is_known = false;
-  for (const Topic &topic : command_topics()) {
-    for (const Command &command : topic.commands) {
+  for (const Topic *topic : command_topics()) {
+    for (const Command &command : topic->commands) {
       if (command.first_word() != words[0].text) continue;
       first_is_known = true;
       const std::string_view second = command.second_word();

@@ -84,26 +84,6 @@ inline bool can_be_watched(const Command &command) {
   return (command.kind != Kind::changes || command.watched) && command.where == Where::device;
 }
 
-struct ObjectWord;  // subject.hpp
-
-struct Topic {
-  std::string_view title;
-  std::span<const Command> commands;
-  // The words in capitals whose candidates this topic has; null for none.
-  std::span<const ObjectWord> (*words)() = nullptr;
-};
-std::span<const Topic> command_topics();
-
-// Those that are not hidden.
-template <class Visit>
-void for_each_shown_command(Visit visit) {
-  for (const Topic &topic : command_topics()) {
-    for (const Command &command : topic.commands) {
-      if (!command.hidden) visit(command);
-    }
-  }
-}
-
 // The command that the words name. Throws Fault with a near name.
 const Command &find_command(Words words, Invocation &invocation);
 

@@ -1,4 +1,5 @@
 #include "tesselctl/command/command_help.hpp"
+#include "tesselctl/command/topic.hpp"
 
 #include "tesselctl/command/flags.hpp"
 #include "tesselctl/command/grammar.hpp"

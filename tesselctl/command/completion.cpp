@@ -1,4 +1,5 @@
 #include "tesselctl/command/completion.hpp"
+#include "tesselctl/command/topic.hpp"
 
 #include <algorithm>
 #include <optional>

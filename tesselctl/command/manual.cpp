@@ -1,4 +1,5 @@
 #include "tesselctl/command/manual.hpp"
+#include "tesselctl/command/topic.hpp"
 
 #include "tesselctl/command/flags.hpp"
 
@@ -65,9 +66,11 @@ std::string command_options() {
 
 std::string commands() {
   std::string text;
-  for (const Topic &topic : command_topics()) {
-    text += ".SS " + plain(topic.title) + "\n";
-    for (const Command &command : topic.commands) {
+  std::string_view title;
+  for (const Topic *topic : command_topics()) {
+    if (topic->title != title) text += ".SS " + plain(topic->title) + "\n";
+    title = topic->title;
+    for (const Command &command : topic->commands) {
       if (command.hidden) continue;
       text += ".TP\n.B " + plain(command.name) + "\n";
       if (!command.arguments.empty()) text += ".I " + plain(command.arguments) + "\n";

@@ -7,9 +7,9 @@
 
 namespace tesselctl {
 
-Options::Options(const Invocation &invocation, size_t at,
-                 std::initializer_list<std::string_view> names)
+Options::Options(const Invocation &invocation, size_t at, std::span<const std::string_view> names)
     : command_(invocation.command) {
+  if (names.empty()) refuse_arguments_from(invocation, at);
   for (size_t i = at; i < invocation.arguments.size(); ++i) {
     const Assignment word = split_assignment(invocation.arguments[i]);
     const auto known = std::find(names.begin(), names.end(), word.name.text);
@@ -49,6 +49,25 @@ size_t Options::choice_or(std::string_view name, std::initializer_list<std::stri
     list += (list.empty() ? "" : ", ") + std::string(word);
   }
   throw Fault(*value, std::string(name) + " is one of " + list, nearest(value->text, words));
+}
+
+FieldWords::FieldWords(const Invocation &invocation, size_t at,
+                       std::initializer_list<std::string_view> names,
+                       const bindings::Record *record)
+    : command(invocation.command) {
+  for (const Word &word : invocation.arguments) {
+    const std::string_view name = word.text.substr(0, word.text.find('='));
+    const bool is_option = std::find(names.begin(), names.end(), name) != names.end();
+    const bool is_field = record != nullptr && has_field_named(*record, name);
+    const bool is_before = before.size() < at && fields.empty();
+    (is_before || (is_option && !is_field) ? before : fields).push_back(word);
+  }
+}
+
+RecordWriter FieldWords::record(const bindings::Record &record, std::string what) const {
+  RecordWriter writer(record, std::move(what));
+  for (const Word &word : fields) writer.set(split_assignment(word));
+  return writer;
 }
 
 }  // namespace tesselctl

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "tesselctl/command/topic.hpp"
+
 namespace tesselctl {
 
 namespace {
@@ -36,13 +38,6 @@ void offer_members(Offers &offers, const Device &device, const soft_profile_t &p
   });
 }
 
-bool has_own_meter(const TableInfo &table) {
-  const auto meters = program_rows<soft_meter_t>();
-  return std::any_of(meters.begin(), meters.end(), [&](const soft_meter_t &meter) {
-    return meter.table != 0 && meter.table == table.description->handle;
-  });
-}
-
 }  // namespace
 
 const Field *find_field(const bindings::Record &record, std::string_view name) {
@@ -54,9 +49,8 @@ const Field *find_field(const bindings::Record &record, std::string_view name) {
 }
 
 const ObjectWord *find_object_word(std::string_view placeholder) {
-  for (const Topic &topic : command_topics()) {
-    if (topic.words == nullptr) continue;
-    for (const ObjectWord &word : topic.words()) {
+  for (const Topic *topic : command_topics()) {
+    for (const ObjectWord &word : topic->words) {
       if (word.placeholder == placeholder) return &word;
     }
   }
@@ -80,7 +74,7 @@ bool Subject::takes(std::string_view name) const {
   if (!table) return true;
   if (name == "priority") return table->has_priority();
   if (name == "ttl") return table->ages();
-  if (name == "meter") return has_own_meter(*table);
+  if (name == "meter") return resource_of<soft_meter_t>(*table) != nullptr;
   return true;
 }
 

@@ -46,21 +46,16 @@ Subject find_subject(const std::vector<Argument> &grammar, Word word);
 
 // ---- For kinds ----
 
-// The object of that name, or null.
-template <class Row>
-const Row *find_object(std::string_view name) {
-  const auto rows = program_rows<Row>();
-  const auto found =
-      std::find_if(rows.begin(), rows.end(), [&](const Row &row) { return name == row.name; });
-  return found == rows.end() ? nullptr : &*found;
-}
-
 // Offers the objects of a kind with a line of help each.
-template <class Row, class Help>
-void offer_objects(Offers &offers, Help help) {
-  for (const Row &row : program_rows<Row>()) {
-    if (offers.begins(row.name)) offers.offer(row.name, help(row));
+template <class Object, std::string (*Help)(const Object &)>
+void offer_objects(Offers &offers, const Command &, Words) {
+  for (const Object &object : program_rows<Object>()) {
+    if (offers.begins(object.name)) offers.offer(object.name, Help(object));
   }
+}
+template <class Object, void (*Choose)(Subject &, const Object &)>
+void choose_object(Subject &subject, std::string_view name) {
+  if (const Object *object = find_object<Object>(name)) Choose(subject, *object);
 }
 
 // Offers what is enumerated until there is enough; describe may throw Fault.
@@ -71,8 +66,17 @@ void offer_handles(Offers &offers, Enumeration enumeration,
 void choose_table(Subject &subject, const TableInfo &table);
 // The same of the members and groups of a profile.
 void choose_profile(Subject &subject, const soft_profile_t &profile);
-// A counter or meter: of the entries of the table with that handle, or with 0 of its own.
+// A counter or meter: of the entries of a table, or with cells of its own.
 void choose_cells(Subject &subject, uint32_t table);
 std::string cells_help(uint32_t table);
+
+template <class Object>
+void choose_cells(Subject &subject, const Object &object) {
+  choose_cells(subject, object.table);
+}
+template <class Object>
+std::string cells_help(const Object &object) {
+  return cells_help(object.table);
+}
 
 }  // namespace tesselctl

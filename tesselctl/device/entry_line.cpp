@@ -1,9 +1,6 @@
 #include "tesselctl/device/entry_line.hpp"
 
-#include <algorithm>
-
 #include "tesselctl/device/handles.hpp"
-#include "tesselctl/text/suggest.hpp"
 
 namespace tesselctl {
 
@@ -75,30 +72,28 @@ void EntryLine::read_action(const Assignment &word) {
     throw Fault(word.whole, std::string(table_.name()) +
                                 " is bound to a profile, so it takes member= or group=");
   }
-  const std::span<const soft_action_t> own(table_.description->actions,
-                                           table_.description->action_count);
-  const auto is_own = [&](const soft_action_t &action) { return word.value.text == action.name; };
-  if (std::none_of(own.begin(), own.end(), is_own)) {
-    Nearest near(word.value.text);
-    for (const soft_action_t &action : own) near.consider(action.name);
-    throw Fault(word.value, std::string(table_.name()) + " has no action of this name",
-                near.name());
-  }
   action_word_ = word.value;
-  action_.emplace(action_record(word.value.text), std::string(word.value.text));
+  action_.emplace(resolve_action(*table_.description, word.value), std::string(word.value.text));
 }
 
-void EntryLine::need_key_or_entry() const {
+bool EntryLine::need_key_or_entry() {
   if (!table_.keyed()) {
     throw Fault(table_word_,
                 std::string(table_.name()) + " has no key, so it has a default entry and no other");
   }
   if (entry_ && has_key()) throw Fault(entry_->word, "give entry= or a key, not both");
+  if (!entry_) key_.finish(table_word_);
+  return entry_.has_value();
 }
 
 void EntryLine::need_key() {
+  refuse(entry_);
   need_key_or_entry();
-  key_.finish(table_word_);
+}
+
+void EntryLine::refuse_key() const {
+  refuse(entry_);
+  if (has_key()) throw Fault(table_word_, "a default entry has no key");
 }
 
 void EntryLine::refuse_outcome() const {

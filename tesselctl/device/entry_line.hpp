@@ -38,15 +38,19 @@ class EntryLine {
   const std::optional<Given> &entry() const { return entry_; }
   const std::optional<Given> &member() const { return member_; }
   const std::optional<Given> &group() const { return group_; }
-  const std::optional<Word> &label() const { return label_; }
+  // Remembers the handle under the name that as= gives.
+  void remember(Context &context, uint32_t entry) const {
+    if (label_) tesselctl::remember(context, *label_, entry);
+  }
   bool has_action() const { return action_.has_value(); }
   // Name of the action; empty without action=.
   std::string_view action() const { return action_ ? action_->record().name : std::string_view(); }
 
   // The faults of words that the command cannot use.
-  void need_key_or_entry() const;
+  // Whether it is entry=.
+  bool need_key_or_entry();
   void need_key();
-  void refuse_entry() const { refuse(entry_); }
+  void refuse_key() const;
   void refuse_outcome() const;
   void refuse_label() const;
   // Exactly one of action=, member= and group=, of the kind that the table has; returns whether it

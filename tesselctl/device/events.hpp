@@ -1,5 +1,5 @@
-// What a device told and no command has shown yet. It belongs to the device, which writes here by
-// callbacks: those who asked it to tell may be gone by then.
+// Events of a device that no command has printed yet. They belong to the device, which writes here
+// by callbacks: whoever registered those may be gone by then.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +19,7 @@ struct ExpiredEntry {
 struct Messages {
   std::map<uint32_t, pipe_mgr_digest_message *> held;  // not acknowledged; the device's
   uint32_t delivered = 0;                              // greatest number
-  uint32_t told = 0;                                   // greatest number that was printed
+  uint32_t printed = 0;                                // greatest number that was printed
 };
 
 struct Events {

@@ -59,6 +59,12 @@ Enumeration set_values_of(const Device &device, const char *value_set,
   return {first, next, "entry", "entries", "entry"};
 }
 
+uint32_t entry_count(const Device &device, const TableInfo &table, Word word) {
+  uint32_t count = 0;
+  check(device.prepare("get_entry_count", table.name()).set("count", &count).run(), word);
+  return count;
+}
+
 void for_each_entry(const Device &device, const TableInfo &table, Word word,
                     const std::function<void(p4_pd_entry_handle_t)> &visit) {
   for_each_handle(entries_of(device, table), word, visit);

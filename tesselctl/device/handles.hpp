@@ -31,6 +31,9 @@ Enumeration groups_of(const Device &device, const char *profile);
 Enumeration set_values_of(const Device &device, const char *value_set,
                           const p4_pd_parser_target_t &target);
 
+// Of the table. Throws Fault at the word.
+uint32_t entry_count(const Device &device, const TableInfo &table, Word word);
+
 void for_each_entry(const Device &device, const TableInfo &table, Word word,
                     const std::function<void(p4_pd_entry_handle_t)> &visit);
 void for_each_member(const Device &device, const char *profile, Word word,

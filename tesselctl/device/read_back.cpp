@@ -189,11 +189,11 @@ namespace {
 
 template <class Owner>
 void add_action_samples(Row &row, const Owner &owner) {
-  for (uint32_t i = 0; i < owner.action_count; ++i) {
-    const bindings::Record &action = action_record(owner.actions[i].name);
-    const std::vector<uint8_t> zeroes(action.size);
-    if (i == 0) add_action(row, action, zeroes.data());
-    add_samples(row, Row::kParameters, action);
+  const std::vector<const bindings::Record *> actions = actions_of(owner);
+  for (const bindings::Record *action : actions) {
+    const std::vector<uint8_t> zeroes(action->size);
+    if (action == actions.front()) add_action(row, *action, zeroes.data());
+    add_samples(row, Row::kParameters, *action);
   }
 }
 

@@ -1,44 +1,40 @@
-// Ageing of tables in images.
-#include <fmt/format.h>
-
+// Ageing of tables, on the virtual clock.
+#include "soft_sdk.h"
+#include "tesselctl/command/topic.hpp"
+#include "tesselctl/kinds/digest.hpp"
 #include "tesselctl/kinds/table_items.hpp"
+#include "tesselctl/program/value.hpp"
 
 namespace tesselctl {
 
 namespace {
 
-class Ageing : public CellItems<NoIdentity, p4_pd_idle_time_params_t> {
+using Params = p4_pd_idle_time_params_t;
+
+// "ageing mode=1 sweep=1000 max=0 min=0 ttl=0"
+class Ageing : public NumberItems {
  public:
-  explicit Ageing(const char *table) : table_(table) {}
+  static bool exist(const soft_table_t &table) { return table.ages_entries; }
+  explicit Ageing(const soft_table_t &table)
+      : NumberItems({.columns = {{"mode"}, {"sweep"}, {"max"}, {"min"}, {"ttl"}},
+                     .identity = 0,
+                     .nameless = 0,
+                     .what = "ageing"}),
+        table_(table.name) {}
 
  protected:
-  using Params = p4_pd_idle_time_params_t;
-
-  void parse_cell(ValueScanner &line, NoIdentity &, Params &params) const override {
-    const LineWords words(line, {"mode", "sweep", "max", "min", "ttl"});
-    params.mode = words.number32("mode");
-    params.sweep_interval_ms = words.number32("sweep");
-    params.max_ttl_ms = words.number32("max");
-    params.min_ttl_ms = words.number32("min");
-    params.default_ttl_ms = words.number32("ttl");
-  }
-  void print_cell(std::string &text, const NoIdentity &, const Params &params) const override {
-    fmt::format_to(std::back_inserter(text), "mode={} sweep={} max={} min={} ttl={}", params.mode,
-                   params.sweep_interval_ms, params.max_ttl_ms, params.min_ttl_ms,
-                   params.default_ttl_ms);
-  }
-  void add_cell(Row &row, const NoIdentity &, const Params &params) const override {
-    row.object("what", "ageing").number("mode", params.mode);
-    row.number("sweep", params.sweep_interval_ms).number("max", params.max_ttl_ms);
-    row.number("min", params.min_ttl_ms).number("ttl", params.default_ttl_ms);
-  }
-  void read_cells(Source &from, const CellVisitor &visit) const override {
+  void read_numbers(Source &from, const NumbersVisitor &visit) const override {
     Params params = {};
     Call call = from.device.prepare("idle_params_get", table_);
-    if (call.set("params", &params).run() == BF_SUCCESS) visit({}, params);
+    if (call.set("params", &params).run() != BF_SUCCESS) return;
+    visit({params.mode, params.sweep_interval_ms, params.max_ttl_ms, params.min_ttl_ms,
+           params.default_ttl_ms});
   }
-  void write_cell(Target &to, Edit edit, const NoIdentity &, const Params &params,
-                  Word word) const override {
+  void write_numbers(Target &to, Edit edit, const Numbers &numbers, Word word) const override {
+    Params params = {};
+    uint32_t *const members[] = {&params.mode, &params.sweep_interval_ms, &params.max_ttl_ms,
+                                 &params.min_ttl_ms, &params.default_ttl_ms};
+    for (size_t i = 0; i < std::size(members); ++i) *members[i] = static_cast<uint32_t>(numbers[i]);
     const bool off = edit == Edit::remove;
     Call call = to.device.prepare(off ? "idle_tmo_disable" : "idle_tmo_enable", table_);
     check(call.set_if_taken("params", static_cast<const void *>(&params)).run(), word);
@@ -48,19 +44,86 @@ class Ageing : public CellItems<NoIdentity, p4_pd_idle_time_params_t> {
   const char *table_;
 };
 
+// ---- Commands ----
+
+TableLine ageing_line(Context &context, const Invocation &invocation,
+                      std::initializer_list<std::string_view> names = {}) {
+  TableLine line(context, invocation, names);
+  if (line.table.ages()) return line;
+  throw Fault(line.word, std::string(line.table.name()) + " does not age its entries");
+}
+
+void note_expired(bf_device_id_t, pipe_object_handle_t table, pipe_entry_handle_t entry,
+                  void *events) {
+  static_cast<Events *>(events)->expired.push_back({table, entry});
+}
+
+void enable(Context &context, const Invocation &invocation) {
+  const TableLine line = ageing_line(context, invocation, {"sweep", "min", "max", "ttl"});
+  const auto milliseconds = [&](const char *name, uint64_t otherwise) {
+    return static_cast<uint32_t>(line.options.number_or(name, 0xffffffffu, otherwise));
+  };
+  Params params = {};
+  params.mode = PIPE_IDLE_NOTIFY;
+  params.sweep_interval_ms = milliseconds("sweep", 1000);
+  params.min_ttl_ms = milliseconds("min", 0);
+  params.max_ttl_ms = milliseconds("max", 0);
+  params.default_ttl_ms = milliseconds("ttl", 0);
+  Call listen = line.call("idle_register_tmo_cb");
+  listen.set("callback", reinterpret_cast<const void *>(&note_expired));
+  line.run(listen.set("client_data", &context.device.events()));
+  line.run(line.call("idle_tmo_enable").set("params", &params));
+  line.done("ages its entries");
+}
+
+void disable(Context &context, const Invocation &invocation) {
+  const TableLine line = ageing_line(context, invocation);
+  line.run(line.call("idle_tmo_disable"));
+  line.done("no longer ages its entries");
+}
+
+void advance(Context &context, const Invocation &invocation) {
+  const Word word = need_argument(invocation, 0, "a number of milliseconds");
+  refuse_arguments_from(invocation, 1);
+  constexpr uint64_t kYear = 366ull * 24 * 3600 * 1000;
+  std::vector<ExpiredEntry> &all_expired = context.device.events().expired;
+  all_expired.clear();
+  soft_clock_advance(parse_limited(word, kYear, "the time"));
+  for (const ExpiredEntry &expired : all_expired) {
+    const TableInfo table = table_of_handle(expired.table);
+    EntryReader reader(context.device, table, EntryReader::Resources::settings);
+    ItemBytes item;
+    check(reader.read(expired.entry, item), word);
+    Row row;
+    row.object("table", table.name()).number("entry", expired.entry).object("event", "expired");
+    add_entry(row, table, item.view(), Naming::handles);
+    context.results.row(row);
+  }
+  print_messages(context);
+}
+
+constexpr Command kCommands[] = {
+    {"age enable", "TABLE [sweep=MS] [ttl=MS] [min=MS] [max=MS]",
+     "starts ageing; ttl is that of entries added without one", enable, Kind::changes},
+    {"age disable", "TABLE", "ends ageing", disable, Kind::changes},
+    {.name = "age advance",
+     .arguments = "MS",
+     .summary = "lets time pass and lists the entries that expire and the messages that arrive",
+     .run = advance,
+     .kind = Kind::changes,
+     .watched = true},
+};
+
 constexpr Step kSteps[] = {{Phase::ageing_off, Edit::remove},
                            {Phase::ageing_off, Edit::modify, Edit::remove},
                            {Phase::ageing, Edit::modify},
                            {Phase::ageing, Edit::add}};
 
+constexpr ItemKind kKinds[] = {
+    {kObjectKind<soft_table_t>, "ageing", 22, kSteps, open_items<Ageing, soft_table_t>}};
+
 }  // namespace
 
-extern const ItemKind kAgeingKind = {kTableObjects, "ageing", kSteps, [](const char *table) {
-                                       std::unique_ptr<ObjectItems> items;
-                                       if (resolve_table({table, 0}).ages()) {
-                                         items = std::make_unique<Ageing>(table);
-                                       }
-                                       return items;
-                                     }};
+extern const Topic kAgeingTopic = {"Time and state", kCommands, {}, kKinds};
 
 }  // namespace tesselctl

@@ -3,6 +3,7 @@
 
 #include "soft_sdk.h"
 #include "tesselctl/command/command.hpp"
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/device/device_copy.hpp"
 #include "tesselctl/device/read_back.hpp"
 #include "tesselctl/state/changes.hpp"
@@ -112,6 +113,6 @@ constexpr Command kCommands[] = {
 
 }  // namespace
 
-std::span<const Command> compare_commands() { return kCommands; }
+extern const Topic kCompareTopic = {"Comparing", kCommands};
 
 }  // namespace tesselctl

@@ -1,80 +1,223 @@
-// Counters that are addressed by an index, in images.
-#include <fmt/format.h>
+// Counters: those of entries and those that are addressed by an index; the latter in images.
+#include <algorithm>
+#include <map>
 
-#include "tesselctl/device/handles.hpp"
-#include "tesselctl/state/kind.hpp"
-#include "tesselctl/state/line_words.hpp"
+#include "soft_traffic.h"
+#include "tesselctl/command/options.hpp"
+#include "tesselctl/command/topic.hpp"
+#include "tesselctl/device/entry_texts.hpp"
+#include "tesselctl/kinds/synchronise.hpp"
 
 namespace tesselctl {
 
 namespace {
 
-struct CounterCell {
-  uint32_t index;
-  uint32_t pipe;
-};
+using CounterLine = ObjectLine<soft_counter_t>;
+using Values = p4_pd_counter_values_t;
+
+constexpr uint64_t kLastCell = SOFT_COUNTER_CELLS - 1;
+
+bool has_counted(const Values &values) { return (values.packets | values.bytes) != 0; }
+
+// Sets the address of a cell in calls: the handle of an entry, or an index.
+Call &set_cell(Call &call, const soft_counter_t &counter, uint32_t cell) {
+  return call.set(counter.table != 0 ? "entry" : "index", uint64_t{cell});
+}
+
+Values read_cell(const Device &device, const soft_counter_t &counter, uint32_t cell,
+                 const p4_pd_device_target_t &target, uint64_t flags, Word word) {
+  Values values = {};
+  Call call = device.prepare("counter_read", counter.name);
+  set_cell(call, counter, cell).set("target", &target).set("flags", flags);
+  check(call.set("values", &values).run(), word);
+  return values;
+}
+
+void write_cell(const Device &device, const soft_counter_t &counter, uint32_t cell,
+                const p4_pd_device_target_t &target, const Values &values, Word word) {
+  Call call = device.prepare("counter_write", counter.name);
+  set_cell(call, counter, cell).set("target", &target);
+  check(call.set("values", &values).run(), word);
+}
+
+// ---- Items ----
 
 // "cell 3 pipe=0 packets=10 bytes=640": cells that have counted.
-class CounterCells : public CellItems<CounterCell, p4_pd_counter_values_t> {
+class CounterCells : public NumberItems {
  public:
-  explicit CounterCells(const soft_counter_t &counter) : counter_(counter) {}
+  static bool exist(const soft_counter_t &counter) { return counter.table == 0; }
+  explicit CounterCells(const soft_counter_t &counter)
+      : NumberItems({.columns = {{.name = "index"},
+                                 {.name = "pipe"},
+                                 {.name = "packets", .limit = ~uint64_t{0}},
+                                 {.name = "bytes", .limit = ~uint64_t{0}}},
+                     .identity = 2,
+                     .nameless = 1}),
+        counter_(counter) {}
 
  protected:
-  using Values = p4_pd_counter_values_t;
-
-  void parse_cell(ValueScanner &line, CounterCell &cell, Values &values) const override {
-    cell.index = parse_index(line);
-    const LineWords words(line, {"pipe", "packets", "bytes"});
-    cell.pipe = words.number32("pipe");
-    values.packets = words.number("packets", ~uint64_t{0});
-    values.bytes = words.number("bytes", ~uint64_t{0});
-  }
-  void print_cell(std::string &text, const CounterCell &cell, const Values &values) const override {
-    fmt::format_to(std::back_inserter(text), "{} pipe={} packets={} bytes={}", cell.index,
-                   cell.pipe, values.packets, values.bytes);
-  }
-  void add_cell(Row &row, const CounterCell &cell, const Values &values) const override {
-    row.number("index", cell.index).number("pipe", cell.pipe);
-    row.number("packets", values.packets).number("bytes", values.bytes);
-  }
-  void read_cells(Source &from, const CellVisitor &visit) const override {
-    for_each_cell(from.device, counter_.handle, [&](uint32_t index) {
+  void read_numbers(Source &from, const NumbersVisitor &visit) const override {
+    for_each_cell(from.device, counter_.handle, [&](uint32_t cell) {
       for (uint32_t pipe = 0; pipe < from.device.pipes(); ++pipe) {
-        Values values = {};
-        const p4_pd_device_target_t target = from.device.target_of(pipe);
-        Call call = from.device.prepare("counter_read", counter_.name);
-        call.set("target", &target).set("index", uint64_t{index}).set("values", &values);
-        check(call.set("flags", uint64_t{P4_PD_READ_FROM_HARDWARE}).run(), {});
-        if ((values.packets | values.bytes) != 0) visit({index, pipe}, values);
+        const Values values = read_cell(from.device, counter_, cell, from.device.target_of(pipe),
+                                        P4_PD_READ_FROM_HARDWARE, {});
+        if (has_counted(values)) visit({cell, pipe, values.packets, values.bytes});
       }
     });
   }
-  void write_cell(Target &to, Edit edit, const CounterCell &cell, const Values &values,
-                  Word word) const override {
-    if (cell.pipe >= to.device.pipes()) throw Fault(word, "the device has no such pipe");
-    const Values written = edit == Edit::remove ? Values{} : values;
-    const p4_pd_device_target_t target = to.device.target_of(cell.pipe);
-    Call call = to.device.prepare("counter_write", counter_.name);
-    call.set("target", &target).set("index", uint64_t{cell.index});
-    check(call.set("values", &written).run(), word);
+  void write_numbers(Target &to, Edit edit, const Numbers &cell, Word word) const override {
+    if (cell[1] >= to.device.pipes()) throw Fault(word, "the device has no such pipe");
+    const Values values = edit == Edit::remove ? Values{} : Values{cell[2], cell[3]};
+    write_cell(to.device, counter_, static_cast<uint32_t>(cell[0]),
+               to.device.target_of(static_cast<uint32_t>(cell[1])), values, word);
   }
 
  private:
   const soft_counter_t &counter_;
 };
 
-constexpr ObjectKind kCounterObjects = {"counter", "counter",
-                                        row_name<&program_rows<soft_counter_t>>};
+// ---- Commands ----
+
+Row cell_row(const soft_counter_t &counter, uint32_t cell, const Values &values,
+             const std::string &label) {
+  Row row;
+  row.object("counter", counter.name).number(counter.table != 0 ? "entry" : "index", cell);
+  row.number("packets", values.packets).number("bytes", values.bytes);
+  return label.empty() ? row : row.text("label", label);
+}
+
+// With a label of what the entry counts, for a counter of a table.
+Row labelled_row(const Device &device, const soft_counter_t &counter, uint32_t cell, uint64_t flags,
+                 Word word) {
+  const Values values = read_cell(device, counter, cell, device.target(), flags, word);
+  return cell_row(counter, cell, values,
+                  counter.table == 0 ? "" : counter_label(device, counter.table, cell));
+}
+
+void read(Context &context, const Invocation &invocation) {
+  const CounterLine line(context, invocation, {"index", "source"});
+  context.results.row(labelled_row(context.device, line.object, line.cell(kLastCell),
+                                   read_flags(line.options), line.word));
+}
+
+// The cells of a counter that go by index and have counted, with the entries whose actions name
+// them.
+class CountedCells {
+ public:
+  CountedCells(const Device &device, const soft_counter_t &counter, Word word, uint64_t flags)
+      : device_(device), counter_(counter), word_(word) {
+    for_each_cell(device, counter.handle, [&](uint32_t cell) {
+      const Values values = read_cell(device, counter, cell, device.target(), flags, word);
+      if (has_counted(values)) cells_[cell].values = values;
+    });
+    if (cells_.empty()) return;
+    for (const bindings::Record &table : tables()) label_entries(resolve_table({table.name, 0}));
+  }
+
+  void print(Results &results) const {
+    for (const auto &[index, cell] : cells_) {
+      results.row(cell_row(counter_, index, cell.values, cell.label));
+    }
+  }
+
+ private:
+  struct Cell {
+    Values values = {};
+    std::string label;
+  };
+
+  // The parameter that names the cell, by the number of its action.
+  std::map<uint32_t, const Field *> parameters_of(const TableInfo &table) const {
+    std::map<uint32_t, const Field *> found;
+    for (const bindings::Record *action : actions_of(*table.description)) {
+      for (const Field &field : action->shown()) {
+        const auto names = [&](const char *cells) {
+          return counter_.name == std::string_view(cells);
+        };
+        if (std::any_of(field.cells.begin(), field.cells.end(), names))
+          found[action->number] = &field;
+      }
+    }
+    return found;
+  }
+
+  void label_entries(const TableInfo &table) {
+    const std::map<uint32_t, const Field *> parameters = parameters_of(table);
+    if (parameters.empty()) return;
+    EntryReader reader(device_, table, EntryReader::Resources::none);
+    ItemBytes item;
+    for_each_entry(device_, table, word_, [&](p4_pd_entry_handle_t entry) {
+      check(reader.read(entry, item), word_);
+      const auto parameter = parameters.find(head_of(item.value).number);
+      if (parameter == parameters.end()) return;
+      const auto index =
+          load_value(*parameter->second, tesselctl::parameters_of(item.value)).value.low;
+      const auto cell = cells_.find(static_cast<uint32_t>(index));
+      if (cell == cells_.end()) return;
+      Row row;
+      row.object("table", table.name()).number("entry", entry);
+      add_key(row, table, item.view());
+      cell->second.label += (cell->second.label.empty() ? "" : "; ") + row.words();
+    });
+  }
+
+  const Device &device_;
+  const soft_counter_t &counter_;
+  Word word_;
+  std::map<uint32_t, Cell> cells_;
+};
+
+void list_cells(Context &context, const soft_counter_t &counter, Word word, uint64_t flags) {
+  const Device &device = context.device;
+  context.results.expect(cell_row(counter, 0, {}, "label"));
+  if (counter.table == 0) {
+    return CountedCells(device, counter, word, flags).print(context.results);
+  }
+  for_each_entry(device, table_of_handle(counter.table), word, [&](p4_pd_entry_handle_t entry) {
+    context.results.row(labelled_row(device, counter, entry, flags, word));
+  });
+}
+
+void list(Context &context, const Invocation &invocation) {
+  const Words words = invocation.arguments;
+  if (!words.empty() && words[0].text.find('=') == std::string_view::npos) {
+    const CounterLine line(context, invocation, {"source"});
+    return list_cells(context, line.object, line.word, read_flags(line.options));
+  }
+  const uint64_t flags = read_flags({invocation, 0, {"source"}});
+  for (const soft_counter_t &counter : program_rows<soft_counter_t>()) {
+    list_cells(context, counter, invocation.command, flags);
+  }
+}
+
+void write(Context &context, const Invocation &invocation) {
+  const CounterLine line(context, invocation, {"index", "packets", "bytes"});
+  const Values values = {line.options.number("packets", ~uint64_t{0}),
+                         line.options.number("bytes", ~uint64_t{0})};
+  write_cell(context.device, line.object, line.cell(kLastCell), context.device.target(), values,
+             line.word);
+  line.done("written");
+}
+
+constexpr ObjectWord kWords[] = {{"COUNTER", offer_objects<soft_counter_t, cells_help>,
+                                  choose_object<soft_counter_t, choose_cells>}};
+
+constexpr Command kCommands[] = {
+    {"counter read", "COUNTER index=N|entry=HANDLE [source=hardware|software]",
+     "prints the packets and bytes of a counter cell", read},
+    {"counter list", "[COUNTER] [source=hardware|software]",
+     "prints counted entries, cells that have counted, and what they count", list, Kind::lists},
+    {"counter write", "COUNTER index=N|entry=HANDLE packets=N bytes=N",
+     "sets the packets and bytes of a counter cell", write, Kind::changes},
+    {"counter sync", "COUNTER", "brings the software copy of a counter up to date",
+     synchronise<soft_counter_t>, Kind::changes},
+};
+
+constexpr ItemKind kKinds[] = {{kObjectKind<soft_counter_t>, "cell", 30, kCellSteps,
+                                open_items<CounterCells, soft_counter_t>}};
 
 }  // namespace
 
-extern const ItemKind kCounterKind = {kCounterObjects, "cell", kCellSteps, [](const char *name) {
-                                        std::unique_ptr<ObjectItems> items;
-                                        const auto &counter = need_row<soft_counter_t>(name);
-                                        if (counter.table == 0) {
-                                          items = std::make_unique<CounterCells>(counter);
-                                        }
-                                        return items;
-                                      }};
+extern const Topic kCounterTopic = {"Counters and registers", kCommands, kWords, kKinds};
 
 }  // namespace tesselctl

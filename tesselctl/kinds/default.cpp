@@ -1,4 +1,6 @@
-// Default entries of tables in images.
+// Default entries of tables.
+#include "tesselctl/command/topic.hpp"
+#include "tesselctl/device/entry_line.hpp"
 #include "tesselctl/kinds/table_items.hpp"
 
 namespace tesselctl {
@@ -7,15 +9,15 @@ namespace {
 
 class DefaultEntry : public TableItems {
  public:
-  explicit DefaultEntry(const char *table)
+  explicit DefaultEntry(const soft_table_t &table)
       : TableItems(table, false, {"set_default_action", "set_default_action"}) {}
 
-  void add_to(Row &row, const ItemView &item) const override {
+  void add_to(Row &row, const ItemView &item, Naming naming) const override {
     row.object("which", "default");
-    TableItems::add_to(row, item);
+    TableItems::add_to(row, item, naming);
   }
-  void add_samples_to(Row &row) const override {
-    TableItems::add_samples_to(row.object("which", "default"));
+  void add_samples_to(Row &row, Naming naming) const override {
+    TableItems::add_samples_to(row.object("which", "default"), naming);
   }
 
   void read(Source &from, const ItemVisitor &visit) override {
@@ -65,11 +67,58 @@ class DefaultEntry : public TableItems {
 constexpr Step kSteps[] = {
     {Phase::entries, Edit::modify}, {Phase::entries, Edit::add}, {Phase::entries, Edit::remove}};
 
+constexpr ItemKind kKinds[] = {
+    {kObjectKind<soft_table_t>, "default", 20, kSteps, open_items<DefaultEntry, soft_table_t>}};
+
+// ---- Commands ----
+
+// Not every action of a table may be its default.
+const bindings::Export &need_default_export(const EntryLine &line) {
+  const bindings::Export *found =
+      find_export("set_default_action", line.table().name(), line.action());
+  if (found != nullptr) return *found;
+  throw Fault(line.table_word(), std::string(line.action()) + " cannot be the default action of " +
+                                     line.table().name());
+}
+
+void set(Context &context, const Invocation &invocation) {
+  EntryLine line(context, invocation);
+  line.refuse_key();
+  const char *table = line.table().name();
+  Call call = context.device.prepare(
+      line.need_outcome()
+          ? need_default_export(line)
+          : need_export(line.member() ? "set_default_entry" : "set_default_entry_with_selector",
+                        table));
+  p4_pd_entry_handle_t entry = 0;
+  line.fill(call, false);
+  check_outcome(call.set("entry", &entry).run(), context.device, line, line.table_word());
+  line.remember(context, entry);
+  Row row;
+  context.results.done(row.object("table", table).object("which", "default").number("entry", entry),
+                       "set");
+}
+
+void get(Context &context, const Invocation &invocation) {
+  const TableLine line(context, invocation);
+  context.results.row(default_entry_row(context.device, line.table, line.word));
+}
+
+void reset(Context &context, const Invocation &invocation) {
+  const TableLine line(context, invocation);
+  line.run(line.call("table_reset_default_entry"));
+  line.done(line.row().object("which", "default"), "reset");
+}
+
+constexpr Command kCommands[] = {
+    {"default set", "TABLE [meter=CIR,CBS,PIR,PBS] [as=NAME] OUTCOME",
+     "sets what a table does without a hit", set, Kind::changes},
+    {"default get", "TABLE", "prints what a table does without a hit", get},
+    {"default reset", "TABLE", "puts back the default entry of the program", reset, Kind::changes},
+};
+
 }  // namespace
 
-extern const ItemKind kDefaultKind = {kTableObjects, "default", kSteps,
-                                      [](const char *table) -> std::unique_ptr<ObjectItems> {
-                                        return std::make_unique<DefaultEntry>(table);
-                                      }};
+extern const Topic kDefaultTopic = {"Default entries", kCommands, {}, kKinds};
 
 }  // namespace tesselctl

@@ -1,137 +1,19 @@
-// Entries of keyed tables: add, modify, delete, find, count; and in images.
+// Entries of keyed tables.
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/device/entry_line.hpp"
+#include "tesselctl/device/entry_texts.hpp"
 #include "tesselctl/kinds/table_items.hpp"
 
 namespace tesselctl {
 
 namespace {
 
-// The function of the table for what the line says: one per action, or one for members and one for
-// groups. direct is the family of the former, indirect the one for members; that for groups has
-// "_with_selector" behind the verb.
-const bindings::Export &outcome_export(const EntryLine &line, std::string_view direct,
-                                       std::string_view member, std::string_view group) {
-  if (line.need_outcome()) return need_export(direct, line.table().name(), line.action());
-  return need_export(line.member() ? member : group, line.table().name());
-}
-
-Row table_row(const EntryLine &line) {
-  Row row;
-  row.object("table", line.table().name());
-  return row;
-}
-
-Row count_row(const TableInfo &table, uint32_t entries) {
-  Row row;
-  row.object("table", table.name()).number("entries", entries);
-  return row;
-}
-
-void add(Context &context, const Invocation &invocation) {
-  EntryLine line(context, invocation);
-  line.refuse_entry();
-  line.need_key();
-  Call call = context.device.prepare(
-      outcome_export(line, "table_add", "add_entry", "add_entry_with_selector"));
-  p4_pd_entry_handle_t entry = 0;
-  line.fill(call, true);
-  check_outcome(call.set("entry", &entry).run(), context.device, line, line.table_word());
-  if (line.label()) remember(context, *line.label(), entry);
-  context.results.done(table_row(line).number("entry", entry), "added");
-}
-
-void modify(Context &context, const Invocation &invocation) {
-  EntryLine line(context, invocation);
-  line.refuse_label();
-  line.need_key_or_entry();
-  const bool by_handle = line.entry().has_value();
-  if (!by_handle) line.need_key();
-  Call call = context.device.prepare(
-      by_handle ? outcome_export(line, "table_modify", "modify_entry", "modify_entry_with_selector")
-                : outcome_export(line, "table_modify_by_match_spec", "modify_entry_by_match_spec",
-                                 "modify_entry_with_selector_by_match_spec"));
-  if (by_handle) call.set("entry", uint64_t{line.entry()->value});
-  line.fill(call, false);
-  check_outcome(call.run(), context.device, line,
-                by_handle ? line.entry()->word : line.table_word());
-  context.results.done(table_row(line), "modified");
-}
-
-void remove(Context &context, const Invocation &invocation) {
-  EntryLine line(context, invocation);
-  line.refuse_outcome();
-  line.refuse_label();
-  line.need_key_or_entry();
-  const bool by_handle = line.entry().has_value();
-  if (!by_handle) line.need_key();
-  Call call = context.device.prepare(by_handle ? "table_delete" : "table_delete_by_match_spec",
-                                     line.table().name());
-  if (by_handle) call.set("entry", uint64_t{line.entry()->value});
-  line.fill(call, false);
-  check(call.run(), by_handle ? line.entry()->word : line.table_word());
-  context.results.done(table_row(line), "deleted");
-}
-
-void find(Context &context, const Invocation &invocation) {
-  EntryLine line(context, invocation);
-  line.refuse_entry();
-  line.refuse_outcome();
-  line.need_key();
-  Call call = context.device.prepare("match_spec_to_entry_hdl", line.table().name());
-  p4_pd_entry_handle_t entry = 0;
-  line.fill(call, false);
-  check(call.set("entry", &entry).run(), line.table_word());
-  if (line.label()) remember(context, *line.label(), entry);
-  context.results.row(table_row(line).number("entry", entry));
-}
-
-uint32_t entry_count(const Context &context, const TableInfo &table, Word word) {
-  uint32_t count = 0;
-  Call call = context.device.prepare("get_entry_count", table.name());
-  check(call.set("count", &count).run(), word);
-  return count;
-}
-
-void count(Context &context, const Invocation &invocation) {
-  if (!invocation.arguments.empty()) {
-    for (const Word &word : invocation.arguments) {
-      const TableInfo table = resolve_table(word);
-      context.results.row(count_row(table, entry_count(context, table, word)));
-    }
-    return;
-  }
-  bool any = false;
-  for (const bindings::Record &record : tables()) {
-    const TableInfo table = resolve_table({record.name, 0});
-    const uint32_t entries = entry_count(context, table, invocation.command);
-    context.results.expect(count_row(table, entries));
-    if (entries == 0) continue;
-    any = true;
-    context.results.row(count_row(table, entries));
-  }
-  if (!any && !context.settings.json && !context.settings.count &&
-      !context.results.asks_for_names()) {
-    context.results.text("all tables are empty");
-  }
-}
-
-constexpr Command kCommands[] = {
-    {"add", "TABLE FIELD=VALUE... [priority=N] [ttl=MS] [meter=CIR,CBS,PIR,PBS] [as=NAME] OUTCOME",
-     "adds an entry", add, Kind::changes},
-    {"modify", "TABLE entry=HANDLE|FIELD=VALUE... [priority=N] [meter=CIR,CBS,PIR,PBS] OUTCOME",
-     "gives an entry another action, member or group", modify, Kind::changes},
-    {"delete", "TABLE entry=HANDLE|FIELD=VALUE... [priority=N]", "deletes an entry", remove,
-     Kind::changes},
-    {"find", "TABLE FIELD=VALUE... [priority=N] [as=NAME]", "prints the handle of an entry", find},
-    {"count", "[TABLE...]", "counts the entries of tables, or of all that have any", count,
-     Kind::lists},
-};
-
-// ---- In images ----
+// ---- Items ----
 
 class Entries : public TableItems {
  public:
-  explicit Entries(const char *table)
+  static bool exist(const soft_table_t &table) { return table.field_count != 0; }
+  explicit Entries(const soft_table_t &table)
       : TableItems(table, true, {"table_add", "table_modify_by_match_spec"}) {}
 
   void read(Source &from, const ItemVisitor &visit) override {
@@ -199,16 +81,167 @@ constexpr Step kSteps[] = {{Phase::entries_leave, Edit::remove},
                            {Phase::entries, Edit::modify},
                            {Phase::entries, Edit::add}};
 
+// ---- Commands ----
+
+// The function of the table for what the line says: one per action, or one for members and one for
+// groups.
+const bindings::Export &outcome_export(const EntryLine &line, std::string_view direct,
+                                       std::string_view member, std::string_view group) {
+  if (line.need_outcome()) return need_export(direct, line.table().name(), line.action());
+  return need_export(line.member() ? member : group, line.table().name());
+}
+
+Row table_row(const TableInfo &table) {
+  Row row;
+  row.object("table", table.name());
+  return row;
+}
+
+Row count_row(const TableInfo &table, uint32_t entries) {
+  return table_row(table).number("entries", entries);
+}
+
+void add(Context &context, const Invocation &invocation) {
+  EntryLine line(context, invocation);
+  line.need_key();
+  Call call = context.device.prepare(
+      outcome_export(line, "table_add", "add_entry", "add_entry_with_selector"));
+  p4_pd_entry_handle_t entry = 0;
+  line.fill(call, true);
+  check_outcome(call.set("entry", &entry).run(), context.device, line, line.table_word());
+  line.remember(context, entry);
+  context.results.done(table_row(line.table()).number("entry", entry), "added");
+}
+
+// Fills a call that takes an entry by its handle or by its key. The word to blame.
+Word fill_call(Call &call, EntryLine &line) {
+  if (line.entry()) call.set("entry", uint64_t{line.entry()->value});
+  line.fill(call, false);
+  return line.entry() ? line.entry()->word : line.table_word();
+}
+
+void modify(Context &context, const Invocation &invocation) {
+  EntryLine line(context, invocation);
+  line.refuse_label();
+  Call call = context.device.prepare(
+      line.need_key_or_entry()
+          ? outcome_export(line, "table_modify", "modify_entry", "modify_entry_with_selector")
+          : outcome_export(line, "table_modify_by_match_spec", "modify_entry_by_match_spec",
+                           "modify_entry_with_selector_by_match_spec"));
+  const Word word = fill_call(call, line);
+  check_outcome(call.run(), context.device, line, word);
+  context.results.done(table_row(line.table()), "modified");
+}
+
+void remove(Context &context, const Invocation &invocation) {
+  EntryLine line(context, invocation);
+  line.refuse_outcome();
+  line.refuse_label();
+  Call call = context.device.prepare(
+      line.need_key_or_entry() ? "table_delete" : "table_delete_by_match_spec",
+      line.table().name());
+  const Word word = fill_call(call, line);
+  check(call.run(), word);
+  context.results.done(table_row(line.table()), "deleted");
+}
+
+void find(Context &context, const Invocation &invocation) {
+  EntryLine line(context, invocation);
+  line.refuse_outcome();
+  line.need_key();
+  Call call = context.device.prepare("match_spec_to_entry_hdl", line.table().name());
+  p4_pd_entry_handle_t entry = 0;
+  line.fill(call, false);
+  check(call.set("entry", &entry).run(), line.table_word());
+  line.remember(context, entry);
+  context.results.row(table_row(line.table()).number("entry", entry));
+}
+
+void count(Context &context, const Invocation &invocation) {
+  Results &results = context.results;
+  for (const Word &word : invocation.arguments) {
+    const TableInfo table = resolve_table(word);
+    results.row(count_row(table, entry_count(context.device, table, word)));
+  }
+  if (!invocation.arguments.empty()) return;
+  bool any = false;
+  for (const bindings::Record &record : tables()) {
+    const TableInfo table = resolve_table({record.name, 0});
+    const uint32_t entries = entry_count(context.device, table, invocation.command);
+    results.expect(count_row(table, entries));
+    if (entries == 0) continue;
+    any = true;
+    results.row(count_row(table, entries));
+  }
+  if (!any && !context.settings.json && !context.settings.count && !results.asks_for_names()) {
+    results.text("all tables are empty");
+  }
+}
+
+void show(Context &context, const Invocation &invocation) {
+  const TableLine line(context, invocation, {"entry"});
+  const bool raw = context.settings.raw;
+  if (!raw) expect_entries(context.results, line.table);
+  if (raw && !line.options.has("entry")) return dump_values(context, line.table, line.word);
+  EntryReader reader(context.device, line.table, EntryReader::Resources::settings);
+  line.for_each_entry([&](p4_pd_entry_handle_t entry) {
+    if (raw) return dump_value(context, line.table, entry, line.word);
+    context.results.row(entry_row(reader, entry, line.word));
+  });
+}
+
+// ---- Words ----
+
+std::string table_help(const TableInfo &table) {
+  static constexpr const char *kMatches[] = {"exact", "ternary", "prefix"};
+  if (!table.keyed()) return "no key";
+  std::string text = kMatches[std::min<size_t>(table.description->match, 2)];
+  text += ":";
+  for (const Field &field : table.record->shown()) text += " " + std::string(field.label);
+  return text;
+}
+
+void offer_tables(Offers &offers, const Command &command, Words given) {
+  const bool only_ageing = command.first_word() == "age";
+  for (const bindings::Record &record : tables()) {
+    if (!offers.begins(record.name)) continue;
+    const bool is_given = std::any_of(given.begin(), given.end(),
+                                      [&](const Word &word) { return word.text == record.name; });
+    const TableInfo table = resolve_table({record.name, 0});
+    if (!is_given && (!only_ageing || table.ages())) offers.offer(record.name, table_help(table));
+  }
+}
+
+void choose(Subject &subject, const soft_table_t &table) {
+  choose_table(subject, resolve_table({table.name, 0}));
+}
+
+void offer_all_actions(Offers &offers, const Command &, Words) {
+  for (const bindings::Record &record : actions()) offers.offer(record.name, "an action");
+}
+
+constexpr ObjectWord kWords[] = {{"TABLE", offer_tables, choose_object<soft_table_t, choose>},
+                                 {"ACTION", offer_all_actions}};
+
+constexpr Command kCommands[] = {
+    {"add", "TABLE FIELD=VALUE... [priority=N] [ttl=MS] [meter=CIR,CBS,PIR,PBS] [as=NAME] OUTCOME",
+     "adds an entry", add, Kind::changes},
+    {"modify", "TABLE entry=HANDLE|FIELD=VALUE... [priority=N] [meter=CIR,CBS,PIR,PBS] OUTCOME",
+     "gives an entry another action, member or group", modify, Kind::changes},
+    {"delete", "TABLE entry=HANDLE|FIELD=VALUE... [priority=N]", "deletes an entry", remove,
+     Kind::changes},
+    {"find", "TABLE FIELD=VALUE... [priority=N] [as=NAME]", "prints the handle of an entry", find},
+    {"count", "[TABLE...]", "counts the entries of tables, or of all that have any", count,
+     Kind::lists},
+    {"show", "TABLE [entry=HANDLE]", "prints the entries of a table, or one of them", show,
+     Kind::lists, "--raw"},
+};
+
+constexpr ItemKind kKinds[] = {
+    {kObjectKind<soft_table_t>, "entry", 21, kSteps, open_items<Entries, soft_table_t>}};
+
 }  // namespace
 
-extern const ItemKind kEntryKind = {kTableObjects, "entry", kSteps, [](const char *table) {
-                                      std::unique_ptr<ObjectItems> items;
-                                      if (resolve_table({table, 0}).keyed()) {
-                                        items = std::make_unique<Entries>(table);
-                                      }
-                                      return items;
-                                    }};
-
-std::span<const Command> entry_commands() { return kCommands; }
+extern const Topic kEntryTopic = {"Entries", kCommands, kWords, kKinds};
 
 }  // namespace tesselctl

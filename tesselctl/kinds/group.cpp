@@ -1,9 +1,13 @@
-// Groups of action profiles in images.
+// Groups of action profiles.
 #include <fmt/format.h>
 
 #include <algorithm>
 
+#include "soft_contents.h"
+#include "soft_traffic.h"
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/kinds/profile_items.hpp"
+#include "tesselctl/state/line_words.hpp"
 
 namespace tesselctl {
 
@@ -32,16 +36,19 @@ std::vector<uint64_t> numbers_of(const GroupValue &group, bool with_active) {
 
 // The members of "1,2,3" and those of them that are inactive.
 void parse_members(Word members, const Word *inactive, GroupValue &group) {
-  for (const uint32_t number : number_list(members)) group.members.push_back({number, 1});
+  for (const uint64_t number : number_list(members)) {
+    group.members.push_back({static_cast<uint32_t>(number), 1});
+  }
   std::ranges::sort(group.members);
   const auto twice = std::ranges::adjacent_find(group.members);
   if (twice != group.members.end()) {
     throw Fault(members, fmt::format("member #{} is there twice", twice->member));
   }
   if (inactive == nullptr) return;
-  for (const uint32_t number : number_list(*inactive)) {
-    const auto found = std::ranges::lower_bound(group.members, Membership{number, 1});
-    if (found == group.members.end() || *found != Membership{number, 1}) {
+  for (const uint64_t number : number_list(*inactive)) {
+    const Membership wanted = {static_cast<uint32_t>(number), 1};
+    const auto found = std::ranges::lower_bound(group.members, wanted);
+    if (found == group.members.end() || *found != wanted) {
       throw Fault(*inactive, fmt::format("member #{} is no active member of the group", number));
     }
     found->is_active = 0;
@@ -51,11 +58,11 @@ void parse_members(Word members, const Word *inactive, GroupValue &group) {
 // "group 1 size=4 members=1,2 inactive=2"
 class Groups : public ObjectItems {
  public:
-  explicit Groups(const char *profile) : profile_(need_row<soft_profile_t>(profile)) {}
+  explicit Groups(const soft_profile_t &profile) : profile_(profile) {}
 
   void parse(ValueScanner &line, ItemBytes &item) override {
     item.clear();
-    append_bytes(item.identity, parse_item_number(line));
+    append_bytes(item.identity, parse_counted(line, 1));
     const LineWords words(line, {"size", "members", "inactive"});
     GroupValue group;
     group.size = words.number32("size");
@@ -70,16 +77,18 @@ class Groups : public ObjectItems {
                    fmt::join(numbers_of(group, true), ","));
     if (!inactive.empty()) fmt::format_to(out, " inactive={}", fmt::join(inactive, ","));
   }
-  void add_to(Row &row, const ItemView &item) const override {
+  void add_to(Row &row, const ItemView &item, Naming naming) const override {
     const GroupValue group(item.value);
-    add_number(row, "group", read_bytes<uint32_t>(item.identity), Naming::numbers);
-    row.number("size", group.size).list("members", numbers_of(group, true));
+    add_number(row, "group", read_bytes<uint32_t>(item.identity), naming);
+    if (naming == Naming::numbers) row.number("size", group.size);
+    row.list("members", numbers_of(group, true));
     const auto inactive = numbers_of(group, false);
     if (!inactive.empty()) row.list("inactive", inactive);
   }
-  void add_samples_to(Row &row) const override {
-    add_number(row, "group", 0, Naming::numbers);
-    row.number("size", 0).list("members", {}).list("inactive", {});
+  void add_samples_to(Row &row, Naming naming) const override {
+    add_number(row, "group", 0, naming);
+    if (naming == Naming::numbers) row.number("size", 0);
+    row.list("members", {}).list("inactive", {});
   }
 
   void read(Source &from, const ItemVisitor &visit) override {
@@ -170,12 +179,81 @@ class Groups : public ObjectItems {
 constexpr Step kSteps[] = {
     {Phase::groups, Edit::add}, {Phase::groups, Edit::modify}, {Phase::groups_leave, Edit::remove}};
 
+constexpr ItemKind kKinds[] = {{kObjectKind<soft_profile_t>, "group", 11, kSteps,
+                                open_items<Groups, soft_profile_t>, Numbered::groups}};
+
+// ---- Commands ----
+
+// Of a group: as many as a device has cells of counters and registers.
+constexpr uint64_t kMostMembers = SOFT_COUNTER_CELLS;
+
+void add(Context &context, const Invocation &invocation) {
+  const ProfileLine line(context, invocation, {"size", "as"});
+  const uint64_t size = line.options.number("size", kMostMembers, 1);
+  p4_pd_group_handle_t group = 0;
+  line.run(line.call("create_group").set("max_size", size).set("group", &group));
+  line.remember(group);
+  line.done(line.row().number("group", group), "added");
+}
+
+void remove(Context &context, const Invocation &invocation) {
+  run_on_handles(context, invocation, "del_group", {"group"}, "deleted");
+}
+void join(Context &context, const Invocation &invocation) {
+  run_on_handles(context, invocation, "add_member_to_group", {"group", "member"}, "joined");
+}
+void leave(Context &context, const Invocation &invocation) {
+  run_on_handles(context, invocation, "del_member_from_group", {"group", "member"}, "left");
+}
+
+void set_state(Context &context, const Invocation &invocation, uint32_t state, const char *done) {
+  run_on_handles(context, invocation, "group_member_state_set", {"group", "member"}, done, &state);
+}
+void enable(Context &context, const Invocation &invocation) {
+  set_state(context, invocation, P4_PD_GRP_MBR_STATE_ACTIVE, "enabled");
+}
+void disable(Context &context, const Invocation &invocation) {
+  set_state(context, invocation, P4_PD_GRP_MBR_STATE_INACTIVE, "disabled");
+}
+
+void choose_member(Context &context, const Invocation &invocation) {
+  const ProfileLine line(context, invocation, {"group", "hash"});
+  const auto bytes = to_bytes(line.options.number("hash", 0xffffffffu));
+  const uint32_t group = line.options.handle(context, "group");
+  p4_pd_member_handle_t member = 0;
+  Call call = line.call("group_member_get_from_hash");
+  call.set("group", uint64_t{group}).set("member", &member);
+  call.set("hash", bytes.data() + 12).set("hash_length", uint64_t{4});
+  check_handles(call.run(), context.device, line.object.name,
+                {{"group", group, line.options.need("group")}}, line.word);
+  Row row = line.row().number("member", member);
+  add_member(row, context.device, line.object.name, member, line.word);
+  context.results.row(row);
+}
+
+void show(Context &context, const Invocation &invocation) {
+  print_items({context, invocation, {"group"}}, kKinds[0], "group");
+}
+
+constexpr Command kCommands[] = {
+    {"group add", "PROFILE size=N [as=NAME]", "adds a group for at most N members", add,
+     Kind::changes},
+    {"group delete", "PROFILE group=HANDLE", "deletes a group", remove, Kind::changes},
+    {"group join", "PROFILE group=HANDLE member=HANDLE", "puts a member into a group", join,
+     Kind::changes},
+    {"group leave", "PROFILE group=HANDLE member=HANDLE", "takes a member out", leave,
+     Kind::changes},
+    {"group enable", "PROFILE group=HANDLE member=HANDLE", "makes a member active", enable,
+     Kind::changes},
+    {"group disable", "PROFILE group=HANDLE member=HANDLE", "makes a member inactive", disable,
+     Kind::changes},
+    {"group choose", "PROFILE group=HANDLE hash=N", "prints the member that a hash chooses",
+     choose_member},
+    {"group show", "PROFILE [group=HANDLE]", "prints groups with their members", show, Kind::lists},
+};
+
 }  // namespace
 
-extern const ItemKind kGroupKind = {kProfileObjects, "group", kSteps,
-                                    [](const char *profile) -> std::unique_ptr<ObjectItems> {
-                                      return std::make_unique<Groups>(profile);
-                                    },
-                                    Numbered::groups};
+extern const Topic kGroupTopic = {"Members and groups", kCommands, {}, kKinds};
 
 }  // namespace tesselctl

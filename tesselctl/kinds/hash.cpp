@@ -1,57 +1,83 @@
 // Hash calculations.
-#include <fmt/format.h>
-
 #include <deque>
 
 #include "tesselctl/command/options.hpp"
-#include "tesselctl/command/subject.hpp"
-#include "tesselctl/program/library.hpp"
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/program/value.hpp"
-#include "tesselctl/state/kind.hpp"
-#include "tesselctl/state/line_words.hpp"
 #include "tesselctl/text/number.hpp"
 
 namespace tesselctl {
 
 namespace {
 
-const soft_hash_t &hash_of(const Invocation &invocation) {
-  return resolve_object<soft_hash_t>(need_argument(invocation, 0, "the name of a hash calculation"),
-                                     "hash calculation");
-}
+using HashLine = ObjectLine<soft_hash_t>;
+
+// ---- Items ----
+
+// "seed 0x1": one that was set.
+class HashSeed : public NumberItems {
+ public:
+  explicit HashSeed(const soft_hash_t &hash)
+      : NumberItems({.columns = {{.name = "seed", .limit = ~uint64_t{0}, .is_hexadecimal = true}},
+                     .identity = 0,
+                     .nameless = 1}),
+        hash_(hash) {}
+
+ protected:
+  void read_numbers(Source &from, const NumbersVisitor &visit) const override {
+    uint64_t seed = 0;
+    check(from.device.prepare("hash_calc_seed_get", hash_.name).set("seed", &seed).run(), {});
+    if (seed != 0) visit({seed});
+  }
+  void write_numbers(Target &to, Edit edit, const Numbers &seed, Word word) const override {
+    Call call = to.device.prepare("hash_calc_seed_set", hash_.name);
+    check(call.set("seed", edit == Edit::remove ? 0 : seed[0]).run(), word);
+  }
+
+ private:
+  const soft_hash_t &hash_;
+};
+
+// ---- Commands ----
+
+struct Setting {
+  const char *name;
+  const char *set;
+  const char *get;
+  uint64_t limit;
+};
+constexpr Setting kSettings[] = {
+    {"input", "hash_calc_input_set", "hash_calc_input_get", 0xffffffffu},
+    {"algorithm", "hash_calc_algorithm_set", "hash_calc_algorithm_get", 0xffffffffu},
+    {"seed", "hash_calc_seed_set", "hash_calc_seed_get", ~uint64_t{0}},
+};
 
 void set(Context &context, const Invocation &invocation) {
-  const soft_hash_t &hash = hash_of(invocation);
-  const Options options(invocation, 1, {"input", "algorithm", "seed"});
-  const char *names[] = {"input", "algorithm", "seed"};
-  const uint64_t limits[] = {0xffffffffu, 0xffffffffu, ~uint64_t{0}};
+  const HashLine line(context, invocation, {"input", "algorithm", "seed"});
   bool any = false;
-  for (size_t i = 0; i < std::size(names); ++i) {
-    if (!options.has(names[i])) continue;
+  for (const Setting &setting : kSettings) {
+    if (!line.options.has(setting.name)) continue;
     any = true;
-    Call call = context.device.prepare("hash_calc_" + std::string(names[i]) + "_set", hash.name);
-    check(call.set(names[i], options.number(names[i], limits[i])).run(), invocation.arguments[0]);
+    Call call = line.call(setting.set);
+    line.run(call.set(setting.name, line.options.number(setting.name, setting.limit)));
   }
-  if (!any) throw Fault(invocation.arguments[0], "input=, algorithm= or seed= is missing");
-  Row row;
-  context.results.done(row.object("hash", hash.name), "set");
+  if (!any) throw Fault(line.word, "input=, algorithm= or seed= is missing");
+  line.done("set");
 }
 
 void get(Context &context, const Invocation &invocation) {
-  const soft_hash_t &hash = hash_of(invocation);
-  refuse_arguments_from(invocation, 1);
-  uint32_t input = 0;
-  uint32_t algorithm = 0;
-  uint64_t seed = 0;
-  const Device &device = context.device;
-  const Word word = invocation.arguments[0];
-  check(device.prepare("hash_calc_input_get", hash.name).set("input", &input).run(), word);
-  check(device.prepare("hash_calc_algorithm_get", hash.name).set("algorithm", &algorithm).run(),
-        word);
-  check(device.prepare("hash_calc_seed_get", hash.name).set("seed", &seed).run(), word);
-  Row row;
-  row.object("hash", hash.name).number("input", input).number("algorithm", algorithm);
-  context.results.row(row.text("seed", hexadecimal(seed)));
+  const HashLine line(context, invocation);
+  Row row = line.row();
+  for (const Setting &setting : kSettings) {
+    uint64_t value = 0;  // those of 32 bits are its first bytes
+    line.run(line.call(setting.get).set(setting.name, &value));
+    if (setting.limit == ~uint64_t{0}) {
+      row.text(setting.name, hexadecimal(value));
+    } else {
+      row.number(setting.name, value);
+    }
+  }
+  context.results.row(row);
 }
 
 // "VALUE/BITS" words in the order of the calculation's fields.
@@ -89,26 +115,23 @@ class HashInput {
 };
 
 void compute(Context &context, const Invocation &invocation) {
-  const soft_hash_t &hash = hash_of(invocation);
+  const HashLine line(context, {invocation.command, invocation.arguments.first(std::min<size_t>(
+                                                        1, invocation.arguments.size()))});
   HashInput input;
   for (const Word &word : invocation.arguments.subspan(1)) input.add(word);
   uint8_t bytes[8] = {};
-  Call call = context.device.prepare("hash_calc_calculate_hash_value", hash.name);
+  Call call = line.call("hash_calc_calculate_hash_value");
   input.bind(call);
-  call.set("hash", bytes).set("hash_length", uint64_t{sizeof bytes});
-  check(call.run(), invocation.arguments[0]);
+  line.run(call.set("hash", bytes).set("hash_length", uint64_t{sizeof bytes}));
   Row row;
-  row.object("calculation", hash.name);
+  row.object("calculation", line.object.name);
   context.results.row(
       row.text("hash", fmt::format("{:#018x}", from_bytes(bytes, sizeof bytes).low)));
 }
 
-void offer_hashes(Offers &offers, const Command &, Words) {
-  offer_objects<soft_hash_t>(
-      offers, [](const soft_hash_t &row) { return std::to_string(row.field_count) + " fields"; });
-}
+std::string help_of(const soft_hash_t &hash) { return fmt::format("{} fields", hash.field_count); }
 
-constexpr ObjectWord kWords[] = {{"HASH", offer_hashes}};
+constexpr ObjectWord kWords[] = {{"HASH", offer_objects<soft_hash_t, help_of>}};
 
 constexpr Command kCommands[] = {
     {"hash set", "HASH [input=N] [algorithm=N] [seed=N]", "configures a hash calculation", set,
@@ -118,50 +141,11 @@ constexpr Command kCommands[] = {
      "computes the hash of values, in the order of the fields", compute},
 };
 
-// ---- In images ----
-
-// "seed 0x1": one that was set.
-class HashSeed : public CellItems<NoIdentity, uint64_t> {
- public:
-  explicit HashSeed(const char *hash) : hash_(hash) {}
-
- protected:
-  void parse_cell(ValueScanner &line, NoIdentity &, uint64_t &seed) const override {
-    seed = line.hexadecimal();
-    LineWords(line, {});
-  }
-  void print_cell(std::string &text, const NoIdentity &, const uint64_t &seed) const override {
-    text += hexadecimal(seed);
-  }
-  void add_cell(Row &row, const NoIdentity &, const uint64_t &seed) const override {
-    row.text("seed", hexadecimal(seed));
-  }
-  void read_cells(Source &from, const CellVisitor &visit) const override {
-    uint64_t seed = 0;
-    check(from.device.prepare("hash_calc_seed_get", hash_).set("seed", &seed).run(), {});
-    if (seed != 0) visit({}, seed);
-  }
-  void write_cell(Target &to, Edit edit, const NoIdentity &, const uint64_t &seed,
-                  Word word) const override {
-    Call call = to.device.prepare("hash_calc_seed_set", hash_);
-    check(call.set("seed", edit == Edit::remove ? 0 : seed).run(), word);
-  }
-
- private:
-  const char *hash_;
-};
-
-constexpr ObjectKind kHashObjects = {"hash", "hash calculation",
-                                     row_name<&program_rows<soft_hash_t>>};
+constexpr ItemKind kKinds[] = {
+    {kObjectKind<soft_hash_t>, "seed", 60, kCellSteps, open_items<HashSeed, soft_hash_t>}};
 
 }  // namespace
 
-extern const ItemKind kHashKind = {kHashObjects, "seed", kCellSteps,
-                                   [](const char *hash) -> std::unique_ptr<ObjectItems> {
-                                     return std::make_unique<HashSeed>(hash);
-                                   }};
-
-std::span<const Command> hash_commands() { return kCommands; }
-std::span<const ObjectWord> hash_words() { return kWords; }
+extern const Topic kHashTopic = {"Hash calculations", kCommands, kWords, kKinds};
 
 }  // namespace tesselctl

@@ -3,6 +3,7 @@
 #include "tesselctl/command/completion.hpp"
 #include "tesselctl/command/manual.hpp"
 #include "tesselctl/command/options.hpp"
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/text/files.hpp"
 
 namespace tesselctl {
@@ -66,6 +67,6 @@ constexpr Command kCommands[] = {
 
 }  // namespace
 
-std::span<const Command> help_commands() { return kCommands; }
+extern const Topic kHelpTopic = {"Help", kCommands};
 
 }  // namespace tesselctl

@@ -1,5 +1,6 @@
 // Images of the whole device: save and load.
 #include "tesselctl/command/output_file.hpp"
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/device/device_copy.hpp"
 #include "tesselctl/state/image_file.hpp"
 
@@ -54,6 +55,6 @@ constexpr Command kCommands[] = {
 
 }  // namespace
 
-std::span<const Command> image_commands() { return kCommands; }
+extern const Topic kImageTopic = {"Images", kCommands};
 
 }  // namespace tesselctl

@@ -5,10 +5,11 @@
 
 #include "p4_pd_tessel_switch.h"
 #include "soft_sdk.h"
-#include "tesselctl/command/options.hpp"
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/device/entry_texts.hpp"
 #include "tesselctl/device/entry_value.hpp"
 #include "tesselctl/device/read_back.hpp"
+#include "tesselctl/kinds/table_items.hpp"
 #include "tesselctl/program/field.hpp"
 #include "tesselctl/program/trace.hpp"
 #include "tesselctl/text/literal.hpp"
@@ -21,13 +22,6 @@ constexpr size_t kLineWidth = 100;
 
 const char *kind_of(const TableInfo &table) {
   return table.keyed() ? match_name(match_of(*table.record)) : "keyless";
-}
-
-uint32_t entry_count(const Context &context, const TableInfo &table, Word word) {
-  uint32_t count = 0;
-  Call call = context.device.prepare("get_entry_count", table.name());
-  check(call.set("count", &count).run(), word);
-  return count;
 }
 
 // How many entries the table may have.
@@ -68,7 +62,7 @@ void list_tables(Context &context, const Invocation &invocation) {
     row.object("table", table.name()).text("match", kind_of(table));
     row.number("actions", table.indirect() ? 0 : table.description->action_count);
     row.text("size", size_text(context, table))
-        .number("entries", entry_count(context, table, invocation.command));
+        .number("entries", entry_count(context.device, table, invocation.command));
     if (table.keyed()) row.text("fields", key_text(table, clipped ? 3 : ~size_t{0}));
     context.results.row(row);
   }
@@ -123,22 +117,11 @@ std::string parameters_text(const bindings::Record &action) {
   return text;
 }
 
-// The actions of a table or profile by name.
 template <class Object>
-std::vector<const bindings::Record *> actions_of(const Object &object) {
-  std::vector<const bindings::Record *> found;
-  for (uint32_t i = 0; i < object.action_count; ++i) {
-    found.push_back(&action_record(object.actions[i].name));
-  }
-  std::sort(found.begin(), found.end(),
-            [](const auto *a, const auto *b) { return std::string_view(a->name) < b->name; });
-  return found;
-}
-
-template <class Object>
-bool has_action(const Object &object, std::string_view action) {
-  return std::any_of(object.actions, object.actions + object.action_count,
-                     [&](const soft_action_t &one) { return action == one.name; });
+std::vector<const bindings::Record *> sorted_actions(const Object &object) {
+  std::vector<const bindings::Record *> actions = actions_of(object);
+  std::ranges::sort(actions, {}, [](const auto *action) { return std::string_view(action->name); });
+  return actions;
 }
 
 // Rows that have the same items, in columns of their own.
@@ -205,7 +188,7 @@ void tell_cells(Context &context, const TableInfo &table, const char *kind) {
 
 void describe_table(Context &context, const TableInfo &table, Word word) {
   const std::string handle = fmt::format("{:#010x}", table.description->handle);
-  const uint32_t entries = entry_count(context, table, word);
+  const uint32_t entries = entry_count(context.device, table, word);
   const std::string size = size_text(context, table);
   Row head;
   head.object("table", table.name()).text("match", kind_of(table)).text("handle", handle);
@@ -224,7 +207,7 @@ void describe_table(Context &context, const TableInfo &table, Word word) {
   print_columns(context, rows);
   if (table.indirect()) return;
   rows.clear();
-  for (const bindings::Record *action : actions_of(*table.description)) {
+  for (const bindings::Record *action : sorted_actions(*table.description)) {
     rows.push_back(Row()
                        .object("action", action->name)
                        .text("in", use_of(table.name(), action->name))
@@ -248,19 +231,19 @@ void describe_action(Context &context, std::string_view name) {
   print_columns(context, rows);
   rows.clear();
   for (const soft_table_t &table : program_rows<soft_table_t>()) {
-    if (!has_action(table, name)) continue;
+    if (find_action(table, name) == nullptr) continue;
     rows.push_back(Row().object("table", table.name).text("in", use_of(table.name, name)));
   }
   print_columns(context, rows);
   for (const soft_profile_t &profile : program_rows<soft_profile_t>()) {
-    if (!has_action(profile, name)) continue;
+    if (find_action(profile, name) == nullptr) continue;
     tell(context, Row().object("profile", profile.name),
          fmt::format("members of {}", profile.name));
   }
 }
 
 void describe_profile(Context &context, std::string_view name) {
-  const soft_profile_t &profile = resolve_object<soft_profile_t>({name, 0}, "profile");
+  const soft_profile_t &profile = *find_object<soft_profile_t>(name);
   const std::string members = fmt::format("{:#010x}", profile.action_data_table);
   const std::string groups = fmt::format("{:#010x}", profile.selector);
   tell(context,
@@ -268,7 +251,7 @@ void describe_profile(Context &context, std::string_view name) {
        fmt::format("{}: action profile, handles {} of members and {} of groups", name, members,
                    groups));
   std::vector<Row> rows;
-  for (const bindings::Record *action : actions_of(profile)) {
+  for (const bindings::Record *action : sorted_actions(profile)) {
     rows.push_back(
         Row().object("action", action->name).text("parameters", parameters_text(*action)));
   }
@@ -295,33 +278,26 @@ void describe(Context &context, const Invocation &invocation) {
 // ---- Entries ----
 
 void dump(Context &context, const Invocation &invocation) {
-  const Word word = need_argument(invocation, 0, "the name of a table");
-  const TableInfo table = resolve_table(word);
-  const Options options(invocation, 1, {"entry"});
-  if (!options.has("entry")) return dump_values(context, table, word);
-  dump_value(context, table, options.handle(context, "entry"), word);
+  const TableLine line(context, invocation, {"entry"});
+  if (!line.options.has("entry")) return dump_values(context, line.table, line.word);
+  dump_value(context, line.table, line.options.handle(context, "entry"), line.word);
 }
 
 void display(Context &context, const Invocation &invocation) {
-  const Word word = need_argument(invocation, 0, "the name of a table");
-  const TableInfo table = resolve_table(word);
-  const Options options(invocation, 1, {"entry"});
-  expect_entries(context.results, table);
-  ValueStrings values(context.device, table);
+  const TableLine line(context, invocation, {"entry"});
+  expect_entries(context.results, line.table);
+  ValueStrings values(context.device, line.table);
   const bindings::Record *action = nullptr;
-  const auto print = [&](p4_pd_entry_handle_t entry) {
-    std::string_view line = values.line(entry, word);
-    line.remove_suffix(1);
-    ValueScanner scanner(line, 1);
+  line.for_each_entry([&](p4_pd_entry_handle_t entry) {
+    std::string_view text = values.line(entry, line.word);
+    text.remove_suffix(1);
+    ValueScanner scanner(text, 1);
     ItemBytes item;
-    parse_entry(scanner, table, action, item);
-    Row row;
-    row.object("table", table.name()).number("entry", entry);
-    add_entry(row, table, item.view(), Naming::handles);
+    parse_entry(scanner, line.table, action, item);
+    Row row = line.row().number("entry", entry);
+    add_entry(row, line.table, item.view(), Naming::handles);
     context.results.row(row);
-  };
-  if (options.has("entry")) return print(options.handle(context, "entry"));
-  for_each_entry(context.device, table, word, print);
+  });
 }
 
 constexpr Command kCommands[] = {
@@ -339,6 +315,6 @@ constexpr Command kCommands[] = {
 
 }  // namespace
 
-std::span<const Command> introspection_commands() { return kCommands; }
+extern const Topic kIntrospectionTopic = {"Names and shapes", kCommands};
 
 }  // namespace tesselctl

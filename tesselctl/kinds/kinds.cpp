@@ -1,19 +1,41 @@
-// The list of kinds: a row each.
+// The list of topics: a row for each file of this room that has commands or kinds of items. Help,
+// the manual page and completion have the commands in this order.
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/state/kind.hpp"
+
+#include <algorithm>
+
+#include "tesselctl/command/command.hpp"
 
 namespace tesselctl {
 
-extern const ItemKind kMemberKind, kGroupKind, kFallbackKind;
-extern const ItemKind kDefaultKind, kEntryKind, kAgeingKind;
-extern const ItemKind kCounterKind, kMeterKind, kRegisterKind, kRegisterCellKind;
-extern const ItemKind kHashKind, kValueSetKind;
+extern const Topic kEntryTopic, kDefaultTopic, kMemberTopic, kGroupTopic, kFallbackTopic;
+extern const Topic kMeterTopic, kCounterTopic, kRegisterTopic, kHashTopic, kValueSetTopic;
+extern const Topic kTrafficTopic, kDigestTopic, kSnapshotTopic, kAgeingTopic, kStateTopic;
+extern const Topic kImageTopic, kCompareTopic, kRoutesTopic, kIntrospectionTopic, kReportTopic;
+extern const Topic kToolTopic, kHelpTopic;
+
+std::span<const Topic *const> command_topics() {
+  static constexpr const Topic *kTopics[] = {
+      &kEntryTopic,   &kDefaultTopic, &kMemberTopic,   &kGroupTopic,         &kFallbackTopic,
+      &kMeterTopic,   &kCounterTopic, &kRegisterTopic, &kHashTopic,          &kValueSetTopic,
+      &kTrafficTopic, &kDigestTopic,  &kSnapshotTopic, &kAgeingTopic,        &kStateTopic,
+      &kImageTopic,   &kCompareTopic, &kRoutesTopic,   &kIntrospectionTopic, &kReportTopic,
+      &kToolTopic,    &kHelpTopic,
+  };
+  return kTopics;
+}
 
 std::span<const ItemKind *const> kinds() {
-  static constexpr const ItemKind *kKinds[] = {
-      &kMemberKind,  &kGroupKind, &kFallbackKind, &kDefaultKind,      &kEntryKind, &kAgeingKind,
-      &kCounterKind, &kMeterKind, &kRegisterKind, &kRegisterCellKind, &kHashKind,  &kValueSetKind,
-  };
-  return kKinds;
+  static const std::vector<const ItemKind *> ordered = [] {
+    std::vector<const ItemKind *> all;
+    for (const Topic *topic : command_topics()) {
+      for (const ItemKind &kind : topic->kinds) all.push_back(&kind);
+    }
+    std::ranges::sort(all, {}, &ItemKind::order);
+    return all;
+  }();
+  return ordered;
 }
 
 }  // namespace tesselctl

@@ -1,18 +1,15 @@
-// Members of action profiles in images.
+// Members of action profiles.
 #include <fmt/format.h>
 
+#include <algorithm>
+
+#include "tesselctl/command/topic.hpp"
+#include "tesselctl/device/entry_value.hpp"
 #include "tesselctl/kinds/profile_items.hpp"
+#include "tesselctl/program/record.hpp"
+#include "tesselctl/state/line_words.hpp"
 
 namespace tesselctl {
-
-const ObjectKind kProfileObjects = {"profile", "profile", row_name<&program_rows<soft_profile_t>>};
-
-uint32_t parse_item_number(ValueScanner &line) {
-  const Word word = line.here();
-  const int64_t number = line.decimal();
-  if (number <= 0) throw Fault(word, "numbers begin with 1");
-  return static_cast<uint32_t>(number);
-}
 
 uint32_t need_handle(const NumberMap &numbers, const char *what, uint32_t number, Word word) {
   const uint32_t handle = numbers.handle_of(number);
@@ -20,16 +17,56 @@ uint32_t need_handle(const NumberMap &numbers, const char *what, uint32_t number
   return handle;
 }
 
+void print_items(const ProfileLine &line, const ItemKind &kind, const char *option) {
+  const bool one = line.options.has(option);
+  const uint32_t wanted = one ? line.options.handle(line.context, option) : 0;
+  bool found = !one;
+  Numbering numbering = Numbering::by_handle();
+  Source from = {line.context.device, numbering};
+  const auto items = kind.open(line.object.name);
+  Row sample = line.row();
+  items->add_samples_to(sample, Naming::handles);
+  line.context.results.expect(sample);
+  items->read(from, [&](const ItemView &item) {
+    if (one && read_bytes<uint32_t>(item.identity) != wanted) return;
+    found = true;
+    Row row = line.row();
+    items->add_to(row, item, Naming::handles);
+    line.context.results.row(row);
+  });
+  if (!found) check(BF_OBJECT_NOT_FOUND, line.options.need(option));
+}
+
+void run_on_handles(Context &context, const Invocation &invocation, const char *family,
+                    std::initializer_list<std::string_view> names, const char *done,
+                    const uint32_t *state) {
+  const ProfileLine line(context, invocation, names);
+  Call call = line.call(family);
+  Row row = line.row();
+  std::vector<WrittenHandle> handles;
+  for (const std::string_view name : names) {
+    const uint32_t handle = line.options.handle(context, name);
+    call.set(name, uint64_t{handle});
+    row.number(name, handle);
+    handles.push_back({name, handle, line.options.need(name)});
+  }
+  if (state != nullptr) call.set("state", uint64_t{*state});
+  check_handles(call.run(), context.device, line.object.name, handles, line.word);
+  line.done(row, done);
+}
+
 namespace {
+
+// ---- Items ----
 
 // "member 1 ('setEcmpNextHop',(0x0009,)),": its number, and its action as entries have it.
 class Members : public ObjectItems {
  public:
-  explicit Members(const char *profile) : profile_(need_row<soft_profile_t>(profile)) {}
+  explicit Members(const soft_profile_t &profile) : profile_(profile) {}
 
   void parse(ValueScanner &line, ItemBytes &item) override {
     item.clear();
-    append_bytes(item.identity, parse_item_number(line));
+    append_bytes(item.identity, parse_counted(line, 1));
     line.expect(" ");
     const Word action = parse_action(line, last_action_, item.value);
     need_call("add_member", action, item.value);
@@ -39,12 +76,12 @@ class Members : public ObjectItems {
     fmt::format_to(std::back_inserter(text), "{} ", read_bytes<uint32_t>(item.identity));
     print_action(text, item.value);
   }
-  void add_to(Row &row, const ItemView &item) const override {
-    add_number(row, "member", read_bytes<uint32_t>(item.identity), Naming::numbers);
+  void add_to(Row &row, const ItemView &item, Naming naming) const override {
+    add_number(row, "member", read_bytes<uint32_t>(item.identity), naming);
     add_action(row, item.value);
   }
-  void add_samples_to(Row &row) const override {
-    add_number(row, "member", 0, Naming::numbers);
+  void add_samples_to(Row &row, Naming naming) const override {
+    add_number(row, "member", 0, naming);
     add_member_samples(row, profile_);
   }
 
@@ -111,12 +148,88 @@ constexpr Step kSteps[] = {{Phase::members, Edit::add},
                            {Phase::members, Edit::modify},
                            {Phase::members_leave, Edit::remove}};
 
+constexpr ItemKind kKinds[] = {{kObjectKind<soft_profile_t>, "member", 10, kSteps,
+                                open_items<Members, soft_profile_t>, Numbered::members}};
+
+// ---- Commands ----
+
+// "PROFILE [NAME=VALUE...] action=NAME [PARAM=VALUE...]"
+struct MemberLine {
+  MemberLine(Context &context, const Invocation &invocation, std::string_view option)
+      : words(invocation.arguments),
+        action_at(static_cast<size_t>(std::ranges::find_if(words, is_action) - words.begin())),
+        line(context, {invocation.command, words.first(has_action() ? action_at : object_words())},
+             {option}),
+        action(read_action()) {}
+
+  // Sets the parameters, as far as the action has any.
+  Call call(std::string_view family) const {
+    Call call = line.context.device.prepare(family, line.object.name, action.record().name);
+    return call.set_if_taken("action_spec", static_cast<const void *>(action.data()));
+  }
+
+  Words words;
+  size_t action_at;
+  ProfileLine line;
+  RecordWriter action;
+
+ private:
+  static bool is_action(const Word &word) { return word.text.starts_with("action="); }
+  bool has_action() const { return action_at != words.size(); }
+  size_t object_words() const { return std::min<size_t>(1, words.size()); }
+  RecordWriter read_action() const {
+    if (!has_action()) throw Fault(line.word, "action= is missing");
+    const Word name = words[action_at].from(7);
+    RecordWriter read(resolve_action(line.object, name), std::string(name.text));
+    for (const Word &word : words.subspan(action_at + 1)) read.set(split_assignment(word));
+    read.finish(name);
+    return read;
+  }
+};
+
+void add(Context &context, const Invocation &invocation) {
+  const MemberLine words(context, invocation, "as");
+  p4_pd_member_handle_t member = 0;
+  words.line.run(words.call("add_member").set("member", &member));
+  words.line.remember(member);
+  words.line.done(words.line.row().number("member", member), "added");
+}
+
+void modify(Context &context, const Invocation &invocation) {
+  const MemberLine words(context, invocation, "member");
+  const ProfileLine &line = words.line;
+  const uint32_t member = line.options.handle(context, "member");
+  check_handles(words.call("modify_member").set("member", uint64_t{member}).run(), context.device,
+                line.object.name, {{"member", member, line.options.need("member")}}, line.word);
+  line.done(line.row().number("member", member), "modified");
+}
+
+void remove(Context &context, const Invocation &invocation) {
+  run_on_handles(context, invocation, "del_member", {"member"}, "deleted");
+}
+
+void show(Context &context, const Invocation &invocation) {
+  print_items({context, invocation, {"member"}}, kKinds[0], "member");
+}
+
+std::string help_of(const soft_profile_t &profile) {
+  return profile.selector != 0 ? "members and groups" : "members";
+}
+
+constexpr ObjectWord kWords[] = {{"PROFILE", offer_objects<soft_profile_t, help_of>,
+                                  choose_object<soft_profile_t, choose_profile>}};
+
+constexpr Command kCommands[] = {
+    {"member add", "PROFILE [as=NAME] action=NAME [PARAM=VALUE...]", "adds a member", add,
+     Kind::changes},
+    {"member modify", "PROFILE member=HANDLE action=NAME [PARAM=VALUE...]",
+     "changes the parameters of a member", modify, Kind::changes},
+    {"member delete", "PROFILE member=HANDLE", "deletes a member", remove, Kind::changes},
+    {"member show", "PROFILE [member=HANDLE]", "prints members", show, Kind::lists},
+};
+
 }  // namespace
 
-extern const ItemKind kMemberKind = {kProfileObjects, "member", kSteps,
-                                     [](const char *profile) -> std::unique_ptr<ObjectItems> {
-                                       return std::make_unique<Members>(profile);
-                                     },
-                                     Numbered::members};
+extern const Topic kMemberTopic = {"Members and groups", kCommands, kWords, kKinds};
 
 }  // namespace tesselctl

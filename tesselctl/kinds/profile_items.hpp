@@ -1,18 +1,23 @@
 // What the kinds of profiles have in common.
 #pragma once
 
-#include "soft_contents.h"
-#include "tesselctl/kinds/table_items.hpp"
+#include "tesselctl/command/options.hpp"
+#include "tesselctl/state/kind.hpp"
 
 namespace tesselctl {
 
-extern const ObjectKind kProfileObjects;
-
-// The number that a line begins with. Throws Fault.
-uint32_t parse_item_number(ValueScanner &line);
+using ProfileLine = ObjectLine<soft_profile_t>;
 
 // The handle behind a number. Throws Fault at the word.
 uint32_t need_handle(const NumberMap &numbers, const char *what, uint32_t number, Word word);
+
+// Prints the items of a profile, or the one whose handle the option of that name gives.
+void print_items(const ProfileLine &line, const ItemKind &kind, const char *option);
+
+// A command that takes handles and does nothing but call a function that answers with a status.
+void run_on_handles(Context &context, const Invocation &invocation, const char *family,
+                    std::initializer_list<std::string_view> names, const char *done,
+                    const uint32_t *state = nullptr);
 
 // A member of a group, by its number.
 struct Membership {

@@ -1,159 +1,213 @@
-// Registers in images: the value that most cells have, and those cells that have another one.
-#include <fmt/format.h>
-
+// Registers. Images have the value that most cells have, and those cells that have another one.
+#include "soft_contents.h"
 #include "soft_state.h"
-#include "tesselctl/device/read_back.hpp"
-#include "tesselctl/state/kind.hpp"
-#include "tesselctl/state/line_words.hpp"
+#include "tesselctl/command/topic.hpp"
+#include "tesselctl/kinds/synchronise.hpp"
+#include "tesselctl/text/number.hpp"
 
 namespace tesselctl {
 
 namespace {
 
-// One value for every pipe.
-struct RegisterValues {
-  static constexpr uint32_t kMost = 8;
-  uint32_t count;
-  std::array<uint32_t, kMost> values;
+using RegisterLine = ObjectLine<soft_register_t>;
+using Numbers = NumberItems::Numbers;
 
-  std::span<const uint32_t> span() const { return {values.data(), count}; }
-  bool are_zero() const { return values == decltype(values){}; }
+constexpr uint32_t kRangeLimit = 4096;
+constexpr uint32_t kLastCell = SOFT_REGISTER_CELLS - 1;
+
+// Cells that a call wrote into an array: the smallest integers that hold one.
+class CellBuffer {
+ public:
+  CellBuffer(const soft_register_t &reg, size_t cells)
+      : size_(reg.width <= 8 ? 1 : reg.width / 8), words_(cells) {}
+
+  uint32_t *data() { return words_.data(); }
+  Numbers values(size_t first, size_t count) const {
+    Numbers values(count);
+    const auto *bytes = reinterpret_cast<const uint8_t *>(words_.data()) + first * size_;
+    for (uint64_t &value : values) {
+      memcpy(&value, bytes, size_);
+      bytes += size_;
+    }
+    return values;
+  }
+
+ private:
+  size_t size_;
+  std::vector<uint32_t> words_;
 };
 
-RegisterValues read_register(const Device &device, const soft_register_t &reg, uint32_t index) {
-  RegisterValues values = {};
-  uint32_t raw[RegisterValues::kMost] = {};
+// One value a pipe.
+Numbers read_cell(const Device &device, const soft_register_t &reg, uint64_t index, uint64_t flags,
+                  Word word) {
+  CellBuffer buffer(reg, device.pipes());
+  uint32_t count = 0;
   Call call = device.prepare("register_read", reg.name);
-  call.set("index", uint64_t{index}).set("flags", uint64_t{P4_PD_READ_FROM_HARDWARE});
-  check(call.set("values", raw).set("value_count", &values.count).run(), {});
-  for (uint32_t i = 0; i < values.count; ++i) values.values[i] = register_value(reg.width, raw, i);
-  return values;
+  call.set("index", index).set("flags", flags);
+  check(call.set("values", buffer.data()).set("value_count", &count).run(), word);
+  return buffer.values(0, count);
 }
 
-// Into one cell, or into all without one.
-void write_register(const Device &device, const soft_register_t &reg, const uint32_t *index,
-                    const RegisterValues &values, Word word) {
-  if (values.count != device.pipes()) {
-    throw Fault(word, fmt::format("there should be {} values, one a pipe", device.pipes()));
+// Into one cell, or without an index into all.
+void write_value(const Device &device, const p4_pd_device_target_t &target,
+                 const soft_register_t &reg, const uint64_t *index, uint64_t number, Word word) {
+  const auto value = static_cast<uint32_t>(number);
+  Call call = device.prepare(index != nullptr ? "register_write" : "register_write_all", reg.name);
+  if (index != nullptr) call.set("index", *index);
+  check(call.set("target", &target).set("value", &value).run(), word);
+}
+
+// ---- Items ----
+
+// "all 1,1,1,1" and "cell 8 0,0,0,0": one value a pipe.
+class RegisterItems : public NumberItems {
+ protected:
+  RegisterItems(const soft_register_t &reg, Layout layout)
+      : NumberItems(std::move(layout)), reg_(reg) {}
+
+  static Column values(const soft_register_t &reg) {
+    return {.name = "values", .limit = low_ones(reg.width).low, .count = 0};
   }
-  for (uint32_t pipe = 0; pipe < values.count; ++pipe) {
-    const p4_pd_device_target_t target = device.target_of(pipe);
-    Call call =
-        device.prepare(index == nullptr ? "register_write_all" : "register_write", reg.name);
-    call.set("target", &target).set("value", &values.values[pipe]);
-    if (index != nullptr) call.set("index", uint64_t{*index});
-    check(call.run(), word);
+  // The values that most cells have: those of the last one.
+  Numbers common(const Device &device) const { return read(device, kLastCell); }
+  Numbers read(const Device &device, uint64_t index) const {
+    return read_cell(device, reg_, index, P4_PD_READ_FROM_HARDWARE, {});
   }
-}
-
-// The value that most cells have: that of the last one.
-RegisterValues common_values(const Device &device, const soft_register_t &reg) {
-  return read_register(device, reg, SOFT_REGISTER_CELLS - 1);
-}
-
-RegisterValues parse_values(ValueScanner &line, const soft_register_t &reg) {
-  const Word word = line.word();
-  const std::vector<uint32_t> numbers = number_list(word);
-  RegisterValues values = {};
-  if (numbers.size() > values.values.size()) throw Fault(word, "no device has so many pipes");
-  for (const uint32_t number : numbers) {
-    if (reg.width < 32 && number >> reg.width != 0) {
-      throw Fault(word, fmt::format("the cells have {} bits", reg.width));
+  void write(const Device &device, const uint64_t *index, std::span<const uint64_t> values,
+             Word word) const {
+    if (values.size() != device.pipes()) {
+      throw Fault(word, fmt::format("there should be {} values, one a pipe", device.pipes()));
     }
-    values.values[values.count++] = number;
+    for (uint32_t pipe = 0; pipe < values.size(); ++pipe) {
+      write_value(device, device.target_of(pipe), reg_, index, values[pipe], word);
+    }
   }
-  return values;
-}
 
-void print_values(std::string &text, const RegisterValues &values) {
-  fmt::format_to(std::back_inserter(text), "{}", fmt::join(values.span(), ","));
-}
+  const soft_register_t &reg_;
+};
 
-void add_values(Row &row, const RegisterValues &values) {
-  row.list("values", {values.span().begin(), values.span().end()});
-}
-
-// "all 1,1,1,1": of the cells that have no line.
-class CommonValues : public CellItems<NoIdentity, RegisterValues> {
+// Of the cells that have no line.
+class CommonValues : public RegisterItems {
  public:
-  explicit CommonValues(const soft_register_t &reg) : reg_(reg) {}
+  explicit CommonValues(const soft_register_t &reg)
+      : RegisterItems(reg,
+                      {.columns = {values(reg)}, .identity = 0, .nameless = 1, .what = "all"}) {}
 
  protected:
-  void parse_cell(ValueScanner &line, NoIdentity &, RegisterValues &values) const override {
-    values = parse_values(line, reg_);
-  }
-  void print_cell(std::string &text, const NoIdentity &,
-                  const RegisterValues &values) const override {
-    print_values(text, values);
-  }
-  void add_cell(Row &row, const NoIdentity &, const RegisterValues &values) const override {
-    add_values(row.object("what", "all"), values);
-  }
-  void read_cells(Source &from, const CellVisitor &visit) const override {
-    const RegisterValues values = common_values(from.device, reg_);
-    if (!values.are_zero()) visit({}, values);
+  void read_numbers(Source &from, const NumbersVisitor &visit) const override {
+    const Numbers values = common(from.device);
+    if (values != Numbers(values.size())) visit(values);
   }
   // Cells that have another value keep it.
-  void write_cell(Target &to, Edit edit, const NoIdentity &, const RegisterValues &values,
-                  Word word) const override {
-    std::vector<std::pair<uint32_t, RegisterValues>> others;
-    for_each_cell(to.device, reg_.handle, [&](uint32_t index) {
-      others.emplace_back(index, read_register(to.device, reg_, index));
-    });
-    const RegisterValues zeros = {to.device.pipes(), {}};
-    write_register(to.device, reg_, nullptr, edit == Edit::remove ? zeros : values, word);
-    for (const auto &[index, kept] : others) write_register(to.device, reg_, &index, kept, word);
+  void write_numbers(Target &to, Edit edit, const Numbers &values, Word word) const override {
+    std::vector<std::pair<uint64_t, Numbers>> others;
+    for_each_cell(to.device, reg_.handle,
+                  [&](uint64_t index) { others.emplace_back(index, read(to.device, index)); });
+    const Numbers zeros(to.device.pipes());
+    write(to.device, nullptr, edit == Edit::remove ? zeros : values, word);
+    for (const auto &[index, kept] : others) write(to.device, &index, kept, word);
   }
-
- private:
-  const soft_register_t &reg_;
 };
 
-// "cell 8 0,0,0,0": removed, it gets the value that most have.
-class RegisterCells : public CellItems<uint32_t, RegisterValues> {
+// Removed, one gets the value that most have.
+class RegisterCells : public RegisterItems {
  public:
-  explicit RegisterCells(const soft_register_t &reg) : reg_(reg) {}
+  explicit RegisterCells(const soft_register_t &reg)
+      : RegisterItems(
+            reg, {.columns = {{.name = "index"}, values(reg)}, .identity = 1, .nameless = 2}) {}
 
  protected:
-  void parse_cell(ValueScanner &line, uint32_t &index, RegisterValues &values) const override {
-    index = parse_index(line);
-    line.expect(" ");
-    values = parse_values(line, reg_);
+  void read_numbers(Source &from, const NumbersVisitor &visit) const override {
+    for_each_cell(from.device, reg_.handle, [&](uint64_t index) {
+      Numbers numbers = read(from.device, index);
+      numbers.insert(numbers.begin(), index);
+      visit(numbers);
+    });
   }
-  void print_cell(std::string &text, const uint32_t &index,
-                  const RegisterValues &values) const override {
-    text += std::to_string(index) + " ";
-    print_values(text, values);
+  void write_numbers(Target &to, Edit edit, const Numbers &cell, Word word) const override {
+    const Numbers all = edit == Edit::remove ? common(to.device) : Numbers();
+    write(to.device, cell.data(), edit == Edit::remove ? all : std::span(cell).subspan(1), word);
   }
-  void add_cell(Row &row, const uint32_t &index, const RegisterValues &values) const override {
-    add_values(row.number("index", index), values);
-  }
-  void read_cells(Source &from, const CellVisitor &visit) const override {
-    for_each_cell(from.device, reg_.handle,
-                  [&](uint32_t index) { visit(index, read_register(from.device, reg_, index)); });
-  }
-  void write_cell(Target &to, Edit edit, const uint32_t &index, const RegisterValues &values,
-                  Word word) const override {
-    write_register(to.device, reg_, &index,
-                   edit == Edit::remove ? common_values(to.device, reg_) : values, word);
-  }
-
- private:
-  const soft_register_t &reg_;
 };
 
-constexpr ObjectKind kRegisterObjects = {"register", "register",
-                                         row_name<&program_rows<soft_register_t>>};
+// ---- Commands ----
 
-template <class Items>
-std::unique_ptr<ObjectItems> open(const char *name) {
-  return std::make_unique<Items>(need_row<soft_register_t>(name));
+Row cell_row(const RegisterLine &line, uint64_t index, const Numbers &values) {
+  return line.row().number("index", index).list("values", values);
 }
+
+void read(Context &context, const Invocation &invocation) {
+  const RegisterLine line(context, invocation, {"index", "source"});
+  const uint64_t index = line.options.number("index", kLastCell);
+  context.results.row(
+      cell_row(line, index,
+               read_cell(context.device, line.object, index, read_flags(line.options), line.word)));
+}
+
+void read_range(Context &context, const Invocation &invocation) {
+  const RegisterLine line(context, invocation, {"first", "count", "source"});
+  const uint64_t first = line.options.number("first", kLastCell);
+  const uint64_t wanted =
+      line.options.number("count", std::min<uint64_t>(kRangeLimit, SOFT_REGISTER_CELLS - first));
+  CellBuffer buffer(line.object, static_cast<size_t>(wanted) * context.device.pipes() + 1);
+  uint32_t indexes = 0;
+  uint32_t count = 0;
+  Call call = line.call("register_range_read");
+  call.set("first", first).set("index_count", wanted).set("flags", read_flags(line.options));
+  call.set("indexes_read", &indexes).set("values", buffer.data()).set("value_count", &count);
+  line.run(call);
+  const size_t each = indexes == 0 ? 0 : count / indexes;
+  context.results.expect(cell_row(line, first, {}));
+  for (uint32_t i = 0; i < indexes; ++i) {
+    context.results.row(cell_row(line, first + i, buffer.values(i * each, each)));
+  }
+}
+
+void write(Context &context, const Invocation &invocation) {
+  const RegisterLine line(context, invocation, {"index", "value"});
+  const uint64_t value = line.options.number("value", low_ones(line.object.width).low);
+  const uint64_t index = line.options.number_or("index", kLastCell, 0);
+  write_value(context.device, context.device.target(), line.object,
+              line.options.has("index") ? &index : nullptr, value, line.word);
+  line.done("written");
+}
+
+void reset(Context &context, const Invocation &invocation) {
+  const RegisterLine line(context, invocation, {"first", "count"});
+  const bool range = line.options.has("first") || line.options.has("count");
+  Call call = line.call(range ? "register_range_reset" : "register_reset_all");
+  if (range) {
+    call.set("first", line.options.number("first", kLastCell));
+    call.set("index_count", line.options.number("count", 0xffffffffu));
+  }
+  line.run(call);
+  line.done("reset");
+}
+
+std::string help_of(const soft_register_t &reg) { return fmt::format("{} bits", reg.width); }
+
+constexpr ObjectWord kWords[] = {{"REGISTER", offer_objects<soft_register_t, help_of>}};
+
+constexpr Command kCommands[] = {
+    {"register read", "REGISTER index=N [source=hardware|software]",
+     "prints a register cell, one value a pipe", read},
+    {"register range", "REGISTER first=N count=N [source=hardware|software]",
+     "prints several cells", read_range, Kind::lists},
+    {"register write", "REGISTER [index=N] value=N", "writes a register cell, or all of them",
+     write, Kind::changes},
+    {"register reset", "REGISTER [first=N count=N]", "clears a register, or cells of it", reset,
+     Kind::changes},
+    {"register sync", "REGISTER", "brings the software copy of a register up to date",
+     synchronise<soft_register_t>, Kind::changes},
+};
+
+constexpr ItemKind kKinds[] = {{kObjectKind<soft_register_t>, "all", 50, kCellSteps,
+                                open_items<CommonValues, soft_register_t>},
+                               {kObjectKind<soft_register_t>, "cell", 51, kCellSteps,
+                                open_items<RegisterCells, soft_register_t>}};
 
 }  // namespace
 
-extern const ItemKind kRegisterKind = {kRegisterObjects, "all", kCellSteps, open<CommonValues>};
-extern const ItemKind kRegisterCellKind = {kRegisterObjects, "cell", kCellSteps,
-                                           open<RegisterCells>};
+extern const Topic kRegisterTopic = {"Counters and registers", kCommands, kWords, kKinds};
 
 }  // namespace tesselctl

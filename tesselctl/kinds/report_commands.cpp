@@ -4,6 +4,7 @@
 #include "tesselctl/command/command.hpp"
 #include "tesselctl/command/options.hpp"
 #include "tesselctl/command/output_file.hpp"
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/device/device_copy.hpp"
 #include "tesselctl/report/report.hpp"
 #include "tesselctl/state/changes.hpp"
@@ -126,6 +127,6 @@ constexpr Command kCommands[] = {
 
 }  // namespace
 
-std::span<const Command> report_commands() { return kCommands; }
+extern const Topic kReportTopic = {"Reports", kCommands};
 
 }  // namespace tesselctl

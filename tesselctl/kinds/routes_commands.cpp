@@ -3,6 +3,7 @@
 
 #include "tesselctl/command/command.hpp"
 #include "tesselctl/command/options.hpp"
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/kinds/routes.hpp"
 
 namespace tesselctl {
@@ -40,6 +41,6 @@ constexpr Command kCommands[] = {
 
 }  // namespace
 
-std::span<const Command> routes_commands() { return kCommands; }
+extern const Topic kRoutesTopic = {"Routes", kCommands};
 
 }  // namespace tesselctl

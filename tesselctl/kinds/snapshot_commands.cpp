@@ -5,8 +5,7 @@
 #include "p4_pd_tessel_switch.h"
 #include "soft_snapshot.h"
 #include "tesselctl/command/options.hpp"
-#include "tesselctl/program/library.hpp"
-#include "tesselctl/program/record.hpp"
+#include "tesselctl/command/topic.hpp"
 
 namespace tesselctl {
 
@@ -25,34 +24,12 @@ const bindings::Record &record_in(const bindings::RecordList &records, const cha
   throw Fault(word, fmt::format("the program has no {} snapshots", name));
 }
 
-// The words that are options of the command; the others are fields.
-class SnapshotLine {
- public:
-  SnapshotLine(const Invocation &invocation, std::initializer_list<std::string_view> names)
-      : command_(invocation.command) {
-    for (const Word &word : invocation.arguments) {
-      const Assignment assignment = split_assignment(word);
-      const bool is_option =
-          std::find(names.begin(), names.end(), assignment.name.text) != names.end();
-      (is_option ? options_ : fields_).push_back(word);
-    }
-  }
-  Options options(std::initializer_list<std::string_view> names) const {
-    return {{command_, options_}, 0, names};
-  }
-  // Of the record of a direction.
-  RecordWriter fields(const bindings::RecordList &records, uint32_t direction) const {
-    const char *name = direction_name(direction);
-    RecordWriter record(record_in(records, name, command_), std::string(name) + " snapshot");
-    for (const Word &word : fields_) record.set(split_assignment(word));
-    return record;
-  }
-
- private:
-  Word command_;
-  std::vector<Word> options_;
-  std::vector<Word> fields_;
-};
+// Those words that are no options, in the record of a direction.
+RecordWriter record_of(const FieldWords &words, const bindings::RecordList &records,
+                       uint32_t direction) {
+  const char *name = direction_name(direction);
+  return words.record(record_in(records, name, words.command), std::string(name) + " snapshot");
+}
 
 uint32_t direction_of(const Options &options) {
   return static_cast<uint32_t>(options.choice_or("direction", {"ingress", "egress"}, 0));
@@ -80,7 +57,7 @@ void create(Context &context, const Invocation &invocation) {
   const uint32_t direction = direction_of(options);
   uint32_t snapshot = 0;
   Call call = context.device.prepare("snapshot_create", "");
-  call.set("pipe", options.number_or("pipe", context.device.pipes() - 1, BF_ALL_PIPES));
+  call.set("pipe", uint64_t{pipe_of(context, options, BF_ALL_PIPES)});
   call.set("first_stage", uint64_t{stages.first}).set("last_stage", uint64_t{stages.last});
   call.set("direction", uint64_t{direction}).set("snapshot", &snapshot);
   check(call.run(), invocation.command);
@@ -98,10 +75,10 @@ void remove(Context &context, const Invocation &invocation) {
 
 // Bit 1 of a handle tells the direction.
 void trigger(Context &context, const Invocation &invocation) {
-  const SnapshotLine line(invocation, {"snapshot"});
-  const Options options = line.options({"snapshot"});
+  const FieldWords words(invocation, 0, {"snapshot"});
+  const Options options(words.options(), 0, {"snapshot"});
   const uint32_t snapshot = options.handle(context, "snapshot");
-  const RecordWriter fields = line.fields(bindings::binding.triggers, snapshot >> 1 & 1);
+  const RecordWriter fields = record_of(words, bindings::binding.triggers, snapshot >> 1 & 1);
   const uint8_t *mask = fields.data() + program().snapshot_bytes;
   Call call = context.device.prepare("snapshot_capture_trigger_set", "");
   call.set("snapshot", uint64_t{snapshot}).set("value", fields.data()).set("mask", mask);
@@ -111,19 +88,18 @@ void trigger(Context &context, const Invocation &invocation) {
 
 // The packet carries the same fields at all of its stages; those that are not given are 0.
 void inject(Context &context, const Invocation &invocation) {
-  const SnapshotLine line(invocation, {"first", "last", "direction", "pipe"});
-  const Options options = line.options({"first", "last", "direction", "pipe"});
+  const FieldWords words(invocation, 0, {"first", "last", "direction", "pipe"});
+  const Options options(words.options(), 0, {"first", "last", "direction", "pipe"});
   const Stages stages(options);
   const uint32_t direction = direction_of(options);
-  const RecordWriter fields = line.fields(bindings::binding.packets, direction);
+  const RecordWriter fields = record_of(words, bindings::binding.packets, direction);
   const uint32_t count = stages.last - stages.first + 1u;
   std::vector<uint8_t> records(size_t{count} * program().snapshot_bytes);
   for (uint32_t i = 0; i < count; ++i) {
     std::copy_n(fields.data(), program().snapshot_bytes,
                 records.data() + size_t{i} * program().snapshot_bytes);
   }
-  const auto pipe =
-      static_cast<bf_pipe_id_t>(options.number_or("pipe", context.device.pipes() - 1, 0));
+  const bf_pipe_id_t pipe = pipe_of(context, options, 0);
   uint32_t captures = 0;
   check(soft_snapshot_inject(context.device.id(), pipe, direction, stages.first, records.data(),
                              count, static_cast<uint32_t>(records.size()), &captures),
@@ -152,7 +128,7 @@ void show(Context &context, const Invocation &invocation) {
   uint32_t captures = 0;
   Call call = context.device.prepare("snapshot_capture_data_get", "");
   call.set("snapshot", uint64_t{snapshot});
-  call.set("pipe", options.number_or("pipe", context.device.pipes() - 1, BF_ALL_PIPES));
+  call.set("pipe", uint64_t{pipe_of(context, options, BF_ALL_PIPES)});
   call.set("records", records.data()).set("control", control.data()).set("captures", &captures);
   const uint64_t status = call.run();
   if (status == BF_NOT_READY) return;
@@ -181,6 +157,6 @@ constexpr Command kCommands[] = {
 
 }  // namespace
 
-std::span<const Command> snapshot_commands() { return kCommands; }
+extern const Topic kSnapshotTopic = {"Snapshots", kCommands};
 
 }  // namespace tesselctl

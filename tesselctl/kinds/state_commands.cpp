@@ -1,86 +1,17 @@
-// Time and state: ageing on the virtual clock, and the state that the library keeps of a device.
+// The state that the library keeps of a device.
 #include <cjson/cJSON.h>
 
 #include <algorithm>
 #include <memory>
 
 #include "soft_sdk.h"
-#include "tesselctl/command/options.hpp"
 #include "tesselctl/command/output_file.hpp"
-#include "tesselctl/device/entry_line.hpp"
-#include "tesselctl/device/read_back.hpp"
-#include "tesselctl/kinds/digest_commands.hpp"
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/text/files.hpp"
 
 namespace tesselctl {
 
 namespace {
-
-// ---- Ageing ----
-
-TableInfo ageing_table(const Invocation &invocation) {
-  const Word word = need_argument(invocation, 0, "the name of a table");
-  const TableInfo table = resolve_table(word);
-  if (!table.ages()) throw Fault(word, std::string(table.name()) + " does not age its entries");
-  return table;
-}
-
-void note_expired(bf_device_id_t, pipe_object_handle_t table, pipe_entry_handle_t entry,
-                  void *events) {
-  static_cast<Events *>(events)->expired.push_back({table, entry});
-}
-
-void age_enable(Context &context, const Invocation &invocation) {
-  const TableInfo table = ageing_table(invocation);
-  const Options options(invocation, 1, {"sweep", "min", "max", "ttl"});
-  pipe_mgr_idle_params_t parameters = {};
-  parameters.mode = PIPE_IDLE_NOTIFY;
-  const auto milliseconds = [&](const char *name, uint64_t otherwise) {
-    return static_cast<uint32_t>(options.number_or(name, 0xffffffffu, otherwise));
-  };
-  parameters.sweep_interval_ms = milliseconds("sweep", 1000);
-  parameters.min_ttl_ms = milliseconds("min", 0);
-  parameters.max_ttl_ms = milliseconds("max", 0);
-  parameters.default_ttl_ms = milliseconds("ttl", 0);
-  Call listen = context.device.prepare("idle_register_tmo_cb", table.name());
-  listen.set("callback", reinterpret_cast<const void *>(&note_expired));
-  listen.set("client_data", &context.device.events());
-  check(listen.run(), invocation.arguments[0]);
-  Call enable = context.device.prepare("idle_tmo_enable", table.name());
-  check(enable.set("params", &parameters).run(), invocation.arguments[0]);
-  Row row;
-  context.results.done(row.object("table", table.name()), "ages its entries");
-}
-
-void age_disable(Context &context, const Invocation &invocation) {
-  const TableInfo table = ageing_table(invocation);
-  refuse_arguments_from(invocation, 1);
-  check(context.device.prepare("idle_tmo_disable", table.name()).run(), invocation.arguments[0]);
-  Row row;
-  context.results.done(row.object("table", table.name()), "no longer ages its entries");
-}
-
-void age_advance(Context &context, const Invocation &invocation) {
-  const Word word = need_argument(invocation, 0, "a number of milliseconds");
-  refuse_arguments_from(invocation, 1);
-  constexpr uint64_t kYear = 366ull * 24 * 3600 * 1000;
-  std::vector<ExpiredEntry> &all_expired = context.device.events().expired;
-  all_expired.clear();
-  soft_clock_advance(parse_limited(word, kYear, "the time"));
-  for (const ExpiredEntry &expired : all_expired) {
-    const TableInfo table = table_of_handle(expired.table);
-    EntryReader reader(context.device, table, EntryReader::Resources::settings);
-    ItemBytes item;
-    check(reader.read(expired.entry, item), word);
-    Row row;
-    row.object("table", table.name()).number("entry", expired.entry).object("event", "expired");
-    add_entry(row, table, item.view(), Naming::handles);
-    context.results.row(row);
-  }
-  tell_messages(context);
-}
-
-// ---- State ----
 
 struct DeleteJson {
   void operator()(cJSON *item) const { cJSON_Delete(item); }
@@ -124,23 +55,12 @@ void state_restore(Context &context, const Invocation &invocation) {
 }
 
 constexpr Command kCommands[] = {
-    {"age enable", "TABLE [sweep=MS] [ttl=MS] [min=MS] [max=MS]",
-     "starts ageing; ttl is that of entries added without one", age_enable, Kind::changes},
-    {"age disable", "TABLE", "ends ageing", age_disable, Kind::changes},
-    {"age advance",
-     "MS",
-     "lets time pass and lists the entries that expire and the messages that arrive",
-     age_advance,
-     Kind::changes,
-     {},
-     false,
-     true},
     {"state log", "FILE", "writes the member and group state of the library", state_log},
     {"state restore", "FILE", "reads it back", state_restore, Kind::changes},
 };
 
 }  // namespace
 
-std::span<const Command> state_commands() { return kCommands; }
+extern const Topic kStateTopic = {"Time and state", kCommands};
 
 }  // namespace tesselctl

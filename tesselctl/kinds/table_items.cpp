@@ -8,8 +8,6 @@
 
 namespace tesselctl {
 
-const ObjectKind kTableObjects = {"table", "table", row_name<&tables>};
-
 namespace {
 
 void append_number(std::string &text, std::string_view name, uint64_t value) {
@@ -24,8 +22,8 @@ void store_head(std::string &value, const EntryHead &head) {
 
 }  // namespace
 
-TableItems::TableItems(const char *table, bool keyed, Families families)
-    : table_(resolve_table({table, 0})),
+TableItems::TableItems(const soft_table_t &table, bool keyed, Families families)
+    : table_(resolve_table({table.name, 0})),
       keyed_(keyed),
       families_(families),
       counter_(resource_of<soft_counter_t>(table_)) {}
@@ -110,11 +108,7 @@ TableItems::ActionCalls &TableItems::calls_of(const bindings::Record &action) {
 
 void TableItems::check_action(const bindings::Record &action, Word word) {
   if (calls_of(action).add != nullptr) return;
-  const std::span<const soft_action_t> own(table_.description->actions,
-                                           table_.description->action_count);
-  const bool is_own = std::any_of(own.begin(), own.end(), [&](const soft_action_t &one) {
-    return one.name == std::string_view(action.name);
-  });
+  const bool is_own = find_action(*table_.description, action.name) != nullptr;
   throw Fault(word, !is_own  ? "the table has no action of this name"
                     : keyed_ ? "this action is for default entries only"
                              : "the action cannot be the default");

@@ -3,13 +3,25 @@
 
 #include <optional>
 
+#include "tesselctl/command/options.hpp"
 #include "tesselctl/device/entry_value.hpp"
 #include "tesselctl/state/kind.hpp"
 #include "tesselctl/state/line_words.hpp"
 
 namespace tesselctl {
 
-extern const ObjectKind kTableObjects;
+// "TABLE [NAME=VALUE...]"
+struct TableLine : ObjectLine<soft_table_t> {
+  using ObjectLine::ObjectLine;
+
+  // The entry whose handle the option entry= gives, or all of them.
+  void for_each_entry(const std::function<void(p4_pd_entry_handle_t)> &visit) const {
+    if (options.has("entry")) return visit(options.handle(context, "entry"));
+    tesselctl::for_each_entry(context.device, table, word, visit);
+  }
+
+  TableInfo table = resolve_table(word);
+};
 
 // Entries or default entries:
 //   ((( 0x01,0x0a000000,0x0008,),('setNextHop',(0x000c,)),),(0,True)) ttl=0
@@ -18,10 +30,10 @@ class TableItems : public ObjectItems {
  public:
   void parse(ValueScanner &line, ItemBytes &item) override;
   void print(std::string &text, const ItemView &item) const override;
-  void add_to(Row &row, const ItemView &item) const override {
-    add_entry(row, table_, item, Naming::numbers);
+  void add_to(Row &row, const ItemView &item, Naming naming) const override {
+    add_entry(row, table_, item, naming);
   }
-  void add_samples_to(Row &row) const override { add_entry_samples(row, table_); }
+  void add_samples_to(Row &row, Naming) const override { add_entry_samples(row, table_); }
   uint32_t profile() const override { return table_.description->action_data_table; }
   void renumber(std::span<char> identity, std::span<char> value,
                 const Renumbering &numbers) const override;
@@ -43,7 +55,7 @@ class TableItems : public ObjectItems {
   };
 
   // keyed says whether the items have keys; the families are those of functions with an action.
-  TableItems(const char *table, bool keyed, Families families);
+  TableItems(const soft_table_t &table, bool keyed, Families families);
 
   const TableInfo &table() const { return table_; }
   // Reads the entry with numbers for handles. Throws Fault.

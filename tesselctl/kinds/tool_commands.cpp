@@ -1,5 +1,6 @@
 // What the tool does itself. The functions here are reached where a line does not come from the
 // tool that it was typed into: on a server, and in a script that is one transaction.
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/command/watch_line.hpp"
 
 namespace tesselctl {
@@ -48,6 +49,6 @@ constexpr Command kCommands[] = {
 
 }  // namespace
 
-std::span<const Command> tool_commands() { return kCommands; }
+extern const Topic kToolTopic = {"Scripts, servers and repetition", kCommands};
 
 }  // namespace tesselctl

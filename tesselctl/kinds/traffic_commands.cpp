@@ -4,6 +4,7 @@
 #include "soft_sdk.h"
 #include "soft_traffic.h"
 #include "tesselctl/command/options.hpp"
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/device/entry_line.hpp"
 #include "tesselctl/device/read_back.hpp"
 
@@ -14,27 +15,20 @@ namespace {
 // "TABLE FIELD=VALUE... [NAME=VALUE...]": a key with the values of a packet, and options.
 class PacketLine {
  public:
-  PacketLine(const Invocation &invocation, std::initializer_list<std::string_view> names)
+  PacketLine(Context &context, const Invocation &invocation,
+             std::initializer_list<std::string_view> names)
       : word_(need_argument(invocation, 0, "the name of a table")),
         table_(resolve_table(word_)),
-        fields_(*table_.record, table_.name()) {
-    for (const Word &word : invocation.arguments.subspan(1)) {
-      const Assignment assignment = split_assignment(word);
-      const bool is_option =
-          std::find(names.begin(), names.end(), assignment.name.text) != names.end();
-      if (is_option && !has_field_named(*table_.record, assignment.name.text)) {
-        option_words_.push_back(word);
-      } else {
-        fields_.set(assignment);
-      }
-    }
+        words_(invocation, 1, names, table_.record),
+        fields_(words_.record(*table_.record, table_.name())),
+        options(words_.options(), 1, names),
+        pipe(pipe_of(context, options, 0)) {
     fields_.finish(word_);
     pack();
   }
 
   Word word() const { return word_; }
   const TableInfo &table() const { return table_; }
-  Invocation options() const { return {word_, option_words_}; }
   const uint8_t *key() const { return key_.empty() ? nullptr : key_.data(); }
   uint32_t length() const { return static_cast<uint32_t>(key_.size()); }
 
@@ -53,14 +47,14 @@ class PacketLine {
 
   Word word_;
   TableInfo table_;
+  FieldWords words_;
   RecordWriter fields_;
-  std::vector<Word> option_words_;
   std::vector<uint8_t> key_;
-};
 
-bf_pipe_id_t pipe_of(const Context &context, const Options &options) {
-  return static_cast<bf_pipe_id_t>(options.number_or("pipe", context.device.pipes() - 1, 0));
-}
+ public:
+  const Options options;
+  const bf_pipe_id_t pipe;
+};
 
 Row hit_row(const Context &context, const PacketLine &line, p4_pd_entry_handle_t entry,
             bool is_default) {
@@ -74,21 +68,20 @@ Row miss_row(const PacketLine &line) {
 }
 
 void lookup(Context &context, const Invocation &invocation) {
-  const PacketLine line(invocation, {"pipe"});
-  const Options options(line.options(), 0, {"pipe"});
+  const PacketLine line(context, invocation, {"pipe"});
   pipe_entry_handle_t entry = 0;
   bool is_default = false;
   const bf_status_t status =
-      soft_lookup(context.device.id(), pipe_of(context, options), line.table().record->number,
-                  line.key(), line.length(), &entry, &is_default);
+      soft_lookup(context.device.id(), line.pipe, line.table().record->number, line.key(),
+                  line.length(), &entry, &is_default);
   if (status == BF_TABLE_MISS) return context.results.row(miss_row(line));
   check(status, line.word());
   context.results.row(hit_row(context, line, entry, is_default));
 }
 
 void traffic(Context &context, const Invocation &invocation) {
-  const PacketLine line(invocation, {"pipe", "packets", "bytes", "hash"});
-  const Options options(line.options(), 0, {"pipe", "packets", "bytes", "hash"});
+  const PacketLine line(context, invocation, {"pipe", "packets", "bytes", "hash"});
+  const Options &options = line.options;
   const auto hash = to_bytes(options.number_or("hash", 0xffffffffu, 0));
   soft_traffic_t packets = {};
   packets.key = line.key();
@@ -98,8 +91,8 @@ void traffic(Context &context, const Invocation &invocation) {
   packets.packets = options.number_or("packets", 1ull << 48, 1);
   packets.bytes = options.number_or("bytes", 1ull << 56, 64 * packets.packets);
   soft_hit_t hit = {};
-  const bf_status_t status = soft_traffic_hit(context.device.id(), pipe_of(context, options),
-                                              line.table().record->number, &packets, &hit);
+  const bf_status_t status =
+      soft_traffic_hit(context.device.id(), line.pipe, line.table().record->number, &packets, &hit);
   if (status == BF_TABLE_MISS) return context.results.row(miss_row(line));
   check(status, line.word());
   const char *colors[] = {"green", "yellow", "red"};
@@ -117,6 +110,6 @@ constexpr Command kCommands[] = {
 
 }  // namespace
 
-std::span<const Command> traffic_commands() { return kCommands; }
+extern const Topic kTrafficTopic = {"Packets", kCommands};
 
 }  // namespace tesselctl

@@ -89,39 +89,6 @@ const bindings::Record &action_record(std::string_view name) {
 
 const soft_program_t &program() { return soft_program_tessel_switch; }
 
-template <>
-std::span<const soft_table_t> program_rows() {
-  return {program().tables, program().table_count};
-}
-template <>
-std::span<const soft_profile_t> program_rows() {
-  return {program().profiles, program().profile_count};
-}
-template <>
-std::span<const soft_counter_t> program_rows() {
-  return {program().counters, program().counter_count};
-}
-template <>
-std::span<const soft_meter_t> program_rows() {
-  return {program().meters, program().meter_count};
-}
-template <>
-std::span<const soft_register_t> program_rows() {
-  return {program().registers, program().register_count};
-}
-template <>
-std::span<const soft_hash_t> program_rows() {
-  return {program().hashes, program().hash_count};
-}
-template <>
-std::span<const soft_digest_t> program_rows() {
-  return {program().digests, program().digest_count};
-}
-template <>
-std::span<const soft_value_set_t> program_rows() {
-  return {program().value_sets, program().value_set_count};
-}
-
 void throw_unknown(Word word, std::string_view kind, const std::vector<std::string_view> &names) {
   throw Fault(word, "no " + std::string(kind) + " has this name", nearest(word.text, names));
 }

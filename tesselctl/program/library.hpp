@@ -12,6 +12,7 @@
 #include "bindings/export_table.hpp"
 #include "soft_program.h"
 #include "tesselctl/text/fault.hpp"
+#include "tesselctl/text/suggest.hpp"
 
 namespace tesselctl {
 
@@ -33,34 +34,57 @@ const bindings::Record *find_record(std::span<const bindings::Record> records,
 // The program as the device learns it.
 const soft_program_t &program();
 
-// The description of a named object of the program: soft_table_t, soft_meter_t and so on.
+// The named objects of a kind: soft_table_t, soft_meter_t and so on.
 template <class Row>
-std::span<const Row> program_rows();
+struct ProgramObjects {
+  std::string_view keyword;  // of images and answers: "valueset"
+  std::string_view noun;     // "value set"
+  const Row *soft_program_t::*rows;
+  uint32_t soft_program_t::*count;
+};
+template <class Row>
+inline constexpr ProgramObjects<Row> kObjects = {};
 template <>
-std::span<const soft_table_t> program_rows();
+inline constexpr ProgramObjects<soft_table_t> kObjects<soft_table_t> = {
+    "table", "table", &soft_program_t::tables, &soft_program_t::table_count};
 template <>
-std::span<const soft_profile_t> program_rows();
+inline constexpr ProgramObjects<soft_profile_t> kObjects<soft_profile_t> = {
+    "profile", "profile", &soft_program_t::profiles, &soft_program_t::profile_count};
 template <>
-std::span<const soft_counter_t> program_rows();
+inline constexpr ProgramObjects<soft_counter_t> kObjects<soft_counter_t> = {
+    "counter", "counter", &soft_program_t::counters, &soft_program_t::counter_count};
 template <>
-std::span<const soft_meter_t> program_rows();
+inline constexpr ProgramObjects<soft_meter_t> kObjects<soft_meter_t> = {
+    "meter", "meter", &soft_program_t::meters, &soft_program_t::meter_count};
 template <>
-std::span<const soft_register_t> program_rows();
+inline constexpr ProgramObjects<soft_register_t> kObjects<soft_register_t> = {
+    "register", "register", &soft_program_t::registers, &soft_program_t::register_count};
 template <>
-std::span<const soft_hash_t> program_rows();
+inline constexpr ProgramObjects<soft_hash_t> kObjects<soft_hash_t> = {
+    "hash", "hash calculation", &soft_program_t::hashes, &soft_program_t::hash_count};
 template <>
-std::span<const soft_digest_t> program_rows();
+inline constexpr ProgramObjects<soft_digest_t> kObjects<soft_digest_t> = {
+    "digest", "digest", &soft_program_t::digests, &soft_program_t::digest_count};
 template <>
-std::span<const soft_value_set_t> program_rows();
+inline constexpr ProgramObjects<soft_value_set_t> kObjects<soft_value_set_t> = {
+    "valueset", "value set", &soft_program_t::value_sets, &soft_program_t::value_set_count};
+
+template <class Row>
+std::span<const Row> program_rows() {
+  return {program().*kObjects<Row>.rows, program().*kObjects<Row>.count};
+}
+// The object of that name, or null.
+template <class Row>
+const Row *find_object(std::string_view name) {
+  for (const Row &row : program_rows<Row>()) {
+    if (name == row.name) return &row;
+  }
+  return nullptr;
+}
 
 // The row whose name is the word. Throws Fault "no KIND has this name" with a near name.
 template <class Row>
 const Row &resolve(Word word, std::span<const Row> rows, std::string_view kind);
-
-template <class Row>
-const Row &resolve_object(Word word, std::string_view kind) {
-  return resolve(word, program_rows<Row>(), kind);
-}
 
 [[noreturn]] void throw_unknown(Word word, std::string_view kind,
                                 const std::vector<std::string_view> &names);
@@ -73,6 +97,38 @@ const Row &resolve(Word word, std::span<const Row> rows, std::string_view kind) 
     names.push_back(row.name);
   }
   throw_unknown(word, kind, names);
+}
+
+template <class Row>
+const Row &resolve_object(Word word) {
+  return resolve(word, program_rows<Row>(), kObjects<Row>.noun);
+}
+
+// The actions of a table or profile.
+template <class Object>
+std::vector<const bindings::Record *> actions_of(const Object &object) {
+  std::vector<const bindings::Record *> found;
+  for (const soft_action_t &action : std::span(object.actions, object.action_count)) {
+    found.push_back(&action_record(action.name));
+  }
+  return found;
+}
+// The one of that name, or null.
+template <class Object>
+const bindings::Record *find_action(const Object &object, std::string_view name) {
+  for (const bindings::Record *action : actions_of(object)) {
+    if (name == action->name) return action;
+  }
+  return nullptr;
+}
+// Throws Fault when there is none.
+template <class Object>
+const bindings::Record &resolve_action(const Object &object, Word name) {
+  if (const bindings::Record *action = find_action(object, name.text)) return *action;
+  std::vector<std::string_view> names;
+  for (const bindings::Record *action : actions_of(object)) names.emplace_back(action->name);
+  throw Fault(name, std::string(object.name) + " has no action of this name",
+              nearest(name.text, names));
 }
 
 }  // namespace tesselctl

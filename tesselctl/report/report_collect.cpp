@@ -344,7 +344,7 @@ class Collector {
     items->read(from_, [&](const ItemView &item) {
       if (count++ >= limit_) return;
       Row row;
-      items->add_to(row, item);
+      items->add_to(row, item, Naming::numbers);
       other.text += (count == 1 ? "" : "; ") + row.words();
     });
     if (count > limit_) other.text += fmt::format(" and {} more", grouped(count - limit_));

@@ -1,4 +1,5 @@
 #include "tesselctl/shell/tool_completion.hpp"
+#include "tesselctl/command/topic.hpp"
 
 #include <algorithm>
 #include <cstdlib>

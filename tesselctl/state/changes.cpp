@@ -124,19 +124,18 @@ Row object_row(std::string_view sign, const ItemKind &kind, const char *object) 
 
 Row change_row(std::string_view sign, const DeviceState::Part &part, const ItemStore::Item &item) {
   Row row = object_row(sign, *part.kind, part.object);
-  part.access->add_to(row, item.view());
+  part.access->add_to(row, item.view(), Naming::numbers);
   return row;
 }
 
 void expect_changes(Results &results) {
   if (!results.asks_for_names()) return;
   for (const ItemKind *kind : kinds()) {
-    const char *object;
-    for (size_t i = 0; (object = kind->object.name(i)) != nullptr; ++i) {
+    for (size_t i = 0; const char *object = kind->object.name(i); ++i) {
       const auto items = kind->open(object);
       if (!items) continue;
       Row row = object_row("-", *kind, object);
-      items->add_samples_to(row);
+      items->add_samples_to(row, Naming::numbers);
       results.expect(row.object("change", "+"));
     }
   }

@@ -1,6 +1,11 @@
 #include "tesselctl/state/kind.hpp"
 
+#include <fmt/format.h>
+
 #include <algorithm>
+
+#include "tesselctl/state/line_words.hpp"
+#include "tesselctl/text/number.hpp"
 
 namespace tesselctl {
 
@@ -16,6 +21,127 @@ std::span<const ItemKind *const> kinds_of_same_objects(size_t at) {
     return &kind->object != &all.front()->object;
   });
   return all.first(static_cast<size_t>(end - all.begin()));
+}
+
+// ---- Items that are numbers ----
+
+namespace {
+
+using Column = NumberItems::Column;
+using Numbers = NumberItems::Numbers;
+
+std::string text_of(const Column &column, std::span<const uint64_t> numbers) {
+  std::string text;
+  for (const uint64_t number : numbers) {
+    text += text.empty() ? "" : ",";
+    text += column.is_hexadecimal ? hexadecimal(number) : decimal(number);
+  }
+  return text;
+}
+
+// A number without its name. Throws Fault.
+uint64_t parse_nameless(ValueScanner &line, const Column &column) {
+  const Word word = line.here();
+  if (!column.is_hexadecimal) return parse_counted(line, column.least);
+  const uint64_t number = line.hexadecimal();
+  if (number <= column.limit) return number;
+  throw Fault(word, fmt::format("{} is at most {:#x}", column.name, column.limit));
+}
+
+void append_list(Numbers &numbers, const Column &column, Word word) {
+  const std::vector<uint64_t> list = number_list(word, column.limit);
+  if (column.count != 0 && list.size() != column.count) {
+    throw Fault(word, fmt::format("{} is {} numbers", column.name, column.count));
+  }
+  numbers.insert(numbers.end(), list.begin(), list.end());
+}
+
+// Visits the columns with their numbers.
+template <class Visit>
+void for_each_column(const NumberItems::Layout &layout, const Numbers &numbers, Visit visit) {
+  auto rest = std::span(numbers);
+  for (const Column &column : layout.columns) {
+    const size_t count = column.count == 0 ? rest.size() : column.count;
+    visit(column, rest.first(count));
+    rest = rest.subspan(count);
+  }
+}
+
+}  // namespace
+
+void NumberItems::parse(ValueScanner &line, ItemBytes &item) {
+  Numbers numbers;
+  const auto columns = std::span(layout_.columns);
+  for (const Column &column : columns.first(layout_.nameless)) {
+    if (&column != columns.data()) line.expect(" ");
+    if (column.count != 1) {
+      append_list(numbers, column, line.word());
+      return store(numbers, item);
+    }
+    numbers.push_back(parse_nameless(line, column));
+  }
+  const auto named = columns.subspan(layout_.nameless);
+  std::vector<std::string_view> names;
+  for (const Column &column : named) names.push_back(column.name);
+  const LineWords words(line, names);
+  for (const Column &column : named) {
+    if (column.count == 1) {
+      numbers.push_back(words.number(column.name, column.limit, column.otherwise));
+    } else {
+      append_list(numbers, column, words.need(column.name));
+    }
+  }
+  store(numbers, item);
+}
+
+void NumberItems::print(std::string &text, const ItemView &item) const {
+  size_t at = 0;
+  for_each_column(layout_, unpacked(item), [&](const Column &column, auto numbers) {
+    if (at > 0) text += ' ';
+    if (at++ >= layout_.nameless) text += std::string(column.name) + "=";
+    text += text_of(column, numbers);
+  });
+}
+
+void NumberItems::add_numbers(Row &row, const Numbers &all) const {
+  if (!layout_.what.empty()) row.object("what", layout_.what);
+  for_each_column(layout_, all, [&](const Column &column, auto numbers) {
+    if (column.is_hexadecimal) {
+      row.text(column.name, text_of(column, numbers));
+    } else if (column.count == 1) {
+      row.number(column.name, numbers.front());
+    } else {
+      row.list(column.name, {numbers.begin(), numbers.end()});
+    }
+  });
+}
+
+void NumberItems::add_samples_to(Row &row, Naming) const {
+  Numbers zeros;
+  for (const Column &column : layout_.columns) zeros.resize(zeros.size() + column.count);
+  add_numbers(row, zeros);
+}
+
+void NumberItems::read(Source &from, const ItemVisitor &visit) {
+  ItemBytes item;
+  read_numbers(from, [&](const Numbers &numbers) {
+    store(numbers, item);
+    visit(item.view());
+  });
+}
+
+Numbers NumberItems::unpacked(const ItemView &item) {
+  Numbers numbers((item.identity.size() + item.value.size()) / sizeof(uint64_t));
+  char *bytes = reinterpret_cast<char *>(numbers.data());
+  item.value.copy(bytes + item.identity.copy(bytes, item.identity.size()), item.value.size());
+  return numbers;
+}
+
+void NumberItems::store(const Numbers &numbers, ItemBytes &item) const {
+  const auto *bytes = reinterpret_cast<const char *>(numbers.data());
+  const size_t identity = layout_.identity * sizeof(uint64_t);
+  item.identity.assign(bytes, identity);
+  item.value.assign(bytes + identity, numbers.size() * sizeof(uint64_t) - identity);
 }
 
 }  // namespace tesselctl

@@ -8,8 +8,7 @@
 #include <memory>
 #include <span>
 
-#include "tesselctl/device/item.hpp"
-#include "tesselctl/program/library.hpp"
+#include "tesselctl/device/read_back.hpp"
 #include "tesselctl/program/value_scanner.hpp"
 #include "tesselctl/state/numbering.hpp"
 #include "tesselctl/text/row.hpp"
@@ -58,10 +57,10 @@ class ObjectItems {
   // The line of an image behind its keyword, to its end. Throws Fault with the column.
   virtual void parse(ValueScanner &line, ItemBytes &item) = 0;
   virtual void print(std::string &text, const ItemView &item) const = 0;
-  // In the words of commands; members and groups by number.
-  virtual void add_to(Row &row, const ItemView &item) const = 0;
+  // In the words of commands.
+  virtual void add_to(Row &row, const ItemView &item, Naming naming) const = 0;
   // All that rows of such items may have, for Results::expect.
-  virtual void add_samples_to(Row &row) const = 0;
+  virtual void add_samples_to(Row &row, Naming naming) const = 0;
 
   // Visits what the device holds, in the order of images. Throws Fault.
   virtual void read(Source &from, const ItemVisitor &visit) = 0;
@@ -110,80 +109,89 @@ struct ObjectKind {
 struct ItemKind {
   const ObjectKind &object;
   std::string_view keyword;  // of its lines: "entry"
+  uint32_t order;            // in images; kinds of the same objects follow one another
   std::span<const Step> steps;
   // Null when the object has no such items at all.
   std::unique_ptr<ObjectItems> (*open)(const char *object);
   Numbered numbered = Numbered::no;  // if so, the identity of an item is its number
 };
 
-// In the order of images; those of the same objects stand together.
+// In the order of images.
 std::span<const ItemKind *const> kinds();
 // Those from that one on that have the same objects.
 std::span<const ItemKind *const> kinds_of_same_objects(size_t at);
 
 // ---- For kinds ----
 
-template <auto Rows>
-const char *row_name(size_t at) {
-  const auto rows = Rows();
+template <class Object>
+const char *object_name(size_t at) {
+  const auto rows = program_rows<Object>();
   return at < rows.size() ? rows[at].name : nullptr;
 }
 
-// The row of that name, which is there.
-template <class Row>
-const Row &need_row(std::string_view name) {
-  return resolve({name, 0}, program_rows<Row>(), "object");
+// The objects that the program names.
+template <class Object>
+inline constexpr ObjectKind kObjectKind = {kObjects<Object>.keyword, kObjects<Object>.noun,
+                                           object_name<Object>};
+
+// Items are made of the object, unless its exist() says that the object has none.
+template <class Items, class Object>
+std::unique_ptr<ObjectItems> open_items(const char *name) {
+  const Object &object = *find_object<Object>(name);
+  if constexpr (requires { Items::exist(object); }) {
+    if (!Items::exist(object)) return nullptr;
+  }
+  return std::make_unique<Items>(object);
 }
 
-// Items with an identity and a value of fixed size.
-template <class Identity, class Value>
-class CellItems : public ObjectItems {
+// Items that are numbers: first those of the identity, then those of the value.
+class NumberItems : public ObjectItems {
  public:
-  using CellVisitor = std::function<void(const Identity &, const Value &)>;
+  using Numbers = std::vector<uint64_t>;
+  using NumbersVisitor = std::function<void(const Numbers &)>;
 
-  void parse(ValueScanner &line, ItemBytes &item) final {
-    Identity identity{};
-    Value value{};
-    parse_cell(line, identity, value);
-    store(identity, value, item);
+  // One number, or several with commas between them.
+  struct Column {
+    std::string_view name;
+    uint64_t least = 0;
+    uint64_t limit = 0xffffffffu;
+    uint64_t otherwise = 0;  // where a line of an image does not have it
+    size_t count = 1;        // 0 for all that follow
+    bool is_hexadecimal = false;
+  };
+  // How many columns are the identity, and how many stand in images without their names, both from
+  // the first on. what says in answers which of the object's items it is, if it has others.
+  struct Layout {
+    std::vector<Column> columns;
+    size_t identity;
+    size_t nameless;
+    std::string_view what = {};
+  };
+
+  void parse(ValueScanner &line, ItemBytes &item) final;
+  void print(std::string &text, const ItemView &item) const final;
+  void add_to(Row &row, const ItemView &item, Naming) const final {
+    add_numbers(row, unpacked(item));
   }
-  void print(std::string &text, const ItemView &item) const final {
-    print_cell(text, read_bytes<Identity>(item.identity), read_bytes<Value>(item.value));
-  }
-  void add_to(Row &row, const ItemView &item) const final {
-    add_cell(row, read_bytes<Identity>(item.identity), read_bytes<Value>(item.value));
-  }
-  void add_samples_to(Row &row) const final { add_cell(row, Identity{}, Value{}); }
-  void read(Source &from, const ItemVisitor &visit) final {
-    ItemBytes item;
-    read_cells(from, [&](const Identity &identity, const Value &value) {
-      store(identity, value, item);
-      visit(item.view());
-    });
-  }
+  void add_samples_to(Row &row, Naming) const final;
+  void read(Source &from, const ItemVisitor &visit) final;
   void write(Target &to, Edit edit, const ItemView &item, Word word) final {
-    write_cell(to, edit, read_bytes<Identity>(item.identity), read_bytes<Value>(item.value), word);
+    write_numbers(to, edit, unpacked(item), word);
   }
 
  protected:
-  virtual void parse_cell(ValueScanner &line, Identity &identity, Value &value) const = 0;
-  virtual void print_cell(std::string &text, const Identity &identity,
-                          const Value &value) const = 0;
-  virtual void add_cell(Row &row, const Identity &identity, const Value &value) const = 0;
-  virtual void read_cells(Source &from, const CellVisitor &visit) const = 0;
-  virtual void write_cell(Target &to, Edit edit, const Identity &identity, const Value &value,
-                          Word word) const = 0;
+  explicit NumberItems(Layout layout) : layout_(std::move(layout)) {}
+
+  virtual void add_numbers(Row &row, const Numbers &numbers) const;
+  virtual void read_numbers(Source &from, const NumbersVisitor &visit) const = 0;
+  virtual void write_numbers(Target &to, Edit edit, const Numbers &numbers, Word word) const = 0;
 
  private:
-  static void store(const Identity &identity, const Value &value, ItemBytes &item) {
-    item.clear();
-    append_bytes(item.identity, identity);
-    append_bytes(item.value, value);
-  }
-};
+  static Numbers unpacked(const ItemView &item);
+  void store(const Numbers &numbers, ItemBytes &item) const;
 
-// Of an object that has one such item at most.
-struct NoIdentity {};
+  Layout layout_;
+};
 
 inline constexpr Step kCellSteps[] = {
     {Phase::cells_leave, Edit::remove}, {Phase::cells, Edit::modify}, {Phase::cells, Edit::add}};

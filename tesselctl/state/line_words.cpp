@@ -1,12 +1,14 @@
 #include "tesselctl/state/line_words.hpp"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 
 #include "tesselctl/program/value.hpp"
 
 namespace tesselctl {
 
-LineWords::LineWords(const ValueScanner &line, std::initializer_list<std::string_view> names) {
+LineWords::LineWords(const ValueScanner &line, std::span<const std::string_view> names) {
   Word rest = {line.rest(), line.column()};
   while (!rest.text.empty()) {
     const size_t blank = std::min(rest.text.find(' '), rest.text.size());
@@ -47,20 +49,19 @@ KeywordLine::KeywordLine(std::string_view text) {
   rest = {text.substr(behind), behind + 1};
 }
 
-uint32_t parse_index(ValueScanner &line) {
+uint32_t parse_counted(ValueScanner &line, uint64_t from) {
   const Word word = line.here();
-  const int64_t index = line.decimal();
-  if (index < 0) throw Fault(word, "cells are numbered from 0");
-  return static_cast<uint32_t>(index);
+  const int64_t number = line.decimal();
+  if (number >= static_cast<int64_t>(from)) return static_cast<uint32_t>(number);
+  throw Fault(word, fmt::format("these are numbered from {}", from));
 }
 
-std::vector<uint32_t> number_list(Word word) {
-  std::vector<uint32_t> numbers;
+std::vector<uint64_t> number_list(Word word, uint64_t limit) {
+  std::vector<uint64_t> numbers;
   if (word.text.empty()) return numbers;
   for (Word rest = word;;) {
     const size_t comma = std::min(rest.text.find(','), rest.text.size());
-    numbers.push_back(
-        static_cast<uint32_t>(parse_limited(rest.first(comma), 0xffffffffu, "a number")));
+    numbers.push_back(parse_limited(rest.first(comma), limit, "a number"));
     if (comma == rest.text.size()) return numbers;
     rest = rest.from(comma + 1);
   }

@@ -12,7 +12,9 @@ namespace tesselctl {
 class LineWords {
  public:
   // Reads to the end of the line. Throws Fault for another name, or one that is there twice.
-  LineWords(const ValueScanner &line, std::initializer_list<std::string_view> names);
+  LineWords(const ValueScanner &line, std::span<const std::string_view> names);
+  LineWords(const ValueScanner &line, std::initializer_list<std::string_view> names)
+      : LineWords(line, std::span(names.begin(), names.size())) {}
 
   // Null without such a word.
   const Word *find(std::string_view name) const;
@@ -36,9 +38,10 @@ struct KeywordLine {
   Word rest;
 };
 
-// The number of a cell that a line begins with. Throws Fault.
-uint32_t parse_index(ValueScanner &line);
-// The numbers of "1,2,3"; none of an empty word. Throws Fault.
-std::vector<uint32_t> number_list(Word word);
+// The decimal number that a line begins with: of something that is counted from there on. Throws
+// Fault.
+uint32_t parse_counted(ValueScanner &line, uint64_t from);
+// The numbers of "1,2,3", up to a limit; none of an empty word. Throws Fault.
+std::vector<uint64_t> number_list(Word word, uint64_t limit = 0xffffffffu);
 
 }  // namespace tesselctl

@@ -13,6 +13,10 @@ namespace tesselctl {
 // Numbers and handles of the members, or of the groups, of a profile. 0 is neither.
 class NumberMap {
  public:
+  NumberMap() = default;
+  // Every handle is its own number.
+  explicit NumberMap(bool by_handle) : by_handle_(by_handle) {}
+
   void add(uint32_t number, uint32_t handle) {
     handles_[number] = handle;
     numbers_[handle] = number;
@@ -36,10 +40,12 @@ class NumberMap {
 
  private:
   using Map = std::unordered_map<uint32_t, uint32_t>;
-  static uint32_t find(const Map &map, uint32_t key) {
+  uint32_t find(const Map &map, uint32_t key) const {
+    if (by_handle_) return key;
     const auto found = map.find(key);
     return found == map.end() ? 0 : found->second;
   }
+  bool by_handle_ = false;
   Map handles_;
   Map numbers_;
 };
@@ -55,11 +61,22 @@ class Numbering {
   // As an image of the device numbers them. Throws Fault.
   static Numbering of_device(const Device &device);
 
-  ProfileNumbers &of(uint32_t action_data_table) { return profiles_[action_data_table]; }
+  // With handles for numbers, as commands name what a device holds.
+  static Numbering by_handle() {
+    Numbering numbering;
+    numbering.by_handle_ = true;
+    return numbering;
+  }
+
+  ProfileNumbers &of(uint32_t action_data_table) {
+    const ProfileNumbers none = {NumberMap(by_handle_), NumberMap(by_handle_)};
+    return profiles_.try_emplace(action_data_table, none).first->second;
+  }
   // Whether the members and groups of every profile have the handles 1, 2, 3 and so on.
   bool is_identity() const;
 
  private:
+  bool by_handle_ = false;
   std::map<uint32_t, ProfileNumbers> profiles_;
 };
 

@@ -27,16 +27,10 @@ class TableCheck {
     for_each_entry(old_, table_, word_,
                    [&](uint32_t entry) { in_place += check_entry(entry) ? 1 : 0; });
     // Each entry of the old device met one of its own: so many are accounted for.
-    if (in_place != entry_count(new_)) look_for_extra();
+    if (in_place != entry_count(new_, table_, word_)) look_for_extra();
   }
 
  private:
-  uint64_t entry_count(const Device &device) const {
-    uint32_t count = 0;
-    check(device.prepare("get_entry_count", table_.name()).set("count", &count).run(), word_);
-    return count;
-  }
-
   bool equals(const Device &device, uint32_t entry, const pipe_mgr_placement_t *placement) const {
     return p4_pd_tessel_switch_plcmt_data_eq_to_hw(
                device.session(), static_cast<uint8_t>(device.id()), table_.description->handle,

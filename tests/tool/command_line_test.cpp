@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "tesselctl/command/topic.hpp"
 #include "tests/tool/tool_fixture.hpp"
 
 namespace tesselctl {

@@ -5,6 +5,6 @@
 namespace tesselctl {
 
 // Prints the digest messages that were delivered since it was called last.
-void tell_messages(Context &context);
+void print_messages(Context &context);
 
 }  // namespace tesselctl
