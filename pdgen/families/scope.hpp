@@ -41,10 +41,10 @@ class Scope {
              const ResourceItem *, const Action *, const Param *, const Profile *,
              const ProfileAction *, const Resource *, const Hash *, const Digest *,
              const DigestField *, const ValueSet *, const SnapshotLayout *, const SnapshotField *,
-             const Handle *, const Label *, const LabelItem *, const LabelText *, const ToolRecords *,
-             const ToolRecord *, const ToolMember *, const ToolField *, const Api *, const Note *,
-             const Group *, const Unit *, const ParameterList *, const Parameter *,
-             const Function *, const std::string *, const std::size_t *>
+             const Handle *, const Label *, const LabelItem *, const LabelText *,
+             const ToolRecords *, const ToolRecord *, const ToolMember *, const ToolField *,
+             const Api *, const Note *, const Group *, const Unit *, const ParameterList *,
+             const Parameter *, const Function *, const std::string *, const std::size_t *>
       objects_;
 };
 

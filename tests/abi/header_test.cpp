@@ -176,7 +176,8 @@ TEST_F(CheckedIn, FilesAreFresh) {
   const auto difference = [](const char *file, const std::string &fresh) {
     return first_difference(read_file(PD_SOURCE_DIR + std::string(file)), fresh);
   };
-  EXPECT_EQ(difference("/include/p4_pd_tessel_switch.h", pdgen::written("header", api_)), "") << kRenew;
+  EXPECT_EQ(difference("/include/p4_pd_tessel_switch.h", pdgen::written("header", api_)), "")
+      << kRenew;
   EXPECT_EQ(difference("/abi/exports.txt", pdgen::written("exports", api_)), "") << kRenew;
   EXPECT_EQ(difference("/abi/handles.txt", pdgen::written("handles", api_)), "") << kRenew;
 }
