@@ -1,227 +1,280 @@
-// Hash calculations: selection, attributes, and the same by name.
-#include <cstring>
+// Hash calculations: selections, attributes, names, and the byte stream that a hash is computed
+// over: streams worked out by hand, and random ones against a packer that moves one bit at a time.
+#include "typed.hpp"
 
-#include "stateful_fixture.hpp"
-
+namespace pd_test {
 namespace {
-
-using namespace stateful_test;
 
 using Attributes = std::vector<pipe_mgr_hash_attribute_t>;
 
-constexpr uint32_t kUnknown = P4_PD_UNKNOWN_SELECTION;
-constexpr uint32_t kNull = P4_PD_NULL_ARGUMENT;
-
-const struct Row {
-  const char *hash;
-  uint32_t handle;
-  uint32_t list;
-  uint32_t fields;
-} kRows[] = {
-    {"hashOuterEthHdr", 0x22000011, 0x21000010, 5},
-    {"hashInnerEthHdr", 0x2200000c, 0x2100000b, 5},
-    {"hashOuterIpv4Hdr", 0x2200000d, 0x2100000c, 3},
-    {"hashInnerIpv4Hdr", 0x2200000a, 0x21000009, 3},
-    {"hashOuterIpv6Hdr", 0x2200000e, 0x2100000d, 4},
-    {"hashInnerIpv6Hdr", 0x2200000b, 0x2100000a, 4},
-    {"hashOuterIpAndL4Hdr", 0x2200000f, 0x2100000e, 3},
-    {"hashInnerIpAndL4Hdr", 0x22000010, 0x2100000f, 3},
-};
-// What the scenarios below use: hashOuterIpv4Hdr.
+// hashOuterIpv4Hdr, which has fields 0 to 2.
 constexpr uint32_t kHandle = 0x2200000d;
 constexpr uint32_t kList = 0x2100000c;
+constexpr const char *kName = "hashOuterIpv4Hdr";
 
-class Hashes : public StatefulTest {
+class Hashes : public LibraryTest {
  protected:
-  // The device behaves as if no list were configured, or fails to tell.
+  // The device behaves as if no list were configured, or fails to say.
   static void forget_list(bf_status_t status = BF_SUCCESS) {
     soft::faults::fail_call("pipe_mgr_hash_calc_input_get", 1, status);
   }
 };
 
 TEST_F(Hashes, PassOtherSelectionsOnAsNoHandle) {
-  EXPECT_EQ(p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_input_set(session, kDevice, 1),
-            uint32_t{BF_INVALID_HANDLE});
-  EXPECT_EQ(take_one().scalar("field_list"), 0u);
-  EXPECT_EQ(
-      p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_algorithm_set(session, kDevice, 0xffffffff),
-      uint32_t{BF_INVALID_HANDLE});
-  EXPECT_EQ(take_one().scalar("algorithm"), 0u);
   const p4_pd_hash_calc_attr_t attribute = {0, 0, 0};
-  EXPECT_EQ(p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_input_field_attribute_set(
-                session, kDevice, 2, 1, &attribute),
-            uint32_t{BF_INVALID_HANDLE});
-  EXPECT_EQ(take_one().scalar("field_list"), 0u);
+  const auto calls = recorded([&] {
+    EXPECT_EQ(PD(hash_calc_hashOuterIpv4Hdr_input_set)(session(), kDevice, 1), BF_INVALID_HANDLE);
+    EXPECT_EQ(PD(hash_calc_hashOuterIpv4Hdr_algorithm_set)(session(), kDevice, 0xffffffff),
+              BF_INVALID_HANDLE);
+    EXPECT_EQ(PD(hash_calc_hashOuterIpv4Hdr_input_field_attribute_set)(session(), kDevice, 2, 1,
+                                                                       &attribute),
+              BF_INVALID_HANDLE);
+  });
+  EXPECT_EQ(calls.at(0).scalar("field_list"), 0u);
+  EXPECT_EQ(calls.at(1).scalar("algorithm"), 0u);
+  EXPECT_EQ(calls.at(2).scalar("field_list"), 0u);
 }
 
 TEST_F(Hashes, ReportASelectionOnlyWhenItIsTheirOwn) {
   for (const bf_status_t status : {BF_SUCCESS, BF_HARDWARE_FAULT}) {
     uint32_t read = 9;
     forget_list(status);
-    EXPECT_EQ(p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_input_get(session, kDevice, &read),
-              kUnknown);
+    EXPECT_EQ(PD(hash_calc_hashOuterIpv4Hdr_input_get)(session(), kDevice, &read),
+              P4_PD_UNKNOWN_SELECTION);
     soft::faults::fail_call("pipe_mgr_hash_calc_algorithm_get", 1, status);
-    EXPECT_EQ(p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_algorithm_get(session, kDevice, &read),
-              kUnknown);
+    EXPECT_EQ(PD(hash_calc_hashOuterIpv4Hdr_algorithm_get)(session(), kDevice, &read),
+              P4_PD_UNKNOWN_SELECTION);
     EXPECT_EQ(read, 9u);
   }
 }
 
 TEST_F(Hashes, CountTheAttributesOfTheConfiguredList) {
-  const auto count_get = [&](uint32_t input, uint32_t *count) {
-    return p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_input_field_attribute_count_get(
-        session, kDevice, input, count);
-  };
+  const auto count_get = PD(hash_calc_hashOuterIpv4Hdr_input_field_attribute_count_get);
   uint32_t count = 9;
-  EXPECT_EQ(count_get(1, &count), kUnknown);
-  EXPECT_EQ(take().size(), 1u);
+  only_call([&] { EXPECT_EQ(count_get(session(), kDevice, 1, &count), P4_PD_UNKNOWN_SELECTION); });
   EXPECT_EQ(count, 9u);
-
   // Another list than its own is passed on as it was read, whatever the input.
   for (const uint32_t input : {0, 1}) {
     count = 9;
     forget_list();
-    EXPECT_EQ(count_get(input, &count), uint32_t{BF_INVALID_HANDLE});
+    const auto calls = recorded(
+        [&] { EXPECT_EQ(count_get(session(), kDevice, input, &count), BF_INVALID_HANDLE); });
     EXPECT_EQ(count, 0u);
-    const std::vector<Call> calls = take();
-    ASSERT_EQ(calls.size(), 2u);
-    EXPECT_EQ(calls[1].scalar("field_list"), 0u);
+    EXPECT_EQ(calls.at(1).scalar("field_list"), 0u);
   }
-  EXPECT_EQ(count_get(0, nullptr), kNull);
-  EXPECT_TRUE(take().empty());
 }
 
 TEST_F(Hashes, SetAndGetAttributesWordForWord) {
-  const auto set = [&](uint32_t count, const p4_pd_hash_calc_attr_t *attributes) {
-    return p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_input_field_attribute_set(
-        session, kDevice, 0, count, attributes);
-  };
-  const uint8_t wide = 0;
-  const p4_pd_hash_calc_attr_t given[2] = {{2, 0xfedcba98, reinterpret_cast<uintptr_t>(&wide)},
+  const auto set = PD(hash_calc_hashOuterIpv4Hdr_input_field_attribute_set);
+  const auto get = PD(hash_calc_hashOuterIpv4Hdr_input_field_attribute_get);
+  const p4_pd_hash_calc_attr_t given[2] = {{2, 0xfedcba98, reinterpret_cast<uintptr_t>(this)},
                                            {0, 1, 0x89abcdef}};
-  EXPECT_EQ(set(2, given), BF_SUCCESS);
-  const Call call = take_one();
-  expect_scalars(call, {{"session", session},
-                        {"device", kDevice},
-                        {"calculation", kHandle},
-                        {"field_list", kList},
-                        {"count", 2}});
+  const Call call = only_call([&] { EXPECT_EQ(set(session(), kDevice, 0, 2, given), BF_SUCCESS); });
   ASSERT_EQ(call.get<Attributes>("attributes").size(), 2u);
   EXPECT_EQ(std::memcmp(call.get<Attributes>("attributes").data(), given, sizeof given), 0);
 
   p4_pd_hash_calc_attr_t read[3] = {{9, 9, 9}, {9, 9, 9}, {9, 9, 9}};
   uint32_t filled = 9;
-  const auto get = [&](uint32_t input, uint32_t max_count) {
-    return p4_pd_tessel_switch_hash_calc_hashOuterIpv4Hdr_input_field_attribute_get(
-        session, kDevice, input, max_count, read, &filled);
-  };
-  EXPECT_EQ(get(0, 3), BF_SUCCESS);
+  EXPECT_EQ(get(session(), kDevice, 0, 3, read, &filled), BF_SUCCESS);
   EXPECT_EQ(filled, 2u);
   EXPECT_EQ(std::memcmp(read, given, sizeof given), 0);
   EXPECT_EQ(read[2].field, 9u);
-  take();
-
-  EXPECT_EQ(get(0, 0), BF_SUCCESS);
+  const Call asked =
+      only_call([&] { EXPECT_EQ(get(session(), kDevice, 0, 0, read, &filled), BF_SUCCESS); });
+  EXPECT_EQ(asked.function, "pipe_mgr_hash_calc_input_get") << "no room, no attributes";
   EXPECT_EQ(filled, 0u);
-  EXPECT_EQ(take_one().function, "pipe_mgr_hash_calc_input_get");
   filled = 9;
-  EXPECT_EQ(get(1, 3), kUnknown);
+  EXPECT_EQ(get(session(), kDevice, 1, 3, read, &filled), P4_PD_UNKNOWN_SELECTION);
   EXPECT_EQ(filled, 0u);
-
-  take();
-  EXPECT_EQ(set(0, nullptr), BF_SUCCESS);
-  const Call cleared = take_one();
-  EXPECT_EQ(cleared.scalar("count"), 0u);
+  const Call cleared =
+      only_call([&] { EXPECT_EQ(set(session(), kDevice, 0, 0, nullptr), BF_SUCCESS); });
   EXPECT_TRUE(cleared.is_null("attributes"));
 }
 
 // ---- By name ----
 
-TEST_F(Hashes, FindCalculationsByExactName) {
-  for (const Row &row : kRows) {
-    EXPECT_EQ(p4_pd_tessel_switch_hash_calc_input_set(session, kDevice, row.hash), BF_SUCCESS);
-    expect_scalars(take_one(), {{"session", session},
-                                {"device", kDevice},
-                                {"calculation", row.handle},
-                                {"field_list", row.list}});
+TEST_F(Hashes, AreFoundByTheirExactNames) {
+  for (const pdgen::Hash &hash : program().hashes) {
+    const Call call = only_call([&] {
+      EXPECT_EQ(PD(hash_calc_input_set)(session(), kDevice, hash.name.c_str()), BF_SUCCESS);
+    });
+    EXPECT_EQ(call.scalar("calculation"), hash.handle);
+    EXPECT_EQ(call.scalar("field_list"), hash.field_list_handle);
   }
-  p4_pd_tessel_switch_hash_field_attr_t attribute = {0, 1, 2};
+  PD(hash_field_attr_t) attribute = {0, 1, 2};
   uint32_t count = 9;
-  for (const char *name : {"", "hashOuterIpv4Hdr ", " hashOuterIpv4Hdr", "HashOuterIpv4Hdr",
-                           "hashOuterIpv4Hd", "hashOuterIpv4Hdrs"}) {
-    SCOPED_TRACE(name);
-    EXPECT_EQ(p4_pd_tessel_switch_hash_calc_input_set(session, kDevice, name), kUnknown);
-    EXPECT_EQ(p4_pd_tessel_switch_hash_calc_input_field_attribute_count_get(session, kDevice, name,
-                                                                            &count),
-              kUnknown);
-    EXPECT_EQ(p4_pd_tessel_switch_hash_calc_input_field_attribute_set(session, kDevice, name, 1,
-                                                                      &attribute),
-              kUnknown);
-    EXPECT_EQ(p4_pd_tessel_switch_hash_calc_input_field_attribute_get(session, kDevice, name, 1,
-                                                                      &attribute, &count),
-              kUnknown);
+  for (const char *name : {"", "hashOuterIpv4Hdr ", "HashOuterIpv4Hdr", "hashOuterIpv4Hd"}) {
+    for (const char *family :
+         {"hash_calc_input_set_by_name", "hash_calc_input_field_attribute_count_get_by_name",
+          "hash_calc_input_field_attribute_set_by_name",
+          "hash_calc_input_field_attribute_get_by_name"}) {
+      const auto calls = recorded([&] {
+        EXPECT_EQ(run(family, "",
+                      {{"name", word(name)},
+                       {"count", word(&count)},
+                       {"attribute_count", 1},
+                       {"max_count", 1},
+                       {"attributes", word(&attribute)},
+                       {"filled", word(&count)}}),
+                  P4_PD_UNKNOWN_SELECTION)
+            << family;
+      });
+      EXPECT_TRUE(calls.empty());
+    }
   }
-  EXPECT_EQ(p4_pd_tessel_switch_hash_calc_input_set(session, kDevice, nullptr), kNull);
-  EXPECT_TRUE(take().empty());
-  EXPECT_EQ(count, 9u);
-  EXPECT_EQ(attribute.value, 1u);
+  EXPECT_TRUE(count == 9 && attribute.value == 1);
 }
 
 TEST_F(Hashes, SetAndGetAttributesByName) {
-  const char *name = "hashOuterIpv4Hdr";
-  const p4_pd_tessel_switch_hash_field_attr_t given[2] = {{2, 0xfffffffe, 77}, {0, 5, 88}};
-  EXPECT_EQ(
-      p4_pd_tessel_switch_hash_calc_input_field_attribute_set(session, kDevice, name, 2, given),
-      BF_SUCCESS);
-  const Call set = take_one();
+  const PD(hash_field_attr_t) given[2] = {{2, 0xfffffffe, 77}, {0, 5, 88}};
+  const auto set_by_name = PD(hash_calc_input_field_attribute_set);
+  const Call set =
+      only_call([&] { EXPECT_EQ(set_by_name(session(), kDevice, kName, 2, given), BF_SUCCESS); });
   EXPECT_EQ(set.scalar("calculation"), kHandle);
   EXPECT_EQ(set.scalar("field_list"), kList);
   const auto sent = set.get<Attributes>("attributes");
   ASSERT_EQ(sent.size(), 2u);
-  EXPECT_EQ(sent[0].field, 2u);
-  EXPECT_EQ(sent[0].type, 0u);
-  EXPECT_EQ(sent[0].value, 0xfffffffeu);
-  EXPECT_EQ(sent[1].field, 0u);
-  EXPECT_EQ(sent[1].value, 5u);
-
+  EXPECT_TRUE(sent[0].field == 2 && sent[0].type == 0 && sent[0].value == 0xfffffffe);
+  EXPECT_TRUE(sent[1].field == 0 && sent[1].value == 5);
   uint32_t count = 9;
-  EXPECT_EQ(
-      p4_pd_tessel_switch_hash_calc_input_field_attribute_count_get(session, kDevice, name, &count),
-      BF_SUCCESS);
-  EXPECT_EQ(count, 2u);
-  p4_pd_tessel_switch_hash_field_attr_t read[3] = {{9, 9, 9}, {9, 9, 9}, {9, 9, 9}};
-  EXPECT_EQ(p4_pd_tessel_switch_hash_calc_input_field_attribute_get(session, kDevice, name, 3, read,
-                                                                    &count),
+  PD(hash_field_attr_t) read[3] = {{9, 9, 9}, {9, 9, 9}, {9, 9, 9}};
+  EXPECT_EQ(PD(hash_calc_input_field_attribute_get)(session(), kDevice, kName, 3, read, &count),
             BF_SUCCESS);
   EXPECT_EQ(count, 2u);
-  EXPECT_EQ(read[0].field, 2u);
-  EXPECT_EQ(read[0].value, 0xfffffffeu);
-  EXPECT_EQ(read[0].reserved, 0u);
-  EXPECT_EQ(read[1].value, 5u);
-  EXPECT_EQ(read[2].field, 9u);
-}
-
-TEST_F(Hashes, RefuseAnUnknownFieldWithoutACall) {
-  const p4_pd_tessel_switch_hash_field_attr_t bad[2] = {{0, 1, 0}, {3, 1, 0}};
-  EXPECT_EQ(p4_pd_tessel_switch_hash_calc_input_field_attribute_set(session, kDevice,
-                                                                    "hashOuterIpv4Hdr", 2, bad),
-            kUnknown)
-      << "the calculation has fields 0 to 2";
-  EXPECT_TRUE(take().empty());
+  EXPECT_TRUE(read[0].field == 2 && read[0].value == 0xfffffffe && read[0].reserved == 0);
+  EXPECT_TRUE(read[1].value == 5 && read[2].field == 9);
+  const PD(hash_field_attr_t) unknown[2] = {{0, 1, 0}, {3, 1, 0}};
+  EXPECT_TRUE(recorded([&] {
+                EXPECT_EQ(set_by_name(session(), kDevice, kName, 2, unknown),
+                          P4_PD_UNKNOWN_SELECTION);
+              }).empty());
 }
 
 // Fields go by their own numbers in every calculation.
 TEST_F(Hashes, MapTheFieldsThatThereAre) {
-  for (const Row &row : kRows) {
-    for (uint32_t field = 0; field < row.fields; ++field) {
-      EXPECT_EQ(call_export("p4_field_enum", row.hash, {field}), field) << row.hash;
-      EXPECT_EQ(call_export("cmn_field_enum", row.hash, {field}), field) << row.hash;
-    }
-    for (const uint32_t field : {row.fields, 0xffffffffu}) {
-      EXPECT_EQ(static_cast<int32_t>(call_export("p4_field_enum", row.hash, {field})), -1);
-      EXPECT_EQ(call_export("cmn_field_enum", row.hash, {field}), 0xffffffffu);
+  for (const pdgen::Hash &hash : program().hashes) {
+    for (const char *family : {"p4_field_enum", "cmn_field_enum"}) {
+      const Export &map = *find_export(family, hash.name);
+      for (uint64_t field = 0; field <= hash.field_count; ++field) {
+        const bool known = field < hash.field_count;
+        EXPECT_EQ(static_cast<uint32_t>(map.call(&field)), known ? field : 0xffffffff);
+      }
     }
   }
 }
 
+// ---- Streams ----
+
+// A field value: its width, and its bytes with the most significant first, as many as hold it.
+struct Field {
+  uint32_t width;
+  Bytes bytes;
+};
+
+constexpr auto kCalculate = PD(hash_calc_hashOuterEthHdr_calculate_hash_value);
+
+// What reaches the device for these fields.
+Bytes stream_of(const std::vector<Field> &fields) {
+  std::vector<p4_pd_hash_calc_attr_t> values;
+  std::vector<uint32_t> sizes;
+  for (const Field &field : fields) {
+    uintptr_t value = 0;
+    for (const uint8_t byte : field.bytes) value = value << 8 | byte;
+    if (field.width > 32) value = reinterpret_cast<uintptr_t>(field.bytes.data());
+    // Neither the number nor the type of a field says where it lands.
+    values.push_back({static_cast<uint32_t>(99 - values.size()), 0xffffffff, value});
+    sizes.push_back(field.width);
+  }
+  uint8_t hash[8];
+  const Call call = only_call([&] {
+    EXPECT_EQ(kCalculate(session(), kDevice, static_cast<uint32_t>(fields.size()), values.data(),
+                         sizes.data(), hash, 8),
+              BF_SUCCESS);
+  });
+  const Bytes stream = call.is_null("stream") ? Bytes() : call.get<Bytes>("stream");
+  EXPECT_EQ(call.scalar("stream_length"), stream.size());
+  return stream;
+}
+
+TEST_F(Hashes, StreamsPutFieldsEndToEnd) {
+  const std::pair<std::vector<Field>, Bytes> rows[] = {
+      {{{4, {0x0a}}, {12, {0x01, 0x23}}, {9, {0x01, 0xff}}}, {0x01, 0x42, 0x47, 0xff}},
+      {{{48, {0, 0xde, 0xad, 0xbe, 0xef, 1}}, {16, {8, 0}}}, {0, 0xde, 0xad, 0xbe, 0xef, 1, 8, 0}},
+      // 1 | 0010000 | 11: 10 bits behind 6 of padding.
+      {{{1, {0x01}}, {7, {0x10}}, {2, {0x03}}}, {0x02, 0x43}},
+      {{{31, {0x7e, 0xdc, 0xba, 0x98}}}, {0x7e, 0xdc, 0xba, 0x98}},
+      {{{33, {1, 2, 3, 4, 5}}}, {1, 2, 3, 4, 5}},
+      // Bits beyond a width reach neither the field in front of it nor the padding.
+      {{{4, {0x00}}, {4, {0xf5}}}, {0x05}},
+      {{{33, {0xff, 0, 0, 0, 0}}}, {0x01, 0, 0, 0, 0}},
+      // Streams and fields may be empty.
+      {{}, {}},
+      {{{4, {0x0a}}, {0, {0xff}}, {4, {0x05}}}, {0xa5}},
+  };
+  for (const auto &[fields, stream] : rows) EXPECT_EQ(hex(stream_of(fields)), hex(stream));
+}
+
+// Writes bit by bit, from the last bit of the last field to the first of the first.
+Bytes pack_bit_by_bit(const std::vector<Field> &fields) {
+  size_t total = 0;
+  for (const Field &field : fields) total += field.width;
+  Bytes stream((total + 7) / 8);
+  size_t from_end = 0;
+  for (size_t i = fields.size(); i-- > 0;) {
+    for (uint32_t bit = 0; bit < fields[i].width; ++bit, ++from_end) {
+      const uint8_t byte = fields[i].bytes[fields[i].bytes.size() - 1 - bit / 8];
+      if ((byte >> bit % 8 & 1) == 0) continue;
+      stream[stream.size() - 1 - from_end / 8] |= static_cast<uint8_t>(1 << from_end % 8);
+    }
+  }
+  return stream;
+}
+
+TEST_F(Hashes, StreamsAgreeWithAPackerOfSingleBits) {
+  Random random(20240607);
+  for (int round = 0; round < 2000; ++round) {
+    std::vector<Field> fields(random() % 7);
+    for (Field &field : fields) {
+      field.width = static_cast<uint32_t>(random() % 4 == 0 ? random() % 201 : random() % 41);
+      field.bytes.resize((field.width + 7) / 8);
+      for (uint8_t &byte : field.bytes) byte = static_cast<uint8_t>(random());
+    }
+    ASSERT_EQ(stream_of(fields), pack_bit_by_bit(fields)) << "round " << round;
+  }
+}
+
+TEST_F(Hashes, StreamsAreRefusedWithoutACall) {
+  const p4_pd_hash_calc_attr_t values[2] = {{0, 0, 1}, {1, 0, 0}};
+  const uint32_t sizes[2] = {8, 33};
+  uint8_t hash[2] = {0xa5, 0xa5};
+  const auto calculate = [&](uint32_t count, const auto *some, const uint32_t *widths) {
+    return kCalculate(session(), kDevice, count, some, widths, hash, 2);
+  };
+  // Sizes whose sum in bits wraps 32 bits round to something small, and one too long to name.
+  const p4_pd_hash_calc_attr_t wide = {0, 0, reinterpret_cast<uintptr_t>(hash)};
+  const std::vector<p4_pd_hash_calc_attr_t> many(9, wide);
+  const std::vector<uint32_t> huge(9, 0xfffffff8);
+  const auto calls = recorded([&] {
+    EXPECT_EQ(calculate(1, values, nullptr), P4_PD_NULL_ARGUMENT);
+    EXPECT_EQ(calculate(2, values, sizes), P4_PD_NULL_ARGUMENT) << "a wide value without bytes";
+    soft::faults::fail_allocation(1);
+    EXPECT_EQ(calculate(2, many.data(), huge.data()), P4_PD_NO_MEMORY);
+    const uint64_t allocations = soft_allocations_made();
+    EXPECT_EQ(calculate(9, many.data(), huge.data()), P4_PD_NO_MEMORY);
+    EXPECT_EQ(soft_allocations_made(), allocations);
+  });
+  EXPECT_TRUE(calls.empty());
+  EXPECT_EQ(hash[0], 0xa5);
+}
+
+// The device's answer comes through unchanged: 1 to 8 bytes of the CRC of the stream.
+TEST_F(Hashes, LeadToTheHashOfTheDevice) {
+  const p4_pd_hash_calc_attr_t values[3] = {{0, 0, 0x0a}, {1, 0, 0x123}, {2, 0, 0x1ff}};
+  const uint32_t sizes[3] = {4, 12, 9};
+  Bytes hash(4, 0xa5);
+  EXPECT_EQ(kCalculate(session(), kDevice, 3, values, sizes, hash.data(), 3), BF_SUCCESS);
+  EXPECT_EQ(hash, (Bytes{0x51, 0xd2, 0xc6, 0xa5}));
+}
+
 }  // namespace
+}  // namespace pd_test

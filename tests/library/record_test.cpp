@@ -1,30 +1,10 @@
 // What follows from a typed record, worked out by hand: key and mask bytes, action data and
-// resources, value string and printed lines. One row a record; then every record of the program
-// with random bits, by the masks of its schema.
-#include <algorithm>
-#include <cstdio>
-
-#include "placement_fixture.hpp"
-#include "text_fixture.hpp"
-#include "typed.hpp"
+// resources, value string and printed lines, the label of a counted entry, and the texts of an
+// entry. One row a record.
+#include "texts.hpp"
 
 namespace pd_test {
 namespace {
-
-std::string value_of(const Spec &spec, const char *family, size_t room) {
-  TextBuffer buffer(room);
-  const Export &function = *find_export(family, spec.record().name);
-  if (function.parameter_count == 1) return buffer.text(call(function, buffer.data()));
-  return buffer.text(call(function, spec.data(), buffer.data()));
-}
-
-// At indent 1.
-std::string lines_of(const Spec &spec, const char *family) {
-  return printed([&](int file) {
-    call(*find_export(family, spec.record().name), static_cast<uint64_t>(file), uint64_t{1},
-         spec.data());
-  });
-}
 
 class Records : public LibraryTest {
  protected:
@@ -49,56 +29,42 @@ struct KeyRow {
 
 const KeyRow kKeyRows[] = {
     // Ternary: the value keeps the bits that its mask has, the mask is cut to the width.
-    {"cpuEncap",
-     "egrMd_trapToCpu=1 phase0_switchPort=1 phase0_switchPort_mask=1 egrMd_cpuReasonCode=0x25 "
-     "egrMd_cpuReasonCode_mask=0xf0",
-     12, "01 00 01 20 00", "01 01 01 f0 00", 10, "( 0x1,0x0,0x1,0x1,0x25,0xf0,0x0,0x0,),",
-     " p4_pd_tessel_switch_cpuEncap_match_spec_t:\n"
-     "  egrMd_trapToCpu: 0x1\n"
-     "  ingMd_vlanHdrValid: 0x0\n"
-     "  phase0_switchPort: 0x1\n"
-     "  phase0_switchPort_mask: 0x1\n"
-     "  egrMd_cpuReasonCode: 0x25\n"
-     "  egrMd_cpuReasonCode_mask: 0xf0\n"
-     "  vlanHdr_0__valid: 0x0\n"
-     "  vlanHdr_0__valid_mask: 0x0\n"},
-    {"kiteFlow1", "vlanHdr_1__vlanId=0xffff vlanHdr_1__vlanId_mask=0xffff", 28, "00 00 00 ff ff 00",
-     "00 00 00 0f ff 00", 10, ",0xfff,0xfff,", "vlanId_mask: 0xfff\n"},
-    {"mcastPrune", "egrMd_egrL2AintfUnresolved=0x123 egrMd_egrL2AintfUnresolved_mask=0xfffff", 42,
-     "00 00 00 00 01 23 00 00", "00 00 00 0f ff ff 00 00", 10, ",0x00000,0xf0000,",
-     "  egrMd_egrL2AintfUnresolved mask 0xf0000: 0x00000\n"
-     "  egrMd_egrL2AintfUnresolved_mask mask 0xf0000: 0xf0000\n"},
+    {"cpuEncap", "egrMd_trapToCpu=1 phase0_switchPort=1/1 egrMd_cpuReasonCode=0x25/0xf0", 12,
+     "01 00 01 20 00", "01 01 01 f0 00", 10, "( 0x1,0x0,0x1,0x1,0x25,0xf0,0x0,0x0,),",
+     " p4_pd_tessel_switch_cpuEncap_match_spec_t:\n  egrMd_trapToCpu: 0x1\n  ingMd_vlanHdrValid: "
+     "0x0\n  phase0_switchPort: 0x1\n  phase0_switchPort_mask: 0x1\n  egrMd_cpuReasonCode: 0x25\n  "
+     "egrMd_cpuReasonCode_mask: 0xf0\n  vlanHdr_0__valid: 0x0\n  vlanHdr_0__valid_mask: 0x0\n"},
+    {"kiteFlow1", "vlanHdr_1__vlanId=0xffff/0xffff", 28, "00 00 00 ff ff 00", "00 00 00 0f ff 00",
+     10, ",0xfff,0xfff,", "vlanId_mask: 0xfff\n"},
+    {"mcastPrune", "egrMd_egrL2AintfUnresolved=0x123/0xfffff", 42, "00 00 00 00 01 23 00 00",
+     "00 00 00 0f ff ff 00 00", 10, ",0x00000,0xf0000,",
+     "  egrMd_egrL2AintfUnresolved mask 0xf0000: 0x00000\n  egrMd_egrL2AintfUnresolved_mask mask "
+     "0xf0000: 0xf0000\n"},
     // The key starts with another field than the record.
     {"egressPortDropCheck",
-     "eg_intr_md_egress_port=0x105 outerIpv4Hdr_ttl=0x7f outerIpv4Hdr_ttl_mask=0xff "
-     "egrMd_routed=1 egrMd_routed_mask=0xff fwMd_sipDrop=0xff fwMd_sipDrop_mask=0x81",
+     "eg_intr_md_egress_port=0x105 outerIpv4Hdr_ttl=0x7f/0xff egrMd_routed=1/0xff "
+     "fwMd_sipDrop=0xff/0x81",
      23, "01 05 00 00 81 00 7f 00 01", "01 ff 00 00 01 00 ff 00 01", 10,
      "( 0x005,0x1,0x1,0x0,0x0,0x0,0x0,0x0,0x0,0x1,0x1,0x0,0x0,0x7f,0xff,),",
      "  eg_intr_md_egress_port mask 0x7f: 0x005\n  egrMd_routed: 0x1\n"},
     {"trapToCpu",
-     "arpHdr_valid=1 arpHdr_valid_mask=1 arpHdr_opcode=0x0102 arpHdr_opcode_mask=0xffff "
-     "egrMd_cpuReasonCode=0xab egrMd_cpuReasonCode_mask=0x0f ingIpv4_dip=0x0a010203 "
-     "ingIpv4_dip_mask=0xffffff00 ingIpv6_dip=ff020000000000000000000000000016 "
-     "ingIpv6_dip_mask=ff000000000000000000000000000003 ingMd_etherType=0x0806 "
-     "ingMd_etherType_mask=0xffff ingMd_srcPort=0x1234 ingMd_srcPort_mask=0xff00 "
-     "phase0_ingVPort=0x2fff phase0_ingVPort_mask=0xffff",
+     "arpHdr_valid=1/1 arpHdr_opcode=0x0102/0xffff egrMd_cpuReasonCode=0xab/0x0f "
+     "ingIpv4_dip=0x0a010203/0xffffff00 "
+     "ingIpv6_dip=ff020000000000000000000000000016/ff000000000000000000000000000003 "
+     "ingMd_etherType=0x0806/0xffff ingMd_srcPort=0x1234/0xff00 phase0_ingVPort=0x2fff/0xffff",
      287,
-     "08 06 00 00 00 12 00 00 00 2f ff 00 00 00 00 01 01 02 00 0a 01 02 00 00 00 00 "
-     "ff 00 00 00 00 00 00 00 00 00 00 00 00 00 00 02 00 0b",
-     "ff ff 00 00 00 ff 00 00 00 3f ff 00 00 00 00 01 ff ff 00 ff ff ff 00 00 00 00 "
-     "ff 00 00 00 00 00 00 00 00 00 00 00 00 00 00 03 00 0f",
+     "08 06 00 00 00 12 00 00 00 2f ff 00 00 00 00 01 01 02 00 0a 01 02 00 00 00 00 ff 00 00 00 00 "
+     "00 00 00 00 00 00 00 00 00 00 02 00 0b",
+     "ff ff 00 00 00 ff 00 00 00 3f ff 00 00 00 00 01 ff ff 00 ff ff ff 00 00 00 00 ff 00 00 00 00 "
+     "00 00 00 00 00 00 00 00 00 00 03 00 0f",
      10, ",0xFF020000000000000000000000000016,0xFF000000000000000000000000000003,",
      "  ingIpv6_dip: 0xFF020000000000000000000000000016\n"},
     // Masks of partial fields stand behind their names, a large one with an L.
-    {"ingressSflowSample",
-     "ig_intr_md_ingress_port=0x1ff ig_intr_md_ingress_port_mask=0x1ff ingMd_rand=0x12345678 "
-     "ingMd_rand_mask=0xffffffff",
+    {"ingressSflowSample", "ig_intr_md_ingress_port=0x1ff/0x1ff ingMd_rand=0x12345678/0xffffffff",
      41, "01 ff 12 34 56 78", "01 ff ff ff ff ff", 10, "( 0x1ff,0x1ff,0x12345600,0xffffff00,),",
-     " p4_pd_tessel_switch_ingressSflowSample_match_spec_t:\n"
-     "  ig_intr_md_ingress_port: 0x1ff\n"
-     "  ig_intr_md_ingress_port_mask: 0x1ff\n"
-     "  ingMd_rand mask 0xffffff00L: 0x12345600\n"
-     "  ingMd_rand_mask mask 0xffffff00L: 0xffffff00\n"},
+     " p4_pd_tessel_switch_ingressSflowSample_match_spec_t:\n  ig_intr_md_ingress_port: 0x1ff\n  "
+     "ig_intr_md_ingress_port_mask: 0x1ff\n  ingMd_rand mask 0xffffff00L: 0x12345600\n  "
+     "ingMd_rand_mask mask 0xffffff00L: 0xffffff00\n"},
     // Exact: the mask is whole, and whole bytes of the value travel.
     {"l2Lookup", "egrMd_dmacOui=0x001122 egrMd_dmacStation=0x334455 egrMd_egrL2Domain=10", 60,
      "00 11 22 33 44 55 00 0a", "ff ff ff ff ff ff ff ff", 0, "( 0x001122,0x334455,0x00a,),",
@@ -113,8 +79,8 @@ const KeyRow kKeyRows[] = {
     // comes last.
     {"ipv4ShortMaskLpm", "l3Info_vrfId=3 ingIpv4_dip=0x0a010203 ingIpv4_dip_prefix_length=0", 40,
      "03 00 00 00 00", "ff 00 00 00 00", 32, "( 0x03,0x0a010203,0x0000,),",
-     " p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t:\n  l3Info_vrfId: 0x03\n"
-     "  ingIpv4_dip: 0x0a010203\n  ingIpv4_dip_prefix_length: 0x0000\n"},
+     " p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t:\n  l3Info_vrfId: 0x03\n  ingIpv4_dip: "
+     "0x0a010203\n  ingIpv4_dip_prefix_length: 0x0000\n"},
     {"ipv4ShortMaskLpm", "l3Info_vrfId=3 ingIpv4_dip=0x0a010203 ingIpv4_dip_prefix_length=20", 40,
      "03 0a 01 00 00", "ff ff ff f0 00", 12, ",0x0014,", ": 0x0014\n"},
     {"ipv4ShortMaskLpm", "l3Info_vrfId=3 ingIpv4_dip=0x0a010203 ingIpv4_dip_prefix_length=31", 40,
@@ -142,22 +108,18 @@ const KeyRow kKeyRows[] = {
 TEST_F(Records, OfKeys) {
   for (const KeyRow &row : kKeyRows) {
     SCOPED_TRACE(std::string(row.table) + " " + row.members);
-    const Spec spec(record_of(tables(), row.table), row.members);
+    const Spec spec = key_spec(row.table, row.members);
     uint32_t entry = 0;
     Arguments find(*find_export("match_spec_to_entry_hdl", row.table));
-    find.set("match_spec", spec.data()).set("entry", &entry);
-    if (find.takes("priority")) find.set("priority", uint64_t{10});
+    find.give({{"match_spec", word(spec.data())}, {"entry", word(&entry)}, {"priority", 10}});
     const auto match = sent(find).get<soft::journal::MatchSpec>("match");
     EXPECT_EQ(match.valid_bit_count, row.bits);
     EXPECT_EQ(match.byte_count, (std::strlen(row.key) + 1) / 3);
     EXPECT_EQ(hex(match.value.value()), row.key);
     EXPECT_EQ(hex(match.mask.value()), row.mask);
     EXPECT_EQ(match.priority, row.priority);
-    const std::string value =
-        value_of(spec, "match_spec_value", P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX);
-    EXPECT_NE(value.find(row.value), std::string::npos) << value;
-    const std::string lines = lines_of(spec, "match_spec_print");
-    EXPECT_NE(lines.find(row.lines), std::string::npos) << lines;
+    EXPECT_NE(value_of(spec, true).find(row.value), std::string::npos) << value_of(spec, true);
+    EXPECT_NE(lines_of(spec, true).find(row.lines), std::string::npos) << lines_of(spec, true);
   }
 }
 
@@ -227,96 +189,252 @@ const ActionRow kActionRows[] = {
 TEST_F(Records, OfActions) {
   for (const ActionRow &row : kActionRows) {
     SCOPED_TRACE(std::string(row.family) + " " + row.action);
-    const Spec spec(record_of(actions(), row.action), row.members);
-    const Spec key(record_of(tables(), row.table));
+    const Spec spec = action_spec(row.action, row.members);
+    const Spec key = key_spec(row.table);
+    uint32_t entry = 1;
     Arguments install(*find_export(row.family, row.table, row.action));
-    uint32_t entry = 0;
-    if (install.takes("match_spec")) install.set("match_spec", key.data());
-    if (install.takes("priority")) install.set("priority", uint64_t{0});
-    if (install.takes("ttl")) install.set("ttl", uint64_t{0});
-    if (install.takes("action_spec")) install.set("action_spec", spec.data());
-    const bool modifies = std::string_view(row.family).starts_with("table_modify");
-    if (!modifies) install.set("entry", &entry);
-    if (modifies && install.takes("entry")) install.set("entry", uint64_t{1});
+    install.give({{"match_spec", word(key.data())},
+                  {"action_spec", word(spec.data())},
+                  {"priority", 0},
+                  {"ttl", 0}});
+    if (std::string_view(row.family) == "table_modify") install.set("entry", uint64_t{1});
+    if (!std::string_view(row.family).starts_with("table_modify")) install.set("entry", &entry);
     const auto action = sent(install).get<soft::journal::ActionSpec>("action_spec");
     EXPECT_EQ(action.type, 1u);
     EXPECT_EQ(action.data.valid_bit_count, row.bits);
     EXPECT_EQ(action.data.byte_count, (std::strlen(row.data) + 1) / 3);
     EXPECT_EQ(data_of(action), row.data) << "no bytes have an address too";
     EXPECT_EQ(resources_of(action), row.resources);
-    EXPECT_EQ(value_of(spec, "action_value", P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX), row.value);
+    EXPECT_EQ(value_of(spec, false), row.value);
   }
 }
 
-// ---- Every record ----
+// ---- Entries ----
 
-// Value string and printed lines, by the masks of the schema; wide fields are written whole.
-struct Texts {
-  std::string value;
-  std::string lines;
+// What an entry is made with, and how its priority, its value from placement data, and its lines
+// from there at an indent of 2 read.
+struct EntryRow {
+  const char *family;
+  const char *table;
+  const char *key;
+  const char *action;
+  const char *members;
+  uint32_t priority;
+  const char *shown_priority;
+  const char *value;
+  const char *lines;
 };
 
-Texts texts_of(const Spec &spec, bool is_table) {
-  const Record &record = spec.record();
-  const std::string name = record.name;
-  const std::vector<Literal> schema = is_table ? schema_fields(name) : std::vector<Literal>{};
-  Texts texts{is_table ? "( " : "('" + name + "',(",
-              is_table ? " p4_pd_tessel_switch_" + name + "_match_spec_t:\n" : ""};
-  for (size_t i = 0; i < record.member_count; ++i) {
-    const Member &member = record.members[i];
-    const uint32_t full = member.width < 32 ? (1u << member.width) - 1 : 0xffffffff;
-    const bool wide = member.storage == 16;
-    const uint32_t mask = is_table && !wide ? static_cast<uint32_t>(schema[i][3].number()) : full;
-    char text[48];
-    texts.lines += std::string(is_table ? "  " : "  action_") + member.name;
-    if (!wide && mask != full) {
-      std::snprintf(text, sizeof text, " mask 0x%x%s", mask, mask > 0x7fffffff ? "L" : "");
-      texts.lines += text;
-    }
-    std::string digits;
-    for (size_t byte = 0; wide && byte < 16; ++byte) {
-      std::snprintf(text, sizeof text, "%02X", spec.at(member)[byte]);
-      digits += text;
-    }
-    if (!wide) {
-      std::snprintf(text, sizeof text, "%0*x", static_cast<int>((member.width + 3) / 4),
-                    spec.get(member) & mask);
-      digits = text;
-    }
-    texts.lines += ": 0x" + digits + "\n";
-    texts.value += "0x" + digits + ",";
+const EntryRow kEntryRows[] = {
+    {"table_add", "cpuEncap",
+     "egrMd_trapToCpu=1 phase0_switchPort=1/1 egrMd_cpuReasonCode=5/0xff vlanHdr_0__valid=1/1",
+     "trapPktToCpuUntagged", "cpuPort=0x40 trapPipelineQid=3", 10, "10",
+     "(( 0x1,0x0,0x1,0x1,0x05,0xff,0x1,0x1,),('trapPktToCpuUntagged',(0x040,0x03,)),)",
+     "  p4_pd_tessel_switch_cpuEncap_match_spec_t:\n   egrMd_trapToCpu: 0x1\n"
+     "   ingMd_vlanHdrValid: 0x0\n   phase0_switchPort: 0x1\n   phase0_switchPort_mask: 0x1\n"
+     "   egrMd_cpuReasonCode: 0x05\n   egrMd_cpuReasonCode_mask: 0xff\n"
+     "   vlanHdr_0__valid: 0x1\n   vlanHdr_0__valid_mask: 0x1\n"
+     "  p4_pd_tessel_switch_trapPktToCpuUntagged:\n   action_cpuPort: 0x040\n"
+     "   action_trapPipelineQid: 0x03\n"},
+    // Priorities are signed.
+    {"table_add", "cpuEncap", "", "copyPktToCpuTagged", "copyPipelineQid=0x1f", 0xffffffff, "-1",
+     "(( 0x0,0x0,0x0,0x0,0x00,0x00,0x0,0x0,),('copyPktToCpuTagged',(0x1f,)),)", nullptr},
+    {"table_add", "ipv6ShortMaskLpm",
+     "l3Info_vrfId=7 ingIpv6_dip=20010db8fe0000000000000000000000 ingIpv6_dip_prefix_length=40",
+     "setNextHop", "nextHop=0x1234", 0, "0",
+     "(( 0x07,0x20010DB8FE0000000000000000000000,0x0028,),('setNextHop',(0x1234,)),)",
+     "  p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t:\n   l3Info_vrfId: 0x07\n"
+     "   ingIpv6_dip: 0x20010DB8FE0000000000000000000000\n"
+     "   ingIpv6_dip_prefix_length: 0x0028\n  p4_pd_tessel_switch_setNextHop:\n"
+     "   action_nextHop: 0x1234\n"},
+    // Without a key: default entries, and those of a table that has none.
+    {"set_default_action", "cpuEncap", "", "copyPktToCpuTagged", "copyPipelineQid=0x1f", 0, "0",
+     "((),('copyPktToCpuTagged',(0x1f,)),)",
+     "  p4_pd_tessel_switch_copyPktToCpuTagged:\n   action_copyPipelineQid: 0x1f\n"},
+    {"set_default_action", "cpuEncapFields", "", "onMiss", "", 0, "0", "((),('onMiss',()),)",
+     "  p4_pd_tessel_switch_onMiss:\n"},
+    {"set_default_action", "vlanDecap", "", "removeVlanHdr", "", 0, "0",
+     "((),('removeVlanHdr',()),)",
+     "  p4_pd_tessel_switch_vlanDecap:\n  p4_pd_tessel_switch_removeVlanHdr:\n"},
+    // Entries that point at a member or at a group, the fifth or second of their kind.
+    {"add_entry", "ecmpGroup", "l3_ecmpGroup=0x12", "", "", 0, "0",
+     "(( 0x0012,),('setMbrHdl',(0x5,)))",
+     "  p4_pd_tessel_switch_ecmpGroup_match_spec_t:\n   l3_ecmpGroup mask 0xff: 0x0012\n"},
+    {"add_entry_with_selector", "lagGroup", "egrMd_egrL2AintfUnresolved=0xabc/0xfffff", "", "", 9,
+     "9", "(( 0x00abc,0xfffff,),('setGrpHdl',(0x2,)))",
+     "  p4_pd_tessel_switch_lagGroup_match_spec_t:\n"
+     "   egrMd_egrL2AintfUnresolved: 0x00abc\n   egrMd_egrL2AintfUnresolved_mask: 0xfffff\n"},
+    {"set_default_entry_with_selector", "lagGroup", "", "", "", 0, "0", "((),('setGrpHdl',(0x2,)))",
+     ""},
+};
+
+// Five members and two groups of the table's profile.
+void fill_profile(const pdgen::Profile &profile) {
+  const pdgen::Action &action = *profile.actions.front().action;
+  const Spec spec = action_spec(action.name);
+  uint32_t member = 0;
+  for (int i = 0; i < 5; ++i) {
+    member = make("add_member", profile.name, action.name, {{"action_spec", word(spec.data())}});
   }
-  texts.value += is_table ? ")," : ")),";
-  return texts;
+  for (int i = 0; i < 2; ++i) {
+    const uint32_t group = make("create_group", profile.name, "", {{"max_size", 4}});
+    EXPECT_EQ(run("add_member_to_group", profile.name, {{"group", group}, {"member", member}}),
+              BF_SUCCESS);
+  }
 }
 
-TEST_F(Records, OfEveryTableAndAction) {
-  std::mt19937 random(1);
-  size_t compared = 0;
-  size_t longest[2] = {};
-  for (const bool is_table : {true, false}) {
-    for (const Record &record : is_table ? tables() : actions()) {
-      if (is_table && record.member_count == 0) continue;
-      for (int round = 0; round < 10; ++round) {
-        Spec spec(record);
-        spec.fill(random);
-        const Texts wanted = texts_of(spec, is_table);
-        const std::string value =
-            is_table ? value_of(spec, "match_spec_value", P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX)
-                     : value_of(spec, "action_value", P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX);
-        ASSERT_EQ(value, wanted.value);
-        const auto read = read_literal(value);
-        ASSERT_TRUE(read && read->is_tuple(1) && (is_table || (*read)[0].is_tuple(2))) << value;
-        longest[is_table] = std::max(longest[is_table], value.size() + 1);
-        if (record.member_count == 0) continue;
-        ASSERT_EQ(lines_of(spec, is_table ? "match_spec_print" : "action_print"), wanted.lines);
-        ++compared;
-      }
-    }
+TEST_F(Records, OfEntries) {
+  fill_profile(program().profiles.front());
+  fill_profile(*table_named("lagGroup").profile);
+  for (const EntryRow &row : kEntryRows) {
+    SCOPED_TRACE(std::string(row.family) + " " + row.table);
+    const pdgen::Table &table = table_named(row.table);
+    const Spec key = key_spec(row.table, row.key);
+    const Spec spec = table.indirect() ? key : action_spec(row.action, row.members);
+    const uint32_t entry = make(row.family, row.table, row.action,
+                                {{"match_spec", word(key.data())},
+                                 {"action_spec", word(spec.data())},
+                                 {"priority", row.priority},
+                                 {"member", 5},
+                                 {"group", 2}});
+    const Placement placed = Placement::of_entry(kDevice, table.handle, entry);
+    const Given place = {{"placement", word(placed.object)}};
+    EXPECT_EQ(
+        written(*find_export("plcmt_data_value", row.table), place, P4_PD_TESSEL_SWITCH_VALUE_MAX),
+        row.value);
+    EXPECT_EQ(written(*find_export("table_value", row.table),
+                      {{"entry", entry}, {"read_from_hardware", 0}}, P4_PD_TESSEL_SWITCH_VALUE_MAX),
+              "(" + std::string(row.value) + ",(" + row.shown_priority + ",True))");
+    if (row.lines == nullptr) continue;
+    EXPECT_EQ(printed([&](int file) {
+                call(*find_export("plcmt_data_print", row.table), static_cast<uint64_t>(file),
+                     uint64_t{2}, placed.object);
+              }),
+              row.lines);
   }
-  EXPECT_EQ(compared, 1880u);
-  EXPECT_EQ(longest[true], static_cast<size_t>(P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX));
-  EXPECT_EQ(longest[false], static_cast<size_t>(P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX));
+}
+
+// ---- Labels ----
+
+struct LabelRow {
+  const char *table;
+  const char *members;
+  const char *label;
+};
+
+const LabelRow kLabelRows[] = {
+    // Exact numbers are cut to their keys.
+    {"kiteFlow1Counter", "kflowMd_counterIndex=0xfff", "counterIndex 0x7ff "},
+    {"kiteFlow2Counter", "kflowMd_counterIndex=0xfff", "counterIndex 0xfff "},
+    {"kiteFlow3Counter", "kflowMd_counterIndex=0x805", "counterIndex 0x005 "},
+    {"l2DmacClassify", "outerEthHdr_dmacOui=0x001122/0 outerEthHdr_dmacStation=0x334455/0",
+     "Ingress Port 0x00 "},
+    {"l2DmacClassify",
+     "outerEthHdr_dmacOui=0x001122/0xffffff outerEthHdr_dmacStation=0x334455/0xff0000",
+     "Ingress Port 0x00 dmac 0011.2233.4455/ffff.ffff.0000 "},
+    // Flags: bits beyond the field are neither mask nor value.
+    {"finalDropControl", "", ""},
+    {"finalDropControl", "ingMd_dropSmac=1/0", ""},
+    {"finalDropControl", "ingMd_dropSmac=1/1", "dropSmac "},
+    {"finalDropControl", "ingMd_dropSmac=1/0xfe", ""},
+    {"finalDropControl", "ingMd_dropSmac=0xfe/1", "!dropSmac "},
+    {"finalDropControl", "ingMd_v4V6Valid=7/4", "Invalid IP Version "},
+    {"finalDropControl", "ingMd_v4V6Valid=3/7", "!Invalid IP Version "},
+    {"finalDropControl", "ingMd_v4V6Valid=7/3", ""},
+    {"finalDropControl", "tesselFlowMgmtHdr_valid=1/1", ""},  // never written
+    {"ingressPortDropCheck",
+     "ig_intr_md_ingress_port=0x1ff ingMd_invalidTunnel=0/1 ingMd_illegalSmac=1/1 "
+     "ingMd_illegalDmac=0/1 parserMd_outerHdrFlags=8/0xf "
+     "ig_intr_md_from_parser_aux_ingress_parser_err=0xefff/0x1000",
+     "Ingress Port 0x7f !invalidTunnel illegalSmac !illegalDmac Pause Frame "
+     "!Invalid IP Checksum "},
+    // Numbers: a mask of more than the key's bits is not the key's.
+    {"finalDropControl", "ig_intr_md_ingress_port=0x1ff/0x7f", "Ingress Port 0x7f "},
+    {"finalDropControl", "ig_intr_md_ingress_port=0x1ff/0x3", "Ingress Port & 0x3 0x7f "},
+    {"finalDropControl", "ig_intr_md_ingress_port=2/0x1ff", "Ingress Port & 0x1ff 0x02 "},
+    // Texts for values under the mask, and bits beside those of the field.
+    {"finalDropControl", "egrMd_egrL2AintfUnresolved=5/0", ""},
+    {"finalDropControl", "egrMd_egrL2AintfUnresolved=0x10000/0xfffff", " "},
+    {"finalDropControl", "egrMd_egrL2AintfUnresolved=0x10/0xf", " "},
+    {"finalDropControl", "egrMd_egrL2AintfUnresolved=0x3ff/0x1ff", "Invalid Port  "},
+    {"finalDropControl", "egrMd_egrL2AintfUnresolved=5/0xfffff", "egrL2AintfUnresolved 0x00005 "},
+    {"finalDropControl", "egrMd_egrL2AintfUnresolved=0xff/0xf",
+     "egrL2AintfUnresolved & 0xf 0x000ff "},
+    {"finalDropControl", "egrMd_egrL2AintfUnresolved=0x1ff/0xfff00000",
+     "egrL2AintfUnresolved & 0xfff00000 0x001ff "},
+    {"finalDropControl", "ig_intr_md_for_tm_mcast_grp_a=0xf0/0xf", " "},
+    {"finalDropControl", "ig_intr_md_for_tm_mcast_grp_a=0x12/0xff", "mcast_grp_a & 0xff 0x0012 "},
+    {"trapToCpu", "egrMd_decapType=3/0", ""},
+    {"trapToCpu", "egrMd_decapType=0/7", "NoDecap "},
+    {"trapToCpu", "egrMd_decapType=3/1", "VxLanDecap "},
+    {"trapToCpu", "egrMd_decapType=2/7", "CPU-to-Port "},
+    {"trapToCpu", "egrMd_decapType=3/7", "CPU-to-VLAN "},
+    {"trapToCpu", "egrMd_decapType=7/5", "decapType & 0x5 0x7 "},
+    {"trapToCpu", "egrMd_decapType=7/8", "NoDecap "},  // whatever the mask
+    {"trapToCpu", "ingIpv4_dip=0x0a000001/0xff00ff00", "dip 10.0.0.1/8 "},
+    {"trapToCpu", "ingIpv6_dip=20010db8000000000000000000000000/00000000000000000000000000000000",
+     ""},
+    // Address and mask whole, though the key uses two bytes of them.
+    {"trapToCpu", "ingIpv6_dip=20010db8000000000000000000000000/ffffff00000000000000000000000000",
+     "dip 2001:db8::/ffff:ff00:: "},
+};
+
+std::string label(const Spec &spec) {
+  return written(*find_export("match_spec_stringify_for_counter", spec.record().name),
+                 {{"match_spec", word(spec.data())}}, P4_PD_TESSEL_SWITCH_LABEL_MAX);
+}
+
+TEST_F(Records, OfLabels) {
+  for (const LabelRow &row : kLabelRows) {
+    EXPECT_EQ(label(key_spec(row.table, row.members)), row.label) << row.members;
+  }
+}
+
+// Every item of a label in its order, each value set and each mask that of the key.
+Spec all_set(const char *table) {
+  Spec spec = key_spec(table);
+  for (const Member &member : spec.record().member_list()) {
+    std::memset(spec.at(member), 0xff, member.storage);
+    if (member.role != bindings::Role::mask || member.storage == 16) continue;
+    std::memcpy(spec.at(member), key_bits(table_named(table), member).data(), member.storage);
+  }
+  return spec;
+}
+
+TEST_F(Records, OfLabelsInTheOrderOfTheirItems) {
+  EXPECT_EQ(label(all_set("finalDropControl")),
+            "Ingress Port 0x7f Ingress Port Drop - See ingressPortDropCount  dropSmac dropDmac "
+            "invalidEgressPort samePortBridging routedMartian mlagPrune Invalid IP Version "
+            "egrL2AintfUnresolved 0xfffff mcast_grp_a 0xffff Routed Drop  trapToCpu Datalink "
+            "stpBlocked invalidVlan dot1xDrop copy_to_cpu stormControlDrop Firewall Drop "
+            "escortToRecircPort Meter Drop New-flow Meter Drop Flow Limit Drop kFlow Drop bcast "
+            "mcast ");
+  const std::string ones = "ffff:ffff:ffff:ffff:ffff:ffff:ffff:ffff";
+  EXPECT_EQ(label(all_set("trapToCpu")),
+            "etherType 0xffff bcast mcast l4Attr 0x7 srcPort 0xffff dstPort 0xffff ingVPort "
+            "0x3fff ingL3Aintf 0xfff L3DmacValid Ttl 0xff ARP opcode 0xffff IGMP snoop dip "
+            "255.255.255.255/32 protocol 0xff VXLAN flood decapType 0x7 dip " +
+                ones + "/" + ones + " CPUinVLan cpuReasonCode 0xff ");
+  EXPECT_EQ(label(all_set("egressPortDropCheck")),
+            "Egress Port 0x7f stpBlocked invalidVlan Firewall Source IP Meter drop Firewall "
+            "Destination IP Meter drop ttl 0xff routed ");
+  // Every flag negated, every number with a mask of its own: nothing is longer.
+  Spec longest = key_spec("finalDropControl");
+  for (const Member &member : longest.record().member_list()) {
+    if (member.role == bindings::Role::mask) longest.set(member, 0xffffffff);
+  }
+  longest.set(longest.member("ig_intr_md_ingress_port_mask"), 0xfffe);
+  longest.set(longest.member("ig_intr_md_for_tm_mcast_grp_a"), 0xffff);
+  longest.set(longest.member("ig_intr_md_for_tm_mcast_grp_a_mask"), 0xfffe);
+  longest.set(longest.member("egrMd_egrL2AintfUnresolved"), 0xfffff);
+  EXPECT_EQ(label(longest),
+            "Ingress Port & 0xfffe 0x00 !Ingress Port Drop - See ingressPortDropCount  !dropSmac "
+            "!dropDmac !invalidEgressPort !samePortBridging !routedMartian !mlagPrune !Invalid IP "
+            "Version egrL2AintfUnresolved & 0xffffffff 0xfffff mcast_grp_a & 0xfffe 0xffff !Routed "
+            "Drop  !trapToCpu !Datalink !stpBlocked !invalidVlan !dot1xDrop !copy_to_cpu "
+            "!stormControlDrop !Firewall Drop !escortToRecircPort !Meter Drop !New-flow Meter Drop "
+            "!Flow Limit Drop !kFlow Drop !bcast !mcast ");
+  EXPECT_EQ(label(longest).size() + 1, static_cast<size_t>(P4_PD_TESSEL_SWITCH_LABEL_MAX));
 }
 
 }  // namespace

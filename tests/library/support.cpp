@@ -8,7 +8,6 @@
 #include "bf_sys.h"
 #include "pdgen/load/load.hpp"
 #include "soft_traffic.h"
-#include "stateful_fixture.hpp"
 
 namespace {
 
@@ -17,7 +16,7 @@ pd_test::Frees frees_seen;
 }  // namespace
 
 extern "C" void bf_sys_free(void *memory) {
-  static auto *const free_memory = stateful_test::soft_function(bf_sys_free, "bf_sys_free");
+  static auto *const free_memory = pd_test::soft_function(bf_sys_free, "bf_sys_free");
   ++frees_seen.made;
   if (memory == nullptr) ++frees_seen.of_nothing;
   free_memory(memory);
@@ -159,6 +158,12 @@ LibraryTest::~LibraryTest() {
   EXPECT_EQ(soft_allocations_live(), allocations_before_);
 }
 
+std::vector<std::string> names_of(const std::vector<Call> &calls) {
+  std::vector<std::string> names;
+  for (const Call &call : calls) names.push_back(call.function);
+  return names;
+}
+
 // ---- Calls through data ----
 
 Arguments::Arguments(const Export &exported)
@@ -189,7 +194,14 @@ Arguments &Arguments::set(std::string_view name, uint64_t word) {
 }
 
 Arguments &Arguments::set(std::string_view name, const void *object) {
-  return set(name, uint64_t{reinterpret_cast<uintptr_t>(object)});
+  return set(name, word(object));
+}
+
+Arguments &Arguments::give(const Given &given) {
+  for (const auto &[name, value] : given) {
+    if (takes(name)) set(name, value);
+  }
+  return *this;
 }
 
 uint64_t Arguments::get(std::string_view name) const {
@@ -206,6 +218,21 @@ uint64_t Arguments::call() const {
                            << " is not given";
   }
   return exported_->call(words_.data());
+}
+
+p4_pd_status_t run(std::string_view family, std::string_view object, const Given &given) {
+  return Arguments(*find_export(family, object)).give(given).status();
+}
+
+uint32_t make(std::string_view family, std::string_view object, std::string_view action,
+              const Given &given) {
+  static constexpr p4_pd_bytes_meter_spec_t kMeter = {1, 2, 3, 4, PD_METER_TYPE_COLOR_UNAWARE};
+  uint32_t handle = 0;
+  Arguments arguments(*find_export(family, object, action));
+  arguments.give({{"ttl", 50000}, {"meter_spec", word(&kMeter)}}).give(given);
+  arguments.set(arguments.exported().parameter_list().back().name, &handle);
+  EXPECT_EQ(arguments.status(), BF_SUCCESS) << arguments.exported().name;
+  return handle;
 }
 
 // ---- Records ----

@@ -2,6 +2,7 @@
 // library is initialised, devices, and calls whose arguments are given by name.
 #pragma once
 
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -122,7 +123,24 @@ Call only_call(Body &&body) {
   return calls.size() == 1 ? calls.front() : Call{};
 }
 
+// The functions of calls, in order.
+std::vector<std::string> names_of(const std::vector<Call> &calls);
+
+// A function of the soft SDK for which the test program has one of its own: the library calls that
+// one, which hands on to this one where it has nothing to change.
+template <class Function>
+Function *soft_function(Function *, const char *name) {
+  return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
+}
+
 // ---- Calls through data ----
+
+// An argument as a word.
+inline uint64_t word(const void *object) { return reinterpret_cast<uintptr_t>(object); }
+inline uint64_t word(uint64_t number) { return number; }
+
+// Arguments by name, of which an export may take only some.
+using Given = std::vector<std::pair<std::string_view, uint64_t>>;
 
 // The arguments of one export, by parameter name. session, device and target are there already.
 class Arguments {
@@ -132,6 +150,8 @@ class Arguments {
   // Fails the test when there is no such parameter.
   Arguments &set(std::string_view name, uint64_t word);
   Arguments &set(std::string_view name, const void *object);
+  // Sets those that the export takes.
+  Arguments &give(const Given &given);
   bool takes(std::string_view name) const;
   uint64_t get(std::string_view name) const;
   const Export &exported() const { return *exported_; }
@@ -145,6 +165,13 @@ class Arguments {
   std::vector<uint64_t> words_;
   std::vector<bool> given_;
 };
+
+// Calls the export of that family with what it takes of the arguments.
+p4_pd_status_t run(std::string_view family, std::string_view object, const Given &given);
+// The same for one that makes an object, and must: returns the handle, which is what the last
+// parameter yields. A time to live and a colour-unaware meter are given to whoever takes them.
+uint32_t make(std::string_view family, std::string_view object, std::string_view action,
+              const Given &given);
 
 // ---- Records ----
 

@@ -1,0 +1,247 @@
+// Texts of entries and members where something is odd: data that cannot be decoded, actions of
+// other tables, entries that point at nothing, handles that nobody has; and which hardware is
+// asked.
+#include <algorithm>
+
+#include "texts.hpp"
+
+namespace pd_test {
+namespace {
+
+constexpr uint32_t kCpuEncap = 0x0100005e;
+constexpr uint32_t kEcmpMembers = 0x0200002f;
+
+class EntryText : public LibraryTest {
+ protected:
+  static uint32_t add_cpu_encap() {
+    const Spec key = key_spec("cpuEncap"), spec = action_spec("trapPktToCpuUntagged");
+    return make(
+        "table_add", "cpuEncap", "trapPktToCpuUntagged",
+        {{"match_spec", word(key.data())}, {"action_spec", word(spec.data())}, {"priority", 1}});
+  }
+  static uint32_t add_hop() {
+    const Spec spec = action_spec("setEcmpNextHop");
+    return make("add_member", "ecmpMemberActionProfile", "setEcmpNextHop",
+                {{"action_spec", word(spec.data())}});
+  }
+
+  // Placement data as that of an entry of cpuEncap: printed, it is a message.
+  static void expect_refused(const pipe_mgr_placement_t *placement, p4_pd_status_t status) {
+    TextBuffer buffer;
+    EXPECT_EQ(PD(cpuEncap_plcmt_data_value)(placement, buffer.data()), 0);
+    EXPECT_TRUE(buffer.is_untouched());
+    EXPECT_EQ(printed([&](int file) {
+                EXPECT_EQ(PD(cpuEncap_plcmt_data_print)(file, 6, placement),
+                          static_cast<int>(status));
+              }),
+              "cannot decode plcmt_data for p4_pd_tessel_switch_cpuEncap\n");
+    PD(cpuEncap_match_spec_t) match = {9, 9, 9, 9, 9, 9, 9, 9};
+    PD(action_specs_t) specs = {kUnwritten, {}};
+    uint32_t priority = kUnwritten;
+    bool no_key = true;
+    EXPECT_EQ(PD(cpuEncap_get_entry_from_plcmt_data)(placement, &match, &priority, &specs, &no_key),
+              status);
+    EXPECT_TRUE(match.egrMd_trapToCpu == 9 && specs.action == kUnwritten && no_key);
+    EXPECT_EQ(priority, kUnwritten);
+    EXPECT_EQ(PD(cpuEncap_plcmt_data_eq_to_hw)(session(), kDevice, kCpuEncap, 1, placement), 0);
+  }
+};
+
+TEST_F(EntryText, PlacementDataThatCannotBeDecoded) {
+  const Placement entry = Placement::of_entry(kDevice, kCpuEncap, add_cpu_encap());
+  soft_placement_corrupt(entry.object);
+  expect_refused(entry.object, BF_CORRUPT_DATA);
+  expect_refused(nullptr, BF_INVALID_ARGUMENT);
+  const Placement member = Placement::of_member(kDevice, kEcmpMembers, add_hop());
+  expect_refused(member.object, BF_INVALID_ARGUMENT);
+  uint32_t keyless = make("table_get_default_entry_handle", "vlanDecap", "", {});
+  expect_refused(Placement::of_entry(kDevice, 0x01000050, keyless).object, P4_PD_FOREIGN_ACTION);
+
+  PD(action_specs_t) specs = {kUnwritten, {}};
+  EXPECT_EQ(PD(lagPortActionProfile_get_member_from_plcmt_data)(member.object, &specs),
+            P4_PD_FOREIGN_ACTION);
+  soft_placement_corrupt(member.object);
+  EXPECT_EQ(printed([&](int file) {
+              EXPECT_EQ(PD(ecmpMemberActionProfile_adt_plcmt_data_print)(file, 6, member.object),
+                        int{BF_CORRUPT_DATA});
+            }),
+            "cannot decode plcmt_data for "
+            "p4_pd_tessel_switch_ecmpMemberActionProfile_adt_plcmt_data_print\n");
+  EXPECT_EQ(specs.action, kUnwritten);
+  // A line longer than an int can say is not begun.
+  const Placement decap = Placement::of_entry(kDevice, 0x01000050, keyless);
+  EXPECT_EQ(printed([&](int file) {
+              PD(vlanDecap_plcmt_data_print)
+              (file, INT_MAX, decap.object);
+            }),
+            "");
+}
+
+// The device knows an action where the library knows none.
+TEST_F(EntryText, EntriesThatPointAtNothing) {
+  const soft_action_t nowhere = {"nowhere", 0x20fffff0, 0, 0, true};
+  Altered altered("ecmpGroup");
+  altered.table().action_data_table = 0;
+  altered.use({nowhere});
+  const Device device(kOther, false, altered.program());
+  uint8_t key[] = {0, 0x12}, mask[] = {0xff, 0xff};
+  const pipe_mgr_match_spec_t match = {0, 14, 2, key, mask, {}, 0};
+  pipe_mgr_action_spec_t spec = {};
+  spec.type = PIPE_ACTION_DATA;
+  uint32_t lost = 0;
+  const uint32_t table = altered.table().handle;
+  ASSERT_EQ(pipe_mgr_mat_ent_add(session(), kOther, kPipe, table, &match, nowhere.handle, &spec, 0,
+                                 0, &lost),
+            BF_SUCCESS);
+  const Placement at_nothing = Placement::of_entry(kOther, table, lost);
+  PD(ecmpGroup_match_spec_t) read = {};
+  uint32_t member = kUnwritten, group = kUnwritten;
+  bool has_member = true, has_group = true, no_key = true;
+  EXPECT_EQ(PD(ecmpGroup_get_entry_from_plcmt_data)(at_nothing.object, &read, &member, &group,
+                                                    &has_member, &has_group, &no_key),
+            BF_SUCCESS);
+  EXPECT_TRUE(read.l3_ecmpGroup == 0x12 && !no_key && has_member && has_group);
+  EXPECT_TRUE(member == kUnwritten && group == kUnwritten);
+  TextBuffer value, whole;
+  EXPECT_EQ(value.text(PD(ecmpGroup_plcmt_data_value)(at_nothing.object, value.data())),
+            "(( 0x0012,),)");
+  EXPECT_EQ(whole.text(PD(ecmpGroup_value)(session(), kOther, lost, false, whole.data())),
+            "((( 0x0012,),),(0,True))");
+
+  const uint32_t entry =
+      make("add_entry", "ecmpGroup", "", {{"match_spec", word(&read)}, {"member", add_hop()}});
+  const auto equal = PD(ecmpGroup_plcmt_data_eq_to_hw);
+  EXPECT_EQ(equal(session(), kOther, table, lost, at_nothing.object), 1);
+  EXPECT_EQ(equal(session(), kDevice, table, entry, at_nothing.object), 0);
+  EXPECT_EQ(
+      equal(session(), kOther, table, lost, Placement::of_entry(kDevice, table, entry).object), 0);
+}
+
+// ---- By handle ----
+
+TEST_F(EntryText, UnknownHandlesAreAnsweredWithoutACall) {
+  const Placement entry = Placement::of_entry(kDevice, kCpuEncap, add_cpu_encap());
+  const auto calls = recorded([&] {
+    EXPECT_EQ(printed([&](int file) {
+                EXPECT_EQ(PD(plcmt_data_print)(file, 4, kEcmpMembers, entry.object), 27);
+                EXPECT_EQ(PD(adt_plcmt_data_print)(file, 4, 0x31, entry.object), 27);
+              }),
+              "0x0200002f table not found\n0x00000031 table not found\n");
+    for (const uint64_t unknown : {0u, 0x01000000u, 0x01000079u, 0x02000045u, 0xffffffffu}) {
+      for (const char *family :
+           {"plcmt_data_value", "adt_plcmt_data_value", "plcmt_data_eq_to_hw", "entry_value",
+            "entry_hdl_first", "entry_hdl_next", "entry_hdl_default", "member_hdl_next"}) {
+        SCOPED_TRACE(family);
+        TextBuffer buffer;
+        uint32_t handles[2] = {1, 1};
+        Arguments asked(*find_export("by_handle_" + std::string(family)));
+        asked.give({{"table_handle", unknown},
+                    {"profile_handle", unknown},
+                    {"entry", 1},
+                    {"member", 1},
+                    {"placement", word(entry.object)},
+                    {"read_from_hardware", 0},
+                    {"buffer", word(buffer.data())}});
+        const bool yields_handles = asked.takes("target");
+        const bool members = family == std::string_view("member_hdl_next");
+        const auto expect_first = [&](uint32_t first) {
+          for (const char *out : {"entry", "entries", "members"}) {
+            const auto &last = asked.exported().parameter_list().back();
+            if (yields_handles && last.name == std::string_view(out)) asked.set(out, handles);
+          }
+          EXPECT_EQ(asked.call(), members ? 0xffffffffu : 0u);
+          EXPECT_EQ(handles[0], first);
+          EXPECT_EQ(handles[1], 1u);
+          EXPECT_TRUE(buffer.is_untouched());
+        };
+        // A walk without room writes nothing.
+        if (asked.takes("count")) {
+          asked.set("count", uint64_t{0});
+          expect_first(1);
+          asked.set("count", uint64_t{2});
+        }
+        expect_first(yields_handles ? 0xffffffffu : 1u);
+      }
+    }
+  });
+  EXPECT_TRUE(calls.empty());
+}
+
+TEST_F(EntryText, HandlesLeadAlongEntriesAndMembers) {
+  constexpr uint32_t kRoutes = 0x0100002c;
+  uint32_t entries[2] = {};
+  for (uint32_t i = 0; i < 2; ++i) {
+    const PD(ipv4ShortMaskLpm_match_spec_t) key = {7, 0x0a010200 + (i << 8), 24};
+    const PD(setNextHop_action_spec_t) action = {i};
+    entries[i] = make("table_add", "ipv4ShortMaskLpm", "setNextHop",
+                      {{"match_spec", word(&key)}, {"action_spec", word(&action)}});
+  }
+  uint32_t handles[2] = {};
+  EXPECT_EQ(PD(entry_hdl_first)(session(), kTarget, kRoutes, handles), BF_SUCCESS);
+  EXPECT_EQ(handles[0], entries[0]);
+  EXPECT_EQ(PD(entry_hdl_next)(session(), kTarget, kRoutes, entries[0], 2, handles), BF_SUCCESS);
+  EXPECT_EQ(handles[0], entries[1]);
+  EXPECT_EQ(handles[1], 0xffffffffu);
+  EXPECT_EQ(PD(entry_hdl_next)(session(), kTarget, kRoutes, entries[1], 2, handles),
+            BF_OBJECT_NOT_FOUND);
+  const uint32_t members[] = {add_hop(), add_hop()};
+  EXPECT_EQ(PD(member_hdl_next)(session(), kTarget, kEcmpMembers, members[0], 2, handles),
+            BF_SUCCESS);
+  EXPECT_EQ(handles[0], members[1]);
+  const Call asked = only_call(
+      [&] { EXPECT_EQ(PD(entry_hdl_default)(session(), kTarget, kRoutes, handles), BF_SUCCESS); });
+  EXPECT_EQ(asked.scalar("pipe"), kPipe);
+
+  // Device and origin are cut to 8 bits.
+  for (const uint32_t from_hardware : {0x100u, 0x101u}) {
+    TextBuffer buffer;
+    const Call read = only_call([&] {
+      EXPECT_EQ(buffer.text(PD(entry_value)(session(), 0x300 + kDevice, kRoutes, entries[1],
+                                            from_hardware, buffer.data())),
+                "((( 0x07,0x0a010300,0x0018,),('setNextHop',(0x0001,)),),(0,True))");
+    });
+    EXPECT_EQ(read.scalar("read_from_hardware"), from_hardware & 1);
+  }
+}
+
+// ---- Labels ----
+
+TEST_F(EntryText, LabelsAreReadFromTheHardware) {
+  const Spec key = key_spec("finalDropControl", "ingMd_bcast=1/1");
+  const uint32_t entry = make("table_add", "finalDropControl", "dropCount",
+                              {{"match_spec", word(key.data())}, {"priority", 1}});
+  TextBuffer buffer;
+  const Call read = only_call([&] {
+    EXPECT_EQ(buffer.text(PD(stringify_counter_matchspec)(session(), kDevice, 0x0100006a, entry,
+                                                          buffer.data())),
+              "bcast ");
+  });
+  EXPECT_EQ(read.scalar("table"), 0x0100006au);
+  EXPECT_EQ(read.scalar("entry"), entry);
+  EXPECT_EQ(read.scalar("read_from_hardware"), 1u);
+  const uint32_t by_default = make("set_default_action", "l2DmacClassify", "onMiss", {});
+  EXPECT_EQ(PD(l2DmacClassify_stringify_counter_match_spec)(session(), kDevice, by_default,
+                                                            buffer.data()),
+            0);
+}
+
+TEST_F(EntryText, LabelsByHandleGoToTheirTables) {
+  const uint32_t labelled[] = {0x01000002, 0x01000008, 0x01000009, 0x0100000a,
+                               0x0100003f, 0x0100006a, 0x0100006d, 0x01000078};
+  TextBuffer buffer;
+  for (uint32_t handle = 0x01000000; handle <= 0x0100007a; ++handle) {
+    const auto calls = recorded([&] {
+      EXPECT_EQ(PD(stringify_counter_matchspec)(session(), kDevice, handle, 9999, buffer.data()),
+                0);
+    });
+    const bool has_label = std::ranges::find(labelled, handle) != std::end(labelled);
+    ASSERT_EQ(calls.size(), has_label ? 1u : 0u) << handle;
+    if (has_label) {
+      EXPECT_EQ(calls[0].scalar("table"), handle);
+    }
+  }
+  EXPECT_TRUE(buffer.is_untouched());
+}
+
+}  // namespace
+}  // namespace pd_test

@@ -1,0 +1,448 @@
+// What goes in comes out: every action as entry, default entry and member, and entries that point
+// at members and groups, with records whose bits are all random. Read back or decoded from
+// placement data it is what the widths keep; its texts are those of its parts; and placement data
+// equals an entry like it on another device, but none with a key field, mask, prefix length,
+// parameter, member or group changed.
+#include <algorithm>
+
+#include "oracle.hpp"
+#include "texts.hpp"
+
+namespace pd_test {
+namespace {
+
+// What an entry is made with.
+struct Contents {
+  Bytes match;
+  Bytes spec;
+  p4_pd_bytes_meter_spec_t meter;
+  uint32_t priority;
+};
+
+// A member or a group, under the same handle on both devices.
+struct Pointee {
+  const char *kind;
+  uint32_t handle;
+
+  bool is_group() const { return kind == std::string_view("group"); }
+};
+
+constexpr uint32_t kUnset = 0xeeeeeeee;
+
+// What an export that reads an entry reports. Every byte is set beforehand.
+struct Read {
+  const Export *from;
+  Bytes match_spec;
+  Bytes action_specs = Bytes(sizeof(p4_pd_tessel_switch_action_specs_t), 0xee);
+  Bytes action_name = Bytes(61, 0xee);
+  uint32_t priority = kUnset, member = kUnset, group = kUnset;
+  uint8_t has_member = 0xee, has_group = 0xee, no_key = 0xee;
+
+  Read(const Export &exported, const pdgen::Table *table, const Given &where)
+      : from(&exported), match_spec(table == nullptr ? 0 : record_of(*table).size, 0xee) {
+    Arguments read(exported);
+    read.give({{"read_from_hardware", 0},
+               {"match_spec", word(match_spec.data())},
+               {"priority", word(&priority)},
+               {"action_specs", word(action_specs.data())},
+               {"action", word(action_specs.data())},
+               {"action_spec", word(&action_specs[4])},
+               {"action_name", word(action_name.data())},
+               {"member", word(&member)},
+               {"group", word(&group)},
+               {"has_member", word(&has_member)},
+               {"has_group", word(&has_group)},
+               {"no_key", word(&no_key)}})
+        .give(where);
+    EXPECT_EQ(read.status(), BF_SUCCESS) << exported.name;
+  }
+  bool reports(std::string_view name) const { return Arguments(*from).takes(name); }
+};
+
+class ObjectSweep : public LibraryTest {
+ protected:
+  static constexpr p4_pd_device_target_t kOld = {9, kPipe};
+  static constexpr p4_pd_device_target_t kNew = kTarget;
+
+  static Contents contents_for(const pdgen::Table &table, const pdgen::Action *action) {
+    Random random = random_for(table.name + (action == nullptr ? "" : action->name));
+    Contents made;
+    made.match = random_record(record_of(table), random);
+    if (action != nullptr) made.spec = random_record(record_of(*action), random);
+    made.meter = random_meter_spec(random);
+    made.priority = static_cast<uint32_t>(random());
+    return made;
+  }
+
+  // By a family that adds an entry or sets the default one.
+  static uint32_t add(std::string family, const p4_pd_device_target_t &target,
+                      const pdgen::Table &table, const std::string &action, const Contents &given,
+                      const Pointee &pointee = {"", 0}) {
+    if (pointee.is_group()) family += "_with_selector";
+    return make(family, table.name, action,
+                {{"target", word(&target)},
+                 {"match_spec", word(given.match.data())},
+                 {"action_spec", word(given.spec.data())},
+                 {"meter_spec", word(&given.meter)},
+                 {"priority", given.priority},
+                 {pointee.kind, pointee.handle}});
+  }
+  static void remove(const p4_pd_device_target_t &target, const pdgen::Table &table,
+                     uint32_t entry) {
+    EXPECT_EQ(run("table_delete", table.name, {{"device", target.device_id}, {"entry", entry}}),
+              BF_SUCCESS);
+  }
+
+  // Twice, by the table's function and by the handle's.
+  static bool equals(const pdgen::Table &table, uint32_t entry, const Placement &placed) {
+    const Given given = {
+        {"table_handle", table.handle}, {"entry", entry}, {"placement", word(placed.object)}};
+    const auto equal =
+        Arguments(*find_export("plcmt_data_eq_to_hw", table.name)).give(given).call();
+    EXPECT_EQ(Arguments(*find_export("by_handle_plcmt_data_eq_to_hw")).give(given).call(), equal);
+    return equal == 1;
+  }
+
+  // ---- What is reported ----
+
+  static void expect_key(const pdgen::Table &table, const Read &read, const Contents *given) {
+    const Bytes untouched(record_of(table).size, 0xee);
+    const uint32_t priority = given == nullptr ? 0 : given->priority;
+    EXPECT_EQ(hex(read.match_spec),
+              hex(given == nullptr ? untouched : kept_match_spec(table, given->match.data())));
+    EXPECT_EQ(read.priority, read.reports("priority") ? priority : kUnset);
+    EXPECT_EQ(read.no_key, read.reports("no_key") ? (given == nullptr ? 1 : 0) : 0xee);
+  }
+  static void expect_action(const Read &read, const pdgen::Action &action,
+                            const ActionImage &image) {
+    Bytes wanted(read.action_specs.size(), 0xee);
+    std::copy_n(reinterpret_cast<const uint8_t *>(&action.value), 4, wanted.data());
+    if (action.has_params()) std::ranges::copy(kept_action_spec(action, image), &wanted[4]);
+    EXPECT_EQ(hex(read.action_specs), hex(wanted));
+    if (!read.reports("action_name")) return;
+    EXPECT_EQ(reinterpret_cast<const char *>(read.action_name.data()),
+              "p4_pd_tessel_switch_" + action.name);
+  }
+  static void expect_pointee(const Read &read, const Pointee &pointee) {
+    EXPECT_EQ(read.has_member, pointee.is_group() ? 0 : 1);
+    EXPECT_EQ(read.has_group, pointee.is_group() ? 1 : 0);
+    EXPECT_EQ(read.member, pointee.is_group() ? kUnset : pointee.handle);
+    EXPECT_EQ(read.group, pointee.is_group() ? pointee.handle : kUnset);
+  }
+
+  // ---- Texts, put together from those of the parts ----
+
+  static std::string key_value(const pdgen::Table &table, const Read &read) {
+    if (read.no_key != 0) return "(),";
+    return written(*find_export("match_spec_value", table.name),
+                   {{"match_spec", word(read.match_spec.data())}},
+                   P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX);
+  }
+  static std::string action_value(const pdgen::Action &action, const Read &read) {
+    return written(*find_export("action_value", action.name),
+                   {{"action_spec", word(&read.action_specs[4])}},
+                   P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX);
+  }
+  static void print_key(int file, const pdgen::Table &table, const Read &read) {
+    if (!table.keyed()) dprintf(file, "   p4_pd_tessel_switch_%s:\n", table.name.c_str());
+    if (read.no_key != 0) return;
+    call(*find_export("match_spec_print", table.name), static_cast<uint64_t>(file), uint64_t{3},
+         read.match_spec.data());
+  }
+  static void print_action(int file, const pdgen::Action &action, const Read &read) {
+    dprintf(file, "   p4_pd_tessel_switch_%s:\n", action.name.c_str());
+    if (!action.has_params()) return;
+    call(*find_export("action_print", action.name), static_cast<uint64_t>(file), uint64_t{3},
+         &read.action_specs[4]);
+  }
+  // Of an object's function and of the one that takes its handle. family: "plcmt_data".
+  template <class Parts>
+  static void expect_texts(const std::string &family, const std::string &object, Given given,
+                           const std::string &value, Parts parts) {
+    const std::string wanted = printed(parts);
+    given.push_back({"indent", 3});
+    for (const bool by_handle : {false, true}) {
+      const std::string name = (by_handle ? "by_handle_" : "") + family;
+      const std::string owner = by_handle ? "" : object;
+      EXPECT_EQ(written(*find_export(name + "_value", owner), given, P4_PD_TESSEL_SWITCH_VALUE_MAX),
+                value);
+      const std::string lines = printed([&](int file) {
+        given.push_back({"descriptor", static_cast<uint64_t>(file)});
+        EXPECT_EQ(Arguments(*find_export(name + "_print", owner)).give(given).call(), 0u);
+      });
+      EXPECT_EQ(lines, wanted);
+    }
+  }
+
+  // ---- One entry ----
+
+  // It is read from the old device, and its placement data is decoded and returned. expect(read)
+  // looks at what it does, value(read) and print(file, read) say what stands for it in texts.
+  template <class Expect, class Value, class Print>
+  static Placement examine(const pdgen::Table &table, uint32_t entry, const Contents *key,
+                           Expect expect, Value value, Print print) {
+    Placement placed = Placement::of_entry(kOld.device_id, table.handle, entry);
+    const char *get = table.indirect() ? "get_indirect_entry" : "get_entry";
+    const Given where = {{"device", kOld.device_id}, {"entry", entry}};
+    const Read read(*find_export(get, table.name), &table, where);
+    const Read decoded(*find_export(get + std::string("_from_plcmt_data"), table.name), &table,
+                       {{"placement", word(placed.object)}});
+    for (const Read *each : {&read, &decoded}) {
+      expect_key(table, *each, key);
+      expect(*each);
+    }
+    expect_texts("plcmt_data", table.name,
+                 {{"table_handle", table.handle}, {"placement", word(placed.object)}},
+                 "(" + key_value(table, decoded) + value(decoded) + ")", [&](int file) {
+                   print_key(file, table, decoded);
+                   print(file, decoded);
+                 });
+    const int32_t priority =
+        table.has_priority() && key != nullptr ? static_cast<int32_t>(key->priority) : 0;
+    const std::string whole = "((" + key_value(table, decoded) + value(decoded) + "),(" +
+                              std::to_string(priority) + ",True))";
+    Arguments shown(*find_export("table_value", table.name));
+    shown.give({{"read_from_hardware", 0}}).give(where);
+    TextBuffer buffer;
+    EXPECT_EQ(buffer.text(shown.set("buffer", word(buffer.data())).call()), whole);
+    return placed;
+  }
+  static Placement examine_direct(const pdgen::Table &table, const pdgen::Pair &pair,
+                                  uint32_t entry, const Contents &given, bool has_key) {
+    const ActionImage image =
+        action_image(pair, has_key ? pdgen::Operation::kAdd : pdgen::Operation::kDefault,
+                     given.spec.data(), &given.meter);
+    return examine(
+        table, entry, has_key ? &given : nullptr,
+        [&](const Read &read) { expect_action(read, *pair.action, image); },
+        [&](const Read &read) { return action_value(*pair.action, read); },
+        [&](int file, const Read &read) { print_action(file, *pair.action, read); });
+  }
+
+  // ---- Comparison ----
+
+  // Runs judge(changed, differs) for each member of the key with a bit of it flipped that counts in
+  // comparisons. It makes a difference unless it is a bit of a value that its mask leaves out.
+  template <class Judge>
+  static size_t flip_key(const pdgen::Table &table, const Contents &given, Judge judge) {
+    const Bytes kept = kept_match_spec(table, given.match.data());
+    size_t differences = 0;
+    for (const Member &member : record_of(table).member_list()) {
+      SCOPED_TRACE(member.name);
+      const Bytes bits = key_bits(table, member);
+      const auto byte = std::ranges::find_if(bits, [](uint8_t some) { return some != 0; });
+      Contents changed = given;
+      changed.match[member.offset + static_cast<size_t>(byte - bits.begin())] ^=
+          static_cast<uint8_t>(*byte & -*byte);
+      const bool differs = kept_match_spec(table, changed.match.data()) != kept;
+      judge(changed, differs);
+      differences += differs ? 1 : 0;
+    }
+    return differences;
+  }
+  // The same for each parameter that the action data or the resources of the pair carry.
+  template <class Judge>
+  static size_t flip_action(const pdgen::Pair &pair, pdgen::Operation operation,
+                            const Contents &given, Judge judge) {
+    const auto kept = [&](const Contents &one) {
+      return kept_action_spec(*pair.action,
+                              action_image(pair, operation, one.spec.data(), &one.meter));
+    };
+    size_t flips = 0;
+    for (const Member &member : record_of(*pair.action).member_list()) {
+      SCOPED_TRACE(member.name);
+      Contents changed = given;
+      changed.spec[member.offset] ^= 1;
+      if (kept(changed) == kept(given)) continue;
+      judge(changed);
+      ++flips;
+    }
+    return flips;
+  }
+  // An entry of the new device like the placed one but for its priority, and entries with one thing
+  // changed.
+  template <class Add>
+  static size_t compare_entries(const pdgen::Table &table, const Placement &placed,
+                                const Contents &given, Add add_to_new) {
+    Contents same = given;
+    same.priority ^= 1;
+    uint32_t entry = add_to_new(same);
+    EXPECT_TRUE(equals(table, entry, placed));
+    remove(kNew, table, entry);
+    EXPECT_FALSE(equals(table, entry, placed)) << "gone";
+    return flip_key(table, given, [&](const Contents &changed, bool differs) {
+      entry = add_to_new(changed);
+      EXPECT_EQ(equals(table, entry, placed), !differs);
+      remove(kNew, table, entry);
+    });
+  }
+
+  static uint32_t add_member(const p4_pd_device_target_t &target, const pdgen::Profile &profile,
+                             const pdgen::Action &action, const Bytes &spec) {
+    return make("add_member", profile.name, action.name,
+                {{"target", word(&target)}, {"action_spec", word(spec.data())}});
+  }
+  // A member and a group with it.
+  static std::vector<Pointee> add_pointees(const p4_pd_device_target_t &target,
+                                           const pdgen::Profile &profile) {
+    const uint32_t member = add_member(target, profile, *profile.actions.front().action, Bytes(64));
+    const uint32_t group =
+        make("create_group", profile.name, "", {{"target", word(&target)}, {"max_size", 4}});
+    EXPECT_EQ(run("add_member_to_group", profile.name,
+                  {{"device", target.device_id}, {"group", group}, {"member", member}}),
+              BF_SUCCESS);
+    return {{"member", member}, {"group", group}};
+  }
+
+  Device old_device_{9, true};
+};
+
+TEST_F(ObjectSweep, EntriesOfEveryAction) {
+  size_t pairs = 0, key_flips = 0, action_flips = 0;
+  for (const pdgen::Table &table : program().tables) {
+    if (!table.keyed() || table.indirect()) continue;
+    for (size_t i = 0; i < table.pairs.size(); ++i) {
+      const pdgen::Pair &pair = table.pairs[i];
+      SCOPED_TRACE(table.name + " " + pair.action->name);
+      const Contents given = contents_for(table, &*pair.action);
+      const uint32_t old_entry = add("table_add", kOld, table, pair.action->name, given);
+      const Placement placed = examine_direct(table, pair, old_entry, given, true);
+      remove(kOld, table, old_entry);
+      const auto add_to_new = [&](const Contents &one) {
+        return add("table_add", kNew, table, pair.action->name, one);
+      };
+      key_flips += compare_entries(table, placed, given, add_to_new);
+      action_flips += flip_action(pair, pdgen::Operation::kAdd, given, [&](const Contents &other) {
+        const uint32_t entry = add_to_new(other);
+        EXPECT_FALSE(equals(table, entry, placed));
+        remove(kNew, table, entry);
+      });
+      const pdgen::Pair &other = table.pairs[(i + 1) % table.pairs.size()];
+      if (&other != &pair) {
+        Contents alike = contents_for(table, &*other.action);
+        alike.match = given.match;
+        const uint32_t entry = add("table_add", kNew, table, other.action->name, alike);
+        EXPECT_FALSE(equals(table, entry, placed)) << other.action->name;
+        remove(kNew, table, entry);
+      }
+      ++pairs;
+    }
+  }
+  EXPECT_EQ(pairs, 221u);
+  EXPECT_GT(key_flips, 1500u);
+  EXPECT_GT(action_flips, 150u);
+}
+
+TEST_F(ObjectSweep, DefaultEntriesOfEveryAction) {
+  size_t pairs = 0, flips = 0;
+  for (const pdgen::Table &table : program().tables) {
+    for (const pdgen::Pair &pair : table.pairs) {
+      if (!pair.as_default) continue;
+      SCOPED_TRACE(table.name + " " + pair.action->name);
+      const auto set_default = [&](const p4_pd_device_target_t &target, const Contents &given) {
+        return add("set_default_action", target, table, pair.action->name, given);
+      };
+      const Contents given = contents_for(table, &*pair.action);
+      const uint32_t old_entry = set_default(kOld, given);
+      const Placement placed = examine_direct(table, pair, old_entry, given, false);
+      const Given old = {{"target", word(&kOld)}};
+      EXPECT_EQ(make("table_get_default_entry_handle", table.name, "", old), old_entry);
+      expect_action(
+          Read(*find_export("table_get_default_entry", table.name), &table, old), *pair.action,
+          action_image(pair, pdgen::Operation::kDefault, given.spec.data(), &given.meter));
+      EXPECT_TRUE(equals(table, set_default(kNew, given), placed));
+      flips += flip_action(pair, pdgen::Operation::kDefault, given, [&](const Contents &changed) {
+        EXPECT_FALSE(equals(table, set_default(kNew, changed), placed));
+      });
+      if (table.keyed()) {
+        const uint32_t keyed = add("table_add", kNew, table, pair.action->name, given);
+        EXPECT_FALSE(equals(table, keyed, placed)) << "an entry with a key";
+        EXPECT_FALSE(equals(table, set_default(kNew, given),
+                            Placement::of_entry(kDevice, table.handle, keyed)));
+        remove(kNew, table, keyed);
+      }
+      ++pairs;
+    }
+  }
+  EXPECT_EQ(pairs, 179u);
+  EXPECT_GT(flips, 100u);
+}
+
+TEST_F(ObjectSweep, EntriesThatPointAtMembersAndGroups) {
+  size_t tables = 0;
+  for (const pdgen::Profile &profile : program().profiles) {
+    std::vector<Pointee> pointees;
+    for (int round = 0; round < 2; ++round) {
+      for (const Pointee &pointee : add_pointees(kOld, profile)) pointees.push_back(pointee);
+      add_pointees(kNew, profile);
+    }
+    for (const pdgen::Table *table : profile.tables) {
+      SCOPED_TRACE(table->name);
+      const Contents given = contents_for(*table, nullptr);
+      for (const Pointee &pointee : pointees) {
+        const auto examined = [&](uint32_t entry, const Contents *key) {
+          char text[40];
+          std::snprintf(text, sizeof text, "('set%sHdl',(0x%x,))",
+                        pointee.is_group() ? "Grp" : "Mbr", pointee.handle);
+          return examine(
+              *table, entry, key, [&](const Read &read) { expect_pointee(read, pointee); },
+              [&](const Read &) { return std::string(text); }, [](int, const Read &) {});
+        };
+        const uint32_t old_entry = add("add_entry", kOld, *table, "", given, pointee);
+        const Placement placed = examined(old_entry, &given);
+        remove(kOld, *table, old_entry);
+        const Placement defaulted =
+            examined(add("set_default_entry", kOld, *table, "", given, pointee), nullptr);
+        expect_pointee(Read(*find_export("table_get_default_entry", table->name), table,
+                            {{"target", word(&kOld)}}),
+                       pointee);
+        for (const Pointee &held : pointees) {
+          const bool same = &held == &pointee;
+          const uint32_t entry = add("add_entry", kNew, *table, "", given, held);
+          EXPECT_EQ(equals(*table, entry, placed), same);
+          EXPECT_FALSE(equals(*table, entry, defaulted));
+          remove(kNew, *table, entry);
+          const uint32_t other = add("set_default_entry", kNew, *table, "", given, held);
+          EXPECT_EQ(equals(*table, other, defaulted), same);
+          EXPECT_FALSE(equals(*table, other, placed));
+        }
+        compare_entries(*table, placed, given, [&](const Contents &one) {
+          return add("add_entry", kNew, *table, "", one, pointee);
+        });
+      }
+      ++tables;
+    }
+  }
+  EXPECT_EQ(tables, 4u);
+}
+
+TEST_F(ObjectSweep, MembersOfEveryAction) {
+  size_t actions = 0;
+  for (const pdgen::Profile &profile : program().profiles) {
+    for (const pdgen::ProfileAction &pair : profile.actions) {
+      SCOPED_TRACE(profile.name + " " + pair.action->name);
+      Random random = random_for(profile.name + pair.action->name);
+      const Bytes spec = random_record(record_of(*pair.action), random);
+      const uint32_t member = add_member(kOld, profile, *pair.action, spec);
+      const Placement placed =
+          Placement::of_member(kOld.device_id, profile.action_data_handle, member);
+      const Given given = {{"device", kOld.device_id},
+                           {"member", member},
+                           {"placement", word(placed.object)},
+                           {"profile_handle", profile.action_data_handle}};
+      std::optional<Read> read;
+      for (const char *family :
+           {"get_member", "get_member_from_plcmt_data", "get_full_member_info_from_plcmt_data"}) {
+        read.emplace(*find_export(family, profile.name), nullptr, given);
+        expect_action(*read, *pair.action, action_image(*pair.action, spec.data()));
+      }
+      expect_texts("adt_plcmt_data", profile.name, given, action_value(*pair.action, *read),
+                   [&](int file) { print_action(file, *pair.action, *read); });
+      ++actions;
+    }
+  }
+  EXPECT_EQ(actions, 8u);
+}
+
+}  // namespace
+}  // namespace pd_test

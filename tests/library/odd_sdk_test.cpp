@@ -1,0 +1,372 @@
+// An SDK that reports more than it was given room for, less than it was asked for, or sizes that
+// make no sense: what fits is delivered, and nothing beyond the room is read or written.
+#include <functional>
+
+#include "pipe_stful.h"
+#include "soft_snapshot.h"
+#include "soft_state.h"
+#include "typed.hpp"
+
+namespace {
+
+using pd_test::soft_function;
+
+// How many items more than there are the SDK reports.
+uint32_t excess = 0;
+// Whether a range read of a register leaves the records behind the last cell that it read as they
+// were given.
+bool leaves_unread_records = false;
+// While on, the snapshots have captured total bytes in stages of a size of their own: byte i is
+// i % 251.
+struct OddService {
+  bool on = false;
+  uint32_t total = 0;
+  uint32_t stage = 0;
+} odd_service;
+
+}  // namespace
+
+extern "C" {
+
+bf_status_t pipe_stful_ent_query(pipe_session_handle_t session, bf_device_id_t device,
+                                 bf_pipe_id_t pipe, pipe_object_handle_t reg, uint32_t index,
+                                 pipe_stful_query_t *query, bool read_from_hardware) {
+  const bf_status_t status = soft_function(pipe_stful_ent_query, "pipe_stful_ent_query")(
+      session, device, pipe, reg, index, query, read_from_hardware);
+  query->count += excess;
+  return status;
+}
+
+bf_status_t pipe_stful_ent_query_range(pipe_session_handle_t session, bf_device_id_t device,
+                                       bf_pipe_id_t pipe, pipe_object_handle_t reg, uint32_t first,
+                                       uint32_t count, pipe_stful_query_t *queries,
+                                       uint32_t *filled, bool read_from_hardware) {
+  const uint32_t capacity = count == 0 ? 0 : queries[0].count;
+  const bf_status_t status =
+      soft_function(pipe_stful_ent_query_range, "pipe_stful_ent_query_range")(
+          session, device, pipe, reg, first, count, queries, filled, read_from_hardware);
+  for (uint32_t i = *filled; leaves_unread_records && i < count; ++i) queries[i].count = capacity;
+  for (uint32_t i = 0; i < count; ++i) queries[i].count += excess;
+  *filled += excess;
+  return status;
+}
+
+bf_status_t pipe_mgr_hash_calc_input_field_attribute_get(
+    pipe_session_handle_t session, bf_device_id_t device, pipe_object_handle_t calculation,
+    pipe_object_handle_t list, uint32_t max_count, pipe_mgr_hash_attribute_t *attributes,
+    uint32_t *filled) {
+  const bf_status_t status = soft_function(pipe_mgr_hash_calc_input_field_attribute_get,
+                                           "pipe_mgr_hash_calc_input_field_attribute_get")(
+      session, device, calculation, list, max_count, attributes, filled);
+  *filled += excess;
+  return status;
+}
+
+// So many resources that whoever believes it reads beyond the stack; what is not attached but
+// detached counts for nothing.
+bf_status_t pipe_mgr_get_entry(pipe_session_handle_t session, pipe_object_handle_t table,
+                               bf_device_id_t device, pipe_entry_handle_t entry,
+                               pipe_mgr_match_spec_t *match, pipe_mgr_action_spec_t *action_spec,
+                               pipe_object_handle_t *action, bool read_from_hardware) {
+  const bf_status_t status = soft_function(pipe_mgr_get_entry, "pipe_mgr_get_entry")(
+      session, table, device, entry, match, action_spec, action, read_from_hardware);
+  if (excess == 0) return status;
+  action_spec->resource_count += excess << 20;
+  action_spec->resources[3] = action_spec->resources[0];
+  action_spec->resources[3].index = 77;
+  action_spec->resources[3].tag = PIPE_RESOURCE_DETACH;
+  return status;
+}
+
+bf_status_t bf_snapshot_capture_phv_fields_dict_size(uint32_t snapshot, uint32_t *total_size,
+                                                     uint32_t *stage_size) {
+  if (!odd_service.on) {
+    return soft_function(bf_snapshot_capture_phv_fields_dict_size,
+                         "bf_snapshot_capture_phv_fields_dict_size")(snapshot, total_size,
+                                                                     stage_size);
+  }
+  *total_size = odd_service.total;
+  *stage_size = odd_service.stage;
+  return BF_SUCCESS;
+}
+
+bf_status_t bf_snapshot_capture_get(uint32_t snapshot, uint16_t pipe, void *fields,
+                                    bf_snapshot_control_t *control, uint32_t *captures) {
+  if (!odd_service.on) {
+    return soft_function(bf_snapshot_capture_get, "bf_snapshot_capture_get")(snapshot, pipe, fields,
+                                                                             control, captures);
+  }
+  for (uint32_t i = 0; i < odd_service.total; ++i) {
+    static_cast<uint8_t *>(fields)[i] = static_cast<uint8_t>(i % 251);
+  }
+  *captures = 21;
+  return BF_SUCCESS;
+}
+
+}  // extern "C"
+
+namespace pd_test {
+namespace {
+
+using Words = std::vector<uint32_t>;
+
+constexpr p4_pd_device_target_t kAllPipes = {kDevice, BF_ALL_PIPES};
+constexpr uint32_t kWide = 0x06000005;
+
+class OddSdk : public LibraryTest {
+ protected:
+  ~OddSdk() override {
+    excess = 0;
+    leaves_unread_records = false;
+    odd_service.on = false;
+  }
+};
+
+TEST_F(OddSdk, WhatFitsIsDelivered) {
+  for (uint32_t pipe = 0; pipe < kPipes; ++pipe) {
+    for (const uint32_t index : {20, 21}) {
+      EXPECT_EQ(soft_register_write(kDevice, pipe, kWide, index, 10 * index + pipe), BF_SUCCESS);
+    }
+  }
+  const char *name = "hashOuterIpv4Hdr";
+  const PD(hash_field_attr_t) given[] = {{2, 7, 0}, {0, 5, 0}};
+  PD(hash_calc_input_field_attribute_set)(session(), kDevice, name, 2, given);
+  const PD(pdpPolicy_match_spec_t) key = {};
+  const PD(pdpPolice_action_spec_t) police = {6};
+  const uint32_t entry = make("table_add", "pdpPolicy", "pdpPolice",
+                              {{"match_spec", word(&key)}, {"action_spec", word(&police)}});
+
+  // Each row: the counts that come back, what is delivered, and room that stays as it was.
+  const struct {
+    const char *what;
+    std::function<uint32_t(uint32_t *count, uint32_t *room)> read;
+    Words counts;
+    Words delivered;
+  } rows[] = {
+      {"cells of an index",
+       [&](uint32_t *count, uint32_t *room) {
+         return PD(register_read_flowDigestCountReg)(session(), kAllPipes, 20, 1, room, count);
+       },
+       {4, 9},
+       {200, 201, 202, 203, 9}},
+      {"indexes and their cells",
+       [&](uint32_t *count, uint32_t *room) {
+         return PD(register_range_read_flowDigestCountReg)(session(), kAllPipes, 20, 2, 1, count,
+                                                           room, count + 1);
+       },
+       {2, 8},
+       {200, 201, 202, 203, 210, 211, 212, 213, 9}},
+      {"attributes",
+       [&](uint32_t *count, uint32_t *room) {
+         p4_pd_hash_calc_attr_t read[3] = {{9, 9, 9}, {9, 9, 9}, {9, 9, 9}};
+         const uint32_t status = PD(hash_calc_hashOuterIpv4Hdr_input_field_attribute_get)(
+             session(), kDevice, 0, 2, read, count);
+         for (size_t i = 0; i < 3; ++i) room[i] = read[i].field;
+         return status;
+       },
+       {2, 9},
+       {2, 0, 9}},
+      {"attributes by name",
+       [&](uint32_t *count, uint32_t *room) {
+         PD(hash_field_attr_t) read[3] = {{9, 9, 9}, {9, 9, 9}, {9, 9, 9}};
+         const uint32_t status =
+             PD(hash_calc_input_field_attribute_get)(session(), kDevice, name, 2, read, count);
+         for (size_t i = 0; i < 3; ++i) room[i] = read[i].field;
+         return status;
+       },
+       {2, 9},
+       {2, 0, 9}},
+      {"resources",
+       [&](uint32_t *, uint32_t *room) {
+         PD(pdpPolicy_match_spec_t) read = {};
+         bool no_key = true;
+         return PD(pdpPolicy_get_entry)(session(), kDevice, entry, false, &read, nullptr, room,
+                                        nullptr, &no_key);
+       },
+       {9, 9},
+       {6, 9}},
+  };
+  excess = 3;
+  for (const auto &row : rows) {
+    Words counts(2, 9), room(12, 9);
+    EXPECT_EQ(row.read(counts.data(), room.data()), uint32_t{BF_SUCCESS}) << row.what;
+    EXPECT_EQ(counts, row.counts) << row.what;
+    room.resize(row.delivered.size());
+    EXPECT_EQ(room, row.delivered) << row.what;
+  }
+}
+
+TEST_F(OddSdk, RangesReportTheIndexesThatThereWere) {
+  constexpr uint32_t last = SOFT_REGISTER_CELLS - 1;
+  for (uint32_t pipe = 0; pipe < kPipes; ++pipe) {
+    EXPECT_EQ(soft_register_write(kDevice, pipe, kWide, last, 5 + pipe), BF_SUCCESS);
+  }
+  Words words(12, 9);
+  uint32_t indexes = 99, count = 99;
+  const auto read = [&](uint32_t first, uint32_t wanted) {
+    return PD(register_range_read_flowDigestCountReg)(session(), kAllPipes, first, wanted, 1,
+                                                      &indexes, words.data(), &count);
+  };
+  leaves_unread_records = true;
+  ASSERT_EQ(read(last, 3), BF_SUCCESS);
+  EXPECT_TRUE(indexes == 1 && count == 4);
+  EXPECT_EQ(words, (Words{5, 6, 7, 8, 9, 9, 9, 9, 9, 9, 9, 9}));
+  // A range of none is asked for like any other and allocates nothing.
+  const uint64_t allocations = soft_allocations_made();
+  ASSERT_EQ(read(0, 0), BF_SUCCESS);
+  EXPECT_TRUE(indexes == 0 && count == 0);
+  EXPECT_EQ(soft_allocations_made(), allocations);
+  EXPECT_EQ(read(last + 1, 0), BF_INVALID_ARGUMENT);
+  // More cells than an address space holds are refused before the device is asked for them.
+  if (sizeof(size_t) != 4) return;
+  EXPECT_EQ(read(0, 0x40000001), P4_PD_NO_MEMORY);
+}
+
+// ---- Snapshots ----
+
+using Ingress = PD(snapshot_ingress_trigger_t);
+using Egress = PD(snapshot_egress_trigger_t);
+using Capture = PD(snapshot_capture_t);
+
+constexpr size_t kRecord = 634;
+static_assert(sizeof(Ingress) == kRecord && sizeof(Egress) == kRecord &&
+              sizeof(Capture) == kRecord);
+
+uint32_t create(uint32_t direction) {
+  uint32_t snapshot = 0;
+  EXPECT_EQ(PD(snapshot_create)(kDevice, 1, 0, 3, direction, &snapshot), BF_SUCCESS);
+  return snapshot;
+}
+
+const Bytes kUntouchedRecord(kRecord, 0xa5);
+
+// A capture read into room for 22 records, filled with 0xa5 before.
+struct Read {
+  std::vector<Bytes> records;
+  uint32_t captures = 99;
+  p4_pd_status_t status = 0;
+
+  explicit Read(uint32_t snapshot) {
+    Bytes room(22 * kRecord, 0xa5);
+    bf_snapshot_control_t control[32] = {};
+    status = PD(snapshot_capture_data_get)(snapshot, 1, reinterpret_cast<Capture *>(room.data()),
+                                           control, &captures);
+    for (size_t i = 0; i < 22; ++i) {
+      records.emplace_back(&room[i * kRecord], &room[i * kRecord] + kRecord);
+    }
+  }
+};
+
+// The bytes of a trigger as the device gets them: every field of its layout in network order.
+TEST_F(OddSdk, TriggersReachTheDeviceInNetworkOrder) {
+  for (const uint32_t direction : {0, 1}) {
+    Bytes value(kRecord);
+    for (size_t i = 0; i < kRecord; ++i) value[i] = static_cast<uint8_t>(i % 251);
+    Bytes mask(value.rbegin(), value.rend());
+    const Bytes given = value;
+    Bytes wanted = value, wanted_mask = mask, sent(kRecord), sent_mask(kRecord);
+    size_t fields[5] = {};
+    const auto &layout = program().snapshots->layouts[direction];
+    for (const pdgen::SnapshotField &field : layout.fields) {
+      ++fields[field.bytes];
+      for (Bytes *record : {&wanted, &wanted_mask}) {
+        std::reverse(record->begin() + field.offset, record->begin() + field.offset + field.bytes);
+      }
+    }
+    EXPECT_EQ(fields[2], direction == 0 ? 74u : 49u);
+    EXPECT_EQ(fields[4], direction == 0 ? 40u : 32u);
+    const uint32_t snapshot = create(direction);
+    ASSERT_EQ(PD(snapshot_capture_trigger_set)(snapshot, value.data(), mask.data()), BF_SUCCESS);
+    ASSERT_EQ(soft_snapshot_trigger_get(snapshot, sent.data(), sent_mask.data()), BF_SUCCESS);
+    EXPECT_EQ(sent, wanted);
+    EXPECT_EQ(sent_mask, wanted_mask);
+    EXPECT_EQ(value, given);
+  }
+  Ingress port = {};
+  port.ig_intr_md_ingress_port = 0x1234;
+  port.outerEthHdr_dmacOui = 0x00abcdef;
+  Bytes sent(kRecord), sent_mask(kRecord);
+  const uint32_t snapshot = create(0);
+  ASSERT_EQ(PD(snapshot_capture_trigger_set)(snapshot, &port, &port), BF_SUCCESS);
+  ASSERT_EQ(soft_snapshot_trigger_get(snapshot, sent.data(), sent_mask.data()), BF_SUCCESS);
+  EXPECT_EQ(hex(Bytes(&sent[0], &sent[2])), "12 34");
+  EXPECT_EQ(hex(Bytes(&sent[21], &sent[25])), "00 ab cd ef");
+}
+
+TEST_F(OddSdk, CapturesAreCutIntoRecords) {
+  const uint32_t snapshot = create(0);
+  const Read none(snapshot);
+  EXPECT_EQ(none.status, BF_NOT_READY) << "nothing captured";
+  EXPECT_EQ(none.captures, 0u);
+  const Ingress anything = {};
+  PD(snapshot_capture_trigger_set)(snapshot, &anything, &anything);
+  Bytes packet(5 * kRecord);
+  for (size_t i = 0; i < packet.size(); ++i) packet[i] = static_cast<uint8_t>(i % 255);
+  ASSERT_EQ(soft_snapshot_inject(kDevice, 1, 0, 0, packet.data(), 5, 5 * kRecord, nullptr),
+            BF_SUCCESS);
+  const Read read(snapshot);
+  EXPECT_EQ(read.status, BF_SUCCESS);
+  EXPECT_EQ(read.captures, 4u);
+  // The fields of ingress packets are the first 404 bytes of a record and of a capture.
+  for (size_t stage = 0; stage < 4; ++stage) {
+    Bytes wanted(kRecord);
+    std::copy_n(&packet[stage * kRecord], 404, wanted.begin());
+    EXPECT_EQ(read.records[stage], wanted) << stage;
+  }
+  EXPECT_EQ(read.records[4], kUntouchedRecord);
+  soft::faults::fail_allocation(1);
+  const Read no_memory(snapshot);
+  EXPECT_EQ(no_memory.status, P4_PD_NO_MEMORY);
+  EXPECT_TRUE(no_memory.captures == 0 && no_memory.records[0] == kUntouchedRecord);
+}
+
+// Egress packets have their fields in another order than captures.
+TEST_F(OddSdk, FieldsOfEgressPacketsHaveTheirNames) {
+  const uint32_t snapshot = create(1);
+  const Egress anything = {};
+  PD(snapshot_capture_trigger_set)(snapshot, &anything, &anything);
+  Bytes packet(kRecord);
+  packet[0] = 0x01;  // egress port
+  packet[1] = 0x23;
+  packet[5] = 0xab;    // 4 to 7, the OUI of the destination
+  packet[49] = 0x52;   // 44 to 49, three parts of the hardware address of the ARP sender
+  packet[257] = 0x01;  // the last field: sender dropped by the firewall
+  ASSERT_EQ(soft_snapshot_inject(kDevice, 1, 1, 0, packet.data(), 1, kRecord, nullptr), BF_SUCCESS);
+  Capture wanted = {};
+  wanted.eg_intr_md_egress_port[0] = 0x01;
+  wanted.eg_intr_md_egress_port[1] = 0x23;
+  wanted.outerEthHdr_dmacOui[1] = 0xab;
+  wanted.arpHdr_smac[5] = 0x52;
+  wanted.fwMd_sipDrop = 0x01;
+  EXPECT_EQ(std::memcmp(Read(snapshot).records[0].data(), &wanted, kRecord), 0);
+}
+
+TEST_F(OddSdk, StagesOfOddSizes) {
+  const auto read = [](uint32_t total, uint32_t stage) {
+    odd_service = {true, total, stage};
+    const Read made(0);
+    EXPECT_EQ(made.captures, 20u) << "as many as there is room for";
+    return made.records;
+  };
+  // Bytes from first on, and zeroes behind count of them.
+  const auto block = [](size_t first, size_t count) {
+    Bytes made(kRecord);
+    for (size_t i = 0; i < count; ++i) made[i] = static_cast<uint8_t>((first + i) % 251);
+    return made;
+  };
+  for (const auto &[total, stage] : {std::pair{1000, 0}, {0, 0}, {699, 700}}) {
+    EXPECT_EQ(read(total, stage)[0], kUntouchedRecord);
+  }
+  std::vector<Bytes> records = read(25, 10);
+  EXPECT_EQ(records[1], block(10, 10));
+  EXPECT_EQ(records[2], kUntouchedRecord);
+  records = read(1400, 700);
+  EXPECT_EQ(records[1], block(700, kRecord));
+  EXPECT_EQ(records[2], kUntouchedRecord);
+  records = read(1000, 1);
+  EXPECT_EQ(records[19], block(19, 1));
+  EXPECT_EQ(records[20], kUntouchedRecord);
+}
+
+}  // namespace
+}  // namespace pd_test

@@ -1,0 +1,323 @@
+// Counters, meters, registers and digests: the order and the size of what is exchanged, the units
+// and types of meters, and where the fields of an entry lie.
+#include "pipe_stful.h"
+#include "soft_learning.h"
+#include "soft_state.h"
+#include "soft_traffic.h"
+#include "typed.hpp"
+
+namespace pd_test {
+namespace {
+
+constexpr p4_pd_device_target_t kAllPipes = {kDevice, BF_ALL_PIPES};
+
+class Stateful : public LibraryTest {};
+
+// ---- Counters ----
+
+// The first count of the caller's record is the second one of the device's, and the other way
+// round, in the memory of either.
+TEST_F(Stateful, CountersExchangeTheirTwoCounts) {
+  const uint64_t given[2] = {0x1111222233334444, 0x5555666677778888};
+  p4_pd_counter_values_t values, read = {};
+  std::memcpy(&values, given, sizeof values);
+  const PD(l2DmacClassify_match_spec_t) key = {};
+  const uint32_t entry = make("table_add", "l2DmacClassify", "setUcast",
+                              {{"match_spec", word(&key)}, {"priority", 1}});
+  const auto expect_exchanged = [&](const Call &call, const char *name) {
+    uint64_t seen[2];
+    std::memcpy(seen, &call.get<pipe_mgr_counter_t>(name), sizeof seen);
+    EXPECT_TRUE(seen[0] == given[1] && seen[1] == given[0]);
+    EXPECT_EQ(std::memcmp(&read, given, sizeof read), 0);
+  };
+  const Call of_entry = only_call([&] {
+    PD(counter_write_l2DmacClassifyCount)(session(), kAllPipes, entry, values);
+  });
+  PD(counter_read_l2DmacClassifyCount)(session(), kAllPipes, entry, 0, &read);
+  expect_exchanged(of_entry, "counter");
+  EXPECT_EQ(of_entry.scalar("table"), 0x01000002u);
+  read = {};
+  const Call of_cell = only_call([&] {
+    PD(counter_write_pdpClassCount)
+    (session(), kTarget, 9, values);
+  });
+  PD(counter_read_pdpClassCount)(session(), kTarget, 9, 0, &read);
+  expect_exchanged(of_cell, "value");
+
+  // The device is asked for what it counted by one flag alone.
+  ASSERT_EQ(soft_counter_count(kDevice, kPipe, 0x04000005, 5, 3, 192), BF_SUCCESS);
+  const auto packets = [&](uint32_t flags) {
+    EXPECT_EQ(PD(counter_read_firewallPolicyCount)(session(), kTarget, 5, flags, &read),
+              BF_SUCCESS);
+    return read.packets;
+  };
+  EXPECT_EQ(packets(~P4_PD_READ_FROM_HARDWARE), 0u);
+  EXPECT_EQ(packets(P4_PD_READ_FROM_HARDWARE), 3u);
+}
+
+// ---- Meters ----
+
+p4_pd_bytes_meter_spec_t bytes_spec(uint32_t type = PD_METER_TYPE_COLOR_UNAWARE) {
+  return {1000, 2000, 3000, 0xffffffff, type};
+}
+p4_pd_packets_meter_spec_t packets_spec(uint32_t type = PD_METER_TYPE_COLOR_UNAWARE) {
+  return {1000, 2000, 3000, 0xffffffff, type};
+}
+
+void expect_meter(const pipe_mgr_meter_spec_t &meter, uint32_t type, uint32_t unit) {
+  EXPECT_EQ(meter.type, type);
+  EXPECT_TRUE(meter.committed_rate.unit == unit && meter.peak_rate.unit == unit);
+  EXPECT_EQ(meter.committed_rate.value, 1000u);
+  EXPECT_EQ(meter.committed_burst, 2000u);
+  EXPECT_EQ(meter.peak_rate.value, 3000u);
+  EXPECT_EQ(meter.peak_burst, 0xffffffffu);
+}
+
+// By the unit of the meter, and aware of colours only with a colour input.
+TEST_F(Stateful, MetersAreSentInTheirUnitAndType) {
+  const auto bytes = bytes_spec();
+  const auto packets = packets_spec();
+  const auto aware_bytes = bytes_spec(PD_METER_TYPE_COLOR_AWARE);
+  const auto aware_packets = packets_spec(PD_METER_TYPE_COLOR_AWARE);
+  const auto calls = recorded([&] {
+    PD(meter_set_pdpMeter)(session(), kTarget, 17, &bytes);
+    PD(meter_set_newFlowMeter)(session(), kTarget, 18, &packets);
+    PD(bytes_meter_set)(session(), kTarget, 0x05000003, 1, &aware_bytes, 7);
+    PD(packets_meter_set)(session(), kTarget, 0x05000002, 2, &aware_packets, 1);
+  });
+  const uint32_t wanted[][4] = {
+      {0x05000001, 17, 1, 0}, {0x05000002, 18, 1, 1}, {0x05000003, 1, 0, 0}, {0x05000002, 2, 0, 1}};
+  for (size_t i = 0; i < 4; ++i) {
+    EXPECT_EQ(calls.at(i).scalar("meter"), wanted[i][0]);
+    EXPECT_EQ(calls[i].scalar("index"), wanted[i][1]);
+    expect_meter(calls[i].get<pipe_mgr_meter_spec_t>("spec"), wanted[i][2], wanted[i][3]);
+  }
+}
+
+TEST_F(Stateful, MetersOfOtherTypesAreRefused) {
+  const PD(l2LookupMiss_match_spec_t) key = {};
+  uint32_t entry = 0;
+  const auto calls = recorded([&] {
+    for (const uint32_t type : {uint32_t{PD_METER_TYPE_COLOR_AWARE}, 2u, ~0u}) {
+      const auto bytes = bytes_spec(type);
+      const auto packets = packets_spec(type);
+      const uint8_t colours = type == PD_METER_TYPE_COLOR_AWARE ? 0 : 1;
+      for (const p4_pd_status_t status :
+           {PD(bytes_meter_set)(session(), kTarget, 0x05000003, 1, &bytes, colours),
+            PD(packets_meter_set)(session(), kTarget, 0x05000002, 1, &packets, colours),
+            PD(meter_set_firewallSipDropMeter)(session(), kTarget, 1, &bytes),
+            PD(meter_set_stormControlMeter)(session(), kTarget, 1, &bytes),
+            PD(l2LookupMiss_table_add_with_l2LookupBcastHit)(session(), kTarget, &key, 4, &bytes,
+                                                             &entry),
+            PD(l2LookupMiss_table_modify_with_l2LookupBcastHit)(session(), kDevice, 1, &bytes),
+            PD(l2LookupMiss_set_default_action_l2LookupBcastHit)(session(), kTarget, &bytes,
+                                                                 &entry)}) {
+        EXPECT_EQ(status, P4_PD_METER_TYPE_REFUSED) << type;
+      }
+    }
+  });
+  EXPECT_TRUE(calls.empty());
+}
+
+// The device may hold more than 32 bits say.
+TEST_F(Stateful, MetersReadTheirLowHalves) {
+  pipe_mgr_meter_spec_t held = {0, {0, 0x100000005}, 0x200000006, {0, 0x300000007}, 0x400000008};
+  ASSERT_EQ(pipe_mgr_meter_ent_set(session(), kDevice, kPipe, 0x05000006, 3, &held, 0), BF_SUCCESS);
+  const uint32_t wanted[5] = {5, 6, 7, 8, 0};
+  for (const char *family : {"meter_read", "bytes_meter_read", "packets_meter_read"}) {
+    uint32_t read[5] = {9, 9, 9, 9, 9};
+    const char *object = family == std::string_view("meter_read") ? "ingressMirrorMeter" : "";
+    EXPECT_EQ(
+        run(family, object, {{"meter", 0x05000006}, {"index", 3}, {"meter_spec", word(read)}}),
+        BF_SUCCESS);
+    EXPECT_EQ(std::memcmp(read, wanted, sizeof read), 0) << family;
+  }
+}
+
+// The meter that travels with an entry: attached with a spec; without one an add is refused, a
+// modified entry keeps its meter and the default entry lets go of it.
+TEST_F(Stateful, MetersOfEntriesComeWithTheirSpec) {
+  const PD(l2LookupMiss_match_spec_t) key = {};
+  const auto meter = bytes_spec();
+  const struct {
+    const char *family;
+    const p4_pd_bytes_meter_spec_t *meter;
+    const char *resource;
+  } rows[] = {
+      {"table_add", &meter, "05000005:0:1"},
+      {"table_modify", nullptr, "05000005:0:0"},
+      {"table_modify", &meter, "05000005:0:1"},
+      {"table_modify_by_match_spec", &meter, "05000005:0:1"},
+      {"set_default_action", nullptr, "05000005:0:2"},
+      {"set_default_action", &meter, "05000005:0:1"},
+  };
+  uint32_t entry = 0;
+  EXPECT_EQ(PD(l2LookupMiss_table_add_with_l2LookupBcastHit)(session(), kTarget, &key, 4, nullptr,
+                                                             &entry),
+            P4_PD_METER_SPEC_MISSING);
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.family);
+    Arguments install(*find_export(row.family, "l2LookupMiss", "l2LookupBcastHit"));
+    install.give({{"match_spec", word(&key)}, {"priority", 4}, {"meter_spec", word(row.meter)}});
+    if (row.family == std::string_view("table_modify")) {
+      install.set("entry", uint64_t{entry});
+    } else {
+      install.give({{"entry", word(&entry)}});
+    }
+    const Call call = only_call([&] { EXPECT_EQ(install.status(), BF_SUCCESS); });
+    const auto spec = call.get<soft::journal::ActionSpec>("action_spec");
+    EXPECT_EQ(spec.data.byte_count, 0u);
+    EXPECT_EQ(resources_of(spec), row.resource);
+    if (row.meter != nullptr) expect_meter(spec.resources.at(0).data.meter, 1, 0);
+  }
+}
+
+TEST_F(Stateful, WredProfilesArePassedOnAsTheyAre) {
+  const p4_pd_wred_params_t params = {1.5f, 0xfffffffe, 3, 0.75f};
+  const Call call = only_call([&] { PD(wred_set)(session(), kTarget, 0x07000009, 6, &params); });
+  EXPECT_EQ(call.scalar("wred"), 0x07000009u);
+  const auto &spec = call.get<pipe_mgr_wred_spec_t>("spec");
+  EXPECT_TRUE(spec.time_constant_ns == 1.5f && spec.min_threshold_cells == 0xfffffffe);
+  EXPECT_TRUE(spec.max_threshold_cells == 3 && spec.max_probability == 0.75f);
+}
+
+// ---- Registers ----
+
+constexpr uint32_t kWide = 0x06000005;  // the one of 32 bits
+constexpr uint32_t kBit = 0x06000001;
+
+// What the data plane keeps in a cell: another number in each pipe.
+void count_in_pipes(uint32_t reg, uint32_t index, std::initializer_list<uint32_t> values) {
+  bf_pipe_id_t pipe = 0;
+  for (const uint32_t value : values) {
+    EXPECT_EQ(soft_register_write(kDevice, pipe++, reg, index, value), BF_SUCCESS);
+  }
+}
+
+TEST_F(Stateful, RegistersAreReadByIndexAndThenByPipe) {
+  count_in_pipes(kWide, 20, {0x100, 0x101, 0x80000102, 0x103});
+  count_in_pipes(kWide, 21, {0x200, 0x201, 0x202, 0xffffff03});
+  std::vector<uint32_t> words(9, 7);
+  uint32_t indexes = 99, count = 99;
+  ASSERT_EQ(PD(register_range_read_flowDigestCountReg)(session(), kAllPipes, 20, 2, 1, &indexes,
+                                                       words.data(), &count),
+            BF_SUCCESS);
+  EXPECT_TRUE(indexes == 2 && count == 8);
+  EXPECT_EQ(words, (std::vector<uint32_t>{0x100, 0x101, 0x80000102, 0x103, 0x200, 0x201, 0x202,
+                                          0xffffff03, 7}));
+  count_in_pipes(kBit, 20, {1, 0, 0, 1});
+  count_in_pipes(kBit, 21, {0, 0, 1, 0});
+  Bytes bits(9, 7);
+  ASSERT_EQ(PD(register_range_read_flowStateRegisterFirst)(session(), kAllPipes, 20, 2, 1, &indexes,
+                                                           bits.data(), &count),
+            BF_SUCCESS);
+  EXPECT_EQ(bits, (Bytes{1, 0, 0, 1, 0, 0, 1, 0, 7}));
+  // One pipe yields one value, and only bit 0 of the flags reaches the device.
+  count_in_pipes(kWide, 22, {1, 2, 0x80000102, 4});
+  const auto read_one = [&](uint32_t flags) {
+    words[1] = 7;
+    EXPECT_EQ(
+        PD(register_read_flowDigestCountReg)(session(), kTarget, 22, flags, words.data(), &count),
+        BF_SUCCESS);
+    EXPECT_TRUE(count == 1 && words[1] == 7);
+    return words[0];
+  };
+  EXPECT_EQ(read_one(0xfffffffe), 0u);
+  EXPECT_EQ(read_one(0xffffffff), 0x80000102u);
+}
+
+TEST_F(Stateful, RegistersStoreValuesInTheirWidth) {
+  const uint32_t five = 5;  // read as a byte by the registers of 1 bit
+  const auto *byte = reinterpret_cast<const uint8_t *>(&five);
+  const auto calls = recorded([&] {
+    PD(register_write_flowStateRegisterFirst)(session(), kAllPipes, 1, byte);
+    PD(register_write_all_egrStpCheckData)(session(), kAllPipes, byte);
+    PD(register_write_flowDigestCountReg)(session(), kAllPipes, 1, &five);
+    PD(register_write_all_flowDigestCountReg)(session(), kAllPipes, &five);
+  });
+  const uint8_t wanted[] = {1, 1, 5, 5};
+  for (size_t i = 0; i < 4; ++i) {
+    Bytes cell(sizeof(pipe_stful_cell_t));
+    cell[0] = wanted[i];
+    const auto &sent = calls.at(i).get<std::vector<pipe_stful_cell_t>>("cell").at(0);
+    EXPECT_EQ(std::memcmp(&sent, cell.data(), cell.size()), 0) << i;
+  }
+}
+
+TEST_F(Stateful, RegistersByHandleTakeTheDevicesRecords) {
+  pipe_stful_cell_t cell = {}, read = {};
+  for (uint8_t i = 0; i < sizeof cell.bytes; ++i) cell.bytes[i] = static_cast<uint8_t>(0xa0 + i);
+  const Call written = only_call([&] {
+    PD(register_write_indirect)
+    (session(), kTarget, kWide, 8, &cell);
+  });
+  EXPECT_EQ(
+      std::memcmp(&written.get<std::vector<pipe_stful_cell_t>>("cell")[0], &cell, sizeof cell), 0);
+  pipe_stful_query_t query = {1, &read};
+  PD(register_read_indirect)(session(), kTarget, kWide, 8, 3, &query);
+  EXPECT_EQ(read.word, cell.word);
+  // No table of the program has a register, so the device refuses.
+  constexpr uint32_t table = 0x01000002;
+  const Call refused = only_call([&] {
+    PD(register_write_direct)
+    (session(), kDevice, table, 5, &cell);
+  });
+  const auto resources = refused.get<std::vector<pipe_mgr_resource_t>>("resources");
+  ASSERT_EQ(resources.size(), 1u);
+  EXPECT_TRUE(resources[0].handle == table && resources[0].index == 0);
+  EXPECT_EQ(resources[0].data.cell.word, cell.word);
+  EXPECT_EQ(resources[0].tag, uint32_t{PIPE_RESOURCE_ATTACH});
+}
+
+// ---- Digests ----
+
+// In the order of the entry: each field begins where the one before it ends.
+TEST_F(Stateful, FieldsOfDigestsFillTheEntry) {
+  const std::pair<const char *, uint32_t> mac[] = {{"ingMd_smacStation", 4},
+                                                   {"ingMd_ingL2Domain", 2},
+                                                   {"ingMd_ingL2Aintf", 4},
+                                                   {"ingMd_smacOui", 4}};
+  const uint8_t entry[64] = {};
+  const uint8_t *next = entry;
+  for (const auto &[name, bytes] : mac) {
+    uint32_t size = 99;
+    EXPECT_EQ(PD(get_digest_entry_field)(entry, "macLearningDigest", name, &size), next) << name;
+    EXPECT_EQ(size, bytes) << name;
+    next += bytes;
+  }
+  for (const pdgen::Digest &digest : program().digests) {
+    uint32_t end = 0;
+    EXPECT_EQ(PD(get_digest_entry_size)(digest.name.c_str()), digest.size);
+    for (const pdgen::DigestField &field : digest.fields) {
+      EXPECT_EQ(PD(get_digest_entry_field)(entry, digest.name.c_str(), field.name.c_str(), nullptr),
+                entry + field.offset);
+      end = std::max(end, field.offset + field.bytes);
+    }
+    EXPECT_EQ(end, digest.size);
+  }
+  EXPECT_EQ(PD(get_digest_entry_size)("macLearningDigest"), 14u);
+}
+
+TEST_F(Stateful, UnknownNamesOfDigestsLeadNowhere) {
+  for (const char *name : {"", "MacLearningDigest", "macLearningDigest ", "macLearning"}) {
+    EXPECT_EQ(PD(get_digest_entry_size)(name), 0u) << name;
+  }
+  EXPECT_EQ(PD(get_digest_entry_size)(nullptr), 0u);
+  const uint8_t entry[64] = {};
+  const std::tuple<const uint8_t *, const char *, const char *> rows[] = {
+      {entry, "macLearningDigest", "ingMd_protocol"},  // a field of the other digest
+      {entry, "macLearningDigest", "IngMd_smacOui"},
+      {entry, "macLearningDigest ", "ingMd_smacOui"},
+      {entry, "macLearningDigest", nullptr},
+      {entry, nullptr, "ingMd_smacOui"},
+      {nullptr, "macLearningDigest", "ingMd_smacOui"},
+  };
+  for (const auto &[bytes, digest, field] : rows) {
+    uint32_t size = 99;
+    EXPECT_EQ(PD(get_digest_entry_field)(bytes, digest, field, &size), nullptr);
+    EXPECT_EQ(size, 0u);
+  }
+}
+
+}  // namespace
+}  // namespace pd_test

@@ -1,0 +1,259 @@
+// Every table and action: values and lines of random records, schemas, comparisons, widths and
+// names, put together here from the catalogue; and what is told apart only to the letter.
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <set>
+
+#include "texts.hpp"
+
+namespace pd_test {
+namespace {
+
+constexpr const char *kHints[] = {"None", "'mac'", "'v4addr'", "'v6addr'", "'port'", "'vport'"};
+
+std::string digits_of(Bytes bytes) {
+  std::string digits;
+  for (const uint8_t byte : bytes) digits += fmt::format("{:02x}", byte);
+  return digits;
+}
+
+// The bits of a member that count, as a number that is long beyond 31 bits.
+std::string mask_text(Bytes bits) {
+  if (bits.size() != 16) std::ranges::reverse(bits);
+  std::string digits = digits_of(bits);
+  digits.erase(0, digits.find_first_not_of('0'));
+  const bool is_long = digits.size() > 8 || (digits.size() == 8 && digits[0] >= '8');
+  return "0x" + digits + (is_long ? "L" : "");
+}
+
+std::string match_spec_schema(const pdgen::Table &table) {
+  std::string text = "(";
+  for (size_t i = 0; i < table.record.size(); ++i) {
+    const pdgen::RecordField &field = table.record[i];
+    const bool is_value = field.role == pdgen::RecordRole::kValue;
+    const auto hint = static_cast<size_t>(is_value ? field.hint : pdgen::Hint::kNone);
+    text += fmt::format("( '{}','{}',{},{},{},None,None),", field.cli_name, field.name, field.width,
+                        mask_text(key_bits(table, record_of(table).members[i])), kHints[hint]);
+  }
+  return text + ")";
+}
+
+std::string action_schema(const pdgen::Action &action) {
+  std::string params;
+  for (const pdgen::Param &param : action.params) {
+    params += fmt::format("('{}',{},{},None),", param.name, kHints[static_cast<size_t>(param.hint)],
+                          param.width);
+  }
+  return fmt::format("( ('{}'),({}))", action.name, params);
+}
+
+// Sorted by name.
+std::string schemas_of(const auto &pairs) {
+  std::set<std::string> names;
+  for (const auto &pair : pairs) names.insert(pair.action->name);
+  std::string text = "(";
+  for (const std::string &name : names) text += action_schema(action_named(name)) + ",";
+  return text + ")";
+}
+
+std::string table_schema(const pdgen::Table &table) {
+  return fmt::format("( ('{}','mat',({},)),{},{})", table.name, table.indirect() ? "True" : "False",
+                     match_spec_schema(table),
+                     table.indirect() ? "( ('setMbrHdl',(('mbrHdl',None,32,None),)),"
+                                        "( 'setGrpHdl', ( ( 'grpHdl', None, 32, None ), ) ) )"
+                                      : schemas_of(table.pairs));
+}
+
+std::string schema(const char *family, const std::string &object) {
+  return written(*find_export(family, object), {}, P4_PD_TESSEL_SWITCH_SCHEMA_MAX);
+}
+std::string cli_schema(uint32_t handle) {
+  return written(*find_export("cli_schema"), {{"handle", handle}}, P4_PD_TESSEL_SWITCH_SCHEMA_MAX);
+}
+
+TEST(TextWalk, Schemas) {
+  size_t longest = 0;
+  for (const pdgen::Table &table : program().tables) {
+    EXPECT_EQ(schema("table_schema", table.name), table_schema(table));
+    EXPECT_EQ(cli_schema(table.handle), table_schema(table));
+    longest = std::max(longest, table_schema(table).size() + 1);
+    if (!table.keyed()) continue;
+    EXPECT_EQ(constant_text("match_spec_schema", table.name), match_spec_schema(table));
+  }
+  EXPECT_EQ(longest, static_cast<size_t>(P4_PD_TESSEL_SWITCH_SCHEMA_MAX));
+  for (const pdgen::Action &action : program().actions) {
+    EXPECT_EQ(constant_text("action_schema", action.name), action_schema(action));
+  }
+  for (const pdgen::Profile &profile : program().profiles) {
+    EXPECT_EQ(schema("profile_schema", profile.name), schemas_of(profile.actions));
+    EXPECT_EQ(cli_schema(profile.action_data_handle), schemas_of(profile.actions));
+  }
+  for (const uint32_t handle : {0u, 0x01000000u, 0x01000079u, 0x02000030u, 0xffffffffu}) {
+    EXPECT_EQ(cli_schema(handle), "()");
+  }
+}
+
+TEST(TextWalk, SchemasToTheLetter) {
+  EXPECT_EQ(schema("table_schema", "cpuEncapFields"),
+            "( ('cpuEncapFields','mat',(False,)),(( 'egressPort','eg_intr_md_egress_port',9,0x1ff,"
+            "None,None,None),( 'switchPort','phase0_switchPort',1,0x1,None,None,None),( "
+            "'ingressTagged','egrMd_ingressTagged',1,0x1,None,None,None),( 'decapType',"
+            "'egrMd_decapType',3,0x7,None,None,None),),(( ('encapPktToCpu'),(('tagType',None,2,"
+            "None),)),( ('onMiss'),()),))");
+  EXPECT_EQ(cli_schema(0x0200002f), "(( ('setEcmpNextHop'),(('nextHop',None,14,None),)),)");
+  const std::pair<const char *, const char *> fields[] = {
+      // Validity bits; two fields may share such a name.
+      {"cpuEncap", "( 'vlanHdrValid','ingMd_vlanHdrValid',1,0x1,None"},
+      {"cpuEncap", "( 'vlanHdrValidMask','vlanHdr_0__valid_mask',1,0x1,None"},
+      // Whole names where the short ones clash; intrinsic metadata drops its whole prefix.
+      {"finalDropControl", "( 'ingMdDrop','ingMd_drop',1,0x1,None"},
+      {"ingressTrafficClass", "( 'tc','tesselCpuHdr_tc',3,0x7,None"},
+      {"finalizeMcResult", "( 'ingL2McEValidMask','ingL2Mc_eValid_mask',1,0x1,None"},
+      {"finalDropControl", "( 'mcastGrpA','ig_intr_md_for_tm_mcast_grp_a',16,0xffff,None"},
+      {"ingressPortDropCheck",
+       "( 'ingressParserErr','ig_intr_md_from_parser_aux_ingress_parser_err',16,0x1000,None"},
+      // Partial masks, on companions too; L beyond 31 bits; hints.
+      {"finalDropControl", "( 'ingressPort','ig_intr_md_ingress_port',9,0x7f,'port'"},
+      {"finalDropControl", "( 'ingressPortMask','ig_intr_md_ingress_port_mask',9,0x7f,None"},
+      {"trapToCpu",
+       "( 'ingIpv6Dip','ingIpv6_dip',128,0xffff0000000000000000000000000000L,'v6addr'"},
+      {"trapToCpu", "( 'ingVPort','phase0_ingVPort',14,0x3fff,'vport'"},
+      {"ipv6ShortMaskLpm", "( 'dipPrefixLength','ingIpv6_dip_prefix_length',16,0xffff,None"},
+      {"tunnelTermination", "_dip',32,0xffffffffL,'v4addr'"},
+      {"l2DmacClassify", "( 'dmacOui','outerEthHdr_dmacOui',24,0xffffff,'mac'"},
+  };
+  for (const auto &[table, text] : fields) {
+    const std::string whole = constant_text("match_spec_schema", table);
+    EXPECT_NE(whole.find(text + std::string(",None,None),")), std::string::npos) << whole;
+  }
+}
+
+// ---- Records ----
+
+// The bits of a member that count, in the order of its bytes.
+Bytes counted(const Spec &spec, bool is_table, const Member &member) {
+  if (is_table) return key_bits(table_named(spec.record().name), member);
+  const uint32_t bits = member.width < 32 ? (1u << member.width) - 1 : 0xffffffff;
+  const auto *bytes = reinterpret_cast<const uint8_t *>(&bits);
+  return Bytes(bytes, bytes + member.storage);
+}
+
+// Value string and printed lines; wide fields are written whole.
+std::pair<std::string, std::string> texts_of(const Spec &spec, bool is_table) {
+  const std::string name = spec.record().name;
+  std::string value = is_table ? "( " : "('" + name + "',(";
+  std::string lines = is_table ? " p4_pd_tessel_switch_" + name + "_match_spec_t:\n" : "";
+  for (const Member &member : spec.record().member_list()) {
+    const bool wide = member.storage == 16;
+    const bool is_length = member.role == bindings::Role::prefix_length;
+    uint32_t mask = 0;
+    const Bytes bits = counted(spec, is_table, member);
+    if (!wide) std::memcpy(&mask, bits.data(), bits.size());
+    const bool partial = !wide && !is_length && mask != (~0u >> (32 - member.width));
+    std::string digits = fmt::format("{:0{}x}", spec.get(member) & mask, (member.width + 3) / 4);
+    if (wide) {
+      digits = digits_of(Bytes(spec.at(member), spec.at(member) + 16));
+      std::ranges::transform(digits, digits.begin(), ::toupper);
+    }
+    value += "0x" + digits + ",";
+    lines += fmt::format("  {}{}{}: 0x{}\n", is_table ? "" : "action_", member.name,
+                         partial ? " mask " + mask_text(bits) : "", digits);
+  }
+  return {value + (is_table ? ")," : ")),"), lines};
+}
+
+// Flips each bit of each member: whether the records are equal, and whether their values are the
+// same. Returns the number of bits.
+size_t flip_every_bit(const Spec &spec, bool is_table) {
+  const Export &equal = *find_export(is_table ? "match_specs_are_equal" : "action_specs_are_equal",
+                                     spec.record().name);
+  const std::string value = value_of(spec, is_table);
+  size_t flips = 0;
+  EXPECT_EQ(call(equal, spec.data(), spec.data()), 1u);
+  for (const Member &member : spec.record().member_list()) {
+    const Bytes bits = counted(spec, is_table, member);
+    for (unsigned bit = 0; bit < 8 * member.storage; ++bit, ++flips) {
+      Spec flipped = spec;
+      flipped.at(member)[bit / 8] ^= static_cast<uint8_t>(1 << bit % 8);
+      const bool counts = (bits[bit / 8] >> bit % 8 & 1) != 0;
+      EXPECT_EQ(call(equal, spec.data(), flipped.data()) != 0, !counts)
+          << spec.record().name << " " << member.name << " bit " << bit;
+      EXPECT_EQ(call(equal, flipped.data(), spec.data()) != 0, !counts);
+      const bool shown = counts || member.storage == 16;
+      EXPECT_EQ(value_of(flipped, is_table) != value, shown) << spec.record().name << member.name;
+    }
+  }
+  return flips;
+}
+
+TEST(TextWalk, RecordsOfRandomBits) {
+  Random random(1);
+  size_t flips = 0;
+  size_t longest[2] = {};
+  for (const bool is_table : {true, false}) {
+    for (const Record &record : is_table ? tables() : actions()) {
+      if (is_table && record.member_count == 0) continue;
+      Spec spec(record);
+      for (int round = 0; round < 4; ++round) {
+        spec.fill(random);
+        const auto [value, lines] = texts_of(spec, is_table);
+        ASSERT_EQ(value_of(spec, is_table), value);
+        if (record.member_count == 0) continue;
+        ASSERT_EQ(lines_of(spec, is_table), lines);
+        longest[is_table] = std::max(longest[is_table], value.size() + 1);
+      }
+      if (record.member_count != 0) flips += flip_every_bit(spec, is_table);
+    }
+  }
+  EXPECT_GT(flips, 8000u);
+  EXPECT_EQ(longest[true], static_cast<size_t>(P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX));
+  EXPECT_EQ(longest[false], static_cast<size_t>(P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX));
+}
+
+// ---- Widths and names ----
+
+TEST(TextWalk, WidthsOfEveryKeyField) {
+  EXPECT_EQ(p4_pd_tessel_switch_cpuEncap_vlanHdr_0__width(), 1u);
+  EXPECT_EQ(p4_pd_tessel_switch_ecmpGroup_l3_ecmpGroup_width(), 14u);
+  std::map<std::string, const Export *> functions;
+  for (const Export *function : exports_of("width")) functions[function->name] = function;
+  for (const pdgen::Table &table : program().tables) {
+    for (const pdgen::KeyField &field : table.key) {
+      const std::string name =
+          fmt::format("p4_pd_tessel_switch_{}_{}_width", table.name,
+                      field.name.ends_with("_valid") ? field.name.substr(0, field.name.size() - 6)
+                                                     : field.name);
+      ASSERT_TRUE(functions.contains(name)) << name;
+      EXPECT_EQ(call(*functions[name]), field.width) << name;
+      functions.erase(name);
+    }
+  }
+  EXPECT_TRUE(functions.empty());
+}
+
+TEST(TextWalk, NamesOfActionsBothWays) {
+  EXPECT_EQ(p4_pd_tessel_switch_trapPktToCpuUntagged, 0);
+  EXPECT_EQ(p4_pd_tessel_switch_setVlanProperties, 231);
+  const auto name_of = p4_pd_tessel_switch_action_enum_to_string;
+  const auto value_of = p4_pd_tessel_switch_action_string_to_enum;
+  EXPECT_STREQ(name_of(14), "p4_pd_tessel_switch_dipHashCompute");
+  for (const uint32_t beyond : {232u, 0xffffffffu}) EXPECT_EQ(name_of(beyond), nullptr);
+  for (const char *none : {"setVlanProperties", "", "p4_pd_tessel_switch_setVlanPropertie",
+                           "p4_pd_tessel_switch_setVlanProperties "}) {
+    EXPECT_EQ(value_of(none), 232u) << none;
+  }
+  EXPECT_EQ(value_of(nullptr), 232u);
+  size_t longest = 0;
+  for (const pdgen::Action &action : program().actions) {
+    const std::string name = "p4_pd_tessel_switch_" + action.name;
+    EXPECT_EQ(name_of(action.value), name);
+    EXPECT_EQ(p4_pd_tessel_switch_action_name_strings[action.value], name);
+    EXPECT_EQ(value_of(name.c_str()), action.value);
+    longest = std::max(longest, name.size() + 1);
+  }
+  EXPECT_EQ(longest, static_cast<size_t>(P4_PD_TESSEL_SWITCH_ACTION_NAME_MAX));
+}
+
+}  // namespace
+}  // namespace pd_test
