@@ -18,7 +18,9 @@ using HashLine = ObjectLine<soft_hash_t>;
 class HashSeed : public NumberItems {
  public:
   explicit HashSeed(const soft_hash_t &hash)
-      : NumberItems({.columns = {{.name = "seed", .limit = ~uint64_t{0}, .is_hexadecimal = true}},
+      : NumberItems({.columns = {{.name = "seed",
+                                  .limit = ~uint64_t{0},
+                                  .notation = Notation::hexadecimal}},
                      .identity = 0,
                      .nameless = 1}),
         hash_(hash) {}

@@ -58,8 +58,10 @@ void delete_value(const Device &device, const soft_value_set_t &set, uint64_t en
 class SetValues : public NumberItems {
  public:
   explicit SetValues(const soft_value_set_t &set)
-      : NumberItems({.columns = {{.name = "value", .is_hexadecimal = true},
-                                 {.name = "mask", .otherwise = 0xffffffffu, .is_hexadecimal = true},
+      : NumberItems({.columns = {{.name = "value", .notation = Notation::hexadecimal},
+                                 {.name = "mask",
+                                  .otherwise = 0xffffffffu,
+                                  .notation = Notation::hexadecimal},
                                  {.name = "direction", .limit = 1},
                                  {.name = "pipe", .limit = 0xffff, .otherwise = BF_ALL_PIPES},
                                  {.name = "parser", .limit = 0xff, .otherwise = SOFT_ALL_PARSERS}},

@@ -77,6 +77,11 @@ std::string initializer(const Export &target, const Parameter &parameter, const 
     const auto values = value_at<p4_pd_counter_values_t>(bytes);
     return fmt::format("{}u, {}u", values.packets, values.bytes);
   }
+  if (type == "p4_pd_wred_params_t") {
+    const auto params = value_at<p4_pd_wred_params_t>(bytes);
+    return fmt::format("{}, {}, {}, {}", params.time_constant_ns, params.min_threshold_cells,
+                       params.max_threshold_cells, params.max_probability);
+  }
   if (type == "p4_pd_parser_target_t") {
     const auto parser = value_at<p4_pd_parser_target_t>(bytes);
     return fmt::format("{}, {}, {:#x}, {:#x}", parser.device_id, parser.direction, parser.pipe_id,

@@ -3,6 +3,8 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <charconv>
+#include <cmath>
 #include <cstring>
 
 namespace tesselctl {
@@ -138,6 +140,14 @@ uint64_t parse_limited(Word text, uint64_t limit, const std::string &what, uint6
   if (number->high == 0 && number->low <= limit && number->low >= least) return number->low;
   throw Fault(text, least == 0 ? fmt::format("{} is at most {}", what, limit)
                                : fmt::format("{} is {} to {}", what, least, limit));
+}
+
+float parse_real(Word text, std::string_view what) {
+  float number = 0;
+  const char *end = text.text.data() + text.text.size();
+  const auto [stop, error] = std::from_chars(text.text.data(), end, number);
+  if (error == std::errc() && stop == end && std::isfinite(number) && number >= 0) return number;
+  throw Fault(text, fmt::format("{} is a number like 0.25", what));
 }
 
 std::string format_value(const Field &field, const FieldValue &value) {

@@ -33,6 +33,9 @@ FieldValue parse_value(const Field &field, Word text);
 // A number from least to limit; what says whose it is in the message.
 uint64_t parse_limited(Word text, uint64_t limit, const std::string &what, uint64_t least = 0);
 
+// A real number of at least 0, in decimal notation.
+float parse_real(Word text, std::string_view what);
+
 // The shortest text that parse_value reads as the same.
 std::string format_value(const Field &field, const FieldValue &value);
 

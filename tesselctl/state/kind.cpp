@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "tesselctl/program/value.hpp"
 #include "tesselctl/state/line_words.hpp"
 #include "tesselctl/text/number.hpp"
 
@@ -28,13 +29,23 @@ std::span<const ItemKind *const> kinds_of_same_objects(size_t at) {
 namespace {
 
 using Column = NumberItems::Column;
+using Notation = NumberItems::Notation;
 using Numbers = NumberItems::Numbers;
 
 std::string text_of(const Column &column, std::span<const uint64_t> numbers) {
   std::string text;
   for (const uint64_t number : numbers) {
     text += text.empty() ? "" : ",";
-    text += column.is_hexadecimal ? hexadecimal(number) : decimal(number);
+    switch (column.notation) {
+      case Notation::decimal:
+        text += decimal(number);
+        break;
+      case Notation::hexadecimal:
+        text += hexadecimal(number);
+        break;
+      case Notation::real:
+        text += fmt::format("{}", NumberItems::real_of(number));
+    }
   }
   return text;
 }
@@ -42,7 +53,7 @@ std::string text_of(const Column &column, std::span<const uint64_t> numbers) {
 // A number without its name. Throws Fault.
 uint64_t parse_nameless(ValueScanner &line, const Column &column) {
   const Word word = line.here();
-  if (!column.is_hexadecimal) return parse_counted(line, column.least);
+  if (column.notation == Notation::decimal) return parse_counted(line, column.least);
   const uint64_t number = line.hexadecimal();
   if (number <= column.limit) return number;
   throw Fault(word, fmt::format("{} is at most {:#x}", column.name, column.limit));
@@ -85,7 +96,9 @@ void NumberItems::parse(ValueScanner &line, ItemBytes &item) {
   for (const Column &column : named) names.push_back(column.name);
   const LineWords words(line, names);
   for (const Column &column : named) {
-    if (column.count == 1) {
+    if (column.notation == Notation::real) {
+      numbers.push_back(bits_of(parse_real(words.need(column.name), column.name)));
+    } else if (column.count == 1) {
       numbers.push_back(words.number(column.name, column.limit, column.otherwise));
     } else {
       append_list(numbers, column, words.need(column.name));
@@ -106,7 +119,7 @@ void NumberItems::print(std::string &text, const ItemView &item) const {
 void NumberItems::add_numbers(Row &row, const Numbers &all) const {
   if (!layout_.what.empty()) row.object("what", layout_.what);
   for_each_column(layout_, all, [&](const Column &column, auto numbers) {
-    if (column.is_hexadecimal) {
+    if (column.notation != Notation::decimal) {
       row.text(column.name, text_of(column, numbers));
     } else if (column.count == 1) {
       row.number(column.name, numbers.front());

@@ -3,6 +3,7 @@
 // has the list.
 #pragma once
 
+#include <bit>
 #include <functional>
 #include <map>
 #include <memory>
@@ -150,6 +151,9 @@ class NumberItems : public ObjectItems {
   using Numbers = std::vector<uint64_t>;
   using NumbersVisitor = std::function<void(const Numbers &)>;
 
+  // A real number is kept as the bits of a float.
+  enum class Notation : uint8_t { decimal, hexadecimal, real };
+
   // One number, or several with commas between them.
   struct Column {
     std::string_view name;
@@ -157,7 +161,7 @@ class NumberItems : public ObjectItems {
     uint64_t limit = 0xffffffffu;
     uint64_t otherwise = 0;  // where a line of an image does not have it
     size_t count = 1;        // 0 for all that follow
-    bool is_hexadecimal = false;
+    Notation notation = Notation::decimal;
   };
   // How many columns are the identity, and how many stand in images without their names, both from
   // the first on. what says in answers which of the object's items it is, if it has others.
@@ -167,6 +171,9 @@ class NumberItems : public ObjectItems {
     size_t nameless;
     std::string_view what = {};
   };
+
+  static uint64_t bits_of(float number) { return std::bit_cast<uint32_t>(number); }
+  static float real_of(uint64_t bits) { return std::bit_cast<float>(static_cast<uint32_t>(bits)); }
 
   void parse(ValueScanner &line, ItemBytes &item) final;
   void print(std::string &text, const ItemView &item) const final;
