@@ -10,18 +10,19 @@
 namespace tesselctl {
 
 extern const Topic kEntryTopic, kDefaultTopic, kMemberTopic, kGroupTopic, kFallbackTopic;
-extern const Topic kMeterTopic, kCounterTopic, kRegisterTopic, kHashTopic, kValueSetTopic;
+extern const Topic kMeterTopic, kWredTopic, kCounterTopic, kRegisterTopic, kHashTopic,
+    kValueSetTopic;
 extern const Topic kTrafficTopic, kDigestTopic, kSnapshotTopic, kAgeingTopic, kStateTopic;
 extern const Topic kImageTopic, kCompareTopic, kRoutesTopic, kIntrospectionTopic, kReportTopic;
 extern const Topic kToolTopic, kHelpTopic;
 
 std::span<const Topic *const> command_topics() {
   static constexpr const Topic *kTopics[] = {
-      &kEntryTopic,   &kDefaultTopic, &kMemberTopic,   &kGroupTopic,         &kFallbackTopic,
-      &kMeterTopic,   &kCounterTopic, &kRegisterTopic, &kHashTopic,          &kValueSetTopic,
-      &kTrafficTopic, &kDigestTopic,  &kSnapshotTopic, &kAgeingTopic,        &kStateTopic,
-      &kImageTopic,   &kCompareTopic, &kRoutesTopic,   &kIntrospectionTopic, &kReportTopic,
-      &kToolTopic,    &kHelpTopic,
+      &kEntryTopic,    &kDefaultTopic, &kMemberTopic,  &kGroupTopic,    &kFallbackTopic,
+      &kMeterTopic,    &kWredTopic,    &kCounterTopic, &kRegisterTopic, &kHashTopic,
+      &kValueSetTopic, &kTrafficTopic, &kDigestTopic,  &kSnapshotTopic, &kAgeingTopic,
+      &kStateTopic,    &kImageTopic,   &kCompareTopic, &kRoutesTopic,   &kIntrospectionTopic,
+      &kReportTopic,   &kToolTopic,    &kHelpTopic,
   };
   return kTopics;
 }

@@ -66,6 +66,8 @@ group add ecmpMemberActionProfile size=4 as=g
 fallback set ecmpMemberActionProfile member=$m
 meter set pdpMeter index=4 cir=1 cbs=2 pir=3 pbs=4
 meter get pdpMeter index=4
+wred set handle=0x07000001 index=6 min=1 max=9 probability=0.5 time=2 pipe=1
+wred get
 counter write pdpClassCount index=5 packets=1 bytes=64
 counter read pdpClassCount index=5
 counter sync pdpClassCount
@@ -108,6 +110,8 @@ DIFF_ROWS = [
     {"change": "+", "register": "ingVlanCheckData", "index": 3, "values": [1, 1, 1, 1]},
     {"change": "+", "register": "flowDigestCountReg", "what": "all", "values": [7, 7, 7, 7]},
     {"change": "+", "hash": "hashOuterIpv4Hdr", "seed": "0x7"},
+    {"change": "+", "wred": "profiles", "handle": "0x7000001", "index": 6, "pipe": 1, "min": 1,
+     "max": 9, "probability": "0.5", "time": "2"},
 ]
 # Each with the members of its error.
 FAULTS = {
