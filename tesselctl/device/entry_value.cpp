@@ -93,13 +93,13 @@ Word parse_entry(ValueScanner &line, const TableInfo &table, const bindings::Rec
     line.expect(")");
   }
   line.expect(",(");
-  const Word word = line.here();
+  const ValueScanner before = line;
   const auto priority = static_cast<uint32_t>(line.decimal());
   line.expect(",True))");
   if (has_key && table.has_priority()) {
     append_bytes(item.identity, priority);
   } else if (priority != 0) {
-    throw Fault(word, "nothing here has a priority");
+    throw Fault(before.here(), "nothing here has a priority");
   }
   return named;
 }

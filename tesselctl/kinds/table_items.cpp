@@ -31,10 +31,10 @@ TableItems::TableItems(const soft_table_t &table, bool keyed, Families families)
 // ---- Text ----
 
 void TableItems::parse(ValueScanner &line, ItemBytes &item) {
-  const Word word = {line.here().text, line.column()};
+  const ValueScanner before = line;
   const Word action = parse_entry(line, table_, last_action_, item);
   if (item.identity.empty() == keyed_) {
-    throw Fault(word, keyed_ ? "an entry has a key" : "a default entry has no key");
+    throw Fault(before.here(), keyed_ ? "an entry has a key" : "a default entry has no key");
   }
   EntryHead head = take_head(item.value);
   if (head.outcome == EntryHead::kAction) check_action(*last_action_, action);

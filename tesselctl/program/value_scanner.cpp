@@ -40,12 +40,12 @@ bool ValueScanner::accept(std::string_view literal) {
 }
 
 uint64_t ValueScanner::hexadecimal() {
-  const Word word = here();
+  const ValueScanner before = *this;
   if (!accept("0x")) fail("a hexadecimal number");
   const size_t begin = at_;
   uint64_t value = 0;
   for (unsigned digit; at_ < text_.size() && (digit = digit_of(text_[at_])) < 16; ++at_) {
-    if (value >> 60 != 0) throw Fault(word, "this has more than 64 bits");
+    if (value >> 60 != 0) throw Fault(before.here(), "this has more than 64 bits");
     value = value << 4 | digit;
   }
   if (at_ == begin) fail("a hexadecimal digit");
@@ -53,13 +53,13 @@ uint64_t ValueScanner::hexadecimal() {
 }
 
 int64_t ValueScanner::decimal() {
-  const Word word = here();
+  const ValueScanner before = *this;
   const bool negative = accept("-");
   const size_t begin = at_;
   int64_t value = 0;
   for (; at_ < text_.size() && text_[at_] >= '0' && text_[at_] <= '9'; ++at_) {
     value = value * 10 + (text_[at_] - '0');
-    if (value > INT64_C(0xffffffff)) throw Fault(word, "this has more than 32 bits");
+    if (value > INT64_C(0xffffffff)) throw Fault(before.here(), "this has more than 32 bits");
   }
   if (at_ == begin) fail("a decimal number");
   return negative ? -value : value;
@@ -91,14 +91,14 @@ void ValueScanner::record(const bindings::Record &record, uint8_t *bytes) {
       array(bytes + member.offset);
       width = member.width;
     } else {
-      const Word word = here();
+      const ValueScanner before = *this;
       const uint64_t value = hexadecimal();
       if (member.width < 64 && value >> member.width != 0) {
-        throw Fault(word, std::string(member.name) + " has " + std::to_string(member.width) +
-                              " bits, so this is too much");
+        throw Fault(before.here(), std::string(member.name) + " has " +
+                                       std::to_string(member.width) + " bits, so this is too much");
       }
       if (member.role == bindings::Role::prefix_length && value > width) {
-        throw Fault(word, "a prefix has at most " + std::to_string(width) + " bits");
+        throw Fault(before.here(), "a prefix has at most " + std::to_string(width) + " bits");
       }
       width = member.width;
       memcpy(bytes + member.offset, &value, member.storage);

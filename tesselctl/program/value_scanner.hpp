@@ -30,7 +30,7 @@ class ValueScanner {
 
   std::string_view rest() const { return text_.substr(at_); }
   size_t column() const { return column_ + at_; }
-  // The next number or name, and all of the rest.
+  // The next number or name, for faults, and all of the rest.
   Word here() const;
   Word word() const { return {rest(), column()}; }
   [[noreturn]] void fail(std::string_view wanted) const;

@@ -2,6 +2,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <optional>
 
 #include "tesselctl/program/value.hpp"
 #include "tesselctl/state/checksum.hpp"
@@ -169,30 +170,18 @@ class ImageFrame {
 // The items of the objects that an image has opened.
 class OpenObjects {
  public:
-  // "table l2Lookup": the lines that follow belong to it. False for another keyword.
-  bool open(Word keyword, Word name) {
-    for (size_t at = 0; at < kinds().size(); ++at) {
-      if (kinds()[at]->object.keyword != keyword.text) continue;
-      now_ = &known_[{at, resolve_name(kinds()[at]->object, name)}];
-      if (now_->parts.empty()) fill(*now_, at, name);
-      return true;
-    }
-    return false;
-  }
-
-  ImageLine parse(std::string_view text) {
-    const KeywordLine line(text);
-    ValueScanner rest(line.rest.text, line.rest.column);
+  // The item of a line; nothing for one like "table l2Lookup", to which the lines that follow
+  // belong. Throws Fault.
+  std::optional<ImageLine> read(const KeywordLine &line) {
     for (Part &part : now_ == nullptr ? std::span<Part>() : std::span(now_->parts)) {
       if (part.kind->keyword != line.keyword.text) continue;
       if (!part.items) throw Fault(line.keyword, "this object has none of these");
+      ValueScanner rest(line.rest.text, line.rest.column);
       part.items->parse(rest, item_);
-      return {part.kind, now_->name, *part.items, item_.view(), line.keyword};
+      return ImageLine{part.kind, now_->name, *part.items, item_.view(), line.keyword};
     }
-    const bool is_known = std::any_of(kinds().begin(), kinds().end(), [&](const ItemKind *kind) {
-      return kind->keyword == line.keyword.text;
-    });
-    throw Fault(line.keyword, is_known ? "this does not belong here" : "an image has no such line");
+    open(line.keyword, line.rest);
+    return {};
   }
 
  private:
@@ -205,6 +194,17 @@ class OpenObjects {
     std::vector<Part> parts;
   };
 
+  void open(Word keyword, Word name) {
+    bool is_item = false;
+    for (size_t at = 0; at < kinds().size(); ++at) {
+      is_item = is_item || kinds()[at]->keyword == keyword.text;
+      if (kinds()[at]->object.keyword != keyword.text) continue;
+      now_ = &known_[{at, resolve_name(kinds()[at]->object, name)}];
+      if (now_->parts.empty()) fill(*now_, at, name);
+      return;
+    }
+    throw Fault(keyword, is_item ? "this does not belong here" : "an image has no such line");
+  }
   static std::string_view resolve_name(const ObjectKind &kind, Word name) {
     std::vector<std::string_view> names;
     for (size_t i = 0; const char *known = kind.name(i); ++i) {
@@ -249,8 +249,7 @@ uint32_t read_image(std::string_view file, const LineSource &lines, uint32_t pip
     if (frame.lines() % 4096 == 0) check_interrupt();
     in_line(file, frame, [&] {
       if (frame.takes(text)) return;
-      const KeywordLine line(text);
-      if (!objects.open(line.keyword, line.rest)) visit(objects.parse(text));
+      if (const auto line = objects.read(KeywordLine(text))) visit(*line);
     });
   }
   in_line(file, frame, [&] { frame.finish(); });
