@@ -6,9 +6,11 @@
 // the vectors of the same Program: it can be moved, not copied.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -34,6 +36,14 @@ struct Ref {
   explicit operator bool() const { return target != nullptr; }
   const T &operator*() const { return *target; }
   const T *operator->() const { return target; }
+};
+
+// A number of up to 128 bits.
+struct Bits {
+  std::uint64_t upper = 0;
+  std::uint64_t lower = 0;
+
+  bool operator==(const Bits &) const = default;
 };
 
 // How tools show a value.
@@ -100,10 +110,7 @@ struct KeyField {
   unsigned storage_bytes = 0;  // of the record field: 1, 2, 4, or 16 for a byte array
   unsigned bytes = 0;          // of its slot in the key bytes: the width in whole bytes
   unsigned offset = 0;         // of its slot in the key bytes, after key_order
-  // The bits that the key uses. Exactly one of the two holds them: the number up to 32 bits, the
-  // array, most significant byte first, for 128 bits. The other is zero.
-  std::uint32_t key_bits = 0;
-  std::array<std::uint8_t, 16> wide_key_bits{};
+  Bits key_bits;  // those that the key uses
   bool partial = false;  // the key uses fewer bits than the field has
 
   std::string cli_name;  // the name that tools show
@@ -134,7 +141,8 @@ enum class ResourceTag {
   kMeterSpec,  // attached with the meter spec that the caller passes
 };
 enum class Operation { kAdd, kModify, kDefault };
-inline constexpr std::size_t kOperationCount = 3;
+inline constexpr std::string_view kOperationNames[] = {"add", "modify", "default"};
+inline constexpr std::size_t kOperationCount = std::size(kOperationNames);
 
 // A row of a table's `resources`, as written.
 struct ResourceRow {
@@ -259,8 +267,7 @@ struct SnapshotField {
 struct SnapshotLayout {
   std::string name;  // "ingress" or "egress"
   Place place;
-  std::vector<SnapshotField> fields;
-  unsigned used_bytes = 0;  // of the record; the rest is padding
+  std::vector<SnapshotField> fields;  // what they leave over of the record is padding
 };
 
 struct Snapshots {
@@ -295,7 +302,7 @@ struct LabelItem {
   std::string format;            // numbers: the words before the value
   unsigned digits = 0;           // numbers: hexadecimal digits of the value
   std::vector<LabelText> texts;  // numbers
-  std::uint32_t texts_mask = 0;  // numbers: texts apply if the mask has a bit of it; else all ones
+  std::uint32_t texts_mask = 0xffffffff;  // numbers: texts apply if the mask has a bit of it; else all ones
 };
 
 struct Label {
@@ -355,7 +362,7 @@ struct ToolField {
   std::string notation;
   Match match = Match::kExact;
   unsigned width = 0;
-  std::array<std::uint8_t, 16> key_bits{};
+  Bits key_bits;
   std::vector<std::size_t> parts;  // members: one, or the upper and the lower half of an address
   std::vector<std::string> cells;  // counters and meters whose cell the value names
 };
@@ -403,8 +410,11 @@ struct Program {
   Program &operator=(const Program &) = delete;
 };
 
-// The lowest `width` bits, width 1 to 32.
-inline std::uint32_t low_bits(unsigned width) { return 0xffffffffU >> (32 - width); }
+// The lowest `width` bits.
+inline Bits low_bits(unsigned width) {
+  const auto half = [](unsigned bits) { return bits == 0 ? 0 : ~std::uint64_t{0} >> (64 - bits); };
+  return {half(width < 64 ? 0 : std::min(width - 64, 64U)), half(std::min(width, 64U))};
+}
 
 // The row of that name in one of the lists above, null if there is none.
 template <typename Row>

@@ -155,10 +155,9 @@ std::vector<std::string> cli_names(const std::vector<KeyField> &key,
 
 const FieldHint *hint_of(std::string_view field, unsigned width, const FieldFacts &facts) {
   for (const FieldHint &row : facts.hints) {
-    const bool named = std::find(row.fields.begin(), row.fields.end(), field) != row.fields.end();
-    const bool ends_so =
-        std::any_of(row.suffixes.begin(), row.suffixes.end(),
-                    [&](const std::string &suffix) { return field.ends_with(suffix); });
+    const bool named = std::ranges::find(row.fields, field) != row.fields.end();
+    const bool ends_so = std::ranges::any_of(
+        row.suffixes, [&](const std::string &suffix) { return field.ends_with(suffix); });
     if (named || ends_so || (row.width != 0 && row.width == width)) return &row;
   }
   return nullptr;

@@ -9,6 +9,9 @@
 
 namespace pdgen {
 
+inline constexpr std::string_view kWordCharacters =
+    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_";
+
 // "0x" and eight digits.
 std::string hex32(std::uint32_t value);
 

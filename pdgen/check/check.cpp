@@ -1,11 +1,8 @@
 #include "pdgen/check/check.hpp"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 
 #include "pdgen/load/load_row.hpp"
-#include "pdgen/load/load_sections.hpp"
 
 namespace pdgen {
 
@@ -15,19 +12,17 @@ namespace {
 void check_hints(const Program &program, Diagnostics &diagnostics) {
   for (const FieldHint &hint : program.field_facts.hints) {
     for (const std::string &name : hint.fields) {
-      const bool known =
-          std::any_of(program.tables.begin(), program.tables.end(),
-                      [&](const Table &table) { return find_row(table.key, name) != nullptr; });
+      const bool known = std::ranges::any_of(
+          program.tables, [&](const Table &table) { return find_row(table.key, name) != nullptr; });
       if (known) continue;
-      diagnostics.report(hint.place, "hints.fields",
-                         fmt::format("{} is no key field of any table", name));
+      diagnostics.report(hint.place, "hints.fields", "{} is no key field of any table", name);
     }
   }
 }
 
 bool has_action(const Table &table, const Action &action) {
-  return std::any_of(table.pairs.begin(), table.pairs.end(),
-                     [&](const Pair &pair) { return pair.action.target == &action; });
+  return std::ranges::any_of(table.pairs,
+                             [&](const Pair &pair) { return pair.action.target == &action; });
 }
 
 // Routes are a prefix and a next hop: what a tool can load must have no more.
@@ -36,30 +31,26 @@ void check_routes(const Program &program, Diagnostics &diagnostics) {
   const Routes &routes = *program.routes;
   const Action &action = *routes.action;
   if (action.params.size() != 1) {
-    diagnostics.report(routes.place, "routes.action",
-                       fmt::format("{} must have one parameter, the next hop", action.name));
+    diagnostics.report(routes.place, "routes.action", "{} must have one parameter, the next hop",
+                       action.name);
   }
   for (const Ref<Table> &table : routes.tables) {
     if (!table || (table->kind == TableKind::kLpm && has_action(*table, action))) continue;
     diagnostics.report(table.place, "routes.tables",
-                       fmt::format("{} must be a longest-prefix table with the action {}",
-                                   table.name, action.name));
+                       "{} must be a longest-prefix table with the action {}", table.name,
+                       action.name);
   }
-}
-
-bool is_ternary(const KeyField &field, unsigned width) {
-  return field.match == Match::kTernary && field.width == width;
 }
 
 // Labels name what entries of a table count.
 void check_counted(const Program &program, const Label &label, Diagnostics &diagnostics) {
-  const bool counted =
-      std::any_of(program.counters.begin(), program.counters.end(),
-                  [&](const Resource &counter) { return counter.table.name == label.table.name; });
-  if (counted || !label.table) return;
-  diagnostics.report(
-      label.place, "label.table",
-      fmt::format("table {} has no counter of its entries, so nothing to label", label.table.name));
+  const bool counted = std::ranges::any_of(program.counters, [&](const Resource &counter) {
+    return counter.table.name == label.table.name;
+  });
+  if (counted) return;
+  diagnostics.report(label.place, "label.table",
+                     "table {} has no counter of its entries, so nothing to label",
+                     label.table.name);
 }
 
 class LabelChecker {
@@ -77,17 +68,11 @@ class LabelChecker {
 
  private:
   void check_field(const LabelItem &item, const KeyField &field) const {
+    const Match match = item.kind == LabelKind::kExact ? Match::kExact : Match::kTernary;
+    const char *what = item.kind == LabelKind::kFlag     ? "a flag needs a ternary"
+                       : item.kind == LabelKind::kNumber ? "a number needs a ternary"
+                                                         : "an exact number needs an exact";
     switch (item.kind) {
-      case LabelKind::kFlag:
-        return check_flag(item, field);
-      case LabelKind::kNumber:
-        if (field.match == Match::kTernary && !field.wide()) return check_texts(item, field);
-        return report(item, "field", field, "a number needs a ternary field of at most 32 bits");
-      case LabelKind::kExact:
-        if (field.match == Match::kExact && !field.wide()) return;
-        return report(item, "field", field,
-                      "an exact number needs an exact field of at most 32 "
-                      "bits");
       case LabelKind::kV4Addr:
         return check_address(item, field, 32, "field");
       case LabelKind::kV6Addr:
@@ -95,54 +80,56 @@ class LabelChecker {
       case LabelKind::kSilent:
       case LabelKind::kMac:
         return;
+      default:
+        break;
     }
+    if (field.match != match || field.wide()) {
+      return report(item, "field", field, "{} field of at most 32 bits", what);
+    }
+    if (item.kind == LabelKind::kFlag) check_bit(item, field);
+    if (item.kind == LabelKind::kNumber) check_texts(item, field);
   }
 
   // A text for a value that the field cannot have would never be written.
   void check_texts(const LabelItem &item, const KeyField &field) const {
     const auto beyond = [&](std::uint32_t bits) {
-      return field.width != 0 && (bits & ~low_bits(field.width)) != 0;
+      return field.width != 0 && (bits & ~low_bits(field.width).lower) != 0;
     };
     for (const LabelText &text : item.texts) {
       if (!beyond(text.value)) continue;
       diagnostics_.report(text.place, "label.items.texts.value",
-                          fmt::format("{} of field {} of table {} is beyond its {} bits",
-                                      hex(text.value), field.name, label_.table.name, field.width));
+                          "{} of field {} of table {} is beyond its {} bits", hex(text.value),
+                          field.name, label_.table.name, field.width);
     }
-    if (item.texts_mask != 0xffffffff && beyond(item.texts_mask)) {
-      report(item, "texts_mask", field,
-             fmt::format("{} is beyond its {} bits", hex(item.texts_mask), field.width));
+    if (item.texts_mask != kAnyNumber && beyond(item.texts_mask)) {
+      report(item, "texts_mask", field, "{} is beyond its {} bits", hex(item.texts_mask),
+             field.width);
     }
   }
 
-  void check_flag(const LabelItem &item, const KeyField &field) const {
-    if (field.match != Match::kTernary || field.wide()) {
-      return report(item, "field", field, "a flag needs a ternary field of at most 32 bits");
-    }
+  void check_bit(const LabelItem &item, const KeyField &field) const {
     if (item.bit == 0 && field.width > 1) {
-      report(item, "bit", field,
-             fmt::format("the field has {} bits, so a flag must name its bit", field.width));
+      report(item, "bit", field, "the field has {} bits, so a flag must name its bit", field.width);
     }
     if (item.bit == 0) return;
-    if ((item.bit & (item.bit - 1)) != 0 || (item.bit & ~field.key_bits) != 0) {
-      report(
-          item, "bit", field,
-          fmt::format("{} must be one bit of the key bits {}", hex(item.bit), hex(field.key_bits)));
+    if ((item.bit & (item.bit - 1)) != 0 || (item.bit & ~field.key_bits.lower) != 0) {
+      report(item, "bit", field, "{} must be one bit of the key bits {:#x}", hex(item.bit),
+             field.key_bits.lower);
     }
   }
 
   void check_address(const LabelItem &item, const KeyField &field, unsigned width,
                      std::string_view key) const {
-    if (is_ternary(field, width)) return;
-    report(item, key, field,
-           fmt::format("this part of an address needs a ternary field of {} bits", width));
+    if (field.match == Match::kTernary && field.width == width) return;
+    report(item, key, field, "this part of an address needs a ternary field of {} bits", width);
   }
 
+  template <typename... Args>
   void report(const LabelItem &item, std::string_view key, const KeyField &field,
-              std::string_view message) const {
-    diagnostics_.report(
-        item.place, fmt::format("label.items.{}", key),
-        fmt::format("field {} of table {}: {}", field.name, label_.table.name, message));
+              fmt::format_string<Args...> message, Args &&...args) const {
+    diagnostics_.report(item.place, fmt::format("label.items.{}", key), "field {} of table {}: {}",
+                        field.name, label_.table.name,
+                        fmt::format(message, std::forward<Args>(args)...));
   }
 
   const Label &label_;
@@ -153,6 +140,7 @@ class LabelChecker {
 
 void check_labels(const Program &program, Diagnostics &diagnostics) {
   for (const Label &label : program.labels) {
+    if (!label.table) continue;
     check_counted(program, label, diagnostics);
     LabelChecker(label, diagnostics).check();
   }

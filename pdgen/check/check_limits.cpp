@@ -1,11 +1,8 @@
 // What sizes and widths may come to: limits of the core, and widths that go with one another.
-#include <fmt/format.h>
-
 #include <map>
 
 #include "pdgen/check/check.hpp"
 #include "pdgen/load/load_row.hpp"
-#include "pdgen/load/load_sections.hpp"
 #include "pdgen/names.hpp"
 
 namespace pdgen {
@@ -24,8 +21,7 @@ void check_bytes(const std::vector<Row> &parts, const Place &place, std::string_
   std::uint64_t bytes = 0;
   for (const Row &part : parts) bytes += part.bytes;
   if (bytes <= kMostBytes) return;
-  diagnostics.report(place, key,
-                     fmt::format("{} has {} bytes; at most {} can be", what, bytes, kMostBytes));
+  diagnostics.report(place, key, "{} has {} bytes; at most {} can be", what, bytes, kMostBytes);
 }
 
 void check_sizes(const Program &program, Diagnostics &diagnostics) {
@@ -37,10 +33,9 @@ void check_sizes(const Program &program, Diagnostics &diagnostics) {
                 diagnostics);
     for (const Param &param : action.params) {
       if (param.index_of.size() <= kMostCells) continue;
-      diagnostics.report(
-          param.index_of[kMostCells].place, "actions.params.index_of",
-          fmt::format("parameter {} of action {} names cells of {} resources; at most {} can be",
-                      param.name, action.name, param.index_of.size(), kMostCells));
+      diagnostics.report(param.index_of[kMostCells].place, "actions.params.index_of",
+                         "parameter {} of action {} names cells of {} resources; at most {} can be",
+                         param.name, action.name, param.index_of.size(), kMostCells);
     }
   }
 }
@@ -52,82 +47,62 @@ void check_field_widths(const Program &program, Diagnostics &diagnostics) {
     for (const KeyField &field : table.key) {
       const KeyField &other = *first.try_emplace(field.name, &field).first->second;
       if (field.width == 0 || other.width == 0 || field.width == other.width) continue;
-      diagnostics.report(
-          field.place, "table.key.width",
-          fmt::format("field {} of table {} has {} bits, but {} at {}", field.name, table.name,
-                      field.width, other.width, place_text(other.place)));
+      diagnostics.report(field.place, "table.key.width",
+                         "field {} of table {} has {} bits, but {} at {}", field.name, table.name,
+                         field.width, other.width, place_text(other.place));
     }
   }
 }
 
-// The only width that the hint makes sense of; 0 if it goes with every number.
-unsigned width_of(Hint hint) {
-  if (hint == Hint::kMac) return 24;  // one half of an address
-  if (hint == Hint::kV4Addr) return 32;
-  return hint == Hint::kV6Addr ? 128 : 0;
-}
-
-bool fits(Hint hint, unsigned width) {
-  const unsigned wanted = width_of(hint);
-  return width == 0 || (wanted == 0 ? hint == Hint::kNone || width <= 32 : width == wanted);
-}
-
-std::string wanted_width(Hint hint) {
-  const unsigned wanted = width_of(hint);
-  return wanted == 0 ? "at most 32 bits" : fmt::format("{} bits", wanted);
+// What is wrong with the width, a format of the hinted one; empty if the hint goes with it.
+std::string wanted_width(Hint hint, unsigned width) {
+  const unsigned wanted = hint == Hint::kMac      ? 24  // one half of an address
+                          : hint == Hint::kV4Addr ? 32
+                          : hint == Hint::kV6Addr ? 128
+                                                  : 0;
+  if (width == 0 || hint == Hint::kNone || width == wanted) return {};
+  if (wanted != 0) return fmt::format("{} bits", wanted);
+  return width <= 32 ? "" : "at most 32 bits";
 }
 
 void check_hint_widths(const Program &program, Diagnostics &diagnostics) {
   for (const Action &action : program.actions) {
     for (const Param &param : action.params) {
-      if (fits(param.hint, param.width)) continue;
-      diagnostics.report(
-          param.place, "actions.params.hint",
-          fmt::format("the hint of parameter {} of action {} goes with {}, not {}", param.name,
-                      action.name, wanted_width(param.hint), param.width));
+      const std::string wanted = wanted_width(param.hint, param.width);
+      if (wanted.empty()) continue;
+      diagnostics.report(param.place, "actions.params.hint",
+                         "the hint of parameter {} of action {} goes with {}, not {}", param.name,
+                         action.name, wanted, param.width);
     }
   }
   for (const Table &table : program.tables) {
     for (const KeyField &field : table.key) {
       const FieldHint *hint = hint_of(field.name, field.width, program.field_facts);
-      if (hint == nullptr || fits(hint->hint, field.width)) continue;
-      diagnostics.report(
-          hint->place, "hints.hint",
-          fmt::format("this hint goes with {}, but field {} of table {} has {}",
-                      wanted_width(hint->hint), field.name, table.name, field.width));
+      const std::string wanted = hint == nullptr ? "" : wanted_width(hint->hint, field.width);
+      if (wanted.empty()) continue;
+      diagnostics.report(hint->place, "hints.hint",
+                         "this hint goes with {}, but field {} of table {} has {}", wanted,
+                         field.name, table.name, field.width);
     }
   }
-}
-
-// "sip" of "sip_2", a part of a captured field that is too long for a layout.
-std::string_view captured_whole(const Snapshots &snapshots, std::string_view name) {
-  if (find_row(snapshots.capture, name) != nullptr) return {};
-  const std::size_t end = name.rfind('_');
-  const bool numbered = end != std::string_view::npos && end + 2 == name.size() &&
-                        name.back() >= '0' && name.back() <= '9';
-  if (!numbered || find_row(snapshots.capture, name.substr(0, end)) == nullptr) return {};
-  return name.substr(0, end);
 }
 
 // Where a part lies in a capture follows from its number.
 void check_parts(const Snapshots &snapshots, Diagnostics &diagnostics) {
   for (const SnapshotLayout &layout : snapshots.layouts) {
     for (const SnapshotField &field : layout.fields) {
-      const std::string_view whole = captured_whole(snapshots, field.name);
-      if (whole.empty()) continue;
-      const unsigned number = static_cast<unsigned>(field.name.back() - '0');
-      if ((number + 1) * field.bytes > find_row(snapshots.capture, whole)->bytes) {
+      const auto [whole, number] = captured_part(snapshots, field.name);
+      if (whole == nullptr) continue;
+      if ((number + 1) * field.bytes > whole->bytes) {
         diagnostics.report(field.place, "layout.fields.bytes",
-                           fmt::format("{}, {} bytes of {} from byte {}, ends beyond it",
-                                       field.name, field.bytes, whole, number * field.bytes));
+                           "{}, {} bytes of {} from byte {}, ends beyond it", field.name,
+                           field.bytes, whole->name, number * field.bytes);
       }
-      if (number == 0) continue;
-      std::string before = field.name;
-      --before.back();
-      if (find_row(layout.fields, before) != nullptr) continue;
+      const std::string before = fmt::format("{}_{}", whole->name, number - 1);
+      if (number == 0 || find_row(layout.fields, before) != nullptr) continue;
       diagnostics.report(field.place, "layout.fields.name",
-                         fmt::format("{} is a part of {}, whose part {} is missing in layout {}",
-                                     field.name, whole, before, layout.name));
+                         "{} is a part of {}, whose part {} is missing in layout {}", field.name,
+                         whole->name, before, layout.name);
     }
   }
 }

@@ -22,9 +22,8 @@ class MadeNames {
     const auto [first, added] = first_.try_emplace(made.name, made);
     if (added) return;
     const DerivedName &other = first->second;
-    diagnostics_.report(made.place, key,
-                        fmt::format("{} and {} at {} make the same {} {}", made.origin,
-                                    other.origin, place_text(other.place), kind, made.name));
+    diagnostics_.report(made.place, key, "{} and {} at {} make the same {} {}", made.origin,
+                        other.origin, place_text(other.place), kind, made.name);
   }
 
  private:
@@ -51,9 +50,8 @@ void check_object_names(const Program &program, Diagnostics &diagnostics) {
     for (const auto &row : rows) {
       if (row.name.empty() || seen[row.name]++ > 0) continue;
       if (kTakenNames.find(" " + row.name + " ") != std::string_view::npos) {
-        diagnostics.report(
-            row.place, key,
-            fmt::format("{} {} has a name that the generated code uses itself", kind, row.name));
+        diagnostics.report(row.place, key, "{} {} has a name that the generated code uses itself",
+                           kind, row.name);
       }
       names.add({name_prefix(program) + row.name, kind + " " + row.name, row.place}, key,
                 "beginning of C names");

@@ -13,15 +13,13 @@ namespace {
 // The resource list that goes with an action has room for so many items.
 constexpr std::size_t kMostItems = 4;
 
-constexpr std::string_view kOperationNames[kOperationCount] = {"add", "modify", "default"};
-
 std::string item_text(const Table &table, const ResourceRow &row) {
   return fmt::format("resource {} of table {}", row.resource.name, table.name);
 }
 
 bool names_cell_of(const Param &param, const Resource &resource) {
-  return std::any_of(param.index_of.begin(), param.index_of.end(),
-                     [&](const Ref<Resource> &ref) { return ref.target == &resource; });
+  return std::ranges::any_of(param.index_of,
+                             [&](const Ref<Resource> &ref) { return ref.target == &resource; });
 }
 
 void check_index(const Table &table, const ResourceRow &row, const Pair &pair,
@@ -32,8 +30,8 @@ void check_index(const Table &table, const ResourceRow &row, const Pair &pair,
       param == nullptr ? fmt::format("action {} has no parameter {}", pair.action.name, row.index)
                        : fmt::format("parameter {} of action {} does not list it in index_of",
                                      row.index, pair.action.name);
-  diagnostics.report(row.index_place, "table.resources.index",
-                     fmt::format("{} has no cell: {}", item_text(table, row), fault));
+  diagnostics.report(row.index_place, "table.resources.index", "{} has no cell: {}",
+                     item_text(table, row), fault);
 }
 
 void check_row(const Table &table, const ResourceRow &row, Diagnostics &diagnostics) {
@@ -47,14 +45,14 @@ void check_row(const Table &table, const ResourceRow &row, Diagnostics &diagnost
   const bool direct_here = resource.table.target == &table;
   if (resource.direct() && !direct_here) {
     diagnostics.report(row.place, "table.resources.resource",
-                       fmt::format("{} belongs to the entries of table {}", item_text(table, row),
-                                   resource.table.name));
+                       "{} belongs to the entries of table {}", item_text(table, row),
+                       resource.table.name);
   }
   if (row.tag == ResourceTag::kMeterSpec &&
       (resource.kind != ResourceKind::kMeter || !direct_here)) {
     diagnostics.report(row.place, "table.resources.tag",
-                       fmt::format("{} is tagged meter_spec but is no direct meter of the table",
-                                   item_text(table, row)));
+                       "{} is tagged meter_spec but is no direct meter of the table",
+                       item_text(table, row));
   }
 }
 
@@ -64,22 +62,21 @@ void check_items(const Table &table, const Pair &pair, Diagnostics &diagnostics)
     std::vector<const ResourceRow *> sent;
     for (const ResourceRow &row : table.resources) {
       if (!row.in[operation] || !applies_to(row, pair)) continue;
-      const bool twice = std::any_of(sent.begin(), sent.end(), [&](const ResourceRow *other) {
+      const bool twice = std::ranges::any_of(sent, [&](const ResourceRow *other) {
         return other->resource.name == row.resource.name;
       });
       if (twice) {
-        diagnostics.report(row.place, "table.resources.in",
-                           fmt::format("{} is sent twice in {} of action {}", item_text(table, row),
-                                       kOperationNames[operation], pair.action.name));
+        diagnostics.report(row.place, "table.resources.in", "{} is sent twice in {} of action {}",
+                           item_text(table, row), kOperationNames[operation], pair.action.name);
       }
       sent.push_back(&row);
     }
     if (sent.size() > kMostItems) {
       diagnostics.report(sent[kMostItems]->place, "table.resources",
-                         fmt::format("table {} sends {} resources in {} of action {}; the list "
-                                     "holds {}",
-                                     table.name, sent.size(), kOperationNames[operation],
-                                     pair.action.name, kMostItems));
+                         "table {} sends {} resources in {} of action {}; the list "
+                         "holds {}",
+                         table.name, sent.size(), kOperationNames[operation], pair.action.name,
+                         kMostItems);
     }
   }
 }
@@ -88,16 +85,15 @@ void check_items(const Table &table, const Pair &pair, Diagnostics &diagnostics)
 void check_lost_indexes(const Table &table, const Pair &pair, Diagnostics &diagnostics) {
   for (const Param &param : pair.action->params) {
     for (const Ref<Resource> &resource : param.index_of) {
-      const bool picked_up =
-          std::any_of(table.resources.begin(), table.resources.end(), [&](const ResourceRow &row) {
-            return row.resource.name == resource.name && row.index == param.name &&
-                   applies_to(row, pair);
-          });
+      const bool picked_up = std::ranges::any_of(table.resources, [&](const ResourceRow &row) {
+        return row.resource.name == resource.name && row.index == param.name &&
+               applies_to(row, pair);
+      });
       if (picked_up || !resource) continue;
       diagnostics.report(pair.place, "table.resources",
-                         fmt::format("table {} has no resource item for {}, whose cell parameter "
-                                     "{} of action {} names",
-                                     table.name, resource.name, param.name, pair.action.name));
+                         "table {} has no resource item for {}, whose cell parameter "
+                         "{} of action {} names",
+                         table.name, resource.name, param.name, pair.action.name);
     }
   }
 }
@@ -107,23 +103,22 @@ void check_direct(const std::vector<Resource> &resources, std::string_view key,
   for (const Resource &resource : resources) {
     if (!resource.table) continue;
     const std::vector<ResourceRow> &rows = resource.table->resources;
-    const bool listed = std::any_of(rows.begin(), rows.end(), [&](const ResourceRow &row) {
-      return row.resource.name == resource.name;
-    });
+    const bool listed = std::ranges::any_of(
+        rows, [&](const ResourceRow &row) { return row.resource.name == resource.name; });
     if (listed) continue;
     diagnostics.report(resource.table.place, key,
-                       fmt::format("{} belongs to the entries of table {}, whose resources do not "
-                                   "list it",
-                                   resource.name, resource.table.name));
+                       "{} belongs to the entries of table {}, whose resources do not "
+                       "list it",
+                       resource.name, resource.table.name);
   }
 }
 
 }  // namespace
 
 bool applies_to(const ResourceRow &row, const Pair &pair) {
-  return row.actions.empty() ||
-         std::any_of(row.actions.begin(), row.actions.end(),
-                     [&](const Ref<Action> &action) { return action.name == pair.action.name; });
+  return row.actions.empty() || std::ranges::any_of(row.actions, [&](const Ref<Action> &action) {
+           return action.name == pair.action.name;
+         });
 }
 
 void check_resources(const Program &program, Diagnostics &diagnostics) {

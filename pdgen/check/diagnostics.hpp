@@ -2,8 +2,11 @@
 // reported at once.
 #pragma once
 
+#include <fmt/format.h>
+
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "pdgen/model.hpp"
@@ -18,7 +21,11 @@ struct Fault {
 
 class Diagnostics {
  public:
-  void report(const Place &place, std::string_view key, std::string message);
+  template <typename... Args>
+  void report(const Place &place, std::string_view key, fmt::format_string<Args...> message,
+              Args &&...args) {
+    faults_.push_back({place, std::string(key), fmt::format(message, std::forward<Args>(args)...)});
+  }
 
   bool empty() const { return faults_.empty(); }
 

@@ -55,9 +55,8 @@ std::string without_missing(std::string_view statement, const std::vector<Parame
         std::min(statement.find_first_not_of(kWordCharacters, i + 1), statement.size());
     const std::string_view other = statement.substr(i + 1, end - i - 1);
     const std::size_t word = out.find_last_not_of(kWordCharacters) + 1;
-    const bool missing = std::none_of(
-        present.begin(), present.end(),
-        [&](const Parameter &parameter) { return parameter.name == out.substr(word); });
+    const bool missing = std::ranges::none_of(
+        present, [&](const Parameter &parameter) { return parameter.name == out.substr(word); });
     i = end - 1;
     if (!missing) continue;
     out.resize(other.empty() ? item : word);
@@ -170,8 +169,8 @@ class Builder {
 
   // The group of that title, made at the end if there is none.
   Group &group_of(const std::string &title) {
-    const auto found = std::find_if(api_.groups.begin(), api_.groups.end(),
-                                    [&](const Group &group) { return group.title == title; });
+    const auto found =
+        std::ranges::find_if(api_.groups, [&](const Group &group) { return group.title == title; });
     return found != api_.groups.end() ? *found : api_.groups.emplace_back(Group{title, {}, {}});
   }
 

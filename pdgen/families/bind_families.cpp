@@ -26,7 +26,7 @@ class Binder {
 
   void bind(Output &output) {
     const Place &place = output.block.place;
-    if (output.file.text.empty()) report(place, "output", "this file names no file");
+    if (output.file.text.empty()) diagnostics_.report(place, "output", "this file names no file");
     bind(bind(kProgram, output.block, "output", true), output.file, "file");
   }
 
@@ -36,14 +36,15 @@ class Binder {
     if (!block.walk.empty()) {
       block.objects = find_walk(kinds, block.walk);
       if (block.objects == nullptr) {
-        report(block.place, "each", fmt::format("there is no \"each {}\" here", block.walk));
+        diagnostics_.report(block.place, "each", "there is no \"each {}\" here", block.walk);
         return kinds;
       }
       kinds.insert(kinds.end(), block.objects->kinds.begin(), block.objects->kinds.end());
     }
     has_group = has_group || !block.group.empty() || has_group_of_its_own(kinds);
     bind(kinds, block.where, block.place);
-    if (!has_group) report(block.place, "each", "nothing says under which title this stands");
+    if (!has_group)
+      diagnostics_.report(block.place, "each", "nothing says under which title this stands");
     for (auto &item : block.items) {
       if (auto *function = std::get_if<StatedFunction>(&item)) {
         bind(kinds, *function);
@@ -83,12 +84,12 @@ class Binder {
       used = true;
       const bool marked = end < text.size() && text[end] == '?';
       if (marked || parameter.where.name.empty()) continue;
-      report(function.place, "statement",
-             fmt::format("{} may be missing, so it is written {}? here", parameter.name,
-                         parameter.name));
+      diagnostics_.report(function.place, "statement",
+                          "{} may be missing, so it is written {}? here", parameter.name,
+                          parameter.name);
     }
     if (!used) {
-      report(function.place, "statement", fmt::format("{} is not handed on", parameter.name));
+      diagnostics_.report(function.place, "statement", "{} is not handed on", parameter.name);
     }
   }
 
@@ -101,13 +102,13 @@ class Binder {
       const auto optional = [&](const StatedParameter &parameter) {
         return parameter.name == word && !parameter.where.name.empty();
       };
-      if (std::any_of(function.parameters.begin(), function.parameters.end(), optional)) continue;
-      report(function.place, "statement", fmt::format("{}? is no parameter with a mark", word));
+      if (std::ranges::any_of(function.parameters, optional)) continue;
+      diagnostics_.report(function.place, "statement", "{}? is no parameter with a mark", word);
     }
   }
 
   static bool has_group_of_its_own(const Kinds &kinds) {
-    return std::any_of(kinds.begin(), kinds.end(), [](std::string_view kind) {
+    return std::ranges::any_of(kinds, [](std::string_view kind) {
       return kind == "table" || kind == "profile" || kind == "action";
     });
   }
@@ -116,7 +117,7 @@ class Binder {
     if (where.name.empty()) return;
     where.holds = find_condition(kinds, where.name);
     if (where.holds) return;
-    report(place, "where", fmt::format("{} is no condition of {}", where.name, kinds.back()));
+    diagnostics_.report(place, "where", "{} is no condition of {}", where.name, kinds.back());
   }
 
   void bind(const Kinds &kinds, StatedText &text, std::string_view key) {
@@ -133,13 +134,9 @@ class Binder {
       text.pieces.push_back({before, find_placeholder(kinds, name), begins_comment});
       done = end + 1;
       if (text.pieces.back().placeholder) continue;
-      report(text.place, key, fmt::format("<{}> is no placeholder of {}", name, kinds.back()));
+      diagnostics_.report(text.place, key, "<{}> is no placeholder of {}", name, kinds.back());
     }
     text.pieces.push_back({std::string(rest.substr(done)), nullptr});
-  }
-
-  void report(const Place &place, std::string_view key, std::string message) {
-    diagnostics_.report(place, key, std::move(message));
   }
 
   static inline const Kinds kProgram = {"program"};

@@ -41,9 +41,6 @@ class TextLines {
   std::size_t at_ = 0;
 };
 
-inline constexpr std::string_view kWordCharacters =
-    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_";
-
 // The words between blanks, and the items between commas outside of any bracket.
 std::vector<std::string> words(std::string_view text);
 std::vector<std::string> list_items(std::string_view text);

@@ -7,6 +7,7 @@
 
 #include "pdgen/families/families.hpp"
 #include "pdgen/families/lines.hpp"
+#include "pdgen/text.hpp"
 
 namespace pdgen {
 
@@ -40,11 +41,11 @@ class FamilyReader {
       } else if (text.starts_with("each ") || text.starts_with("program")) {
         family.blocks.push_back(read_block(text, place, 2));
       } else {
-        report(place, "line", fmt::format("\"{}\" begins no note, unit, each or program", text));
+        diagnostics_.report(place, "line", "\"{}\" begins no note, unit, each or program", text);
         lines_.skip(1);
       }
     }
-    if (family.unit.empty()) report(lines_.start(), "unit", "this file names no unit");
+    if (family.unit.empty()) diagnostics_.report(lines_.start(), "unit", "this file names no unit");
     return family;
   }
 
@@ -62,8 +63,8 @@ class FamilyReader {
     family.unit = name;
     if (!parts.empty()) family.parts = static_cast<unsigned>(std::atoi(parts.c_str()));
     if (colon == std::string::npos || family.parts == 0 || family.parts > 9) {
-      report(place, "unit",
-             fmt::format("\"{}\" must be NAME: HEADERS or NAME in N: HEADERS", text));
+      diagnostics_.report(place, "unit", "\"{}\" must be NAME: HEADERS or NAME in N: HEADERS",
+                          text);
       return;
     }
     family.includes = words(text.substr(colon + 2));
@@ -99,7 +100,7 @@ class FamilyReader {
     function.family = cut_tail(head, "as");
     const std::size_t open = head.find('(');
     if (open == std::string::npos || head.back() != ')') {
-      report(place, "function", fmt::format("\"{}\" is no RESULT NAME(PARAMETERS)", head));
+      diagnostics_.report(place, "function", "\"{}\" is no RESULT NAME(PARAMETERS)", head);
       return function;
     }
     std::size_t name = open;
@@ -145,11 +146,11 @@ class FamilyReader {
     const bool exact = found != declared_.end();
     if (!exact) found = declared_.find(word);
     if (found == declared_.end()) {
-      report(place, "function", fmt::format("{} is no parameter that is declared", item));
+      diagnostics_.report(place, "function", "{} is no parameter that is declared", item);
       return {{place, "int"}, word, {}};
     }
     if (optional && found->second.where.name.empty()) {
-      report(place, "function", fmt::format("{} has no condition, so it is never left out", item));
+      diagnostics_.report(place, "function", "{} has no condition, so it is never left out", item);
     }
     const std::string star =
         pointer && !exact ? (found->second.type.ends_with("*") ? "*" : " *") : "";
@@ -161,15 +162,11 @@ class FamilyReader {
     std::size_t name = item.size();
     while (name > 0 && is_word(item[name - 1])) --name;
     if (optional || name == item.size()) {
-      report(place, "function", fmt::format("\"{}\" is no parameter: TYPE NAME", item));
+      diagnostics_.report(place, "function", "\"{}\" is no parameter: TYPE NAME", item);
     }
     std::string type = item.substr(0, name);
     if (type.ends_with(" ")) type.pop_back();
     return {{place, type}, item.substr(name), {}};
-  }
-
-  void report(const Place &place, std::string_view key, std::string message) const {
-    diagnostics_.report(place, key, std::move(message));
   }
 
   TextLines lines_;
@@ -201,19 +198,19 @@ Index read_index(const CatalogueFile &file, Diagnostics &diagnostics) {
           text.find_first_not_of(' ', text.find(" " + parts[1]) + 1 + parts[1].size());
       if (!index.parameters.try_emplace(parts[1], DeclaredParameter{text.substr(type), where})
                .second) {
-        diagnostics.report(place, "parameter", fmt::format("{} is declared twice", parts[1]));
+        diagnostics.report(place, "parameter", "{} is declared twice", parts[1]);
       }
     } else {
-      diagnostics.report(
-          place, "line",
-          fmt::format("\"{}\" must be parameter NAME TYPE, families NAMES or outputs NAMES", text));
+      diagnostics.report(place, "line",
+                         "\"{}\" must be parameter NAME TYPE, families NAMES or outputs NAMES",
+                         text);
     }
   }
   return index;
 }
 
 const CatalogueFile *find_file(const std::vector<CatalogueFile> &files, const std::string &name) {
-  const auto found = std::find_if(files.begin(), files.end(), [&](const CatalogueFile &file) {
+  const auto found = std::ranges::find_if(files, [&](const CatalogueFile &file) {
     return std::filesystem::path(file.path).filename() == name;
   });
   return found == files.end() ? nullptr : &*found;
@@ -247,7 +244,7 @@ Families load_families(const std::vector<CatalogueFile> &files, Diagnostics &dia
   for (const auto &[name, place] : index.files) {
     const CatalogueFile *file = find_file(files, name);
     if (file == nullptr) {
-      diagnostics.report(place, "families", fmt::format("there is no file {}", name));
+      diagnostics.report(place, "families", "there is no file {}", name);
       continue;
     }
     if (name.ends_with(".output")) {

@@ -26,7 +26,7 @@ class TemplateReader {
         read_line(line);
       }
     }
-    if (open_.size() > 1) report("a block has no end");
+    if (open_.size() > 1) diagnostics_.report(place_, "output", "a block has no end");
     while (open_.size() > 1) close();
     return std::move(open_.back());
   }
@@ -62,7 +62,8 @@ class TemplateReader {
       open_.back().walk = order.substr(5);
       if (!separator.empty()) open_.back().separator = separator_of(separator);
     } else {
-      report(fmt::format("\"{}\" is no file, each, when, else or end of one", order));
+      diagnostics_.report(place_, "output", "\"{}\" is no file, each, when, else or end of one",
+                          order);
     }
   }
 
@@ -87,8 +88,6 @@ class TemplateReader {
     open_.pop_back();
     open_.back().items.emplace_back(std::move(inner));
   }
-
-  void report(std::string message) { diagnostics_.report(place_, "output", std::move(message)); }
 
   Place place_;
   Output *output_;

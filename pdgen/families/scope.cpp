@@ -22,8 +22,7 @@ std::vector<Scope> only(std::vector<Scope> scopes, Condition holds) {
 
 template <auto Member>
 std::vector<Scope> sorted_by(std::vector<Scope> scopes) {
-  std::sort(scopes.begin(), scopes.end(),
-            [](S a, S b) { return value_of<Member>(a) < value_of<Member>(b); });
+  std::ranges::sort(scopes, [](S a, S b) { return value_of<Member>(a) < value_of<Member>(b); });
   return scopes;
 }
 
@@ -49,7 +48,7 @@ std::vector<Scope> of_snapshots(S scope) {
 
 // Ingress and egress; a direction without a layout has no fields.
 std::vector<Scope> each_direction(S scope) {
-  static const std::vector<SnapshotLayout> kEmpty = {{"ingress", {}, {}, 0}, {"egress", {}, {}, 0}};
+  static const std::vector<SnapshotLayout> kEmpty = {{"ingress", {}, {}}, {"egress", {}, {}}};
   std::vector<Scope> directions = each_row(scope, kEmpty);
   for (Scope &direction : directions) {
     for (S layout : of_snapshots<&Snapshots::layouts>(scope)) {
@@ -182,7 +181,7 @@ std::string first_name(S scope) {
 
 const Walk *find_walk(const Kinds &kinds, std::string_view name) {
   for (const Walk &walk : kWalks) {
-    if (walk.name == name && std::find(kinds.begin(), kinds.end(), walk.kind) != kinds.end()) {
+    if (walk.name == name && std::ranges::find(kinds, walk.kind) != kinds.end()) {
       return &walk;
     }
   }

@@ -74,7 +74,7 @@ Text profile_index(S s) {
 
 bool is_partial(S s) {
   const std::vector<KeyField> &key = s.get<Table>().key;
-  return std::any_of(key.begin(), key.end(), [](const KeyField &field) { return field.partial; });
+  return std::ranges::any_of(key, [](const KeyField &field) { return field.partial; });
 }
 
 bool is_keyed(S s) { return s.get<Table>().keyed(); }
@@ -84,14 +84,17 @@ Text companion(const KeyField &field) {
   return field.match == Match::kLpm ? prefix_length_member(field.name) : field.name;
 }
 
-// Whether each byte of a key is compared.
+// The byte of that number, 0 the least significant.
+unsigned byte_of(const Bits &bits, unsigned number) {
+  return (number < 8 ? bits.lower >> 8 * number : bits.upper >> 8 * (number - 8)) & 0xff;
+}
+
+// The bits that are compared in each byte of a key.
 Text compared_bytes(S s) {
   std::vector<unsigned> bytes(s.get<Table>().key_bytes, 0);
   for (const KeyField &field : s.get<Table>().key) {
     for (unsigned i = 0; i < field.bytes; ++i) {
-      const unsigned below = 8 * (field.bytes - 1 - i);
-      bytes[field.offset + i] =
-          field.wide() ? field.wide_key_bits[i] : (field.key_bits >> below & 0xff);
+      bytes[field.offset + i] = byte_of(field.key_bits, field.bytes - 1 - i);
     }
   }
   return fmt::format("{:#04x}", fmt::join(bytes, ", "));
@@ -124,8 +127,8 @@ Text field_remark(S s) {
   if (field.role == RecordRole::kPrefixLength) return fmt::format("0 to {}", key.width);
   if (!key.partial) return bit_count(key.width);
   return bit_count(key.width) + ", key bits " +
-         (key.wide() ? fmt::format("0x{:02x}", fmt::join(key.wide_key_bits, ""))
-                     : fmt::format("{:#x}", key.key_bits));
+         (key.wide() ? fmt::format("0x{:016x}{:016x}", key.key_bits.upper, key.key_bits.lower)
+                     : fmt::format("{:#x}", key.key_bits.lower));
 }
 
 Text param_remark(S s) {
@@ -156,17 +159,12 @@ Text digits_at(const ValueText &value) {
   return fmt::format("{}", fmt::join(value.digits_at, ", "));
 }
 
-Text half_of(S s, std::size_t first) {
-  const auto *bits = s.get<ToolField>().key_bits.data() + first;
-  return fmt::format("0x{:02x}", fmt::join(bits, bits + 8, ""));
-}
-
 // --- Labels ---
 
 Text place_in_record(const KeyField &field) {
   const std::string mask = field.match == Match::kTernary ? mask_member(field.name) : field.name;
   return fmt::format("{{offsetof(Record, {}), offsetof(Record, {}), {}, {}}}", field.name, mask,
-                     field.storage_bytes, hex32(field.key_bits));
+                     field.storage_bytes, hex32(static_cast<std::uint32_t>(field.key_bits.lower)));
 }
 
 bool is_number(const LabelItem &item) {
@@ -273,11 +271,18 @@ const Placeholder kPlaceholders[] = {
     {"record_field", "storage_bits", bits_of<&RecordField::storage_bytes>},
     {"record_field", "digits", [](S s) { return text_of(digit_count(s.get<RecordField>().width)); }},
     {"record_field", "bits",
-     [](S s) { return hex32(member_mask(s.get<Table>(), s.get<RecordField>())); }},
+     [](S s) {
+       const RecordField &field = s.get<RecordField>();
+       const bool wide = field.storage_bytes == 16;  // it has bits of its own
+       return hex32(wide ? 0 : static_cast<std::uint32_t>(member_bits(s.get<Table>(), field).lower));
+     }},
     {"record_field", "wide_bits",
      [](S s) {
-       return fmt::format("{:#x}",
-                          fmt::join(member_bits(s.get<Table>(), s.get<RecordField>()), ", "));
+       std::vector<unsigned> bytes;
+       for (unsigned i = 16; i-- > 0;) {
+         bytes.push_back(byte_of(member_bits(s.get<Table>(), s.get<RecordField>()), i));
+       }
+       return fmt::format("{:#x}", fmt::join(bytes, ", "));
      }},
     {"record_field", "remark", field_remark},
     {"pair", "action_handle", hex<&Pair::handle>},
@@ -303,7 +308,7 @@ const Placeholder kPlaceholders[] = {
     {"param", "width", text<&Param::width>},
     {"param", "bytes", text<&Param::bytes>},
     {"param", "digits", [](S s) { return text_of(digit_count(s.get<Param>().width)); }},
-    {"param", "bits", [](S s) { return hex32(low_bits(s.get<Param>().width)); }},
+    {"param", "bits", [](S s) { return hex32(static_cast<std::uint32_t>(low_bits(s.get<Param>().width).lower)); }},
     {"param", "remark", param_remark},
     {"profile", "profile", text<&Profile::name>},
     {"profile", "action_data", hex<&Profile::action_data_handle>},
@@ -380,8 +385,8 @@ const Placeholder kPlaceholders[] = {
     {"tool_field", "notation", text<&ToolField::notation>},
     {"tool_field", "match", one_of<&ToolField::match, kKinds, 1>},
     {"tool_field", "width", text<&ToolField::width>},
-    {"tool_field", "upper_bits", [](S s) { return half_of(s, 0); }},
-    {"tool_field", "lower_bits", [](S s) { return half_of(s, 8); }},
+    {"tool_field", "upper_bits", [](S s) { return fmt::format("{:#018x}", s.get<ToolField>().key_bits.upper); }},
+    {"tool_field", "lower_bits", [](S s) { return fmt::format("{:#018x}", s.get<ToolField>().key_bits.lower); }},
     {"part", "part", [](S s) { return text_of(s.get<std::size_t>()); }},
     {"cell", "cell", [](S s) { return s.get<Text>(); }},
     {"include", "include", [](S s) { return s.get<Text>(); }},

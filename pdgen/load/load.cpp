@@ -20,7 +20,7 @@ namespace {
 struct Section {
   std::string_view file;
   bool required;
-  void (*read)(RowReader &file, LoadContext &context);
+  void (*read)(RowReader &file);
 };
 
 // In the order of reading: where two rows clash, the fault is the later one's.
@@ -38,9 +38,8 @@ std::string file_name(const CatalogueFile &file) {
 }
 
 const CatalogueFile *find_file(const std::vector<CatalogueFile> &files, std::string_view name) {
-  const auto found = std::find_if(files.begin(), files.end(), [&](const CatalogueFile &file) {
-    return file_name(file) == name;
-  });
+  const auto found = std::ranges::find_if(
+      files, [&](const CatalogueFile &file) { return file_name(file) == name; });
   return found == files.end() ? nullptr : &*found;
 }
 
@@ -56,22 +55,23 @@ void report_strange_files(const std::vector<CatalogueFile> &files, Diagnostics &
 // Reads every file; false if one is missing or cannot be parsed, so that references into it must
 // not be looked up.
 bool read_sections(const std::vector<CatalogueFile> &files, const std::string &folder,
-                   LoadContext &context) {
+                   Reading &reading) {
   bool complete = true;
   for (const Section &section : kSections) {
     const CatalogueFile *file = find_file(files, section.file);
     if (file == nullptr) {
       if (!section.required) continue;
       const auto path = (std::filesystem::path(folder) / section.file).string();
-      context.diagnostics.report({path, 1}, "file", "a catalogue needs this file");
+      reading.diagnostics.report({path, 1}, "file", "a catalogue needs this file");
       complete = false;
       continue;
     }
-    const TomlFile parsed = parse_toml(file->path, file->text, context.diagnostics);
+    const TomlFile parsed = parse_toml(file->path, file->text, reading.diagnostics);
     complete = complete && parsed.parsed;
     if (!parsed.parsed) continue;
-    RowReader root(parsed.root, {"", std::string(section.file), "", ""}, context.diagnostics);
-    section.read(root, context);
+    NameScope none;
+    RowReader root(parsed.root, {"", std::string(section.file), "", ""}, none, reading);
+    section.read(root);
   }
   return complete;
 }
@@ -79,13 +79,17 @@ bool read_sections(const std::vector<CatalogueFile> &files, const std::string &f
 LoadResult load(const std::vector<CatalogueFile> &files, const std::string &folder) {
   LoadResult result;
   Program program;
-  LoadContext context{program, result.diagnostics, {}};
+  Reading reading{program, result.diagnostics, {}, {}};
   report_strange_files(files, result.diagnostics);
-  if (!read_sections(files, folder, context)) return result;
-  resolve_references(program, result.diagnostics);
+  // Without tables or actions, whatever refers to them would be reported too.
+  const bool complete = read_sections(files, folder, reading);
+  if (!complete || program.tables.empty() || program.actions.empty()) return result;
+  for (const auto &resolve : reading.references) resolve();
   check_program(program, result.diagnostics);
   if (!result.diagnostics.empty()) return result;
-  program.handles = context.handles.all();
+  for (const auto &[handle, holder] : reading.handles) {
+    program.handles.push_back({handle, holder.object});
+  }
   derive_facts(program);
   result.program = std::move(program);
   return result;
@@ -105,11 +109,11 @@ std::vector<CatalogueFile> read_files(const std::string &directory, std::string_
     files.push_back(std::move(file));
   }
   if (error) {
-    diagnostics.report({directory, 1}, "directory",
-                       "this directory cannot be read: " + error.message());
+    diagnostics.report({directory, 1}, "directory", "this directory cannot be read: {}",
+                       error.message());
   }
-  std::sort(files.begin(), files.end(),
-            [](const CatalogueFile &a, const CatalogueFile &b) { return a.path < b.path; });
+  std::ranges::sort(files,
+                    [](const CatalogueFile &a, const CatalogueFile &b) { return a.path < b.path; });
   return files;
 }
 

@@ -94,9 +94,8 @@ void lay_out_record(Table &table) {
 
 // A resource is one item, whatever operations send it.
 void add_operation(std::vector<ResourceItem> &items, ResourceItem sent, std::size_t operation) {
-  auto item = std::find_if(items.begin(), items.end(), [&](const ResourceItem &other) {
-    return other.resource == sent.resource;
-  });
+  auto item = std::ranges::find_if(
+      items, [&](const ResourceItem &other) { return other.resource == sent.resource; });
   if (item == items.end()) item = items.insert(item, sent);
   item->operations |= 1u << operation;
 }

@@ -1,8 +1,5 @@
 // Reads the program's name and its objects other than tables.
-#include <fmt/format.h>
-
 #include <algorithm>
-#include <utility>
 
 #include "pdgen/load/load_sections.hpp"
 
@@ -10,250 +7,196 @@ namespace pdgen {
 
 namespace {
 
-constexpr std::uint32_t kAnyNumber = 0xffffffff;
-constexpr std::uint32_t kMostDigestBytes = 0xffff;
+constexpr unsigned kMostDigestBytes = 0xffff;
 
 // --- Actions --------------------------------------------------------------------------------
 
-Param read_param(const TomlValue &value, const std::string &owner, NameScope &names,
-                 Diagnostics &diagnostics) {
-  RowReader row(value, {"actions.params", "parameter", "name", owner}, diagnostics);
-  Param param;
-  row.name("name", names, param);
-  param.width = row.number("width", 1, 32).value_or(0);
-  param.storage_bytes = read_storage_bytes(row, param.width);
-  param.bytes = whole_bytes(param.width);
-  if (const auto hint = row.optional_choice("hint", {"mac", "v4addr", "vport"})) {
-    constexpr Hint kHints[] = {Hint::kMac, Hint::kV4Addr, Hint::kVport};
-    param.hint = kHints[*hint];
-  }
-  for (Word &word : row.optional_identifiers("index_of")) {
-    param.index_of.push_back({std::move(word.text), std::move(word.place), nullptr});
-  }
+void read_param(RowReader &row, Param &param) {
+  row.name(param);
+  row.number("width", param.width, 1, 32);
+  read_sizes(row, param.width, param.storage_bytes, param.bytes);
+  row.choice("hint", param.hint,
+             {{"mac", Hint::kMac}, {"v4addr", Hint::kV4Addr}, {"vport", Hint::kVport}}, kOptional);
+  const auto find = [&program = row.program()](std::string_view name) {
+    return find_indexed(program, name);
+  };
+  row.references<Resource>("index_of", param.index_of, "counter or meter", find, kOptional);
   if (param.is_index() && param.width != 32) {
-    row.report("width", fmt::format("parameter {} names a cell, so it has 32 bits, not {}",
-                                    param.name, param.width));
+    row.report("width", "parameter {} names a cell, so it has 32 bits, not {}", param.name,
+               param.width);
   }
-  return param;
 }
 
-Action read_action(const TomlValue &value, NameScope &names, Diagnostics &diagnostics) {
-  RowReader row(value, {"actions", "action", "name", ""}, diagnostics);
-  Action action;
-  row.name("name", names, action);
-  NameScope param_names;
-  for (const TomlValue *param : row.optional_rows("params")) {
-    action.params.push_back(read_param(*param, row.what(), param_names, diagnostics));
-  }
-  action.value = row.number("value", 0, kAnyNumber - 1).value_or(kAnyNumber);
-  return action;
+void read_action(RowReader &row, Action &action) {
+  row.name(action);
+  row.rows("params", "parameter", "name", action.params, read_param, kOptional);
+  action.value = kAnyNumber;
+  row.number("value", action.value, 0, kAnyNumber - 1);
 }
 
 // The values of an enumeration run from 0 without a gap. A value that could not be read comes last
 // and hides what follows it.
-void check_values(const std::vector<Action> &by_value, Diagnostics &diagnostics) {
-  for (std::size_t i = 0; i < by_value.size(); ++i) {
+void check_values(const RowReader &file, const std::vector<Action> &by_value) {
+  for (std::size_t i = 0; i < by_value.size() && by_value[i].value != kAnyNumber; ++i) {
     const Action &action = by_value[i];
-    if (action.value == kAnyNumber) return;
-    const std::uint32_t before = i == 0 ? 0 : by_value[i - 1].value;
-    const std::uint32_t next = i == 0 ? 0 : before + 1;
-    if (i > 0 && action.value == before) {
-      diagnostics.report(action.place, "actions.value",
-                         fmt::format("action {} has the value {}, which is that of action {}",
-                                     action.name, action.value, by_value[i - 1].name));
-    } else if (action.value != next) {
-      diagnostics.report(action.place, "actions.value",
-                         fmt::format("action {} has the value {}, but the next free one is {}",
-                                     action.name, action.value, next));
-    }
+    const std::uint32_t next = i == 0 ? 0 : by_value[i - 1].value + 1;
+    if (action.value == next) continue;
+    const bool twice = i > 0 && action.value + 1 == next;
+    file.report_at(action.place, "actions.value", "action {} has the value {}, {}", action.name,
+                   action.value,
+                   twice ? "which is that of action " + by_value[i - 1].name
+                         : fmt::format("but the next free one is {}", next));
   }
 }
 
 // --- Profiles -------------------------------------------------------------------------------
 
-Profile read_profile(const TomlValue &value, NameScope &names, LoadContext &context) {
-  RowReader row(value, {"profile", "profile", "name", ""}, context.diagnostics);
-  Profile profile;
-  row.name("name", names, profile);
-  profile.action_data_handle = row.handle("action_data_handle", HandleKind::kActionData,
-                                          context.handles, "action data of " + row.what());
-  profile.selector_handle = row.handle("selector_handle", HandleKind::kSelector, context.handles,
-                                       "selector of " + row.what());
-  NameScope action_names;
-  for (const TomlValue *action : row.rows("actions")) {
-    RowReader member(*action, {"profile.actions", "action", "action", row.what()},
-                     context.diagnostics);
-    ProfileAction pair;
-    pair.action = member.reference<Action>("action");
-    pair.place = pair.action.place;
-    action_names.add(pair.action.name, pair.place, member.path("action"), context.diagnostics);
-    pair.handle = member.handle("handle", HandleKind::kActionFunction, context.handles);
-    profile.actions.push_back(std::move(pair));
-  }
-  return profile;
+void read_profile_action(RowReader &row, ProfileAction &pair) {
+  row.name(pair, pair.action, "action", row.program().actions);
+  row.handle("handle", pair.handle, HandleKind::kActionFunction);
+}
+
+void read_profile(RowReader &row, Profile &profile) {
+  row.name(profile);
+  row.handle("action_data_handle", profile.action_data_handle, HandleKind::kActionData,
+             "action data of " + row.what());
+  row.handle("selector_handle", profile.selector_handle, HandleKind::kSelector,
+             "selector of " + row.what());
+  row.rows("actions", "action", "action", profile.actions, read_profile_action);
 }
 
 // --- Stateful resources ---------------------------------------------------------------------
 
-void read_register_width(RowReader &row, Resource &resource) {
-  const auto width = row.number("width", 0, kAnyNumber);
-  resource.width = width.value_or(0);
-  if (width && *width != 1 && *width != 8 && *width != 16 && *width != 32) {
-    row.report("width", fmt::format("{} bits of {} must be 1, 8, 16 or 32", *width, row.what()));
+// What counters and meters have.
+void read_resource(RowReader &row, Resource &resource, HandleKind kind) {
+  row.name(resource);
+  row.handle("handle", resource.handle, kind);
+  row.reference("table", resource.table, "table", row.program().tables, kOptional);
+}
+
+void read_counter(RowReader &row, Resource &counter) {
+  read_resource(row, counter, HandleKind::kCounter);
+}
+
+void read_meter(RowReader &row, Resource &meter) {
+  meter.kind = ResourceKind::kMeter;
+  read_resource(row, meter, HandleKind::kMeter);
+  row.choice("unit", meter.unit, {{"bytes", MeterUnit::kBytes}, {"packets", MeterUnit::kPackets}});
+}
+
+void read_register(RowReader &row, Resource &reg) {
+  reg.kind = ResourceKind::kRegister;
+  row.name(reg);
+  row.handle("handle", reg.handle, HandleKind::kRegister);
+  if (!row.number("width", reg.width)) return;
+  if (reg.width != 1 && reg.width != 8 && reg.width != 16 && reg.width != 32) {
+    row.report("width", "{} bits of {} must be 1, 8, 16 or 32", reg.width, row.what());
   }
 }
 
-Resource read_resource(RowReader &row, ResourceKind kind, HandleKind handle_kind, NameScope &names,
-                       LoadContext &context) {
-  Resource resource;
-  resource.kind = kind;
-  row.name("name", names, resource);
-  resource.handle = row.handle("handle", handle_kind, context.handles);
-  if (kind == ResourceKind::kRegister) {
-    read_register_width(row, resource);
-  } else if (row.has("table")) {
-    resource.table = row.reference<Table>("table");
-  }
-  if (kind == ResourceKind::kMeter) {
-    const auto unit = row.choice("unit", {"bytes", "packets"});
-    resource.unit = unit.value_or(0) == 0 ? MeterUnit::kBytes : MeterUnit::kPackets;
-  }
-  return resource;
+// --- Hashes, digests, value sets ------------------------------------------------------------
+
+void read_hash(RowReader &row, Hash &hash) {
+  row.name(hash);
+  row.handle("handle", hash.handle, HandleKind::kCalculation);
+  row.handle("list", hash.field_list_handle, HandleKind::kFieldList, "field list of " + row.what());
+  row.number("fields", hash.field_count, 1);
 }
 
-// --- Digests --------------------------------------------------------------------------------
-
-DigestField read_digest_field(const TomlValue &value, const std::string &owner, NameScope &names,
-                              Diagnostics &diagnostics) {
-  RowReader row(value, {"digest.fields", "field", "name", owner}, diagnostics);
-  DigestField field;
-  row.name("name", names, field);
-  field.offset = row.number("offset", 0, kMostDigestBytes).value_or(0);
-  field.bytes = row.number("bytes", 1, kMostDigestBytes).value_or(0);
-  return field;
+void read_digest_field(RowReader &row, DigestField &field) {
+  row.name(field);
+  row.number("offset", field.offset, 0, kMostDigestBytes);
+  row.number("bytes", field.bytes, 1, kMostDigestBytes);
 }
 
-void check_digest_layout(const Digest &digest, Diagnostics &diagnostics) {
+void check_digest_layout(const RowReader &row, const Digest &digest) {
   std::vector<const DigestField *> by_offset;
   for (const DigestField &field : digest.fields) by_offset.push_back(&field);
-  std::stable_sort(by_offset.begin(), by_offset.end(),
-                   [](const auto *a, const auto *b) { return a->offset < b->offset; });
-  std::uint64_t end = 0;
+  std::ranges::stable_sort(by_offset, {}, &DigestField::offset);
+  unsigned end = 0;
   const DigestField *before = nullptr;
   for (const DigestField *field : by_offset) {
     if (field->offset < end) {
-      diagnostics.report(field->place, "digest.fields.offset",
-                         fmt::format("field {} of digest {} begins at byte {} inside field {}, "
-                                     "which ends before byte {}",
-                                     field->name, digest.name, field->offset, before->name, end));
+      row.report_at(field->place, "fields.offset",
+                    "field {} of {} begins at byte {} inside field {}, which ends before byte {}",
+                    field->name, row.what(), field->offset, before->name, end);
     }
-    const std::uint64_t field_end = std::uint64_t{field->offset} + field->bytes;
+    const unsigned field_end = field->offset + field->bytes;
     if (digest.size > 0 && field_end > digest.size) {
-      diagnostics.report(field->place, "digest.fields.bytes",
-                         fmt::format("field {} of digest {} ends at byte {}, beyond the {} bytes "
-                                     "of an entry",
-                                     field->name, digest.name, field_end, digest.size));
+      row.report_at(field->place, "fields.bytes",
+                    "field {} of {} ends at byte {}, beyond the {} bytes of an entry", field->name,
+                    row.what(), field_end, digest.size);
     }
     if (field_end >= end) before = field;
     end = std::max(end, field_end);
   }
 }
 
-Digest read_digest(const TomlValue &value, NameScope &names, LoadContext &context) {
-  RowReader row(value, {"digest", "digest", "name", ""}, context.diagnostics);
-  Digest digest;
-  row.name("name", names, digest);
-  digest.handle = row.handle("handle", HandleKind::kFieldList, context.handles);
-  digest.size = row.number("size", 1, kMostDigestBytes).value_or(0);
-  NameScope field_names;
-  for (const TomlValue *field : row.rows("fields")) {
-    digest.fields.push_back(
-        read_digest_field(*field, row.what(), field_names, context.diagnostics));
-  }
-  check_digest_layout(digest, context.diagnostics);
-  return digest;
+void read_digest(RowReader &row, Digest &digest) {
+  row.name(digest);
+  row.handle("handle", digest.handle, HandleKind::kFieldList);
+  row.number("size", digest.size, 1, kMostDigestBytes);
+  row.rows("fields", "field", "name", digest.fields, read_digest_field);
+  check_digest_layout(row, digest);
+}
+
+void read_value_set(RowReader &row, ValueSet &set) {
+  row.name(set);
+  row.handle("handle", set.handle, HandleKind::kAny);
+}
+
+void read_routes(RowReader &row, Routes &routes) {
+  const Program &program = row.program();
+  row.reference("action", routes.action, "action", program.actions);
+  row.references("tables", routes.tables, "table", row.find_in(program.tables));
+  routes.place = routes.action.place;
 }
 
 }  // namespace
 
-void read_program(RowReader &file, LoadContext &context) {
-  context.program.name = file.identifier("name");
-  context.program.place = file.place("name");
-  if (!file.has("routes")) return;
-  RowReader row(*file.optional_value("routes"), {"routes", "routes", "", ""}, context.diagnostics);
-  Routes routes{row.place("action"), row.reference<Action>("action"), {}};
-  for (Word &word : row.identifiers("tables")) {
-    routes.tables.push_back({std::move(word.text), std::move(word.place), nullptr});
-  }
-  context.program.routes = std::move(routes);
+const Resource *find_indexed(const Program &program, std::string_view name) {
+  const Resource *counter = find_row(program.counters, name);
+  return counter != nullptr ? counter : find_row(program.meters, name);
 }
 
-void read_actions(RowReader &file, LoadContext &context) {
-  std::vector<Action> &actions = context.program.actions;
-  NameScope names;
-  for (const TomlValue *action : file.rows("actions")) {
-    actions.push_back(read_action(*action, names, context.diagnostics));
-  }
-  std::stable_sort(actions.begin(), actions.end(),
-                   [](const Action &a, const Action &b) { return a.value < b.value; });
-  check_values(actions, context.diagnostics);
+void read_program(RowReader &file) {
+  Program &program = file.program();
+  file.identifier("name", program.name);
+  program.place = file.place("name");
+  file.row("routes", program.routes, read_routes);
 }
 
-void read_profiles(RowReader &file, LoadContext &context) {
-  NameScope names;
-  for (const TomlValue *profile : file.rows("profile")) {
-    context.program.profiles.push_back(read_profile(*profile, names, context));
-  }
+void read_actions(RowReader &file) {
+  std::vector<Action> &actions = file.program().actions;
+  file.rows("actions", "action", "name", actions, read_action);
+  std::ranges::stable_sort(actions, {}, &Action::value);
+  check_values(file, actions);
 }
 
-void read_stateful(RowReader &file, LoadContext &context) {
-  NameScope names;  // one for all kinds: resource items name them without telling the kind
-  const auto read_list = [&](const char *key, const char *kind_text, ResourceKind kind,
-                             HandleKind handle_kind, std::vector<Resource> &list) {
-    for (const TomlValue *value : file.optional_rows(key)) {
-      RowReader row(*value, {key, kind_text, "name", ""}, context.diagnostics);
-      list.push_back(read_resource(row, kind, handle_kind, names, context));
-    }
-  };
-  Program &program = context.program;
-  read_list("counters", "counter", ResourceKind::kCounter, HandleKind::kCounter, program.counters);
-  read_list("meters", "meter", ResourceKind::kMeter, HandleKind::kMeter, program.meters);
-  read_list("registers", "register", ResourceKind::kRegister, HandleKind::kRegister,
-            program.registers);
+void read_profiles(RowReader &file) {
+  file.rows("profile", "profile", "name", file.program().profiles, read_profile);
 }
 
-void read_hashes(RowReader &file, LoadContext &context) {
-  context.program.hash_algorithm =
-      file.handle("algorithm", HandleKind::kAlgorithm, context.handles, "algorithm of the hashes");
-  NameScope names;
-  for (const TomlValue *value : file.rows("hashes")) {
-    RowReader row(*value, {"hashes", "hash", "name", ""}, context.diagnostics);
-    Hash hash;
-    row.name("name", names, hash);
-    hash.handle = row.handle("handle", HandleKind::kCalculation, context.handles);
-    hash.field_list_handle =
-        row.handle("list", HandleKind::kFieldList, context.handles, "field list of " + row.what());
-    hash.field_count = row.number("fields", 1, kAnyNumber).value_or(0);
-    context.program.hashes.push_back(std::move(hash));
-  }
+void read_stateful(RowReader &file) {
+  NameScope names;  // one for all kinds: resource items name them without the kind
+  Program &program = file.program();
+  file.rows("counters", "counter", "name", program.counters, read_counter, kOptional, &names);
+  file.rows("meters", "meter", "name", program.meters, read_meter, kOptional, &names);
+  file.rows("registers", "register", "name", program.registers, read_register, kOptional, &names);
 }
 
-void read_digests(RowReader &file, LoadContext &context) {
-  NameScope names;
-  for (const TomlValue *digest : file.rows("digest")) {
-    context.program.digests.push_back(read_digest(*digest, names, context));
-  }
+void read_hashes(RowReader &file) {
+  file.handle("algorithm", file.program().hash_algorithm, HandleKind::kAlgorithm,
+              "algorithm of the hashes");
+  file.rows("hashes", "hash", "name", file.program().hashes, read_hash);
 }
 
-void read_value_sets(RowReader &file, LoadContext &context) {
-  NameScope names;
-  for (const TomlValue *value : file.rows("value_sets")) {
-    RowReader row(*value, {"value_sets", "value set", "name", ""}, context.diagnostics);
-    ValueSet set;
-    row.name("name", names, set);
-    set.handle = row.handle("handle", HandleKind::kAny, context.handles);
-    context.program.value_sets.push_back(std::move(set));
-  }
+void read_digests(RowReader &file) {
+  file.rows("digest", "digest", "name", file.program().digests, read_digest);
+}
+
+void read_value_sets(RowReader &file) {
+  file.rows("value_sets", "value set", "name", file.program().value_sets, read_value_set);
 }
 
 }  // namespace pdgen

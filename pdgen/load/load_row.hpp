@@ -1,13 +1,15 @@
-// Typed access to one row of the catalogue: each accessor reports a missing key, a wrong type or a
-// value out of its limits and then returns an empty value, so that reading goes on and all faults
-// come to light together.
+// Typed access to one row of the catalogue: each accessor fills in what it reads. It reports a
+// missing key, a wrong type or a value out of its limits and then leaves the value as it was, so
+// that reading goes on and all faults come to light together.
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "pdgen/check/diagnostics.hpp"
@@ -16,24 +18,10 @@
 
 namespace pdgen {
 
-// A string of an array, with its place.
-struct Word {
-  std::string text;
-  Place place;
-};
-
 // Names that must differ from one another, such as those of all tables.
-class NameScope {
- public:
-  // Reports `name` under `key` if it is taken. An empty name is one that could not be read.
-  void add(const std::string &name, const Place &place, std::string_view key,
-           Diagnostics &diagnostics);
+using NameScope = std::map<std::string, Place>;
 
- private:
-  std::map<std::string, Place> taken_;
-};
-
-// The top byte of a handle tells what it is a handle of.
+// The top byte of a handle says what it is a handle of.
 enum class HandleKind : std::uint32_t {
   kAny = 0,  // of a parser value set: no rule
   kTable = 0x01,
@@ -48,23 +36,24 @@ enum class HandleKind : std::uint32_t {
   kAlgorithm = 0x23,
 };
 
-// All handles of a catalogue: no two objects share one.
-class HandleScope {
- public:
-  void add(std::uint32_t handle, const std::string &owner, const Place &place, std::string_view key,
-           Diagnostics &diagnostics);
-  std::vector<Handle> all() const;
-
- private:
+// What all rows of a catalogue share.
+struct Reading {
   struct Holder {
-    std::string owner;
+    std::string object;
     Place place;
   };
-  std::map<std::uint32_t, Holder> taken_;
+
+  Program &program;
+  Diagnostics &diagnostics;
+  std::map<std::uint32_t, Holder> handles;  // no two objects share one
+  // Set the targets of references, once all rows have been read.
+  std::vector<std::function<void()>> references;
 };
 
-// Whether `text` can be part of a C name: [A-Za-z_][A-Za-z0-9_]*.
-bool is_identifier(std::string_view text);
+// Whether the row must have a key.
+enum Need { kRequired, kOptional };
+
+constexpr std::uint32_t kAnyNumber = 0xffffffff;
 
 std::string hex(std::uint32_t value);
 
@@ -82,83 +71,153 @@ class RowReader {
     std::string owner;     // "table fdb"; may be empty
   };
 
-  RowReader(const TomlValue &row, Naming naming, Diagnostics &diagnostics);
+  RowReader(const TomlValue &row, Naming naming, NameScope &siblings, Reading &reading);
   RowReader(const RowReader &) = delete;
   RowReader &operator=(const RowReader &) = delete;
   // Reports each key that no accessor has asked for.
   ~RowReader();
 
   const std::string &what() const { return what_; }
-  Diagnostics &diagnostics() const { return diagnostics_; }
+  Program &program() const { return reading_.program; }
 
   bool has(std::string_view key) const { return row_.find(key) != nullptr; }
   // Of the value, or of the row if it lacks the key.
   const Place &place(std::string_view key) const;
-  // "table.key.width" of "width".
-  std::string path(std::string_view key) const;
-  void report(std::string_view key, std::string message) const;
-
-  // Required unless the name says otherwise; empty or nullopt after a fault.
-  std::string identifier(std::string_view key);
-  std::string text(std::string_view key);  // printable ASCII, not empty
-  std::optional<std::uint32_t> number(std::string_view key, std::uint32_t least,
-                                      std::uint32_t most);
-  std::optional<std::uint32_t> optional_number(std::string_view key, std::uint32_t least,
-                                               std::uint32_t most);
-  // `object`: whose handle it is, if not the row's own.
-  std::uint32_t handle(std::string_view key, HandleKind kind, HandleScope &scope,
-                       std::string object = "");
-  bool optional_flag(std::string_view key);
-  // The index of the value in `choices`.
-  std::optional<std::size_t> choice(std::string_view key,
-                                    const std::vector<std::string_view> &choices);
-  std::optional<std::size_t> optional_choice(std::string_view key,
-                                             const std::vector<std::string_view> &choices);
-  std::vector<Word> identifiers(std::string_view key);  // at least one
-  std::vector<Word> optional_identifiers(std::string_view key);
-  // The elements of an array of tables.
-  std::vector<const TomlValue *> rows(std::string_view key);
-  std::vector<const TomlValue *> optional_rows(std::string_view key);
-
-  // The name of the row itself and its place, which must be new in the scope.
-  template <typename Row>
-  void name(std::string_view key, NameScope &scope, Row &row) {
-    row.name = identifier(key);
-    row.place = place(key);
-    scope.add(row.name, row.place, path(key), diagnostics_);
+  template <typename... Args>
+  void report(std::string_view key, fmt::format_string<Args...> message, Args &&...args) const {
+    report_at(place(key), key, message, std::forward<Args>(args)...);
+  }
+  // At a place other than that of the key.
+  template <typename... Args>
+  void report_at(const Place &at, std::string_view key, fmt::format_string<Args...> message,
+                 Args &&...args) const {
+    reading_.diagnostics.report(at, path(key), message, std::forward<Args>(args)...);
   }
 
+  // True if the value is there and right.
+  bool identifier(std::string_view key, std::string &value, Need need = kRequired);
+  void text(std::string_view key, std::string &value);  // printable ASCII, not empty
+  bool number(std::string_view key, unsigned &value, unsigned least = 0, unsigned most = kAnyNumber,
+              Need need = kRequired);
+  // `object`: whose handle it is, if not the row's own.
+  void handle(std::string_view key, std::uint32_t &value, HandleKind kind, std::string object = "");
+  void flag(std::string_view key, bool &value);
+  // A value without any rule, null if the row lacks the key.
+  const TomlValue *value(std::string_view key, Need need);
+  // The words of an array with their places.
+  using Word = std::pair<std::string, Place>;
+  std::vector<Word> words(std::string_view key, Need need);
+  void words(std::string_view key, std::vector<std::string> &values);
+  // One of the words; it stands for the value beside it.
   template <typename T>
-  Ref<T> reference(std::string_view key) {
-    Ref<T> ref;
-    ref.name = identifier(key);
+  bool choice(std::string_view key, T &value,
+              const std::vector<std::pair<std::string_view, T>> &choices, Need need = kRequired) {
+    std::vector<std::string_view> words;
+    for (const auto &choice : choices) words.push_back(choice.first);
+    const std::size_t chosen = index_of_choice(key, words, need);
+    if (chosen < choices.size()) value = choices[chosen].second;
+    return chosen < choices.size();
+  }
+
+  // The row's own name, which must be new among its siblings, and its place.
+  template <typename Row>
+  void name(Row &row) {
+    identifier(naming_.name_key, row.name);
+    row.place = place(naming_.name_key);
+    add_to_siblings(row.name, row.place);
+  }
+  // The same where it is the name of a row of another list.
+  template <typename Row, typename T>
+  void name(Row &row, Ref<T> &ref, std::string_view wanted, const std::vector<T> &list) {
+    reference(naming_.name_key, ref, wanted, list);
+    row.place = ref.place;
+    add_to_siblings(ref.name, ref.place);
+  }
+
+  // A row of another list, looked up once all are read; `wanted` is what it must be.
+  template <typename T>
+  using Find = std::function<const T *(std::string_view name)>;
+  template <typename T>
+  void reference(std::string_view key, Ref<T> &ref, std::string_view wanted, Find<T> find,
+                 Need need = kRequired) {
     ref.place = place(key);
-    return ref;
+    if (identifier(key, ref.name, need)) resolve(key, ref, wanted, find);
+  }
+  template <typename T>
+  void reference(std::string_view key, Ref<T> &ref, std::string_view wanted,
+                 const std::vector<T> &list, Need need = kRequired) {
+    reference(key, ref, wanted, find_in(list), need);
+  }
+  template <typename T>
+  void references(std::string_view key, std::vector<Ref<T>> &refs, std::string_view wanted,
+                  Find<T> find, Need need = kRequired) {
+    for (auto &[word, at] : words(key, need)) refs.push_back({std::move(word), at, nullptr});
+    for (Ref<T> &ref : refs) resolve(key, ref, wanted, find);
+  }
+  template <typename T>
+  static Find<T> find_in(const std::vector<T> &list) {
+    return [&list](std::string_view name) { return find_row(list, name); };
+  }
+
+  // The one row under a key that may be missing.
+  template <typename Row, typename Read>
+  void row(std::string_view key, std::optional<Row> &row, Read read) {
+    const TomlValue *given = value(key, kOptional);
+    if (given == nullptr) return;
+    RowReader reader(*given, naming_of(key, std::string(key), ""), siblings_, reading_);
+    read(reader, row.emplace());
+  }
+
+  // The rows of an array of tables, read one by one. Rows stay where they are from then on.
+  template <typename Row, typename Read>
+  void rows(std::string_view key, std::string kind, std::string name_key, std::vector<Row> &rows,
+            Read read, Need need = kRequired, NameScope *siblings = nullptr) {
+    NameScope names;
+    const std::vector<const TomlValue *> values = row_values(key, need);
+    rows.reserve(values.size());
+    for (const TomlValue *row : values) {
+      RowReader reader(*row, naming_of(key, kind, name_key), siblings ? *siblings : names,
+                       reading_);
+      read(reader, rows.emplace_back());
+    }
   }
 
   // Nothing is known of the other keys.
   void ignore_other_keys() { ignores_others_ = true; }
 
-  // A value without any rule, null if the row lacks the key.
-  const TomlValue *optional_value(std::string_view key);
-
  private:
-  const TomlValue *value(std::string_view key, bool required);
   template <typename T>
-  const T *typed(std::string_view key, bool required, std::string_view wanted);
-  void report_wrong_type(std::string_view key, const TomlValue &value,
-                         std::string_view wanted) const;
-  std::optional<std::uint32_t> number_within(std::string_view key, bool required,
-                                             std::uint32_t least, std::uint32_t most);
-  std::optional<std::size_t> chosen(std::string_view key, bool required,
-                                    const std::vector<std::string_view> &choices);
-  std::vector<Word> word_list(std::string_view key, bool required);
-  std::vector<const TomlValue *> row_list(std::string_view key, bool required);
+  void resolve(std::string_view key, Ref<T> &ref, std::string_view wanted, Find<T> find) {
+    const bool is_name = key == naming_.name_key;
+    const std::string owner = !is_name                ? what_
+                              : naming_.owner.empty() ? "a " + naming_.kind
+                                                      : naming_.owner;
+    reading_.references.push_back(
+        [&ref, &reading = reading_, key = path(key), owner, wanted, find] {
+          ref.target = find(ref.name);
+          if (ref.target != nullptr) return;
+          reading.diagnostics.report(ref.place, key, "{} names {}, which is no {}", owner, ref.name,
+                                     wanted);
+        });
+  }
+
+  Naming naming_of(std::string_view key, std::string kind, std::string name_key) const;
+  std::string path(std::string_view key) const;
+  template <typename T>
+  const T *typed(std::string_view key, const TomlValue *value, std::string_view wanted);
+  template <typename T>
+  std::vector<const TomlValue *> elements(std::string_view key, Need need, std::string_view verb,
+                                          std::string_view kind);
+  std::size_t index_of_choice(std::string_view key, const std::vector<std::string_view> &choices,
+                              Need need);
+  std::vector<const TomlValue *> row_values(std::string_view key, Need need);
+  void add_to_siblings(const std::string &name, const Place &place);
 
   const TomlValue &row_;
   Naming naming_;
   std::string what_;
-  Diagnostics &diagnostics_;
+  NameScope &siblings_;
+  Reading &reading_;
   std::vector<std::string> known_keys_;
   bool ignores_others_ = false;
 };

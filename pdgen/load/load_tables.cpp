@@ -1,8 +1,6 @@
 // Reads tables: keys, actions and resource items.
-#include <fmt/format.h>
-
 #include <algorithm>
-#include <utility>
+#include <charconv>
 
 #include "pdgen/load/load_sections.hpp"
 #include "pdgen/names.hpp"
@@ -13,94 +11,70 @@ namespace {
 
 constexpr unsigned kWide = 128;
 
-int nibble(char c) {
-  if (c >= '0' && c <= '9') return c - '0';
-  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-  return -1;
-}
-
-// The 128-bit number "0x…", most significant byte first; nullopt if the text is none.
-std::optional<std::array<std::uint8_t, 16>> parse_wide(std::string_view text) {
-  constexpr std::size_t kMostDigits = kWide / 4;
-  if (!text.starts_with("0x")) return std::nullopt;
+// "0x" and 1 to 32 digits.
+std::optional<Bits> wide_number(std::string_view text) {
+  constexpr std::size_t kHalf = 16;  // digits of 64 bits
+  if (!text.starts_with("0x") || text.size() > 2 + 2 * kHalf) return {};
   text.remove_prefix(2);
-  if (text.empty() || text.size() > kMostDigits) return std::nullopt;
-  std::array<std::uint8_t, 16> bytes{};
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const int digit = nibble(text[text.size() - 1 - i]);
-    if (digit < 0) return std::nullopt;
-    bytes[15 - i / 2] = static_cast<std::uint8_t>(bytes[15 - i / 2] | digit << (i % 2 * 4));
-  }
-  return bytes;
+  if (text.find_first_not_of("0123456789abcdefABCDEF") != text.npos || text.empty()) return {};
+  const std::size_t upper = text.size() > kHalf ? text.size() - kHalf : 0;
+  Bits bits;
+  std::from_chars(text.data(), text.data() + upper, bits.upper, 16);
+  std::from_chars(text.data() + upper, text.data() + text.size(), bits.lower, 16);
+  return bits;
 }
 
 void read_wide_key_bits(RowReader &row, KeyField &field) {
-  field.wide_key_bits.fill(0xff);
-  const TomlValue *given = row.optional_value("key_bits");
+  const TomlValue *given = row.value("key_bits", kOptional);
   if (given == nullptr) return;
   const auto *text = std::get_if<std::string>(&given->data);
-  const auto bits = text == nullptr ? std::nullopt : parse_wide(*text);
+  const auto bits = text == nullptr ? std::nullopt : wide_number(*text);
+  field.key_bits = bits.value_or(Bits{});
   if (!bits) {
-    row.report("key_bits", fmt::format("the key bits of {} must be a string, 0x and 1 to 32 "
-                                       "hexadecimal digits",
-                                       row.what()));
-    return;
+    row.report("key_bits", "the key bits of {} must be a string, 0x and 1 to 32 hexadecimal digits",
+               row.what());
+  } else if (bits == Bits{}) {
+    row.report("key_bits", "the key bits of {} are 0", row.what());
   }
-  if (*bits == std::array<std::uint8_t, 16>{}) {
-    row.report("key_bits", fmt::format("the key bits of {} are 0", row.what()));
-  }
-  field.partial = *bits != field.wide_key_bits;
-  field.wide_key_bits = *bits;
 }
 
 void read_key_bits(RowReader &row, KeyField &field) {
-  if (field.width == kWide) return read_wide_key_bits(row, field);
-  const auto given = row.optional_number("key_bits", 0, 0xffffffff);
-  if (field.width == 0) return;
-  const std::uint32_t all = low_bits(field.width);
-  field.key_bits = given.value_or(all);
+  const Bits all = low_bits(field.width);
+  field.key_bits = all;
+  if (field.width == kWide) {
+    read_wide_key_bits(row, field);
+  } else if (std::uint32_t given = 0; row.number("key_bits", given, 0, kAnyNumber, kOptional)) {
+    field.key_bits.lower = given;
+    if (field.width != 0 && (given == 0 || (given & ~all.lower) != 0)) {
+      row.report("key_bits", "{} of {} must be some of the {} bits {:#x}", hex(given), row.what(),
+                 field.width, all.lower);
+    }
+  }
   field.partial = field.key_bits != all;
-  if (!given) return;
-  if (*given == 0 || (*given & ~all) != 0) {
-    row.report("key_bits", fmt::format("{} of {} must be some of the {} bits {}", hex(*given),
-                                       row.what(), field.width, hex(all)));
-  }
 }
 
-unsigned read_key_width(RowReader &row) {
-  const auto width = row.number("width", 0, 0xffffffff);
-  if (!width || (*width >= 1 && *width <= 32) || *width == kWide) return width.value_or(0);
-  row.report("width",
-             fmt::format("{} bits of {} must be 1 to 32, or {}", *width, row.what(), kWide));
-  return 0;
-}
-
-KeyField read_key_field(const TomlValue &value, const std::string &owner, NameScope &names,
-                        Diagnostics &diagnostics) {
-  RowReader row(value, {"table.key", "field", "field", owner}, diagnostics);
-  KeyField field;
-  row.name("field", names, field);
-  field.width = read_key_width(row);
-  if (const auto match = row.optional_choice("match", {"ternary", "lpm"})) {
-    field.match = *match == 0 ? Match::kTernary : Match::kLpm;
+void read_key_field(RowReader &row, KeyField &field) {
+  row.name(field);
+  const bool given = row.number("width", field.width);
+  if (given && field.width != kWide && (field.width < 1 || field.width > 32)) {
+    row.report("width", "{} bits of {} must be 1 to 32, or {}", field.width, row.what(), kWide);
+    field.width = 0;
   }
-  field.storage_bytes = read_storage_bytes(row, field.width);
-  field.bytes = whole_bytes(field.width);
+  row.choice("match", field.match, {{"ternary", Match::kTernary}, {"lpm", Match::kLpm}}, kOptional);
+  read_sizes(row, field.width, field.storage_bytes, field.bytes);
   read_key_bits(row, field);
   const std::string header = validity_header(field.name);
   field.is_validity_bit = field.width == 1 && !header.empty();
   field.width_name = field.is_validity_bit ? header : field.name;
-  return field;
 }
 
 TableKind kind_of(const std::vector<KeyField> &key) {
-  if (key.empty()) return TableKind::kKeyless;
-  const auto has = [&](Match match) {
-    return std::any_of(key.begin(), key.end(), [&](const KeyField &f) { return f.match == match; });
-  };
-  if (has(Match::kTernary)) return TableKind::kTernary;
-  return has(Match::kLpm) ? TableKind::kLpm : TableKind::kExact;
+  TableKind kind = key.empty() ? TableKind::kKeyless : TableKind::kExact;
+  for (const KeyField &field : key) {
+    if (field.match == Match::kTernary) return TableKind::kTernary;
+    if (field.match == Match::kLpm) kind = TableKind::kLpm;
+  }
+  return kind;
 }
 
 void check_match_kinds(const RowReader &row, const Table &table) {
@@ -108,19 +82,14 @@ void check_match_kinds(const RowReader &row, const Table &table) {
   for (const KeyField &field : table.key) {
     if (field.match != Match::kLpm) continue;
     const auto report = [&](const std::string &message) {
-      row.diagnostics().report(field.place, "table.key.match", message);
+      row.report_at(field.place, "key.match", "field {} of {} is lpm, {}", field.name, row.what(),
+                    message);
     };
-    if (lpm != nullptr) {
-      report(fmt::format("field {} of {} is lpm, as is {}; a key has at most one lpm field",
-                         field.name, row.what(), lpm->name));
-    }
+    if (lpm != nullptr) report("as is " + lpm->name + "; a key has at most one lpm field");
     if (table.kind == TableKind::kTernary) {
-      report(fmt::format("field {} of {} is lpm, but the key has ternary fields", field.name,
-                         row.what()));
-    }
-    if (table.kind != TableKind::kTernary && field.width % 8 != 0) {
-      report(fmt::format("field {} of {} is lpm, so its width is a multiple of 8, not {}",
-                         field.name, row.what(), field.width));
+      report("but the key has ternary fields");
+    } else if (field.width % 8 != 0) {
+      report(fmt::format("so its width is a multiple of 8, not {}", field.width));
     }
     lpm = &field;
   }
@@ -128,175 +97,155 @@ void check_match_kinds(const RowReader &row, const Table &table) {
 
 // Fills table.key_order, the identity unless given.
 void read_key_order(RowReader &row, Table &table) {
-  const std::vector<Word> words = row.optional_identifiers("key_order");
-  const auto report = [&](const Place &place, const std::string &message) {
-    row.diagnostics().report(place, row.path("key_order"), message);
-  };
-  if (!row.has("key_order")) {
-    for (std::size_t i = 0; i < table.key.size(); ++i) table.key_order.push_back(i);
-    return;
-  }
-  std::vector<bool> used(table.key.size(), false);
-  for (const Word &word : words) {
-    const KeyField *field = find_row(table.key, word.text);
+  const bool given = row.has("key_order");
+  std::vector<bool> used(table.key.size(), !given);
+  for (std::size_t i = 0; i < table.key.size() && !given; ++i) table.key_order.push_back(i);
+  for (const auto &[name, place] : row.words("key_order", kOptional)) {
+    const KeyField *field = find_row(table.key, name);
     if (field == nullptr) {
-      report(word.place, fmt::format("{} is no key field of {}", word.text, row.what()));
+      row.report_at(place, "key_order", "{} is no key field of {}", name, row.what());
       continue;
     }
     const auto index = static_cast<std::size_t>(field - table.key.data());
     if (used[index]) {
-      report(word.place,
-             fmt::format("{} stands twice in the key order of {}", word.text, row.what()));
+      row.report_at(place, "key_order", "{} stands twice in the key order of {}", name, row.what());
     }
     used[index] = true;
     table.key_order.push_back(index);
   }
   for (std::size_t i = 0; i < used.size(); ++i) {
     if (used[i]) continue;
-    report(row.place("key_order"),
-           fmt::format("{} is missing from the key order of {}", table.key[i].name, row.what()));
+    row.report("key_order", "{} is missing from the key order of {}", table.key[i].name,
+               row.what());
   }
 }
 
-Pair read_pair(const TomlValue &value, const std::string &owner, NameScope &names,
-               LoadContext &context) {
-  RowReader row(value, {"table.actions", "action", "action", owner}, context.diagnostics);
-  Pair pair;
-  pair.action = row.reference<Action>("action");
-  pair.place = pair.action.place;
-  names.add(pair.action.name, pair.place, row.path("action"), context.diagnostics);
-  pair.handle = row.handle("handle", HandleKind::kActionFunction, context.handles);
-  pair.as_default = row.optional_flag("default");
-  return pair;
+void read_pair(RowReader &row, Pair &pair) {
+  row.name(pair, pair.action, "action", row.program().actions);
+  row.handle("handle", pair.handle, HandleKind::kActionFunction);
+  row.flag("default", pair.as_default);
 }
 
 void read_operations(RowReader &row, bool keyed, ResourceRow &resource) {
-  static constexpr std::string_view kNames[kOperationCount] = {"add", "modify", "default"};
-  const std::vector<Word> words = row.identifiers("in");
-  for (const Word &word : words) {
-    const auto *name = std::find(std::begin(kNames), std::end(kNames), word.text);
-    if (name == std::end(kNames)) {
-      row.report("in", fmt::format("\"{}\" of {} must be one of {}", word.text, row.what(),
-                                   fmt::join(kNames, ", ")));
+  for (const auto &[name, place] : row.words("in", kRequired)) {
+    const auto *found = std::ranges::find(kOperationNames, name);
+    if (found == std::end(kOperationNames)) {
+      row.report("in", "\"{}\" of {} must be one of {}", name, row.what(),
+                 fmt::join(kOperationNames, ", "));
       continue;
     }
-    const auto operation = static_cast<std::size_t>(name - std::begin(kNames));
+    const auto operation = static_cast<std::size_t>(found - std::begin(kOperationNames));
     if (!keyed && operation != static_cast<std::size_t>(Operation::kDefault)) {
-      row.report("in", fmt::format("{} is sent in {}, but a table without a key has no entries",
-                                   row.what(), word.text));
+      row.report("in", "{} is sent in {}, but a table without a key has no entries", row.what(),
+                 name);
     }
     resource.in[operation] = true;
   }
 }
 
-ResourceRow read_resource(const TomlValue &value, const std::string &owner, bool keyed,
-                          Diagnostics &diagnostics) {
-  RowReader row(value, {"table.resources", "resource", "resource", owner}, diagnostics);
-  ResourceRow resource;
-  resource.resource = row.reference<Resource>("resource");
+// The action of that name if the table offers it. One that the program lacks is the pair's fault.
+const Action *find_offered(const Program &program, const Table &table, std::string_view name) {
+  static const Action kReported;
+  const auto has_name = [&](const Pair &pair) { return pair.action.name == name; };
+  if (std::ranges::none_of(table.pairs, has_name)) return nullptr;
+  const Action *action = find_row(program.actions, name);
+  return action == nullptr ? &kReported : action;
+}
+
+void read_resource(RowReader &row, const Table &table, ResourceRow &resource) {
+  const Program &program = row.program();
+  row.reference<Resource>("resource", resource.resource, "counter, meter or register",
+                          [&program](std::string_view name) {
+                            const Resource *found = find_indexed(program, name);
+                            return found ? found : find_row(program.registers, name);
+                          });
   resource.place = resource.resource.place;
-  for (Word &word : row.optional_identifiers("actions")) {
-    resource.actions.push_back({std::move(word.text), std::move(word.place), nullptr});
-  }
-  if (row.has("index")) resource.index = row.identifier("index");
+  row.references<Action>(
+      "actions", resource.actions, "action of the table",
+      [&program, &table](std::string_view name) { return find_offered(program, table, name); },
+      kOptional);
+  row.identifier("index", resource.index, kOptional);
   resource.index_place = row.place("index");
-  if (const auto tag = row.optional_choice("tag", {"attach", "detach", "meter_spec"})) {
-    resource.tag = static_cast<ResourceTag>(*tag);
-  }
+  row.choice("tag", resource.tag,
+             {{"attach", ResourceTag::kAttach},
+              {"detach", ResourceTag::kDetach},
+              {"meter_spec", ResourceTag::kMeterSpec}},
+             kOptional);
   if (row.has("index") && resource.tag == ResourceTag::kDetach) {
-    row.report("index", fmt::format("{} is detached and needs no cell", row.what()));
+    row.report("index", "{} is detached and needs no cell", row.what());
   }
-  read_operations(row, keyed, resource);
-  return resource;
+  read_operations(row, table.keyed(), resource);
 }
 
 void check_actions(const RowReader &row, const Table &table) {
   const bool has_profile = row.has("profile");
   if (has_profile && !table.pairs.empty()) {
-    row.report("profile",
-               fmt::format("{} has both a profile and {} actions", row.what(), table.pairs.size()));
+    row.report("profile", "{} has both a profile and {} actions", row.what(), table.pairs.size());
   }
   if (!has_profile && table.pairs.empty()) {
-    row.report("actions", fmt::format("{} has neither actions nor a profile", row.what()));
+    row.report("actions", "{} has neither actions nor a profile", row.what());
   }
   if (has_profile && !table.resources.empty()) {
-    row.report("resources",
-               fmt::format("{} has a profile; resource items go with actions", row.what()));
+    row.report("resources", "{} has a profile; resource items go with actions", row.what());
   }
 }
 
 void check_keyless(const RowReader &row, const Table &table) {
   if (table.keyed()) return;
   if (table.idle_time) {
-    row.report("idle_time", fmt::format("{} has no key, so no entries that could age", row.what()));
+    row.report("idle_time", "{} has no key, so no entries that could age", row.what());
   }
   if (row.has("profile")) {
-    row.report("profile", fmt::format("{} has no key, so no entries that could point into a "
-                                      "profile",
-                                      row.what()));
+    row.report("profile", "{} has no key, so no entries that could point into a profile",
+               row.what());
   }
-  const auto defaults = std::count_if(table.pairs.begin(), table.pairs.end(),
-                                      [](const Pair &pair) { return pair.as_default; });
+  const auto defaults = std::ranges::count(table.pairs, true, &Pair::as_default);
   if (!table.pairs.empty() && (table.pairs.size() != 1 || defaults != 1)) {
-    row.report("actions", fmt::format("{} has no key and must have one action, a default one; it "
-                                      "has {} actions, {} of them default",
-                                      row.what(), table.pairs.size(), defaults));
+    row.report("actions",
+               "{} has no key and must have one action, a default one; it has {} actions, {} of "
+               "them default",
+               row.what(), table.pairs.size(), defaults);
   }
 }
 
-Table read_table(const TomlValue &value, NameScope &table_names, LoadContext &context) {
-  RowReader row(value, {"table", "table", "name", ""}, context.diagnostics);
-  Table table;
-  row.name("name", table_names, table);
-  table.handle = row.handle("handle", HandleKind::kTable, context.handles);
-  NameScope field_names;
-  for (const TomlValue *field : row.optional_rows("key")) {
-    table.key.push_back(read_key_field(*field, row.what(), field_names, context.diagnostics));
-  }
+void read_table(RowReader &row, Table &table) {
+  row.name(table);
+  row.handle("handle", table.handle, HandleKind::kTable);
+  row.rows("key", "field", "field", table.key, read_key_field, kOptional);
   table.kind = kind_of(table.key);
   check_match_kinds(row, table);
   read_key_order(row, table);
-  table.idle_time = row.optional_flag("idle_time");
-  if (row.has("profile")) table.profile = row.reference<Profile>("profile");
-  NameScope pair_names;
-  for (const TomlValue *pair : row.optional_rows("actions")) {
-    table.pairs.push_back(read_pair(*pair, row.what(), pair_names, context));
-    table.pairs.back().in_entries = table.keyed();
-  }
-  for (const TomlValue *resource : row.optional_rows("resources")) {
-    table.resources.push_back(
-        read_resource(*resource, row.what(), table.keyed(), context.diagnostics));
-  }
+  row.flag("idle_time", table.idle_time);
+  row.reference("profile", table.profile, "profile", row.program().profiles, kOptional);
+  row.rows("actions", "action", "action", table.pairs, read_pair, kOptional);
+  for (Pair &pair : table.pairs) pair.in_entries = table.keyed();
+  row.rows(
+      "resources", "resource", "resource", table.resources,
+      [&](RowReader &item, ResourceRow &resource) { read_resource(item, table, resource); },
+      kOptional);
   check_actions(row, table);
   check_keyless(row, table);
-  return table;
 }
 
 }  // namespace
 
-unsigned read_storage_bytes(RowReader &row, unsigned width) {
-  const auto bits = row.optional_number("storage", 0, 0xffffffff);
-  if (width == kWide && bits) {
-    row.report("storage",
-               fmt::format("{} is 128 bits wide and always stored as 16 bytes", row.what()));
+void read_sizes(RowReader &row, unsigned width, unsigned &storage_bytes, unsigned &bytes) {
+  unsigned bits = width == kWide ? kWide : width <= 8 ? 8 : width <= 16 ? 16 : 32;
+  if (row.number("storage", bits, 0, kAnyNumber, kOptional)) {
+    if (width == kWide) {
+      row.report("storage", "{} is 128 bits wide and always stored as 16 bytes", row.what());
+    } else if (bits != 8 && bits != 16 && bits != 32) {
+      row.report("storage", "{} bits of {} must be 8, 16 or 32", bits, row.what());
+    } else if (bits < width) {
+      row.report("storage", "{} bits of {} cannot hold its {} bits", bits, row.what(), width);
+    }
   }
-  if (width == kWide) return kWide / 8;
-  const unsigned least = width <= 8 ? 8 : width <= 16 ? 16 : 32;
-  if (!bits) return least / 8;
-  if (*bits != 8 && *bits != 16 && *bits != 32) {
-    row.report("storage", fmt::format("{} bits of {} must be 8, 16 or 32", *bits, row.what()));
-  } else if (*bits < width) {
-    row.report("storage",
-               fmt::format("{} bits of {} cannot hold its {} bits", *bits, row.what(), width));
-  }
-  return *bits / 8;
+  storage_bytes = bits / 8;
+  bytes = (width + 7) / 8;
 }
 
-void read_tables(RowReader &file, LoadContext &context) {
-  NameScope names;
-  for (const TomlValue *table : file.rows("table")) {
-    context.program.tables.push_back(read_table(*table, names, context));
-  }
+void read_tables(RowReader &file) {
+  file.rows("table", "table", "name", file.program().tables, read_table);
 }
 
 }  // namespace pdgen

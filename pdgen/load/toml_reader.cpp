@@ -64,8 +64,8 @@ TomlFile parse_toml(const std::string &path, std::string_view text, Diagnostics 
   file.root.data = TomlValue::Table{};
   const toml::parse_result result = toml::parse(text, std::string_view(path));
   if (!result) {
-    diagnostics.report(place_of(path, result.error().source()), "syntax",
-                       std::string(result.error().description()));
+    diagnostics.report(place_of(path, result.error().source()), "syntax", "{}",
+                       result.error().description());
     return file;
   }
   file.root = convert(path, result.table());

@@ -29,23 +29,6 @@ std::string notation_of(Hint hint, unsigned width) {
   }
 }
 
-// As many as the masks of tools have room for.
-std::array<std::uint8_t, 16> all_bits(unsigned width) {
-  std::array<std::uint8_t, 16> bits{};
-  for (unsigned i = 0; i < std::min(width, 128u); ++i) {
-    bits[15 - i / 8] = static_cast<std::uint8_t>(bits[15 - i / 8] | 1u << i % 8);
-  }
-  return bits;
-}
-
-// The bits of both halves of an address.
-std::array<std::uint8_t, 16> joined(const std::array<std::uint8_t, 16> &upper,
-                                    const std::array<std::uint8_t, 16> &lower) {
-  std::array<std::uint8_t, 16> bits = lower;
-  std::copy(upper.begin() + 13, upper.end(), bits.begin() + 10);
-  return bits;
-}
-
 // Takes the members one after another, then joins halves and names all fields.
 class RecordBuilder {
  public:
@@ -56,10 +39,10 @@ class RecordBuilder {
   }
 
   // A value with its short name.
-  void add(const ToolMember &member, Hint hint, std::string short_name,
-           const std::array<std::uint8_t, 16> &key_bits, std::vector<std::string> cells = {}) {
-    const bool is_v4 = std::find(facts_.v4_addresses.begin(), facts_.v4_addresses.end(),
-                                 member.name) != facts_.v4_addresses.end();
+  void add(const ToolMember &member, Hint hint, std::string short_name, const Bits &key_bits,
+           std::vector<std::string> cells = {}) {
+    const bool is_v4 =
+        std::ranges::find(facts_.v4_addresses, member.name) != facts_.v4_addresses.end();
     own_.push_back({.label = std::move(short_name),
                     .name = member.name,
                     .notation = notation_of(is_v4 ? Hint::kV4Addr : hint, member.width),
@@ -129,7 +112,7 @@ class RecordBuilder {
             .notation = "mac",
             .match = high.match,
             .width = 2 * kHalf,
-            .key_bits = joined(high.key_bits, low.key_bits),
+            .key_bits = {0, high.key_bits.lower << kHalf | low.key_bits.lower},
             .parts = {high.parts[0], low.parts[0]},
             .cells = {}};
   }
@@ -141,7 +124,7 @@ class RecordBuilder {
       std::vector<std::string> labels;
       for (const ToolField &field : record_.fields) labels.push_back(field.label);
       for (std::size_t i = 0; i < labels.size(); ++i) {
-        if (std::count(labels.begin(), labels.end(), labels[i]) == 1) continue;
+        if (std::ranges::count(labels, labels[i]) == 1) continue;
         record_.fields[i].label = long_name(record_.fields[i].name);
         changed = changed || record_.fields[i].label != labels[i];
       }
@@ -185,7 +168,7 @@ void add_bytes(RecordBuilder &builder, const Program &program, const std::string
                .width = width,
                .is_bytes = is_bytes},
               hint_by_name(program, name, width),
-              short_name(name, program.field_facts.instance_prefixes), all_bits(width));
+              short_name(name, program.field_facts.instance_prefixes), low_bits(width));
 }
 
 ToolRecord tool_record(const Program &program, const Table &table) {
@@ -218,7 +201,7 @@ ToolRecord tool_record(const Program &program, const Action &action) {
                  .offset = offset_of(type, param_member(param)),
                  .storage = param.storage_bytes,
                  .width = param.width},
-                param.hint, param.name, all_bits(param.width), std::move(cells));
+                param.hint, param.name, low_bits(param.width), std::move(cells));
   }
   return builder.take(action.name, std::to_string(action.value),
                       action.has_params() ? "sizeof(" + type + ")" : "0");

@@ -3,7 +3,6 @@
 // literals that a tool reads back, so every blank counts.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -18,15 +17,12 @@ namespace pdgen {
 // Hexadecimal digits of a value of that many bits.
 unsigned digit_count(unsigned width);
 
-// The bits of a member that the key uses, most significant byte first in the low bytes; a mask
-// companion has those of its field, a prefix length all of its own.
-std::array<std::uint8_t, 16> member_bits(const Table &table, const RecordField &field);
-
-// The same as a number; 0 for a member of 128 bits.
-std::uint32_t member_mask(const Table &table, const RecordField &field);
+// The bits of a member that the key uses; a mask companion has those of its field, a prefix length
+// all of its own.
+Bits member_bits(const Table &table, const RecordField &field);
 
 // The bits as schemas write them: "0x7f", and an L behind what does not fit in 31 bits.
-std::string mask_text(const std::array<std::uint8_t, 16> &bits);
+std::string mask_text(const Bits &bits);
 
 // ---- Schemas ----
 

@@ -9,21 +9,9 @@ namespace pdgen {
 
 unsigned digit_count(unsigned width) { return (width + 3) / 4; }
 
-std::array<std::uint8_t, 16> member_bits(const Table &table, const RecordField &field) {
-  const KeyField &key = table.key[field.key_index];
-  if (field.role != RecordRole::kPrefixLength && key.wide()) return key.wide_key_bits;
-  const std::uint32_t bits = field.role == RecordRole::kPrefixLength ? 0xffff : key.key_bits;
-  std::array<std::uint8_t, 16> bytes{};
-  for (unsigned i = 0; i < 4; ++i) bytes[15 - i] = static_cast<std::uint8_t>(bits >> 8 * i);
-  return bytes;
-}
-
-std::uint32_t member_mask(const Table &table, const RecordField &field) {
-  if (field.storage_bytes == 16) return 0;
-  const std::array<std::uint8_t, 16> bytes = member_bits(table, field);
-  std::uint32_t mask = 0;
-  for (unsigned i = 12; i < 16; ++i) mask = mask << 8 | bytes[i];
-  return mask;
+Bits member_bits(const Table &table, const RecordField &field) {
+  if (field.role == RecordRole::kPrefixLength) return low_bits(field.width);
+  return table.key[field.key_index].key_bits;
 }
 
 namespace {
@@ -38,8 +26,7 @@ template <class Row>
 std::string sorted_action_schemas(const std::vector<Row> &rows) {
   std::vector<const Action *> actions;
   for (const Row &row : rows) actions.push_back(row.action.target);
-  std::sort(actions.begin(), actions.end(),
-            [](const Action *a, const Action *b) { return a->name < b->name; });
+  std::ranges::sort(actions, {}, &Action::name);
   std::string text;
   for (const Action *action : actions) text += action_schema(*action) + ",";
   return text;
@@ -47,12 +34,9 @@ std::string sorted_action_schemas(const std::vector<Row> &rows) {
 
 }  // namespace
 
-std::string mask_text(const std::array<std::uint8_t, 16> &bits) {
-  std::string digits;
-  for (const std::uint8_t byte : bits) digits += fmt::format("{:02x}", byte);
-  digits.erase(0, std::min(digits.find_first_not_of('0'), digits.size() - 1));
-  const bool is_long = digits.size() > 8 || (digits.size() == 8 && digits[0] >= '8');
-  return "0x" + digits + (is_long ? "L" : "");
+std::string mask_text(const Bits &bits) {
+  if (bits.upper != 0) return fmt::format("{:#x}{:016x}L", bits.upper, bits.lower);
+  return fmt::format("{:#x}{}", bits.lower, bits.lower >> 31 != 0 ? "L" : "");
 }
 
 std::string match_spec_schema(const Table &table) {

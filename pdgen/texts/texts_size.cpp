@@ -21,7 +21,7 @@ std::size_t pointee_size() { return std::string_view("('setMbrHdl',(0xffffffff,)
 std::size_t number_size(const LabelItem &item) {
   const KeyField &field = *item.field;
   const auto value_digits = [&] {
-    return std::max<std::size_t>(item.digits, fmt::formatted_size("{:x}", field.key_bits));
+    return std::max<std::size_t>(item.digits, fmt::formatted_size("{:x}", field.key_bits.lower));
   };
   // The mask is written as the record holds it.
   const std::size_t masked = std::string_view(" & 0x").size() + 2 * field.storage_bytes;

@@ -121,24 +121,24 @@ INSTANTIATE_TEST_SUITE_P(
              "digest.fields.offset: -1 of field eth_src of digest arrival must be from 0 to 65535"},
         Slip{"BadIdentifier", "actions.toml", "name = \"mark\"", "name = \"2nd-mark\"", "2nd-mark",
              "actions.params.name: \"2nd-mark\" is no identifier: a letter or '_', then letters, "
-             "digits and '_'; no word of C or C++"},
+             "digits and '_'; no word or macro of C or C++"},
         Slip{"MacroOfTheContract", "actions.toml", "name = \"mark\"", "name = \"BF_ALL_PIPES\"",
              "BF_ALL_PIPES",
              "actions.params.name: \"BF_ALL_PIPES\" is no identifier: a letter or '_', then "
              "letters, "
-             "digits and '_'; no word of C or C++"},
+             "digits and '_'; no word or macro of C or C++"},
         Slip{"KeywordOfCpp20", "actions.toml", "name = \"mark\"", "name = \"requires\"", "requires",
              "actions.params.name: \"requires\" is no identifier: a letter or '_', then letters, "
-             "digits and '_'; no word of C or C++"},
-        Slip{"PredefinedMacro", "tables.toml", "field = \"meta_slice\"", "field = \"linux\"",
-             "linux",
-             "table.key.field: \"linux\" is no identifier: a letter or '_', then letters, digits "
+             "digits and '_'; no word or macro of C or C++"},
+        Slip{"PredefinedMacro", "tables.toml", "field = \"meta_slice\"", "field = \"errno\"",
+             "errno",
+             "table.key.field: \"errno\" is no identifier: a letter or '_', then letters, digits "
              "and "
-             "'_'; no word of C or C++"},
+             "'_'; no word or macro of C or C++"},
         Slip{"MacroOfIntegerTypes", "snapshots.toml", "name = \"slice\"", "name = \"INT8_MAX\"",
              "INT8_MAX",
              "layout.fields.name: \"INT8_MAX\" is no identifier: a letter or '_', then letters, "
-             "digits and '_'; no word of C or C++"},
+             "digits and '_'; no word or macro of C or C++"},
         Slip{"NoRows", "value_sets.toml", "{ name = \"trunk_ports\", handle = 0x101 },", "",
              "value_sets = [", "value_sets: value_sets.toml lists nothing here"},
         Slip{"NarrowIndex", "actions.toml", "\"rateCell\", width = 32", "\"rateCell\", width = 16",
@@ -223,8 +223,8 @@ INSTANTIATE_TEST_SUITE_P(
              "label.table: a label names filters, which is no table"},
         Slip{"FieldOfLabel", "labels.toml", "field = \"meta_layer4\"", "field = \"meta_layer3\"",
              "meta_layer3",
-             "label.items.field: the label of filter names meta_layer3, which is no key field of "
-             "the table"},
+             "label.items.field: label filter names meta_layer3, which is no key field of the "
+             "table"},
         Slip{"HintOfParameter", "actions.toml", "hint = \"vport\"", "hint = \"vlan\"", "vlan",
              "actions.params.hint: \"vlan\" of parameter egress of action setMember must be one "
              "of mac, v4addr, vport"},
@@ -542,9 +542,10 @@ TEST(CatalogueFaults, NeededFilesMustBeThereAndOthersMustBeKnown) {
 }
 
 TEST(CatalogueFaults, AProgramHasActionsAndTables) {
-  const std::vector<CatalogueFile> files = {{"a/program.toml", "name = \"none\""},
-                                            {"a/actions.toml", "actions = []"},
-                                            {"a/tables.toml", "table = []"}};
+  const std::vector<CatalogueFile> files = {
+      {"a/program.toml", "name = \"none\"\nroutes = { action = \"go\", tables = [\"fib\"] }"},
+      {"a/actions.toml", "actions = []"},
+      {"a/tables.toml", "table = []"}};
   EXPECT_EQ(load_program(files).diagnostics.text(),
             "a/actions.toml:1: actions: actions.toml lists nothing here\n"
             "a/tables.toml:1: table: tables.toml lists nothing here\n");

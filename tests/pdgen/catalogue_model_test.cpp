@@ -68,6 +68,16 @@ TEST(ToolNames, CollisionsDoNotCountValidityBits) {
             (std::vector<std::string>{"tagValid", "tagValid", "tag1SetBit", "igMdForXSetBit"}));
 }
 
+TEST(CapturedParts, HaveAnyNumberAndNoNameOfTheirOwn) {
+  Snapshots snapshots;
+  snapshots.capture = {{"sip", {}, 0, 16}, {"sip_2", {}, 16, 1}};
+  EXPECT_EQ(captured_part(snapshots, "sip_12").whole, &snapshots.capture[0]);
+  EXPECT_EQ(captured_part(snapshots, "sip_12").number, 12U);
+  for (const char *name : {"sip_2", "sip_02", "sip_", "sip", "dip_1"}) {
+    EXPECT_EQ(captured_part(snapshots, name).whole, nullptr) << name;
+  }
+}
+
 TEST_F(TinyCatalogue, PairsSendTheirResources) {
   const Pair &police = table("flows").pairs[0];
   const Pair &count_only = table("flows").pairs[1];

@@ -8,17 +8,11 @@ namespace pdgen {
 namespace {
 
 TEST(Texts, MasksAreLongBeyond31Bits) {
-  const auto text = [](std::uint32_t low, std::uint8_t fifth = 0) {
-    std::array<std::uint8_t, 16> bits{};
-    bits[11] = fifth;
-    for (unsigned i = 0; i < 4; ++i) bits[15 - i] = static_cast<std::uint8_t>(low >> 8 * i);
-    return mask_text(bits);
-  };
-  EXPECT_EQ(text(0x4), "0x4");
-  EXPECT_EQ(text(0x7fffffff), "0x7fffffff");
-  EXPECT_EQ(text(0x80000000), "0x80000000L");
-  EXPECT_EQ(text(0, 1), "0x100000000L");
-  EXPECT_EQ(text(0), "0x0");
+  EXPECT_EQ(mask_text({0, 0x4}), "0x4");
+  EXPECT_EQ(mask_text({0, 0x7fffffff}), "0x7fffffff");
+  EXPECT_EQ(mask_text({0, 0x80000000}), "0x80000000L");
+  EXPECT_EQ(mask_text({1, 2}), "0x10000000000000002L");
+  EXPECT_EQ(mask_text({0, 0}), "0x0");
 }
 
 // A table with one field of each role and a partial key.
@@ -29,7 +23,7 @@ TEST(Texts, LinesAndValuesFollowTheRecord) {
   bits.name = "md_bits";
   bits.width = 4;
   bits.storage_bytes = 1;
-  bits.key_bits = 0x8;
+  bits.key_bits = {0, 0x8};
   bits.partial = true;
   table.key = {bits};
   table.record = {{RecordRole::kValue, 0, "md_bits", "bits", Hint::kNone, 4, 1},
@@ -51,7 +45,7 @@ TEST(Texts, LinesAndValuesFollowTheRecord) {
 TEST(Texts, LabelSizesCountTheLongestFormOfEachItem) {
   KeyField field;
   field.storage_bytes = 2;
-  field.key_bits = 0x1ff;
+  field.key_bits = {0, 0x1ff};
   Label label;
   LabelItem number;
   number.kind = LabelKind::kNumber;
