@@ -66,7 +66,8 @@ function(pd_add_library program)
   add_custom_target(pd_${program}_generated DEPENDS ${dir}/stamp)
 
   set(core ${CMAKE_SOURCE_DIR}/src/pd)
-  file(GLOB core_sources CONFIGURE_DEPENDS ${core}/*.cpp ${CMAKE_SOURCE_DIR}/src/pd_tessel/*.cpp)
+  file(GLOB core_sources CONFIGURE_DEPENDS ${core}/*.cpp ${core}/*/*.cpp
+       ${CMAKE_SOURCE_DIR}/src/pd_tessel/*.cpp)
   add_library(pd_${program} SHARED ${wrappers} ${core_sources})
   add_dependencies(pd_${program} pd_${program}_generated)
   target_include_directories(pd_${program}

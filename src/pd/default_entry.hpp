@@ -1,7 +1,7 @@
 // The default entry of a table that carries its actions directly.
 #pragma once
 
-#include "action_encode.hpp"
+#include "codec/action_encode.hpp"
 #include "pipe_mgr_match.h"
 
 namespace pd {

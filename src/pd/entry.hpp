@@ -2,8 +2,8 @@
 // builds the pipeline manager's records on the stack and makes one call.
 #pragma once
 
-#include "action_encode.hpp"
-#include "key_encode.hpp"
+#include "codec/action_encode.hpp"
+#include "codec/key_encode.hpp"
 #include "pipe_mgr_match.h"
 
 namespace pd {

@@ -1,6 +1,6 @@
 #include "frame.hpp"
 
-#include "bytes.hpp"
+#include "codec/bytes.hpp"
 #include "device_state.hpp"
 
 namespace pd {

@@ -2,8 +2,8 @@
 // the action that the pipeline manager wants with them comes from the member-selector state.
 #pragma once
 
+#include "codec/key_encode.hpp"
 #include "frame.hpp"
-#include "key_encode.hpp"
 #include "pipe_mgr_match.h"
 
 namespace pd {

@@ -1,8 +1,8 @@
 // Meters: set and read by index or by entry, byte-count adjustment, WRED profiles.
 #pragma once
 
-#include "bytes.hpp"
-#include "meter_spec.hpp"
+#include "codec/bytes.hpp"
+#include "codec/meter_spec.hpp"
 #include "pipe_mgr_match.h"
 #include "pipe_mgr_stats.h"
 

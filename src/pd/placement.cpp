@@ -1,7 +1,7 @@
 #include "placement.hpp"
 
-#include "bytes.hpp"
-#include "decode.hpp"
+#include "codec/bytes.hpp"
+#include "codec/decode.hpp"
 #include "device_state.hpp"
 #include "frame.hpp"
 

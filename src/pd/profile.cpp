@@ -2,7 +2,7 @@
 
 #include <string.h>
 
-#include "decode.hpp"
+#include "codec/decode.hpp"
 
 namespace pd {
 

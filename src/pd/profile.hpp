@@ -2,7 +2,7 @@
 // has succeeded there, into the profile's member-selector state.
 #pragma once
 
-#include "action_encode.hpp"
+#include "codec/action_encode.hpp"
 #include "frame.hpp"
 #include "pipe_mgr_profile.h"
 

@@ -2,8 +2,8 @@
 
 #include <string.h>
 
-#include "bytes.hpp"
-#include "decode.hpp"
+#include "codec/bytes.hpp"
+#include "codec/decode.hpp"
 
 namespace pd {
 

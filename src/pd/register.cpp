@@ -1,6 +1,6 @@
 #include "register.hpp"
 
-#include "bytes.hpp"
+#include "codec/bytes.hpp"
 #include "pipe_mgr_match.h"
 #include "scratch.hpp"
 

@@ -2,7 +2,7 @@
 
 #include <string.h>
 
-#include "bytes.hpp"
+#include "codec/bytes.hpp"
 
 namespace pd {
 

@@ -4,7 +4,7 @@
 
 #include "by_handle.hpp"
 #include "compare.hpp"
-#include "decode.hpp"
+#include "codec/decode.hpp"
 #include "pipe_mgr_placement.h"
 #include "print.hpp"
 #include "value.hpp"

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "bytes.hpp"
+#include "codec/bytes.hpp"
 
 namespace pd {
 

@@ -1,8 +1,8 @@
-#include "decode.hpp"
+#include "codec/decode.hpp"
 
 #include <string.h>
 
-#include "bytes.hpp"
+#include "codec/bytes.hpp"
 
 namespace pd {
 

@@ -2,9 +2,9 @@
 // (table, action) pair.
 #pragma once
 
-#include "bytes.hpp"
+#include "codec/bytes.hpp"
+#include "codec/meter_spec.hpp"
 #include "descriptor.hpp"
-#include "meter_spec.hpp"
 
 namespace pd {
 

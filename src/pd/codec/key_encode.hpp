@@ -1,7 +1,7 @@
 // From a typed match spec to the pipeline manager's key and mask bytes, unrolled per table.
 #pragma once
 
-#include "bytes.hpp"
+#include "codec/bytes.hpp"
 #include "descriptor.hpp"
 
 namespace pd {

@@ -1,7 +1,7 @@
 // The caller's meter spec as the pipeline manager takes it.
 #pragma once
 
-#include "bytes.hpp"
+#include "codec/bytes.hpp"
 #include "p4_pd_types.h"
 
 namespace pd {
