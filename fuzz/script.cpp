@@ -8,7 +8,7 @@
 #include "tesselctl/command/flags.hpp"
 #include "tesselctl/command/grammar.hpp"
 #include "tesselctl/command/local_runner.hpp"
-#include "tesselctl/command/offers.hpp"
+#include "tesselctl/completion/offers.hpp"
 #include "tesselctl/command/script.hpp"
 
 using namespace tesselctl;

@@ -1,7 +1,7 @@
 // The registry: commands, words and kinds of items, by topic.
 #pragma once
 
-#include "tesselctl/command/subject.hpp"
+#include "tesselctl/completion/subject.hpp"
 #include "tesselctl/state/kind.hpp"
 
 namespace tesselctl {

@@ -1,10 +1,10 @@
-#include "tesselctl/command/completion.hpp"
+#include "tesselctl/completion/completion.hpp"
 #include "tesselctl/command/topic.hpp"
 
 #include <algorithm>
 #include <optional>
 
-#include "tesselctl/command/field_offers.hpp"
+#include "tesselctl/completion/field_offers.hpp"
 #include "tesselctl/command/flags.hpp"
 #include "tesselctl/command/grammar.hpp"
 #include "tesselctl/command/watch_line.hpp"

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "tesselctl/command/command.hpp"
-#include "tesselctl/command/offers.hpp"
+#include "tesselctl/completion/offers.hpp"
 
 namespace tesselctl {
 

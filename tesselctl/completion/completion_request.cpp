@@ -3,7 +3,7 @@
 #include <charconv>
 
 #include <fmt/format.h>
-#include "tesselctl/command/completion.hpp"
+#include "tesselctl/completion/completion.hpp"
 
 namespace tesselctl {
 

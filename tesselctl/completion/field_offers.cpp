@@ -1,4 +1,4 @@
-#include "tesselctl/command/field_offers.hpp"
+#include "tesselctl/completion/field_offers.hpp"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // Fields, parameters and actions as candidates.
 #pragma once
 
-#include "tesselctl/command/subject.hpp"
+#include "tesselctl/completion/subject.hpp"
 
 namespace tesselctl {
 

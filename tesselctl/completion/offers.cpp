@@ -1,4 +1,4 @@
-#include "tesselctl/command/offers.hpp"
+#include "tesselctl/completion/offers.hpp"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "tesselctl/command/subject.hpp"
+#include "tesselctl/completion/subject.hpp"
 
 #include <algorithm>
 

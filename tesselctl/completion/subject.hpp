@@ -7,7 +7,7 @@
 #include <optional>
 
 #include "tesselctl/command/grammar.hpp"
-#include "tesselctl/command/offers.hpp"
+#include "tesselctl/completion/offers.hpp"
 #include "tesselctl/device/read_back.hpp"
 
 namespace tesselctl {

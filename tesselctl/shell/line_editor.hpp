@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "tesselctl/command/completion.hpp"
+#include "tesselctl/completion/completion.hpp"
 #include "tesselctl/shell/history.hpp"
 
 namespace tesselctl {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "tesselctl/command/completion.hpp"
+#include "tesselctl/completion/completion.hpp"
 #include "tesselctl/shell/history.hpp"
 #include "tesselctl/shell/line_editor.hpp"
 

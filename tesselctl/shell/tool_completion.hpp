@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "tesselctl/command/completion.hpp"
+#include "tesselctl/completion/completion.hpp"
 #include "tesselctl/command/flags.hpp"
 
 namespace tesselctl {

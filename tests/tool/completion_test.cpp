@@ -1,5 +1,5 @@
 // What is offered at a point of a line, word by word.
-#include "tesselctl/command/completion.hpp"
+#include "tesselctl/completion/completion.hpp"
 
 #include <fstream>
 

@@ -5,7 +5,7 @@
 #include <map>
 #include <set>
 
-#include "tesselctl/command/completion.hpp"
+#include "tesselctl/completion/completion.hpp"
 #include "tesselctl/device/entry_line.hpp"
 #include "tesselctl/text/files.hpp"
 #include "tool_fixture.hpp"

@@ -1,7 +1,7 @@
 // Commands that run again and again.
 #include "tesselctl/shell/tool_runner.hpp"
 
-#include "tesselctl/command/completion.hpp"
+#include "tesselctl/completion/completion.hpp"
 #include "tesselctl/shell/watch_screen.hpp"
 #include "tests/tool/tool_fixture.hpp"
 
