@@ -1,11 +1,15 @@
-#include "tesselctl/kinds/routes.hpp"
+// Bulk loading of route files into the longest-prefix tables, with a check that all is there.
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstring>
 
 #include "soft_sdk.h"
-#include "tesselctl/device/entry_line.hpp"
+#include "tesselctl/command/options.hpp"
+#include "tesselctl/command/topic.hpp"
+#include "tesselctl/device/table_info.hpp"
 #include "tesselctl/program/status.hpp"
+#include "tesselctl/program/value.hpp"
 #include "tesselctl/text/files.hpp"
 #include "tesselctl/text/interrupt.hpp"
 #include "tesselctl/text/progress.hpp"
@@ -14,6 +18,13 @@
 namespace tesselctl {
 
 namespace {
+
+struct RoutesOptions {
+  std::vector<std::string> files;
+  uint64_t vrf = 0;       // of the fields beside the prefix
+  uint16_t nexthop = 1;   // of lines without one
+  bool progress = false;  // show it on standard error
+};
 
 // Faults beyond these are counted and not printed.
 constexpr uint64_t kFaultsShown = 10;
@@ -244,8 +255,13 @@ void load(const Device &device, Notation address, std::vector<Route> RouteFile::
   load.print(out);
 }
 
-}  // namespace
+// The greatest values that the program's route tables take.
+struct RouteLimits {
+  uint64_t vrf = 0;
+  uint16_t nexthop = 0;
+};
 
+// Throws Fault when it has none.
 RouteLimits route_limits() {
   RouteLimits limits;
   limits.nexthop = static_cast<uint16_t>(
@@ -261,6 +277,9 @@ RouteLimits route_limits() {
   return limits;
 }
 
+// Adds every route of the files, finds each again by its prefix, and prints counts, rates, memory
+// and the entries of each prefix length. Faults of lines and of entries go to errors. Returns
+// whether all went well. Throws Fault when a file cannot be read.
 bool load_routes(const Device &device, const RoutesOptions &options, Output &out, Output &errors) {
   // Each kind has lines of its own to show, so that neither hides the other.
   FaultReport parse_faults(errors);
@@ -290,5 +309,38 @@ bool load_routes(const Device &device, const RoutesOptions &options, Output &out
   faults.finish();
   return count == 0;
 }
+
+void routes(Context &context, const Invocation &invocation) {
+  RoutesOptions options;
+  size_t files = 0;
+  for (const Word &word : invocation.arguments) {
+    if (word.text.find('=') != std::string_view::npos) break;
+    options.files.push_back(context.path(word));
+    ++files;
+  }
+  need_argument(invocation, 0, "the name of a file");
+  if (files == 0) throw Fault(invocation.arguments[0], "the name of a file should stand here");
+  const Options words(invocation, files, {"vrf", "nexthop"});
+  const RouteLimits limits = route_limits();
+  options.vrf = words.number_or("vrf", limits.vrf, 0);
+  options.nexthop = static_cast<uint16_t>(words.number_or("nexthop", limits.nexthop, 1));
+  options.progress = context.out.is_stream() && isatty(STDERR_FILENO) != 0;
+  Output report;
+  Output errors;
+  const bool good = load_routes(context.device, options, report, errors);
+  context.results.text(report.take());
+  const std::string faults = errors.take();
+  if (!good) throw Fault("not every route could be loaded:\n" + faults);
+}
+
+constexpr Command kCommands[] = {
+    {"routes", "FILE... [vrf=N] [nexthop=N]",
+     "loads files of lines 'prefix[ nexthop]', plain or .xz, and finds every route again", routes,
+     Kind::changes},
+};
+
+}  // namespace
+
+extern const Topic kRoutesTopic = {"Routes", kCommands};
 
 }  // namespace tesselctl
