@@ -5,6 +5,7 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstring>
 #include <sstream>
 #include <utility>
@@ -93,11 +94,14 @@ inline Spec action_spec(std::string_view action, std::string_view members = "") 
 inline Bytes key_bits(const pdgen::Table &table, const Member &member) {
   const auto index = static_cast<size_t>(&member - record_of(table).members);
   const pdgen::KeyField &field = table.key[table.record[index].key_index];
-  if (member.storage == 16) return Bytes(field.wide_key_bits.begin(), field.wide_key_bits.end());
   const bool is_length = member.role == bindings::Role::prefix_length;
-  const uint32_t bits = is_length ? 0xffff : field.key_bits;
-  const auto *bytes = reinterpret_cast<const uint8_t *>(&bits);
-  return Bytes(bytes, bytes + member.storage);
+  const pdgen::Bits bits = is_length ? pdgen::Bits{0, 0xffff} : field.key_bits;
+  Bytes bytes;  // the least significant first
+  for (unsigned i = 0; i < member.storage; ++i) {
+    bytes.push_back(static_cast<uint8_t>((i < 8 ? bits.lower : bits.upper) >> i % 8 * 8));
+  }
+  if (member.storage == 16) std::ranges::reverse(bytes);
+  return bytes;
 }
 
 // A buffer of exactly size bytes with a guard behind it.
