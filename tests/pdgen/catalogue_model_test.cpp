@@ -1,5 +1,4 @@
-// What the loader derives: the tiny catalogue against values worked out by hand, and the counts of
-// the switch program's catalogue.
+// What the loader derives: the tiny catalogue against values worked out by hand.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -93,43 +92,6 @@ TEST_F(TinyCatalogue, PairsSendTheirResources) {
   EXPECT_FALSE(filtered.takes_meter_spec(Operation::kAdd));
   EXPECT_FALSE(table("seen").pairs[0].in_entries);
   EXPECT_TRUE(table("seen").pairs[0].as_default);
-}
-
-// The switch program: how many objects of each kind its catalogue holds.
-TEST(SwitchCatalogue, HasNoFaultAndAllItsObjects) {
-  const LoadResult result = load_program(kSourceDir + "/catalogue");
-  ASSERT_TRUE(result.program) << result.diagnostics.text();
-  const Program &program = *result.program;
-  const std::vector<Table> &tables = program.tables;
-  const auto tables_of = [&](TableKind kind) {
-    return std::count_if(tables.begin(), tables.end(),
-                         [&](const Table &table) { return table.kind == kind; });
-  };
-  EXPECT_EQ(tables.size(), 120U);
-  EXPECT_EQ(tables_of(TableKind::kExact), 44);
-  EXPECT_EQ(tables_of(TableKind::kTernary), 39);
-  EXPECT_EQ(tables_of(TableKind::kLpm), 2);
-  EXPECT_EQ(tables_of(TableKind::kKeyless), 35);
-  std::size_t fields = 0;
-  std::size_t handles = 0;
-  std::size_t defaults = 0;
-  for (const Table &table : tables) {
-    fields += table.key.size();
-    handles += table.pairs.size();
-    for (const Pair &pair : table.pairs) defaults += pair.as_default ? 1 : 0;
-  }
-  for (const Profile &profile : program.profiles) handles += profile.actions.size();
-  EXPECT_EQ(fields, 318U);
-  EXPECT_EQ(handles, 264U);
-  EXPECT_EQ(defaults, 179U);
-  EXPECT_EQ(program.actions.size(), 232U);
-  EXPECT_EQ(std::count_if(program.actions.begin(), program.actions.end(),
-                          [](const Action &action) { return action.has_params(); }),
-            103);
-  EXPECT_EQ(program.counters.size(), 11U);
-  EXPECT_EQ(program.meters.size(), 7U);
-  EXPECT_EQ(program.registers.size(), 9U);
-  EXPECT_EQ(program.labels.size(), 8U);
 }
 
 }  // namespace
