@@ -110,8 +110,8 @@ struct KeyField {
   unsigned storage_bytes = 0;  // of the record field: 1, 2, 4, or 16 for a byte array
   unsigned bytes = 0;          // of its slot in the key bytes: the width in whole bytes
   unsigned offset = 0;         // of its slot in the key bytes, after key_order
-  Bits key_bits;  // those that the key uses
-  bool partial = false;  // the key uses fewer bits than the field has
+  Bits key_bits;               // those that the key uses
+  bool partial = false;        // the key uses fewer bits than the field has
 
   std::string cli_name;  // the name that tools show
   Hint hint = Hint::kNone;
@@ -221,7 +221,6 @@ struct Profile {
   std::uint32_t action_data_handle = 0;
   std::uint32_t selector_handle = 0;
   std::vector<ProfileAction> actions;
-  std::vector<const Table *> tables;  // the tables bound to it, in table order
 };
 
 // --- Hashes, digests, value sets ------------------------------------------------------------
@@ -302,7 +301,8 @@ struct LabelItem {
   std::string format;            // numbers: the words before the value
   unsigned digits = 0;           // numbers: hexadecimal digits of the value
   std::vector<LabelText> texts;  // numbers
-  std::uint32_t texts_mask = 0xffffffff;  // numbers: texts apply if the mask has a bit of it; else all ones
+  std::uint32_t texts_mask =
+      0xffffffff;  // numbers: texts apply if the mask has a bit of it; else all ones
 };
 
 struct Label {

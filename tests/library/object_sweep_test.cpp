@@ -376,38 +376,39 @@ TEST_F(ObjectSweep, EntriesThatPointAtMembersAndGroups) {
       for (const Pointee &pointee : add_pointees(kOld, profile)) pointees.push_back(pointee);
       add_pointees(kNew, profile);
     }
-    for (const pdgen::Table *table : profile.tables) {
-      SCOPED_TRACE(table->name);
-      const Contents given = contents_for(*table, nullptr);
+    for (const pdgen::Table &table : program().tables) {
+      if (table.profile.target != &profile) continue;
+      SCOPED_TRACE(table.name);
+      const Contents given = contents_for(table, nullptr);
       for (const Pointee &pointee : pointees) {
         const auto examined = [&](uint32_t entry, const Contents *key) {
           char text[40];
           std::snprintf(text, sizeof text, "('set%sHdl',(0x%x,))",
                         pointee.is_group() ? "Grp" : "Mbr", pointee.handle);
           return examine(
-              *table, entry, key, [&](const Read &read) { expect_pointee(read, pointee); },
+              table, entry, key, [&](const Read &read) { expect_pointee(read, pointee); },
               [&](const Read &) { return std::string(text); }, [](int, const Read &) {});
         };
-        const uint32_t old_entry = add("add_entry", kOld, *table, "", given, pointee);
+        const uint32_t old_entry = add("add_entry", kOld, table, "", given, pointee);
         const Placement placed = examined(old_entry, &given);
-        remove(kOld, *table, old_entry);
+        remove(kOld, table, old_entry);
         const Placement defaulted =
-            examined(add("set_default_entry", kOld, *table, "", given, pointee), nullptr);
-        expect_pointee(Read(*find_export("table_get_default_entry", table->name), table,
+            examined(add("set_default_entry", kOld, table, "", given, pointee), nullptr);
+        expect_pointee(Read(*find_export("table_get_default_entry", table.name), &table,
                             {{"target", word(&kOld)}}),
                        pointee);
         for (const Pointee &held : pointees) {
           const bool same = &held == &pointee;
-          const uint32_t entry = add("add_entry", kNew, *table, "", given, held);
-          EXPECT_EQ(equals(*table, entry, placed), same);
-          EXPECT_FALSE(equals(*table, entry, defaulted));
-          remove(kNew, *table, entry);
-          const uint32_t other = add("set_default_entry", kNew, *table, "", given, held);
-          EXPECT_EQ(equals(*table, other, defaulted), same);
-          EXPECT_FALSE(equals(*table, other, placed));
+          const uint32_t entry = add("add_entry", kNew, table, "", given, held);
+          EXPECT_EQ(equals(table, entry, placed), same);
+          EXPECT_FALSE(equals(table, entry, defaulted));
+          remove(kNew, table, entry);
+          const uint32_t other = add("set_default_entry", kNew, table, "", given, held);
+          EXPECT_EQ(equals(table, other, defaulted), same);
+          EXPECT_FALSE(equals(table, other, placed));
         }
-        compare_entries(*table, placed, given, [&](const Contents &one) {
-          return add("add_entry", kNew, *table, "", one, pointee);
+        compare_entries(table, placed, given, [&](const Contents &one) {
+          return add("add_entry", kNew, table, "", one, pointee);
         });
       }
       ++tables;
