@@ -8,8 +8,9 @@
 #include "tesselctl/command/flags.hpp"
 #include "tesselctl/command/grammar.hpp"
 #include "tesselctl/command/local_runner.hpp"
-#include "tesselctl/completion/offers.hpp"
 #include "tesselctl/command/script.hpp"
+#include "tesselctl/command/topic.hpp"
+#include "tesselctl/completion/offers.hpp"
 
 using namespace tesselctl;
 

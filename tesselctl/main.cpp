@@ -11,6 +11,7 @@
 #include "tesselctl/command/flags.hpp"
 #include "tesselctl/command/local_runner.hpp"
 #include "tesselctl/command/options.hpp"
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/program/library.hpp"
 #include "tesselctl/server/client.hpp"
 #include "tesselctl/server/serve.hpp"

@@ -3,9 +3,9 @@
 #include <cjson/cJSON.h>
 #include <string.h>
 
-#include "frame.hpp"
-
 namespace pd {
+
+p4_pd_ms_state_t *profile_states[limits::profiles];
 
 namespace {
 

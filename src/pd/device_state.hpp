@@ -1,11 +1,17 @@
-// What the driver framework asks of the library when a device goes away, is saved or comes back:
-// the member-selector states of all profiles, as a JSON document. And what the pipeline manager
-// reports while it replays a virtual device.
+// The library's state: one member-selector state per action profile. The driver framework has it
+// dropped, saved and restored, as a JSON document, when a device goes away, is saved or comes back;
+// the pipeline manager reports what belongs there while it replays a virtual device.
 #pragma once
 
+#include "descriptor.hpp"
 #include "p4_pd_types.h"
 
 namespace pd {
+
+// Created at the start and never destroyed; the same objects for the life of the process.
+extern p4_pd_ms_state_t *profile_states[limits::profiles];
+
+inline p4_pd_ms_state_t *state_of(const Profile &profile) { return profile_states[profile.index]; }
 
 // Drops what the states hold of the device. Returns 0.
 p4_pd_status_t device_remove(uint32_t device);

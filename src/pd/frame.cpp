@@ -12,8 +12,6 @@ constexpr uint32_t client_priority = 2;
 
 }  // namespace
 
-p4_pd_ms_state_t *profile_states[limits::profiles];
-
 p4_pd_status_t initialize(uint32_t *client) {
   p4_pd_ms_init();
   for (uint32_t i = 0; i < program.profile_count; ++i) {

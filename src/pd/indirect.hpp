@@ -3,7 +3,7 @@
 #pragma once
 
 #include "codec/key_encode.hpp"
-#include "frame.hpp"
+#include "device_state.hpp"
 #include "pipe_mgr_match.h"
 
 namespace pd {

@@ -3,7 +3,6 @@
 #include "codec/bytes.hpp"
 #include "codec/decode.hpp"
 #include "device_state.hpp"
-#include "frame.hpp"
 
 namespace pd {
 

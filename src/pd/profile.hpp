@@ -3,7 +3,7 @@
 #pragma once
 
 #include "codec/action_encode.hpp"
-#include "frame.hpp"
+#include "device_state.hpp"
 #include "pipe_mgr_profile.h"
 
 namespace pd {

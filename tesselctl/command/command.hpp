@@ -84,9 +84,6 @@ inline bool can_be_watched(const Command &command) {
   return (command.kind != Kind::changes || command.watched) && command.where == Where::device;
 }
 
-// The command that the words name. Throws Fault with a near name.
-const Command &find_command(Words words, Invocation &invocation);
-
 // ---- For commands ----
 
 // The argument at that position, or the end of them all. what is what it should be.

@@ -9,11 +9,22 @@ namespace tesselctl {
 
 namespace {
 
-// The setter of a flag that has no value.
+// The setters of flags that have no value.
 template <bool Settings::*Member>
 void turn_on(ToolSettings &settings, Word) {
   settings.lines.*Member = true;
 }
+template <bool ToolSettings::*Member>
+void turn_on(ToolSettings &settings, Word) {
+  settings.*Member = true;
+}
+
+template <auto Member>
+void set_text(ToolSettings &settings, Word value) {
+  settings.*Member = std::string(value.text);
+}
+
+void set_sort(ToolSettings &settings, Word value) { settings.lines.sort = value.text; }
 
 void set_image(ToolSettings &settings, Word value) {
   settings.image = value.text;
@@ -37,85 +48,37 @@ void set_filter(ToolSettings &settings, Word value) {
 }
 
 constexpr Flag kFlags[] = {
-    {"--image",
-     {},
-     "FILE",
-     FlagOf::tool,
-     set_image,
-     "works on the device of an image, and saves it there when a command changed it"},
-    {"--socket",
-     {},
-     "PATH",
-     FlagOf::tool,
-     [](ToolSettings &settings, Word value) { settings.socket = value.text; },
-     "works on the device of the server that listens there; of serve: where it listens"},
-    {"--device", {}, "N", FlagOf::tool, set_device, "id of the device, 0 to 255 (0)"},
-    {"--pipes",
-     {},
-     "N",
-     FlagOf::tool,
-     set_pipes,
-     "pipes of the device, 1 to 8 (those of the image, or 4)"},
-    {"--history",
-     {},
-     "FILE",
-     FlagOf::tool,
-     [](ToolSettings &settings, Word value) { settings.history = value.text; },
-     "file of the shell's history; \"\" keeps none"},
-    {"--no-color",
-     {},
-     {},
-     FlagOf::tool,
-     [](ToolSettings &settings, Word) { settings.no_colour = true; },
-     "never prints in colour"},
-    {"--version",
-     {},
-     {},
-     FlagOf::tool,
-     [](ToolSettings &settings, Word) { settings.version = true; },
+    {"--image", FlagOf::tool, set_image,
+     "works on the device of an image, and saves it there when a command changed it", "FILE"},
+    {"--socket", FlagOf::tool, set_text<&ToolSettings::socket>,
+     "works on the device of the server that listens there; of serve: where it listens", "PATH"},
+    {"--device", FlagOf::tool, set_device, "id of the device, 0 to 255 (0)", "N"},
+    {"--pipes", FlagOf::tool, set_pipes, "pipes of the device, 1 to 8 (those of the image, or 4)",
+     "N"},
+    {"--history", FlagOf::tool, set_text<&ToolSettings::history>,
+     "file of the shell's history; \"\" keeps none", "FILE"},
+    {"--no-color", FlagOf::tool, turn_on<&ToolSettings::no_colour>, "never prints in colour"},
+    {"--version", FlagOf::tool, turn_on<&ToolSettings::version>,
      "prints the versions of the tool, the library and its contracts"},
-    {"--json",
-     {},
-     {},
-     FlagOf::all,
-     turn_on<&Settings::json>,
-     "answers in JSON, one line a command"},
-    {"--terse", {}, {}, FlagOf::all, turn_on<&Settings::terse>, "one row a line, without columns"},
-    {"--trace",
-     {},
-     {},
-     FlagOf::all,
-     turn_on<&Settings::trace>,
-     "prints the C calls behind the command"},
-    {"--verbose", "-v", {}, FlagOf::all, turn_on<&Settings::verbose>, "prints what was changed"},
-    {"--help", "-h", {}, FlagOf::all, turn_on<&Settings::help>, "explains the command instead"},
-    {"--dry-run",
-     {},
-     {},
-     FlagOf::changes,
-     turn_on<&Settings::dry_run>,
+    {"--json", FlagOf::all, turn_on<&Settings::json>, "answers in JSON, one line a command"},
+    {"--terse", FlagOf::all, turn_on<&Settings::terse>, "one row a line, without columns"},
+    {"--trace", FlagOf::all, turn_on<&Settings::trace>, "prints the C calls behind the command"},
+    {"--verbose", FlagOf::all, turn_on<&Settings::verbose>, "prints what was changed", {}, "-v"},
+    {"--help", FlagOf::all, turn_on<&Settings::help>, "explains the command instead", {}, "-h"},
+    {"--dry-run", FlagOf::changes, turn_on<&Settings::dry_run>,
      "answers as if it were done, on a copy of the device"},
-    {"--count", {}, {}, FlagOf::listings, turn_on<&Settings::count>, "counts the rows instead"},
-    {"--filter",
-     {},
-     "NAME=PATTERN",
-     FlagOf::listings,
-     set_filter,
-     "shows the rows whose value matches"},
-    {"--sort",
-     {},
-     "NAME",
-     FlagOf::listings,
-     [](ToolSettings &settings, Word value) { settings.lines.sort = value.text; },
-     "sorts the rows by a value"},
-    {"--raw", {}, {}, FlagOf::named, turn_on<&Settings::raw>, "shows values as numbers"},
-    {"--atomic", {}, {}, FlagOf::named, turn_on<&Settings::atomic>, "changes all or nothing"},
+    {"--count", FlagOf::listings, turn_on<&Settings::count>, "counts the rows instead"},
+    {"--filter", FlagOf::listings, set_filter, "shows the rows whose value matches",
+     "NAME=PATTERN"},
+    {"--sort", FlagOf::listings, set_sort, "sorts the rows by a value", "NAME"},
+    {"--raw", FlagOf::named, turn_on<&Settings::raw>, "shows values as numbers"},
+    {"--atomic", FlagOf::named, turn_on<&Settings::atomic>, "changes all or nothing"},
     {"--keep-going",
-     "-k",
-     {},
      FlagOf::named,
      turn_on<&Settings::keep_going>,
-     "goes on behind a line with a fault"},
+     "goes on behind a line with a fault",
+     {},
+     "-k"},
 };
 
 const Flag &need_flag(Word word) {

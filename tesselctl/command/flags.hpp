@@ -27,11 +27,11 @@ enum class FlagOf : uint8_t { tool, all, listings, changes, named };
 
 struct Flag {
   std::string_view name;
-  std::string_view letter;  // "-v", or empty
-  std::string_view value;   // what stands behind it, in capitals; empty for nothing
   FlagOf of;
   void (*set)(ToolSettings &settings, Word value);  // throws Fault
   std::string_view help;
+  std::string_view value = {};   // what stands behind it, in capitals; empty for nothing
+  std::string_view letter = {};  // "-v", or empty
 
   // Whether the word after that one is the value.
   bool wants_next(std::string_view word) const {

@@ -4,6 +4,7 @@
 #include <new>
 
 #include "tesselctl/command/flags.hpp"
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/command/watch_line.hpp"
 #include "tesselctl/device/device_copy.hpp"
 #include "tesselctl/program/trace.hpp"

@@ -6,6 +6,15 @@
 
 namespace tesselctl {
 
+// A word in capitals that stands for the objects of a kind.
+struct ObjectWord {
+  std::string_view placeholder;
+  // Offers their names; given are the words behind the command.
+  void (*offer)(Offers &offers, const Command &command, Words given);
+  // Says what the object of that name is about, if there is one; null for nothing.
+  void (*choose)(Subject &subject, std::string_view name) = nullptr;
+};
+
 // What a file of tesselctl/kinds adds to the tool. Topics of one title follow one another.
 struct Topic {
   std::string_view title;
@@ -24,5 +33,13 @@ void for_each_shown_command(Visit visit) {
     }
   }
 }
+
+// The command that the words name. Throws Fault with a near name.
+const Command &find_command(Words words, Invocation &invocation);
+
+// Null for a word that stands for something else.
+const ObjectWord *find_object_word(std::string_view placeholder);
+
+Subject find_subject(const std::vector<Argument> &grammar, Word word);
 
 }  // namespace tesselctl

@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/program/value.hpp"
 
 namespace tesselctl {

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "tesselctl/command/topic.hpp"
-
 namespace tesselctl {
 
 namespace {
@@ -46,27 +44,6 @@ const Field *find_field(const bindings::Record &record, std::string_view name) {
   } catch (const Fault &) {
     return nullptr;
   }
-}
-
-const ObjectWord *find_object_word(std::string_view placeholder) {
-  for (const Topic *topic : command_topics()) {
-    for (const ObjectWord &word : topic->words) {
-      if (word.placeholder == placeholder) return &word;
-    }
-  }
-  return nullptr;
-}
-
-Subject find_subject(const std::vector<Argument> &grammar, Word word) {
-  Subject subject;
-  const auto first = std::find_if(grammar.begin(), grammar.end(),
-                                  [](const Argument &it) { return it.stands_alone(); });
-  if (first == grammar.end()) return subject;
-  for (const std::string_view value : alternatives_of(first->value)) {
-    const ObjectWord *kind = find_object_word(value);
-    if (kind != nullptr && kind->choose != nullptr) kind->choose(subject, word.text);
-  }
-  return subject;
 }
 
 bool Subject::takes(std::string_view name) const {

@@ -31,19 +31,6 @@ struct Subject {
   const bindings::Record *action_of(std::string_view action) const;
 };
 
-// A word in capitals that stands for the objects of a kind.
-struct ObjectWord {
-  std::string_view placeholder;
-  // Offers their names; given are the words behind the command.
-  void (*offer)(Offers &offers, const Command &command, Words given);
-  // Says what the object of that name is about, if there is one; null for nothing.
-  void (*choose)(Subject &subject, std::string_view name) = nullptr;
-};
-// Null for a word that stands for something else.
-const ObjectWord *find_object_word(std::string_view placeholder);
-
-Subject find_subject(const std::vector<Argument> &grammar, Word word);
-
 // ---- For kinds ----
 
 // Offers the objects of a kind with a line of help each.

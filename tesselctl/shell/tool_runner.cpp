@@ -2,6 +2,7 @@
 
 #include "tesselctl/command/flags.hpp"
 #include "tesselctl/command/script.hpp"
+#include "tesselctl/command/topic.hpp"
 #include "tesselctl/command/watch_line.hpp"
 #include "tesselctl/shell/watch.hpp"
 #include "tesselctl/text/files.hpp"
