@@ -30,7 +30,7 @@ bf_status_t soft_device_create(bf_device_id_t device, uint32_t pipe_count,
  * of priority while the device still answers, waits for calls in progress, and drops all contents.
  * Callbacks are all run; their statuses are not looked at.
  * BF_IN_USE: called from inside a callback of the SDK, which would wait for itself.
- * BF_NOT_READY: another thread is removing the device. */
+ * BF_NOT_READY: another thread is removing the device. BF_NO_MEMORY: nothing has happened. */
 bf_status_t soft_device_remove(bf_device_id_t device);
 
 /* Makes a device the same as another one of the same program and number of pipes: entries, default

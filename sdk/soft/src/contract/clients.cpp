@@ -155,7 +155,10 @@ bf_status_t bf_drv_deregister(uint32_t client) {
   return SOFT_CALL((client), soft::remove_client(client));
 }
 
-uint32_t soft_client_count(void) { return static_cast<uint32_t>(soft::clients_now().size()); }
+uint32_t soft_client_count(void) {
+  const std::lock_guard lock(soft::clients().mutex);
+  return static_cast<uint32_t>(soft::clients().list.size());
+}
 
 bf_status_t soft_client_get(const char *client_name, uint32_t *client, uint32_t *priority,
                             bf_drv_client_callbacks_t *callbacks) {

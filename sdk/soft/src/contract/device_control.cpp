@@ -62,9 +62,11 @@ bf_status_t soft_device_remove(bf_device_id_t device) {
   if (thread_holds_device()) return BF_IN_USE;
   DeviceChange change(device, true);
   if (change.status() != BF_SUCCESS) return change.status();
-  notify_clients_of_removal(device);
-  change.replace(nullptr);
-  return BF_SUCCESS;
+  return guarded([&]() -> bf_status_t {
+    notify_clients_of_removal(device);
+    change.replace(nullptr);
+    return BF_SUCCESS;
+  });
 }
 
 bf_status_t soft_device_copy(bf_device_id_t from, bf_device_id_t to) {
