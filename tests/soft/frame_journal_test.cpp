@@ -4,7 +4,7 @@
 #include <thread>
 
 #include "bf_sys.h"
-#include "entries_program.hpp"
+#include "program.hpp"
 #include "soft_journal.hpp"
 
 namespace {
@@ -12,19 +12,18 @@ namespace {
 using namespace soft_test;
 namespace journal = soft::journal;
 namespace faults = soft::faults;
-using journal::Bytes;
 
-class Journal : public EntriesTest {
+class Journal : public SoftTest {
  protected:
   void SetUp() override {
-    EntriesTest::SetUp();
+    SoftTest::SetUp();
     journal::start();
   }
   void TearDown() override {
     journal::stop();
     journal::clear();
     faults::clear();
-    EntriesTest::TearDown();
+    SoftTest::TearDown();
   }
 };
 
@@ -35,7 +34,8 @@ TEST_F(Journal, CopiesEveryArgumentOfAnAdd) {
   auto &meter = permit.resource(kAclMeter, 0, PIPE_RESOURCE_ATTACH);
   meter.data.meter.committed_rate = {PIPE_RATE_BYTES, 640};
   uint32_t entry = 0;
-  ASSERT_EQ(add(kAcl, key, kPermit, permit, &entry, 5, 1), BF_SUCCESS);
+  OK(pipe_mgr_mat_ent_add(session, kDevice, 1, kAcl, &key.spec, kPermit, &permit.spec, 5, 0,
+                          &entry));
   key.value.assign(2, 0xee);  // what was recorded must not follow
   key.mask.assign(2, 0xee);
   permit.bytes.assign(5, 0xee);
@@ -49,7 +49,7 @@ TEST_F(Journal, CopiesEveryArgumentOfAnAdd) {
   EXPECT_EQ(call.thread, std::this_thread::get_id());
   EXPECT_TRUE(call.finished);
   EXPECT_TRUE(call.performed);
-  EXPECT_EQ(call.status, BF_SUCCESS);
+  OK(call.status);
   ASSERT_EQ(call.arguments.size(), 10u);
   EXPECT_EQ(call.scalar("session"), session);
   EXPECT_EQ(call.scalar("device"), kDevice);
@@ -84,13 +84,11 @@ TEST_F(Journal, TellsNullPointersBuffersAndResultsApart) {
       pipe_mgr_mat_ent_add(session, kDevice, 0, kHost, nullptr, kDrop, nullptr, 0, 0, nullptr),
       BF_INVALID_ARGUMENT);
   uint32_t entry = 0;
-  ASSERT_EQ(add_host(1, &entry), BF_SUCCESS);
+  OK(add_host(1, &entry));
   Key room(20, {9, 9, 9}, {9, 9, 9});
-  Action data(0, std::vector<uint8_t>(28));
+  Action data(0, Bytes(28));
   uint32_t action = 0;
-  ASSERT_EQ(
-      pipe_mgr_get_entry(session, kHost, kDevice, entry, &room.spec, &data.spec, &action, true),
-      BF_SUCCESS);
+  OK(pipe_mgr_get_entry(session, kHost, kDevice, entry, &room.spec, &data.spec, &action, true));
   uint32_t next[2] = {};
   EXPECT_EQ(pipe_mgr_get_next_entry_handles(session, kHost, kDevice, 0, entry, 2, next),
             BF_OBJECT_NOT_FOUND);
@@ -120,18 +118,18 @@ TEST_F(Journal, TellsNullPointersBuffersAndResultsApart) {
 
 TEST_F(Journal, TakesArraysTextsAndRecordsByValue) {
   uint32_t entry = 0;
-  ASSERT_EQ(add_host(1, &entry), BF_SUCCESS);
+  OK(add_host(1, &entry));
   pipe_mgr_resource_t resources[2] = {};
   resources[1].handle = 0x04000001;
   EXPECT_EQ(pipe_mgr_mat_ent_set_resource(session, kDevice, kHost, entry, resources, 2, 0),
             BF_INVALID_HANDLE);
   uint32_t client = 0;
-  ASSERT_EQ(bf_drv_register("a client", &client), BF_SUCCESS);
-  ASSERT_EQ(bf_drv_deregister(client), BF_SUCCESS);
+  OK(bf_drv_register("a client", &client));
+  OK(bf_drv_deregister(client));
   const pipe_mgr_idle_params_t params{PIPE_IDLE_NOTIFY, 10, 0, 0, 300, 0};
-  ASSERT_EQ(pipe_mgr_idle_tmo_enable(session, kDevice, kRoute, params), BF_SUCCESS);
+  OK(pipe_mgr_idle_tmo_enable(session, kDevice, kRoute, params));
   int cookie = 0;
-  ASSERT_EQ(pipe_register_mat_update_cb(session, kDevice, kHost, nullptr, &cookie), BF_SUCCESS);
+  OK(pipe_register_mat_update_cb(session, kDevice, kHost, nullptr, &cookie));
 
   const auto calls = journal::calls();
   ASSERT_EQ(calls.size(), 6u);
@@ -151,9 +149,9 @@ void add_another(pipe_session_handle_t session, bf_device_id_t device, pipe_obje
 }
 
 TEST_F(Journal, ListsACallBeforeTheCallsFromItsCallback) {
-  ASSERT_EQ(pipe_register_mat_update_cb(session, kDevice, kHost, add_another, nullptr), BF_SUCCESS);
+  OK(pipe_register_mat_update_cb(session, kDevice, kHost, add_another, nullptr));
   uint32_t entry = 0;
-  ASSERT_EQ(add_host(1, &entry), BF_SUCCESS);
+  OK(add_host(1, &entry));
   const auto calls = journal::calls();
   ASSERT_EQ(calls.size(), 3u);
   EXPECT_EQ(calls[1].function, "pipe_mgr_mat_ent_add");
@@ -161,7 +159,7 @@ TEST_F(Journal, ListsACallBeforeTheCallsFromItsCallback) {
   EXPECT_EQ(calls[2].number, 3u);
 
   journal::stop();
-  ASSERT_EQ(add_host(2, &entry), BF_SUCCESS);
+  OK(add_host(2, &entry));
   EXPECT_EQ(journal::calls().size(), 3u) << "stopped, but kept";
   journal::start();
   EXPECT_TRUE(journal::calls().empty());
@@ -175,10 +173,9 @@ void restart_journal(pipe_session_handle_t session, bf_device_id_t device, pipe_
 
 TEST_F(Journal, ForgetsACallThatWasInProgressWhenItStartedAnew) {
   uint32_t entry = 0;
-  ASSERT_EQ(pipe_register_mat_update_cb(session, kDevice, kHost, restart_journal, nullptr),
-            BF_SUCCESS);
+  OK(pipe_register_mat_update_cb(session, kDevice, kHost, restart_journal, nullptr));
   journal::start();  // so that both calls have number 1
-  ASSERT_EQ(add_host(1, &entry), BF_SUCCESS);
+  OK(add_host(1, &entry));
   const auto calls = journal::calls();
   ASSERT_EQ(calls.size(), 1u);
   EXPECT_EQ(calls[0].function, "pipe_register_mat_update_cb");
@@ -191,14 +188,14 @@ TEST_F(Journal, ForgetsACallThatWasInProgressWhenItStartedAnew) {
 TEST_F(Journal, StandsInForTheNthCallOfAFunction) {
   faults::fail_call("pipe_mgr_mat_ent_add", 2, BF_HARDWARE_FAULT);
   uint32_t entry = 0;
-  EXPECT_EQ(add_host(1, &entry), BF_SUCCESS);
+  OK(add_host(1, &entry));
   EXPECT_EQ(count(kHost), 1u);
   entry = 0xabcd;
   EXPECT_EQ(add_host(2, &entry), BF_HARDWARE_FAULT);
   EXPECT_EQ(entry, 0xabcdu);
   EXPECT_EQ(count(kHost), 1u) << "not performed";
   EXPECT_EQ(faults::pending(), 0u);
-  EXPECT_EQ(add_host(2, &entry), BF_SUCCESS) << "strikes once";
+  OK(add_host(2, &entry)) << "strikes once";
   const auto adds = journal::calls("pipe_mgr_mat_ent_add");
   ASSERT_EQ(adds.size(), 3u);
   EXPECT_FALSE(adds[1].performed);
@@ -212,10 +209,10 @@ TEST_F(Journal, FaultsWorkWithoutTheJournalAndOnAnyFunction) {
   faults::fail_any_call(3, BF_NOT_READY);
   faults::fail_call("pipe_mgr_mat_ent_del", 1, BF_IN_USE);
   uint32_t entry = 0;
-  EXPECT_EQ(add_host(1, &entry), BF_SUCCESS);
+  OK(add_host(1, &entry));
   EXPECT_EQ(pipe_mgr_mat_ent_del(session, kDevice, kHost, entry, 0), BF_IN_USE);
   EXPECT_EQ(pipe_mgr_mat_ent_del(session, kDevice, kHost, entry, 0), BF_NOT_READY);
-  EXPECT_EQ(pipe_mgr_mat_ent_del(session, kDevice, kHost, entry, 0), BF_SUCCESS);
+  OK(pipe_mgr_mat_ent_del(session, kDevice, kHost, entry, 0));
   faults::fail_any_call(1, BF_NOT_READY);
   EXPECT_EQ(faults::pending(), 1u);
   faults::clear();

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "bf_sys.h"
-#include "entries_program.hpp"
+#include "program.hpp"
 
 namespace {
 
@@ -32,16 +32,25 @@ TEST(Status, EveryCodeHasANameAndOneSentence) {
   EXPECT_STREQ(soft_status_text(0xffffffff), "The SDK has no status with this code.");
 }
 
+const uint64_t clock_at_start = soft_clock_now();
+
+TEST(Clock, StartsAtZeroAndStandsStill) {
+  EXPECT_EQ(clock_at_start, 0u);
+  const uint64_t now = soft_clock_now();
+  soft_clock_advance(7);
+  EXPECT_EQ(soft_clock_now(), now + 7);
+}
+
 TEST(Device, LivesUnderItsIdUntilItIsRemoved) {
-  EXPECT_EQ(soft_device_create(256, 1, &program(), false), BF_INVALID_DEVICE);
-  EXPECT_EQ(soft_device_create(1, 0, &program(), false), BF_INVALID_ARGUMENT);
-  EXPECT_EQ(soft_device_create(1, 9, &program(), false), BF_INVALID_ARGUMENT);
+  EXPECT_EQ(soft_device_create(256, 1, &small_program(), false), BF_INVALID_DEVICE);
+  EXPECT_EQ(soft_device_create(1, 0, &small_program(), false), BF_INVALID_ARGUMENT);
+  EXPECT_EQ(soft_device_create(1, 9, &small_program(), false), BF_INVALID_ARGUMENT);
   EXPECT_EQ(soft_device_create(1, 1, nullptr, false), BF_INVALID_ARGUMENT);
   EXPECT_FALSE(soft_device_exists(1));
 
-  ASSERT_EQ(soft_device_create(255, 8, &program(), true), BF_SUCCESS);
-  ASSERT_EQ(soft_device_create(1, 1, &program(), false), BF_SUCCESS);
-  EXPECT_EQ(soft_device_create(1, 1, &program(), false), BF_ALREADY_EXISTS);
+  OK(soft_device_create(255, 8, &small_program(), true));
+  OK(soft_device_create(1, 1, &small_program(), false));
+  EXPECT_EQ(soft_device_create(1, 1, &small_program(), false), BF_ALREADY_EXISTS);
   bf_device_id_t ids[2] = {9, 9};
   EXPECT_EQ(soft_device_list(ids, 1), 2u);
   EXPECT_EQ(ids[0], 1u);
@@ -49,47 +58,22 @@ TEST(Device, LivesUnderItsIdUntilItIsRemoved) {
   EXPECT_EQ(soft_device_list(ids, 2), 2u);
   EXPECT_EQ(ids[1], 255u);
 
-  EXPECT_EQ(soft_device_remove(255), BF_SUCCESS);
+  OK(soft_device_remove(255));
   EXPECT_EQ(soft_device_remove(255), BF_INVALID_DEVICE);
-  EXPECT_EQ(soft_device_remove(1), BF_SUCCESS);
+  OK(soft_device_remove(1));
   EXPECT_EQ(soft_device_list(nullptr, 0), 0u);
 }
 
 TEST(Device, RefusesAProgramWithOneHandleForTwoObjects) {
-  soft_table_t twice[2] = {program().tables[0], program().tables[0]};
+  soft_table_t twice[2] = {small_program().tables[0], small_program().tables[0]};
   soft_program_t broken{};
   broken.tables = twice;
   broken.table_count = 2;
   EXPECT_EQ(soft_device_create(1, 1, &broken, false), BF_INVALID_ARGUMENT);
   EXPECT_FALSE(soft_device_exists(1));
   twice[1].handle = 0x010000ff;
-  EXPECT_EQ(soft_device_create(1, 1, &broken, false), BF_SUCCESS);
-  EXPECT_EQ(soft_device_remove(1), BF_SUCCESS);
-}
-
-// The checks of a call come in one order, whatever else is wrong with it.
-TEST(Call, ChecksSessionThenDeviceThenPipeThenHandle) {
-  pipe_session_handle_t session = 0;
-  ASSERT_EQ(soft_session_open(&session), BF_SUCCESS);
-  ASSERT_EQ(soft_device_create(0, 2, &program(), false), BF_SUCCESS);
-  uint32_t count = 77;
-  const auto status = [&](uint32_t s, uint32_t device, uint32_t pipe, uint32_t table) {
-    return pipe_mgr_get_entry_count(s, device, pipe, table, 0, &count);
-  };
-  EXPECT_EQ(status(0, 9, 9, 9), BF_INVALID_SESSION);
-  EXPECT_EQ(status(session + 1024, 9, 9, 9), BF_INVALID_SESSION);
-  EXPECT_EQ(status(session, 9, 9, 9), BF_INVALID_DEVICE);
-  EXPECT_EQ(status(session, 0x100, 0, kHost), BF_INVALID_DEVICE);
-  EXPECT_EQ(status(session, 0, 2, 9), BF_INVALID_PIPE);
-  EXPECT_EQ(status(session, 0, 1, 0x010000ff), BF_INVALID_HANDLE);
-  EXPECT_EQ(count, 77u);
-  EXPECT_EQ(status(session, 0, BF_ALL_PIPES, kHost), BF_SUCCESS);
-  EXPECT_EQ(count, 0u);
-  EXPECT_EQ(pipe_mgr_get_entry_count(session, 0, 0, kHost, 0, nullptr), BF_INVALID_ARGUMENT);
-  EXPECT_EQ(soft_session_close(session), BF_SUCCESS);
-  EXPECT_EQ(soft_session_close(session), BF_INVALID_SESSION);
-  EXPECT_EQ(status(session, 0, 0, kHost), BF_INVALID_SESSION);
-  EXPECT_EQ(soft_device_remove(0), BF_SUCCESS);
+  OK(soft_device_create(1, 1, &broken, false));
+  OK(soft_device_remove(1));
 }
 
 TEST(Session, HandlesRunOutAndComeBack) {
@@ -98,11 +82,11 @@ TEST(Session, HandlesRunOutAndComeBack) {
   while (soft_session_open(&session) == BF_SUCCESS) open.push_back(session);
   EXPECT_EQ(open.size(), 1024u);
   EXPECT_EQ(std::set(open.begin(), open.end()).size(), 1024u);
-  EXPECT_EQ(soft_session_close(open[500]), BF_SUCCESS);
-  ASSERT_EQ(soft_session_open(&session), BF_SUCCESS);
+  OK(soft_session_close(open[500]));
+  OK(soft_session_open(&session));
   EXPECT_NE(session, open[500]) << "a closed handle stays closed";
   open[500] = session;
-  for (pipe_session_handle_t one : open) EXPECT_EQ(soft_session_close(one), BF_SUCCESS);
+  for (pipe_session_handle_t one : open) OK(soft_session_close(one));
 }
 
 TEST(Allocator, CountsBlocksAndZeroesThem) {
@@ -150,23 +134,23 @@ class Clients : public testing::Test {
  protected:
   void SetUp() override {
     told.clear();
-    ASSERT_EQ(bf_drv_register("second", &second), BF_SUCCESS);
-    ASSERT_EQ(bf_drv_register("first", &first), BF_SUCCESS);
+    OK(bf_drv_register("second", &second));
+    OK(bf_drv_register("first", &first));
     bf_drv_client_callbacks_t callbacks{};
     callbacks.device_remove = second_removed;
     callbacks.device_log = second_log;
     callbacks.device_restore = second_restore;
-    ASSERT_EQ(bf_drv_client_register_callbacks(second, &callbacks, 2), BF_SUCCESS);
+    OK(bf_drv_client_register_callbacks(second, &callbacks, 2));
     callbacks = {};
     callbacks.device_remove = first_removed;
-    ASSERT_EQ(bf_drv_client_register_callbacks(first, &callbacks, 1), BF_SUCCESS);
-    ASSERT_EQ(soft_device_create(7, 1, &program(), false), BF_SUCCESS);
-    ASSERT_EQ(soft_device_create(8, 1, &program(), false), BF_SUCCESS);
+    OK(bf_drv_client_register_callbacks(first, &callbacks, 1));
+    OK(soft_device_create(7, 1, &small_program(), false));
+    OK(soft_device_create(8, 1, &small_program(), false));
   }
   void TearDown() override {
     for (bf_device_id_t device : {7u, 8u}) {
       if (soft_device_exists(device)) {
-        EXPECT_EQ(soft_device_remove(device), BF_SUCCESS);
+        OK(soft_device_remove(device));
       }
     }
     bf_drv_deregister(first);
@@ -184,7 +168,7 @@ TEST_F(Clients, AreKeptUnderNameAndHandle) {
   EXPECT_EQ(soft_client_count(), 2u);
   uint32_t handle = 0, priority = 0;
   bf_drv_client_callbacks_t callbacks{};
-  ASSERT_EQ(soft_client_get("second", &handle, &priority, &callbacks), BF_SUCCESS);
+  OK(soft_client_get("second", &handle, &priority, &callbacks));
   EXPECT_EQ(handle, second);
   EXPECT_EQ(priority, 2u);
   EXPECT_EQ(callbacks.device_log, second_log);
@@ -192,33 +176,33 @@ TEST_F(Clients, AreKeptUnderNameAndHandle) {
   EXPECT_EQ(soft_client_get("third", &handle, nullptr, nullptr), BF_OBJECT_NOT_FOUND);
   EXPECT_EQ(bf_drv_client_register_callbacks(0xffff, &callbacks, 1), BF_OBJECT_NOT_FOUND);
   EXPECT_EQ(bf_drv_client_register_callbacks(first, nullptr, 1), BF_INVALID_ARGUMENT);
-  EXPECT_EQ(bf_drv_deregister(first), BF_SUCCESS);
+  OK(bf_drv_deregister(first));
   EXPECT_EQ(bf_drv_deregister(first), BF_OBJECT_NOT_FOUND);
 }
 
 TEST_F(Clients, HearOfRemovalByPriorityWhileTheDeviceLives) {
-  EXPECT_EQ(soft_device_remove(7), BF_SUCCESS) << "their statuses are not looked at";
+  OK(soft_device_remove(7)) << "their statuses are not looked at";
   EXPECT_EQ(told, (std::vector<std::string>{"first 7 alive", "second 7"}));
   EXPECT_FALSE(soft_device_exists(7));
-  ASSERT_EQ(bf_drv_deregister(second), BF_SUCCESS);
+  OK(bf_drv_deregister(second));
   told.clear();
-  EXPECT_EQ(soft_device_remove(8), BF_SUCCESS);
+  OK(soft_device_remove(8));
   EXPECT_EQ(told, (std::vector<std::string>{"first 8 alive"}));
 }
 
 TEST_F(Clients, LogAndRestoreTheirState) {
   cJSON *document = cJSON_CreateObject();
   EXPECT_EQ(soft_device_log(9, document), BF_INVALID_DEVICE);
-  ASSERT_EQ(soft_device_log(7, document), BF_SUCCESS);
+  OK(soft_device_log(7, document));
   char *text = cJSON_PrintUnformatted(document);
   EXPECT_STREQ(text, R"({"clients":[{"client":"second","state":{"device":7}}]})");
   cJSON_free(text);
-  EXPECT_EQ(soft_device_restore(8, document), BF_SUCCESS);
+  OK(soft_device_restore(8, document));
   EXPECT_EQ(told, (std::vector<std::string>{"restore 8 from 7"}));
   cJSON_Delete(document);
 
   cJSON *foreign = cJSON_Parse(R"({"clients":[{"client":"secon","state":{"device":7}},{}]})");
-  EXPECT_EQ(soft_device_restore(8, foreign), BF_SUCCESS) << "no state for it: nothing to do";
+  OK(soft_device_restore(8, foreign)) << "no state for it: nothing to do";
   EXPECT_EQ(told.size(), 1u);
   cJSON_Delete(foreign);
   cJSON *shapeless = cJSON_Parse(R"({"clients":7})");
@@ -236,19 +220,19 @@ void remove_own_device(pipe_session_handle_t, bf_device_id_t device, pipe_object
 
 TEST(Removal, IsRefusedFromInsideACallback) {
   pipe_session_handle_t session = 0;
-  ASSERT_EQ(soft_session_open(&session), BF_SUCCESS);
-  ASSERT_EQ(soft_device_create(4, 1, &program(), false), BF_SUCCESS);
-  ASSERT_EQ(pipe_register_mat_update_cb(session, 4, kHost, remove_own_device, nullptr), BF_SUCCESS);
-  EXPECT_EQ(pipe_mgr_mat_tbl_default_entry_reset(session, 4, 0, kHost, 0), BF_SUCCESS);
+  OK(soft_session_open(&session));
+  OK(soft_device_create(4, 1, &small_program(), false));
+  OK(pipe_register_mat_update_cb(session, 4, kHost, remove_own_device, nullptr));
+  OK(pipe_mgr_mat_tbl_default_entry_reset(session, 4, 0, kHost, 0));
   EXPECT_EQ(remove_status, BF_IN_USE);
-  EXPECT_EQ(soft_device_remove(4), BF_SUCCESS);
+  OK(soft_device_remove(4));
   soft_session_close(session);
 }
 
 // Calls on a device that comes and goes find it or do not; nothing else.
 TEST(Removal, WaitsForCallsInProgress) {
   pipe_session_handle_t session = 0;
-  ASSERT_EQ(soft_session_open(&session), BF_SUCCESS);
+  OK(soft_session_open(&session));
   std::atomic<bool> stop{false};
   std::atomic<uint32_t> served{0}, missed{0}, other{0};
   std::vector<std::thread> callers;
@@ -264,9 +248,9 @@ TEST(Removal, WaitsForCallsInProgress) {
   }
   uint32_t rounds = 0;
   while (rounds < 100 || served < 10 || missed < 10) {
-    EXPECT_EQ(soft_device_create(5, 1, &program(), false), BF_SUCCESS);
+    OK(soft_device_create(5, 1, &small_program(), false));
     std::this_thread::yield();
-    EXPECT_EQ(soft_device_remove(5), BF_SUCCESS);
+    OK(soft_device_remove(5));
     std::this_thread::yield();
     ++rounds;
   }

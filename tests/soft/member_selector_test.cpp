@@ -1,5 +1,6 @@
 // The member-selector helper: what a state remembers, and its JSON form.
 #include <cjson/cJSON.h>
+
 #include <gtest/gtest.h>
 
 #include <cstdlib>

@@ -1,81 +1,26 @@
-// Meters and WRED profiles through the contract, and what traffic makes of them.
-#include "profile_program.hpp"
+// Meters, counters and WRED profiles where the numbers are worked out by hand.
+#include "program.hpp"
 
 namespace {
 
 using namespace soft_test;
 
-class Meters : public ProfileTest {
+class Meters : public SoftTest {
  protected:
-  static pipe_mgr_meter_spec_t spec_of(uint32_t unit, uint64_t committed_rate,
-                                       uint64_t committed_burst, uint64_t peak_rate,
-                                       uint64_t peak_burst) {
-    return {PIPE_METER_COLOR_UNAWARE,
-            {unit, committed_rate},
-            committed_burst,
-            {unit, peak_rate},
-            peak_burst};
+  bf_status_t set(uint32_t meter, uint32_t index, const pipe_mgr_meter_spec_t &spec) const {
+    return pipe_mgr_meter_ent_set(session, kDevice, 0, meter, index, &spec, 0);
   }
-  bf_status_t set(uint32_t pipe, uint32_t meter, uint32_t index,
-                  const pipe_mgr_meter_spec_t &spec) {
-    return pipe_mgr_meter_ent_set(session, kDevice, pipe, meter, index, &spec, 0);
-  }
-  pipe_mgr_meter_spec_t get(uint32_t pipe, uint32_t meter, uint32_t index) {
-    pipe_mgr_meter_spec_t spec{};
-    EXPECT_EQ(pipe_mgr_meter_read_entry_idx(session, kDevice, pipe, meter, index, &spec),
-              BF_SUCCESS);
-    return spec;
-  }
-  static void expect_same(const pipe_mgr_meter_spec_t &a, const pipe_mgr_meter_spec_t &b) {
-    EXPECT_EQ(a.type, b.type);
-    EXPECT_EQ(a.committed_rate.unit, b.committed_rate.unit);
-    EXPECT_EQ(a.committed_rate.value, b.committed_rate.value);
-    EXPECT_EQ(a.committed_burst, b.committed_burst);
-    EXPECT_EQ(a.peak_rate.unit, b.peak_rate.unit);
-    EXPECT_EQ(a.peak_rate.value, b.peak_rate.value);
-    EXPECT_EQ(a.peak_burst, b.peak_burst);
-  }
-  int mark(uint32_t meter, uint64_t packets, uint64_t bytes, uint32_t pipe = 0) {
+  static int mark(uint32_t meter, uint64_t packets, uint64_t bytes, uint32_t pipe = 0) {
     uint8_t color = 99;
-    EXPECT_EQ(soft_meter_mark(kDevice, pipe, meter, 7, packets, bytes, &color), BF_SUCCESS);
+    OK(soft_meter_mark(kDevice, pipe, meter, 7, packets, bytes, &color));
     return color;
   }
 };
 
-TEST_F(Meters, IndirectCellsKeepTheirSpec) {
-  const auto one = spec_of(PIPE_RATE_BYTES, 1000, 2000, 3000, 0x100000000u);
-  const auto two = spec_of(PIPE_RATE_BYTES, 1, 2, 3, 4);
-  ASSERT_EQ(set(BF_ALL_PIPES, kPoliceMeter, 7, one), BF_SUCCESS);
-  ASSERT_EQ(set(1, kPoliceMeter, 7, two), BF_SUCCESS);
-  expect_same(get(0, kPoliceMeter, 7), one);
-  expect_same(get(1, kPoliceMeter, 7), two);
-  expect_same(get(BF_ALL_PIPES, kPoliceMeter, 7), one);
-  expect_same(get(0, kPoliceMeter, 8), spec_of(PIPE_RATE_BYTES, 0, 0, 0, 0));
-  expect_same(get(0, kFlowMeter, SOFT_METER_CELLS - 1), spec_of(PIPE_RATE_PACKETS, 0, 0, 0, 0));
-}
-
-TEST_F(Meters, RefuseASpecThatDoesNotFit) {
-  auto mixed = spec_of(PIPE_RATE_BYTES, 1, 2, 3, 4);
-  mixed.peak_rate.unit = PIPE_RATE_PACKETS;
-  auto typeless = spec_of(PIPE_RATE_BYTES, 1, 2, 3, 4);
-  typeless.type = 2;
-  EXPECT_EQ(set(0, kPoliceMeter, 7, spec_of(PIPE_RATE_PACKETS, 1, 2, 3, 4)), BF_INVALID_ARGUMENT);
-  EXPECT_EQ(set(0, kFlowMeter, 7, spec_of(PIPE_RATE_BYTES, 1, 2, 3, 4)), BF_INVALID_ARGUMENT);
-  EXPECT_EQ(set(0, kPoliceMeter, 7, mixed), BF_INVALID_ARGUMENT);
-  EXPECT_EQ(set(0, kPoliceMeter, 7, typeless), BF_INVALID_ARGUMENT);
-  const auto right = spec_of(PIPE_RATE_BYTES, 1, 2, 3, 4);
-  EXPECT_EQ(set(0, kPoliceMeter, SOFT_METER_CELLS, right), BF_INVALID_ARGUMENT);
-  EXPECT_EQ(set(2, kPoliceMeter, 7, right), BF_INVALID_PIPE);
-  EXPECT_EQ(set(0, kAclMeter, 7, right), BF_NOT_SUPPORTED) << "its cells are those of entries";
-  EXPECT_EQ(pipe_mgr_meter_ent_set(session, kDevice, 0, kPoliceMeter, 7, nullptr, 0),
-            BF_INVALID_ARGUMENT);
-  expect_same(get(0, kPoliceMeter, 7), spec_of(PIPE_RATE_BYTES, 0, 0, 0, 0));
-}
-
 // 8 kbit/s is 8 bits a millisecond; a burst of 1 kbit is 125 bytes.
 TEST_F(Meters, BytesMeterMarksByItsBuckets) {
   EXPECT_EQ(mark(kPoliceMeter, 1, 1u << 30), SOFT_COLOR_GREEN) << "never set";
-  ASSERT_EQ(set(0, kPoliceMeter, 7, spec_of(PIPE_RATE_BYTES, 8, 1, 16, 2)), BF_SUCCESS);
+  OK(set(kPoliceMeter, 7, meter_spec(PIPE_RATE_BYTES, 8, 1, 16, 2)));
   EXPECT_EQ(mark(kPoliceMeter, 1, 100), SOFT_COLOR_GREEN) << "leaves 200 and 1200 bits";
   EXPECT_EQ(mark(kPoliceMeter, 1, 100), SOFT_COLOR_YELLOW) << "leaves 200 and 400";
   EXPECT_EQ(mark(kPoliceMeter, 1, 100), SOFT_COLOR_RED) << "costs nothing";
@@ -88,12 +33,12 @@ TEST_F(Meters, BytesMeterMarksByItsBuckets) {
   EXPECT_EQ(mark(kPoliceMeter, 2, 126), SOFT_COLOR_YELLOW) << "1008 of 1000 bits, the burst";
   EXPECT_EQ(mark(kPoliceMeter, 1, 124), SOFT_COLOR_GREEN) << "992 of 992";
   EXPECT_EQ(mark(kPoliceMeter, 1, 1), SOFT_COLOR_RED);
-  ASSERT_EQ(set(0, kPoliceMeter, 7, spec_of(PIPE_RATE_BYTES, 8, 1, 16, 2)), BF_SUCCESS);
+  OK(set(kPoliceMeter, 7, meter_spec(PIPE_RATE_BYTES, 8, 1, 16, 2)));
   EXPECT_EQ(mark(kPoliceMeter, 1, 125), SOFT_COLOR_GREEN) << "setting fills the buckets";
 }
 
 TEST_F(Meters, PacketsMeterCountsPackets) {
-  ASSERT_EQ(set(0, kFlowMeter, 7, spec_of(PIPE_RATE_PACKETS, 10, 2, 100, 4)), BF_SUCCESS);
+  OK(set(kFlowMeter, 7, meter_spec(PIPE_RATE_PACKETS, 10, 2, 100, 4)));
   EXPECT_EQ(mark(kFlowMeter, 2, 100000), SOFT_COLOR_GREEN);
   EXPECT_EQ(mark(kFlowMeter, 1, 1), SOFT_COLOR_YELLOW);
   EXPECT_EQ(mark(kFlowMeter, 2, 1), SOFT_COLOR_RED);
@@ -102,134 +47,63 @@ TEST_F(Meters, PacketsMeterCountsPackets) {
   EXPECT_EQ(mark(kFlowMeter, 1, 1), SOFT_COLOR_YELLOW) << "0.99 of a committed packet";
   soft_clock_advance(1);
   EXPECT_EQ(mark(kFlowMeter, 1, 1), SOFT_COLOR_GREEN);
-  ASSERT_EQ(set(0, kFlowMeter, 7,
-                spec_of(PIPE_RATE_PACKETS, UINT64_MAX, UINT64_MAX, UINT64_MAX, UINT64_MAX)),
-            BF_SUCCESS);
+  OK(set(kFlowMeter, 7,
+         meter_spec(PIPE_RATE_PACKETS, UINT64_MAX, UINT64_MAX, UINT64_MAX, UINT64_MAX)));
   EXPECT_EQ(mark(kFlowMeter, UINT64_MAX, 0), SOFT_COLOR_GREEN);
   soft_clock_advance(5);
   EXPECT_EQ(mark(kFlowMeter, UINT64_MAX, 0), SOFT_COLOR_GREEN) << "full again without overflow";
 }
 
-TEST_F(Meters, AdjustmentIsASignedNumberOfBytes) {
-  const auto adjust = [&](uint32_t meter, uint32_t adjustment) {
-    uint32_t read = 1;
-    EXPECT_EQ(pipe_mgr_meter_set_bytecount_adjust(session, kDevice, 0, meter, adjustment),
-              BF_SUCCESS);
-    EXPECT_EQ(pipe_mgr_meter_get_bytecount_adjust(session, kDevice, 1, meter, &read), BF_SUCCESS);
-    EXPECT_EQ(read, adjustment);
-  };
-  adjust(kPoliceMeter, 25);
-  adjust(kAclMeter, 0xffffffff);
-  const auto spec = spec_of(PIPE_RATE_BYTES, 0, 1, 0, 1);  // 125 bytes, never refilled
-  ASSERT_EQ(set(0, kPoliceMeter, 7, spec), BF_SUCCESS);
-  EXPECT_EQ(mark(kPoliceMeter, 2, 76), SOFT_COLOR_RED) << "126 bytes";
-  EXPECT_EQ(mark(kPoliceMeter, 2, 75), SOFT_COLOR_GREEN);
-  adjust(kPoliceMeter, static_cast<uint32_t>(-50));
-  EXPECT_EQ(mark(kPoliceMeter, 3, 150), SOFT_COLOR_GREEN) << "nothing is left, nothing is needed";
-  EXPECT_EQ(mark(kPoliceMeter, 3, 151), SOFT_COLOR_RED);
-  EXPECT_EQ(mark(kPoliceMeter, 4, 151), SOFT_COLOR_GREEN) << "not less than nothing";
-  EXPECT_EQ(pipe_mgr_meter_get_bytecount_adjust(session, kDevice, 0, kAclMeter, nullptr),
-            BF_INVALID_ARGUMENT);
+TEST_F(Meters, RefuseASpecOrACellThatDoesNotFit) {
+  const auto right = meter_spec(PIPE_RATE_BYTES, 1, 2, 3, 4);
+  auto mixed = right, other = right, typeless = right;
+  mixed.peak_rate.unit = PIPE_RATE_PACKETS;
+  other.committed_rate.unit = PIPE_RATE_PACKETS;
+  typeless.type = 2;
+  for (const auto &spec : {mixed, other, typeless}) {
+    EXPECT_EQ(set(kPoliceMeter, 7, spec), BF_INVALID_ARGUMENT);
+  }
+  EXPECT_EQ(set(kFlowMeter, 7, right), BF_INVALID_ARGUMENT);
+  uint32_t out = 0;
+  EXPECT_EQ(soft_next_cell(kDevice, kPoliceMeter, 0, &out), BF_OBJECT_NOT_FOUND);
+  pipe_mgr_meter_spec_t read{};
+  pipe_mgr_counter_t count{};
+  uint8_t color = 0;
+  for (const uint32_t cell : {SOFT_METER_CELLS, SOFT_METER_CELLS - 1}) {
+    const bf_status_t expected = cell == SOFT_METER_CELLS ? BF_INVALID_ARGUMENT : BF_SUCCESS;
+    EXPECT_EQ(set(kPoliceMeter, cell, right), expected);
+    EXPECT_EQ(pipe_mgr_meter_read_entry_idx(session, kDevice, 0, kPoliceMeter, cell, &read),
+              expected);
+    EXPECT_EQ(soft_meter_mark(kDevice, 0, kPoliceMeter, cell, 1, 1, &color), expected);
+    EXPECT_EQ(pipe_mgr_stat_ent_set(session, kDevice, 0, kAclCount, cell, &count), expected);
+    EXPECT_EQ(pipe_mgr_stat_ent_query(session, kDevice, 0, kAclCount, cell, &count), expected);
+    EXPECT_EQ(pipe_mgr_stat_ent_database_sync(session, kDevice, 0, kAclCount, cell), expected);
+    EXPECT_EQ(soft_counter_count(kDevice, 0, kAclCount, cell, 1, 64), expected);
+  }
+  uint64_t bytes = 0;
+  OK(soft_memory_bytes(kDevice, kAclCount, &bytes));
+  EXPECT_LT(bytes, 1u << 20) << "cells in between take no memory";
 }
 
-TEST_F(Meters, DirectMeterBelongsToItsEntry) {
-  const auto spec = spec_of(PIPE_RATE_BYTES, 0, 1, 0, 2);
+// A meter that met traffic takes memory with its entry, and no longer.
+TEST_F(Meters, BucketsGoWithTheirEntry) {
+  const Key key(16, {8, 1}, {255, 255});
   Action deny;
-  deny.resource(kAclMeter, 0, PIPE_RESOURCE_ATTACH).data.meter = spec;
-  const uint32_t entry = new_acl(1, deny), plain = new_acl(2, Action());
-  const auto read = [&](uint32_t of, pipe_mgr_meter_spec_t *into) {
-    return pipe_mgr_meter_read_entry(session, kDevice, 0, kAcl, of, into);
-  };
-  pipe_mgr_meter_spec_t got{};
-  ASSERT_EQ(read(entry, &got), BF_SUCCESS);
-  expect_same(got, spec);
-  EXPECT_EQ(read(plain, &got), BF_OBJECT_NOT_FOUND);
-  EXPECT_EQ(pipe_mgr_meter_read_entry(session, kDevice, 0, kHost, entry, &got), BF_NOT_SUPPORTED);
-
-  EXPECT_EQ(hit(0, kAcl, {0x08, 0x01}, 1, 125).color, SOFT_COLOR_GREEN);
-  EXPECT_EQ(hit(1, kAcl, {0x08, 0x01}, 1, 125).color, SOFT_COLOR_YELLOW);
-  EXPECT_EQ(hit(0, kAcl, {0x08, 0x01}, 1, 125).color, SOFT_COLOR_RED);
-  EXPECT_EQ(hit(0, kAcl, {0x08, 0x02}, 1, 125).color, SOFT_COLOR_GREEN);
-
-  pipe_mgr_resource_t again{};
-  again.handle = kAclMeter;
-  again.data.meter = spec_of(PIPE_RATE_PACKETS, 1, 1, 1, 1);
-  again.tag = PIPE_RESOURCE_ATTACH;
-  EXPECT_EQ(pipe_mgr_mat_ent_set_resource(session, kDevice, kAcl, entry, &again, 1, 0),
-            BF_INVALID_ARGUMENT);
-  again.data.meter = spec_of(PIPE_RATE_BYTES, 0, 2, 0, 2);
-  ASSERT_EQ(pipe_mgr_mat_ent_set_resource(session, kDevice, kAcl, entry, &again, 1, 0), BF_SUCCESS);
-  EXPECT_EQ(hit(0, kAcl, {0x08, 0x01}, 1, 250).color, SOFT_COLOR_GREEN) << "full again";
-  EXPECT_EQ(hit(0, kAcl, {0x08, 0x01}, 1, 1).color, SOFT_COLOR_RED);
-  uint64_t held = 0, left = 0;
-  ASSERT_EQ(soft_memory_bytes(kDevice, kAcl, &held), BF_SUCCESS);
-  ASSERT_EQ(pipe_mgr_mat_ent_del(session, kDevice, kAcl, entry, 0), BF_SUCCESS);
-  ASSERT_EQ(soft_memory_bytes(kDevice, kAcl, &left), BF_SUCCESS);
-  EXPECT_LT(left, held) << "its buckets are gone";
-  EXPECT_EQ(read(entry, &got), BF_OBJECT_NOT_FOUND);
+  deny.resource(kAclMeter, 0, PIPE_RESOURCE_ATTACH).data.meter =
+      meter_spec(PIPE_RATE_BYTES, 0, 1, 0, 2);
+  uint32_t entry = 0;
+  uint64_t held[3] = {};
+  for (uint64_t &bytes : held) {
+    OK(pipe_mgr_mat_ent_add(session, kDevice, kAll, kAcl, &key.spec, kDeny, &deny.spec, 0, 0,
+                            &entry));
+    OK(soft_packet(kDevice, 0, kAcl, key.value.data(), 2, 64, &entry, nullptr));
+    OK(pipe_mgr_mat_ent_del(session, kDevice, kAcl, entry, 0));
+    OK(soft_memory_bytes(kDevice, kAcl, &bytes));
+  }
+  EXPECT_EQ(held[2], held[1]);
 }
-
-TEST_F(Meters, WorstColorOfAnEntryCounts) {
-  ASSERT_EQ(set(0, kPoliceMeter, 7, spec_of(PIPE_RATE_BYTES, 0, 0, 0, 1)), BF_SUCCESS);
-  ASSERT_EQ(set(0, kFlowMeter, 7, spec_of(PIPE_RATE_PACKETS, 0, 9, 0, 9)), BF_SUCCESS);
-  Action deny;
-  deny.resource(kPoliceMeter, 7, PIPE_RESOURCE_ATTACH);
-  deny.resource(kFlowMeter, 7, PIPE_RESOURCE_ATTACH);
-  new_acl(1, deny);
-  EXPECT_EQ(hit(0, kAcl, {0x08, 0x01}, 1, 100).color, SOFT_COLOR_YELLOW);
-  EXPECT_EQ(hit(0, kAcl, {0x08, 0x01}, 1, 100).color, SOFT_COLOR_RED);
-  EXPECT_EQ(mark(kFlowMeter, 7, 0), SOFT_COLOR_GREEN) << "it gave two of its nine packets";
-  EXPECT_EQ(mark(kFlowMeter, 1, 0), SOFT_COLOR_RED);
-}
-
-// ---- Through tables to members ----
-
-TEST_F(Meters, TrafficFollowsMembersAndGroups) {
-  const uint32_t a = new_member(1), b = new_member(2), group = new_group(0);
-  Action flood;
-  uint32_t flooding = 0;
-  ASSERT_EQ(pipe_mgr_adt_ent_add(session, kDevice, 0, kMembers, kFlood, &flood.spec, &flooding, 0),
-            BF_SUCCESS);
-  uint32_t direct = 0, indirect = 0;
-  ASSERT_EQ(add_lag(1, PIPE_ACTION_MEMBER, b, &direct), BF_SUCCESS);
-  ASSERT_EQ(add_lag(2, PIPE_ACTION_GROUP, group, &indirect), BF_SUCCESS);
-
-  soft_hit_t found = hit(0, kLag, {1}, 1, 64, {9});
-  EXPECT_EQ(found.entry, direct);
-  EXPECT_FALSE(found.is_default);
-  EXPECT_EQ(found.member, b);
-  EXPECT_EQ(found.group, 0u);
-  EXPECT_EQ(found.action, kSend);
-  found = hit(0, kLag, {2}, 1, 64, {9});
-  EXPECT_EQ(found.entry, indirect);
-  EXPECT_EQ(found.group, group);
-  EXPECT_EQ(found.member, 0u) << "the group is empty";
-  EXPECT_EQ(found.action, 0u);
-  ASSERT_EQ(join(group, a), BF_SUCCESS);
-  ASSERT_EQ(join(group, flooding, kFlood), BF_SUCCESS);
-  EXPECT_EQ(hit(0, kLag, {2}, 1, 64, {0, 4}).member, a);
-  EXPECT_EQ(hit(0, kLag, {2}, 1, 64).member, a) << "no hash is 0";
-  found = hit(0, kLag, {2}, 1, 64, {1, 1});
-  EXPECT_EQ(found.member, flooding);
-  EXPECT_EQ(found.action, kFlood) << "of the member, not of the entry";
-
-  soft_traffic_t traffic{};
-  const uint8_t key[] = {3};
-  traffic.key = key;
-  traffic.key_length = 1;
-  EXPECT_EQ(soft_traffic_hit(kDevice, 0, kLag, &traffic, &found), BF_TABLE_MISS)
-      << "no entry and no default entry";
-  EXPECT_EQ(soft_traffic_hit(kDevice, BF_ALL_PIPES, kLag, &traffic, &found), BF_INVALID_PIPE);
-  EXPECT_EQ(soft_traffic_hit(kDevice, 0, kMembers, &traffic, &found), BF_INVALID_HANDLE);
-  traffic.key_length = 2;
-  EXPECT_EQ(soft_traffic_hit(kDevice, 0, kLag, &traffic, &found), BF_WRONG_LENGTH);
-  EXPECT_EQ(found.member, flooding) << "nothing is written";
-}
-
-// ---- WRED ----
 
 TEST_F(Meters, WredCellsReadBack) {
-  constexpr uint32_t kWred = 0x07000001;
   const pipe_mgr_wred_spec_t spec{1.5f, 100, 200, 0.25f};
   const auto set_wred = [&](uint32_t pipe, uint32_t table, uint32_t index) {
     return pipe_mgr_wred_ent_set(session, kDevice, pipe, table, index, &spec, 0);

@@ -1,15 +1,12 @@
 // Placement data of entries and members, and the replay of a virtual device.
 #include <array>
 
-#include "small_program.hpp"
+#include "program.hpp"
 #include "tables/placement.hpp"
 
 namespace {
 
 using namespace soft_test;
-
-constexpr uint32_t kMembers = 0x02000005;
-constexpr uint32_t kSelector = 0x03000005;
 
 // Placement data that is released with its scope.
 struct Placement {
@@ -42,45 +39,41 @@ Bytes first(const Bytes &bytes, size_t count) {
 }
 
 // Calls on any of the devices.
-class PlacementTest : public SmallTest {
+class PlacementTest : public SoftTest {
  protected:
   static constexpr bf_device_id_t kVirtual = 7;
 
   void SetUp() override {
-    SmallTest::SetUp();
-    ASSERT_EQ(soft_device_create(kVirtual, 2, &small_program(), true), BF_SUCCESS);
+    SoftTest::SetUp();
+    OK(soft_device_create(kVirtual, 2, &small_program(), true));
   }
   void TearDown() override {
-    EXPECT_EQ(soft_device_remove(kVirtual), BF_SUCCESS);
-    SmallTest::TearDown();
+    OK(soft_device_remove(kVirtual));
+    SoftTest::TearDown();
   }
 
   uint32_t add(bf_device_id_t device, uint32_t table, const Key &key, uint32_t action,
                const Action &spec, uint32_t ttl = 0) {
     uint32_t entry = 0;
-    EXPECT_EQ(pipe_mgr_mat_ent_add(session, device, BF_ALL_PIPES, table, &key.spec, action,
-                                   &spec.spec, ttl, 0, &entry),
-              BF_SUCCESS);
+    OK(pipe_mgr_mat_ent_add(session, device, BF_ALL_PIPES, table, &key.spec, action, &spec.spec,
+                            ttl, 0, &entry));
     return entry;
   }
   uint32_t add_member(bf_device_id_t device, uint8_t port) {
     Action send(9, {0x01, port});
     send.spec.type = 0;
     uint32_t member = 0;
-    EXPECT_EQ(pipe_mgr_adt_ent_add(session, device, BF_ALL_PIPES, kMembers, kSend, &send.spec,
-                                   &member, 0),
-              BF_SUCCESS);
+    OK(pipe_mgr_adt_ent_add(session, device, BF_ALL_PIPES, kMembers, kSend, &send.spec, &member,
+                            0));
     return member;
   }
   uint32_t add_group(bf_device_id_t device) {
     uint32_t group = 0;
-    EXPECT_EQ(pipe_mgr_sel_grp_add(session, device, BF_ALL_PIPES, kSelector, 4, &group, 0),
-              BF_SUCCESS);
+    OK(pipe_mgr_sel_grp_add(session, device, BF_ALL_PIPES, kSelector, 4, &group, 0));
     return group;
   }
   void join(uint32_t group, uint32_t member) {
-    EXPECT_EQ(pipe_mgr_sel_grp_mbr_add(session, kVirtual, kSelector, group, kSend, member, 0),
-              BF_SUCCESS);
+    OK(pipe_mgr_sel_grp_mbr_add(session, kVirtual, kSelector, group, kSend, member, 0));
   }
   // An entry of kLag that points at a member or group.
   uint32_t add_lag(bf_device_id_t device, uint8_t number, uint32_t type, uint32_t reference) {
@@ -97,11 +90,11 @@ TEST_F(PlacementTest, OfAnEntryHoldsItsKeyAndAction) {
   const uint32_t host =
       add(kVirtual, kHost, Key(20, {0x0a, 0xbc, 0x2d}, {0xff, 0xff, 0xff}), kForward, forward);
   Placement placement;
-  ASSERT_EQ(soft_placement_of_entry(kVirtual, kHost, host, &placement.object), BF_SUCCESS);
-  EXPECT_EQ(pipe_mgr_mat_ent_del(session, kVirtual, kHost, host, 0), BF_SUCCESS);
+  OK(soft_placement_of_entry(kVirtual, kHost, host, &placement.object));
+  OK(pipe_mgr_mat_ent_del(session, kVirtual, kHost, host, 0));
 
   const Decoded decoded(placement);  // needs the entry no longer
-  ASSERT_EQ(decoded.status, BF_SUCCESS);
+  OK(decoded.status);
   EXPECT_EQ(decoded.match.value, decoded.value.data());
   EXPECT_EQ(decoded.match.byte_count, 3);
   EXPECT_EQ(decoded.match.valid_bit_count, 20);
@@ -121,13 +114,12 @@ TEST_F(PlacementTest, OfAnEntryHoldsItsKeyAndAction) {
 TEST_F(PlacementTest, OfADefaultEntryHasNoKey) {
   const Action permit(35, {1, 2, 3, 4, 5});
   uint32_t entry = 0;
-  ASSERT_EQ(pipe_mgr_mat_default_entry_set(session, kVirtual, BF_ALL_PIPES, kAcl, kPermit,
-                                           &permit.spec, 0, &entry),
-            BF_SUCCESS);
+  OK(pipe_mgr_mat_default_entry_set(session, kVirtual, BF_ALL_PIPES, kAcl, kPermit, &permit.spec, 0,
+                                    &entry));
   Placement of_acl, of_encap;
-  ASSERT_EQ(soft_placement_of_entry(kVirtual, kAcl, entry, &of_acl.object), BF_SUCCESS);
+  OK(soft_placement_of_entry(kVirtual, kAcl, entry, &of_acl.object));
   const Decoded acl(of_acl);
-  EXPECT_EQ(acl.status, BF_SUCCESS);
+  OK(acl.status);
   EXPECT_EQ(acl.match.value, nullptr);
   EXPECT_EQ(acl.match.mask, nullptr);
   EXPECT_EQ(acl.match.byte_count, 0);
@@ -135,10 +127,8 @@ TEST_F(PlacementTest, OfADefaultEntryHasNoKey) {
   EXPECT_EQ(first(acl.data, 6), (Bytes{1, 2, 3, 4, 5, 0xa5}));
 
   // The only entry of a keyless table.
-  ASSERT_EQ(
-      pipe_mgr_table_get_default_entry_handle(session, kVirtual, BF_ALL_PIPES, kEncap, &entry),
-      BF_SUCCESS);
-  ASSERT_EQ(soft_placement_of_entry(kVirtual, kEncap, entry, &of_encap.object), BF_SUCCESS);
+  OK(pipe_mgr_table_get_default_entry_handle(session, kVirtual, BF_ALL_PIPES, kEncap, &entry));
+  OK(soft_placement_of_entry(kVirtual, kEncap, entry, &of_encap.object));
   const Decoded encap(of_encap);
   EXPECT_EQ(encap.match.value, nullptr);
   EXPECT_EQ(encap.action, kWrap);
@@ -149,13 +139,10 @@ TEST_F(PlacementTest, OfAProfileBoundEntryNamesItsMemberOrGroup) {
   const uint32_t member = add_member(kVirtual, 9);
   const uint32_t group = add_group(kVirtual);
   Placement to_member, to_group, of_member;
-  ASSERT_EQ(
-      soft_placement_of_entry(kVirtual, kLag, add_lag(kVirtual, 1, PIPE_ACTION_MEMBER, member),
-                              &to_member.object),
-      BF_SUCCESS);
-  ASSERT_EQ(soft_placement_of_entry(kVirtual, kLag, add_lag(kVirtual, 2, PIPE_ACTION_GROUP, group),
-                                    &to_group.object),
-            BF_SUCCESS);
+  OK(soft_placement_of_entry(kVirtual, kLag, add_lag(kVirtual, 1, PIPE_ACTION_MEMBER, member),
+                             &to_member.object));
+  OK(soft_placement_of_entry(kVirtual, kLag, add_lag(kVirtual, 2, PIPE_ACTION_GROUP, group),
+                             &to_group.object));
   const Decoded by_member(to_member), by_group(to_group);
   EXPECT_EQ(by_member.spec.type, PIPE_ACTION_MEMBER);
   EXPECT_EQ(by_member.spec.member, member);
@@ -164,11 +151,11 @@ TEST_F(PlacementTest, OfAProfileBoundEntryNamesItsMemberOrGroup) {
   EXPECT_EQ(by_group.spec.group, group);
   EXPECT_EQ(by_group.value[0], 2);
 
-  ASSERT_EQ(soft_placement_of_member(kVirtual, kMembers, member, &of_member.object), BF_SUCCESS);
+  OK(soft_placement_of_member(kVirtual, kMembers, member, &of_member.object));
   Bytes bytes(4, 0xa5);
   pipe_mgr_action_data_t data{0, 0, bytes.data()};
   uint32_t action = 0;
-  EXPECT_EQ(pipe_mgr_plcmt_adt_data_get_entry(of_member.object, &data, &action), BF_SUCCESS);
+  OK(pipe_mgr_plcmt_adt_data_get_entry(of_member.object, &data, &action));
   EXPECT_EQ(action, kSend);
   EXPECT_EQ(data.byte_count, 2);
   EXPECT_EQ(data.valid_bit_count, 9);
@@ -183,9 +170,8 @@ TEST_F(PlacementTest, OfAProfileBoundEntryNamesItsMemberOrGroup) {
 TEST_F(PlacementTest, DecodersTellWhatTheSdkDidNotMake) {
   const uint32_t acl = add(kDevice, kAcl, Key(16, {1, 2}, {0xff, 0xff}, 1), kDeny, Action());
   Placement entry, member;
-  ASSERT_EQ(soft_placement_of_entry(kDevice, kAcl, acl, &entry.object), BF_SUCCESS);
-  ASSERT_EQ(soft_placement_of_member(kDevice, kMembers, add_member(kDevice, 1), &member.object),
-            BF_SUCCESS);
+  OK(soft_placement_of_entry(kDevice, kAcl, acl, &entry.object));
+  OK(soft_placement_of_member(kDevice, kMembers, add_member(kDevice, 1), &member.object));
   soft_placement_corrupt(entry.object);
   soft_placement_corrupt(member.object);
   const Decoded decoded(entry);
@@ -216,7 +202,7 @@ TEST_F(PlacementTest, AnyChangedBitIsNoticed) {
   const uint32_t host =
       add(kDevice, kHost, Key(20, {0x0a, 0xbc, 0x2d}, {0xff, 0xff, 0xff}), kForward, forward);
   Placement placement;
-  ASSERT_EQ(soft_placement_of_entry(kDevice, kHost, host, &placement.object), BF_SUCCESS);
+  OK(soft_placement_of_entry(kDevice, kHost, host, &placement.object));
   uint8_t *const contents = placement.object->contents();
   for (size_t bit = 0; bit < 8 * placement.object->length; ++bit) {
     const auto flip = static_cast<uint8_t>(1u << bit % 8);
@@ -224,7 +210,7 @@ TEST_F(PlacementTest, AnyChangedBitIsNoticed) {
     ASSERT_EQ(Decoded(placement).status, BF_CORRUPT_DATA) << bit;
     contents[bit / 8] ^= flip;
   }
-  EXPECT_EQ(Decoded(placement).status, BF_SUCCESS);
+  OK(Decoded(placement).status);
   placement.object->length -= 8;
   EXPECT_EQ(Decoded(placement).status, BF_CORRUPT_DATA);
 }
@@ -236,14 +222,14 @@ TEST_F(PlacementTest, AnObjectIsUsedAgainAsLongAsItHasRoom) {
   const uint32_t drop =
       add(kDevice, kHost, Key(20, {4, 5, 6}, {0xff, 0xff, 0xff}), kDrop, Action());
   Placement placement;
-  ASSERT_EQ(soft_placement_of_member(kDevice, kMembers, member, &placement.object), BF_SUCCESS);
-  ASSERT_EQ(soft_placement_of_entry(kDevice, kHost, host, &placement.object), BF_SUCCESS);
+  OK(soft_placement_of_member(kDevice, kMembers, member, &placement.object));
+  OK(soft_placement_of_entry(kDevice, kHost, host, &placement.object));
   const pipe_mgr_placement_t *const object = placement.object;
-  ASSERT_EQ(soft_placement_of_entry(kDevice, kHost, drop, &placement.object), BF_SUCCESS);
+  OK(soft_placement_of_entry(kDevice, kHost, drop, &placement.object));
   EXPECT_EQ(placement.object, object);
   {
     const Decoded decoded(placement);
-    EXPECT_EQ(decoded.status, BF_SUCCESS);
+    OK(decoded.status);
     EXPECT_EQ(first(decoded.value, 3), (Bytes{4, 5, 6}));
     EXPECT_EQ(decoded.action, kDrop);
     EXPECT_EQ(decoded.spec.data.byte_count, 0);
@@ -256,12 +242,12 @@ TEST_F(PlacementTest, AnObjectIsUsedAgainAsLongAsItHasRoom) {
   EXPECT_EQ(placement.object, object);
   EXPECT_EQ(Decoded(placement).action, kDrop);
   soft_placement_corrupt(placement.object);
-  ASSERT_EQ(soft_placement_of_member(kDevice, kMembers, member, &placement.object), BF_SUCCESS);
+  OK(soft_placement_of_member(kDevice, kMembers, member, &placement.object));
   EXPECT_EQ(placement.object, object);
   uint8_t bytes[2] = {};
   pipe_mgr_action_data_t data{0, 0, bytes};
   uint32_t action = 0;
-  EXPECT_EQ(pipe_mgr_plcmt_adt_data_get_entry(placement.object, &data, &action), BF_SUCCESS);
+  OK(pipe_mgr_plcmt_adt_data_get_entry(placement.object, &data, &action));
   EXPECT_EQ(bytes[1], 9);
 }
 
@@ -290,16 +276,13 @@ class Replay : public PlacementTest {
     const uint32_t gone = add_member(kVirtual, 1);
     member_a = add_member(kVirtual, 2);
     member_b = add_member(kVirtual, 3);
-    EXPECT_EQ(pipe_mgr_adt_ent_del(session, kVirtual, kMembers, gone, 0), BF_SUCCESS);
+    OK(pipe_mgr_adt_ent_del(session, kVirtual, kMembers, gone, 0));
     group = add_group(kVirtual);
     empty_group = add_group(kVirtual);
     join(group, member_b);
     join(group, member_a);
-    EXPECT_EQ(pipe_mgr_sel_grp_mbr_disable(session, kVirtual, kSelector, group, member_a, 0),
-              BF_SUCCESS);
-    EXPECT_EQ(
-        pipe_mgr_sel_fallback_mbr_set(session, kVirtual, BF_ALL_PIPES, kSelector, member_a, 0),
-        BF_SUCCESS);
+    OK(pipe_mgr_sel_grp_mbr_disable(session, kVirtual, kSelector, group, member_a, 0));
+    OK(pipe_mgr_sel_fallback_mbr_set(session, kVirtual, BF_ALL_PIPES, kSelector, member_a, 0));
     lag = add_lag(kVirtual, 1, PIPE_ACTION_GROUP, group);
   }
   bf_status_t replay(bf_device_id_t from = kVirtual, bf_pipe_id_t pipe = BF_ALL_PIPES) {
@@ -308,9 +291,8 @@ class Replay : public PlacementTest {
   uint32_t hit(bf_device_id_t device, uint32_t table, const Bytes &key) {
     uint32_t entry = 0;
     bool is_default = false;
-    EXPECT_EQ(soft_lookup(device, 0, table, key.data(), static_cast<uint32_t>(key.size()), &entry,
-                          &is_default),
-              BF_SUCCESS);
+    OK(soft_lookup(device, 0, table, key.data(), static_cast<uint32_t>(key.size()), &entry,
+                   &is_default));
     return is_default ? 0 : entry;
   }
 
@@ -318,7 +300,7 @@ class Replay : public PlacementTest {
 };
 
 TEST_F(Replay, ReportsMembersThenGroupsThenMemberships) {
-  ASSERT_EQ(replay(), BF_SUCCESS);
+  OK(replay());
   EXPECT_EQ(told, (std::vector<Told>{{kMembers, kSend, 0, member_a, 0},
                                      {kMembers, kSend, 0, member_b, 0},
                                      {kMembers, 0, group, 0, 0},
@@ -329,38 +311,32 @@ TEST_F(Replay, ReportsMembersThenGroupsThenMemberships) {
 
 TEST_F(Replay, ProfilesKeepHandlesStatesAndReferences) {
   const uint32_t before = add_member(kDevice, 9);  // gives way
-  ASSERT_EQ(replay(), BF_SUCCESS);
+  OK(replay());
   uint8_t bytes[2] = {};
   pipe_mgr_action_data_t data{0, 2, bytes};
   uint32_t action = 0, state = 99, member = 0;
-  EXPECT_EQ(pipe_mgr_get_action_data_entry(kMembers, kDevice, member_b, &data, &action, false),
-            BF_SUCCESS);
+  OK(pipe_mgr_get_action_data_entry(kMembers, kDevice, member_b, &data, &action, false));
   EXPECT_EQ(bytes[1], 3);
   EXPECT_EQ(pipe_mgr_get_action_data_entry(kMembers, kDevice, before, &data, &action, false),
             BF_OBJECT_NOT_FOUND);
-  EXPECT_EQ(pipe_mgr_sel_grp_mbr_state_get(session, kDevice, kSelector, group, member_a, &state),
-            BF_SUCCESS);
+  OK(pipe_mgr_sel_grp_mbr_state_get(session, kDevice, kSelector, group, member_a, &state));
   EXPECT_EQ(state, PIPE_MEMBER_INACTIVE);
   const uint8_t hash[] = {0};
-  EXPECT_EQ(
-      pipe_mgr_sel_grp_mbr_get_from_hash(session, kDevice, kSelector, group, hash, 1, &member),
-      BF_SUCCESS);
+  OK(pipe_mgr_sel_grp_mbr_get_from_hash(session, kDevice, kSelector, group, hash, 1, &member));
   EXPECT_EQ(member, member_b);
-  EXPECT_EQ(pipe_mgr_sel_grp_mbr_get_from_hash(session, kDevice, kSelector, empty_group, hash, 1,
-                                               &member),
-            BF_SUCCESS);
+  OK(pipe_mgr_sel_grp_mbr_get_from_hash(session, kDevice, kSelector, empty_group, hash, 1,
+                                        &member));
   EXPECT_EQ(member, member_a) << "the fallback";
 
   EXPECT_EQ(pipe_mgr_sel_grp_del(session, kDevice, kSelector, group, 0), BF_IN_USE);
-  EXPECT_EQ(pipe_mgr_mat_ent_del(session, kDevice, kLag, lag, 0), BF_SUCCESS);
-  EXPECT_EQ(pipe_mgr_sel_grp_del(session, kDevice, kSelector, group, 0), BF_SUCCESS);
-  EXPECT_EQ(pipe_mgr_adt_ent_del(session, kDevice, kMembers, member_b, 0), BF_SUCCESS);
+  OK(pipe_mgr_mat_ent_del(session, kDevice, kLag, lag, 0));
+  OK(pipe_mgr_sel_grp_del(session, kDevice, kSelector, group, 0));
+  OK(pipe_mgr_adt_ent_del(session, kDevice, kMembers, member_b, 0));
 
   // New objects do not meet the old handles, and the virtual device is one of its own.
   EXPECT_NE(add_member(kDevice, 5), member_a);
   EXPECT_EQ(pipe_mgr_sel_grp_del(session, kVirtual, kSelector, group, 0), BF_IN_USE);
-  EXPECT_EQ(pipe_mgr_sel_grp_mbr_enable(session, kVirtual, kSelector, group, member_a, 0),
-            BF_SUCCESS);
+  OK(pipe_mgr_sel_grp_mbr_enable(session, kVirtual, kSelector, group, member_a, 0));
 }
 
 TEST_F(Replay, CallbackMayEndItAndTheDeviceIsComplete) {
@@ -368,21 +344,20 @@ TEST_F(Replay, CallbackMayEndItAndTheDeviceIsComplete) {
   EXPECT_EQ(replay(), 77u);
   EXPECT_EQ(told.size(), 3u);
   uint32_t members = 0;
-  EXPECT_EQ(pipe_mgr_get_sel_grp_mbr_count(session, kDevice, kSelector, group, &members),
-            BF_SUCCESS);
+  OK(pipe_mgr_get_sel_grp_mbr_count(session, kDevice, kSelector, group, &members));
   EXPECT_EQ(members, 2u);
   EXPECT_EQ(hit(kDevice, kLag, {1}), lag);
 
   told.clear();
   told_limit = 100;
-  EXPECT_EQ(replay(), BF_SUCCESS) << "a second one takes the place of the first";
+  OK(replay()) << "a second one takes the place of the first";
   EXPECT_EQ(told.size(), 6u);
 }
 
 TEST_F(Replay, TakesOnlyAVirtualDeviceThatIsAlike) {
-  ASSERT_EQ(soft_device_create(8, 2, &small_program(), false), BF_SUCCESS);
-  ASSERT_EQ(soft_device_create(9, 1, &small_program(), true), BF_SUCCESS);
-  ASSERT_EQ(soft_device_create(10, 2, &program(), true), BF_SUCCESS);
+  OK(soft_device_create(8, 2, &small_program(), false));
+  OK(soft_device_create(9, 1, &small_program(), true));
+  OK(soft_device_create(10, 2, &other_program(), true));
   for (const bf_device_id_t unfit : {4u, 8u, 9u, 10u}) {
     EXPECT_EQ(replay(unfit), BF_INVALID_ARGUMENT) << unfit;
   }
@@ -391,11 +366,10 @@ TEST_F(Replay, TakesOnlyAVirtualDeviceThatIsAlike) {
   EXPECT_EQ(replay(kVirtual, 1), BF_NOT_SUPPORTED);
   EXPECT_TRUE(told.empty());
   uint32_t members = 9;
-  EXPECT_EQ(pipe_mgr_get_entry_count(session, kDevice, BF_ALL_PIPES, kMembers, 0, &members),
-            BF_SUCCESS);
+  OK(pipe_mgr_get_entry_count(session, kDevice, BF_ALL_PIPES, kMembers, 0, &members));
   EXPECT_EQ(members, 0u);
   for (const bf_device_id_t device : {8u, 9u, 10u}) {
-    EXPECT_EQ(soft_device_remove(device), BF_SUCCESS);
+    OK(soft_device_remove(device));
   }
 }
 

@@ -1,196 +1,195 @@
-// Parser value sets: where entries are, which ones exclude each other, capacity and enumeration.
-#include "small_program.hpp"
+// A parser value set against a naive one with random calls.
+#include <algorithm>
+
+#include "program.hpp"
 
 namespace {
 
 using namespace soft_test;
 
-constexpr uint16_t kAllPipes = BF_ALL_PIPES;
-constexpr uint8_t kAllParsers = SOFT_ALL_PARSERS;
-
-class ValueSets : public SmallTest {
- protected:
-  // An ingress parser or several; the handle is written on success.
-  struct Where {
-    uint16_t pipe;
-    uint8_t parser;
-  };
-  bf_status_t add(Where where, uint32_t value, uint32_t mask, uint32_t *entry) {
-    return pipe_mgr_pvs_entry_add(session, kDevice, kPortSet, 0, where.pipe, where.parser, value,
-                                  mask, entry);
-  }
-  uint32_t added(Where where, uint32_t value, uint32_t mask) {
-    uint32_t entry = 0;
-    EXPECT_EQ(add(where, value, mask, &entry), BF_SUCCESS);
-    return entry;
-  }
-  bf_status_t erase(uint32_t entry) {
-    return pipe_mgr_pvs_entry_delete(session, kDevice, kPortSet, entry);
-  }
-  uint32_t count(Where where) {
-    uint32_t entries = kNowhere;
-    EXPECT_EQ(pipe_mgr_pvs_entry_get_count(session, kDevice, kPortSet, 0, where.pipe, where.parser,
-                                           1, &entries),
-              BF_SUCCESS);
-    return entries;
-  }
-  // The entry that a value matches in a parser, 0 for none.
-  uint32_t match(Where where, uint32_t value) {
-    uint32_t entry = 0;
-    const bf_status_t status =
-        soft_value_set_match(kDevice, kPortSet, 0, where.pipe, where.parser, value, &entry);
-    EXPECT_EQ(status, entry == 0 ? BF_OBJECT_NOT_FOUND : BF_SUCCESS);
-    return entry;
-  }
-  bf_status_t find(Where where, uint32_t value, uint32_t mask, uint32_t *entry) {
-    return pipe_mgr_pvs_entry_handle_get(session, kDevice, kPortSet, 0, where.pipe, where.parser,
-                                         value, mask, entry);
-  }
-  bf_status_t capacity(uint32_t value) {
-    return pipe_mgr_pvs_set_property(session, kDevice, kPortSet, PIPE_PVS_CAPACITY, value, 0, 0);
+struct Where {
+  uint32_t direction, pipe, parser;
+  bool meets(const Where &other) const {
+    const auto agree = [](uint32_t a, uint32_t b, uint32_t all) {
+      return a == b || a == all || b == all;
+    };
+    return direction == other.direction && agree(pipe, other.pipe, kAll) &&
+           agree(parser, other.parser, SOFT_ALL_PARSERS);
   }
 };
+struct Entry {
+  uint32_t handle;
+  Where where;
+  uint32_t value, mask;
+};
 
-TEST_F(ValueSets, AParserMatchesTheEntriesThatItHas) {
-  const uint32_t here = added({0, 3}, 0x1200, 0xff00);
-  const uint32_t all_of_pipe = added({0, kAllParsers}, 0x3400, 0xff00);
-  const uint32_t everywhere = added({kAllPipes, kAllParsers}, 0x5600, 0xff00);
-  const uint32_t narrow = added({0, 3}, 0x1234, 0xffff);
-  EXPECT_EQ(match({0, 3}, 0x1299), here);
-  EXPECT_EQ(match({0, 3}, 0x1234), here) << "the oldest of two";
-  EXPECT_EQ(match({0, 4}, 0x1299), 0u);
-  EXPECT_EQ(match({0, 4}, 0x3499), all_of_pipe);
-  EXPECT_EQ(match({1, 3}, 0x3499), 0u);
-  EXPECT_EQ(match({1, 3}, 0x5601), everywhere);
-  EXPECT_EQ(erase(here), BF_SUCCESS);
-  EXPECT_EQ(match({0, 3}, 0x1234), narrow);
-
-  uint32_t egress = 0;
-  EXPECT_EQ(pipe_mgr_pvs_entry_add(session, kDevice, kPortSet, 1, 0, 3, 0x1200, 0xff00, &egress),
-            BF_SUCCESS);
-  EXPECT_EQ(match({0, 3}, 0x1201), 0u);
-  EXPECT_EQ(soft_value_set_match(kDevice, kTypeSet, 0, 1, 3, 0x5601, &egress), BF_OBJECT_NOT_FOUND)
-      << "another set";
-}
-
-TEST_F(ValueSets, EntriesThatAParserCannotTellApartExcludeEachOther) {
-  const uint32_t first = added({0, 3}, 0x12ff, 0xff00);
-  uint32_t entry = kNowhere;
-  EXPECT_EQ(add({0, 3}, 0x1200, 0xff00, &entry), BF_ALREADY_EXISTS);
-  EXPECT_EQ(add({0, kAllParsers}, 0x1200, 0xff00, &entry), BF_ALREADY_EXISTS);
-  EXPECT_EQ(add({kAllPipes, 3}, 0x1200, 0xff00, &entry), BF_ALREADY_EXISTS);
-  EXPECT_EQ(entry, kNowhere);
-  const uint32_t elsewhere = added({1, kAllParsers}, 0x1200, 0xff00);
-  const uint32_t wider = added({0, 3}, 0x1200, 0xf000);
-
-  EXPECT_EQ(pipe_mgr_pvs_entry_modify(session, kDevice, kPortSet, wider, 0x1234, 0xff00),
-            BF_ALREADY_EXISTS);
-  EXPECT_EQ(pipe_mgr_pvs_entry_modify(session, kDevice, kPortSet, first, 0x1201, 0xff00),
-            BF_SUCCESS)
-      << "an entry does not exclude itself";
-  EXPECT_EQ(pipe_mgr_pvs_entry_modify(session, kDevice, kPortSet, wider, 0x9900, 0xff00),
-            BF_SUCCESS);
-  uint32_t value = 0, mask = 0;
-  EXPECT_EQ(pipe_mgr_pvs_entry_get(session, kDevice, kPortSet, first, &value, &mask), BF_SUCCESS);
-  EXPECT_EQ(value, 0x1201u) << "as given, bits outside the mask included";
-  EXPECT_EQ(mask, 0xff00u);
-
-  EXPECT_EQ(find({0, 3}, 0x12aa, 0xff00, &entry), BF_SUCCESS);
-  EXPECT_EQ(entry, first);
-  EXPECT_EQ(find({1, 9}, 0x1200, 0xff00, &entry), BF_SUCCESS);
-  EXPECT_EQ(entry, elsewhere);
-  EXPECT_EQ(find({kAllPipes, kAllParsers}, 0x1200, 0xff00, &entry), BF_SUCCESS);
-  EXPECT_EQ(entry, first);
-  EXPECT_EQ(find({0, 3}, 0x1200, 0xfff0, &entry), BF_OBJECT_NOT_FOUND);
-  EXPECT_EQ(find({0, 4}, 0x1200, 0xff00, &entry), BF_OBJECT_NOT_FOUND);
-}
-
-TEST_F(ValueSets, CapacityHoldsForEveryParserOfAnEntry) {
-  EXPECT_EQ(capacity(2), BF_SUCCESS);
-  uint32_t value = 0;
-  EXPECT_EQ(pipe_mgr_pvs_get_property(session, kDevice, kPortSet, PIPE_PVS_CAPACITY, &value, 0, 0),
-            BF_SUCCESS);
-  EXPECT_EQ(value, 2u);
-  added({0, 1}, 1, 0xff);
-  added({0, 2}, 2, 0xff);
-  added({1, 2}, 3, 0xff);
-  // Three entries, but no parser has two.
-  const uint32_t wide = added({kAllPipes, 2}, 4, 0xff);
-  uint32_t entry = kNowhere;
-  EXPECT_EQ(add({0, 2}, 5, 0xff, &entry), BF_TABLE_FULL);
-  EXPECT_EQ(add({kAllPipes, kAllParsers}, 5, 0xff, &entry), BF_TABLE_FULL);
-  EXPECT_EQ(add({1, kAllParsers}, 5, 0xff, &entry), BF_TABLE_FULL);
-  EXPECT_EQ(entry, kNowhere);
-  added({0, 1}, 5, 0xff);
-  EXPECT_EQ(erase(wide), BF_SUCCESS);
-  added({1, kAllParsers}, 5, 0xff);
-  EXPECT_EQ(add({1, 2}, 6, 0xff, &entry), BF_TABLE_FULL);
-  added({1, 7}, 6, 0xff);
-  EXPECT_EQ(capacity(1), BF_SUCCESS);
-  EXPECT_EQ(count({1, 7}), 2u) << "a smaller capacity keeps what is there";
-  EXPECT_EQ(capacity(0), BF_SUCCESS);
-  added({1, 7}, 7, 0xff);
-
-  EXPECT_EQ(pipe_mgr_pvs_set_property(session, kDevice, kPortSet, 2, 1, 0, 0), BF_INVALID_ARGUMENT);
-  EXPECT_EQ(pipe_mgr_pvs_get_property(session, kDevice, kPortSet, 0, &value, 0, 0),
-            BF_INVALID_ARGUMENT);
-}
-
-TEST_F(ValueSets, EnumerationGoesFromOldToNewThroughTheNamedParsers) {
-  uint32_t entry = kNowhere;
-  const auto first = [&](Where where) {
-    return pipe_mgr_pvs_entry_get_first(session, kDevice, kPortSet, 0, where.pipe, where.parser,
-                                        &entry);
-  };
-  EXPECT_EQ(first({kAllPipes, kAllParsers}), BF_OBJECT_NOT_FOUND);
-  EXPECT_EQ(entry, kNowhere);
-  std::vector<uint32_t> all;
-  for (uint32_t value = 0; value < 4; ++value) {
-    all.push_back(added({static_cast<uint16_t>(value % 2), 5}, value, 0xffffffff));
+class ValueSets : public SoftTest, public testing::WithParamInterface<uint32_t> {
+ protected:
+  Where any_where() {
+    return {random.below(2), random.one_in(3) ? kAll : random.below(2),
+            random.one_in(3) ? SOFT_ALL_PARSERS : random.below(3)};
   }
-  all.push_back(added({kAllPipes, kAllParsers}, 9, 0xffffffff));
-  EXPECT_EQ(count({kAllPipes, kAllParsers}), 5u);
-  EXPECT_EQ(count({0, 5}), 3u);
-  EXPECT_EQ(count({0, 6}), 1u);
-  EXPECT_EQ(count({kAllPipes, 6}), 1u);
+  uint32_t any_value() { return random.below(4) * 0x100 + random.below(3); }
+  uint32_t any_mask() { return random.one_in(2) ? 0xff00 : 0xffff; }
+  // The oldest entry that test holds for.
+  template <class Test>
+  Entry *first(Test test) {
+    const auto at = std::ranges::find_if(entries, test);
+    return at == entries.end() ? nullptr : &*at;
+  }
+  Entry *clash(const Where &where, uint32_t value, uint32_t mask, const Entry *but = nullptr) {
+    return first([&](const Entry &e) {
+      return &e != but && e.where.meets(where) && e.mask == mask && ((e.value ^ value) & mask) == 0;
+    });
+  }
+  // Whether one of the parsers has no room; parser 3 stands for all that no entry names.
+  bool is_full(const Where &where) const {
+    for (uint32_t pipe = 0; capacity != 0 && pipe < 2; ++pipe) {
+      for (uint32_t parser = 0; parser < 4; ++parser) {
+        const Where one{where.direction, pipe, parser};
+        const auto held = std::ranges::count_if(
+            entries, [&](const Entry &entry) { return entry.where.meets(one); });
+        if (where.meets(one) && held >= capacity) return true;
+      }
+    }
+    return false;
+  }
+  uint32_t any_entry() {
+    return entries.empty() || random.one_in(9) ? random.below(50) : random.of(entries).handle;
+  }
+  static bf_status_t found(const Entry *entry) {
+    return entry == nullptr ? BF_OBJECT_NOT_FOUND : BF_SUCCESS;
+  }
 
-  const auto next = [&](uint32_t from, uint32_t slots) {
-    std::vector<uint32_t> entries(slots, kNowhere);
-    const bf_status_t status = pipe_mgr_pvs_entry_get_next(session, kDevice, kPortSet, 0, 1, 5,
-                                                           from, slots, entries.data());
-    EXPECT_EQ(status,
-              !entries.empty() && entries[0] == kNowhere ? BF_OBJECT_NOT_FOUND : BF_SUCCESS);
-    return entries;
-  };
-  EXPECT_EQ(first({1, 5}), BF_SUCCESS);
-  EXPECT_EQ(entry, all[1]);
-  EXPECT_EQ(next(all[1], 1), (std::vector<uint32_t>{all[3]}));
-  EXPECT_EQ(next(all[1], 4), (std::vector<uint32_t>{all[3], all[4], 0xffffffff, 0xffffffff}));
-  EXPECT_EQ(next(all[4], 1), (std::vector<uint32_t>{kNowhere}));
-  EXPECT_EQ(next(all[4], 0), (std::vector<uint32_t>{}));
-  EXPECT_EQ(erase(all[1]), BF_SUCCESS);
-  EXPECT_EQ(next(all[1], 2), (std::vector<uint32_t>{all[3], all[4]})) << "from an erased one";
-  EXPECT_EQ(next(all[4] + 1, 1), (std::vector<uint32_t>{kNowhere})) << "never issued";
-  EXPECT_EQ(next(0, 1), (std::vector<uint32_t>{kNowhere}));
+  void add() {
+    const Where where = any_where();
+    const uint32_t value = any_value(), mask = any_mask();
+    uint32_t handle = kNowhere;
+    const bf_status_t expected = clash(where, value, mask) != nullptr ? BF_ALREADY_EXISTS
+                                 : is_full(where)                     ? BF_TABLE_FULL
+                                                                      : BF_SUCCESS;
+    ASSERT_EQ(pipe_mgr_pvs_entry_add(session, kDevice, kPortSet, where.direction,
+                                     static_cast<uint16_t>(where.pipe),
+                                     static_cast<uint8_t>(where.parser), value, mask, &handle),
+              expected);
+    if (expected != BF_SUCCESS) return;
+    ASSERT_TRUE(entries.empty() || handle > entries.back().handle);
+    entries.push_back({handle, where, value, mask});
+  }
+  void change() {
+    const uint32_t handle = any_entry(), value = any_value(), mask = any_mask();
+    Entry *entry = first([&](const Entry &e) { return e.handle == handle; });
+    bf_status_t expected = found(entry);
+    if (random.one_in(2)) {
+      ASSERT_EQ(pipe_mgr_pvs_entry_delete(session, kDevice, kPortSet, handle), expected);
+      if (entry != nullptr) entries.erase(entries.begin() + (entry - entries.data()));
+      return;
+    }
+    if (entry != nullptr && clash(entry->where, value, mask, entry) != nullptr) {
+      expected = BF_ALREADY_EXISTS;
+    }
+    ASSERT_EQ(pipe_mgr_pvs_entry_modify(session, kDevice, kPortSet, handle, value, mask), expected);
+    if (expected == BF_SUCCESS) entry->value = value, entry->mask = mask;
+  }
+  void limit() {
+    uint32_t read = kNowhere;
+    capacity = random.below(6);
+    OK(pipe_mgr_pvs_set_property(session, kDevice, kPortSet, PIPE_PVS_CAPACITY, capacity, 0, 0));
+    OK(pipe_mgr_pvs_get_property(session, kDevice, kPortSet, PIPE_PVS_CAPACITY, &read, 0, 0));
+    ASSERT_EQ(read, capacity);
+    EXPECT_EQ(pipe_mgr_pvs_set_property(session, kDevice, kPortSet, 2, 0, 0, 0),
+              BF_INVALID_ARGUMENT);
+    EXPECT_EQ(pipe_mgr_pvs_get_property(session, kDevice, kPortSet, 0, &read, 0, 0),
+              BF_INVALID_ARGUMENT);
+  }
+  void compare() {
+    const Where where = any_where();
+    const auto pipe = static_cast<uint16_t>(where.pipe);
+    const auto parser = static_cast<uint8_t>(where.parser);
+    const uint32_t value = any_value(), mask = any_mask();
+    uint32_t handle = kNowhere;
+    const Entry *same = clash(where, value, mask);
+    ASSERT_EQ(pipe_mgr_pvs_entry_handle_get(session, kDevice, kPortSet, where.direction, pipe,
+                                            parser, value, mask, &handle),
+              found(same));
+    ASSERT_EQ(handle, same == nullptr ? kNowhere : same->handle);
+    if (where.pipe != kAll && where.parser != SOFT_ALL_PARSERS) {
+      const Entry *hit = first([&](const Entry &e) {
+        return e.where.meets(where) && ((e.value ^ value) & e.mask) == 0;
+      });
+      handle = kNowhere;
+      ASSERT_EQ(soft_value_set_match(kDevice, kPortSet, where.direction, where.pipe, parser, value,
+                                     &handle),
+                found(hit));
+      ASSERT_EQ(handle, hit == nullptr ? kNowhere : hit->handle);
+    }
+    Words expected;
+    for (const Entry &entry : entries) {
+      if (!entry.where.meets(where)) continue;
+      expected.push_back(entry.handle);
+      uint32_t read[2] = {};
+      soft_parsers_t parsers{};
+      OK(pipe_mgr_pvs_entry_get(session, kDevice, kPortSet, entry.handle, read, read + 1));
+      OK(soft_value_set_parsers(kDevice, kPortSet, entry.handle, &parsers));
+      ASSERT_EQ(read[0], entry.value) << "as given, bits outside the mask included";
+      ASSERT_EQ(read[1], entry.mask);
+      ASSERT_EQ((Words{parsers.direction, parsers.pipe, parsers.parser}),
+                (Words{entry.where.direction, entry.where.pipe, entry.where.parser}));
+    }
+    uint32_t count = kNowhere;
+    OK(pipe_mgr_pvs_entry_get_count(session, kDevice, kPortSet, where.direction, pipe, parser, 0,
+                                    &count));
+    ASSERT_EQ(count, expected.size());
+    Words walked{0};
+    bf_status_t status = pipe_mgr_pvs_entry_get_first(session, kDevice, kPortSet, where.direction,
+                                                      pipe, parser, walked.data());
+    if (status != BF_SUCCESS) walked.clear();
+    while (status == BF_SUCCESS && walked.back() != kNone) {
+      Words next(1 + random.below(4));
+      status = pipe_mgr_pvs_entry_get_next(session, kDevice, kPortSet, where.direction, pipe,
+                                           parser, walked.back(),
+                                           static_cast<uint32_t>(next.size()), next.data());
+      if (status == BF_SUCCESS) walked.insert(walked.end(), next.begin(), next.end());
+    }
+    std::erase(walked, kNone);
+    ASSERT_EQ(walked, expected);
+  }
+
+  Random random{GetParam()};
+  std::vector<Entry> entries;  // the oldest first
+  uint32_t capacity = 0;
+};
+
+TEST_P(ValueSets, AgreeAfterRandomCalls) {
+  for (int step = 0; step < 3000 && !HasFailure(); ++step) {
+    SCOPED_TRACE(step);
+    const uint32_t what = random.below(40);
+    if (what < 12) {
+      add();
+    } else if (what < 22) {
+      change();
+    } else if (what == 22) {
+      limit();
+    } else {
+      compare();
+    }
+  }
 }
 
-TEST_F(ValueSets, RefusedCallsWriteNothing) {
-  uint32_t entry = kNowhere, mask = kNowhere;
-  EXPECT_EQ(add({2, 0}, 1, 1, &entry), BF_INVALID_PIPE);
+INSTANTIATE_TEST_SUITE_P(Seeds, ValueSets, testing::Range(1u, 4u));
+
+TEST_F(SoftTest, ValueSetsRefuseWhatNamesNoParser) {
+  uint32_t entry = kNowhere;
   EXPECT_EQ(pipe_mgr_pvs_entry_add(session, kDevice, kPortSet, 2, 0, 0, 1, 1, &entry),
             BF_INVALID_ARGUMENT);
-  EXPECT_EQ(pipe_mgr_pvs_entry_add(session, kDevice, kWordRegister, 0, 0, 0, 1, 1, &entry),
-            BF_INVALID_HANDLE);
-  EXPECT_EQ(soft_value_set_match(kDevice, kPortSet, 0, 0, kAllParsers, 1, &entry),
+  EXPECT_EQ(soft_value_set_match(kDevice, kPortSet, 0, 0, SOFT_ALL_PARSERS, 1, &entry),
             BF_INVALID_ARGUMENT);
-  EXPECT_EQ(soft_value_set_match(kDevice, kPortSet, 0, BF_ALL_PIPES, 0, 1, &entry),
-            BF_INVALID_PIPE);
-  EXPECT_EQ(erase(1), BF_OBJECT_NOT_FOUND);
-  EXPECT_EQ(pipe_mgr_pvs_entry_get(session, kDevice, kPortSet, 1, &entry, &mask),
-            BF_OBJECT_NOT_FOUND);
-  EXPECT_EQ(pipe_mgr_pvs_entry_modify(session, kDevice, kPortSet, 1, 0, 0), BF_OBJECT_NOT_FOUND);
+  EXPECT_EQ(soft_value_set_match(kDevice, kTypeSet, 0, 0, 0, 1, &entry), BF_OBJECT_NOT_FOUND);
+  for (const uint32_t from : {0u, 1u}) {  // never issued
+    EXPECT_EQ(pipe_mgr_pvs_entry_get_next(session, kDevice, kPortSet, 0, 0, 0, from, 1, &entry),
+              BF_OBJECT_NOT_FOUND);
+  }
   EXPECT_EQ(entry, kNowhere);
-  EXPECT_EQ(mask, kNowhere);
 }
 
 }  // namespace
