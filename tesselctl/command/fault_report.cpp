@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "tesselctl/text/files.hpp"
 #include "tesselctl/text/utf8.hpp"
 
 namespace tesselctl {
@@ -23,10 +24,9 @@ constexpr size_t kShown = 200;
 void print_fault(const Fault &fault, const SourceLine &from, Output &errors) {
   const std::string text =
       fault_text(fault, from.file.empty() ? "tesselctl" : from.file, from.line);
-  for (size_t at = 0; at < text.size();) {
-    const size_t end = std::min(text.find('\n', at), text.size());
-    errors.line("{}", errors.styled(Style::bad, printable(text.substr(at, end - at))));
-    at = end + 1;
+  std::string_view line;
+  for (const LineSource next = lines_of(text); next(line);) {
+    errors.line("{}", errors.styled(Style::bad, printable(line)));
   }
   std::string_view source = from.text;
   if (fault.column() == 0 || source.empty()) return;

@@ -83,7 +83,8 @@ constexpr Flag kFlags[] = {
 
 const Flag &need_flag(Word word) {
   if (const Flag *flag = find_flag(word.text)) return *flag;
-  const Word name = word.first(std::min(word.text.find('='), word.text.size()));
+  Word rest = word;
+  const Word name = take_until(rest, '=');
   Nearest near(name.text);
   for (const Flag &flag : kFlags) near.consider(flag.name);
   throw Fault(name, "no option has this name", near.name());
@@ -104,9 +105,7 @@ Word take_value(const Flag &flag, Words words, size_t &at) {
 
 bool has_word(std::string_view words, std::string_view word) {
   while (!words.empty()) {
-    const size_t end = std::min(words.find(' '), words.size());
-    if (words.substr(0, end) == word) return true;
-    words.remove_prefix(std::min(end + 1, words.size()));
+    if (take_until(words, ' ') == word) return true;
   }
   return false;
 }
@@ -152,7 +151,8 @@ TakenFlags take_flags(std::vector<Word> &words, Settings &settings) {
       throw Fault(word, "this option belongs to the command line that starts tesselctl");
     }
     flag.set(tool, take_value(flag, words, i));
-    taken.words.push_back(word.first(std::min(word.text.find('='), word.text.size())));
+    Word rest = word;
+    taken.words.push_back(take_until(rest, '='));
     taken.flags.push_back(&flag);
   }
   words = std::move(others);

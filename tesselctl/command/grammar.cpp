@@ -52,9 +52,7 @@ std::vector<Argument> grammar_of(std::string_view text) {
   std::vector<Argument> grammar;
   bool inside = false;
   for (size_t choice = 0; !text.empty(); ++choice) {
-    const size_t blank = std::min(text.find(' '), text.size());
-    std::string_view word = text.substr(0, blank);
-    text.remove_prefix(std::min(blank + 1, text.size()));
+    std::string_view word = take_until(text, ' ');
     Argument argument = peel(word, inside);
     argument.choice = choice;
     while (!word.empty()) {
@@ -74,9 +72,7 @@ std::vector<Argument> grammar_of(std::string_view text) {
 std::vector<std::string_view> alternatives_of(std::string_view value) {
   std::vector<std::string_view> alternatives;
   while (!value.empty()) {
-    const size_t bar = std::min(value.find('|'), value.size());
-    alternatives.push_back(value.substr(0, bar));
-    value.remove_prefix(std::min(bar + 1, value.size()));
+    alternatives.push_back(take_until(value, '|'));
   }
   return alternatives;
 }

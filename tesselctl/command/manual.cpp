@@ -1,5 +1,6 @@
 #include "tesselctl/command/manual.hpp"
 #include "tesselctl/command/topic.hpp"
+#include "tesselctl/text/files.hpp"
 
 #include "tesselctl/command/flags.hpp"
 
@@ -84,10 +85,8 @@ std::string commands() {
 
 std::string manual_page(std::string_view text) {
   std::string page;
-  while (!text.empty()) {
-    const size_t end = std::min(text.find('\n'), text.size());
-    const std::string_view line = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
+  std::string_view line;
+  for (const LineSource next = lines_of(text); next(line);) {
     if (line == "@options@") {
       page += tool_options();
     } else if (line == "@command options@") {

@@ -4,6 +4,7 @@
 
 #include <fmt/format.h>
 #include "tesselctl/completion/completion.hpp"
+#include "tesselctl/text/files.hpp"
 
 namespace tesselctl {
 
@@ -12,14 +13,6 @@ namespace {
 // Bytes that a word in double quotes cannot hold, or that would make it an option.
 bool must_be_encoded(char c, bool first) {
   return c == '"' || c == '%' || (first && c == '-') || static_cast<unsigned char>(c) < ' ';
-}
-
-// The text up to the tab, which is taken off with it.
-std::string_view take_part(std::string_view &line) {
-  const size_t tab = std::min(line.find('\t'), line.size());
-  const std::string_view part = line.substr(0, tab);
-  line.remove_prefix(std::min(tab + 1, line.size()));
-  return part;
 }
 
 }  // namespace
@@ -52,13 +45,11 @@ std::string decode_line(std::string_view text) {
 
 Completion read_completion(std::string_view answer) {
   Completion completion;
-  while (!answer.empty()) {
-    const size_t end = std::min(answer.find('\n'), answer.size());
-    std::string_view line = answer.substr(0, end);
-    answer.remove_prefix(std::min(end + 1, answer.size()));
-    const std::string_view start = take_part(line);
+  std::string_view line;
+  for (const LineSource next = lines_of(answer); next(line);) {
+    const std::string_view start = take_until(line, '\t');
     std::from_chars(start.data(), start.data() + start.size(), completion.start);
-    const std::string_view word = take_part(line);
+    const std::string_view word = take_until(line, '\t');
     if (word.empty()) {
       completion.hint = line;
     } else {

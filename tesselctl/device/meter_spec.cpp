@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+
 #include "tesselctl/program/value.hpp"
 
 namespace tesselctl {
@@ -21,20 +23,13 @@ p4_pd_bytes_meter_spec_t meter_spec(const MeterNumbers &numbers, uint32_t type) 
 }
 
 MeterNumbers parse_meter(Word text) {
-  static constexpr const char *kNames[] = {"the committed rate", "the committed burst",
-                                           "the peak rate", "the peak burst"};
+  const std::vector<uint64_t> list = number_list(text);
   MeterNumbers numbers = {};
-  Word rest = text;
-  for (size_t i = 0; i < numbers.size(); ++i) {
-    const size_t comma = rest.text.find(',');
-    const bool last = i + 1 == numbers.size();
-    if ((comma == std::string_view::npos) != last) {
-      throw Fault(text, "a meter is four numbers: CIR,CBS,PIR,PBS");
-    }
-    const Word number = last ? rest : rest.first(comma);
-    numbers[i] = static_cast<uint32_t>(parse_limited(number, 0xffffffffu, kNames[i]));
-    if (!last) rest = rest.from(comma + 1);
+  if (list.size() != numbers.size()) {
+    throw Fault(text, "a meter is four numbers: CIR,CBS,PIR,PBS");
   }
+  std::ranges::transform(list, numbers.begin(),
+                         [](uint64_t number) { return static_cast<uint32_t>(number); });
   return numbers;
 }
 

@@ -1,6 +1,4 @@
 // The command that writes a report.
-#include <optional>
-
 #include "tesselctl/command/command.hpp"
 #include "tesselctl/command/options.hpp"
 #include "tesselctl/command/output_file.hpp"
@@ -9,7 +7,6 @@
 #include "tesselctl/report/report.hpp"
 #include "tesselctl/state/changes.hpp"
 #include "tesselctl/state/image.hpp"
-#include "tesselctl/text/files.hpp"
 
 namespace tesselctl {
 
@@ -18,37 +15,11 @@ namespace {
 constexpr uint64_t kRows = 20;
 constexpr uint64_t kMostRows = 10'000;
 
-// The lines of a file, of which the first may be looked at beforehand.
-class ImageLines {
- public:
-  explicit ImageLines(const std::string &path) : lines_(path) {}
-
-  // Reads ahead to the pipes. Throws Fault.
-  uint32_t pipes(std::string_view file) {
-    return pipes_of_image(file, [&](std::string_view &line) {
-      if (!lines_.next(line)) return false;
-      ahead_.emplace_back(line);
-      return true;
-    });
-  }
-
-  bool next(std::string_view &line) {
-    if (given_ == ahead_.size()) return lines_.next(line);
-    line = ahead_[given_++];
-    return true;
-  }
-
- private:
-  FileLines lines_;
-  std::vector<std::string> ahead_;
-  size_t given_ = 0;
-};
-
 // What an image holds, by way of a device of its own.
 DeviceReport report_of_image(const Context &context, Word file, size_t rows) {
-  ImageLines lines(context.path(file));
-  const Device device({.id = free_device_id(), .pipes = lines.pipes(file.text)});
-  load_image(device, file.text, [&](std::string_view &line) { return lines.next(line); });
+  ImageSource image(context.path(file), file.text);
+  const Device device({.id = free_device_id(), .pipes = image.pipes()});
+  image.load(device);
   return collect_report(device, std::string(file.text), rows);
 }
 

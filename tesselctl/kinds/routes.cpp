@@ -289,12 +289,10 @@ bool load_routes(const Device &device, const RoutesOptions &options, Output &out
   for (const std::string &name : options.files) {
     const Clock::time_point start = Clock::now();
     FileLines lines(name);
-    files.push_back({name, parse_routes([&](std::string_view &line) { return lines.next(line); },
-                                        options.nexthop, limit,
-                                        [&](const RouteFault &fault) {
-                                          parse_faults.add(name, fault.line, fault.column,
-                                                           fault.message);
-                                        })});
+    files.push_back(
+        {name, parse_routes(lines.source(), options.nexthop, limit, [&](const RouteFault &fault) {
+           parse_faults.add(name, fault.line, fault.column, fault.message);
+         })});
     const RouteFile &routes = files.back().routes;
     out.line("{}: {} IPv4 and {} IPv6 prefixes, read in {:.3f} s", name,
              grouped(routes.ipv4.size()), grouped(routes.ipv6.size()), seconds_since(start));

@@ -7,6 +7,8 @@
 #include <cmath>
 #include <cstring>
 
+#include "tesselctl/text/words.hpp"
+
 namespace tesselctl {
 
 namespace {
@@ -140,6 +142,15 @@ uint64_t parse_limited(Word text, uint64_t limit, const std::string &what, uint6
   if (number->high == 0 && number->low <= limit && number->low >= least) return number->low;
   throw Fault(text, least == 0 ? fmt::format("{} is at most {}", what, limit)
                                : fmt::format("{} is {} to {}", what, least, limit));
+}
+
+std::vector<uint64_t> number_list(Word word, uint64_t limit) {
+  std::vector<uint64_t> numbers;
+  const bool is_open = word.text.ends_with(',');
+  while (!word.text.empty())
+    numbers.push_back(parse_limited(take_until(word, ','), limit, "a number"));
+  if (is_open) throw Fault(word, "a number needs a value");
+  return numbers;
 }
 
 float parse_real(Word text, std::string_view what) {

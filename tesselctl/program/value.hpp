@@ -33,6 +33,9 @@ FieldValue parse_value(const Field &field, Word text);
 // A number from least to limit; what says whose it is in the message.
 uint64_t parse_limited(Word text, uint64_t limit, const std::string &what, uint64_t least = 0);
 
+// The numbers of "1,2,3", up to a limit; none of an empty word. Throws Fault.
+std::vector<uint64_t> number_list(Word word, uint64_t limit = 0xffffffffu);
+
 // A real number of at least 0, in decimal notation.
 float parse_real(Word text, std::string_view what);
 

@@ -63,9 +63,8 @@ DeviceState::Part &DeviceState::part_at(const Place &place) {
 DeviceState DeviceState::of_file(const std::string &path, std::string_view shown) {
   DeviceState state;
   FileLines lines{path};
-  const auto next = [&](std::string_view &line) { return lines.next(line); };
   Part *part = nullptr;
-  read_image(shown, next, 0, [&](const ImageLine &line) {
+  read_image(shown, lines.source(), 0, [&](const ImageLine &line) {
     if (part == nullptr || part->kind != line.kind || part->object != line.object) {
       part = &state.part_at(place_of(*line.kind, line.object));
     }

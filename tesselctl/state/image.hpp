@@ -63,7 +63,21 @@ struct ImageLine {
 uint32_t read_image(std::string_view file, const LineSource &lines, uint32_t pipes,
                     const std::function<void(const ImageLine &)> &visit);
 
-// The pipes of an image, from its first two lines. Throws Fault.
-uint32_t pipes_of_image(std::string_view file, const LineSource &lines);
+// An image in a file, of which the pipes are known before there is a device for it.
+class ImageSource {
+ public:
+  // Faults name the file as shown. All throw Fault.
+  ImageSource(const std::string &path, std::string_view shown);
+
+  uint32_t pipes() const { return pipes_; }
+  // Once. See load_image.
+  LoadCounts load(const Device &device);
+
+ private:
+  FileLines lines_;
+  std::string shown_;
+  std::vector<std::string> first_;  // the lines that say the pipes
+  uint32_t pipes_ = 0;
+};
 
 }  // namespace tesselctl

@@ -4,42 +4,8 @@
 
 #include "tesselctl/device/device_copy.hpp"
 #include "tesselctl/text/interrupt.hpp"
-#include "tesselctl/text/number.hpp"
 
 namespace tesselctl {
-
-namespace {
-
-// The lines of an image, of which the first two are looked at before a device is made for it.
-class ImageLines {
- public:
-  explicit ImageLines(const std::string &path) : lines_(path) {
-    std::string_view line;
-    while (first_.size() < 2 && lines_.next(line)) first_.emplace_back(line);
-  }
-  // Of the device that was saved; nothing when the image does not say.
-  std::optional<uint32_t> pipes() const {
-    constexpr std::string_view kKeyword = "pipes ";
-    if (first_.size() < 2 || !first_[1].starts_with(kKeyword)) return {};
-    const auto pipes = parse_number(std::string_view(first_[1]).substr(kKeyword.size()));
-    if (!pipes || pipes->high != 0 || pipes->low < 1 || pipes->low > 8) return {};
-    return static_cast<uint32_t>(pipes->low);
-  }
-  LoadCounts load(const Device &device, std::string_view shown) {
-    size_t given = 0;
-    return load_image(device, shown, [&](std::string_view &line) {
-      if (given == first_.size()) return lines_.next(line);
-      line = first_[given++];
-      return true;
-    });
-  }
-
- private:
-  FileLines lines_;
-  std::vector<std::string> first_;
-};
-
-}  // namespace
 
 uint64_t save_image_file(const Device &device, const std::string &path) {
   FileWriter file{path};
@@ -54,7 +20,7 @@ uint64_t save_image_file(const Device &device, const std::string &path) {
 }
 
 LoadCounts load_image_file(const Device &device, const std::string &path, std::string_view shown) {
-  return ImageLines(path).load(device, shown);
+  return ImageSource(path, shown).load(device);
 }
 
 DeviceOfImage::DeviceOfImage(const DeviceOptions &device, const ImageOptions &image, ImageUse use,
@@ -78,10 +44,10 @@ DeviceOfImage::DeviceOfImage(const DeviceOptions &device, const ImageOptions &im
 }
 
 void DeviceOfImage::read_again() {
-  ImageLines lines(image_.path);
-  if (!image_.keep_pipes) options_.pipes = lines.pipes().value_or(options_.pipes);
+  ImageSource image(image_.path, image_.path);
+  if (!image_.keep_pipes) options_.pipes = image.pipes();
   device_.emplace(options_);
-  lines.load(*device_, image_.path);
+  image.load(*device_);
 }
 
 bool DeviceOfImage::is_worth_saving() const {

@@ -224,10 +224,6 @@ class OpenObjects {
   ItemBytes item_;
 };
 
-}  // namespace
-
-namespace {
-
 // Throws the fault of a line as one of the whole file.
 template <class Body>
 void in_line(std::string_view file, const ImageFrame &frame, Body body) {
@@ -256,11 +252,26 @@ uint32_t read_image(std::string_view file, const LineSource &lines, uint32_t pip
   return frame.pipes();
 }
 
-uint32_t pipes_of_image(std::string_view file, const LineSource &lines) {
+ImageSource::ImageSource(const std::string &path, std::string_view shown)
+    : lines_(path), shown_(shown) {
   ImageFrame frame(0);
   std::string_view text;
-  while (frame.pipes() == 0 && lines(text)) in_line(file, frame, [&] { frame.takes(text); });
-  return frame.pipes();
+  while (frame.pipes() == 0) {
+    const bool is_there = lines_.next(text);
+    in_line(shown, frame,
+            [&] { is_there ? static_cast<void>(frame.takes(text)) : frame.finish(); });
+    first_.emplace_back(text);
+  }
+  pipes_ = frame.pipes();
+}
+
+LoadCounts ImageSource::load(const Device &device) {
+  size_t given = 0;
+  return load_image(device, shown_, [&](std::string_view &line) {
+    if (given == first_.size()) return lines_.next(line);
+    line = first_[given++];
+    return true;
+  });
 }
 
 LoadCounts load_image(const Device &device, std::string_view file, const LineSource &lines) {

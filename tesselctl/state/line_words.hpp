@@ -33,15 +33,13 @@ class LineWords {
 
 // "KEYWORD REST" of a line.
 struct KeywordLine {
-  explicit KeywordLine(std::string_view text);
-  Word keyword;
+  explicit KeywordLine(std::string_view text) : rest{text, 1}, keyword(take_until(rest, ' ')) {}
   Word rest;
+  Word keyword;
 };
 
 // The decimal number that a line begins with: of something that is counted from there on. Throws
 // Fault.
 uint32_t parse_counted(ValueScanner &line, uint64_t from);
-// The numbers of "1,2,3", up to a limit; none of an empty word. Throws Fault.
-std::vector<uint64_t> number_list(Word word, uint64_t limit = 0xffffffffu);
 
 }  // namespace tesselctl

@@ -43,6 +43,10 @@ class FileBytes {
 // All the bytes. Throws Fault when they cannot be read.
 std::string read_input(const std::string &path);
 
+// Gives lines one by one, without their ends; false behind the last one.
+using LineSource = std::function<bool(std::string_view &line)>;
+LineSource lines_of(std::string_view text);
+
 // The lines of such a file, without their ends.
 class FileLines {
  public:
@@ -51,6 +55,10 @@ class FileLines {
   // False behind the last line. The line is good until the next call. Reads no more than the line
   // needs while the rest is not there yet. Throws Fault.
   bool next(std::string_view &line);
+  // The same; it does not outlive these.
+  LineSource source() {
+    return [this](std::string_view &line) { return next(line); };
+  }
 
  private:
   void fill();
@@ -62,10 +70,6 @@ class FileLines {
   bool at_end_ = false;
   uint64_t number_ = 0;  // of the lines that were given
 };
-
-// Gives lines one by one, without their ends; false behind the last one.
-using LineSource = std::function<bool(std::string_view &line)>;
-LineSource lines_of(std::string_view text);
 
 // The file of that name as seen from the directory: the name itself when it is absolute.
 std::string path_in(const std::string &directory, const std::string &name);

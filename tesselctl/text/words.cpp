@@ -1,5 +1,7 @@
 #include "tesselctl/text/words.hpp"
 
+#include <algorithm>
+
 namespace tesselctl {
 
 namespace {
@@ -7,6 +9,20 @@ namespace {
 bool is_space(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\v' || c == '\f'; }
 
 }  // namespace
+
+Word take_until(Word &text, char end) {
+  const size_t size = std::min(text.text.find(end), text.text.size());
+  const Word taken = text.first(size);
+  text = text.from(std::min(size + 1, text.text.size()));
+  return taken;
+}
+
+std::string_view take_until(std::string_view &text, char end) {
+  Word word = {text, 0};
+  const Word taken = take_until(word, end);
+  text = word.text;
+  return taken.text;
+}
 
 std::string_view trimmed(std::string_view line) {
   while (!line.empty() && is_space(line.front())) line.remove_prefix(1);

@@ -16,6 +16,10 @@ using Words = std::span<const Word>;
 // for a quote that does not end.
 void split_words(std::string_view line, std::vector<Word> &words);
 
+// Takes the text up to a character off its front, and that character with it; all without one.
+Word take_until(Word &text, char end);
+std::string_view take_until(std::string_view &text, char end);
+
 // Without the white space around it.
 std::string_view trimmed(std::string_view line);
 
