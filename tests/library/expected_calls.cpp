@@ -320,7 +320,7 @@ class Comparison {
 
 }  // namespace
 
-void compare_calls(const Scene &scene, const char *calls, StatesSeen &states) {
+void compare_calls(const Scene &scene, const std::string &calls, StatesSeen &states) {
   std::vector<std::string> ways = split(calls, " | ");
   // The second way is that of a direct resource.
   const size_t way = ways.size() > 1 && scene.table() != nullptr ? 1 : 0;

@@ -9,9 +9,10 @@
 
 namespace pd_test {
 
-// What the exports of a family do when they succeed.
+// What the exports of a family do when they succeed: a line of family_calls.txt.
 //
-// calls: "function(argument, ...)", one or several with "; " between. An argument is
+// calls: "function(argument, ...)", one or several with "; " between; behind a " | " those for a
+// direct resource. An argument is
 //   4711               this number
 //   session, pipe ...  the parameter of that name, by value or by address; device_id and pipe_id
 //                      are those of the target; "ttl?" is 0 where the export has no such parameter
@@ -34,9 +35,9 @@ namespace pd_test {
 //   meter, resources, ageing, wred, hash
 //                      the records that the scene gives
 struct FamilyCalls {
-  const char *family;
+  std::string family;
   size_t count;  // exports of the family
-  const char *calls;
+  std::string calls;
 };
 
 const std::vector<FamilyCalls> &family_calls();
@@ -50,6 +51,6 @@ bool hands_on(const FamilyCalls &row, std::string_view parameter);
 using StatesSeen = std::map<std::string, uintptr_t>;
 
 // Fails the test where the calls of a scene that was played differ from the text.
-void compare_calls(const Scene &scene, const char *calls, StatesSeen &states);
+void compare_calls(const Scene &scene, const std::string &calls, StatesSeen &states);
 
 }  // namespace pd_test

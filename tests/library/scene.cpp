@@ -32,73 +32,45 @@ enum Need : uint32_t {
   kSnapshot = 16384      // there is a snapshot with a capture
 };
 
-struct FamilyNeeds {
-  const char *family;
+struct Needs {
   uint32_t needs;
+  std::string_view families;
 };
 
-constexpr FamilyNeeds kFamilyNeeds[] = {
-    {"init", kDeregistered},
-    {"table_add", kNewKey},
-    {"add_entry", kNewKey},
-    {"add_entry_with_selector", kNewKey | kJoined},
-    {"modify_entry_with_selector", kJoined},
-    {"modify_entry_with_selector_by_match_spec", kJoined},
-    {"set_default_entry_with_selector", kJoined},
-    {"table_get_default_entry", kDefault},
-    {"table_get_default_entry_handle", kDefault},
-    {"get_first_entry_handle", kEntry},
-    {"get_next_entry_handles", kEntry | kSecond},
-    {"idle_params_get", kAgeing},
-    {"idle_tmo_disable", kAgeing},
-    {"set_ttl", kAgeing},
-    {"update_hit_state", kAgeing},
-    {"get_hit_state", kAgeing},
-    {"add_member_to_group", kGroup},
-    {"del_member_from_group", kJoined},
-    {"group_member_state_set", kJoined},
-    {"group_member_state_get", kJoined},
-    {"group_member_get_from_hash", kJoined},
-    {"get_first_group_member", kJoined},
-    {"get_next_group_members", kJoined | kSecond},
-    {"get_first_member", kMember},
-    {"get_next_members", kMember | kSecond},
-    {"get_first_group", kGroup},
-    {"get_next_groups", kGroup | kSecond},
-    {"get_entry_from_plcmt_data", kPlacement | kEntry},
-    {"get_indirect_entry_from_plcmt_data", kPlacement | kEntry},
-    {"get_member_from_plcmt_data", kPlacement | kMember},
-    {"get_full_member_info_from_plcmt_data", kPlacement | kMember},
-    {"restore_virtual_dev_state", kVirtual},
-    {"table_value", kEntry},
-    {"stringify_counter_match_spec", kEntry},
-    {"stringify_counter_matchspec", kEntry},
-    {"plcmt_data_print", kPlacement | kEntry},
-    {"plcmt_data_value", kPlacement | kEntry},
-    {"plcmt_data_eq_to_hw", kPlacement | kEntry},
-    {"adt_plcmt_data_print", kPlacement | kMember},
-    {"adt_plcmt_data_value", kPlacement | kMember},
-    {"by_handle_plcmt_data_print", kPlacement | kEntry},
-    {"by_handle_plcmt_data_value", kPlacement | kEntry},
-    {"by_handle_plcmt_data_eq_to_hw", kPlacement | kEntry},
-    {"by_handle_adt_plcmt_data_print", kPlacement | kMember},
-    {"by_handle_adt_plcmt_data_value", kPlacement | kMember},
-    {"by_handle_entry_value", kEntry},
-    {"by_handle_entry_hdl_first", kEntry},
-    {"by_handle_entry_hdl_next", kEntry | kSecond},
-    {"by_handle_entry_hdl_default", kDefault},
-    {"by_handle_member_hdl_next", kMember | kSecond},
-    {"digest_deregister", kDigest},
-    {"digest_notify_ack", kDigest},
-    {"pvs_entry_modify", kValueEntry},
-    {"pvs_entry_delete", kValueEntry},
-    {"pvs_entry_get", kValueEntry},
-    {"pvs_entry_handle_get", kValueEntry},
-    {"pvs_entry_get_first_entry_handle", kValueEntry},
-    {"pvs_entry_get_next_entry_handles", kValueEntry | kSecond},
-    {"snapshot_delete", kSnapshot},
-    {"snapshot_capture_trigger_set", kSnapshot},
-    {"snapshot_capture_data_get", kSnapshot},
+constexpr Needs kNeeds[] = {
+    {kDeregistered, " init "},
+    {kNewKey, " table_add add_entry "},
+    {kNewKey | kJoined, " add_entry_with_selector "},
+    {kJoined,
+     " modify_entry_with_selector modify_entry_with_selector_by_match_spec "
+     "set_default_entry_with_selector del_member_from_group group_member_state_set "
+     "group_member_state_get group_member_get_from_hash get_first_group_member "},
+    {kDefault,
+     " table_get_default_entry table_get_default_entry_handle by_handle_entry_hdl_default "},
+    {kEntry,
+     " get_first_entry_handle table_value stringify_counter_match_spec stringify_counter_matchspec "
+     "by_handle_entry_value by_handle_entry_hdl_first "},
+    {kEntry | kSecond, " get_next_entry_handles by_handle_entry_hdl_next "},
+    {kAgeing, " idle_params_get idle_tmo_disable set_ttl update_hit_state get_hit_state "},
+    {kGroup, " add_member_to_group get_first_group "},
+    {kJoined | kSecond, " get_next_group_members "},
+    {kMember, " get_first_member "},
+    {kMember | kSecond, " get_next_members by_handle_member_hdl_next "},
+    {kGroup | kSecond, " get_next_groups "},
+    {kPlacement | kEntry,
+     " get_entry_from_plcmt_data get_indirect_entry_from_plcmt_data plcmt_data_print "
+     "plcmt_data_value plcmt_data_eq_to_hw by_handle_plcmt_data_print by_handle_plcmt_data_value "
+     "by_handle_plcmt_data_eq_to_hw "},
+    {kPlacement | kMember,
+     " get_member_from_plcmt_data get_full_member_info_from_plcmt_data adt_plcmt_data_print "
+     "adt_plcmt_data_value by_handle_adt_plcmt_data_print by_handle_adt_plcmt_data_value "},
+    {kVirtual, " restore_virtual_dev_state "},
+    {kDigest, " digest_deregister digest_notify_ack "},
+    {kValueEntry,
+     " pvs_entry_modify pvs_entry_delete pvs_entry_get pvs_entry_handle_get "
+     "pvs_entry_get_first_entry_handle "},
+    {kValueEntry | kSecond, " pvs_entry_get_next_entry_handles "},
+    {kSnapshot, " snapshot_delete snapshot_capture_trigger_set snapshot_capture_data_get "},
 };
 
 bool is_by_handle(std::string_view family) { return family.starts_with("by_handle_"); }
@@ -134,10 +106,6 @@ const pdgen::Pair &richest_pair(const pdgen::Table &table) {
   return *std::ranges::max_element(table.pairs, {}, [](const pdgen::Pair &pair) {
     return pair.sent_in(pdgen::Operation::kAdd).size() * 2 + (pair.action->has_params() ? 1 : 0);
   });
-}
-
-void expect_done(const Arguments &arguments) {
-  EXPECT_EQ(arguments.status(), BF_SUCCESS) << arguments.exported().name << " of the scene";
 }
 
 }  // namespace
@@ -190,8 +158,9 @@ Scene::~Scene() {
 
 uint32_t Scene::find_needs() const {
   uint32_t needs = 0;
-  for (const FamilyNeeds &row : kFamilyNeeds) {
-    if (exported_.family == std::string_view(row.family)) needs = row.needs;
+  const std::string family = fmt::format(" {} ", exported_.family);
+  for (const Needs &row : kNeeds) {
+    if (row.families.find(family) != row.families.npos) needs = row.needs;
   }
   if (std::string_view(exported_.family).starts_with("hash_calc_")) needs |= kHash;
   for (const bindings::Parameter &parameter : exported_.parameter_list()) {
@@ -232,18 +201,21 @@ void Scene::set_up(uint32_t needs) {
 }
 
 p4_pd_status_t Scene::add_entry_of(const Bytes &match_spec, uint32_t *entry) {
-  const bool indirect = table_->indirect();
-  const pdgen::Pair *pair = indirect ? nullptr : &richest_pair(*table_);
-  Arguments add(indirect ? *find_export("add_entry", table_->name)
-                         : *find_export("table_add", table_->name, pair->action->name));
-  const Bytes spec = indirect ? Bytes() : random_record(record_of(*pair->action), random_);
-  add.set("match_spec", match_spec.data()).set("entry", entry);
-  if (add.takes("priority")) add.set("priority", priority_);
-  if (add.takes("action_spec")) add.set("action_spec", spec.data());
-  if (add.takes("meter_spec")) add.set("meter_spec", &meter_spec_);
-  if (add.takes("ttl")) add.set("ttl", uint64_t{50000});
-  if (add.takes("member")) add.set("member", uint64_t{member_});
+  const pdgen::Pair *pair = table_->indirect() ? nullptr : &richest_pair(*table_);
+  const Bytes spec = pair == nullptr ? Bytes() : random_record(record_of(*pair->action), random_);
+  Arguments add(pair == nullptr ? *find_export("add_entry", table_->name)
+                                : *find_export("table_add", table_->name, pair->action->name));
+  add.give(given(spec)).give({{"match_spec", word(match_spec.data())}, {"entry", word(entry)}});
   return add.status();
+}
+
+// What objects of the scene are made with.
+Given Scene::given(const Bytes &spec) const {
+  return {{"action_spec", word(spec.data())},
+          {"meter_spec", word(&meter_spec_)},
+          {"priority", priority_},
+          {"ttl", 50000},
+          {"member", member_}};
 }
 
 // The entry of a table without a key is its default entry.
@@ -265,45 +237,34 @@ void Scene::add_second_entry() {
 
 void Scene::set_default_entry() {
   if (table_->indirect()) {
-    Arguments set(*find_export("set_default_entry", table_->name));
-    return expect_done(set.set("member", uint64_t{member_}).set("entry", &entry_));
+    entry_ = make("set_default_entry", table_->name, "", given({}));
+    return;
   }
   const auto pair = std::ranges::find_if(table_->pairs, &pdgen::Pair::as_default);
   if (pair == table_->pairs.end()) return;
-  Arguments set(*find_export("set_default_action", table_->name, pair->action->name));
   const Bytes spec = random_record(record_of(*pair->action), random_);
-  if (set.takes("action_spec")) set.set("action_spec", spec.data());
-  if (set.takes("meter_spec")) set.set("meter_spec", &meter_spec_);
-  expect_done(set.set("entry", &entry_));
+  entry_ = make("set_default_action", table_->name, pair->action->name, given(spec));
 }
 
 uint32_t Scene::add_member(std::string_view action) {
   const pdgen::ProfileAction *pair = pair_of(*profile_, action);
   if (pair == nullptr) pair = &profile_->actions.front();
   member_action_ = pair->handle;
-  Arguments add(*find_export("add_member", profile_->name, pair->action->name));
   const Bytes spec = random_record(record_of(*pair->action), random_);
-  if (add.takes("action_spec")) add.set("action_spec", spec.data());
-  uint32_t member = 0;
-  expect_done(add.set("member", &member));
-  return member;
+  return make("add_member", profile_->name, pair->action->name, given(spec));
 }
 
 uint32_t Scene::create_group() {
-  Arguments create(*find_export("create_group", profile_->name));
-  uint32_t group = 0;
-  expect_done(create.set("max_size", uint64_t{8}).set("group", &group));
-  return group;
+  return make("create_group", profile_->name, "", {{"max_size", 8}});
 }
 
 void Scene::join(uint32_t member) {
-  Arguments add(*find_export("add_member_to_group", profile_->name));
-  expect_done(add.set("group", uint64_t{group_}).set("member", uint64_t{member}));
+  EXPECT_EQ(run("add_member_to_group", profile_->name, {{"group", group_}, {"member", member}}),
+            BF_SUCCESS);
 }
 
 void Scene::set_up_ageing() {
-  Arguments enable(*find_export("idle_tmo_enable", table_->name));
-  expect_done(enable.set("params", &kSceneAgeing));
+  EXPECT_EQ(run("idle_tmo_enable", table_->name, {{"params", word(&kSceneAgeing)}}), BF_SUCCESS);
 }
 
 void Scene::take_placement(uint32_t needs) {
@@ -320,10 +281,8 @@ void Scene::take_placement(uint32_t needs) {
 
 void Scene::add_value_entries() {
   for (uint64_t value = 21; value <= 22; ++value) {
-    uint32_t entry = 0;
-    Arguments add(*find_export("pvs_entry_add", exported_.object));
-    add.set("value", value).set("mask", uint64_t{23}).set("entry", &entry);
-    expect_done(add.set("target", &kSceneParser));
+    const uint32_t entry = make("pvs_entry_add", exported_.object, "",
+                                {{"value", value}, {"mask", 23}, {"target", word(&kSceneParser)}});
     if (value == 21) entry_ = entry;
   }
 }
@@ -335,9 +294,10 @@ void Scene::send_digest() {
     *static_cast<pipe_mgr_digest_message_t **>(cookie) = message;
     return BF_SUCCESS;
   };
-  Arguments listen(*find_export("digest_register", digest.name));
-  listen.set("callback", reinterpret_cast<const void *>(keep)).set("cookie", &message_);
-  expect_done(listen);
+  EXPECT_EQ(
+      run("digest_register", digest.name,
+          {{"callback", word(reinterpret_cast<const void *>(keep))}, {"cookie", word(&message_)}}),
+      BF_SUCCESS);
   const Bytes entry(digest.size, 0x11);
   EXPECT_EQ(
       soft_digest_inject(kDevice, kPipe, digest.handle, entry.data(), 1, digest.size, nullptr),
@@ -349,26 +309,26 @@ void Scene::send_digest() {
 void Scene::configure_hashes() {
   const p4_pd_hash_calc_attr_t attribute = {1, 0, 0x77};
   for (const pdgen::Hash &hash : program().hashes) {
-    expect_done(
-        Arguments(*find_export("hash_calc_input_set", hash.name)).set("input", uint64_t{0}));
-    Arguments algorithm(*find_export("hash_calc_algorithm_set", hash.name));
-    expect_done(algorithm.set("algorithm", uint64_t{0}));
-    Arguments set(*find_export("hash_calc_input_field_attribute_set", hash.name));
-    set.set("input", uint64_t{0}).set("attribute_count", uint64_t{1});
-    expect_done(set.set("attributes", &attribute));
+    for (const char *family : {"hash_calc_input_set", "hash_calc_algorithm_set",
+                               "hash_calc_input_field_attribute_set"}) {
+      EXPECT_EQ(run(family, hash.name,
+                    {{"input", 0},
+                     {"algorithm", 0},
+                     {"attribute_count", 1},
+                     {"attributes", word(&attribute)}}),
+                BF_SUCCESS);
+    }
   }
 }
 
 void Scene::take_snapshot() {
   const unsigned bytes = program().snapshots->record_bytes;
   const Bytes any(bytes);
-  Arguments create(*find_export("snapshot_create"));
-  create.set("pipe", uint64_t{kPipe}).set("direction", uint64_t{0});
-  create.set("first_stage", uint64_t{1}).set("last_stage", uint64_t{1});
-  expect_done(create.set("snapshot", &snapshot_));
-  Arguments trigger(*find_export("snapshot_capture_trigger_set"));
-  trigger.set("snapshot", uint64_t{snapshot_});
-  expect_done(trigger.set("value", any.data()).set("mask", any.data()));
+  snapshot_ = make("snapshot_create", "", "",
+                   {{"pipe", kPipe}, {"direction", 0}, {"first_stage", 1}, {"last_stage", 1}});
+  EXPECT_EQ(run("snapshot_capture_trigger_set", "",
+                {{"snapshot", snapshot_}, {"value", word(any.data())}, {"mask", word(any.data())}}),
+            BF_SUCCESS);
   uint32_t captures = 0;
   EXPECT_EQ(soft_snapshot_inject(kDevice, kPipe, 0, 1, any.data(), 1, bytes, &captures),
             BF_SUCCESS);

@@ -47,6 +47,7 @@ class Scene {
  private:
   uint32_t find_needs() const;
   void set_up(uint32_t needs);
+  Given given(const Bytes &spec) const;
   void add_entry();
   void add_second_entry();
   void set_default_entry();
