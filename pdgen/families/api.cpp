@@ -73,7 +73,11 @@ std::string without_missing(std::string_view statement, const std::vector<Parame
 
 std::vector<Scope> objects_of(const Block &block, const Scope &outer) {
   if (block.objects == nullptr) return {outer};
-  return block.objects->objects(outer);
+  std::vector<Scope> objects = block.objects->objects(outer);
+  if (block.order.text.empty()) return objects;
+  std::ranges::stable_sort(objects, {},
+                           [&](const Scope &object) { return filled_in(block.order, object); });
+  return objects;
 }
 
 void append(std::string &out, const Block &block, const Scope &outer);

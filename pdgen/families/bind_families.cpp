@@ -39,7 +39,8 @@ class Binder {
         diagnostics_.report(block.place, "each", "there is no \"each {}\" here", block.walk);
         return kinds;
       }
-      kinds.insert(kinds.end(), block.objects->kinds.begin(), block.objects->kinds.end());
+      kinds = kinds_within(kinds, *block.objects);
+      bind(kinds, block.order, "each");
     }
     has_group = has_group || !block.group.empty() || has_group_of_its_own(kinds);
     bind(kinds, block.where, block.place);

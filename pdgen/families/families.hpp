@@ -61,6 +61,7 @@ struct Block {
   Where where;
   std::string group;
   bool declares = false;  // C text for the header
+  StatedText order;       // objects are sorted by it; empty: as the catalogue orders them
   std::string separator;  // of what is written for one object and the next
   std::vector<std::variant<StatedFunction, StatedText, Block>> items;
   const Walk *objects = nullptr;  // bound

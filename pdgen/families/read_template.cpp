@@ -59,6 +59,8 @@ class TemplateReader {
     } else if (order.starts_with("each ")) {
       const std::string separator = cut_tail(order, "with");
       begin(where_of(cut_tail(order, "where")));
+      const std::string key = cut_tail(order, "by");
+      if (!key.empty()) open_.back().order = {place_, "<" + key + ">"};
       open_.back().walk = order.substr(5);
       if (!separator.empty()) open_.back().separator = separator_of(separator);
     } else {

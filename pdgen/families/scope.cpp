@@ -20,12 +20,6 @@ std::vector<Scope> only(std::vector<Scope> scopes, Condition holds) {
   return scopes;
 }
 
-template <auto Member>
-std::vector<Scope> sorted_by(std::vector<Scope> scopes) {
-  std::ranges::sort(scopes, [](S a, S b) { return value_of<Member>(a) < value_of<Member>(b); });
-  return scopes;
-}
-
 // The rows that references lead to, of a list of them or of rows with one reference each.
 template <typename Row>
 std::vector<Scope> each_target(S scope, const std::vector<Ref<Row>> &references) {
@@ -68,93 +62,59 @@ constexpr auto each_pair = each_with<&Table::pairs, &Pair::action>;
 constexpr auto each_label = each_with<&Program::labels, &Label::table>;
 
 const Walk kWalks[] = {
-    {"program", "table", {"table"}, each<&Program::tables>},
-    {"program", "action", {"action"}, each<&Program::actions>},
-    {"program", "profile", {"profile"}, each<&Program::profiles>},
-    {"program", "counter", {"resource", "counter"}, each<&Program::counters>},
-    {"program", "meter", {"resource", "meter"}, each<&Program::meters>},
-    {"program", "register", {"resource", "register"}, each<&Program::registers>},
-    {"program", "hash", {"hash"}, each<&Program::hashes>},
-    {"program", "digest", {"digest"}, each<&Program::digests>},
-    {"program", "value_set", {"value_set"}, each<&Program::value_sets>},
-    {"program", "label", {"table", "label"}, each_label},
-    {"program", "layout", {"layout"}, of_snapshots<&Snapshots::layouts>},
-    {"program", "captured_field", {"packet_field"}, of_snapshots<&Snapshots::capture>},
-    {"program", "handle", {"handle"}, each<&Program::handles>},
-    {"program", "direction", {"layout"}, each_direction},
-    {"program", "route_table", {"table"}, each_route_table},
-    {"program", "record_list", {"record_list"}, each<&Program::tool_records>},
-    {"program",
-     "table_by_handle",
-     {"table"},
-     [](S s) { return sorted_by<&Table::handle>(each<&Program::tables>(s)); }},
-    {"program",
-     "profile_by_handle",
-     {"profile"},
-     [](S s) { return sorted_by<&Profile::action_data_handle>(each<&Program::profiles>(s)); }},
-    {"program",
-     "label_by_handle",
-     {"table"},
-     [](S s) { return sorted_by<&Table::handle>(each_label(s)); }},
-    {"program",
-     "spec",
-     {"action"},
-     [](S s) {
-       return only(each<&Program::actions>(s), [](S a) { return a.get<Action>().has_params(); });
-     }},
-    {"table", "pair", {"action", "pair"}, each_pair},
-    {"table",
-     "default",
-     {"action", "default"},
+    {"program", "table", "table", each<&Program::tables>},
+    {"program", "action", "action", each<&Program::actions>},
+    {"program", "profile", "profile", each<&Program::profiles>},
+    {"program", "counter", "resource counter", each<&Program::counters>},
+    {"program", "meter", "resource meter", each<&Program::meters>},
+    {"program", "register", "resource register", each<&Program::registers>},
+    {"program", "hash", "hash", each<&Program::hashes>},
+    {"program", "digest", "digest", each<&Program::digests>},
+    {"program", "value_set", "value_set", each<&Program::value_sets>},
+    {"program", "label", "table label", each_label},
+    {"program", "layout", "layout", of_snapshots<&Snapshots::layouts>},
+    {"program", "captured_field", "packet_field", of_snapshots<&Snapshots::capture>},
+    {"program", "handle", "handle", each<&Program::handles>},
+    {"program", "direction", "layout", each_direction},
+    {"program", "route_table", "table", each_route_table},
+    {"program", "record_list", "record_list", each<&Program::tool_records>},
+    {"table", "pair", "action pair", each_pair},
+    {"table", "default", "action default",
      [](S s) { return only(each_pair(s), [](S pair) { return pair.get<Pair>().as_default; }); }},
-    {"table", "field", {"field"}, each<&Table::key>},
-    {"table", "record_field", {"record_field"}, each<&Table::record>},
-    {"table",
-     "wide_field",
-     {"record_field"},
-     [](S s) {
-       return only(each<&Table::record>(s),
-                   [](S field) { return field.get<RecordField>().storage_bytes == 16; });
-     }},
-    {"pair", "item", {"resource", "item"}, each_with<&Pair::all_items, &ResourceItem::resource>},
-    {"profile",
-     "member",
-     {"action", "member"},
-     each_with<&Profile::actions, &ProfileAction::action>},
-    {"action", "param", {"param"}, each<&Action::params>},
-    {"param", "cell", {"resource"}, [](S s) { return each_target(s, s.get<Param>().index_of); }},
-    {"digest", "digest_field", {"digest_field"}, each<&Digest::fields>},
-    {"layout", "packet_field", {"packet_field"}, each<&SnapshotLayout::fields>},
-    {"layout",
-     "swapped_field",
-     {"packet_field"},
+    {"table", "field", "field", each<&Table::key>},
+    {"table", "record_field", "record_field", each<&Table::record>},
+    {"pair", "item", "resource item", each_with<&Pair::all_items, &ResourceItem::resource>},
+    {"profile", "member", "action member", each_with<&Profile::actions, &ProfileAction::action>},
+    {"action", "param", "param", each<&Action::params>},
+    {"param", "cell", "resource", [](S s) { return each_target(s, s.get<Param>().index_of); }},
+    {"digest", "digest_field", "digest_field", each<&Digest::fields>},
+    {"layout", "packet_field", "packet_field", each<&SnapshotLayout::fields>},
+    {"layout", "swapped_field", "packet_field",
      [](S s) {
        return only(each<&SnapshotLayout::fields>(s),
                    [](S field) { return field.get<SnapshotField>().bytes > 1; });
      }},
-    {"label",
-     "item",
-     {"label_item"},
+    {"label", "item", "label_item",
      [](S s) {
        return only(each<&Label::items>(s),
                    [](S item) { return item.get<LabelItem>().kind != LabelKind::kSilent; });
      }},
-    {"label_item", "text", {"label_text"}, each<&LabelItem::texts>},
-    {"record_list", "record", {"record"}, each<&ToolRecords::records>},
-    {"record", "member", {"tool_member"}, each<&ToolRecord::members>},
-    {"record", "tool_field", {"tool_field"}, each<&ToolRecord::fields>},
-    {"tool_field", "part", {"part"}, each<&ToolField::parts>},
-    {"tool_field", "cell", {"cell"}, each<&ToolField::cells>},
-    {"program", "note", {"note"}, each<&Api::notes>},
-    {"program", "group", {"group"}, each<&Api::groups>},
-    {"program", "unit", {"unit"}, each<&Api::units>},
-    {"program", "export", {"export"}, each<&Api::exports>},
-    {"group", "function", {"function"}, each<&Group::functions>},
-    {"unit", "function", {"function"}, each<&Unit::functions>},
-    {"unit", "include", {"include"}, each<&Unit::includes>},
-    {"unit", "parameter_list", {"parameter_list"}, each<&Unit::lists>},
-    {"parameter_list", "parameter", {"parameter"}, each<&ParameterList::parameters>},
-    {"function", "parameter", {"parameter"}, each<&Function::parameters>},
+    {"label_item", "text", "label_text", each<&LabelItem::texts>},
+    {"record_list", "record", "record", each<&ToolRecords::records>},
+    {"record", "member", "tool_member", each<&ToolRecord::members>},
+    {"record", "tool_field", "tool_field", each<&ToolRecord::fields>},
+    {"tool_field", "part", "part", each<&ToolField::parts>},
+    {"tool_field", "cell", "cell", each<&ToolField::cells>},
+    {"program", "note", "note", each<&Api::notes>},
+    {"program", "group", "group", each<&Api::groups>},
+    {"program", "unit", "unit", each<&Api::units>},
+    {"program", "export", "export", each<&Api::exports>},
+    {"group", "function", "function", each<&Group::functions>},
+    {"unit", "function", "function", each<&Unit::functions>},
+    {"unit", "include", "include", each<&Unit::includes>},
+    {"unit", "parameter_list", "parameter_list", each<&Unit::lists>},
+    {"parameter_list", "parameter", "parameter", each<&ParameterList::parameters>},
+    {"function", "parameter", "parameter", each<&Function::parameters>},
 };
 
 const char *kind_text(TableKind kind) {
@@ -186,6 +146,15 @@ const Walk *find_walk(const Kinds &kinds, std::string_view name) {
     }
   }
   return nullptr;
+}
+
+Kinds kinds_within(Kinds kinds, const Walk &walk) {
+  for (std::string_view rest = walk.kinds; !rest.empty();) {
+    const std::size_t end = std::min(rest.find(' '), rest.size());
+    kinds.push_back(rest.substr(0, end));
+    rest.remove_prefix(std::min(end + 1, rest.size()));
+  }
+  return kinds;
 }
 
 std::string Scope::object() const {

@@ -55,14 +55,15 @@ using Kinds = std::vector<std::string_view>;
 struct Walk {
   std::string_view kind;
   std::string_view name;
-  Kinds kinds;
+  std::string_view kinds;  // words
   std::vector<Scope> (*objects)(const Scope &scope);
 };
 
 // Null if there is none in reach. Besides what the vocabulary lists, <KIND_count> is how many
-// objects "each KIND" has, "any KIND" whether there are any, and a condition in angle brackets is
-// true or false.
+// objects "each KIND" has, "any KIND [where CONDITION]" whether there are any, and a condition in
+// angle brackets is true or false.
 const Walk *find_walk(const Kinds &kinds, std::string_view name);
+Kinds kinds_within(Kinds kinds, const Walk &walk);
 std::function<std::string(const Scope &)> find_placeholder(const Kinds &kinds,
                                                            std::string_view name);
 std::function<bool(const Scope &)> find_condition(const Kinds &kinds, std::string_view name);

@@ -476,9 +476,14 @@ const Row *find_in_reach(const Row (&rows)[N], const Kinds &kinds, std::string_v
 
 std::function<bool(S)> find_condition(const Kinds &kinds, std::string_view name) {
   if (const Condition *row = find_in_reach(kConditions, kinds, name)) return row->holds;
-  const Walk *walk = name.starts_with("any ") ? find_walk(kinds, name.substr(4)) : nullptr;
+  if (!name.starts_with("any ")) return nullptr;
+  const std::size_t end = std::min(name.find(" where "), name.size());
+  const Walk *walk = find_walk(kinds, name.substr(4, end - 4));
   if (walk == nullptr) return nullptr;
-  return [walk](S scope) { return !walk->objects(scope).empty(); };
+  if (end == name.size()) return [walk](S scope) { return !walk->objects(scope).empty(); };
+  const auto holds = find_condition(kinds_within(kinds, *walk), name.substr(end + 7));
+  if (!holds) return nullptr;
+  return [walk, holds](S scope) { return std::ranges::any_of(walk->objects(scope), holds); };
 }
 
 std::function<Text(S)> find_placeholder(const Kinds &kinds, std::string_view name) {
