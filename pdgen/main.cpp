@@ -53,17 +53,6 @@ pdgen::Families load_families(const std::string &directory, pdgen::Diagnostics &
   return pdgen::load_families(files, diagnostics);
 }
 
-// Two exports of one name are a fault of the catalogue that shows only here.
-pdgen::Diagnostics check(const pdgen::Api &api) {
-  std::vector<pdgen::ExportedFunction> functions;
-  for (const pdgen::Function &function : api.functions) {
-    functions.push_back({function.name, function.object});
-  }
-  pdgen::Diagnostics diagnostics;
-  pdgen::check_exports(api.program, functions, diagnostics);
-  return diagnostics;
-}
-
 // A file that is checked in has an option of its own, all others are for the build folder.
 pdgen::OutputFiles output_files(const pdgen::Api &api, const pdgen::Families &families,
                                 Options &options) {
@@ -98,7 +87,9 @@ int main(int argc, char **argv) {
   if (report(diagnostics.text())) return 1;
   pdgen::Api api = pdgen::build_api(*loaded.program, families);
   api.soname = soname(options);
-  if (report(check(api).text())) return 1;
+  // Two C names that are the same are a fault of the catalogue that shows only here.
+  pdgen::check_distinct(api.names, "C name", diagnostics);
+  if (report(diagnostics.text())) return 1;
   std::string message;
   if (output_files(api, families, options).write(message)) return 0;
   fmt::print(stderr, "pdgen: {}\n", message);

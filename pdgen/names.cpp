@@ -12,12 +12,6 @@ namespace pdgen {
 
 std::string name_prefix(const Program &program) { return "p4_pd_" + program.name + "_"; }
 
-std::string width_function(const Program &program, const Table &table, const KeyField &field) {
-  return fmt::format("{}{}_{}_width", name_prefix(program), table.name, field.width_name);
-}
-
-// --- Records, enumerations and data ---------------------------------------------------------
-
 std::string match_spec_type(const Program &program, const Table &table) {
   return fmt::format("{}{}_match_spec_t", name_prefix(program), table.name);
 }
@@ -26,48 +20,11 @@ std::string action_spec_type(const Program &program, const Action &action) {
   return fmt::format("{}{}_action_spec_t", name_prefix(program), action.name);
 }
 
-std::string action_specs_type(const Program &program) {
-  return name_prefix(program) + "action_specs_t";
-}
-
-std::string action_names_type(const Program &program) {
-  return name_prefix(program) + "action_names_t";
-}
-
-std::string action_constant(const Program &program, const Action &action) {
-  return name_prefix(program) + action.name;
-}
-
-std::string action_name_strings(const Program &program) {
-  return name_prefix(program) + "action_name_strings";
-}
-
-std::string hash_field_attr_type(const Program &program) {
-  return name_prefix(program) + "hash_field_attr_t";
-}
-
-std::string snapshot_trigger_type(const Program &program, const SnapshotLayout &layout) {
-  return fmt::format("{}snapshot_{}_trigger_t", name_prefix(program), layout.name);
-}
-
-std::string snapshot_capture_type(const Program &program) {
-  return name_prefix(program) + "snapshot_capture_t";
-}
-
-std::string type_tag(const std::string &type) { return type.substr(0, type.size() - 2); }
-std::string size_constant(const Program &program, std::string_view family) {
-  return in_capitals(fmt::format("{}{}", name_prefix(program), family));
-}
-
 std::string param_member(const Param &param) { return "action_" + param.name; }
 
-std::string mask_member(std::string_view field) { return fmt::format("{}_mask", field); }
-
-std::string prefix_length_member(std::string_view field) {
-  return fmt::format("{}_prefix_length", field);
+std::string companion_member(const KeyField &field) {
+  return field.name + (field.match == Match::kTernary ? "_mask" : "_prefix_length");
 }
-
-std::string_view padding_member() { return "reserved"; }
 
 // --- Names that tools show ------------------------------------------------------------------
 
@@ -163,12 +120,6 @@ const FieldHint *hint_of(std::string_view field, unsigned width, const FieldFact
   return nullptr;
 }
 
-std::string mask_cli_name(std::string_view cli_name) { return fmt::format("{}Mask", cli_name); }
-
-std::string prefix_length_cli_name(std::string_view cli_name) {
-  return fmt::format("{}PrefixLength", cli_name);
-}
-
 CapturedPart captured_part(const Snapshots &snapshots, std::string_view name) {
   const std::size_t end = name.find_last_not_of("0123456789");
   if (end == name.npos || name[end] != '_' || end + 1 == name.size()) return {};
@@ -177,39 +128,6 @@ CapturedPart captured_part(const Snapshots &snapshots, std::string_view name) {
   if (digits.size() > 4 || (digits.size() > 1 && digits[0] == '0')) return {};
   return {find_row(snapshots.capture, name.substr(0, end)),
           static_cast<unsigned>(std::atoi(digits.data()))};
-}
-
-// --- All of them ----------------------------------------------------------------------------
-
-std::vector<DerivedName> declared_names(const Program &program) {
-  std::vector<DerivedName> names = {
-      {action_names_type(program), "the program", program.place},
-      {action_specs_type(program), "the program", program.place},
-      {action_name_strings(program), "the program", program.place},
-      {hash_field_attr_type(program), "the program", program.place},
-  };
-  for (const std::string_view family : kSizeFamilies) {
-    names.push_back({size_constant(program, family), "the program", program.place});
-  }
-  for (const Action &action : program.actions) {
-    const std::string origin = "action " + action.name;
-    names.push_back({action_constant(program, action), origin, action.place});
-    if (action.has_params()) {
-      names.push_back({action_spec_type(program, action), origin, action.place});
-    }
-  }
-  for (const Table &table : program.tables) {
-    const std::string origin = "table " + table.name;
-    if (table.keyed()) names.push_back({match_spec_type(program, table), origin, table.place});
-  }
-  if (program.snapshots) {
-    names.push_back({snapshot_capture_type(program), "the snapshots", program.snapshots->place});
-    for (const SnapshotLayout &layout : program.snapshots->layouts) {
-      names.push_back(
-          {snapshot_trigger_type(program, layout), "layout " + layout.name, layout.place});
-    }
-  }
-  return names;
 }
 
 }  // namespace pdgen

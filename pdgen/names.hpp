@@ -1,5 +1,5 @@
-// Derived names: those of records and their members, of constants and data, and the names that
-// tools show. Each formula stands here once; the names of functions stand in the families.
+// Derived names: those of records and their members, and the names that tools show. All other names
+// stand in the families and outputs.
 #pragma once
 
 #include <string>
@@ -13,34 +13,14 @@ namespace pdgen {
 // "p4_pd_<program>_", the beginning of every C name.
 std::string name_prefix(const Program &program);
 
-// <prefix><table>_<field>_width; a validity bit is named by its header.
-std::string width_function(const Program &program, const Table &table, const KeyField &field);
-
-// --- Records, enumerations and data ---------------------------------------------------------
-
+// The types of records.
 std::string match_spec_type(const Program &program, const Table &table);
 std::string action_spec_type(const Program &program, const Action &action);
-std::string action_specs_type(const Program &program);  // tagged union of the action records
-std::string action_names_type(const Program &program);  // the action enumeration
-std::string action_constant(const Program &program, const Action &action);
-std::string action_name_strings(const Program &program);   // array of the full action names
-std::string hash_field_attr_type(const Program &program);  // record of the by-name attributes
-std::string snapshot_trigger_type(const Program &program, const SnapshotLayout &layout);
-std::string snapshot_capture_type(const Program &program);
 
-// The tag of a struct or enumeration: its type name without the ending.
-std::string type_tag(const std::string &type);
-// P4_PD_<PROGRAM>_<family>, in capitals: "SCHEMA_MAX". All that the header declares:
-std::string size_constant(const Program &program, std::string_view family);
-inline constexpr std::string_view kSizeFamilies[] = {
-    "ACTION_COUNT",     "ACTION_NAME_MAX", "SCHEMA_MAX", "MATCH_SPEC_VALUE_MAX",
-    "ACTION_VALUE_MAX", "VALUE_MAX",       "LABEL_MAX"};
-
-// Members of the records.
-std::string param_member(const Param &param);              // action_<param>
-std::string mask_member(std::string_view field);           // <field>_mask
-std::string prefix_length_member(std::string_view field);  // <field>_prefix_length
-std::string_view padding_member();                         // what fills a snapshot record up
+// Members of records.
+std::string param_member(const Param &param);             // action_<param>
+std::string companion_member(const KeyField &field);      // <field>_mask, <field>_prefix_length
+inline constexpr std::string_view kPadding = "reserved";  // what fills a snapshot record up
 
 // --- Names that tools show ------------------------------------------------------------------
 
@@ -63,9 +43,6 @@ std::string long_name(std::string_view member);
 // The hint that a field has by its name or width, null if there is none.
 const FieldHint *hint_of(std::string_view field, unsigned width, const FieldFacts &facts);
 
-std::string mask_cli_name(std::string_view cli_name);           // <name>Mask
-std::string prefix_length_cli_name(std::string_view cli_name);  // <name>PrefixLength
-
 // A part of a captured field that is too long for a layout: <field>_<number>, numbered from the
 // most significant. No whole if the name is none of a part.
 struct CapturedPart {
@@ -73,18 +50,5 @@ struct CapturedPart {
   unsigned number = 0;
 };
 CapturedPart captured_part(const Snapshots &snapshots, std::string_view name);
-
-// --- All of them ----------------------------------------------------------------------------
-
-// A C name of the program's header and the row that it is made from.
-struct DerivedName {
-  std::string name;
-  std::string origin;  // "table fdb", for messages
-  Place place;
-};
-
-// The types, enumeration constants and data of the header. Functions are listed by the emitters;
-// check_exports (check.hpp) looks for clashes among all of them.
-std::vector<DerivedName> declared_names(const Program &program);
 
 }  // namespace pdgen

@@ -1,6 +1,7 @@
 // The rules between rows. Rules within a row are checked where the row is read.
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -22,14 +23,16 @@ void check_names(const Program &program, Diagnostics &diagnostics);
 // Whether a resource row of a table goes with one of its pairs.
 bool applies_to(const ResourceRow &row, const Pair &pair);
 
-// A function that the emitters derived, and the object it is made for (empty: the program).
-struct ExportedFunction {
-  std::string_view name;
-  std::string_view object;
+// A name and the row that it is made from.
+struct MadeName {
+  std::string name;
+  std::string origin;  // "table fdb"
+  Place place;
+  std::string key = "name";
 };
 
-// Reports each C name that is made twice, among the functions and the declared names.
-void check_exports(const Program &program, const std::vector<ExportedFunction> &functions,
-                   Diagnostics &diagnostics);
+// Reports each name that two rows make; `kind` is what it is the name of.
+void check_distinct(const std::vector<MadeName> &names, std::string_view kind,
+                    Diagnostics &diagnostics);
 
 }  // namespace pdgen

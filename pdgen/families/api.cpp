@@ -121,6 +121,11 @@ class Builder {
     }
   }
 
+  // Behind those of the functions: where two clash, the fault is the declaration's.
+  void add_declared_names() {
+    api_.names.insert(api_.names.end(), declared_.begin(), declared_.end());
+  }
+
  private:
   // The share of the objects that a unit takes: units of about equal size compile at a time.
   struct Share {
@@ -139,14 +144,28 @@ class Builder {
         if (const auto *function = std::get_if<StatedFunction>(&item)) {
           if (holds(function->where, scope)) add(*function, scope, title);
         } else if (const auto &inner = std::get<Block>(item); inner.declares) {
-          std::string &text = group_of(title).declarations;
-          if (!text.empty()) text += '\n';
-          append_items(text, inner, scope);
+          declare(inner, scope, title);
         } else {
           add(inner, scope, group, {});
         }
       }
     }
+  }
+
+  void declare(const Block &block, const Scope &scope, const std::string &group) {
+    for (const StatedText &name : block.declared) {
+      add_name(declared_, filled_in(name, scope), scope);
+    }
+    if (block.items.empty()) return;
+    std::string &text = group_of(group).declarations;
+    if (!text.empty()) text += '\n';
+    append_items(text, block, scope);
+  }
+
+  static void add_name(std::vector<MadeName> &names, std::string name, const Scope &scope) {
+    Owner owner = scope.owner();
+    names.push_back(
+        {std::move(name), owner.name.empty() ? "the program" : owner.name, owner.place});
   }
 
   void add(const StatedFunction &stated, const Scope &scope, const std::string &group) {
@@ -162,7 +181,8 @@ class Builder {
           "return " + without_missing(filled_in(stated.statement, scope), function.parameters);
     }
     function.family = stated.family;
-    function.object = scope.object();
+    function.object = scope.owner().name;
+    add_name(api_.names, function.name, scope);
     const bool of_object = scope.find<Table>() != nullptr || scope.find<Profile>() != nullptr;
     const Action *action = scope.find<Action>();
     if (of_object && action != nullptr) function.action = action->name;
@@ -189,6 +209,7 @@ class Builder {
 
   Api &api_;
   Scope program_;
+  std::vector<MadeName> declared_;
   std::map<std::string, std::string> lists_;  // of the unit, by their parameters
 };
 
@@ -203,7 +224,8 @@ Api build_api(const Program &program, const Families &families) {
   Api api(program);
   Builder builder(api);
   for (const Family &family : families.families) builder.add(family);
-  api.exports = {"bf_drv_hdl", action_name_strings(program)};
+  builder.add_declared_names();
+  api.exports = {"bf_drv_hdl", name_prefix(program) + "action_name_strings"};
   for (const Function &function : api.functions) api.exports.push_back(function.name);
   std::sort(api.exports.begin(), api.exports.end());
   return api;

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "pdgen/check/check.hpp"
 #include "pdgen/families/families.hpp"
 #include "pdgen/model.hpp"
 #include "pdgen/text.hpp"
@@ -70,6 +71,7 @@ struct Api {
   std::vector<Group> groups;
   std::vector<Unit> units;
   std::vector<std::string> exports;  // sorted
+  std::vector<MadeName> names;       // of functions and of what the header declares
 };
 
 // The whole interface. The families have no fault; without them, those that were compiled in.

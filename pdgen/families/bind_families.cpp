@@ -46,6 +46,7 @@ class Binder {
     bind(kinds, block.where, block.place);
     if (!has_group)
       diagnostics_.report(block.place, "each", "nothing says under which title this stands");
+    for (StatedText &name : block.declared) bind(kinds, name, "declare");
     for (auto &item : block.items) {
       if (auto *function = std::get_if<StatedFunction>(&item)) {
         bind(kinds, *function);

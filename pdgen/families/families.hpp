@@ -60,7 +60,8 @@ struct Block {
   std::string walk;  // "" for the objects of the block around it
   Where where;
   std::string group;
-  bool declares = false;  // C text for the header
+  bool declares = false;             // C text for the header
+  std::vector<StatedText> declared;  // the names in it
   StatedText order;       // objects are sorted by it; empty: as the catalogue orders them
   std::string separator;  // of what is written for one object and the next
   std::vector<std::variant<StatedFunction, StatedText, Block>> items;

@@ -78,10 +78,14 @@ class FamilyReader {
     if (head.starts_with("each ")) block.walk = head.substr(5);
     while (const TextLine *line = lines_.next(indent)) {
       const Place at = lines_.place(*line);
-      if (line->text == "declare") {
+      if (line->text.starts_with("declare")) {
         block.items.emplace_back(
             read_template(lines_.verbatim(indent + 2), at, nullptr, diagnostics_));
-        std::get<Block>(block.items.back()).declares = true;
+        Block &declaration = std::get<Block>(block.items.back());
+        declaration.declares = true;
+        for (const std::string &name : words(line->text.substr(7))) {
+          declaration.declared.push_back({at, name});
+        }
       } else if (line->text.starts_with("each ")) {
         block.items.emplace_back(read_block(line->text, at, indent + 2));
       } else {

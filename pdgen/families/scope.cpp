@@ -131,10 +131,10 @@ std::string table_group(const Table &table) {
 }
 
 template <typename Row, typename... Rest>
-std::string first_name(S scope) {
-  if (const Row *row = scope.find<Row>()) return row->name;
-  if constexpr (sizeof...(Rest) > 0) return first_name<Rest...>(scope);
-  return "";
+Owner first_owner(S scope) {
+  if (const Row *row = scope.find<Row>()) return {row->name, row->place};
+  if constexpr (sizeof...(Rest) > 0) return first_owner<Rest...>(scope);
+  return {"", scope.get<Program>().place};
 }
 
 }  // namespace
@@ -157,8 +157,8 @@ Kinds kinds_within(Kinds kinds, const Walk &walk) {
   return kinds;
 }
 
-std::string Scope::object() const {
-  return first_name<Table, Profile, Action, Resource, Hash, Digest, ValueSet>(*this);
+Owner Scope::owner() const {
+  return first_owner<Table, Profile, Action, Resource, Hash, Digest, ValueSet>(*this);
 }
 
 std::string Scope::group() const {

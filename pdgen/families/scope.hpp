@@ -13,6 +13,12 @@
 
 namespace pdgen {
 
+// The object that functions belong to, "" for the program.
+struct Owner {
+  std::string name;
+  Place place;
+};
+
 // The object of each enclosing "each"; null where there is none.
 class Scope {
  public:
@@ -31,8 +37,7 @@ class Scope {
     return *find<Row>();
   }
 
-  // The object that its functions belong to, "" for the program.
-  std::string object() const;
+  Owner owner() const;
   // Their group in the header, "" where the families must say it.
   std::string group() const;
 

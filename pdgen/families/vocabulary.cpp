@@ -61,10 +61,11 @@ Text origin(S s) {
       s.get<Program>().name);
 }
 
-// The type that the header declares, without its ending.
-template <auto TypeName, typename... Rows>
+// The type of a record, without its ending.
+template <auto TypeName, typename Row>
 Text tag(S scope) {
-  return type_tag(TypeName(scope.get<Program>(), scope.get<Rows>()...));
+  const std::string type = TypeName(scope.get<Program>(), scope.get<Row>());
+  return type.substr(0, type.size() - 2);
 }
 
 Text profile_index(S s) {
@@ -79,9 +80,10 @@ bool is_partial(S s) {
 
 bool is_keyed(S s) { return s.get<Table>().keyed(); }
 
-Text companion(const KeyField &field) {
-  if (field.match == Match::kTernary) return mask_member(field.name);
-  return field.match == Match::kLpm ? prefix_length_member(field.name) : field.name;
+// The member that goes with the value in the core: itself for an exact one.
+Text companion(S s) {
+  const KeyField &field = s.get<KeyField>();
+  return field.match == Match::kExact ? field.name : companion_member(field);
 }
 
 // The byte of that number, 0 the least significant.
@@ -162,9 +164,10 @@ Text digits_at(const ValueText &value) {
 // --- Labels ---
 
 Text place_in_record(const KeyField &field) {
-  const std::string mask = field.match == Match::kTernary ? mask_member(field.name) : field.name;
-  return fmt::format("{{offsetof(Record, {}), offsetof(Record, {}), {}, {}}}", field.name, mask,
-                     field.storage_bytes, hex32(static_cast<std::uint32_t>(field.key_bits.lower)));
+  const bool exact = field.match == Match::kExact;
+  return fmt::format("{{offsetof(Record, {}), offsetof(Record, {}), {}, {}}}", field.name,
+                     exact ? field.name : companion_member(field), field.storage_bytes,
+                     hex32(static_cast<std::uint32_t>(field.key_bits.lower)));
 }
 
 bool is_number(const LabelItem &item) {
@@ -200,11 +203,6 @@ const Placeholder kPlaceholders[] = {
     {"program", "PROGRAM", [](S s) { return in_capitals(s.get<Program>().name); }},
     {"program", "origin", origin},
     {"program", "soname", text<&Api::soname>},
-    {"program", "action_names", tag<action_names_type>},
-    {"program", "action_name_strings", [](S s) { return action_name_strings(s.get<Program>()); }},
-    {"program", "action_specs", tag<action_specs_type>},
-    {"program", "hash_field_attr", tag<hash_field_attr_type>},
-    {"program", "capture", tag<snapshot_capture_type>},
     {"program", "snapshot_bytes",
      [](S s) { return text_of(s.get<Program>().snapshots ? snapshots(s).record_bytes : 0); }},
     {"program", "capture_limit", [](S s) { return text_of(snapshots(s).capture_limit); }},
@@ -258,7 +256,7 @@ const Placeholder kPlaceholders[] = {
      [](S s) { return quoted_lines(match_spec_lines(s.get<Program>(), s.get<Table>())); }},
     {"field", "name", text<&KeyField::name>},
     {"field", "field", text<&KeyField::width_name>},
-    {"field", "companion", [](S s) { return companion(s.get<KeyField>()); }},
+    {"field", "companion", companion},
     {"field", "offset", text<&KeyField::offset>},
     {"field", "storage", text<&KeyField::storage_bytes>},
     {"field", "width", text<&KeyField::width>},
@@ -341,7 +339,6 @@ const Placeholder kPlaceholders[] = {
     {"value_set", "value_set", text<&ValueSet::name>},
     {"value_set", "handle", hex<&ValueSet::handle>},
     {"layout", "layout", text<&SnapshotLayout::name>},
-    {"layout", "trigger", tag<snapshot_trigger_type, SnapshotLayout>},
     {"layout", "padding", [](S s) { return text_of(padding(s, s.get<SnapshotLayout>().fields)); }},
     {"packet_field", "name", text<&SnapshotField::name>},
     {"packet_field", "offset", text<&SnapshotField::offset>},
@@ -490,10 +487,6 @@ std::function<Text(S)> find_placeholder(const Kinds &kinds, std::string_view nam
   if (const Placeholder *row = find_in_reach(kPlaceholders, kinds, name)) return row->text;
   if (const auto holds = find_condition(kinds, name)) {
     return [holds](S scope) { return Text(holds(scope) ? "true" : "false"); };
-  }
-  if (std::find(std::begin(kSizeFamilies), std::end(kSizeFamilies), name) !=
-      std::end(kSizeFamilies)) {
-    return [name = Text(name)](S scope) { return size_constant(scope.get<Program>(), name); };
   }
   constexpr std::string_view kCount = "_count";
   if (!name.ends_with(kCount)) return nullptr;

@@ -57,37 +57,24 @@ void name_fields(Table &table, const FieldFacts &facts) {
   }
 }
 
-RecordField companion(const KeyField &field, std::size_t index) {
-  RecordField member;
-  member.key_index = index;
-  if (field.match == Match::kTernary) {
-    member.role = RecordRole::kMask;
-    member.name = mask_member(field.name);
-    member.cli_name = mask_cli_name(field.cli_name);
-    member.width = field.width;
-    member.storage_bytes = field.storage_bytes;
-  } else {
-    member.role = RecordRole::kPrefixLength;
-    member.name = prefix_length_member(field.name);
-    member.cli_name = prefix_length_cli_name(field.cli_name);
-    member.width = 16;
-    member.storage_bytes = 2;
-  }
-  return member;
-}
-
 void lay_out_record(Table &table) {
   for (std::size_t i = 0; i < table.key.size(); ++i) {
     const KeyField &field = table.key[i];
-    RecordField value;
-    value.key_index = i;
-    value.name = field.name;
-    value.cli_name = field.cli_name;
-    value.hint = field.hint;
-    value.width = field.width;
-    value.storage_bytes = field.storage_bytes;
-    table.record.push_back(value);
-    if (field.match != Match::kExact) table.record.push_back(companion(field, i));
+    table.record.push_back({RecordRole::kValue, i, field.name, field.cli_name, field.hint,
+                            field.width, field.storage_bytes});
+    if (field.match == Match::kExact) continue;
+    RecordField companion = table.record.back();
+    companion.role = RecordRole::kMask;
+    companion.name = companion_member(field);
+    companion.cli_name += "Mask";
+    companion.hint = Hint::kNone;
+    if (field.match == Match::kLpm) {
+      companion.role = RecordRole::kPrefixLength;
+      companion.cli_name = field.cli_name + "PrefixLength";
+      companion.width = 16;
+      companion.storage_bytes = 2;
+    }
+    table.record.push_back(std::move(companion));
   }
   table.record_bytes = lay_out(table.record);
 }

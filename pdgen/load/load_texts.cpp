@@ -100,7 +100,7 @@ void read_snapshot_fields(RowReader &row, const char *key, unsigned record_bytes
   unsigned end = 0;
   row.rows(key, "field", "name", fields, [&](RowReader &reader, SnapshotField &field) {
     reader.name(field);
-    if (field.name == padding_member()) {
+    if (field.name == kPadding) {
       reader.report("name", "{} is the name of a record's padding", field.name);
     }
     field.offset = end;

@@ -220,7 +220,7 @@ ToolRecord trigger_record(const Program &program, const SnapshotLayout &layout) 
   RecordBuilder builder(program.field_facts);
   for (const SnapshotField &field : layout.fields) {
     add_bytes(builder, program, field.name, field.offset, field.bytes, false);
-    builder.add_companion({.name = mask_member(field.name),
+    builder.add_companion({.name = field.name + "_mask",
                            .role = RecordRole::kMask,
                            .offset = std::to_string(size + field.offset),
                            .storage = field.bytes,

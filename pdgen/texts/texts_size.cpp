@@ -83,7 +83,7 @@ TextSizes text_sizes(const Program &program) {
   }
   for (const Action &action : program.actions) {
     raise(sizes.action_value, action_value(action).text.size() + 1);
-    raise(sizes.action_name, action_constant(program, action).size() + 1);
+    raise(sizes.action_name, name_prefix(program).size() + action.name.size() + 1);
   }
   // A program may have no keyed table and no label; their functions write a NUL at most.
   raise(sizes.match_spec_value, 1);

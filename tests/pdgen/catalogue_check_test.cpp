@@ -1,7 +1,7 @@
 // What a catalogue must hold, and how much it may.
 #include <gtest/gtest.h>
 
-#include "pdgen/check/check.hpp"
+#include "pdgen/families/api.hpp"
 #include "pdgen/load/load.hpp"
 
 namespace pdgen {
@@ -54,24 +54,20 @@ TEST(CatalogueFaults, NeededFilesMustBeThereAndOthersMustBeKnown) {
                 "file or directory\n");
 }
 
-TEST(ExportClashes, ArePlacedAtTheLaterRow) {
-  const LoadResult result = load_program(kSourceDir + "/tests/pdgen/fixtures/tiny");
+// The constant of an action and a function of the program.
+TEST(CNames, MayNotBeMadeTwice) {
+  const LoadResult result = load_program(
+      {{"a/program.toml", "name = \"least\""},
+       {"a/actions.toml", "actions = [{ name = \"init\", value = 0 }]"},
+       {"a/tables.toml",
+        "[[table]]\nname = \"only\"\nhandle = 0x01000001\n"
+        "actions = [{ action = \"init\", handle = 0x20000001, default = true }]"}});
   ASSERT_TRUE(result.program) << result.diagnostics.text();
-  const auto clashes = [&](const std::vector<ExportedFunction> &functions) {
-    Diagnostics found;
-    check_exports(*result.program, functions, found);
-    std::string text;
-    for (const auto &fault : found.sorted()) text += fault.message + "\n";
-    return text;
-  };
-  EXPECT_EQ(clashes({{"p4_pd_tiny_init", ""}, {"p4_pd_tiny_seen_value", "seen"}}), "");
-  // A function takes the name of the constant of action discard, another is derived twice.
-  const std::string tiny = kSourceDir + "/tests/pdgen/fixtures/tiny";
-  EXPECT_EQ(
-      clashes({{"p4_pd_tiny_discard", ""}, {"p4_pd_tiny_x", "fib4"}, {"p4_pd_tiny_x", "seen"}}),
-      "action discard and the program at " + tiny +
-          "/program.toml:3 make the same C name p4_pd_tiny_discard\nseen and fib4 at " + tiny +
-          "/tables.toml:42 make the same C name p4_pd_tiny_x\n");
+  Diagnostics clashes;
+  check_distinct(build_api(*result.program).names, "C name", clashes);
+  EXPECT_EQ(clashes.text(),
+            "a/actions.toml:1: name: init and the program at a/program.toml:1 make the same C name "
+            "p4_pd_least_init\n");
 }
 
 }  // namespace
