@@ -14,7 +14,7 @@
 
 namespace pdgen {
 
-struct Scope;
+class Scope;
 struct Walk;
 
 // "where NAME" or "where not NAME"; always if the name is empty.

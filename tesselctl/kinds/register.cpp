@@ -69,12 +69,12 @@ class RegisterItems : public NumberItems {
     return {.name = "values", .limit = low_ones(reg.width).low, .count = 0};
   }
   // The values that most cells have: those of the last one.
-  Numbers common(const Device &device) const { return read(device, kLastCell); }
-  Numbers read(const Device &device, uint64_t index) const {
+  Numbers common(const Device &device) const { return read_values(device, kLastCell); }
+  Numbers read_values(const Device &device, uint64_t index) const {
     return read_cell(device, reg_, index, P4_PD_READ_FROM_HARDWARE, {});
   }
-  void write(const Device &device, const uint64_t *index, std::span<const uint64_t> values,
-             Word word) const {
+  void write_values(const Device &device, const uint64_t *index, std::span<const uint64_t> values,
+                    Word word) const {
     if (values.size() != device.pipes()) {
       throw Fault(word, fmt::format("there should be {} values, one a pipe", device.pipes()));
     }
@@ -101,11 +101,12 @@ class CommonValues : public RegisterItems {
   // Cells that have another value keep it.
   void write_numbers(Target &to, Edit edit, const Numbers &values, Word word) const override {
     std::vector<std::pair<uint64_t, Numbers>> others;
-    for_each_cell(to.device, reg_.handle,
-                  [&](uint64_t index) { others.emplace_back(index, read(to.device, index)); });
+    for_each_cell(to.device, reg_.handle, [&](uint64_t index) {
+      others.emplace_back(index, read_values(to.device, index));
+    });
     const Numbers zeros(to.device.pipes());
-    write(to.device, nullptr, edit == Edit::remove ? zeros : values, word);
-    for (const auto &[index, kept] : others) write(to.device, &index, kept, word);
+    write_values(to.device, nullptr, edit == Edit::remove ? zeros : values, word);
+    for (const auto &[index, kept] : others) write_values(to.device, &index, kept, word);
   }
 };
 
@@ -126,7 +127,8 @@ class RegisterCells : public RegisterItems {
   }
   void write_numbers(Target &to, Edit edit, const Numbers &cell, Word word) const override {
     const Numbers all = edit == Edit::remove ? common(to.device) : Numbers();
-    write(to.device, cell.data(), edit == Edit::remove ? all : std::span(cell).subspan(1), word);
+    write_values(to.device, cell.data(), edit == Edit::remove ? all : std::span(cell).subspan(1),
+                 word);
   }
 };
 
