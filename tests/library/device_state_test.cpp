@@ -64,15 +64,13 @@ class DeviceState : public LibraryTest {
       const auto &actions = pdgen::find_row(program().profiles, name)->actions;
       std::vector<uint32_t> made;
       for (uint32_t i = 0; i < groups; ++i) {
-        made.push_back(
-            make("create_group", name, "", {{"target", word(&target)}, {"max_size", 0}}));
+        made.push_back(make("create_group", name, "", with("target", &target, "max_size", 0)));
       }
       for (uint32_t i = 0; i < members; ++i) {
-        const uint32_t member =
-            make("add_member", name, actions[i % actions.size()].action->name,
-                 {{"target", word(&target)}, {"action_spec", word(spec.data())}});
+        const uint32_t member = make("add_member", name, actions[i % actions.size()].action->name,
+                                     with("target", &target, "action_spec", spec.data()));
         EXPECT_EQ(run("add_member_to_group", name,
-                      {{"device", device}, {"group", made[i % groups]}, {"member", member}}),
+                      with("device", device, "group", made[i % groups], "member", member)),
                   BF_SUCCESS);
       }
     }

@@ -15,14 +15,13 @@ class EntryText : public LibraryTest {
  protected:
   static uint32_t add_cpu_encap() {
     const Spec key = key_spec("cpuEncap"), spec = action_spec("trapPktToCpuUntagged");
-    return make(
-        "table_add", "cpuEncap", "trapPktToCpuUntagged",
-        {{"match_spec", word(key.data())}, {"action_spec", word(spec.data())}, {"priority", 1}});
+    return make("table_add", "cpuEncap", "trapPktToCpuUntagged",
+                with("match_spec", key.data(), "action_spec", spec.data(), "priority", 1));
   }
   static uint32_t add_hop() {
     const Spec spec = action_spec("setEcmpNextHop");
     return make("add_member", "ecmpMemberActionProfile", "setEcmpNextHop",
-                {{"action_spec", word(spec.data())}});
+                with("action_spec", spec.data()));
   }
 
   // Placement data as that of an entry of cpuEncap: printed, it is a message.
@@ -35,14 +34,6 @@ class EntryText : public LibraryTest {
                           static_cast<int>(status));
               }),
               "cannot decode plcmt_data for p4_pd_tessel_switch_cpuEncap\n");
-    PD(cpuEncap_match_spec_t) match = {9, 9, 9, 9, 9, 9, 9, 9};
-    PD(action_specs_t) specs = {kUnwritten, {}};
-    uint32_t priority = kUnwritten;
-    bool no_key = true;
-    EXPECT_EQ(PD(cpuEncap_get_entry_from_plcmt_data)(placement, &match, &priority, &specs, &no_key),
-              status);
-    EXPECT_TRUE(match.egrMd_trapToCpu == 9 && specs.action == kUnwritten && no_key);
-    EXPECT_EQ(priority, kUnwritten);
     EXPECT_EQ(PD(cpuEncap_plcmt_data_eq_to_hw)(session(), kDevice, kCpuEncap, 1, placement), 0);
   }
 };
@@ -109,7 +100,7 @@ TEST_F(EntryText, EntriesThatPointAtNothing) {
             "((( 0x0012,),),(0,True))");
 
   const uint32_t entry =
-      make("add_entry", "ecmpGroup", "", {{"match_spec", word(&read)}, {"member", add_hop()}});
+      make("add_entry", "ecmpGroup", "", with("match_spec", &read, "member", add_hop()));
   const auto equal = PD(ecmpGroup_plcmt_data_eq_to_hw);
   EXPECT_EQ(equal(session(), kOther, table, lost, at_nothing.object), 1);
   EXPECT_EQ(equal(session(), kDevice, table, entry, at_nothing.object), 0);
@@ -135,13 +126,9 @@ TEST_F(EntryText, UnknownHandlesAreAnsweredWithoutACall) {
         TextBuffer buffer;
         uint32_t handles[2] = {1, 1};
         Arguments asked(*find_export("by_handle_" + std::string(family)));
-        asked.give({{"table_handle", unknown},
-                    {"profile_handle", unknown},
-                    {"entry", 1},
-                    {"member", 1},
-                    {"placement", word(entry.object)},
-                    {"read_from_hardware", 0},
-                    {"buffer", word(buffer.data())}});
+        asked.give(with("table_handle", unknown, "profile_handle", unknown, "entry", 1, "member", 1,
+                        "placement", entry.object, "read_from_hardware", 0, "buffer",
+                        buffer.data()));
         const bool yields_handles = asked.takes("target");
         const bool members = family == std::string_view("member_hdl_next");
         const auto expect_first = [&](uint32_t first) {
@@ -174,7 +161,7 @@ TEST_F(EntryText, HandlesLeadAlongEntriesAndMembers) {
     const PD(ipv4ShortMaskLpm_match_spec_t) key = {7, 0x0a010200 + (i << 8), 24};
     const PD(setNextHop_action_spec_t) action = {i};
     entries[i] = make("table_add", "ipv4ShortMaskLpm", "setNextHop",
-                      {{"match_spec", word(&key)}, {"action_spec", word(&action)}});
+                      with("match_spec", &key, "action_spec", &action));
   }
   uint32_t handles[2] = {};
   EXPECT_EQ(PD(entry_hdl_first)(session(), kTarget, kRoutes, handles), BF_SUCCESS);
@@ -209,7 +196,7 @@ TEST_F(EntryText, HandlesLeadAlongEntriesAndMembers) {
 TEST_F(EntryText, LabelsAreReadFromTheHardware) {
   const Spec key = key_spec("finalDropControl", "ingMd_bcast=1/1");
   const uint32_t entry = make("table_add", "finalDropControl", "dropCount",
-                              {{"match_spec", word(key.data())}, {"priority", 1}});
+                              with("match_spec", key.data(), "priority", 1));
   TextBuffer buffer;
   const Call read = only_call([&] {
     EXPECT_EQ(buffer.text(PD(stringify_counter_matchspec)(session(), kDevice, 0x0100006a, entry,

@@ -110,12 +110,8 @@ TEST_F(Hashes, AreFoundByTheirExactNames) {
           "hash_calc_input_field_attribute_get_by_name"}) {
       const auto calls = recorded([&] {
         EXPECT_EQ(run(family, "",
-                      {{"name", word(name)},
-                       {"count", word(&count)},
-                       {"attribute_count", 1},
-                       {"max_count", 1},
-                       {"attributes", word(&attribute)},
-                       {"filled", word(&count)}}),
+                      with("name", name, "count", &count, "attribute_count", 1, "max_count", 1,
+                           "attributes", &attribute, "filled", &count)),
                   P4_PD_UNKNOWN_SELECTION)
             << family;
       });

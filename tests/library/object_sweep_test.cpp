@@ -41,18 +41,11 @@ struct Read {
   Read(const Export &exported, const pdgen::Table *table, const Given &where)
       : from(&exported), match_spec(table == nullptr ? 0 : record_of(*table).size, 0xee) {
     Arguments read(exported);
-    read.give({{"read_from_hardware", 0},
-               {"match_spec", word(match_spec.data())},
-               {"priority", word(&priority)},
-               {"action_specs", word(action_specs.data())},
-               {"action", word(action_specs.data())},
-               {"action_spec", word(&action_specs[4])},
-               {"action_name", word(action_name.data())},
-               {"member", word(&member)},
-               {"group", word(&group)},
-               {"has_member", word(&has_member)},
-               {"has_group", word(&has_group)},
-               {"no_key", word(&no_key)}})
+    read.give(with("read_from_hardware", 0, "match_spec", match_spec.data(), "priority", &priority,
+                   "action_specs", action_specs.data(), "action", action_specs.data(),
+                   "action_spec", &action_specs[4], "action_name", action_name.data(), "member",
+                   &member, "group", &group, "has_member", &has_member, "has_group", &has_group,
+                   "no_key", &no_key))
         .give(where);
     EXPECT_EQ(read.status(), BF_SUCCESS) << exported.name;
   }
@@ -79,24 +72,21 @@ class ObjectSweep : public LibraryTest {
                       const pdgen::Table &table, const std::string &action, const Contents &given,
                       const Pointee &pointee = {"", 0}) {
     if (pointee.is_group()) family += "_with_selector";
-    return make(family, table.name, action,
-                {{"target", word(&target)},
-                 {"match_spec", word(given.match.data())},
-                 {"action_spec", word(given.spec.data())},
-                 {"meter_spec", word(&given.meter)},
-                 {"priority", given.priority},
-                 {pointee.kind, pointee.handle}});
+    return make(
+        family, table.name, action,
+        with("target", &target, "match_spec", given.match.data(), "action_spec", given.spec.data(),
+             "meter_spec", &given.meter, "priority", given.priority, pointee.kind, pointee.handle));
   }
   static void remove(const p4_pd_device_target_t &target, const pdgen::Table &table,
                      uint32_t entry) {
-    EXPECT_EQ(run("table_delete", table.name, {{"device", target.device_id}, {"entry", entry}}),
+    EXPECT_EQ(run("table_delete", table.name, with("device", target.device_id, "entry", entry)),
               BF_SUCCESS);
   }
 
   // Twice, by the table's function and by the handle's.
   static bool equals(const pdgen::Table &table, uint32_t entry, const Placement &placed) {
-    const Given given = {
-        {"table_handle", table.handle}, {"entry", entry}, {"placement", word(placed.object)}};
+    const Given given =
+        with("table_handle", table.handle, "entry", entry, "placement", placed.object);
     const auto equal =
         Arguments(*find_export("plcmt_data_eq_to_hw", table.name)).give(given).call();
     EXPECT_EQ(Arguments(*find_export("by_handle_plcmt_data_eq_to_hw")).give(given).call(), equal);
@@ -135,12 +125,12 @@ class ObjectSweep : public LibraryTest {
   static std::string key_value(const pdgen::Table &table, const Read &read) {
     if (read.no_key != 0) return "(),";
     return written(*find_export("match_spec_value", table.name),
-                   {{"match_spec", word(read.match_spec.data())}},
+                   with("match_spec", read.match_spec.data()),
                    P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX);
   }
   static std::string action_value(const pdgen::Action &action, const Read &read) {
     return written(*find_export("action_value", action.name),
-                   {{"action_spec", word(&read.action_specs[4])}},
+                   with("action_spec", &read.action_specs[4]),
                    P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX);
   }
   static void print_key(int file, const pdgen::Table &table, const Read &read) {
@@ -183,16 +173,16 @@ class ObjectSweep : public LibraryTest {
                            Expect expect, Value value, Print print) {
     Placement placed = Placement::of_entry(kOld.device_id, table.handle, entry);
     const char *get = table.indirect() ? "get_indirect_entry" : "get_entry";
-    const Given where = {{"device", kOld.device_id}, {"entry", entry}};
+    const Given where = with("device", kOld.device_id, "entry", entry);
     const Read read(*find_export(get, table.name), &table, where);
     const Read decoded(*find_export(get + std::string("_from_plcmt_data"), table.name), &table,
-                       {{"placement", word(placed.object)}});
+                       with("placement", placed.object));
     for (const Read *each : {&read, &decoded}) {
       expect_key(table, *each, key);
       expect(*each);
     }
     expect_texts("plcmt_data", table.name,
-                 {{"table_handle", table.handle}, {"placement", word(placed.object)}},
+                 with("table_handle", table.handle, "placement", placed.object),
                  "(" + key_value(table, decoded) + value(decoded) + ")", [&](int file) {
                    print_key(file, table, decoded);
                    print(file, decoded);
@@ -202,7 +192,7 @@ class ObjectSweep : public LibraryTest {
     const std::string whole = "((" + key_value(table, decoded) + value(decoded) + "),(" +
                               std::to_string(priority) + ",True))";
     Arguments shown(*find_export("table_value", table.name));
-    shown.give({{"read_from_hardware", 0}}).give(where);
+    shown.give(with("read_from_hardware", 0)).give(where);
     TextBuffer buffer;
     EXPECT_EQ(buffer.text(shown.set("buffer", word(buffer.data())).call()), whole);
     return placed;
@@ -280,16 +270,16 @@ class ObjectSweep : public LibraryTest {
   static uint32_t add_member(const p4_pd_device_target_t &target, const pdgen::Profile &profile,
                              const pdgen::Action &action, const Bytes &spec) {
     return make("add_member", profile.name, action.name,
-                {{"target", word(&target)}, {"action_spec", word(spec.data())}});
+                with("target", &target, "action_spec", spec.data()));
   }
   // A member and a group with it.
   static std::vector<Pointee> add_pointees(const p4_pd_device_target_t &target,
                                            const pdgen::Profile &profile) {
     const uint32_t member = add_member(target, profile, *profile.actions.front().action, Bytes(64));
     const uint32_t group =
-        make("create_group", profile.name, "", {{"target", word(&target)}, {"max_size", 4}});
+        make("create_group", profile.name, "", with("target", &target, "max_size", 4));
     EXPECT_EQ(run("add_member_to_group", profile.name,
-                  {{"device", target.device_id}, {"group", group}, {"member", member}}),
+                  with("device", target.device_id, "group", group, "member", member)),
               BF_SUCCESS);
     return {{"member", member}, {"group", group}};
   }
@@ -345,7 +335,7 @@ TEST_F(ObjectSweep, DefaultEntriesOfEveryAction) {
       const Contents given = contents_for(table, &*pair.action);
       const uint32_t old_entry = set_default(kOld, given);
       const Placement placed = examine_direct(table, pair, old_entry, given, false);
-      const Given old = {{"target", word(&kOld)}};
+      const Given old = with("target", &kOld);
       EXPECT_EQ(make("table_get_default_entry_handle", table.name, "", old), old_entry);
       expect_action(
           Read(*find_export("table_get_default_entry", table.name), &table, old), *pair.action,
@@ -395,7 +385,7 @@ TEST_F(ObjectSweep, EntriesThatPointAtMembersAndGroups) {
         const Placement defaulted =
             examined(add("set_default_entry", kOld, table, "", given, pointee), nullptr);
         expect_pointee(Read(*find_export("table_get_default_entry", table.name), &table,
-                            {{"target", word(&kOld)}}),
+                            with("target", &kOld)),
                        pointee);
         for (const Pointee &held : pointees) {
           const bool same = &held == &pointee;
@@ -427,10 +417,8 @@ TEST_F(ObjectSweep, MembersOfEveryAction) {
       const uint32_t member = add_member(kOld, profile, *pair.action, spec);
       const Placement placed =
           Placement::of_member(kOld.device_id, profile.action_data_handle, member);
-      const Given given = {{"device", kOld.device_id},
-                           {"member", member},
-                           {"placement", word(placed.object)},
-                           {"profile_handle", profile.action_data_handle}};
+      const Given given = with("device", kOld.device_id, "member", member, "placement",
+                               placed.object, "profile_handle", profile.action_data_handle);
       std::optional<Read> read;
       for (const char *family :
            {"get_member", "get_member_from_plcmt_data", "get_full_member_info_from_plcmt_data"}) {

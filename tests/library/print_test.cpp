@@ -67,51 +67,44 @@ TEST(Print, LongIndentsAndFailures) {
 
 // ---- Address helpers ----
 
-template <class Helper, class... Argument>
-std::string helped(Helper helper, const char *label, Argument... arguments) {
-  TextBuffer buffer(160);
-  const int length = helper(buffer.data(), label, arguments...);
-  if (length != 0) return buffer.text(length);
-  EXPECT_TRUE(buffer.is_untouched());
-  return "(nothing)";
-}
-
-TEST(Address, V4) {
-  EXPECT_EQ(helped(p4_pd_tessel_switch__print_v4addr_exact, "sip", 0xc0a8010au),
-            "sip 192.168.1.10 ");
-  const auto lpm = p4_pd_tessel_switch__print_v4addr_lpm;
-  EXPECT_EQ(helped(lpm, "dip", 0xffffffffu, uint16_t{0}), "dip 255.255.255.255/0 ");
-  EXPECT_EQ(helped(lpm, "", 1u, uint16_t{65535}), " 0.0.0.1/65535 ");
-  const auto ternary = p4_pd_tessel_switch__print_v4addr_ternary;
-  EXPECT_EQ(helped(ternary, "dip", 0x0a000001u, 0xff00ff00u), "dip 10.0.0.1/8 ");
-  EXPECT_EQ(helped(ternary, "dip", 0x0a000001u, 0xffffffffu), "dip 10.0.0.1/32 ");
-  EXPECT_EQ(helped(ternary, "dip", 0x0a000001u, 1u), "dip 10.0.0.1/0 ");
-  EXPECT_EQ(helped(ternary, "dip", 0x0a000001u, 0u), "(nothing)");
-}
-
-TEST(Address, V6) {
+TEST(Address, OfEveryKind) {
   const uint8_t address[16] = {0x20, 0x01, 0x0d, 0xb8, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1};
   const uint8_t low[16] = {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1};
   const uint8_t none[16] = {};
-  EXPECT_EQ(helped(p4_pd_tessel_switch__print_v6addr_exact, "dip", address), "dip 2001:db8::1");
-  EXPECT_EQ(helped(p4_pd_tessel_switch__print_v6addr_lpm, "dip", address, uint16_t{64}),
-            "dip 2001:db8::1/64 ");
-  const auto ternary = p4_pd_tessel_switch__print_v6addr_ternary;
-  EXPECT_EQ(helped(ternary, "dip", address, low), "dip 2001:db8::1/::1 ");
-  EXPECT_EQ(helped(ternary, "dip", address, none), "(nothing)");
-}
-
-TEST(Address, Mac) {
-  EXPECT_EQ(helped(p4_pd_tessel_switch__print_mac_exact, "dmac", 0xff001122u, 0xff334455u),
-            "dmac 0011.2233.4455 ");
-  const auto ternary = [](uint32_t oui_mask, uint32_t station_mask) {
-    return helped(p4_pd_tessel_switch__print_mac_ternary, "dmac", 0x001122u, oui_mask, 0x334455u,
-                  station_mask);
+  const struct {
+    const char *helper;
+    const char *label;
+    std::vector<uint64_t> values;
+    const char *text;  // empty: nothing is written
+  } rows[] = {
+      {"v4addr_exact", "sip", {0xc0a8010a}, "sip 192.168.1.10 "},
+      {"v4addr_lpm", "dip", {0xffffffff, 0}, "dip 255.255.255.255/0 "},
+      {"v4addr_lpm", "", {1, 65535}, " 0.0.0.1/65535 "},
+      {"v4addr_ternary", "dip", {0x0a000001, 0xff00ff00}, "dip 10.0.0.1/8 "},
+      {"v4addr_ternary", "dip", {0x0a000001, 0xffffffff}, "dip 10.0.0.1/32 "},
+      {"v4addr_ternary", "dip", {0x0a000001, 1}, "dip 10.0.0.1/0 "},
+      {"v4addr_ternary", "dip", {0x0a000001, 0}, ""},
+      {"v6addr_exact", "dip", {word(address)}, "dip 2001:db8::1"},
+      {"v6addr_lpm", "dip", {word(address), 64}, "dip 2001:db8::1/64 "},
+      {"v6addr_ternary", "dip", {word(address), word(low)}, "dip 2001:db8::1/::1 "},
+      {"v6addr_ternary", "dip", {word(address), word(none)}, ""},
+      {"mac_exact", "dmac", {0xff001122, 0xff334455}, "dmac 0011.2233.4455 "},
+      {"mac_ternary", "dmac", {0x1122, 0xffffffff, 0x334455, 0xffffff}, "dmac 0011.2233.4455 "},
+      {"mac_ternary",
+       "dmac",
+       {0x1122, 0xffffff, 0x334455, 0},
+       "dmac 0011.2233.4455/ffff.ff00.0000 "},
+      {"mac_ternary", "dmac", {0x1122, 0, 0x334455, 1}, "dmac 0011.2233.4455/0000.0000.0001 "},
+      {"mac_ternary", "dmac", {0x1122, 0xff000000, 0x334455, 0xff000000}, ""},
   };
-  EXPECT_EQ(ternary(0xffffffff, 0x00ffffff), "dmac 0011.2233.4455 ");
-  EXPECT_EQ(ternary(0xffffff, 0), "dmac 0011.2233.4455/ffff.ff00.0000 ");
-  EXPECT_EQ(ternary(0, 1), "dmac 0011.2233.4455/0000.0000.0001 ");
-  EXPECT_EQ(ternary(0xff000000, 0xff000000), "(nothing)");
+  for (const auto &row : rows) {
+    TextBuffer buffer;
+    std::vector<uint64_t> words = {word(buffer.data()), word(row.label)};
+    words.insert(words.end(), row.values.begin(), row.values.end());
+    const uint64_t length = find_export("print_" + std::string(row.helper))->call(words.data());
+    EXPECT_EQ(length, std::strlen(row.text)) << row.text;
+    EXPECT_EQ(length == 0 && buffer.is_untouched() ? "" : buffer.text(length), row.text);
+  }
 }
 
 }  // namespace

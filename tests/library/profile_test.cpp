@@ -29,10 +29,10 @@ class LagProfile : public LibraryTest {
  protected:
   static uint32_t add_port() {
     const PD(setLagPort_action_spec_t) spec = {0x1ff};
-    return make("add_member", kProfile, "setLagPort", {{"action_spec", word(&spec)}});
+    return make("add_member", kProfile, "setLagPort", with("action_spec", &spec));
   }
   static p4_pd_status_t on_group(const char *family, uint32_t group, uint32_t member) {
-    return run(family, kProfile, {{"group", group}, {"member", member}});
+    return run(family, kProfile, with("group", group, "member", member));
   }
   // The calls that point an entry at a group.
   std::vector<Call> point_at(uint32_t group, p4_pd_status_t wanted) {
@@ -69,8 +69,8 @@ TEST_F(LagProfile, AMemberTravelsAsBareDataAndKeepsItsAction) {
 
 TEST_F(LagProfile, AnUnknownMemberReachesNoSelector) {
   const uint32_t member = add_port();
-  const uint32_t group = make("create_group", kProfile, "", {{"max_size", 0}});
-  ASSERT_EQ(run("del_member", kProfile, {{"member", member}}), BF_SUCCESS);
+  const uint32_t group = make("create_group", kProfile, "", with("max_size", 0));
+  ASSERT_EQ(run("del_member", kProfile, with("member", member)), BF_SUCCESS);
   const auto calls = recorded([&] {
     EXPECT_EQ(on_group("add_member_to_group", group, member), BF_OBJECT_NOT_FOUND);
     EXPECT_EQ(PD(lagPortActionProfile_modify_member_with_setTunnelInfo)(session(), kDevice, member),
@@ -80,7 +80,7 @@ TEST_F(LagProfile, AnUnknownMemberReachesNoSelector) {
 }
 
 TEST_F(LagProfile, AGroupHasTheActionOfItsLastMember) {
-  const uint32_t group = make("create_group", kProfile, "", {{"max_size", 0}});
+  const uint32_t group = make("create_group", kProfile, "", with("max_size", 0));
   EXPECT_EQ(names_of(point_at(group, BF_OBJECT_NOT_FOUND)),
             std::vector<std::string>{"p4_pd_ms_get_grp_act"})
       << "an empty group has none";
@@ -100,7 +100,7 @@ TEST_F(LagProfile, AGroupHasTheActionOfItsLastMember) {
 }
 
 TEST_F(LagProfile, MemberStates) {
-  const uint32_t group = make("create_group", kProfile, "", {{"max_size", 0}});
+  const uint32_t group = make("create_group", kProfile, "", with("max_size", 0));
   const uint32_t member = add_port();
   ASSERT_EQ(on_group("add_member_to_group", group, member), BF_SUCCESS);
   const auto set = [&](uint32_t state) {

@@ -121,7 +121,7 @@ TEST_F(ReadBack, AnEntryThatPointsElsewhereHasNoActionData) {
   pipe_mgr_action_spec_t spec = {};
   spec.type = PIPE_ACTION_MEMBER;
   spec.member = make("add_member", profile.name, "setEcmpNextHop",
-                     {{"target", word(&target)}, {"action_spec", word(&hop)}});
+                     with("target", &target, "action_spec", &hop));
   expect_nothing_read(profile.actions.front().handle, spec, P4_PD_NO_ACTION_DATA);
 }
 
@@ -166,11 +166,8 @@ TEST_F(ReadBack, AForeignActionOfAMemberIsThatStatusToo) {
   for (const char *family :
        {"get_member", "get_member_from_plcmt_data", "get_full_member_info_from_plcmt_data"}) {
     EXPECT_EQ(run(family, owner.name,
-                  {{"device", kOther},
-                   {"member", member},
-                   {"placement", word(placed.object)},
-                   {"read_from_hardware", 0},
-                   {"action_specs", word(&specs)}}),
+                  with("device", kOther, "member", member, "placement", placed.object,
+                       "read_from_hardware", 0, "action_specs", &specs)),
               P4_PD_FOREIGN_ACTION);
   }
   EXPECT_EQ(specs.action, kUnwritten);

@@ -205,17 +205,14 @@ p4_pd_status_t Scene::add_entry_of(const Bytes &match_spec, uint32_t *entry) {
   const Bytes spec = pair == nullptr ? Bytes() : random_record(record_of(*pair->action), random_);
   Arguments add(pair == nullptr ? *find_export("add_entry", table_->name)
                                 : *find_export("table_add", table_->name, pair->action->name));
-  add.give(given(spec)).give({{"match_spec", word(match_spec.data())}, {"entry", word(entry)}});
+  add.give(given(spec)).give(with("match_spec", match_spec.data(), "entry", entry));
   return add.status();
 }
 
 // What objects of the scene are made with.
 Given Scene::given(const Bytes &spec) const {
-  return {{"action_spec", word(spec.data())},
-          {"meter_spec", word(&meter_spec_)},
-          {"priority", priority_},
-          {"ttl", 50000},
-          {"member", member_}};
+  return with("action_spec", spec.data(), "meter_spec", &meter_spec_, "priority", priority_, "ttl",
+              50000, "member", member_);
 }
 
 // The entry of a table without a key is its default entry.
@@ -255,16 +252,16 @@ uint32_t Scene::add_member(std::string_view action) {
 }
 
 uint32_t Scene::create_group() {
-  return make("create_group", profile_->name, "", {{"max_size", 8}});
+  return make("create_group", profile_->name, "", with("max_size", 8));
 }
 
 void Scene::join(uint32_t member) {
-  EXPECT_EQ(run("add_member_to_group", profile_->name, {{"group", group_}, {"member", member}}),
+  EXPECT_EQ(run("add_member_to_group", profile_->name, with("group", group_, "member", member)),
             BF_SUCCESS);
 }
 
 void Scene::set_up_ageing() {
-  EXPECT_EQ(run("idle_tmo_enable", table_->name, {{"params", word(&kSceneAgeing)}}), BF_SUCCESS);
+  EXPECT_EQ(run("idle_tmo_enable", table_->name, with("params", &kSceneAgeing)), BF_SUCCESS);
 }
 
 void Scene::take_placement(uint32_t needs) {
@@ -282,7 +279,7 @@ void Scene::take_placement(uint32_t needs) {
 void Scene::add_value_entries() {
   for (uint64_t value = 21; value <= 22; ++value) {
     const uint32_t entry = make("pvs_entry_add", exported_.object, "",
-                                {{"value", value}, {"mask", 23}, {"target", word(&kSceneParser)}});
+                                with("value", value, "mask", 23, "target", &kSceneParser));
     if (value == 21) entry_ = entry;
   }
 }
@@ -294,10 +291,9 @@ void Scene::send_digest() {
     *static_cast<pipe_mgr_digest_message_t **>(cookie) = message;
     return BF_SUCCESS;
   };
-  EXPECT_EQ(
-      run("digest_register", digest.name,
-          {{"callback", word(reinterpret_cast<const void *>(keep))}, {"cookie", word(&message_)}}),
-      BF_SUCCESS);
+  EXPECT_EQ(run("digest_register", digest.name,
+                with("callback", reinterpret_cast<const void *>(keep), "cookie", &message_)),
+            BF_SUCCESS);
   const Bytes entry(digest.size, 0x11);
   EXPECT_EQ(
       soft_digest_inject(kDevice, kPipe, digest.handle, entry.data(), 1, digest.size, nullptr),
@@ -311,12 +307,10 @@ void Scene::configure_hashes() {
   for (const pdgen::Hash &hash : program().hashes) {
     for (const char *family : {"hash_calc_input_set", "hash_calc_algorithm_set",
                                "hash_calc_input_field_attribute_set"}) {
-      EXPECT_EQ(run(family, hash.name,
-                    {{"input", 0},
-                     {"algorithm", 0},
-                     {"attribute_count", 1},
-                     {"attributes", word(&attribute)}}),
-                BF_SUCCESS);
+      EXPECT_EQ(
+          run(family, hash.name,
+              with("input", 0, "algorithm", 0, "attribute_count", 1, "attributes", &attribute)),
+          BF_SUCCESS);
     }
   }
 }
@@ -325,9 +319,9 @@ void Scene::take_snapshot() {
   const unsigned bytes = program().snapshots->record_bytes;
   const Bytes any(bytes);
   snapshot_ = make("snapshot_create", "", "",
-                   {{"pipe", kPipe}, {"direction", 0}, {"first_stage", 1}, {"last_stage", 1}});
+                   with("pipe", kPipe, "direction", 0, "first_stage", 1, "last_stage", 1));
   EXPECT_EQ(run("snapshot_capture_trigger_set", "",
-                {{"snapshot", snapshot_}, {"value", word(any.data())}, {"mask", word(any.data())}}),
+                with("snapshot", snapshot_, "value", any.data(), "mask", any.data())),
             BF_SUCCESS);
   uint32_t captures = 0;
   EXPECT_EQ(soft_snapshot_inject(kDevice, kPipe, 0, 1, any.data(), 1, bytes, &captures),

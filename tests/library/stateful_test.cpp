@@ -22,8 +22,8 @@ TEST_F(Stateful, CountersExchangeTheirTwoCounts) {
   p4_pd_counter_values_t values, read = {};
   std::memcpy(&values, given, sizeof values);
   const PD(l2DmacClassify_match_spec_t) key = {};
-  const uint32_t entry = make("table_add", "l2DmacClassify", "setUcast",
-                              {{"match_spec", word(&key)}, {"priority", 1}});
+  const uint32_t entry =
+      make("table_add", "l2DmacClassify", "setUcast", with("match_spec", &key, "priority", 1));
   const auto expect_exchanged = [&](const Call &call, const char *name) {
     uint64_t seen[2];
     std::memcpy(seen, &call.get<pipe_mgr_counter_t>(name), sizeof seen);
@@ -127,58 +127,10 @@ TEST_F(Stateful, MetersReadTheirLowHalves) {
   for (const char *family : {"meter_read", "bytes_meter_read", "packets_meter_read"}) {
     uint32_t read[5] = {9, 9, 9, 9, 9};
     const char *object = family == std::string_view("meter_read") ? "ingressMirrorMeter" : "";
-    EXPECT_EQ(
-        run(family, object, {{"meter", 0x05000006}, {"index", 3}, {"meter_spec", word(read)}}),
-        BF_SUCCESS);
+    EXPECT_EQ(run(family, object, with("meter", 0x05000006, "index", 3, "meter_spec", read)),
+              BF_SUCCESS);
     EXPECT_EQ(std::memcmp(read, wanted, sizeof read), 0) << family;
   }
-}
-
-// The meter that travels with an entry: attached with a spec; without one an add is refused, a
-// modified entry keeps its meter and the default entry lets go of it.
-TEST_F(Stateful, MetersOfEntriesComeWithTheirSpec) {
-  const PD(l2LookupMiss_match_spec_t) key = {};
-  const auto meter = bytes_spec();
-  const struct {
-    const char *family;
-    const p4_pd_bytes_meter_spec_t *meter;
-    const char *resource;
-  } rows[] = {
-      {"table_add", &meter, "05000005:0:1"},
-      {"table_modify", nullptr, "05000005:0:0"},
-      {"table_modify", &meter, "05000005:0:1"},
-      {"table_modify_by_match_spec", &meter, "05000005:0:1"},
-      {"set_default_action", nullptr, "05000005:0:2"},
-      {"set_default_action", &meter, "05000005:0:1"},
-  };
-  uint32_t entry = 0;
-  EXPECT_EQ(PD(l2LookupMiss_table_add_with_l2LookupBcastHit)(session(), kTarget, &key, 4, nullptr,
-                                                             &entry),
-            P4_PD_METER_SPEC_MISSING);
-  for (const auto &row : rows) {
-    SCOPED_TRACE(row.family);
-    Arguments install(*find_export(row.family, "l2LookupMiss", "l2LookupBcastHit"));
-    install.give({{"match_spec", word(&key)}, {"priority", 4}, {"meter_spec", word(row.meter)}});
-    if (row.family == std::string_view("table_modify")) {
-      install.set("entry", uint64_t{entry});
-    } else {
-      install.give({{"entry", word(&entry)}});
-    }
-    const Call call = only_call([&] { EXPECT_EQ(install.status(), BF_SUCCESS); });
-    const auto spec = call.get<soft::journal::ActionSpec>("action_spec");
-    EXPECT_EQ(spec.data.byte_count, 0u);
-    EXPECT_EQ(resources_of(spec), row.resource);
-    if (row.meter != nullptr) expect_meter(spec.resources.at(0).data.meter, 1, 0);
-  }
-}
-
-TEST_F(Stateful, WredProfilesArePassedOnAsTheyAre) {
-  const p4_pd_wred_params_t params = {1.5f, 0xfffffffe, 3, 0.75f};
-  const Call call = only_call([&] { PD(wred_set)(session(), kTarget, 0x07000009, 6, &params); });
-  EXPECT_EQ(call.scalar("wred"), 0x07000009u);
-  const auto &spec = call.get<pipe_mgr_wred_spec_t>("spec");
-  EXPECT_TRUE(spec.time_constant_ns == 1.5f && spec.min_threshold_cells == 0xfffffffe);
-  EXPECT_TRUE(spec.max_threshold_cells == 3 && spec.max_probability == 0.75f);
 }
 
 // ---- Registers ----
@@ -284,16 +236,6 @@ TEST_F(Stateful, FieldsOfDigestsFillTheEntry) {
     EXPECT_EQ(PD(get_digest_entry_field)(entry, "macLearningDigest", name, &size), next) << name;
     EXPECT_EQ(size, bytes) << name;
     next += bytes;
-  }
-  for (const pdgen::Digest &digest : program().digests) {
-    uint32_t end = 0;
-    EXPECT_EQ(PD(get_digest_entry_size)(digest.name.c_str()), digest.size);
-    for (const pdgen::DigestField &field : digest.fields) {
-      EXPECT_EQ(PD(get_digest_entry_field)(entry, digest.name.c_str(), field.name.c_str(), nullptr),
-                entry + field.offset);
-      end = std::max(end, field.offset + field.bytes);
-    }
-    EXPECT_EQ(end, digest.size);
   }
   EXPECT_EQ(PD(get_digest_entry_size)("macLearningDigest"), 14u);
 }

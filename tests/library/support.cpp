@@ -229,7 +229,7 @@ uint32_t make(std::string_view family, std::string_view object, std::string_view
   static constexpr p4_pd_bytes_meter_spec_t kMeter = {1, 2, 3, 4, PD_METER_TYPE_COLOR_UNAWARE};
   uint32_t handle = 0;
   Arguments arguments(*find_export(family, object, action));
-  arguments.give({{"ttl", 50000}, {"meter_spec", word(&kMeter)}}).give(given);
+  arguments.give(with("ttl", 50000, "meter_spec", &kMeter)).give(given);
   arguments.set(arguments.exported().parameter_list().back().name, &handle);
   EXPECT_EQ(arguments.status(), BF_SUCCESS) << arguments.exported().name;
   return handle;

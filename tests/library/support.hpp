@@ -139,8 +139,19 @@ Function *soft_function(Function *, const char *name) {
 inline uint64_t word(const void *object) { return reinterpret_cast<uintptr_t>(object); }
 inline uint64_t word(uint64_t number) { return number; }
 
-// Arguments by name, of which an export may take only some.
+// Arguments by name, of which an export may take only some: with("entry", entry, "count", &count).
 using Given = std::vector<std::pair<std::string_view, uint64_t>>;
+inline Given with() { return {}; }
+template <class Value, class... Rest>
+Given with(std::string_view name, Value value, Rest... rest) {
+  Given given = with(rest...);
+  if constexpr (std::is_pointer_v<Value>) {
+    given.emplace_back(name, word(value));
+  } else {
+    given.emplace_back(name, static_cast<uint64_t>(value));
+  }
+  return given;
+}
 
 // The arguments of one export, by parameter name. session, device and target are there already.
 class Arguments {

@@ -69,7 +69,8 @@ std::string schema(const char *family, const std::string &object) {
   return written(*find_export(family, object), {}, P4_PD_TESSEL_SWITCH_SCHEMA_MAX);
 }
 std::string cli_schema(uint32_t handle) {
-  return written(*find_export("cli_schema"), {{"handle", handle}}, P4_PD_TESSEL_SWITCH_SCHEMA_MAX);
+  return written(*find_export("cli_schema"), with("handle", handle),
+                 P4_PD_TESSEL_SWITCH_SCHEMA_MAX);
 }
 
 TEST(TextWalk, Schemas) {

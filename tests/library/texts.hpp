@@ -146,10 +146,9 @@ inline std::string written(const Export &function, const Given &given, size_t si
 inline std::string value_of(const Spec &spec, bool is_table) {
   return is_table
              ? written(*find_export("match_spec_value", spec.record().name),
-                       {{"match_spec", word(spec.data())}},
-                       P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX)
+                       with("match_spec", spec.data()), P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX)
              : written(*find_export("action_value", spec.record().name),
-                       {{"action_spec", word(spec.data())}}, P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX);
+                       with("action_spec", spec.data()), P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX);
 }
 
 // What body(descriptor) prints.

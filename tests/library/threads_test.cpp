@@ -37,27 +37,19 @@ TEST_F(Threads, WorkOnSeparateTables) {
     const Bytes match = random_record(record_of(table), random);
     const Bytes spec = random_record(record_of(action), random);
     const uint64_t entry = make("table_add", table.name, action.name,
-                                {{"session", own},
-                                 {"match_spec", word(match.data())},
-                                 {"action_spec", word(spec.data())},
-                                 {"priority", 3}});
+                                with("session", own, "match_spec", match.data(), "action_spec",
+                                     spec.data(), "priority", 3));
     Bytes key(record_of(table).size);
     uint64_t read[16] = {};
     uint32_t priority = 0, value = 0;
     bool no_key = true;
     EXPECT_EQ(run("get_entry", table.name,
-                  {{"session", own},
-                   {"entry", entry},
-                   {"read_from_hardware", 0},
-                   {"match_spec", word(key.data())},
-                   {"priority", word(&priority)},
-                   {"action_name", 0},
-                   {"action_spec", word(read)},
-                   {"action", word(&value)},
-                   {"no_key", word(&no_key)}}),
+                  with("session", own, "entry", entry, "read_from_hardware", 0, "match_spec",
+                       key.data(), "priority", &priority, "action_name", 0, "action_spec", read,
+                       "action", &value, "no_key", &no_key)),
               BF_SUCCESS);
     EXPECT_TRUE(!no_key && value == action.value && key == kept_match_spec(table, match.data()));
-    EXPECT_EQ(run("table_delete", table.name, {{"session", own}, {"entry", entry}}), BF_SUCCESS);
+    EXPECT_EQ(run("table_delete", table.name, with("session", own, "entry", entry)), BF_SUCCESS);
   });
 }
 
@@ -67,8 +59,8 @@ TEST_F(Threads, WorkOnSeparateProfiles) {
     const pdgen::Profile &profile = program().profiles[i];
     const Bytes spec(64);
     const uint32_t member = make("add_member", profile.name, profile.actions.front().action->name,
-                                 {{"session", own}, {"action_spec", word(spec.data())}});
-    EXPECT_EQ(run("del_member", profile.name, {{"session", own}, {"member", member}}), BF_SUCCESS);
+                                 with("session", own, "action_spec", spec.data()));
+    EXPECT_EQ(run("del_member", profile.name, with("session", own, "member", member)), BF_SUCCESS);
   });
 }
 
