@@ -6,23 +6,17 @@ namespace {
 
 constexpr const char *kClient = "p4_pd_tessel_switch_pd";
 
-std::vector<std::string> functions_of(const std::vector<Call> &calls) {
-  std::vector<std::string> names;
-  for (const Call &call : calls) names.push_back(call.function);
-  return names;
-}
-
 TEST(Frame, InitMakesAStatePerProfileAndRegisters) {
   // Without its third state it goes no further, ...
   EXPECT_EQ(first_init().failed_status, P4_PD_NO_MEMORY);
-  EXPECT_EQ(functions_of(first_init().failed_calls),
+  EXPECT_EQ(names_of(first_init().failed_calls),
             (std::vector<std::string>{"p4_pd_ms_init", "p4_pd_ms_init_state", "p4_pd_ms_init_state",
                                       "p4_pd_ms_init_state"}));
   // ... and the next one makes the two that are missing.
   const std::vector<std::string> wanted = {"p4_pd_ms_init", "p4_pd_ms_init_state",
                                            "p4_pd_ms_init_state", "bf_drv_register",
                                            "bf_drv_client_register_callbacks"};
-  EXPECT_EQ(functions_of(first_init().calls), wanted);
+  EXPECT_EQ(names_of(first_init().calls), wanted);
   ASSERT_EQ(first_init().calls.size(), wanted.size());
   EXPECT_EQ(first_init().calls[3].get<std::string>("client_name"), kClient);
   EXPECT_EQ(first_init().calls[4].scalar("priority"), 2u);
@@ -51,7 +45,7 @@ TEST(Frame, TheFrameworkHoldsThreeCallbacks) {
 
 TEST(Frame, ASecondInitKeepsTheStates) {
   const auto refused = recorded([] { EXPECT_EQ(PD(init)(), P4_PD_DRIVER_REFUSED); });
-  EXPECT_EQ(functions_of(refused), (std::vector<std::string>{"p4_pd_ms_init", "bf_drv_register"}));
+  EXPECT_EQ(names_of(refused), (std::vector<std::string>{"p4_pd_ms_init", "bf_drv_register"}));
   EXPECT_EQ(soft_client_count(), 1u);
 }
 
@@ -64,11 +58,6 @@ TEST(Frame, ComesBackAfterCleanup) {
   EXPECT_EQ(soft_client_count(), 0u);
   EXPECT_EQ(PD(cleanup)(), BF_OBJECT_NOT_FOUND);
   EXPECT_EQ(PD(init)(), BF_SUCCESS);
-  EXPECT_EQ(soft_client_count(), 1u);
-}
-
-TEST(Frame, DeviceStateCleanupDoesNothing) {
-  EXPECT_TRUE(recorded([] { PD(device_state_cleanup)(); }).empty());
   EXPECT_EQ(soft_client_count(), 1u);
 }
 

@@ -47,36 +47,14 @@ class LagProfile : public LibraryTest {
   p4_pd_entry_handle_t entry_ = 0;
 };
 
-TEST_F(LagProfile, AMemberTravelsAsBareDataAndKeepsItsAction) {
-  const PD(setLagPort_action_spec_t) spec = {0xffab};
-  p4_pd_member_handle_t member = 0;
-  const auto calls = recorded([&] {
-    PD(lagPortActionProfile_add_member_with_setLagPort)(session(), kTarget, &spec, &member);
-  });
-  EXPECT_EQ(calls.at(0).scalar("action_data_table"), 0x02000046u);
-  EXPECT_EQ(calls[0].scalar("action"), kSetLagPort);
-  const auto &sent = calls[0].get<soft::journal::ActionSpec>("action_spec");
-  EXPECT_EQ(sent.type, 0u);
-  EXPECT_EQ(sent.data.valid_bit_count, 9);
-  EXPECT_EQ(data_of(sent), "ff ab");
+TEST_F(LagProfile, AMemberKeepsItsAction) {
+  const uint32_t member = add_port();
   const Call refused = only_call([&] {
     EXPECT_EQ(
         PD(lagPortActionProfile_modify_member_with_setPhysicalPort)(session(), kDevice, member),
         P4_PD_MEMBER_KEEPS_ACTION);
   });
   EXPECT_EQ(refused.function, "p4_pd_ms_get_mbr_act");
-}
-
-TEST_F(LagProfile, AnUnknownMemberReachesNoSelector) {
-  const uint32_t member = add_port();
-  const uint32_t group = make("create_group", kProfile, "", with("max_size", 0));
-  ASSERT_EQ(run("del_member", kProfile, with("member", member)), BF_SUCCESS);
-  const auto calls = recorded([&] {
-    EXPECT_EQ(on_group("add_member_to_group", group, member), BF_OBJECT_NOT_FOUND);
-    EXPECT_EQ(PD(lagPortActionProfile_modify_member_with_setTunnelInfo)(session(), kDevice, member),
-              BF_OBJECT_NOT_FOUND);
-  });
-  EXPECT_EQ(names_of(calls), std::vector<std::string>(2, "p4_pd_ms_get_mbr_act"));
 }
 
 TEST_F(LagProfile, AGroupHasTheActionOfItsLastMember) {
