@@ -25,18 +25,14 @@ void write_counter(Html &html, const CounterReport &counter) {
                         counted(counter.packets, "packet", "packets"),
                         counted(counter.bytes, "byte", "bytes")),
             {{"class", "soft"}});
-  html.open("table");
-  write_head(html, {"Cell", ">Packets", ">Bytes", "~"});
-  html.open("tbody").line();
-  for (const CounterCell &cell : counter.top) {
-    html.open("tr").open("th", {{"scope", "row"}}).name(cell.label).close();
-    html.leaf("td", grouped(cell.packets), {{"class", "n"}});
-    html.leaf("td", grouped(cell.bytes), {{"class", "n"}}).open("td");
+  write_table(html, {"Cell", ">Packets", ">Bytes", "~"}, counter.top, [&](const CounterCell &cell) {
+    open_row_name(html, cell.label).close();
+    write_number(html, grouped(cell.packets));
+    write_number(html, grouped(cell.bytes)).open("td");
     write_bar(html, cell.packets, counter.top.front().packets, false,
               percent(cell.packets, counter.packets) + " of the packets");
-    html.close().close().line();
-  }
-  html.close().close();
+    html.close();
+  });
   write_rest(html, counter.cells, counter.top.size());
   html.close().line();
 }
@@ -50,17 +46,12 @@ void write_meter(Html &html, const MeterReport &meter) {
   html.open("div", {{"class", "part"}}).open("h3").name(meter.name).close();
   html.leaf("p", cells_text(meter.table, meter.cells, meter.cells == 1 ? "is set" : "are set"),
             {{"class", "soft"}});
-  html.open("table");
-  write_head(html, {"Cell", "Committed", "Peak"});
-  html.open("tbody").line();
-  for (const MeterCell &cell : meter.first) {
-    html.open("tr").leaf("th", cell.label, {{"scope", "row"}});
+  write_table(html, {"Cell", "Committed", "Peak"}, meter.first, [&](const MeterCell &cell) {
+    html.leaf("th", cell.label, {{"scope", "row"}});
     for (size_t i = 0; i < 2; ++i) {
       html.leaf("td", rate_text(meter, cell.rates[i], cell.bursts[i]));
     }
-    html.close().line();
-  }
-  html.close().close();
+  });
   write_rest(html, meter.cells, meter.first.size());
   html.close().line();
 }
@@ -84,15 +75,11 @@ void write_meters(Html &html, const DeviceReport &device) {
 void write_others(Html &html, const DeviceReport &device) {
   if (device.others.empty()) return;
   open_section(html, "others", "Hashes, registers and value sets");
-  html.open("table");
-  write_head(html, {"Object", "Holds"});
-  html.open("tbody").line();
-  for (const OtherReport &other : device.others) {
-    html.open("tr").open("th", {{"scope", "row"}}).name(other.name);
-    html.empty("br").leaf("small", other.kind).close();
-    html.leaf("td", other.text, {{"class", "mono"}}).close().line();
-  }
-  html.close().close().close().line();
+  write_table(html, {"Object", "Holds"}, device.others, [&](const OtherReport &other) {
+    open_row_name(html, other.name).empty("br").leaf("small", other.kind).close();
+    html.leaf("td", other.text, {{"class", "mono"}});
+  });
+  html.close().line();
 }
 
 }  // namespace tesselctl

@@ -46,28 +46,18 @@ void write_places(Html &html, const GroupReport &group) {
   html.close();
 }
 
-void write_member(Html &html, const MemberReport &member, bool with_state) {
-  html.open("tr").leaf("th", fmt::format("#{}", member.number), {{"scope", "row"}});
-  html.open("td").name(member.action);
-  if (!member.parameters.empty()) {
-    html.empty("br").leaf("span", member.parameters, {{"class", "mono soft"}});
-  }
-  html.close();
-  if (with_state) {
-    html.leaf("td", member.active ? "● active" : "○ inactive",
-              {{"class", member.active ? "on" : "off"}});
-  } else {
-    html.leaf("td", users_text(member.users));
-  }
-  html.close().line();
-}
-
 void write_members(Html &html, const std::vector<MemberReport> &members, bool with_state) {
-  html.open("table");
-  write_head(html, {"No.", "Action", with_state ? "State" : "Used by"});
-  html.open("tbody").line();
-  for (const MemberReport &member : members) write_member(html, member, with_state);
-  html.close().close();
+  write_table(html, {"No.", "Action", with_state ? "State" : "Used by"}, members,
+              [&](const MemberReport &member) {
+                html.leaf("th", fmt::format("#{}", member.number), {{"scope", "row"}});
+                write_outcome(html, member.action, member.parameters);
+                if (!with_state) {
+                  html.leaf("td", users_text(member.users));
+                } else {
+                  html.leaf("td", member.active ? "● active" : "○ inactive",
+                            {{"class", member.active ? "on" : "off"}});
+                }
+              });
 }
 
 void write_group(Html &html, const GroupReport &group) {

@@ -47,6 +47,12 @@ void write_bar(Html &html, uint64_t count, uint64_t whole, bool track, const std
   html.close();
 }
 
+void write_outcome(Html &html, const std::string &action, const std::string &parameters) {
+  html.open("td").name(action);
+  if (!parameters.empty()) html.empty("br").leaf("span", parameters, {{"class", "mono soft"}});
+  html.close();
+}
+
 std::string counted(uint64_t count, std::string_view one, std::string_view plural) {
   return fmt::format("{} {}", grouped(count), count == 1 ? one : plural);
 }

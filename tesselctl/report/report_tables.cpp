@@ -43,7 +43,7 @@ void write_occupancy(Html &html, const TableReport &table, uint64_t most) {
 }
 
 void write_table_row(Html &html, const Report &report, const TableReport &table, uint64_t most) {
-  html.open("tr").open("th", {{"scope", "row"}});
+  html.open("th", {{"scope", "row"}});
   html.open("a", {{"href", "#entries-" + table.name}}).name(table.name).close();
   html.leaf("small", table.match).close();
   html.open("td", {{"class", "n"}}).text(grouped(table.entries));
@@ -53,7 +53,7 @@ void write_table_row(Html &html, const Report &report, const TableReport &table,
   }
   html.close().open("td");
   write_occupancy(html, table, most);
-  html.close().close().line();
+  html.close();
 }
 
 // "forward port=12"
@@ -69,15 +69,12 @@ void write_unused(Html &html, const std::vector<const TableReport *> &unused) {
   if (unused.empty()) return;
   html.open("details");
   html.leaf("summary", counted(unused.size(), "table", "tables") + " without entries");
-  html.open("table");
-  write_head(html, {"Table", "Default action"});
-  html.open("tbody").line();
-  for (const TableReport *table : unused) {
-    html.open("tr").open("th", {{"scope", "row"}}).name(table->name).close().open("td");
+  write_table(html, {"Table", "Default action"}, unused, [&](const TableReport *table) {
+    open_row_name(html, table->name).close().open("td");
     write_default(html, *table);
-    html.close().close().line();
-  }
-  html.close().close().close().line();
+    html.close();
+  });
+  html.close().line();
 }
 
 bool is_shown(const Report &report, const TableReport &table) {
@@ -94,18 +91,14 @@ bool is_nearly_full(const TableReport &table) {
 void write_tables(Html &html, const Report &report) {
   open_section(html, "tables", "Tables");
   const uint64_t most = most_entries(report.device);
+  std::vector<const TableReport *> shown;
   std::vector<const TableReport *> unused;
-  html.open("table");
-  write_head(html, {"Table", ">Entries", "~Occupancy"});
-  html.open("tbody").line();
   for (const TableReport &table : report.device.tables) {
-    if (is_shown(report, table)) {
-      write_table_row(html, report, table, most);
-    } else {
-      unused.push_back(&table);
-    }
+    (is_shown(report, table) ? shown : unused).push_back(&table);
   }
-  html.close().close().line();
+  write_table(html, {"Table", ">Entries", "~Occupancy"}, shown,
+              [&](const TableReport *table) { write_table_row(html, report, *table, most); });
+  html.line();
   write_unused(html, unused);
   html.close().line();
 }
@@ -150,19 +143,21 @@ void write_columns(Html &html, const TableReport &table, uint64_t most, size_t t
 }
 
 void write_length_table(Html &html, const TableReport &table, uint64_t most) {
-  html.open("details").leaf("summary", "In numbers").open("table");
-  write_head(html, {"Length", ">Entries", ">Share", "~"});
-  html.open("tbody").line();
+  html.open("details").leaf("summary", "In numbers");
+  std::vector<size_t> lengths;
   for (size_t length = 0; length < table.lengths.size(); ++length) {
-    const uint64_t entries = table.lengths[length];
-    if (entries == 0) continue;
-    html.open("tr").leaf("th", fmt::format("/{}", length), {{"scope", "row"}});
-    html.leaf("td", grouped(entries), {{"class", "n"}});
-    html.leaf("td", percent(entries, table.entries), {{"class", "n"}}).open("td");
-    write_bar(html, entries, most, false, percent(entries, table.entries));
-    html.close().close().line();
+    if (table.lengths[length] != 0) lengths.push_back(length);
   }
-  html.close().close().close();
+  write_table(html, {"Length", ">Entries", ">Share", "~"}, lengths, [&](size_t length) {
+    const uint64_t entries = table.lengths[length];
+    const std::string share = percent(entries, table.entries);
+    html.leaf("th", fmt::format("/{}", length), {{"scope", "row"}});
+    write_number(html, grouped(entries));
+    write_number(html, share).open("td");
+    write_bar(html, entries, most, false, share);
+    html.close();
+  });
+  html.close();
 }
 
 }  // namespace
@@ -198,45 +193,31 @@ namespace {
 
 void write_actions(Html &html, const TableReport &table) {
   if (table.actions.empty()) return;
-  html.open("table");
-  write_head(html, {"Action", ">Entries", "~"});
-  html.open("tbody");
-  for (const Tally &action : table.actions) {
-    const std::string share = percent(action.count, table.entries);
-    html.open("tr").open("th", {{"scope", "row"}}).name(action.name).close();
-    html.leaf("td", grouped(action.count), {{"class", "n"}}).open("td");
-    write_bar(html, action.count, table.entries, false, share + " of the entries");
-    html.close().close();
-  }
-  html.close().close().line();
-}
-
-void write_outcome(Html &html, const EntryText &entry) {
-  html.name(entry.action);
-  if (entry.parameters.empty()) return;
-  html.empty("br").leaf("span", entry.parameters, {{"class", "mono soft"}});
+  write_table(html, {"Action", ">Entries", "~"}, table.actions, [&](const Tally &action) {
+    open_row_name(html, action.name).close();
+    write_number(html, grouped(action.count)).open("td");
+    write_bar(html, action.count, table.entries, false,
+              percent(action.count, table.entries) + " of the entries");
+    html.close();
+  });
+  html.line();
 }
 
 void write_first_entries(Html &html, const TableReport &table) {
   if (table.first.empty()) return;
   const bool ordered = !table.first.front().priority.empty();
-  html.open("table");
-  if (ordered) {
-    write_head(html, {"Match", ">Priority", "Action"});
-  } else {
-    write_head(html, {"Match", "Action"});
-  }
-  html.open("tbody").line();
-  for (const EntryText &entry : table.first) {
-    html.open("tr").open("td", {{"class", "mono"}}).text(entry.key.empty() ? "any" : entry.key);
+  const auto write_entry = [&](const EntryText &entry) {
+    html.open("td", {{"class", "mono"}}).text(entry.key.empty() ? "any" : entry.key);
     if (!entry.extras.empty()) html.empty("br").leaf("span", entry.extras, {{"class", "soft"}});
     html.close();
-    if (ordered) html.leaf("td", entry.priority, {{"class", "n"}});
-    html.open("td");
-    write_outcome(html, entry);
-    html.close().close().line();
+    if (ordered) write_number(html, entry.priority);
+    write_outcome(html, entry.action, entry.parameters);
+  };
+  if (ordered) {
+    write_table(html, {"Match", ">Priority", "Action"}, table.first, write_entry);
+  } else {
+    write_table(html, {"Match", "Action"}, table.first, write_entry);
   }
-  html.close().close();
   write_rest(html, table.entries, table.first.size());
 }
 
