@@ -26,7 +26,7 @@ struct LoadResult {
 // Reads the .toml files of a directory. program.toml, actions.toml and tables.toml must be there.
 LoadResult load_program(const std::string &directory);
 
-// The same from texts in memory; the last part of each path tells what the file holds.
+// The same from texts in memory; the last part of each path says what the file holds.
 LoadResult load_program(const std::vector<CatalogueFile> &files);
 
 // The files of a directory whose names end so, sorted by name; faults of reading go to

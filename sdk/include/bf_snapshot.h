@@ -1,5 +1,5 @@
 /* Snapshots: packet fields captured at a range of stages when a trigger matches. Bit 1 of a handle
- * tells the direction: set for egress, whose trigger records have a layout of their own. */
+ * is the direction: set for egress, whose trigger records have a layout of their own. */
 #ifndef BF_SNAPSHOT_H
 #define BF_SNAPSHOT_H
 

@@ -99,7 +99,7 @@ typedef struct pipe_mgr_action_spec {
   uint32_t resource_count;
 } pipe_mgr_action_spec_t;
 
-/* Table updates, as the callbacks below are told of them. */
+/* Table updates, as the callbacks below report them. */
 enum {
   PIPE_UPDATE_ADD = 0,
   PIPE_UPDATE_MODIFY = 1,

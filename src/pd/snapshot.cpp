@@ -43,7 +43,7 @@ p4_pd_status_t get_captures(const Snapshots &snapshots, uint32_t snapshot, uint1
   *captures = 0;
   uint32_t total_size = 0;
   uint32_t stage_size = 0;
-  // Without sizes there is no telling how much the service would write.
+  // Without sizes nobody knows how much the service would write.
   p4_pd_status_t status =
       bf_snapshot_capture_phv_fields_dict_size(snapshot, &total_size, &stage_size);
   if (status != BF_SUCCESS) return status;

@@ -14,7 +14,7 @@ inline p4_pd_status_t create_snapshot(uint32_t device, uint16_t pipe, uint8_t fi
 
 inline p4_pd_status_t delete_snapshot(uint32_t snapshot) { return bf_snapshot_delete(snapshot); }
 
-// Bit 1 of the handle of a snapshot tells the layout of its trigger records.
+// Bit 1 of the handle of a snapshot selects the layout of its trigger records.
 inline const TriggerLayout &trigger_layout(const Snapshots &snapshots, uint32_t snapshot) {
   return snapshots.layouts[snapshot >> 1 & 1];
 }

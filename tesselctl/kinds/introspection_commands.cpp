@@ -1,4 +1,4 @@
-// What the program consists of, and what entries are made of, as the library itself tells it.
+// What the program consists of, and what entries are made of, as the library itself describes it.
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -171,17 +171,17 @@ const char *use_of(const char *table, std::string_view action) {
 }
 
 // A sentence for people, the row for programs.
-void tell(Context &context, const Row &row, const std::string &sentence) {
+void print(Context &context, const Row &row, const std::string &sentence) {
   if (context.settings.terse) return context.results.row(row);
   context.results.row(row, sentence);
 }
 
 // The counters and meters of which every entry has a cell.
 template <class Resource>
-void tell_cells(Context &context, const TableInfo &table, const char *kind) {
+void print_cells(Context &context, const TableInfo &table, const char *kind) {
   for (const Resource &resource : program_rows<Resource>()) {
     if (resource.table != table.description->handle) continue;
-    tell(context, Row().object(kind, resource.name),
+    print(context, Row().object(kind, resource.name),
          fmt::format("{} {}, a cell for each entry", kind, resource.name));
   }
 }
@@ -192,16 +192,16 @@ void describe_table(Context &context, const TableInfo &table, Word word) {
   const std::string size = size_text(context, table);
   Row head;
   head.object("table", table.name()).text("match", kind_of(table)).text("handle", handle);
-  tell(context, head.text("size", size).number("entries", entries),
+  print(context, head.text("size", size).number("entries", entries),
        fmt::format("{}: {} table, handle {}, size {}, entries {}", table.name(), kind_of(table),
                    handle, size, grouped(entries)));
   if (const soft_profile_t *profile = table.profile()) {
-    tell(context, Row().object("profile", profile->name),
+    print(context, Row().object("profile", profile->name),
          fmt::format("entries name a member or a group of {}", profile->name));
   }
-  tell_cells<soft_counter_t>(context, table, "counter");
-  tell_cells<soft_meter_t>(context, table, "meter");
-  if (table.ages()) tell(context, Row().text("ageing", "yes"), "entries age");
+  print_cells<soft_counter_t>(context, table, "counter");
+  print_cells<soft_meter_t>(context, table, "meter");
+  if (table.ages()) print(context, Row().text("ageing", "yes"), "entries age");
   std::vector<Row> rows;
   for (const Field &field : table.record->shown()) rows.push_back(field_row(field));
   print_columns(context, rows);
@@ -219,7 +219,7 @@ void describe_table(Context &context, const TableInfo &table, Word word) {
 void describe_action(Context &context, std::string_view name) {
   const std::span<const Field> parameters = action_record(name).shown();
   const size_t count = parameters.size();
-  tell(context, Row().object("action", name).number("parameters", count),
+  print(context, Row().object("action", name).number("parameters", count),
        fmt::format("{}: action with {} parameter{}", name, count, count == 1 ? "" : "s"));
   std::vector<Row> rows;
   for (const Field &field : parameters) {
@@ -237,7 +237,7 @@ void describe_action(Context &context, std::string_view name) {
   print_columns(context, rows);
   for (const soft_profile_t &profile : program_rows<soft_profile_t>()) {
     if (find_action(profile, name) == nullptr) continue;
-    tell(context, Row().object("profile", profile.name),
+    print(context, Row().object("profile", profile.name),
          fmt::format("members of {}", profile.name));
   }
 }
@@ -246,7 +246,7 @@ void describe_profile(Context &context, std::string_view name) {
   const soft_profile_t &profile = *find_object<soft_profile_t>(name);
   const std::string members = fmt::format("{:#010x}", profile.action_data_table);
   const std::string groups = fmt::format("{:#010x}", profile.selector);
-  tell(context,
+  print(context,
        Row().object("profile", name).text("member_handle", members).text("group_handle", groups),
        fmt::format("{}: action profile, handles {} of members and {} of groups", name, members,
                    groups));
@@ -258,7 +258,7 @@ void describe_profile(Context &context, std::string_view name) {
   print_columns(context, rows);
   for (const soft_table_t &table : program_rows<soft_table_t>()) {
     if (table.action_data_table != profile.action_data_table) continue;
-    tell(context, Row().object("table", table.name), fmt::format("entries of {}", table.name));
+    print(context, Row().object("table", table.name), fmt::format("entries of {}", table.name));
   }
 }
 

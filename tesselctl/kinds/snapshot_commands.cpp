@@ -73,7 +73,7 @@ void remove(Context &context, const Invocation &invocation) {
   context.results.done(snapshot_row(snapshot), "deleted");
 }
 
-// Bit 1 of a handle tells the direction.
+// Bit 1 of a handle is the direction.
 void trigger(Context &context, const Invocation &invocation) {
   const FieldWords words(invocation, 0, {"snapshot"});
   const Options options(words.options(), 0, {"snapshot"});

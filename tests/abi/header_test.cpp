@@ -69,7 +69,7 @@ std::vector<std::pair<std::string, uint32_t>> constants(const std::string &heade
   return found;
 }
 
-// A caller who tells all statuses apart: those of the SDK, and those of the library that are not
+// A caller who handles each status by itself: those of the SDK, and those of the library that are not
 // numbers of the SDK's too.
 std::string status_switch() {
   std::string cases;

@@ -18,7 +18,7 @@ bool returns_status(const Export &exported) {
   return std::string_view(exported.result) == "p4_pd_status_t";
 }
 
-// Text functions answer a failure with a length of 0, comparisons with "not equal"; printing tells
+// Text functions answer a failure with a length of 0, comparisons with "not equal"; printing puts
 // the status after a line that says so.
 uint64_t answer_to(const Export &exported, uint64_t failure) {
   if (returns_status(exported)) return failure;

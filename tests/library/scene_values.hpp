@@ -1,4 +1,4 @@
-// The arguments that all scenes give, and what can be told of a parameter from its text.
+// The arguments that all scenes give, and what the text of a parameter says about it.
 #pragma once
 
 #include <string_view>

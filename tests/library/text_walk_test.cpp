@@ -1,5 +1,5 @@
 // Every table and action: values and lines of random records, schemas, comparisons, widths and
-// names, put together here from the catalogue; and what is told apart only to the letter.
+// names, put together here from the catalogue; and names that differ in a letter alone.
 #include <fmt/format.h>
 
 #include <algorithm>

@@ -253,7 +253,7 @@ TEST_F(PlacementTest, AnObjectIsUsedAgainAsLongAsItHasRoom) {
 
 // ---- Replay ----
 
-// What the callback was told: table, action, group, member, has_resources.
+// What the callback was given: table, action, group, member, has_resources.
 using Told = std::array<uint32_t, 5>;
 std::vector<Told> told;
 size_t told_limit = 0;  // the callback refuses what comes after so many

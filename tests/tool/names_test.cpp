@@ -97,7 +97,7 @@ Names names_in(const std::string &text) {
   return names;
 }
 
-// The words without those that only some of the places tell.
+// The words without those that only some of the places print.
 std::vector<std::string> common(const std::string &text) {
   std::vector<std::string> words = words_of(text);
   std::erase_if(words, [](const std::string &word) {
@@ -146,7 +146,7 @@ TEST_F(NamesTest, OneEntryOfEachTableReadsTheSameInEveryPlace) {
     }
     expect_same_everywhere(table, line);
   }
-  // What the image of a device without them lacks is told in the same words.
+  // What the image of a device without them lacks is printed in the same words.
   size_t compared = 0;
   const std::string text = run("diff " + image_);
   for (size_t at = 0; at < text.size(); at = text.find('\n', at) + 1) {

@@ -62,7 +62,7 @@ class ReportTest : public ToolTest {
   EXPECT_NE((text).find(part), std::string::npos) << (part) << "\nnot in\n" << (text)
 #define EXPECT_LACKS(text, part) EXPECT_EQ((text).find(part), std::string::npos) << (part)
 
-// Whether every element closes in its turn; the first that does not is told.
+// Whether every element closes in its turn; gives the first that does not.
 std::string unbalanced(std::string_view text) {
   std::vector<std::string> open;
   for (size_t at = text.find('<'); at != std::string_view::npos; at = text.find('<', at + 1)) {

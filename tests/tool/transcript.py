@@ -7,7 +7,7 @@
     7: 'word': what    a fault of it is its column and its sentence
 
 '...' stands for any text. In a Markdown page the blocks of code with commands are run, in one
-folder, and need not tell exit codes; "cat FILE" makes a file that is not there. An HTML comment
+folder, and need not print exit codes; "cat FILE" makes a file that is not there. An HTML comment
 before a block says otherwise: "not run" skips it, "file NAME" makes it the contents of a file, as
 do further lines of the comment; "run" and lines are commands of their own.
 

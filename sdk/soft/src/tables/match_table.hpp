@@ -6,7 +6,7 @@
 // segment. A table that becomes empty gives its memory back but for what a few entries need.
 //
 // Identity. Two keys are the same when pipe, priority, mask and the value bits under the mask are:
-// no packet could tell them apart. The value bytes are kept as given for read-back.
+// no packet would hit one and not the other. The value bytes are kept as given for read-back.
 //
 // Handles are never 0 and never 0xffffffff. The handle of an erased entry is unknown from then on;
 // it comes back for another entry after 65,536 further additions at the earliest.
