@@ -120,7 +120,7 @@ class RegisterCells : public RegisterItems {
  protected:
   void read_numbers(Source &from, const NumbersVisitor &visit) const override {
     for_each_cell(from.device, reg_.handle, [&](uint64_t index) {
-      Numbers numbers = read(from.device, index);
+      Numbers numbers = read_values(from.device, index);
       numbers.insert(numbers.begin(), index);
       visit(numbers);
     });
