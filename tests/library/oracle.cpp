@@ -1,79 +1,67 @@
 #include "oracle.hpp"
 
 #include <algorithm>
+#include <bitset>
 #include <cstring>
 
 namespace pd_test {
 
+namespace {
+
 // ---- Bits ----
 
-Bits Bits::repeated(bool bit, size_t count) {
+// Digits '0' and '1', the most significant first.
+using Bits = std::string;
+
+Bits repeated(bool bit, size_t count) { return Bits(count, bit ? '1' : '0'); }
+
+// The first byte is the highest.
+Bits bits_of(const uint8_t *bytes, size_t count) {
   Bits made;
-  made.bits_.assign(count, bit);
+  for (size_t i = 0; i < count; ++i) made += std::bitset<8>(bytes[i]).to_string();
   return made;
 }
 
-Bits Bits::of_bytes(const uint8_t *bytes, size_t count) {
-  Bits made;
-  for (size_t i = 0; i < 8 * count; ++i) made.bits_.push_back(bytes[i / 8] & 0x80u >> i % 8);
-  return made;
-}
-
-Bits Bits::of_member(const uint8_t *record, const bindings::Member &member) {
-  Bytes bytes(record + member.offset, record + member.offset + member.storage);
-  if (member.storage != 16) std::ranges::reverse(bytes);  // the host is little-endian
-  return of_bytes(bytes.data(), bytes.size());
-}
-
-Bits Bits::lowest(size_t count) const {
-  Bits cut;
-  cut.bits_.assign(bits_.end() - static_cast<std::ptrdiff_t>(count), bits_.end());
-  return cut;
-}
-
-Bits Bits::operator&(const Bits &other) const {
-  Bits both = *this;
-  for (size_t i = 0; i < size(); ++i) both.bits_[i] = bits_.at(i) && other.bits_.at(i);
-  return both;
-}
-
-Bits &Bits::operator+=(const Bits &other) {
-  bits_.insert(bits_.end(), other.bits_.begin(), other.bits_.end());
-  return *this;
-}
-
-uint32_t Bits::number() const {
-  uint32_t value = 0;
-  for (const bool bit : bits_) value = 2 * value + (bit ? 1 : 0);
-  return value;
-}
-
-Bytes Bits::bytes() const {
-  EXPECT_EQ(size() % 8, 0u);
-  Bytes bytes(size() / 8);
-  for (size_t i = 0; i < size(); ++i) {
-    if (bits_[i]) bytes[i / 8] = static_cast<uint8_t>(bytes[i / 8] | 0x80u >> i % 8);
+// Whole bytes only.
+Bytes bytes_of(const Bits &bits) {
+  EXPECT_EQ(bits.size() % 8, 0u);
+  Bytes bytes;
+  for (size_t i = 0; i < bits.size(); i += 8) {
+    bytes.push_back(static_cast<uint8_t>(std::bitset<8>(bits, i, 8).to_ulong()));
   }
   return bytes;
 }
 
-void Bits::store(uint8_t *record, const bindings::Member &member) const {
-  Bits whole = repeated(false, 8 * member.storage - size()) + *this;
-  Bytes bytes = whole.bytes();
+// A member of a record: an integer in host order, which is little-endian, or an array of 16 bytes.
+Bits bits_of(const uint8_t *record, const bindings::Member &member) {
+  Bytes bytes(record + member.offset, record + member.offset + member.storage);
+  if (member.storage != 16) std::ranges::reverse(bytes);
+  return bits_of(bytes.data(), bytes.size());
+}
+void store(const Bits &bits, uint8_t *record, const bindings::Member &member) {
+  Bytes bytes = bytes_of(repeated(false, 8 * member.storage - bits.size()) + bits);
   if (member.storage != 16) std::ranges::reverse(bytes);
   std::memcpy(record + member.offset, bytes.data(), bytes.size());
 }
 
-// ---- Keys ----
+Bits lowest(const Bits &bits, size_t count) { return bits.substr(bits.size() - count); }
 
-namespace {
+Bits both(Bits left, const Bits &right) {
+  for (size_t i = 0; i < left.size(); ++i) left[i] = std::min(left[i], right.at(i));
+  return left;
+}
+
+uint32_t number(const Bits &bits) {
+  return static_cast<uint32_t>(std::bitset<32>(bits).to_ulong());
+}
+
+// ---- Keys ----
 
 size_t whole_bytes(unsigned width) { return (width + 7) / 8 * 8; }
 
 // All bits of a field's bytes, those that take part set.
 Bits ones_of_width(const pdgen::KeyField &field) {
-  return Bits::repeated(false, whole_bytes(field.width) - field.width) +
-         Bits::repeated(true, field.width);
+  return repeated(false, whole_bytes(field.width) - field.width) + repeated(true, field.width);
 }
 
 struct FieldImage {
@@ -85,29 +73,29 @@ struct FieldImage {
 
 FieldImage lpm_image(const pdgen::KeyField &field, Bits value, uint32_t length, uint32_t key_bits) {
   if (length > field.width) {
-    return {value, Bits::repeated(true, field.width), key_bits + 1, field.width};
+    return {value, repeated(true, field.width), key_bits + 1, field.width};
   }
-  const Bits mask = Bits::repeated(true, length) + Bits::repeated(false, field.width - length);
-  return {value & mask, mask, field.width - length, length};
+  const Bits mask = repeated(true, length) + repeated(false, field.width - length);
+  return {both(value, mask), mask, field.width - length, length};
 }
 
 FieldImage field_image(const pdgen::Table &table, const pdgen::KeyField &field,
                        const uint8_t *record) {
   const bindings::Record &layout = record_of(table);
   const auto bits_of = [&](const std::string &name) {
-    return Bits::of_member(record, member_of(layout, name));
+    return pd_test::bits_of(record, member_of(layout, name));
   };
   const size_t whole = whole_bytes(field.width);
-  const Bits value = bits_of(field.name).lowest(whole);
+  const Bits value = lowest(bits_of(field.name), whole);
   if (field.match == pdgen::Match::kLpm) {
-    return lpm_image(field, value, bits_of(field.name + "_prefix_length").number(), table.key_bits);
+    return lpm_image(field, value, number(bits_of(field.name + "_prefix_length")), table.key_bits);
   }
   if (field.match == pdgen::Match::kTernary) {
-    const Bits mask = bits_of(field.name + "_mask").lowest(whole);
-    return {value & mask, mask & ones_of_width(field), {}, {}};
+    const Bits mask = lowest(bits_of(field.name + "_mask"), whole);
+    return {both(value, mask), both(mask, ones_of_width(field)), {}, {}};
   }
   if (table.kind == pdgen::TableKind::kTernary) return {value, ones_of_width(field), {}, {}};
-  return {value, Bits::repeated(true, whole), {}, {}};
+  return {value, repeated(true, whole), {}, {}};
 }
 
 }  // namespace
@@ -125,8 +113,8 @@ KeyImage key_image(const pdgen::Table &table, const uint8_t *record, uint32_t pr
     if (part.priority) image.priority = *part.priority;
     image.bits = static_cast<uint16_t>(image.bits + field.width);
   }
-  image.value = value.bytes();
-  image.mask = mask.bytes();
+  image.value = bytes_of(value);
+  image.mask = bytes_of(mask);
   return image;
 }
 
@@ -135,9 +123,9 @@ Bytes kept_match_spec(const pdgen::Table &table, const uint8_t *record) {
   Bytes kept(layout.size);
   for (const pdgen::KeyField &field : table.key) {
     const FieldImage part = field_image(table, field, record);
-    part.value.store(kept.data(), member_of(layout, field.name));
+    store(part.value, kept.data(), member_of(layout, field.name));
     if (field.match == pdgen::Match::kTernary) {
-      part.mask.store(kept.data(), member_of(layout, field.name + "_mask"));
+      store(part.mask, kept.data(), member_of(layout, field.name + "_mask"));
     }
     if (part.prefix_length) {
       const auto length = static_cast<uint16_t>(*part.prefix_length);
@@ -156,11 +144,11 @@ ActionImage action_image(const pdgen::Action &action, const uint8_t *record) {
   Bits data;
   for (const pdgen::Param &param : action.params) {
     const size_t whole = whole_bytes(param.width);
-    data += param.is_index() ? Bits::repeated(false, 32)
-                             : Bits::of_member(record, member_of(layout, param.name)).lowest(whole);
+    data += param.is_index() ? repeated(false, 32)
+                             : lowest(bits_of(record, member_of(layout, param.name)), whole);
     image.bits = static_cast<uint16_t>(image.bits + param.width);
   }
-  image.data = data.bytes();
+  image.data = bytes_of(data);
   return image;
 }
 
@@ -200,7 +188,7 @@ ActionImage action_image(const pdgen::Pair &pair, pdgen::Operation operation, co
     resource.handle = item.resource->handle;
     if (item.index != nullptr) {
       const auto &member = member_of(record_of(*pair.action), item.index->name);
-      resource.index = Bits::of_member(record, member).number();
+      resource.index = number(bits_of(record, member));
     }
     resource.tag = tag_of(item, operation, meter != nullptr);
     if (item.tag == pdgen::ResourceTag::kMeterSpec && meter != nullptr) {
@@ -221,7 +209,7 @@ Bytes kept_action_spec(const pdgen::Action &action, const ActionImage &image) {
   size_t at = 0;
   for (const pdgen::Param &param : action.params) {
     const size_t bytes = whole_bytes(param.width) / 8;
-    Bits value = Bits::of_bytes(image.data.data() + at, bytes);
+    Bits value = bits_of(image.data.data() + at, bytes);
     at += bytes;
     if (param.is_index()) {
       uint32_t cell = attached.empty() ? 0xffffffffu : 0;
@@ -230,12 +218,9 @@ Bytes kept_action_spec(const pdgen::Action &action, const ActionImage &image) {
           if (resource.handle == source->handle) cell = resource.index;
         }
       }
-      const uint8_t big_endian[] = {static_cast<uint8_t>(cell >> 24),
-                                    static_cast<uint8_t>(cell >> 16),
-                                    static_cast<uint8_t>(cell >> 8), static_cast<uint8_t>(cell)};
-      value = Bits::of_bytes(big_endian, 4);
+      value = std::bitset<32>(cell).to_string();
     }
-    value.store(kept.data(), member_of(layout, param.name));
+    store(value, kept.data(), member_of(layout, param.name));
   }
   return kept;
 }

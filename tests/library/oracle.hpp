@@ -11,29 +11,6 @@
 
 namespace pd_test {
 
-// Bits, the most significant first.
-class Bits {
- public:
-  Bits() = default;
-  static Bits repeated(bool bit, size_t count);
-  static Bits of_bytes(const uint8_t *bytes, size_t count);  // the first byte is the highest
-  // A member of a record: an integer in host order, or an array of 16 bytes.
-  static Bits of_member(const uint8_t *record, const bindings::Member &member);
-
-  size_t size() const { return bits_.size(); }
-  Bits lowest(size_t count) const;
-  Bits operator&(const Bits &other) const;
-  Bits &operator+=(const Bits &other);
-  friend Bits operator+(Bits left, const Bits &right) { return left += right; }
-
-  uint32_t number() const;  // of at most 32 bits
-  Bytes bytes() const;      // whole bytes only
-  void store(uint8_t *record, const bindings::Member &member) const;
-
- private:
-  std::vector<bool> bits_;
-};
-
 struct KeyImage {
   uint16_t bits = 0;
   Bytes value;

@@ -46,16 +46,13 @@ class ReadBack : public LibraryTest {
                                              &by_default),
               BF_SUCCESS);
     for (const uint32_t each : {entry, by_default}) {
-      PD(pdpPolicy_match_spec_t) key = {1, 2};
-      uint64_t read = 3;
-      char name[61] = "as it was";
-      uint32_t value = 4;
-      bool no_key = true;
-      EXPECT_EQ(PD(pdpPolicy_get_entry)(session(), kOther, each, false, &key, name, &read, &value,
-                                        &no_key),
+      Bytes room(100, 9);
+      EXPECT_EQ(run("get_entry", "pdpPolicy",
+                    with("device", kOther, "entry", each, "read_from_hardware", 0, "match_spec",
+                         &room[0], "action_name", &room[20], "action_spec", &room[84], "action",
+                         &room[92], "no_key", &room[99])),
                 entry_status);
-      EXPECT_TRUE(key.ig_intr_md_ingress_port == 1 && read == 3 && value == 4 && no_key);
-      EXPECT_STREQ(name, "as it was");
+      EXPECT_EQ(room, Bytes(100, 9));
     }
     PD(action_specs_t) specs = {kUnwritten, {}};
     EXPECT_EQ(PD(pdpPolicy_table_get_default_entry)(session(), {kOther, kPipe}, false, &specs),
