@@ -104,7 +104,7 @@ class ObjectSweep : public LibraryTest {
     EXPECT_EQ(read.no_key, read.reports("no_key") ? (given == nullptr ? 1 : 0) : 0xee);
   }
   static void expect_action(const Read &read, const pdgen::Action &action,
-                            const ActionImage &image) {
+                            const ActionSpec &image) {
     Bytes wanted(read.action_specs.size(), 0xee);
     std::copy_n(reinterpret_cast<const uint8_t *>(&action.value), 4, wanted.data());
     if (action.has_params()) std::ranges::copy(kept_action_spec(action, image), &wanted[4]);
@@ -199,7 +199,7 @@ class ObjectSweep : public LibraryTest {
   }
   static Placement examine_direct(const pdgen::Table &table, const pdgen::Pair &pair,
                                   uint32_t entry, const Contents &given, bool has_key) {
-    const ActionImage image =
+    const ActionSpec image =
         action_image(pair, has_key ? pdgen::Operation::kAdd : pdgen::Operation::kDefault,
                      given.spec.data(), &given.meter);
     return examine(

@@ -100,8 +100,8 @@ FieldImage field_image(const pdgen::Table &table, const pdgen::KeyField &field,
 
 }  // namespace
 
-KeyImage key_image(const pdgen::Table &table, const uint8_t *record, uint32_t priority) {
-  KeyImage image;
+MatchSpec key_image(const pdgen::Table &table, const uint8_t *record, uint32_t priority) {
+  MatchSpec image;
   Bits value;
   Bits mask;
   if (table.kind == pdgen::TableKind::kTernary) image.priority = priority;
@@ -111,10 +111,11 @@ KeyImage key_image(const pdgen::Table &table, const uint8_t *record, uint32_t pr
     value += part.value;
     mask += part.mask;
     if (part.priority) image.priority = *part.priority;
-    image.bits = static_cast<uint16_t>(image.bits + field.width);
+    image.valid_bit_count = static_cast<uint16_t>(image.valid_bit_count + field.width);
   }
   image.value = bytes_of(value);
   image.mask = bytes_of(mask);
+  image.byte_count = static_cast<uint16_t>(image.value->size());
   return image;
 }
 
@@ -138,31 +139,32 @@ Bytes kept_match_spec(const pdgen::Table &table, const uint8_t *record) {
 
 // ---- Actions ----
 
-ActionImage action_image(const pdgen::Action &action, const uint8_t *record) {
+ActionSpec action_image(const pdgen::Action &action, const uint8_t *record) {
   const bindings::Record &layout = record_of(action);
-  ActionImage image;
+  ActionSpec image;
   Bits data;
   for (const pdgen::Param &param : action.params) {
     const size_t whole = whole_bytes(param.width);
     data += param.is_index() ? repeated(false, 32)
                              : lowest(bits_of(record, member_of(layout, param.name)), whole);
-    image.bits = static_cast<uint16_t>(image.bits + param.width);
+    image.data.valid_bit_count = static_cast<uint16_t>(image.data.valid_bit_count + param.width);
   }
-  image.data = bytes_of(data);
+  image.data.bytes = bytes_of(data);
+  image.data.byte_count = static_cast<uint16_t>(image.data.bytes->size());
   return image;
 }
 
-namespace {
-
-pipe_mgr_meter_spec_t meter_image(const p4_pd_bytes_meter_spec_t &spec) {
+pipe_mgr_meter_spec_t meter_image(const p4_pd_bytes_meter_spec_t &spec, uint32_t unit) {
   pipe_mgr_meter_spec_t meter{};
   meter.type = 1;
-  meter.committed_rate.value = spec.committed_rate;
+  meter.committed_rate = {unit, spec.committed_rate};
   meter.committed_burst = spec.committed_burst;
-  meter.peak_rate.value = spec.peak_rate;
+  meter.peak_rate = {unit, spec.peak_rate};
   meter.peak_burst = spec.peak_burst;
   return meter;
 }
+
+namespace {
 
 uint32_t tag_of(const pdgen::ResourceItem &item, pdgen::Operation operation, bool has_meter) {
   switch (item.tag) {
@@ -179,9 +181,9 @@ uint32_t tag_of(const pdgen::ResourceItem &item, pdgen::Operation operation, boo
 
 }  // namespace
 
-ActionImage action_image(const pdgen::Pair &pair, pdgen::Operation operation, const uint8_t *record,
-                         const p4_pd_bytes_meter_spec_t *meter) {
-  ActionImage image = action_image(*pair.action, record);
+ActionSpec action_image(const pdgen::Pair &pair, pdgen::Operation operation, const uint8_t *record,
+                        const p4_pd_bytes_meter_spec_t *meter) {
+  ActionSpec image = action_image(*pair.action, record);
   image.type = 1;
   for (const pdgen::ResourceItem &item : pair.sent_in(operation)) {
     pipe_mgr_resource_t resource{};
@@ -192,14 +194,15 @@ ActionImage action_image(const pdgen::Pair &pair, pdgen::Operation operation, co
     }
     resource.tag = tag_of(item, operation, meter != nullptr);
     if (item.tag == pdgen::ResourceTag::kMeterSpec && meter != nullptr) {
-      resource.data.meter = meter_image(*meter);
+      resource.data.meter = meter_image(*meter, PIPE_RATE_BYTES);
     }
     image.resources.push_back(resource);
+    ++image.resource_count;
   }
   return image;
 }
 
-Bytes kept_action_spec(const pdgen::Action &action, const ActionImage &image) {
+Bytes kept_action_spec(const pdgen::Action &action, const ActionSpec &image) {
   const bindings::Record &layout = record_of(action);
   Bytes kept(layout.size);
   std::vector<pipe_mgr_resource_t> attached;
@@ -209,7 +212,7 @@ Bytes kept_action_spec(const pdgen::Action &action, const ActionImage &image) {
   size_t at = 0;
   for (const pdgen::Param &param : action.params) {
     const size_t bytes = whole_bytes(param.width) / 8;
-    Bits value = bits_of(image.data.data() + at, bytes);
+    Bits value = bits_of(image.data.bytes->data() + at, bytes);
     at += bytes;
     if (param.is_index()) {
       uint32_t cell = attached.empty() ? 0xffffffffu : 0;

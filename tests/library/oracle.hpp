@@ -11,36 +11,26 @@
 
 namespace pd_test {
 
-struct KeyImage {
-  uint16_t bits = 0;
-  Bytes value;
-  Bytes mask;
-  uint32_t priority = 0;
-};
+using soft::journal::ActionSpec;
+using soft::journal::MatchSpec;
 
 // The key of a match spec record. The priority counts in ternary tables.
-KeyImage key_image(const pdgen::Table &table, const uint8_t *record, uint32_t priority);
+MatchSpec key_image(const pdgen::Table &table, const uint8_t *record, uint32_t priority);
 
 // The match spec record that read-back makes of that key.
 Bytes kept_match_spec(const pdgen::Table &table, const uint8_t *record);
 
-struct ActionImage {
-  uint32_t type = 0;
-  uint16_t bits = 0;
-  Bytes data;
-  uint32_t member = 0;
-  uint32_t group = 0;
-  std::vector<pipe_mgr_resource_t> resources;
-};
-
 // The action data of a record, without resources; type 0.
-ActionImage action_image(const pdgen::Action &action, const uint8_t *record);
+ActionSpec action_image(const pdgen::Action &action, const uint8_t *record);
+
+// A meter spec of the caller, unaware of colours, with rates of a unit.
+pipe_mgr_meter_spec_t meter_image(const p4_pd_bytes_meter_spec_t &spec, uint32_t unit);
 
 // What an operation of a pair sends; meter is the caller's spec, or null.
-ActionImage action_image(const pdgen::Pair &pair, pdgen::Operation operation, const uint8_t *record,
-                         const p4_pd_bytes_meter_spec_t *meter);
+ActionSpec action_image(const pdgen::Pair &pair, pdgen::Operation operation, const uint8_t *record,
+                        const p4_pd_bytes_meter_spec_t *meter);
 
 // The action spec record that read-back makes of the data and of the resources attached.
-Bytes kept_action_spec(const pdgen::Action &action, const ActionImage &image);
+Bytes kept_action_spec(const pdgen::Action &action, const ActionSpec &image);
 
 }  // namespace pd_test
