@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <fstream>
+#include <sstream>
 
 #include "expected_calls.hpp"
 
@@ -11,9 +12,13 @@ const std::vector<FamilyCalls> &family_calls() {
     std::ifstream file(PD_CATALOGUE_DIR "/../tests/library/family_calls.txt");
     for (std::string line; std::getline(file, line);) {
       if (line.empty() || line.starts_with("//")) continue;
-      const size_t name = line.find(' '), colon = line.find(':');
-      read.push_back({line.substr(0, name), std::stoul(line.substr(name)),
-                      line.substr(std::min(colon + 2, line.size()))});
+      const size_t colon = line.find(':');
+      std::istringstream families(line.substr(0, colon));
+      FamilyCalls row = {"", 0, line.substr(std::min(colon + 2, line.size()))};
+      for (std::string comma; families >> row.family >> row.count;
+           std::getline(families, comma, ',')) {
+        read.push_back(row);
+      }
     }
     return read;
   }();

@@ -205,16 +205,6 @@ struct EntryRow {
 };
 
 const EntryRow kEntryRows[] = {
-    {"table_add", "cpuEncap",
-     "egrMd_trapToCpu=1 phase0_switchPort=1/1 egrMd_cpuReasonCode=5/0xff vlanHdr_0__valid=1/1",
-     "trapPktToCpuUntagged", "cpuPort=0x40 trapPipelineQid=3", 10, "10",
-     "(( 0x1,0x0,0x1,0x1,0x05,0xff,0x1,0x1,),('trapPktToCpuUntagged',(0x040,0x03,)),)",
-     "  p4_pd_tessel_switch_cpuEncap_match_spec_t:\n   egrMd_trapToCpu: 0x1\n"
-     "   ingMd_vlanHdrValid: 0x0\n   phase0_switchPort: 0x1\n   phase0_switchPort_mask: 0x1\n"
-     "   egrMd_cpuReasonCode: 0x05\n   egrMd_cpuReasonCode_mask: 0xff\n"
-     "   vlanHdr_0__valid: 0x1\n   vlanHdr_0__valid_mask: 0x1\n"
-     "  p4_pd_tessel_switch_trapPktToCpuUntagged:\n   action_cpuPort: 0x040\n"
-     "   action_trapPipelineQid: 0x03\n"},
     // Priorities are signed.
     {"table_add", "cpuEncap", "", "copyPktToCpuTagged", "copyPipelineQid=0x1f", 0xffffffff, "-1",
      "(( 0x0,0x0,0x0,0x0,0x00,0x00,0x0,0x0,),('copyPktToCpuTagged',(0x1f,)),)", nullptr},
@@ -241,8 +231,6 @@ const EntryRow kEntryRows[] = {
      "9", "(( 0x00abc,0xfffff,),('setGrpHdl',(0x2,)))",
      "  p4_pd_tessel_switch_lagGroup_match_spec_t:\n"
      "   egrMd_egrL2AintfUnresolved: 0x00abc\n   egrMd_egrL2AintfUnresolved_mask: 0xfffff\n"},
-    {"set_default_entry_with_selector", "lagGroup", "", "", "", 0, "0", "((),('setGrpHdl',(0x2,)))",
-     ""},
 };
 
 // Five members and two groups of the table's profile.
