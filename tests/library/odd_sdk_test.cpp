@@ -72,7 +72,7 @@ bf_status_t pipe_mgr_get_entry(pipe_session_handle_t session, pipe_object_handle
       session, table, device, entry, match, action_spec, action, read_from_hardware);
   if (excess == 0) return status;
   action_spec->resource_count += excess << 20;
-  action_spec->resources[3] = action_spec->resources[0];
+  action_spec->resources[3] = action_spec->resources[1];
   action_spec->resources[3].index = 77;
   action_spec->resources[3].tag = PIPE_RESOURCE_DETACH;
   return status;

@@ -64,7 +64,7 @@ class Scene {
 
   void fill_arguments();
   bool fill_input(const bindings::Parameter &parameter);
-  bool fill_value(const bindings::Parameter &parameter);
+  Given values() const;
   void fill_output(const bindings::Parameter &parameter);
 
   const Export &exported_;

@@ -9,42 +9,6 @@ namespace pd_test {
 
 namespace {
 
-// Arguments that are plain numbers.
-struct NamedValue {
-  const char *name;
-  uint64_t value;
-};
-constexpr NamedValue kValues[] = {
-    {"value", 21},
-    {"argument", 0},
-    {"count", 2},
-    {"max_size", 8},
-    {"state", P4_PD_GRP_MBR_STATE_INACTIVE},
-    {"hash_length", 4},
-    {"word", 0},
-    {"ttl", 60000},
-    {"hit_state", PIPE_ENTRY_ACTIVE},
-    {"read_from_hardware", 1},
-    {"index", 3},
-    {"wred", 0x07000001},
-    {"adjustment", 24},
-    {"has_pre_color", 0},
-    {"flags", 1},
-    {"input", 0},
-    {"algorithm", 0},
-    {"attribute_count", 1},
-    {"max_count", 2},
-    {"reg", 0x06000005},
-    {"first", 4},
-    {"index_count", 2},
-    {"mask", 23},
-    {"first_stage", 1},
-    {"last_stage", 2},
-    {"direction", 0},
-    {"virtual_device", kSceneVirtualDevice},
-    {"pipe", BF_ALL_PIPES},
-};
-
 const p4_pd_wred_params_t kWred = {12.5f, 100, 900, 0.25f};
 const uint8_t kHash[] = {0x12, 0x34, 0x56, 0x78};
 // Room for any record, zeroed: an input of a type that is not known here.
@@ -96,11 +60,16 @@ size_t output_size(const bindings::Parameter &parameter, const pdgen::Table *tab
 // ---- Arguments ----
 
 void Scene::fill_arguments() {
+  const Given numbers = values();
   for (const bindings::Parameter &parameter : exported_.parameter_list()) {
     const std::string_view name = parameter.name;
-    if (name == "session" || name == "device") continue;
-    if (fill_input(parameter) || fill_value(parameter)) continue;
-    fill_output(parameter);
+    if (name == "session" || name == "device" || fill_input(parameter)) continue;
+    if (is_pointer(parameter)) {
+      fill_output(parameter);
+    } else {
+      const auto known = std::ranges::find(numbers, name, &Given::value_type::first);
+      arguments_.set(name, known == numbers.end() ? 1 : known->second);
+    }
   }
 }
 
@@ -131,31 +100,22 @@ bool Scene::fill_input(const bindings::Parameter &parameter) {
   return give(kAnyInput);
 }
 
-bool Scene::fill_value(const bindings::Parameter &parameter) {
-  if (is_pointer(parameter)) return false;
-  const std::string_view name = parameter.name;
-  const auto give = [&](uint64_t word) {
-    arguments_.set(name, word);
-    return true;
-  };
-  if (name == "priority") return give(priority_);
-  if (name == "entry") return give(entry_);
-  if (name == "member") return give(member_);
-  if (name == "group") return give(group_);
-  if (name == "table") return give(table_->handle);
-  if (name == "table_handle") return give(table_ != nullptr ? table_->handle : 0);
-  if (name == "profile_handle") return give(profile_->action_data_handle);
-  if (name == "snapshot") return give(snapshot_);
+// Numbers; any other is 1.
+Given Scene::values() const {
   const std::string_view family = exported_.family;
-  if (name == "descriptor") return give(~uint64_t{0});  // no file: what is printed goes nowhere
-  if (name == "meter") return give(family.starts_with("packets") ? 0x05000002 : 0x05000001);
-  if (name == "property") {
-    return family.starts_with("pvs") ? give(PIPE_PVS_CAPACITY) : give(PIPE_TABLE_CAPACITY);
-  }
-  for (const NamedValue &row : kValues) {
-    if (name == row.name) return give(row.value);
-  }
-  return give(1);
+  const uint32_t table = table_ == nullptr ? 0 : table_->handle;
+  const uint32_t property =
+      family.starts_with("pvs") ? uint32_t{PIPE_PVS_CAPACITY} : uint32_t{PIPE_TABLE_CAPACITY};
+  return with(
+      "value", 21, "argument", 0, "count", 2, "max_size", 8, "state", P4_PD_GRP_MBR_STATE_INACTIVE,
+      "hash_length", 4, "word", 0, "ttl", 60000, "hit_state", PIPE_ENTRY_ACTIVE, "index", 3, "wred",
+      0x07000001, "adjustment", 24, "has_pre_color", 0, "input", 0, "algorithm", 0, "max_count", 2,
+      "reg", 0x06000005, "first", 4, "index_count", 2, "mask", 23, "last_stage", 2, "direction", 0,
+      "virtual_device", kSceneVirtualDevice, "pipe", BF_ALL_PIPES, "priority", priority_, "entry",
+      entry_, "member", member_, "group", group_, "table", table, "table_handle", table,
+      "profile_handle", profile_ == nullptr ? 0 : profile_->action_data_handle, "snapshot",
+      snapshot_, "meter", family.starts_with("packets") ? 0x05000002 : 0x05000001, "property",
+      property, "descriptor", ~uint64_t{0});  // no file: what is printed goes nowhere
 }
 
 void Scene::fill_output(const bindings::Parameter &parameter) {
