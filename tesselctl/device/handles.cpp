@@ -1,6 +1,7 @@
 #include "tesselctl/device/handles.hpp"
 
 #include "soft_contents.h"
+#include "soft_sdk.h"
 #include "tesselctl/text/interrupt.hpp"
 
 namespace tesselctl {
@@ -57,6 +58,12 @@ Enumeration set_values_of(const Device &device, const char *value_set,
   first.set("target", &target);
   next.set("target", &target);
   return {first, next, "entry", "entries", "entry"};
+}
+
+uint32_t table_capacity(const Device &device, const TableInfo &table) {
+  uint32_t capacity = 0;
+  soft_table_capacity_get(device.id(), table.description->handle, &capacity);
+  return capacity;
 }
 
 uint32_t entry_count(const Device &device, const TableInfo &table, Word word) {

@@ -31,7 +31,9 @@ Enumeration groups_of(const Device &device, const char *profile);
 Enumeration set_values_of(const Device &device, const char *value_set,
                           const p4_pd_parser_target_t &target);
 
-// Of the table. Throws Fault at the word.
+// How many entries the table may have, 0 for any number.
+uint32_t table_capacity(const Device &device, const TableInfo &table);
+// How many it has. Throws Fault at the word.
 uint32_t entry_count(const Device &device, const TableInfo &table, Word word);
 
 void for_each_entry(const Device &device, const TableInfo &table, Word word,

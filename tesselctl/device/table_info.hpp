@@ -20,6 +20,12 @@ struct TableInfo {
   const soft_profile_t *profile() const;
 };
 
+// "exact", "ternary", "lpm" or, of a table without a key, "keyless".
+const char *match_name(const TableInfo &table);
+// "domain,address/lpm,port/mask" with that separator, or the first fields and how many more there
+// are.
+std::string key_text(const TableInfo &table, std::string_view separator, size_t most = ~size_t{0});
+
 // Throws Fault when no table has this name.
 TableInfo resolve_table(Word word);
 // Of a handle that the program has.

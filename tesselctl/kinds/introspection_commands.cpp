@@ -20,33 +20,13 @@ namespace {
 
 constexpr size_t kLineWidth = 100;
 
-const char *kind_of(const TableInfo &table) {
-  return table.keyed() ? match_name(match_of(*table.record)) : "keyless";
-}
-
 // How many entries the table may have.
 std::string size_text(const Context &context, const TableInfo &table) {
-  uint32_t capacity = 0;
-  soft_table_capacity_get(context.device.id(), table.description->handle, &capacity);
+  const uint32_t capacity = table_capacity(context.device, table);
   return capacity == 0 ? "unlimited" : grouped(capacity);
 }
 
 // ---- tables ----
-
-// "domain,address/lpm,port/mask", or the first fields and how many more there are.
-std::string key_text(const TableInfo &table, size_t most) {
-  const std::span<const Field> fields = table.record->shown();
-  std::string text;
-  for (size_t i = 0; i < fields.size(); ++i) {
-    if (i > 0) text += ',';
-    if (i == most && fields.size() > most + 1) {
-      return text + fmt::format("+{}", fields.size() - most);
-    }
-    text += fields[i].label;
-    if (fields[i].match != Match::exact) text += fields[i].match == Match::lpm ? "/lpm" : "/mask";
-  }
-  return text;
-}
 
 void list_tables(Context &context, const Invocation &invocation) {
   std::vector<TableInfo> chosen;
@@ -59,11 +39,11 @@ void list_tables(Context &context, const Invocation &invocation) {
   }
   for (const TableInfo &table : chosen) {
     Row row;
-    row.object("table", table.name()).text("match", kind_of(table));
+    row.object("table", table.name()).text("match", match_name(table));
     row.number("actions", table.indirect() ? 0 : table.description->action_count);
     row.text("size", size_text(context, table))
         .number("entries", entry_count(context.device, table, invocation.command));
-    if (table.keyed()) row.text("fields", key_text(table, clipped ? 3 : ~size_t{0}));
+    if (table.keyed()) row.text("fields", key_text(table, ",", clipped ? 3 : ~size_t{0}));
     context.results.row(row);
   }
 }
@@ -182,7 +162,7 @@ void print_cells(Context &context, const TableInfo &table, const char *kind) {
   for (const Resource &resource : program_rows<Resource>()) {
     if (resource.table != table.description->handle) continue;
     print(context, Row().object(kind, resource.name),
-         fmt::format("{} {}, a cell for each entry", kind, resource.name));
+          fmt::format("{} {}, a cell for each entry", kind, resource.name));
   }
 }
 
@@ -191,13 +171,13 @@ void describe_table(Context &context, const TableInfo &table, Word word) {
   const uint32_t entries = entry_count(context.device, table, word);
   const std::string size = size_text(context, table);
   Row head;
-  head.object("table", table.name()).text("match", kind_of(table)).text("handle", handle);
+  head.object("table", table.name()).text("match", match_name(table)).text("handle", handle);
   print(context, head.text("size", size).number("entries", entries),
-       fmt::format("{}: {} table, handle {}, size {}, entries {}", table.name(), kind_of(table),
-                   handle, size, grouped(entries)));
+        fmt::format("{}: {} table, handle {}, size {}, entries {}", table.name(), match_name(table),
+                    handle, size, grouped(entries)));
   if (const soft_profile_t *profile = table.profile()) {
     print(context, Row().object("profile", profile->name),
-         fmt::format("entries name a member or a group of {}", profile->name));
+          fmt::format("entries name a member or a group of {}", profile->name));
   }
   print_cells<soft_counter_t>(context, table, "counter");
   print_cells<soft_meter_t>(context, table, "meter");
@@ -220,7 +200,7 @@ void describe_action(Context &context, std::string_view name) {
   const std::span<const Field> parameters = action_record(name).shown();
   const size_t count = parameters.size();
   print(context, Row().object("action", name).number("parameters", count),
-       fmt::format("{}: action with {} parameter{}", name, count, count == 1 ? "" : "s"));
+        fmt::format("{}: action with {} parameter{}", name, count, count == 1 ? "" : "s"));
   std::vector<Row> rows;
   for (const Field &field : parameters) {
     rows.push_back(Row()
@@ -238,7 +218,7 @@ void describe_action(Context &context, std::string_view name) {
   for (const soft_profile_t &profile : program_rows<soft_profile_t>()) {
     if (find_action(profile, name) == nullptr) continue;
     print(context, Row().object("profile", profile.name),
-         fmt::format("members of {}", profile.name));
+          fmt::format("members of {}", profile.name));
   }
 }
 
@@ -247,9 +227,9 @@ void describe_profile(Context &context, std::string_view name) {
   const std::string members = fmt::format("{:#010x}", profile.action_data_table);
   const std::string groups = fmt::format("{:#010x}", profile.selector);
   print(context,
-       Row().object("profile", name).text("member_handle", members).text("group_handle", groups),
-       fmt::format("{}: action profile, handles {} of members and {} of groups", name, members,
-                   groups));
+        Row().object("profile", name).text("member_handle", members).text("group_handle", groups),
+        fmt::format("{}: action profile, handles {} of members and {} of groups", name, members,
+                    groups));
   std::vector<Row> rows;
   for (const bindings::Record *action : sorted_actions(profile)) {
     rows.push_back(

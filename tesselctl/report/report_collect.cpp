@@ -55,22 +55,6 @@ EntryText entry_text(const TableInfo &table, const ItemView &item) {
   return entry_text(row);
 }
 
-const char *match_name(const TableInfo &table) {
-  if (!table.keyed()) return "keyless";
-  if (table.description->match == SOFT_TERNARY) return "ternary";
-  return table.description->match == SOFT_LPM ? "lpm" : "exact";
-}
-
-std::string fields_text(const TableInfo &table) {
-  std::string text;
-  for (const Field &field : table.record->shown()) {
-    if (!text.empty()) text += ", ";
-    text += field.label;
-    if (field.match != Match::exact) text += field.match == Match::lpm ? "/lpm" : "/mask";
-  }
-  return text;
-}
-
 const Field *prefix_field(const TableInfo &table) {
   for (const Field &field : table.record->shown()) {
     if (field.match == Match::lpm) return &field;
@@ -128,21 +112,12 @@ class Collector {
  private:
   // ---- Tables ----
 
-  uint64_t capacity_of(const TableInfo &table) const {
-    uint32_t value = 0;
-    uint32_t argument = 0;
-    Call call = device_.prepare("get_property", table.name());
-    call.set("property", uint64_t{PIPE_TABLE_CAPACITY});
-    const uint64_t status = call.set("value", &value).set("argument", &argument).run();
-    return status == BF_SUCCESS ? value : 0;
-  }
-
   TableReport table_report(const TableInfo &table) {
     TableReport report;
     report.name = table.name();
     report.match = match_name(table);
-    report.fields = fields_text(table);
-    report.capacity = capacity_of(table);
+    report.fields = key_text(table, ", ");
+    report.capacity = table_capacity(device_, table);
     read_items("default", table.name(),
                [&](const ItemView &item) { report.default_entry = entry_text(table, item); });
     read_entries(table, report);

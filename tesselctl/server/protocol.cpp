@@ -6,12 +6,11 @@ namespace tesselctl {
 
 namespace {
 
-constexpr uint8_t kAsk = 1;
-constexpr uint8_t kColourOutput = 2;
-constexpr uint8_t kColourErrors = 4;
-constexpr uint8_t kScript = 8;
-constexpr uint8_t kMore = 16;
-constexpr uint8_t kAllFlags = 31;
+// What a request has, in the order of its bits and of its texts.
+constexpr bool Request::*kFlags[] = {&Request::ask, &Request::colour_output,
+                                     &Request::colour_errors, &Request::script, &Request::more};
+constexpr std::string Request::*kTexts[] = {&Request::directory, &Request::settings, &Request::file,
+                                            &Request::text};
 
 void put_number(std::string &to, uint64_t value, size_t bytes) {
   while (bytes-- > 0) to += static_cast<char>(value >> (8 * bytes) & 0xff);
@@ -76,16 +75,11 @@ std::string encode_message(MessageType type, std::string_view payload) {
 std::string encode_request(const Request &request) {
   std::string payload;
   put_number(payload, kProtocolVersion, 1);
-  put_number(payload,
-             (request.ask ? kAsk : 0u) | (request.colour_output ? kColourOutput : 0u) |
-                 (request.colour_errors ? kColourErrors : 0u) | (request.script ? kScript : 0u) |
-                 (request.more ? kMore : 0u),
-             1);
+  uint64_t flags = 0;
+  for (size_t i = 0; i < std::size(kFlags); ++i) flags |= uint64_t{request.*kFlags[i]} << i;
+  put_number(payload, flags, 1);
   put_number(payload, request.line, 8);
-  put_text(payload, request.directory);
-  put_text(payload, request.settings);
-  put_text(payload, request.file);
-  put_text(payload, request.text);
+  for (const auto member : kTexts) put_text(payload, request.*member);
   if (payload.size() > kMostPayload) {
     throw Fault("the line is too long for the server: " + std::to_string(payload.size()) +
                 " bytes, at most " + std::to_string(kMostPayload));
@@ -106,18 +100,11 @@ Request decode_request(std::string_view bytes) {
                 " of its protocol, the client version " + std::to_string(version));
   }
   const uint64_t flags = payload.number(1);
-  if ((flags & ~uint64_t{kAllFlags}) != 0) throw Fault("a request has unknown flags");
+  if (flags >> std::size(kFlags) != 0) throw Fault("a request has unknown flags");
   Request request;
-  request.ask = (flags & kAsk) != 0;
-  request.colour_output = (flags & kColourOutput) != 0;
-  request.colour_errors = (flags & kColourErrors) != 0;
-  request.script = (flags & kScript) != 0;
-  request.more = (flags & kMore) != 0;
+  for (size_t i = 0; i < std::size(kFlags); ++i) request.*kFlags[i] = (flags >> i & 1) != 0;
   request.line = payload.number(8);
-  request.directory = payload.text();
-  request.settings = payload.text();
-  request.file = payload.text();
-  request.text = payload.text();
+  for (const auto member : kTexts) request.*member = payload.text();
   payload.end();
   return request;
 }
