@@ -107,6 +107,10 @@ namespace {
   Call {                                                                                           \
     Call::kind, #__VA_ARGS__, [=]([[maybe_unused]] Hand &h) -> bf_status_t { return __VA_ARGS__; } \
   }
+// What most calls begin with.
+#define IN_DEVICE h.s(), h.d()
+#define IN_PIPES h.s(), h.d(), h.p()
+
 #define CHANGE(...) CALL(kChange, __VA_ARGS__)
 #define READ(...) CALL(kRead, __VA_ARGS__)
 #define END(...) CALL(kEnd, __VA_ARGS__)
@@ -174,11 +178,10 @@ bf_status_t send(Hand &h, const TableCase &t, bool is_packet) {
 
 Calls counted_calls(uint32_t t) {
   return {
-      CHANGE(pipe_mgr_mat_ent_direct_stat_set(h.s(), h.d(), h.o(t), h.entry(), h.x(&kCounted))),
-      READ(pipe_mgr_mat_ent_direct_stat_query(h.s(), h.d(), h.o(t), h.entry(),
-                                              h.x(&h.room.counter))),
-      CHANGE(pipe_mgr_direct_stat_ent_database_sync(h.s(), h.d(), h.p(), h.o(t), h.entry())),
-      CHANGE(pipe_mgr_direct_stat_database_sync(h.s(), h.d(), h.p(), h.o(t), nullptr, nullptr)),
+      CHANGE(pipe_mgr_mat_ent_direct_stat_set(IN_DEVICE, h.o(t), h.entry(), h.x(&kCounted))),
+      READ(pipe_mgr_mat_ent_direct_stat_query(IN_DEVICE, h.o(t), h.entry(), h.x(&h.room.counter))),
+      CHANGE(pipe_mgr_direct_stat_ent_database_sync(IN_PIPES, h.o(t), h.entry())),
+      CHANGE(pipe_mgr_direct_stat_database_sync(IN_PIPES, h.o(t), nullptr, nullptr)),
   };
 }
 
@@ -186,15 +189,15 @@ Calls ageing_calls(uint32_t t) {
   static const pipe_mgr_idle_params_t ageing{PIPE_IDLE_NOTIFY, 10, 9000, 10, 300, 0};
   const auto hear = [](bf_device_id_t, pipe_object_handle_t, pipe_entry_handle_t, void *) {};
   return {
-      CHANGE(pipe_mgr_idle_tmo_enable(h.s(), h.d(), h.o(t), ageing)),
-      CHANGE(pipe_mgr_idle_register_tmo_cb(h.s(), h.d(), h.o(t), hear, nullptr)),
-      READ(pipe_mgr_idle_params_get(h.s(), h.d(), h.o(t), h.x(&h.room.ageing))),
-      CHANGE(pipe_mgr_mat_ent_set_idle_ttl(h.s(), h.d(), h.o(t), h.entry(), 20, 0)),
-      READ(pipe_mgr_mat_ent_get_idle_ttl(h.s(), h.d(), h.o(t), h.entry(), h.x(h.room.word))),
-      CHANGE(pipe_mgr_idle_time_update_hit_state(h.s(), h.d(), h.o(t), h.entry(), h.few() % 2)),
-      READ(pipe_mgr_idle_time_get_hit_state(h.s(), h.d(), h.o(t), h.entry(), h.x(h.room.word))),
+      CHANGE(pipe_mgr_idle_tmo_enable(IN_DEVICE, h.o(t), ageing)),
+      CHANGE(pipe_mgr_idle_register_tmo_cb(IN_DEVICE, h.o(t), hear, nullptr)),
+      READ(pipe_mgr_idle_params_get(IN_DEVICE, h.o(t), h.x(&h.room.ageing))),
+      CHANGE(pipe_mgr_mat_ent_set_idle_ttl(IN_DEVICE, h.o(t), h.entry(), 20, 0)),
+      READ(pipe_mgr_mat_ent_get_idle_ttl(IN_DEVICE, h.o(t), h.entry(), h.x(h.room.word))),
+      CHANGE(pipe_mgr_idle_time_update_hit_state(IN_DEVICE, h.o(t), h.entry(), h.few() % 2)),
+      READ(pipe_mgr_idle_time_get_hit_state(IN_DEVICE, h.o(t), h.entry(), h.x(h.room.word))),
       CHANGE(soft_clock_advance(10), BF_SUCCESS),
-      END(pipe_mgr_idle_tmo_disable(h.s(), h.d(), h.o(t))),
+      END(pipe_mgr_idle_tmo_disable(IN_DEVICE, h.o(t))),
   };
 }
 
@@ -213,8 +216,8 @@ Calls unsupported_calls(uint32_t t) {
     }
   }
   if (t == kAcl) return calls;
-  append(calls, {UNSUPPORTED(pipe_mgr_meter_read_entry(h.s(), h.d(), h.p(), h.o(t), h.entry(),
-                                                       h.x(&h.room.meter)))});
+  append(calls,
+         {UNSUPPORTED(pipe_mgr_meter_read_entry(IN_PIPES, h.o(t), h.entry(), h.x(&h.room.meter)))});
   return calls;
 }
 
@@ -223,11 +226,11 @@ Calls default_calls(uint32_t t) {
   static const Action none;
   const uint32_t preset = t == kHost ? kDrop : kDeny;
   return {
-      CHANGE(pipe_mgr_mat_default_entry_set(h.s(), h.d(), h.p(), h.o(t), preset, h.x(&none.spec), 0,
+      CHANGE(pipe_mgr_mat_default_entry_set(IN_PIPES, h.o(t), preset, h.x(&none.spec), 0,
                                             h.x(h.room.word))),
-      READ(pipe_mgr_table_get_default_entry_handle(h.s(), h.d(), h.p(), h.o(t), h.x(h.room.word))),
-      READ(pipe_mgr_table_get_default_entry(h.s(), h.d(), h.p(), h.o(t), h.x(&h.room.action),
-                                            h.x(h.room.word), false)),
+      READ(pipe_mgr_table_get_default_entry_handle(IN_PIPES, h.o(t), h.x(h.room.word))),
+      READ(pipe_mgr_table_get_default_entry(IN_PIPES, h.o(t), h.x(&h.room.action), h.x(h.room.word),
+                                            false)),
   };
 }
 
@@ -240,29 +243,27 @@ Calls table_calls(uint32_t table) {
   const auto hear = [](pipe_session_handle_t, bf_device_id_t, pipe_object_handle_t, uint32_t,
                        pipe_entry_handle_t, void *) {};
   Calls calls = {
-      CHANGE(pipe_mgr_mat_ent_add(h.s(), h.d(), h.p(), h.o(t), h.x(key(h)), c.action, h.x(c.spec),
-                                  50, 0, h.x(&h.last))),
-      CHANGE(
-          pipe_mgr_mat_ent_set_action(h.s(), h.d(), h.o(t), h.entry(), c.action, h.x(c.spec), 0)),
-      CHANGE(pipe_mgr_mat_ent_set_action_by_match_spec(h.s(), h.d(), h.p(), h.o(t), h.x(key(h)),
-                                                       c.action, h.x(c.spec), 0)),
-      CHANGE(pipe_mgr_mat_ent_set_resource(h.s(), h.d(), h.o(t), h.entry(),
+      CHANGE(pipe_mgr_mat_ent_add(IN_PIPES, h.o(t), h.x(key(h)), c.action, h.x(c.spec), 50, 0,
+                                  h.x(&h.last))),
+      CHANGE(pipe_mgr_mat_ent_set_action(IN_DEVICE, h.o(t), h.entry(), c.action, h.x(c.spec), 0)),
+      CHANGE(pipe_mgr_mat_ent_set_action_by_match_spec(IN_PIPES, h.o(t), h.x(key(h)), c.action,
+                                                       h.x(c.spec), 0)),
+      CHANGE(pipe_mgr_mat_ent_set_resource(IN_DEVICE, h.o(t), h.entry(),
                                            t == kRoute ? nullptr : h.x(c.spec->resources),
                                            c.spec->resource_count, 0)),
-      READ(pipe_mgr_match_spec_to_ent_hdl(h.s(), h.d(), h.p(), h.o(t), h.x(key(h)),
-                                          h.x(h.room.word))),
+      READ(pipe_mgr_match_spec_to_ent_hdl(IN_PIPES, h.o(t), h.x(key(h)), h.x(h.room.word))),
       READ(pipe_mgr_get_entry(h.s(), h.o(t), h.d(), h.entry(), h.x(&h.room.match),
                               h.x(&h.room.action), h.x(h.room.word), false)),
-      READ(pipe_mgr_get_entry_count(h.s(), h.d(), h.p(), h.o(t), 0, h.x(h.room.word))),
+      READ(pipe_mgr_get_entry_count(IN_PIPES, h.o(t), 0, h.x(h.room.word))),
       READ(pipe_mgr_get_first_entry_handle(h.s(), h.o(t), h.d(), h.p(), h.x(h.room.word))),
-      CHANGE(pipe_mgr_get_next_entry_handles(h.s(), h.o(t), h.d(), h.p(), h.entry(), 0,
+      CHANGE(pipe_mgr_get_next_entry_handles(h.s(), h.o(t), h.d(), h.p(), h.entry(), h.more(),
                                              h.x(h.room.word))),
-      CHANGE(pipe_mgr_tbl_set_property(h.s(), h.d(), h.o(t), PIPE_TABLE_CAPACITY, 9 + h.number, 0)),
-      READ(pipe_mgr_tbl_get_property(h.s(), h.d(), h.o(t), PIPE_TABLE_CAPACITY, h.x(h.room.word),
+      CHANGE(pipe_mgr_tbl_set_property(IN_DEVICE, h.o(t), PIPE_TABLE_CAPACITY, 9 + h.number, 0)),
+      READ(pipe_mgr_tbl_get_property(IN_DEVICE, h.o(t), PIPE_TABLE_CAPACITY, h.x(h.room.word),
                                      h.x(h.room.word + 1))),
       CHANGE(soft_table_capacity_set(h.d(), h.o(t), 9)),
       READ(soft_table_capacity_get(h.d(), h.o(t), h.x(h.room.word))),
-      CHANGE(pipe_register_mat_update_cb(h.s(), h.d(), h.o(t), hear, nullptr)),
+      CHANGE(pipe_register_mat_update_cb(IN_DEVICE, h.o(t), hear, nullptr)),
       READ(look_up(h, c)),
       CHANGE(send(h, c, true)),
       CHANGE(send(h, c, false)),
@@ -276,17 +277,16 @@ Calls table_calls(uint32_t table) {
   if (t != kRoute) append(calls, counted_calls(t));
   if (t == kRoute) append(calls, ageing_calls(t));
   if (t == kAcl) {
-    append(calls, {READ(pipe_mgr_meter_read_entry(h.s(), h.d(), h.p(), h.o(t), h.entry(),
-                                                  h.x(&h.room.meter)))});
+    append(calls,
+           {READ(pipe_mgr_meter_read_entry(IN_PIPES, h.o(t), h.entry(), h.x(&h.room.meter)))});
   }
-  append(calls,
-         {
-             END(pipe_mgr_mat_tbl_default_entry_reset(h.s(), h.d(), h.p(), h.o(t), 0)),
-             END(pipe_mgr_mat_ent_del(h.s(), h.d(), h.o(t), h.last, 0)),
-             END(pipe_mgr_mat_ent_add(h.s(), h.d(), h.p(), h.o(t), h.x(key(h)), c.action,
-                                      h.x(c.spec), 50, 0, h.x(&h.last))),
-             END(pipe_mgr_mat_ent_del_by_match_spec(h.s(), h.d(), h.p(), h.o(t), h.x(key(h)), 0)),
-         });
+  append(calls, {
+                    END(pipe_mgr_mat_tbl_default_entry_reset(IN_PIPES, h.o(t), 0)),
+                    END(pipe_mgr_mat_ent_del(IN_DEVICE, h.o(t), h.last, 0)),
+                    END(pipe_mgr_mat_ent_add(IN_PIPES, h.o(t), h.x(key(h)), c.action, h.x(c.spec),
+                                             50, 0, h.x(&h.last))),
+                    END(pipe_mgr_mat_ent_del_by_match_spec(IN_PIPES, h.o(t), h.x(key(h)), 0)),
+                });
   return calls;
 }
 
@@ -303,63 +303,58 @@ Calls profile_calls() {
   constexpr uint32_t m = kMembers, g = kSelector;
   const auto add_lag = [=](Hand &h) {
     const pipe_mgr_action_spec_t spec = naming(PIPE_ACTION_GROUP, h.group());
-    return pipe_mgr_mat_ent_add(h.s(), h.d(), h.p(), h.o(kLag), h.x(&lag.spec), kSend, h.x(&spec),
-                                0, 0, h.x(h.room.word));
+    return pipe_mgr_mat_ent_add(IN_PIPES, h.o(kLag), h.x(&lag.spec), kSend, h.x(&spec), 0, 0,
+                                h.x(h.room.word));
   };
   Calls calls = {
-      CHANGE(pipe_mgr_adt_ent_add(h.s(), h.d(), h.p(), h.o(m), kSend, h.x(&send.spec),
-                                  h.x(&h.member), 0)),
-      CHANGE(pipe_mgr_adt_ent_set(h.s(), h.d(), h.o(m), h.one_member(), kSend, h.x(&send.spec), 0)),
+      CHANGE(pipe_mgr_adt_ent_add(IN_PIPES, h.o(m), kSend, h.x(&send.spec), h.x(&h.member), 0)),
+      CHANGE(pipe_mgr_adt_ent_set(IN_DEVICE, h.o(m), h.one_member(), kSend, h.x(&send.spec), 0)),
       READ(pipe_mgr_get_action_data_entry(h.o(m), h.d(), h.one_member(), h.x(&h.room.data),
                                           h.x(h.room.word), false)),
       CHANGE(soft_placement_of_member(h.d(), h.o(m), h.one_member(), h.x(&h.placed))),
       READ(pipe_mgr_plcmt_adt_data_get_entry(h.x(h.placed), h.x(&h.room.data), h.x(h.room.word))),
       END(soft_placement_free(h.placed), h.placed = nullptr, BF_SUCCESS),
-      CHANGE(pipe_mgr_sel_grp_add(h.s(), h.d(), h.p(), h.o(g), 3, h.x(&h.last), 0)),
-      CHANGE(pipe_mgr_sel_grp_mbr_add(h.s(), h.d(), h.o(g), h.group(), kSend, h.one_member(), 0)),
-      CHANGE(pipe_mgr_sel_grp_mbr_disable(h.s(), h.d(), h.o(g), h.group(), h.one_member(), 0)),
-      READ(pipe_mgr_sel_grp_mbr_state_get(h.s(), h.d(), h.o(g), h.group(), h.one_member(),
+      CHANGE(pipe_mgr_sel_grp_add(IN_PIPES, h.o(g), 3, h.x(&h.last), 0)),
+      CHANGE(pipe_mgr_sel_grp_mbr_add(IN_DEVICE, h.o(g), h.group(), kSend, h.one_member(), 0)),
+      CHANGE(pipe_mgr_sel_grp_mbr_disable(IN_DEVICE, h.o(g), h.group(), h.one_member(), 0)),
+      READ(pipe_mgr_sel_grp_mbr_state_get(IN_DEVICE, h.o(g), h.group(), h.one_member(),
                                           h.x(h.room.word))),
-      CHANGE(pipe_mgr_sel_grp_mbr_enable(h.s(), h.d(), h.o(g), h.group(), h.one_member(), 0)),
-      READ(pipe_mgr_sel_grp_mbr_get_from_hash(h.s(), h.d(), h.o(g), h.group(), h.x(&hash), 1,
+      CHANGE(pipe_mgr_sel_grp_mbr_enable(IN_DEVICE, h.o(g), h.group(), h.one_member(), 0)),
+      READ(pipe_mgr_sel_grp_mbr_get_from_hash(IN_DEVICE, h.o(g), h.group(), h.x(&hash), 1,
                                               h.x(h.room.word))),
-      CHANGE(pipe_mgr_sel_fallback_mbr_set(h.s(), h.d(), h.p(), h.o(g), h.one_member(), 0)),
+      CHANGE(pipe_mgr_sel_fallback_mbr_set(IN_PIPES, h.o(g), h.one_member(), 0)),
       READ(soft_fallback_member(h.d(), h.o(g), h.x(h.room.word))),
-      END(pipe_mgr_sel_fallback_mbr_reset(h.s(), h.d(), h.p(), h.o(g), 0)),
+      END(pipe_mgr_sel_fallback_mbr_reset(IN_PIPES, h.o(g), 0)),
       READ(soft_group_max_size(h.d(), h.o(g), h.group(), h.x(h.room.word))),
       READ(pipe_mgr_get_first_group_member(h.s(), h.o(g), h.d(), h.group(), h.x(h.room.word))),
       READ(
           pipe_mgr_get_next_group_members(h.s(), h.o(g), h.d(), h.group(), 0, 3, h.x(h.room.word))),
-      READ(pipe_mgr_get_sel_grp_mbr_count(h.s(), h.d(), h.o(g), h.group(), h.x(h.room.word))),
-      READ(pipe_mgr_get_word_llp_active_member_count(h.s(), h.d(), h.p(), h.o(g), 0,
-                                                     h.x(h.room.word))),
-      READ(pipe_mgr_get_word_llp_active_members(h.s(), h.d(), h.p(), h.o(g), 0, 3,
-                                                h.x(h.room.word))),
-      CHANGE(pipe_register_adt_update_cb(h.s(), h.d(), h.o(m), hear_member, nullptr)),
-      CHANGE(pipe_mgr_sel_tbl_register_cb(h.s(), h.d(), h.o(g), hear_group, nullptr)),
-      CHANGE(pipe_register_sel_update_cb(h.s(), h.d(), h.o(g), hear_group, nullptr)),
+      READ(pipe_mgr_get_sel_grp_mbr_count(IN_DEVICE, h.o(g), h.group(), h.x(h.room.word))),
+      READ(pipe_mgr_get_word_llp_active_member_count(IN_PIPES, h.o(g), 0, h.x(h.room.word))),
+      READ(pipe_mgr_get_word_llp_active_members(IN_PIPES, h.o(g), 0, 3, h.x(h.room.word))),
+      CHANGE(pipe_register_adt_update_cb(IN_DEVICE, h.o(m), hear_member, nullptr)),
+      CHANGE(pipe_mgr_sel_tbl_register_cb(IN_DEVICE, h.o(g), hear_group, nullptr)),
+      CHANGE(pipe_register_sel_update_cb(IN_DEVICE, h.o(g), hear_group, nullptr)),
       CHANGE(add_lag(h)),
       CHANGE(soft_packet(h.d(), h.q(), h.o(kLag), h.x(&packet), 1, 64, h.x(h.room.word), nullptr)),
   };
   for (const uint32_t t : {m, g}) {
     append(calls,
            {
-               READ(pipe_mgr_get_entry_count(h.s(), h.d(), h.p(), h.o(t), 0, h.x(h.room.word))),
+               READ(pipe_mgr_get_entry_count(IN_PIPES, h.o(t), 0, h.x(h.room.word))),
                READ(pipe_mgr_get_first_entry_handle(h.s(), h.o(t), h.d(), h.p(), h.x(h.room.word))),
-               CHANGE(pipe_mgr_get_next_entry_handles(h.s(), h.o(t), h.d(), h.p(), 1, 0,
+               CHANGE(pipe_mgr_get_next_entry_handles(h.s(), h.o(t), h.d(), h.p(), 1, h.more(),
                                                       h.x(h.room.word))),
                CHANGE(soft_profile_capacity_set(h.d(), h.o(t), 50)),
                READ(soft_profile_capacity_get(h.d(), h.o(t), h.x(h.room.word))),
            });
   }
-  append(calls,
-         {
-             END(pipe_mgr_mat_ent_del_by_match_spec(h.s(), h.d(), h.p(), h.o(kLag), h.x(&lag.spec),
-                                                    0)),
-             END(pipe_mgr_sel_grp_mbr_del(h.s(), h.d(), h.o(g), h.group(), h.one_member(), 0)),
-             END(pipe_mgr_sel_grp_del(h.s(), h.d(), h.o(g), h.last, 0)),
-             END(pipe_mgr_adt_ent_del(h.s(), h.d(), h.o(m), h.member, 0)),
-         });
+  append(calls, {
+                    END(pipe_mgr_mat_ent_del_by_match_spec(IN_PIPES, h.o(kLag), h.x(&lag.spec), 0)),
+                    END(pipe_mgr_sel_grp_mbr_del(IN_DEVICE, h.o(g), h.group(), h.one_member(), 0)),
+                    END(pipe_mgr_sel_grp_del(IN_DEVICE, h.o(g), h.spent(&h.last), 0)),
+                    END(pipe_mgr_adt_ent_del(IN_DEVICE, h.o(m), h.spent(&h.member), 0)),
+                });
   return calls;
 }
 
@@ -372,50 +367,44 @@ Calls cell_calls() {
   };
   return {
       CHANGE(soft_counter_count(h.d(), h.q(), h.o(c), h.few(), 1, 64)),
-      READ(pipe_mgr_stat_ent_query(h.s(), h.d(), h.p(0), h.o(c), h.few(), h.x(&h.room.counter))),
-      CHANGE(pipe_mgr_stat_ent_set(h.s(), h.d(), h.p(), h.o(c), h.few(), h.x(&kCounted))),
-      CHANGE(pipe_mgr_stat_ent_database_sync(h.s(), h.d(), h.p(0), h.o(c), h.few())),
+      READ(pipe_mgr_stat_ent_query(IN_DEVICE, h.p(0), h.o(c), h.few(), h.x(&h.room.counter))),
+      CHANGE(pipe_mgr_stat_ent_set(IN_PIPES, h.o(c), h.few(), h.x(&kCounted))),
+      CHANGE(pipe_mgr_stat_ent_database_sync(IN_DEVICE, h.p(0), h.o(c), h.few())),
       READ(soft_next_cell(h.d(), h.o(c), 0, h.x(h.room.word))),
-      END(pipe_mgr_stat_database_sync(h.s(), h.d(), h.p(), h.o(c), nullptr, nullptr)),
-      CHANGE(pipe_mgr_meter_ent_set(h.s(), h.d(), h.p(), h.o(m), h.few(), h.x(&kMetered), 0)),
-      READ(
-          pipe_mgr_meter_read_entry_idx(h.s(), h.d(), h.p(0), h.o(m), h.few(), h.x(&h.room.meter))),
-      CHANGE(pipe_mgr_meter_set_bytecount_adjust(h.s(), h.d(), h.p(), h.o(m), h.few())),
-      READ(pipe_mgr_meter_get_bytecount_adjust(h.s(), h.d(), h.p(), h.o(m), h.x(h.room.word))),
+      END(pipe_mgr_stat_database_sync(IN_PIPES, h.o(c), nullptr, nullptr)),
+      CHANGE(pipe_mgr_meter_ent_set(IN_PIPES, h.o(m), h.few(), h.x(&kMetered), 0)),
+      READ(pipe_mgr_meter_read_entry_idx(IN_DEVICE, h.p(0), h.o(m), h.few(), h.x(&h.room.meter))),
+      CHANGE(pipe_mgr_meter_set_bytecount_adjust(IN_PIPES, h.o(m), h.few())),
+      READ(pipe_mgr_meter_get_bytecount_adjust(IN_PIPES, h.o(m), h.x(h.room.word))),
       CHANGE(mark(h, m)),
       READ(soft_next_cell(h.d(), h.o(m), 0, h.x(h.room.word))),
       UNSUPPORTED(soft_counter_count(h.d(), h.q(), h.o(kHostCount), 0, 1, 64)),
-      UNSUPPORTED(
-          pipe_mgr_stat_ent_query(h.s(), h.d(), h.p(0), h.o(kHostCount), 0, &h.room.counter)),
-      UNSUPPORTED(pipe_mgr_stat_ent_set(h.s(), h.d(), h.p(), h.o(kHostCount), 0, &kCounted)),
-      UNSUPPORTED(pipe_mgr_stat_ent_database_sync(h.s(), h.d(), h.p(), h.o(kHostCount), 0)),
-      UNSUPPORTED(
-          pipe_mgr_stat_database_sync(h.s(), h.d(), h.p(), h.o(kHostCount), nullptr, nullptr)),
+      UNSUPPORTED(pipe_mgr_stat_ent_query(IN_DEVICE, h.p(0), h.o(kHostCount), 0, &h.room.counter)),
+      UNSUPPORTED(pipe_mgr_stat_ent_set(IN_PIPES, h.o(kHostCount), 0, &kCounted)),
+      UNSUPPORTED(pipe_mgr_stat_ent_database_sync(IN_PIPES, h.o(kHostCount), 0)),
+      UNSUPPORTED(pipe_mgr_stat_database_sync(IN_PIPES, h.o(kHostCount), nullptr, nullptr)),
       UNSUPPORTED(soft_next_cell(h.d(), h.o(kHostCount), 0, h.room.word)),
-      UNSUPPORTED(pipe_mgr_meter_ent_set(h.s(), h.d(), h.p(), h.o(kAclMeter), 0, &kMetered, 0)),
-      UNSUPPORTED(
-          pipe_mgr_meter_read_entry_idx(h.s(), h.d(), h.p(), h.o(kAclMeter), 0, &h.room.meter)),
+      UNSUPPORTED(pipe_mgr_meter_ent_set(IN_PIPES, h.o(kAclMeter), 0, &kMetered, 0)),
+      UNSUPPORTED(pipe_mgr_meter_read_entry_idx(IN_PIPES, h.o(kAclMeter), 0, &h.room.meter)),
       UNSUPPORTED(soft_next_cell(h.d(), h.o(kAclMeter), 0, h.room.word)),
       UNSUPPORTED(mark(h, kAclMeter)),
-      CHANGE(pipe_mgr_wred_ent_set(h.s(), h.d(), h.p(), h.o(kWred), h.few(), h.x(&wred), 0)),
+      CHANGE(pipe_mgr_wred_ent_set(IN_PIPES, h.o(kWred), h.few(), h.x(&wred), 0)),
       READ(soft_wred_get(h.d(), h.q(), h.o(kWred), h.few(), h.x(&h.room.wred))),
       READ(soft_next_wred_cell(h.d(), h.q(), h.x(h.room.zero), h.x(h.room.zero + 1))),
-      CHANGE(pipe_stful_ent_set(h.s(), h.d(), h.p(), h.o(r), h.few(), h.x(&cell), 0)),
-      READ(pipe_stful_ent_query(h.s(), h.d(), h.p(), h.o(r), h.few(), h.x(&h.room.query), false)),
+      CHANGE(pipe_stful_ent_set(IN_PIPES, h.o(r), h.few(), h.x(&cell), 0)),
+      READ(pipe_stful_ent_query(IN_PIPES, h.o(r), h.few(), h.x(&h.room.query), false)),
       CHANGE(soft_register_write(h.d(), h.p(0), h.o(r), 2000 + h.few(), h.number)),
-      CHANGE(pipe_stful_ent_query(h.s(), h.d(), h.p(), h.o(r), 2000 + h.few(), h.x(&h.room.query),
-                                  true)),
-      READ(pipe_stful_ent_query_range(h.s(), h.d(), h.p(), h.o(r), 2000, 1, h.x(&h.room.query),
+      CHANGE(pipe_stful_ent_query(IN_PIPES, h.o(r), 2000 + h.few(), h.x(&h.room.query), true)),
+      READ(pipe_stful_ent_query_range(IN_PIPES, h.o(r), 2000, 1, h.x(&h.room.query),
                                       h.x(h.room.word), false)),
-      CHANGE(pipe_stful_table_reset_range(h.s(), h.d(), h.p(), h.o(r), 1000, 4001, &cell)),
-      READ(pipe_stful_query_get_sizes(h.s(), h.d(), h.o(r), h.x(h.room.word))),
+      CHANGE(pipe_stful_table_reset_range(IN_PIPES, h.o(r), 1000, 4001, &cell)),
+      READ(pipe_stful_query_get_sizes(IN_DEVICE, h.o(r), h.x(h.room.word))),
       READ(soft_next_cell(h.d(), h.o(r), 0, h.x(h.room.word))),
       CHANGE(soft_register_write(h.d(), h.p(), h.o(r), 0x3ffff, h.number)),
-      CHANGE(pipe_stful_database_sync(h.s(), h.d(), h.p(), h.o(r), nullptr, nullptr)),
-      END(pipe_stful_table_reset(h.s(), h.d(), h.p(), h.o(r), &cell)),
-      UNSUPPORTED(pipe_stful_direct_ent_query(h.s(), h.d(), h.o(kHost), 1, &h.room.query, false)),
-      UNSUPPORTED(
-          pipe_stful_direct_database_sync(h.s(), h.d(), h.p(), h.o(kHost), nullptr, nullptr)),
+      CHANGE(pipe_stful_database_sync(IN_PIPES, h.o(r), nullptr, nullptr)),
+      END(pipe_stful_table_reset(IN_PIPES, h.o(r), &cell)),
+      UNSUPPORTED(pipe_stful_direct_ent_query(IN_DEVICE, h.o(kHost), 1, &h.room.query, false)),
+      UNSUPPORTED(pipe_stful_direct_database_sync(IN_PIPES, h.o(kHost), nullptr, nullptr)),
   };
 }
 
@@ -434,48 +423,53 @@ Calls hash_and_digest_calls() {
   static const uint8_t entries[5][3] = {{0, 1, 2}, {1, 1, 2}, {2, 1, 2}, {3, 1, 2}, {4, 1, 2}};
   constexpr uint32_t c = kIpHash, d = kMacDigest;
   return {
-      CHANGE(pipe_mgr_hash_calc_input_set(h.s(), h.d(), h.o(c), kIpFields)),
-      READ(pipe_mgr_hash_calc_input_get(h.s(), h.d(), h.o(c), h.x(h.room.word))),
-      CHANGE(pipe_mgr_hash_calc_algorithm_set(h.s(), h.d(), h.o(c), kCrc)),
-      READ(pipe_mgr_hash_calc_algorithm_get(h.s(), h.d(), h.o(c), h.x(h.room.word))),
-      CHANGE(pipe_mgr_hash_calc_seed_set(h.s(), h.d(), h.o(c), h.number)),
-      READ(pipe_mgr_hash_calc_seed_get(h.s(), h.d(), h.o(c), h.x(&h.room.number))),
-      CHANGE(pipe_mgr_hash_calc_input_field_attribute_set(h.s(), h.d(), h.o(c), kIpFields, 1,
+      CHANGE(pipe_mgr_hash_calc_input_set(IN_DEVICE, h.o(c), kIpFields)),
+      READ(pipe_mgr_hash_calc_input_get(IN_DEVICE, h.o(c), h.x(h.room.word))),
+      CHANGE(pipe_mgr_hash_calc_algorithm_set(IN_DEVICE, h.o(c), kCrc)),
+      READ(pipe_mgr_hash_calc_algorithm_get(IN_DEVICE, h.o(c), h.x(h.room.word))),
+      CHANGE(pipe_mgr_hash_calc_seed_set(IN_DEVICE, h.o(c), h.number)),
+      READ(pipe_mgr_hash_calc_seed_get(IN_DEVICE, h.o(c), h.x(&h.room.number))),
+      CHANGE(pipe_mgr_hash_calc_input_field_attribute_set(IN_DEVICE, h.o(c), kIpFields, 1,
                                                           h.x(&attribute))),
-      READ(pipe_mgr_hash_calc_input_field_attribute_count_get(h.s(), h.d(), h.o(c), kIpFields,
+      READ(pipe_mgr_hash_calc_input_field_attribute_count_get(IN_DEVICE, h.o(c), kIpFields,
                                                               h.x(h.room.word))),
-      READ(pipe_mgr_hash_calc_input_field_attribute_get(h.s(), h.d(), h.o(c), kIpFields, 1,
+      READ(pipe_mgr_hash_calc_input_field_attribute_get(IN_DEVICE, h.o(c), kIpFields, 1,
                                                         h.x(&h.room.attribute), h.x(h.room.word))),
-      READ(pipe_mgr_hash_calc_calculate_hash_value(h.s(), h.d(), h.o(c), h.x(entries[0]), 3,
+      READ(pipe_mgr_hash_calc_calculate_hash_value(IN_DEVICE, h.o(c), h.x(entries[0]), 3,
                                                    h.x(h.room.bytes), 4)),
-      CHANGE(pipe_mgr_lrn_digest_notification_register(h.s(), h.d(), h.o(d), h.x(keep), nullptr)),
+      CHANGE(pipe_mgr_lrn_digest_notification_register(IN_DEVICE, h.o(d), h.x(keep), nullptr)),
       CHANGE(soft_digest_inject(h.d(), h.q(), h.o(d), h.x(entries[h.few()]), 1, 3, h.room.word)),
       READ(soft_digest_pending(h.d(), h.o(d), h.room.word, h.room.word + 1)),
-      CHANGE(pipe_mgr_flow_lrn_set_timeout(h.s(), h.d(), h.few())),
+      CHANGE(pipe_mgr_flow_lrn_set_timeout(IN_DEVICE, h.few())),
       CHANGE(pipe_mgr_flow_lrn_notify_ack(h.s(), h.o(d), sent)),
-      CHANGE(pipe_mgr_lrn_digest_notification_deregister(h.s(), h.d(), h.o(d))),
+      CHANGE(pipe_mgr_lrn_digest_notification_deregister(IN_DEVICE, h.o(d))),
   };
 }
 
 Calls value_set_calls() {
+  const auto oldest = [](Hand &h) {
+    uint32_t entry = h.last;
+    if (!h.steady) pipe_mgr_pvs_entry_get_first(h.session, h.device, kPortSet, 0, 0, 1, &entry);
+    return entry;
+  };
   constexpr uint32_t v = kPortSet, all = SOFT_ALL_PARSERS;
   return {
-      CHANGE(pipe_mgr_pvs_entry_add(h.s(), h.d(), h.o(v), 0, h.p(), all, h.number, kNone,
-                                    h.x(&h.last))),
-      CHANGE(pipe_mgr_pvs_entry_modify(h.s(), h.d(), h.o(v), h.last, h.few(), 15)),
-      READ(pipe_mgr_pvs_entry_get(h.s(), h.d(), h.o(v), h.last, h.x(h.room.word),
+      CHANGE(
+          pipe_mgr_pvs_entry_add(IN_DEVICE, h.o(v), 0, h.p(), all, h.number, kNone, h.x(&h.last))),
+      CHANGE(pipe_mgr_pvs_entry_modify(IN_DEVICE, h.o(v), h.last, h.few(), 15)),
+      READ(pipe_mgr_pvs_entry_get(IN_DEVICE, h.o(v), h.last, h.x(h.room.word),
                                   h.x(h.room.word + 1))),
       READ(soft_value_set_parsers(h.d(), h.o(v), h.last, h.x(&h.room.parsers))),
-      READ(pipe_mgr_pvs_entry_handle_get(h.s(), h.d(), h.o(v), 0, h.p(0), 1, h.few(), 15,
+      READ(pipe_mgr_pvs_entry_handle_get(IN_DEVICE, h.o(v), 0, h.p(0), 1, h.few(), 15,
                                          h.x(h.room.word))),
-      READ(pipe_mgr_pvs_entry_get_first(h.s(), h.d(), h.o(v), 0, h.p(0), 1, h.x(h.room.word))),
-      CHANGE(pipe_mgr_pvs_entry_get_next(h.s(), h.d(), h.o(v), 0, h.p(0), 1, 1, 0, h.room.word)),
-      READ(pipe_mgr_pvs_entry_get_count(h.s(), h.d(), h.o(v), 0, h.p(0), 1, 0, h.x(h.room.word))),
+      READ(pipe_mgr_pvs_entry_get_first(IN_DEVICE, h.o(v), 0, h.p(0), 1, h.x(h.room.word))),
+      CHANGE(
+          pipe_mgr_pvs_entry_get_next(IN_DEVICE, h.o(v), 0, h.p(0), 1, 1, h.more(), h.room.word)),
+      READ(pipe_mgr_pvs_entry_get_count(IN_DEVICE, h.o(v), 0, h.p(0), 1, 0, h.x(h.room.word))),
       READ(soft_value_set_match(h.d(), h.o(v), 0, h.q(), 1, h.few(), h.x(h.room.word))),
-      CHANGE(pipe_mgr_pvs_set_property(h.s(), h.d(), h.o(v), PIPE_PVS_CAPACITY, 0, 0, 0)),
-      READ(pipe_mgr_pvs_get_property(h.s(), h.d(), h.o(v), PIPE_PVS_CAPACITY, h.x(h.room.word), 0,
-                                     0)),
-      END(pipe_mgr_pvs_entry_delete(h.s(), h.d(), h.o(v), h.entry())),
+      CHANGE(pipe_mgr_pvs_set_property(IN_DEVICE, h.o(v), PIPE_PVS_CAPACITY, 0, 0, 0)),
+      READ(pipe_mgr_pvs_get_property(IN_DEVICE, h.o(v), PIPE_PVS_CAPACITY, h.x(h.room.word), 0, 0)),
+      END(pipe_mgr_pvs_entry_delete(IN_DEVICE, h.o(v), oldest(h))),
   };
 }
 

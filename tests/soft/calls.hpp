@@ -72,12 +72,17 @@ struct Hand {
   }
   template <class T>
   T *x(T *pointer) {
-    return is_wrong(kPointer) && pointers++ == wrong_pointer ? nullptr : pointer;
+    const bool chosen = pointers++ == wrong_pointer;
+    return is_wrong(kPointer) && chosen ? nullptr : pointer;
   }
 
   uint8_t few() const { return steady ? 0 : static_cast<uint8_t>(number % 5); }
   uint32_t entry() const { return steady || number % 2 == 0 ? last : 1 + few(); }
   uint32_t group() const { return steady || number % 2 == 0 ? last : 1; }
+  // Of what is removed: the next time the one before it.
+  uint32_t spent(uint32_t *handle) const { return steady ? *handle : (*handle)--; }
+  // Handles to ask for behind one that nothing follows.
+  uint32_t more() const { return steady ? 0 : 3; }
   uint32_t one_member() const { return steady || number % 3 == 0 ? member : 1; }
 
  private:

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "program.hpp"
+#include "store/counting_resource.hpp"
 
 namespace soft {
 namespace {
@@ -45,28 +46,6 @@ Words walk(const MatchTable &table) {
   EXPECT_EQ(status, BF_END_OF_LIST);
   return handles;
 }
-
-// Hands out memory until a set number of allocations was made, then fails once.
-class RationedMemory final : public std::pmr::memory_resource {
- public:
-  std::optional<uint32_t> left;
-  size_t outstanding = 0;
-
- private:
-  void *do_allocate(size_t bytes, size_t alignment) override {
-    if (left && (*left)-- == 0) {
-      left.reset();
-      throw std::bad_alloc();
-    }
-    outstanding += bytes;
-    return std::pmr::new_delete_resource()->allocate(bytes, alignment);
-  }
-  void do_deallocate(void *memory, size_t bytes, size_t alignment) override {
-    outstanding -= bytes;
-    std::pmr::new_delete_resource()->deallocate(memory, bytes, alignment);
-  }
-  bool do_is_equal(const memory_resource &other) const noexcept override { return this == &other; }
-};
 
 TEST(MatchTableHandles, StaleHandlesStayUnknown) {
   MatchTable table(table_of(SOFT_EXACT, 1), EntryLayout{});
@@ -129,58 +108,18 @@ TEST(MatchTableHandles, GrowsOverManyChunksAndDrains) {
 }
 
 TEST(MatchTableMemory, IsCountedExactlyAndGivenBack) {
-  RationedMemory memory;
+  CountingResource memory(std::pmr::new_delete_resource());
   {
     MatchTable table(table_of(SOFT_TERNARY, 2), ageing(), &memory);
-    EXPECT_EQ(memory.outstanding, 0u);
+    EXPECT_EQ(memory.bytes(), 0u);
     for (uint32_t i = 0; i < 20000; ++i)
       add(table, {static_cast<uint8_t>(i), static_cast<uint8_t>(i >> 8)},
           {0xff, static_cast<uint8_t>(i >> 4)}, i);
-    EXPECT_EQ(table.memory_bytes(), sizeof(table) + memory.outstanding);
+    EXPECT_EQ(table.memory_bytes(), sizeof(table) + memory.bytes());
     for (const uint32_t handle : walk(table)) table.erase(handle);
-    EXPECT_LT(memory.outstanding, 20000u) << "an emptied table";
+    EXPECT_LT(memory.bytes(), 20000u) << "an emptied table";
   }
-  EXPECT_EQ(memory.outstanding, 0u);
-}
-
-// Every addition is tried with its first allocation failing, its second, and so on until it gets
-// through: after each failure the table must be what it was.
-TEST(MatchTableMemory, FailingAllocationsChangeNothing) {
-  RationedMemory memory;
-  MatchTable table(table_of(SOFT_TERNARY, 2), ageing(), &memory);
-  Words handles;
-  uint32_t failures = 0;
-  for (uint32_t i = 0; i < 12000; ++i) {
-    const Bytes value{static_cast<uint8_t>(i % 97), static_cast<uint8_t>(i % 89)};
-    const Bytes mask{0xff, static_cast<uint8_t>(i % 3 == 0 ? i >> 4 : 0xff)};
-    const EntryKey key{value.data(), mask.data(), i};
-    const uint32_t hit = table.lookup(value.data());
-    const size_t masks = table.distinct_masks();
-    uint32_t handle = uint32_t{99};
-    bf_status_t status = BF_NO_MEMORY;
-    for (uint32_t attempt = 0; status != BF_SUCCESS; ++attempt) {
-      memory.left = attempt;
-      status = table.add(key, {}, 7, 0, &handle);
-      memory.left.reset();
-      if (status == BF_SUCCESS) break;
-      ++failures;
-      ASSERT_EQ(status, BF_NO_MEMORY);
-      ASSERT_EQ(table.count(), i);
-      ASSERT_EQ(table.distinct_masks(), masks);
-      ASSERT_EQ(table.find(key, &handle), BF_OBJECT_NOT_FOUND);
-      ASSERT_EQ(table.lookup(value.data()), hit);
-      ASSERT_EQ(handle, uint32_t{99});
-      if (failures % 8 == 0) {
-        ASSERT_EQ(walk(table), handles);
-      }
-    }
-    handles.push_back(handle);
-  }
-  EXPECT_GT(failures, 60u);  // chunks, segments, directory, masks and twins all grew
-  EXPECT_EQ(walk(table), handles);
-  uint32_t expired = 0;
-  while (table.next_expired(7) != 0) ++expired;
-  EXPECT_EQ(expired, 12000u);
+  EXPECT_EQ(memory.bytes(), 0u);
 }
 
 }  // namespace

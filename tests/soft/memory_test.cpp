@@ -5,6 +5,7 @@
 #include <new>
 
 #include "calls.hpp"
+#include "tables/match_table.hpp"
 
 namespace {
 
@@ -26,31 +27,19 @@ void *take_or_throw(size_t bytes, size_t alignment = alignof(std::max_align_t)) 
 
 }  // namespace
 
-// All forms, so that no sanitizer sees memory of one allocator go back to another.
+// All forms but those of arrays, which go together.
 void *operator new(size_t bytes) { return take_or_throw(bytes); }
-void *operator new[](size_t bytes) { return take_or_throw(bytes); }
 void *operator new(size_t bytes, std::align_val_t alignment) {
-  return take_or_throw(bytes, static_cast<size_t>(alignment));
-}
-void *operator new[](size_t bytes, std::align_val_t alignment) {
   return take_or_throw(bytes, static_cast<size_t>(alignment));
 }
 void *operator new(size_t bytes, const std::nothrow_t &) noexcept {
   return take_memory(bytes, alignof(std::max_align_t));
 }
-void *operator new[](size_t bytes, const std::nothrow_t &) noexcept {
-  return take_memory(bytes, alignof(std::max_align_t));
-}
 void operator delete(void *memory) noexcept { give_back(memory); }
-void operator delete[](void *memory) noexcept { give_back(memory); }
 void operator delete(void *memory, size_t) noexcept { give_back(memory); }
-void operator delete[](void *memory, size_t) noexcept { give_back(memory); }
 void operator delete(void *memory, std::align_val_t) noexcept { give_back(memory); }
-void operator delete[](void *memory, std::align_val_t) noexcept { give_back(memory); }
 void operator delete(void *memory, size_t, std::align_val_t) noexcept { give_back(memory); }
-void operator delete[](void *memory, size_t, std::align_val_t) noexcept { give_back(memory); }
 void operator delete(void *memory, const std::nothrow_t &) noexcept { give_back(memory); }
-void operator delete[](void *memory, const std::nothrow_t &) noexcept { give_back(memory); }
 
 namespace {
 
@@ -91,6 +80,34 @@ TEST_F(Memory, CallsChangeNothingWithoutIt) {
     }
   }
   EXPECT_GT(failures, 100);
+}
+
+// Additions to a table that grows: masks, twins, chunks, segments and directory.
+TEST(TableMemory, AdditionsChangeNothingWithoutIt) {
+  soft_table_t description{};
+  description.match = SOFT_TERNARY;
+  description.key_bytes = 2;
+  soft::EntryLayout layout;
+  layout.ages = true;
+  soft::MatchTable table(description, layout);
+  int failures = 0;
+  for (uint32_t i = 0; i < 12000 && !testing::Test::HasFailure(); ++i) {
+    const uint8_t value[] = {static_cast<uint8_t>(i % 97), static_cast<uint8_t>(i % 89)};
+    const uint8_t mask[] = {0xff, static_cast<uint8_t>(i % 3 == 0 ? i >> 4 : 0xff)};
+    const soft::EntryKey key{value, mask, i};
+    uint32_t handle = 99;
+    const auto state = [&] {
+      uint32_t found = 99;
+      EXPECT_EQ(table.find(key, &found), BF_OBJECT_NOT_FOUND);
+      return Words{static_cast<uint32_t>(table.count()),
+                   static_cast<uint32_t>(table.distinct_masks()), table.lookup(value), handle};
+    };
+    failures += until_success([&] { return table.add(key, {}, 7, 0, &handle); }, BF_SUCCESS, state);
+  }
+  EXPECT_GT(failures, 60);
+  uint32_t expired = 0;
+  while (table.next_expired(7) != 0) ++expired;
+  EXPECT_EQ(expired, 12000u);
 }
 
 TEST_F(Memory, ADeviceThatCannotBeCopiedStaysAsItWas) {

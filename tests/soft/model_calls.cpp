@@ -40,6 +40,7 @@ void Beside::SetUp() {
 }
 
 void Beside::TearDown() {
+  soft_placement_free(placed);
   OK(soft_device_remove(device));
   OK(soft_session_close(session));
 }

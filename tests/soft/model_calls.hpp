@@ -68,6 +68,7 @@ class Beside : public testing::TestWithParam<uint32_t> {
   uint32_t any_group();
   pipe_mgr_match_spec_t record_of(const ModelTable &table, ModelEntry *key);
   void compare(const ModelTable &table, const ModelEntry &entry);
+  void compare_entry(const ModelTable &table, const ModelEntry &entry, const Room &room);
   void compare_action(const ModelEntry &entry, uint32_t action, const pipe_mgr_action_spec_t &spec);
   // Every handle of a list, in steps of a random length.
   Words walk(uint32_t object, uint32_t pipe);
@@ -80,6 +81,7 @@ class Beside : public testing::TestWithParam<uint32_t> {
   std::vector<Update> heard;
   std::vector<Expiry> expired;
   Words gone{0, 0xfffffff};
+  pipe_mgr_placement_t *placed = nullptr;
 };
 
 }  // namespace soft_test

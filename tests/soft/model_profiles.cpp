@@ -152,6 +152,17 @@ void Beside::change_fallback() {
   if (known) model.fallback = member;
 }
 
+namespace {
+
+void compare_member(const ModelMember &member, const Room &room) {
+  EXPECT_EQ(room.word[0], member.action);
+  EXPECT_EQ(Bytes(room.data.bytes, room.data.bytes + room.data.byte_count), member.data);
+  EXPECT_EQ(room.data.valid_bit_count, member.data.empty() ? 0 : 9);
+  EXPECT_EQ(room.data.bytes[member.data.size()], 0xa5) << "written behind the data";
+}
+
+}  // namespace
+
 void Beside::compare_profiles() {
   for (const uint32_t table : {kMembers, kPorts}) {
     Words expected;
@@ -160,10 +171,11 @@ void Beside::compare_profiles() {
       Room room;
       room.clear();
       OK(pipe_mgr_get_action_data_entry(table, device, member, &room.data, room.word, false));
-      ASSERT_EQ(room.word[0], held.action);
-      ASSERT_EQ(Bytes(room.data.bytes, room.data.bytes + room.data.byte_count), held.data);
-      ASSERT_EQ(room.data.valid_bit_count, held.data.empty() ? 0 : 9);
-      ASSERT_EQ(room.data.bytes[held.data.size()], 0xa5);
+      compare_member(held, room);
+      room.clear();
+      OK(soft_placement_of_member(device, table, member, &placed));
+      OK(pipe_mgr_plcmt_adt_data_get_entry(placed, &room.data, room.word));
+      compare_member(held, room);
     }
     ASSERT_EQ(walk(table, kAll), expected);
   }

@@ -342,24 +342,30 @@ void Beside::compare_action(const ModelEntry &entry, uint32_t action,
   ASSERT_EQ(resources, entry.resources);
 }
 
+// Of a read-back into the room, by the table or from placement data.
+void Beside::compare_entry(const ModelTable &table, const ModelEntry &entry, const Room &room) {
+  compare_action(entry, room.word[0], room.action);
+  ASSERT_EQ(room.match.priority, entry.priority);
+  const size_t bytes = entry.value.size();
+  ASSERT_EQ(room.match.value, bytes == 0 ? nullptr : room.bytes);
+  ASSERT_EQ(Bytes(room.bytes, room.bytes + bytes), entry.value);
+  ASSERT_EQ(Bytes(room.bytes + 8, room.bytes + 8 + bytes), entry.mask);
+  ASSERT_EQ(room.bytes[bytes], 0xa5) << "written behind the key";
+  ASSERT_EQ(room.match.byte_count, bytes);
+  ASSERT_EQ(room.match.valid_bit_count, bytes == 0 ? 0 : table.description->key_bits);
+}
+
 void Beside::compare(const ModelTable &table, const ModelEntry &entry) {
   Room room;
   room.clear();
   const uint32_t handle = table.description->handle;
   OK(pipe_mgr_get_entry(session, handle, device, entry.handle, &room.match, &room.action, room.word,
                         random.one_in(2)));
-  compare_action(entry, room.word[0], room.action);
-  ASSERT_EQ(room.match.priority, entry.priority);
-  if (!entry.value.empty()) {
-    const size_t bytes = entry.value.size();
-    ASSERT_EQ(Bytes(room.bytes, room.bytes + bytes), entry.value);
-    ASSERT_EQ(Bytes(room.bytes + 8, room.bytes + 8 + bytes), entry.mask);
-    ASSERT_EQ(room.match.byte_count, bytes);
-    ASSERT_EQ(room.match.valid_bit_count, table.description->key_bits);
-  } else {
-    ASSERT_EQ(room.match.value, nullptr);
-    ASSERT_EQ(room.bytes[0], 0xa5);
-  }
+  ASSERT_NO_FATAL_FAILURE(compare_entry(table, entry, room));
+  room.clear();
+  OK(soft_placement_of_entry(device, handle, entry.handle, &placed));
+  OK(pipe_mgr_plcmt_mat_data_get_entry(placed, &room.match, &room.action, room.word));
+  ASSERT_NO_FATAL_FAILURE(compare_entry(table, entry, room));
   const auto attached = [&](uint32_t resource) {
     if (resource == 0) return BF_NOT_SUPPORTED;
     return entry.resources.contains(resource) ? BF_SUCCESS : BF_OBJECT_NOT_FOUND;
