@@ -233,11 +233,12 @@ struct Hash {
   unsigned field_count = 0;
 };
 
-struct DigestField {
+// A field of a record of bytes: of a digest's entry, or of a snapshot.
+struct PacketField {
   std::string name;
   Place place;
-  unsigned offset = 0;  // bytes from the start of an entry
-  unsigned bytes = 0;
+  unsigned offset = 0;  // bytes from the start; in a snapshot, fields run on in order
+  unsigned bytes = 0;   // 1, 2 or 4 in a layout; else any size
 };
 
 struct Digest {
@@ -245,7 +246,7 @@ struct Digest {
   Place place;
   std::uint32_t handle = 0;
   unsigned size = 0;  // bytes of one entry
-  std::vector<DigestField> fields;
+  std::vector<PacketField> fields;
 };
 
 struct ValueSet {
@@ -256,17 +257,10 @@ struct ValueSet {
 
 // --- Snapshots ------------------------------------------------------------------------------
 
-struct SnapshotField {
-  std::string name;
-  Place place;
-  unsigned offset = 0;  // fields run on in order from 0
-  unsigned bytes = 0;   // 1, 2 or 4 in a layout; any size in a capture
-};
-
 struct SnapshotLayout {
   std::string name;  // "ingress" or "egress"
   Place place;
-  std::vector<SnapshotField> fields;  // what they leave over of the record is padding
+  std::vector<PacketField> fields;  // what they leave over of the record is padding
 };
 
 struct Snapshots {
@@ -274,7 +268,7 @@ struct Snapshots {
   unsigned record_bytes = 0;
   unsigned capture_limit = 0;
   std::vector<SnapshotLayout> layouts;
-  std::vector<SnapshotField> capture;
+  std::vector<PacketField> capture;
 };
 
 // --- Labels of counted entries --------------------------------------------------------------

@@ -46,7 +46,7 @@ const FieldHint *hint_of(std::string_view field, unsigned width, const FieldFact
 // A part of a captured field that is too long for a layout: <field>_<number>, numbered from the
 // most significant. No whole if the name is none of a part.
 struct CapturedPart {
-  const SnapshotField *whole = nullptr;
+  const PacketField *whole = nullptr;
   unsigned number = 0;
 };
 CapturedPart captured_part(const Snapshots &snapshots, std::string_view name);

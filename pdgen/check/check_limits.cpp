@@ -90,7 +90,7 @@ void check_hint_widths(const Program &program, Diagnostics &diagnostics) {
 // Where a part lies in a capture follows from its number.
 void check_parts(const Snapshots &snapshots, Diagnostics &diagnostics) {
   for (const SnapshotLayout &layout : snapshots.layouts) {
-    for (const SnapshotField &field : layout.fields) {
+    for (const PacketField &field : layout.fields) {
       const auto [whole, number] = captured_part(snapshots, field.name);
       if (whole == nullptr) continue;
       if ((number + 1) * field.bytes > whole->bytes) {

@@ -87,12 +87,12 @@ const Walk kWalks[] = {
     {"profile", "member", "action member", each_with<&Profile::actions, &ProfileAction::action>},
     {"action", "param", "param", each<&Action::params>},
     {"param", "cell", "resource", [](S s) { return each_target(s, s.get<Param>().index_of); }},
-    {"digest", "digest_field", "digest_field", each<&Digest::fields>},
+    {"digest", "digest_field", "packet_field", each<&Digest::fields>},
     {"layout", "packet_field", "packet_field", each<&SnapshotLayout::fields>},
     {"layout", "swapped_field", "packet_field",
      [](S s) {
        return only(each<&SnapshotLayout::fields>(s),
-                   [](S field) { return field.get<SnapshotField>().bytes > 1; });
+                   [](S field) { return field.get<PacketField>().bytes > 1; });
      }},
     {"label", "item", "label_item",
      [](S s) {

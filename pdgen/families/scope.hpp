@@ -45,11 +45,11 @@ class Scope {
   std::tuple<const Program *, const Table *, const Pair *, const KeyField *, const RecordField *,
              const ResourceItem *, const Action *, const Param *, const Profile *,
              const ProfileAction *, const Resource *, const Hash *, const Digest *,
-             const DigestField *, const ValueSet *, const SnapshotLayout *, const SnapshotField *,
-             const Handle *, const Label *, const LabelItem *, const LabelText *,
-             const ToolRecords *, const ToolRecord *, const ToolMember *, const ToolField *,
-             const Api *, const Note *, const Group *, const Unit *, const ParameterList *,
-             const Parameter *, const Function *, const std::string *, const std::size_t *>
+             const PacketField *, const ValueSet *, const SnapshotLayout *, const Handle *,
+             const Label *, const LabelItem *, const LabelText *, const ToolRecords *,
+             const ToolRecord *, const ToolMember *, const ToolField *, const Api *, const Note *,
+             const Group *, const Unit *, const ParameterList *, const Parameter *,
+             const Function *, const std::string *, const std::size_t *>
       objects_;
 };
 

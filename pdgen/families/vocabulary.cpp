@@ -105,8 +105,8 @@ Text compared_bytes(S s) {
 // Where a field of a packet lies in a capture: under its own name or, a part of a longer field,
 // among the bytes of that one.
 Text captured_at(S s) {
-  const SnapshotField &field = s.get<SnapshotField>();
-  const SnapshotField *captured = find_row(snapshots(s).capture, field.name);
+  const PacketField &field = s.get<PacketField>();
+  const PacketField *captured = find_row(snapshots(s).capture, field.name);
   if (captured != nullptr && captured->bytes == field.bytes) return text_of(captured->offset);
   const CapturedPart part = captured_part(snapshots(s), field.name);
   const unsigned at = part.number * field.bytes;
@@ -115,7 +115,7 @@ Text captured_at(S s) {
 }
 
 // What the fields leave over of a record.
-unsigned padding(S s, const std::vector<SnapshotField> &fields) {
+unsigned padding(S s, const std::vector<PacketField> &fields) {
   return snapshots(s).record_bytes - fields.back().offset - fields.back().bytes;
 }
 
@@ -333,17 +333,14 @@ const Placeholder kPlaceholders[] = {
     {"digest", "digest", text<&Digest::name>},
     {"digest", "handle", hex<&Digest::handle>},
     {"digest", "size", text<&Digest::size>},
-    {"digest_field", "name", text<&DigestField::name>},
-    {"digest_field", "offset", text<&DigestField::offset>},
-    {"digest_field", "bytes", text<&DigestField::bytes>},
     {"value_set", "value_set", text<&ValueSet::name>},
     {"value_set", "handle", hex<&ValueSet::handle>},
     {"layout", "layout", text<&SnapshotLayout::name>},
     {"layout", "padding", [](S s) { return text_of(padding(s, s.get<SnapshotLayout>().fields)); }},
-    {"packet_field", "name", text<&SnapshotField::name>},
-    {"packet_field", "offset", text<&SnapshotField::offset>},
-    {"packet_field", "bytes", text<&SnapshotField::bytes>},
-    {"packet_field", "storage_bits", bits_of<&SnapshotField::bytes>},
+    {"packet_field", "name", text<&PacketField::name>},
+    {"packet_field", "offset", text<&PacketField::offset>},
+    {"packet_field", "bytes", text<&PacketField::bytes>},
+    {"packet_field", "storage_bits", bits_of<&PacketField::bytes>},
     {"packet_field", "captured_at", captured_at},
     {"label_item", "item", item_number},
     {"label_item", "kind", one_of<&LabelItem::kind, kLabelKinds>},
@@ -444,7 +441,7 @@ const Condition kConditions[] = {
     {"item", "indexed", [](S s) { return s.get<ResourceItem>().index != nullptr; }},
     {"resource", "direct", [](S s) { return s.get<Resource>().direct(); }},
     {"layout", "padded", [](S s) { return padding(s, s.get<SnapshotLayout>().fields) != 0; }},
-    {"packet_field", "many", [](S s) { return s.get<SnapshotField>().bytes > 1; }},
+    {"packet_field", "many", [](S s) { return s.get<PacketField>().bytes > 1; }},
     {"label_item", "number", [](S s) { return s.get<LabelItem>().kind == LabelKind::kNumber; }},
     {"label_item", "any_number", [](S s) { return is_number(s.get<LabelItem>()); }},
     {"label_item", "mac", [](S s) { return s.get<LabelItem>().kind == LabelKind::kMac; }},

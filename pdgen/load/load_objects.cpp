@@ -103,19 +103,19 @@ void read_hash(RowReader &row, Hash &hash) {
   row.number("fields", hash.field_count, 1);
 }
 
-void read_digest_field(RowReader &row, DigestField &field) {
+void read_digest_field(RowReader &row, PacketField &field) {
   row.name(field);
   row.number("offset", field.offset, 0, kMostDigestBytes);
   row.number("bytes", field.bytes, 1, kMostDigestBytes);
 }
 
 void check_digest_layout(const RowReader &row, const Digest &digest) {
-  std::vector<const DigestField *> by_offset;
-  for (const DigestField &field : digest.fields) by_offset.push_back(&field);
-  std::ranges::stable_sort(by_offset, {}, &DigestField::offset);
+  std::vector<const PacketField *> by_offset;
+  for (const PacketField &field : digest.fields) by_offset.push_back(&field);
+  std::ranges::stable_sort(by_offset, {}, &PacketField::offset);
   unsigned end = 0;
-  const DigestField *before = nullptr;
-  for (const DigestField *field : by_offset) {
+  const PacketField *before = nullptr;
+  for (const PacketField *field : by_offset) {
     if (field->offset < end) {
       row.report_at(field->place, "fields.offset",
                     "field {} of {} begins at byte {} inside field {}, which ends before byte {}",

@@ -96,9 +96,9 @@ void read_label(RowReader &row, Label &label) {
 
 // Fields follow one another up to the end of a record.
 void read_snapshot_fields(RowReader &row, const char *key, unsigned record_bytes,
-                          std::vector<SnapshotField> &fields) {
+                          std::vector<PacketField> &fields) {
   unsigned end = 0;
-  row.rows(key, "field", "name", fields, [&](RowReader &reader, SnapshotField &field) {
+  row.rows(key, "field", "name", fields, [&](RowReader &reader, PacketField &field) {
     reader.name(field);
     if (field.name == kPadding) {
       reader.report("name", "{} is the name of a record's padding", field.name);
@@ -118,7 +118,7 @@ void read_layout(RowReader &row, unsigned record_bytes, SnapshotLayout &layout) 
     row.report("name", "\"{}\" of {} must be one of ingress, egress", layout.name, row.what());
   }
   read_snapshot_fields(row, "fields", record_bytes, layout.fields);
-  for (const SnapshotField &field : layout.fields) {
+  for (const PacketField &field : layout.fields) {
     if (field.bytes == 0 || field.bytes == 1 || field.bytes == 2 || field.bytes == 4) continue;
     row.report_at(field.place, "fields.bytes", "{} bytes of field {} of {} must be 1, 2 or 4",
                   field.bytes, field.name, row.what());

@@ -15,19 +15,17 @@ namespace {
 constexpr unsigned kHalf = 24;
 
 std::string notation_of(Hint hint, unsigned width) {
-  switch (hint) {
-    case Hint::kV4Addr:
-      return width == 32 ? "ipv4" : "number";
-    case Hint::kV6Addr:
-      return width == 128 ? "ipv6" : "number";
-    case Hint::kPort:
-      return "port";
-    case Hint::kVport:
-      return "vport";
-    default:
-      return "number";
-  }
+  if (hint == Hint::kV4Addr && width == 32) return "ipv4";
+  if (hint == Hint::kV6Addr && width == 128) return "ipv6";
+  if (hint == Hint::kPort) return "port";
+  return hint == Hint::kVport ? "vport" : "number";
 }
+
+// A field that may be a half of a MAC address.
+struct OwnField : ToolField {
+  std::string stem;  // of the name of a half; empty for any other field
+  bool is_upper = false;
+};
 
 // Takes the members one after another, then joins halves and names all fields.
 class RecordBuilder {
@@ -43,14 +41,15 @@ class RecordBuilder {
            std::vector<std::string> cells = {}) {
     const bool is_v4 =
         std::ranges::find(facts_.v4_addresses, member.name) != facts_.v4_addresses.end();
-    own_.push_back({.label = std::move(short_name),
-                    .name = member.name,
-                    .notation = notation_of(is_v4 ? Hint::kV4Addr : hint, member.width),
-                    .width = member.width,
-                    .key_bits = key_bits,
-                    .parts = {record_.members.size()},
-                    .cells = std::move(cells)});
-    is_mac_.push_back(hint == Hint::kMac && member.width == kHalf);
+    OwnField &field = own_.emplace_back();
+    field.label = std::move(short_name);
+    field.name = member.name;
+    field.notation = notation_of(is_v4 ? Hint::kV4Addr : hint, member.width);
+    field.width = member.width;
+    field.key_bits = key_bits;
+    field.parts = {record_.members.size()};
+    field.cells = std::move(cells);
+    if (hint == Hint::kMac && member.width == kHalf) name_half(field);
     record_.members.push_back(member);
   }
   // The mask or prefix length of the value before.
@@ -69,51 +68,46 @@ class RecordBuilder {
   }
 
  private:
-  // The lower half that belongs to an upper one, or none.
-  std::size_t other_half(std::size_t upper) const {
-    if (halves_.empty() || !is_mac_[upper] || !own_[upper].name.ends_with(halves_[0])) return kNone;
-    const std::string stem = stem_of(own_[upper].name);
-    for (std::size_t i = 0; i < own_.size(); ++i) {
-      const bool fits = is_mac_[i] && own_[i].match == own_[upper].match;
-      if (fits && own_[i].name == stem + halves_[1]) return i;
+  void name_half(OwnField &field) const {
+    for (const std::string &ending : halves_) {
+      if (!field.name.ends_with(ending)) continue;
+      field.stem = field.name.substr(0, field.name.size() - ending.size());
+      field.is_upper = ending == halves_[0];
     }
-    return kNone;
   }
-  std::string stem_of(const std::string &upper) const {
-    return upper.substr(0, upper.size() - halves_[0].size());
+
+  // Null if it is none, or the other half is no field of the record.
+  const OwnField *other_half(const OwnField &half) const {
+    const auto other = std::ranges::find_if(own_, [&](const OwnField &field) {
+      return !half.stem.empty() && field.stem == half.stem && field.match == half.match &&
+             field.is_upper != half.is_upper;
+    });
+    return other == own_.end() ? nullptr : &*other;
   }
 
   void join_halves() {
-    std::vector<std::size_t> pair_at(own_.size(), kNone);  // the upper half, by the half that leads
-    std::vector<bool> is_half(own_.size());
-    for (std::size_t upper = 0; upper < own_.size(); ++upper) {
-      const std::size_t lower = other_half(upper);
-      if (lower == kNone) continue;
-      is_half[upper] = is_half[lower] = true;
-      pair_at[std::min(upper, lower)] = upper;
-    }
-    for (std::size_t i = 0; i < own_.size(); ++i) {
-      if (pair_at[i] != kNone) record_.fields.push_back(pair_of(pair_at[i]));
-      if (!is_half[i]) record_.fields.push_back(own_[i]);
+    for (const OwnField &field : own_) {
+      const OwnField *other = other_half(field);
+      if (other == nullptr) {
+        record_.fields.push_back(field);
+      } else if (&field < other) {
+        record_.fields.push_back(field.is_upper ? pair_of(field, *other) : pair_of(*other, field));
+      }
     }
     record_.shown = record_.fields.size();
-    for (std::size_t i = 0; i < own_.size(); ++i) {
-      if (is_half[i]) record_.fields.push_back(own_[i]);
+    for (const OwnField &field : own_) {
+      if (other_half(field) != nullptr) record_.fields.push_back(field);
     }
   }
 
-  ToolField pair_of(std::size_t upper) const {
-    const ToolField &high = own_[upper];
-    const ToolField &low = own_[other_half(upper)];
-    const std::string stem = stem_of(high.name);
-    const std::string label = high.label.substr(0, high.label.size() - halves_[0].size());
-    return {.label = label,
-            .name = stem,
+  ToolField pair_of(const OwnField &upper, const OwnField &lower) const {
+    return {.label = upper.label.substr(0, upper.label.size() - halves_[0].size()),
+            .name = upper.stem,
             .notation = "mac",
-            .match = high.match,
+            .match = upper.match,
             .width = 2 * kHalf,
-            .key_bits = {0, high.key_bits.lower << kHalf | low.key_bits.lower},
-            .parts = {high.parts[0], low.parts[0]},
+            .key_bits = {0, upper.key_bits.lower << kHalf | lower.key_bits.lower},
+            .parts = {upper.parts[0], lower.parts[0]},
             .cells = {}};
   }
 
@@ -131,13 +125,10 @@ class RecordBuilder {
     }
   }
 
-  static constexpr std::size_t kNone = ~std::size_t{0};
-
   const FieldFacts &facts_;
-  std::vector<std::string> halves_;  // the endings of their names
+  std::vector<std::string> halves_;  // endings of names: of the upper and of the lower half
   ToolRecord record_;
-  std::vector<ToolField> own_;
-  std::vector<bool> is_mac_;  // by own field: a half of an address
+  std::vector<OwnField> own_;
 };
 
 std::string offset_of(const std::string &type, std::string_view member) {
@@ -159,16 +150,28 @@ unsigned width_of(const Program &program, const std::string &name, unsigned byte
   return hint_by_name(program, name, all) == Hint::kMac ? std::min(all, kHalf) : all;
 }
 
-void add_bytes(RecordBuilder &builder, const Program &program, const std::string &name,
-               unsigned offset, unsigned bytes, bool is_bytes) {
-  const unsigned width = width_of(program, name, bytes);
-  builder.add({.name = name,
-               .offset = std::to_string(offset),
-               .storage = bytes,
-               .width = width,
-               .is_bytes = is_bytes},
-              hint_by_name(program, name, width),
-              short_name(name, program.field_facts.instance_prefixes), low_bits(width));
+// Integers of the host have masks, in a record of their own behind that of the values; all other
+// fields are bytes in network order.
+ToolRecord packet_record(const Program &program, const std::string &name, std::string number,
+                         unsigned size, const std::vector<PacketField> &fields,
+                         bool has_masks = false) {
+  RecordBuilder builder(program.field_facts);
+  for (const PacketField &field : fields) {
+    const unsigned width = width_of(program, field.name, field.bytes);
+    ToolMember member = {.name = field.name,
+                         .offset = std::to_string(field.offset),
+                         .storage = field.bytes,
+                         .width = width,
+                         .is_bytes = !has_masks};
+    builder.add(member, hint_by_name(program, field.name, width),
+                short_name(field.name, program.field_facts.instance_prefixes), low_bits(width));
+    if (!has_masks) continue;
+    member.name += "_mask";
+    member.role = RecordRole::kMask;
+    member.offset = std::to_string(size + field.offset);
+    builder.add_companion(member);
+  }
+  return builder.take(name, std::move(number), std::to_string(has_masks ? 2 * size : size));
 }
 
 ToolRecord tool_record(const Program &program, const Table &table) {
@@ -208,34 +211,7 @@ ToolRecord tool_record(const Program &program, const Action &action) {
 }
 
 ToolRecord tool_record(const Program &program, const Digest &digest) {
-  RecordBuilder builder(program.field_facts);
-  for (const DigestField &field : digest.fields) {
-    add_bytes(builder, program, field.name, field.offset, field.bytes, true);
-  }
-  return builder.take(digest.name, hex32(digest.handle), std::to_string(digest.size));
-}
-
-ToolRecord trigger_record(const Program &program, const SnapshotLayout &layout) {
-  const unsigned size = program.snapshots->record_bytes;
-  RecordBuilder builder(program.field_facts);
-  for (const SnapshotField &field : layout.fields) {
-    add_bytes(builder, program, field.name, field.offset, field.bytes, false);
-    builder.add_companion({.name = field.name + "_mask",
-                           .role = RecordRole::kMask,
-                           .offset = std::to_string(size + field.offset),
-                           .storage = field.bytes,
-                           .width = width_of(program, field.name, field.bytes)});
-  }
-  return builder.take(layout.name, "0", std::to_string(2 * size));
-}
-
-ToolRecord snapshot_record(const Program &program, const std::string &name,
-                           const std::vector<SnapshotField> &fields) {
-  RecordBuilder builder(program.field_facts);
-  for (const SnapshotField &field : fields) {
-    add_bytes(builder, program, field.name, field.offset, field.bytes, true);
-  }
-  return builder.take(name, "0", std::to_string(program.snapshots->record_bytes));
+  return packet_record(program, digest.name, hex32(digest.handle), digest.size, digest.fields);
 }
 
 template <class Row>
@@ -255,11 +231,12 @@ std::vector<ToolRecords> tool_records(const Program &program) {
                                     {"packet", {}},
                                     {"capture", {}}};
   if (!program.snapshots) return lists;
-  for (const SnapshotLayout &layout : program.snapshots->layouts) {
-    lists[3].records.push_back(trigger_record(program, layout));
-    lists[4].records.push_back(snapshot_record(program, layout.name, layout.fields));
+  const auto &[place, size, limit, layouts, capture] = *program.snapshots;
+  for (const auto &[name, where, fields] : layouts) {
+    lists[3].records.push_back(packet_record(program, name, "0", size, fields, true));
+    lists[4].records.push_back(packet_record(program, name, "0", size, fields));
   }
-  lists[5].records.push_back(snapshot_record(program, "capture", program.snapshots->capture));
+  lists[5].records.push_back(packet_record(program, "capture", "0", size, capture));
   return lists;
 }
 

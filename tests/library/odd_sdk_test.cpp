@@ -257,7 +257,7 @@ TEST_F(OddSdk, TriggersReachTheDeviceInNetworkOrder) {
     Bytes wanted = value, wanted_mask = mask, sent(kRecord), sent_mask(kRecord);
     size_t fields[5] = {};
     const auto &layout = program().snapshots->layouts[direction];
-    for (const pdgen::SnapshotField &field : layout.fields) {
+    for (const pdgen::PacketField &field : layout.fields) {
       ++fields[field.bytes];
       for (Bytes *record : {&wanted, &wanted_mask}) {
         std::reverse(record->begin() + field.offset, record->begin() + field.offset + field.bytes);
