@@ -46,8 +46,15 @@ struct Bits {
   bool operator==(const Bits &) const = default;
 };
 
-// How tools show a value.
-enum class Hint { kNone, kMac, kV4Addr, kV6Addr, kPort, kVport };
+// The words for the values of an enumeration, in the catalogue and in what is generated.
+template <typename Enum>
+inline constexpr auto kNamesOf = nullptr;
+
+// How tools show a value. Parameters have one of the first.
+enum class Hint { kNone, kMac, kV4Addr, kVport, kPort, kV6Addr };
+template <>
+inline constexpr auto kNamesOf<Hint> = std::to_array<std::string_view>({"none", "mac", "v4addr",
+                                                                        "vport", "port", "v6addr"});
 
 struct Table;
 
@@ -55,6 +62,8 @@ struct Table;
 
 enum class ResourceKind { kCounter, kMeter, kRegister };
 enum class MeterUnit { kBytes, kPackets };
+template <>
+inline constexpr auto kNamesOf<MeterUnit> = std::to_array<std::string_view>({"bytes", "packets"});
 
 struct Resource {
   ResourceKind kind = ResourceKind::kCounter;
@@ -100,7 +109,13 @@ struct Action {
 // --- Tables ---------------------------------------------------------------------------------
 
 enum class Match { kExact, kTernary, kLpm };
+template <>
+inline constexpr auto kNamesOf<Match> = std::to_array<std::string_view>({"exact", "ternary",
+                                                                         "lpm"});
 enum class TableKind { kKeyless, kExact, kTernary, kLpm };
+template <>
+inline constexpr auto kNamesOf<TableKind> = std::to_array<std::string_view>({"keyless", "exact",
+                                                                             "ternary", "lpm"});
 
 struct KeyField {
   std::string name;
@@ -123,6 +138,9 @@ struct KeyField {
 
 // One member of the match record: a key field or the companion that follows it.
 enum class RecordRole { kValue, kMask, kPrefixLength };
+template <>
+inline constexpr auto kNamesOf<RecordRole> = std::to_array<std::string_view>({"value", "mask",
+                                                                              "prefix_length"});
 
 struct RecordField {
   RecordRole role = RecordRole::kValue;
@@ -140,9 +158,14 @@ enum class ResourceTag {
   kDetach,
   kMeterSpec,  // attached with the meter spec that the caller passes
 };
+template <>
+inline constexpr auto kNamesOf<ResourceTag> = std::to_array<std::string_view>({"attach", "detach",
+                                                                               "meter_spec"});
 enum class Operation { kAdd, kModify, kDefault };
-inline constexpr std::string_view kOperationNames[] = {"add", "modify", "default"};
-inline constexpr std::size_t kOperationCount = std::size(kOperationNames);
+template <>
+inline constexpr auto kNamesOf<Operation> = std::to_array<std::string_view>({"add", "modify",
+                                                                             "default"});
+inline constexpr std::size_t kOperationCount = kNamesOf<Operation>.size();
 
 // A row of a table's `resources`, as written.
 struct ResourceRow {
@@ -274,6 +297,9 @@ struct Snapshots {
 // --- Labels of counted entries --------------------------------------------------------------
 
 enum class LabelKind { kFlag, kNumber, kExact, kSilent, kMac, kV4Addr, kV6Addr };
+template <>
+inline constexpr auto kNamesOf<LabelKind> = std::to_array<std::string_view>(
+    {"flag", "number", "exact", "silent", "mac", "v4addr", "v6addr"});
 
 // Written, blanks included, in place of a number whose value AND mask is `value`.
 struct LabelText {

@@ -67,7 +67,7 @@ void check_items(const Table &table, const Pair &pair, Diagnostics &diagnostics)
       });
       if (twice) {
         diagnostics.report(row.place, "table.resources.in", "{} is sent twice in {} of action {}",
-                           item_text(table, row), kOperationNames[operation], pair.action.name);
+                           item_text(table, row), kNamesOf<Operation>[operation], pair.action.name);
       }
       sent.push_back(&row);
     }
@@ -75,7 +75,7 @@ void check_items(const Table &table, const Pair &pair, Diagnostics &diagnostics)
       diagnostics.report(sent[kMostItems]->place, "table.resources",
                          "table {} sends {} resources in {} of action {}; the list "
                          "holds {}",
-                         table.name, sent.size(), kOperationNames[operation], pair.action.name,
+                         table.name, sent.size(), kNamesOf<Operation>[operation], pair.action.name,
                          kMostItems);
     }
   }

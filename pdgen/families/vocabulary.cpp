@@ -17,17 +17,14 @@ using Text = std::string;
 
 // --- Placeholders ---------------------------------------------------------------------------
 
-constexpr const char *kKinds[] = {"keyless", "exact", "ternary", "lpm"};
-constexpr const char *kMatches[] = {"EXACT", "TERNARY", "LPM"};
-constexpr const char *kUnits[] = {"bytes", "packets"};
-constexpr const char *kRoles[] = {"value", "mask", "prefix_length"};
-constexpr const char *kTags[] = {"attach", "detach", "meter_spec"};
-constexpr const char *kLabelKinds[] = {"flag", "number", "exact", "silent",
-                                       "mac",  "v4addr", "v6addr"};
-
-template <auto Member, const auto &Names, int Shift = 0>
-Text one_of(S scope) {
-  return Names[static_cast<int>(value_of<Member>(scope)) + Shift];
+template <auto Member>
+Text name_of(S scope) {
+  const auto value = value_of<Member>(scope);
+  return Text(kNamesOf<std::remove_const_t<decltype(value)>>[static_cast<std::size_t>(value)]);
+}
+template <auto Member>
+Text capitals(S scope) {
+  return in_capitals(name_of<Member>(scope));
 }
 
 // The type of an unsigned integer and its storage: uint<storage_bits>_t.
@@ -236,10 +233,10 @@ const Placeholder kPlaceholders[] = {
     {"table", "key_bits", text<&Table::key_bits>},
     {"table", "key_bytes", text<&Table::key_bytes>},
     {"table", "record_bytes", text<&Table::record_bytes>},
-    {"table", "kind", one_of<&Table::kind, kKinds>},
+    {"table", "kind", name_of<&Table::kind>},
     // A table without a key counts as exact.
     {"table", "MATCH",
-     [](S s) { return is_keyed(s) ? one_of<&Table::kind, kMatches, -1>(s) : Text(kMatches[0]); }},
+     [](S s) { return is_keyed(s) ? capitals<&Table::kind>(s) : "EXACT"; }},
     {"table", "profile_index", profile_index},
     {"table", "action_data",
      [](S s) {
@@ -261,8 +258,8 @@ const Placeholder kPlaceholders[] = {
     {"field", "storage", text<&KeyField::storage_bytes>},
     {"field", "width", text<&KeyField::width>},
     {"field", "bytes", text<&KeyField::bytes>},
-    {"field", "match", one_of<&KeyField::match, kKinds, 1>},
-    {"field", "MATCH", one_of<&KeyField::match, kMatches>},
+    {"field", "match", name_of<&KeyField::match>},
+    {"field", "MATCH", capitals<&KeyField::match>},
     {"record_field", "name", text<&RecordField::name>},
     {"record_field", "offset", text<&RecordField::record_offset>},
     {"record_field", "storage", text<&RecordField::storage_bytes>},
@@ -285,7 +282,7 @@ const Placeholder kPlaceholders[] = {
     {"record_field", "remark", field_remark},
     {"pair", "action_handle", hex<&Pair::handle>},
     {"item", "index", [](S s) { return s.get<ResourceItem>().index->name; }},
-    {"item", "tag", one_of<&ResourceItem::tag, kTags>},
+    {"item", "tag", name_of<&ResourceItem::tag>},
     {"item", "operations", text<&ResourceItem::operations>},
     {"member", "action_handle", hex<&ProfileAction::handle>},
     {"action", "action", text<&Action::name>},
@@ -316,8 +313,8 @@ const Placeholder kPlaceholders[] = {
     {"profile", "schema", [](S s) { return c_literal(profile_schema(s.get<Profile>())); }},
     {"counter", "counter", text<&Resource::name>},
     {"meter", "meter", text<&Resource::name>},
-    {"meter", "unit", one_of<&Resource::unit, kUnits>},
-    {"meter", "UNIT", [](S s) { return in_capitals(one_of<&Resource::unit, kUnits>(s)); }},
+    {"meter", "unit", name_of<&Resource::unit>},
+    {"meter", "UNIT", capitals<&Resource::unit>},
     {"register", "register", text<&Resource::name>},
     {"register", "width", text<&Resource::width>},
     // The smallest integer that holds a cell.
@@ -343,7 +340,7 @@ const Placeholder kPlaceholders[] = {
     {"packet_field", "storage_bits", bits_of<&PacketField::bytes>},
     {"packet_field", "captured_at", captured_at},
     {"label_item", "item", item_number},
-    {"label_item", "kind", one_of<&LabelItem::kind, kLabelKinds>},
+    {"label_item", "kind", name_of<&LabelItem::kind>},
     {"label_item", "digits", text<&LabelItem::digits>},
     {"label_item", "field_place",
      [](S s) {
@@ -368,7 +365,7 @@ const Placeholder kPlaceholders[] = {
     {"record", "size", text<&ToolRecord::size>},
     {"record", "shown", text<&ToolRecord::shown>},
     {"tool_member", "name", text<&ToolMember::name>},
-    {"tool_member", "role", one_of<&ToolMember::role, kRoles>},
+    {"tool_member", "role", name_of<&ToolMember::role>},
     {"tool_member", "offset", text<&ToolMember::offset>},
     {"tool_member", "storage", text<&ToolMember::storage>},
     {"tool_member", "width", text<&ToolMember::width>},
@@ -377,7 +374,7 @@ const Placeholder kPlaceholders[] = {
     {"tool_field", "label", text<&ToolField::label>},
     {"tool_field", "name", text<&ToolField::name>},
     {"tool_field", "notation", text<&ToolField::notation>},
-    {"tool_field", "match", one_of<&ToolField::match, kKinds, 1>},
+    {"tool_field", "match", name_of<&ToolField::match>},
     {"tool_field", "width", text<&ToolField::width>},
     {"tool_field", "upper_bits", [](S s) { return fmt::format("{:#018x}", s.get<ToolField>().key_bits.upper); }},
     {"tool_field", "lower_bits", [](S s) { return fmt::format("{:#018x}", s.get<ToolField>().key_bits.lower); }},

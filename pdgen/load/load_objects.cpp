@@ -15,8 +15,7 @@ void read_param(RowReader &row, Param &param) {
   row.name(param);
   row.number("width", param.width, 1, 32);
   read_sizes(row, param.width, param.storage_bytes, param.bytes);
-  row.choice("hint", param.hint,
-             {{"mac", Hint::kMac}, {"v4addr", Hint::kV4Addr}, {"vport", Hint::kVport}}, kOptional);
+  row.choice("hint", param.hint, kOptional, 1, 3);
   const auto find = [&program = row.program()](std::string_view name) {
     return find_indexed(program, name);
   };
@@ -81,7 +80,7 @@ void read_counter(RowReader &row, Resource &counter) {
 void read_meter(RowReader &row, Resource &meter) {
   meter.kind = ResourceKind::kMeter;
   read_resource(row, meter, HandleKind::kMeter);
-  row.choice("unit", meter.unit, {{"bytes", MeterUnit::kBytes}, {"packets", MeterUnit::kPackets}});
+  row.choice("unit", meter.unit);
 }
 
 void read_register(RowReader &row, Resource &reg) {

@@ -170,7 +170,7 @@ void RowReader::flag(std::string_view key, bool &flag) {
 }
 
 std::size_t RowReader::index_of_choice(std::string_view key,
-                                       const std::vector<std::string_view> &choices, Need need) {
+                                       std::span<const std::string_view> choices, Need need) {
   const auto *text = typed<std::string>(key, value(key, need), "a string");
   if (text == nullptr) return choices.size();
   const auto chosen = std::ranges::find(choices, *text);

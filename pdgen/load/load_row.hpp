@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -108,15 +109,14 @@ class RowReader {
   using Word = std::pair<std::string, Place>;
   std::vector<Word> words(std::string_view key, Need need);
   void words(std::string_view key, std::vector<std::string> &values);
-  // One of the words; it stands for the value beside it.
+  // One of the names of T, of so many from the first on.
   template <typename T>
-  bool choice(std::string_view key, T &value,
-              const std::vector<std::pair<std::string_view, T>> &choices, Need need = kRequired) {
-    std::vector<std::string_view> words;
-    for (const auto &choice : choices) words.push_back(choice.first);
-    const std::size_t chosen = index_of_choice(key, words, need);
-    if (chosen < choices.size()) value = choices[chosen].second;
-    return chosen < choices.size();
+  bool choice(std::string_view key, T &value, Need need = kRequired, std::size_t first = 0,
+              std::size_t count = std::dynamic_extent) {
+    const auto names = std::span<const std::string_view>(kNamesOf<T>).subspan(first, count);
+    const std::size_t chosen = index_of_choice(key, names, need);
+    if (chosen < names.size()) value = static_cast<T>(first + chosen);
+    return chosen < names.size();
   }
 
   // The row's own name, which must be new among its siblings, and its place.
@@ -208,7 +208,7 @@ class RowReader {
   template <typename T>
   std::vector<const TomlValue *> elements(std::string_view key, Need need, std::string_view verb,
                                           std::string_view kind);
-  std::size_t index_of_choice(std::string_view key, const std::vector<std::string_view> &choices,
+  std::size_t index_of_choice(std::string_view key, std::span<const std::string_view> choices,
                               Need need);
   std::vector<const TomlValue *> row_values(std::string_view key, Need need);
   void add_to_siblings(const std::string &name, const Place &place);

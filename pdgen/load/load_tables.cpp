@@ -60,7 +60,7 @@ void read_key_field(RowReader &row, KeyField &field) {
     row.report("width", "{} bits of {} must be 1 to 32, or {}", field.width, row.what(), kWide);
     field.width = 0;
   }
-  row.choice("match", field.match, {{"ternary", Match::kTernary}, {"lpm", Match::kLpm}}, kOptional);
+  row.choice("match", field.match, kOptional, 1);
   read_sizes(row, field.width, field.storage_bytes, field.bytes);
   read_key_bits(row, field);
   const std::string header = validity_header(field.name);
@@ -128,13 +128,13 @@ void read_pair(RowReader &row, Pair &pair) {
 
 void read_operations(RowReader &row, bool keyed, ResourceRow &resource) {
   for (const auto &[name, place] : row.words("in", kRequired)) {
-    const auto *found = std::ranges::find(kOperationNames, name);
-    if (found == std::end(kOperationNames)) {
+    const auto *found = std::ranges::find(kNamesOf<Operation>, name);
+    if (found == kNamesOf<Operation>.end()) {
       row.report("in", "\"{}\" of {} must be one of {}", name, row.what(),
-                 fmt::join(kOperationNames, ", "));
+                 fmt::join(kNamesOf<Operation>, ", "));
       continue;
     }
-    const auto operation = static_cast<std::size_t>(found - std::begin(kOperationNames));
+    const auto operation = static_cast<std::size_t>(found - kNamesOf<Operation>.begin());
     if (!keyed && operation != static_cast<std::size_t>(Operation::kDefault)) {
       row.report("in", "{} is sent in {}, but a table without a key has no entries", row.what(),
                  name);
@@ -166,11 +166,7 @@ void read_resource(RowReader &row, const Table &table, ResourceRow &resource) {
       kOptional);
   row.identifier("index", resource.index, kOptional);
   resource.index_place = row.place("index");
-  row.choice("tag", resource.tag,
-             {{"attach", ResourceTag::kAttach},
-              {"detach", ResourceTag::kDetach},
-              {"meter_spec", ResourceTag::kMeterSpec}},
-             kOptional);
+  row.choice("tag", resource.tag, kOptional);
   if (row.has("index") && resource.tag == ResourceTag::kDetach) {
     row.report("index", "{} is detached and needs no cell", row.what());
   }

@@ -12,12 +12,7 @@ namespace {
 
 void read_hint(RowReader &row, FieldHint &hint) {
   hint.place = row.place("hint");
-  row.choice("hint", hint.hint,
-             {{"mac", Hint::kMac},
-              {"v4addr", Hint::kV4Addr},
-              {"v6addr", Hint::kV6Addr},
-              {"port", Hint::kPort},
-              {"vport", Hint::kVport}});
+  row.choice("hint", hint.hint, kRequired, 1);
   row.words("fields", hint.fields);
   row.words("suffixes", hint.suffixes);
   row.number("width", hint.width, 1, 128, kOptional);
@@ -48,16 +43,7 @@ void read_number_texts(RowReader &row, LabelItem &item) {
 
 void read_item(RowReader &row, const Ref<Table> &table, LabelItem &item) {
   item.place = row.place("kind");
-  if (!row.choice("kind", item.kind,
-                  {{"flag", LabelKind::kFlag},
-                   {"number", LabelKind::kNumber},
-                   {"exact", LabelKind::kExact},
-                   {"silent", LabelKind::kSilent},
-                   {"mac", LabelKind::kMac},
-                   {"v4addr", LabelKind::kV4Addr},
-                   {"v6addr", LabelKind::kV6Addr}})) {
-    return row.ignore_other_keys();
-  }
+  if (!row.choice("kind", item.kind)) return row.ignore_other_keys();
   // That the label has no table has been reported.
   static const KeyField kReported;
   const auto find = [&](std::string_view name) {

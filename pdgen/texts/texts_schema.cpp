@@ -16,9 +16,9 @@ Bits member_bits(const Table &table, const RecordField &field) {
 
 namespace {
 
-const char *hint_text(Hint hint) {
-  constexpr const char *kTexts[] = {"None", "'mac'", "'v4addr'", "'v6addr'", "'port'", "'vport'"};
-  return kTexts[static_cast<std::size_t>(hint)];
+std::string hint_text(Hint hint) {
+  if (hint == Hint::kNone) return "None";
+  return fmt::format("'{}'", kNamesOf<Hint>[static_cast<std::size_t>(hint)]);
 }
 
 // The schemas of actions, in the byte order of their names.
