@@ -58,8 +58,8 @@ pdgen::OutputFiles output_files(const pdgen::Api &api, const pdgen::Families &fa
                                 Options &options) {
   pdgen::OutputFiles files;
   for (const pdgen::Output &output : families.outputs) {
-    const bool has_option = options.count(output.file.text) != 0;
-    const std::filesystem::path path = options[has_option ? output.file.text : "--build"];
+    const bool has_option = !output.file_option.empty();
+    const std::filesystem::path path = options[has_option ? output.file_option : "--build"];
     if (path.empty()) continue;
     for (pdgen::CatalogueFile &file : written(output, api)) {
       files.add(has_option ? path : path / file.path, std::move(file.text));

@@ -4,14 +4,16 @@
 
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <system_error>
 
 namespace pdgen {
 
 std::string hex32(std::uint32_t value) { return fmt::format("0x{:08x}", value); }
 
-std::string join(const std::vector<std::string> &parts, std::string_view separator) {
-  return fmt::format("{}", fmt::join(parts, separator));
+std::vector<std::string> words(std::string_view text) {
+  std::istringstream stream{std::string(text)};
+  return {std::istream_iterator<std::string>(stream), {}};
 }
 
 std::string fill(const std::vector<std::string> &words, std::size_t width, std::string_view indent,

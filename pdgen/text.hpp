@@ -15,7 +15,8 @@ inline constexpr std::string_view kWordCharacters =
 // "0x" and eight digits.
 std::string hex32(std::uint32_t value);
 
-std::string join(const std::vector<std::string> &parts, std::string_view separator);
+// The words between blanks.
+std::vector<std::string> words(std::string_view text);
 
 // The words with blanks between them, in lines of at most width columns. The first line starts in
 // that column, every other one with the indent.

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <map>
 
-#include "pdgen/families/lines.hpp"
 #include "pdgen/families/scope.hpp"
 #include "pdgen/names.hpp"
 
@@ -36,9 +35,7 @@ std::string filled_in(const StatedText &text, const Scope &scope) {
   return out;
 }
 
-bool holds(const Where &where, const Scope &scope) {
-  return where.name.empty() || where.holds(scope) != where.negated;
-}
+bool holds(const Where &where, const Scope &scope) { return !where || where(scope); }
 
 // Drops the items of lists that are marked with a parameter that is missing, and all marks.
 std::string without_missing(std::string_view statement, const std::vector<Parameter> &present) {
@@ -74,7 +71,7 @@ std::string without_missing(std::string_view statement, const std::vector<Parame
 std::vector<Scope> objects_of(const Block &block, const Scope &outer) {
   if (block.objects == nullptr) return {outer};
   std::vector<Scope> objects = block.objects->objects(outer);
-  if (block.order.text.empty()) return objects;
+  if (block.order.pieces.empty()) return objects;
   std::ranges::stable_sort(objects, {},
                            [&](const Scope &object) { return filled_in(block.order, object); });
   return objects;
@@ -176,7 +173,7 @@ class Builder {
       if (!holds(parameter.where, scope)) continue;
       function.parameters.push_back({filled_in(parameter.type, scope), parameter.name});
     }
-    if (!stated.statement.text.empty()) {
+    if (!stated.statement.pieces.empty()) {
       function.statement =
           "return " + without_missing(filled_in(stated.statement, scope), function.parameters);
     }

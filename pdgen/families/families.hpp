@@ -1,5 +1,5 @@
-// The families as text: what families/*.family and *.output say, read and bound to the vocabulary
-// but not yet applied to a program. The format is described in families/interface.family.
+// The families and outputs as they are read: tied to what the vocabulary knows of a program, not
+// yet applied to one. Their format is described in families/interface.family.
 #pragma once
 
 #include <functional>
@@ -17,12 +17,12 @@ namespace pdgen {
 class Scope;
 struct Walk;
 
-// "where NAME" or "where not NAME"; always if the name is empty.
-struct Where {
-  std::string name;
-  bool negated = false;
-  std::function<bool(const Scope &)> holds = nullptr;  // bound; without the negation
-};
+// The kinds of objects in reach, outermost first. A name is looked up from the last one on. None
+// where an unknown kind has been reported: then nothing else is.
+using Kinds = std::vector<std::string_view>;
+
+// "where NAME" or "where not NAME"; null: always.
+using Where = std::function<bool(const Scope &)>;
 
 // A text with placeholders.
 struct StatedText {
@@ -31,10 +31,7 @@ struct StatedText {
     std::function<std::string(const Scope &)> placeholder;  // null behind the last one
     bool begins_comment = false;
   };
-
-  Place place;
-  std::string text;
-  std::vector<Piece> pieces = {};  // bound
+  std::vector<Piece> pieces;
 };
 
 // A parameter as a function states it. One that is marked with "?" has the condition of its word.
@@ -45,7 +42,6 @@ struct StatedParameter {
 };
 
 struct StatedFunction {
-  Place place;
   std::string result;
   StatedText name;
   std::string family;
@@ -56,16 +52,14 @@ struct StatedFunction {
 
 // "each KIND", "program", "when CONDITION" or "declare" with what stands in it, in order.
 struct Block {
-  Place place;
-  std::string walk;  // "" for the objects of the block around it
+  const Walk *objects = nullptr;  // null: those of the block around it
+  StatedText order;               // objects are sorted by it, if there is one
   Where where;
   std::string group;
   bool declares = false;             // C text for the header
   std::vector<StatedText> declared;  // the names in it
-  StatedText order;       // objects are sorted by it; empty: as the catalogue orders them
-  std::string separator;  // of what is written for one object and the next
+  std::string separator;             // of what is written for one object and the next
   std::vector<std::variant<StatedFunction, StatedText, Block>> items;
-  const Walk *objects = nullptr;  // bound
 };
 
 struct StatedNote {
@@ -76,7 +70,6 @@ struct StatedNote {
 
 struct Family {
   std::vector<StatedNote> notes;
-  Place place;
   std::string unit;
   unsigned parts = 1;
   std::vector<std::string> includes;
@@ -85,7 +78,8 @@ struct Family {
 
 // A file that is text alone, or one such file for each unit.
 struct Output {
-  std::string name;  // that of the .output
+  std::string name;         // that of the .output
+  std::string file_option;  // the option that names the file; empty: its name is `file`
   StatedText file;
   Block block;
 };
@@ -99,18 +93,29 @@ struct Families {
 // The families that were compiled in.
 std::vector<CatalogueFile> embedded_families();
 
-// From the text of the files; faults, those of bind_families among them, go to diagnostics.
+// From the text of the files; faults go to diagnostics.
 Families load_families(const std::vector<CatalogueFile> &files, Diagnostics &diagnostics);
 
-// The text with the orders that stand in it ("% each KIND", "{% end %}") as a block; what begins
-// with "% file " goes to `output`, if there is one.
-Block read_template(const std::string &text, Place place, Output *output, Diagnostics &diagnostics);
+// Looks up what texts name, and reports what nobody knows where it stands.
+class Binder {
+ public:
+  explicit Binder(Diagnostics &diagnostics) : diagnostics_(diagnostics) {}
 
-// Looks up placeholders, conditions and kinds; reports those that nobody knows where they stand.
-void bind_families(Families &families, Diagnostics &diagnostics);
+  StatedText text(const Kinds &kinds, std::string_view text, const Place &place,
+                  std::string_view key) const;
+  // Of "NAME", "not NAME" or "".
+  Where where(const Kinds &kinds, std::string_view condition, const Place &place) const;
+  // Adds the kinds that come into reach.
+  const Walk *walk(Kinds &kinds, std::string_view name, const Place &place) const;
+  // The text with the orders that stand in it ("% each KIND", "{% end %}") as a block; what begins
+  // with "% file " goes to `output`, if there is one.
+  Block block(const std::string &text, Place place, const Kinds &kinds, Output *output) const;
+
+ private:
+  Diagnostics &diagnostics_;
+};
 
 // Cuts off and returns what follows the last " <keyword> " outside of parentheses.
 std::string cut_tail(std::string &text, std::string_view keyword);
-Where where_of(std::string text);
 
 }  // namespace pdgen

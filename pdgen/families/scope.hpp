@@ -53,9 +53,6 @@ class Scope {
       objects_;
 };
 
-// The kinds that are in reach, outermost first. A name is looked up from the last one on.
-using Kinds = std::vector<std::string_view>;
-
 // "each NAME" within an object of that kind: the objects, and the kinds that come into reach.
 struct Walk {
   std::string_view kind;

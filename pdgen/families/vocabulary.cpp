@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "pdgen/families/lines.hpp"
 #include "pdgen/families/members.hpp"
 #include "pdgen/names.hpp"
 #include "pdgen/texts/texts.hpp"
