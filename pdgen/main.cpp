@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 
 #include <cstdio>
-#include <filesystem>
 #include <map>
 #include <string>
 #include <vector>
@@ -46,23 +45,20 @@ bool parse(int argc, char **argv, Options &options) {
 
 pdgen::Families load_families(const std::string &directory, pdgen::Diagnostics &diagnostics) {
   if (directory.empty()) return pdgen::load_families(pdgen::embedded_families(), diagnostics);
-  std::vector<pdgen::CatalogueFile> files = pdgen::read_files(directory, ".family", diagnostics);
-  for (pdgen::CatalogueFile &file : pdgen::read_files(directory, ".output", diagnostics)) {
-    files.push_back(std::move(file));
-  }
+  const auto files = pdgen::read_files(directory, {".family", ".output"}, diagnostics);
   return pdgen::load_families(files, diagnostics);
 }
 
 // A file that is checked in has an option of its own, all others are for the build folder.
-pdgen::OutputFiles output_files(const pdgen::Api &api, const pdgen::Families &families,
-                                Options &options) {
-  pdgen::OutputFiles files;
+std::vector<pdgen::TextFile> output_files(const pdgen::Api &api, const pdgen::Families &families,
+                                          Options &options) {
+  std::vector<pdgen::TextFile> files;
   for (const pdgen::Output &output : families.outputs) {
     const bool has_option = !output.file_option.empty();
-    const std::filesystem::path path = options[has_option ? output.file_option : "--build"];
+    const std::string path = options[has_option ? output.file_option : "--build"];
     if (path.empty()) continue;
-    for (pdgen::CatalogueFile &file : written(output, api)) {
-      files.add(has_option ? path : path / file.path, std::move(file.text));
+    for (pdgen::TextFile &file : written(output, api)) {
+      files.push_back({has_option ? path : path + "/" + file.path, std::move(file.text)});
     }
   }
   return files;
@@ -90,8 +86,7 @@ int main(int argc, char **argv) {
   // Two C names that are the same are a fault of the catalogue that shows only here.
   pdgen::check_distinct(api.names, "C name", diagnostics);
   if (report(diagnostics.text())) return 1;
-  std::string message;
-  if (output_files(api, families, options).write(message)) return 0;
-  fmt::print(stderr, "pdgen: {}\n", message);
-  return 1;
+  const std::string failed = pdgen::write_files(output_files(api, families, options));
+  if (!failed.empty()) fmt::print(stderr, "pdgen: {}: cannot be written\n", failed);
+  return failed.empty() ? 0 : 1;
 }

@@ -363,6 +363,7 @@ struct Routes {
 struct Handle {
   std::uint32_t handle = 0;
   std::string object;  // "table fdb", "selector of profile ecmp"
+  Place place;
 };
 
 // --- Records as tools see them --------------------------------------------------------------

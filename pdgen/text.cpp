@@ -56,38 +56,26 @@ std::string c_literal(std::string_view text) {
   return out + '"';
 }
 
-void OutputFiles::add(std::filesystem::path path, std::string contents) {
-  files_.push_back({std::move(path), std::move(contents)});
-}
-
-namespace {
-
-// Only a regular file is read: a device may have no end.
-bool holds(const std::filesystem::path &path, const std::string &contents) {
+std::optional<std::string> read_file(const std::filesystem::path &path) {
   std::error_code error;
-  if (!std::filesystem::is_regular_file(path, error)) return false;
-  std::ifstream current(path, std::ios::binary);
-  const std::string old((std::istreambuf_iterator<char>(current)), {});
-  return current.is_open() && old == contents;
+  if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
+  std::ostringstream text;
+  std::ifstream file(path, std::ios::binary);
+  if (file.peek() != EOF) text << file.rdbuf();
+  return file.is_open() ? std::optional(text.str()) : std::nullopt;
 }
 
-}  // namespace
-
-bool OutputFiles::write(std::string &message) const {
-  for (const File &file : files_) {
-    if (holds(file.path, file.contents)) continue;
-    std::error_code error;
-    if (file.path.has_parent_path())
-      std::filesystem::create_directories(file.path.parent_path(), error);
-    std::ofstream out(file.path, std::ios::binary | std::ios::trunc);
-    out << file.contents;
+std::string write_files(const std::vector<TextFile> &files) {
+  for (const auto &[path, text] : files) {
+    if (read_file(path) == text) continue;
+    std::error_code error;  // shows when the file cannot be opened
+    std::filesystem::create_directories(std::filesystem::path(path).parent_path(), error);
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    out << text;
     out.close();
-    if (!out) {
-      message = fmt::format("{}: cannot be written", file.path.string());
-      return false;
-    }
+    if (!out) return path;
   }
-  return true;
+  return "";
 }
 
 }  // namespace pdgen

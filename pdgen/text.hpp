@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,20 +29,17 @@ std::string in_capitals(std::string_view text);
 // A string literal of C with that contents.
 std::string c_literal(std::string_view text);
 
-// Files of one run. A file is written only if its contents change, so that nothing is rebuilt
-// without need.
-class OutputFiles {
- public:
-  void add(std::filesystem::path path, std::string contents);
-  // All files, or none of those that follow the first failure; false with a message then.
-  bool write(std::string &message) const;
-
- private:
-  struct File {
-    std::filesystem::path path;
-    std::string contents;
-  };
-  std::vector<File> files_;
+// A text and the path of its file.
+struct TextFile {
+  std::string path;
+  std::string text;
 };
+
+// Only of a regular file, as a device may have no end.
+std::optional<std::string> read_file(const std::filesystem::path &path);
+
+// Writes files whose text changes, so that nothing is rebuilt without need, up to the first that
+// cannot be written: its path is returned, else "".
+std::string write_files(const std::vector<TextFile> &files);
 
 }  // namespace pdgen

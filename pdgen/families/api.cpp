@@ -244,8 +244,8 @@ std::string declaration(const Function &function, std::size_t width) {
   return head + fill(parameters, width, "    ", head.size());
 }
 
-std::vector<CatalogueFile> written(const Output &output, const Api &api) {
-  std::vector<CatalogueFile> files;
+std::vector<TextFile> written(const Output &output, const Api &api) {
+  std::vector<TextFile> files;
   for (const Scope &scope : objects_of(output.block, Scope(api))) {
     files.push_back({filled_in(output.file, scope), ""});
     append_items(files.back().text, output.block, scope);

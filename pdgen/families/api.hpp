@@ -82,7 +82,7 @@ Api build_api(const Program &program);
 std::string declaration(const Function &function, std::size_t width = std::string::npos);
 
 // What an output makes of the interface: name and text of each file.
-std::vector<CatalogueFile> written(const Output &output, const Api &api);
+std::vector<TextFile> written(const Output &output, const Api &api);
 // The text of an output of one file that was compiled in.
 std::string written(std::string_view output, const Api &api);
 

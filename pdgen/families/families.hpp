@@ -91,10 +91,10 @@ struct Families {
 };
 
 // The families that were compiled in.
-std::vector<CatalogueFile> embedded_families();
+std::vector<TextFile> embedded_families();
 
 // From the text of the files; faults go to diagnostics.
-Families load_families(const std::vector<CatalogueFile> &files, Diagnostics &diagnostics);
+Families load_families(const std::vector<TextFile> &files, Diagnostics &diagnostics);
 
 // Looks up what texts name, and reports what nobody knows where it stands.
 class Binder {

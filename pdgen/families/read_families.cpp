@@ -2,7 +2,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <map>
 #include <set>
 #include <sstream>
@@ -24,7 +23,7 @@ class TextLines {
     Place place;
   };
 
-  explicit TextLines(const CatalogueFile &file) {
+  explicit TextLines(const TextFile &file) {
     std::istringstream stream(file.text);
     std::string text;
     for (std::size_t number = 1; std::getline(stream, text); ++number) {
@@ -96,8 +95,7 @@ using DeclaredParameters = std::map<std::string, DeclaredParameter>;
 
 class FamilyReader {
  public:
-  FamilyReader(const CatalogueFile &file, const DeclaredParameters &declared,
-               Diagnostics &diagnostics)
+  FamilyReader(const TextFile &file, const DeclaredParameters &declared, Diagnostics &diagnostics)
       : lines_(file), declared_(declared), binder_(diagnostics), diagnostics_(diagnostics) {}
 
   Family read(const Place &start) {
@@ -286,7 +284,7 @@ struct Index {
   std::vector<std::pair<std::string, Place>> files;  // with their endings
 };
 
-Index read_index(const CatalogueFile &file, Diagnostics &diagnostics) {
+Index read_index(const TextFile &file, Diagnostics &diagnostics) {
   Index index;
   TextLines lines(file);
   while (const TextLines::Line *line = lines.next(0)) {
@@ -315,13 +313,6 @@ Index read_index(const CatalogueFile &file, Diagnostics &diagnostics) {
   return index;
 }
 
-const CatalogueFile *find_file(const std::vector<CatalogueFile> &files, const std::string &name) {
-  const auto found = std::ranges::find_if(files, [&](const CatalogueFile &file) {
-    return std::filesystem::path(file.path).filename() == name;
-  });
-  return found == files.end() ? nullptr : &*found;
-}
-
 }  // namespace
 
 std::string cut_tail(std::string &text, std::string_view keyword) {
@@ -334,29 +325,31 @@ std::string cut_tail(std::string &text, std::string_view keyword) {
   return tail;
 }
 
-Families load_families(const std::vector<CatalogueFile> &files, Diagnostics &diagnostics) {
+Families load_families(const std::vector<TextFile> &files, Diagnostics &diagnostics) {
   Families families;
-  const CatalogueFile *interface = find_file(files, "interface.family");
-  if (interface == nullptr) {
+  const auto by_names = by_name(files);
+  const auto interface = by_names.find("interface.family");
+  if (interface == by_names.end()) {
     diagnostics.report({"interface.family", 1}, "file", "the families need this file");
     return families;
   }
-  const Index index = read_index(*interface, diagnostics);
+  const Index index = read_index(*interface->second, diagnostics);
   for (const auto &[name, place] : index.files) {
-    const CatalogueFile *file = find_file(files, name);
-    if (file == nullptr) {
+    const auto found = by_names.find(name);
+    if (found == by_names.end()) {
       diagnostics.report(place, "families", "there is no file {}", name);
       continue;
     }
+    const TextFile &file = *found->second;
     if (name.ends_with(".output")) {
       Output &output = families.outputs.emplace_back();
       output.name = name.substr(0, name.find('.'));
-      output.block = Binder(diagnostics).block(file->text, {file->path, 0}, {"program"}, &output);
+      output.block = Binder(diagnostics).block(file.text, {file.path, 0}, {"program"}, &output);
       if (!output.file.pieces.empty()) continue;
-      diagnostics.report({file->path, 1}, "output", "this file names no file");
+      diagnostics.report({file.path, 1}, "output", "this file names no file");
     } else {
       families.families.push_back(
-          FamilyReader(*file, index.parameters, diagnostics).read({file->path, 1}));
+          FamilyReader(file, index.parameters, diagnostics).read({file.path, 1}));
     }
   }
   return families;

@@ -1,11 +1,7 @@
 #include "pdgen/load/load.hpp"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 #include <utility>
 
@@ -33,100 +29,90 @@ constexpr Section kSections[] = {
     {"snapshots.toml", false, read_snapshots},
 };
 
-std::string file_name(const CatalogueFile &file) {
-  return std::filesystem::path(file.path).filename().string();
-}
-
-const CatalogueFile *find_file(const std::vector<CatalogueFile> &files, std::string_view name) {
-  const auto found = std::ranges::find_if(
-      files, [&](const CatalogueFile &file) { return file_name(file) == name; });
-  return found == files.end() ? nullptr : &*found;
-}
-
-void report_strange_files(const std::vector<CatalogueFile> &files, Diagnostics &diagnostics) {
-  for (const CatalogueFile &file : files) {
-    const bool known =
-        std::any_of(std::begin(kSections), std::end(kSections),
-                    [&](const Section &section) { return section.file == file_name(file); });
-    if (!known) diagnostics.report({file.path, 1}, "file", "a catalogue has no file of this name");
-  }
-}
-
 // Reads every file; false if one is missing or cannot be parsed, so that references into it must
 // not be looked up.
-bool read_sections(const std::vector<CatalogueFile> &files, const std::string &folder,
+bool read_sections(const std::vector<TextFile> &files, const std::filesystem::path &folder,
                    Reading &reading) {
   bool complete = true;
+  std::map<std::string_view, const TextFile *> unread = by_name(files);
   for (const Section &section : kSections) {
-    const CatalogueFile *file = find_file(files, section.file);
-    if (file == nullptr) {
+    const auto file = unread.extract(section.file);
+    if (file.empty()) {
       if (!section.required) continue;
-      const auto path = (std::filesystem::path(folder) / section.file).string();
-      reading.diagnostics.report({path, 1}, "file", "a catalogue needs this file");
+      reading.diagnostics.report({folder / section.file, 1}, "file", "a catalogue needs this file");
       complete = false;
       continue;
     }
-    const TomlFile parsed = parse_toml(file->path, file->text, reading.diagnostics);
-    complete = complete && parsed.parsed;
-    if (!parsed.parsed) continue;
+    const auto parsed = parse_toml(file.mapped()->path, file.mapped()->text, reading.diagnostics);
+    complete = complete && parsed;
+    if (!parsed) continue;
     NameScope none;
-    RowReader root(parsed.root, {"", std::string(section.file), "", ""}, none, reading);
+    RowReader root(*parsed, {"", std::string(section.file), "", ""}, none, reading);
     section.read(root);
+  }
+  for (const auto &[name, file] : unread) {
+    reading.diagnostics.report({file->path, 1}, "file", "a catalogue has no file of this name");
   }
   return complete;
 }
 
-LoadResult load(const std::vector<CatalogueFile> &files, const std::string &folder) {
-  LoadResult result;
+void load(const std::vector<TextFile> &files, const std::filesystem::path &folder,
+          LoadResult &result) {
   Program program;
   Reading reading{program, result.diagnostics, {}, {}};
-  report_strange_files(files, result.diagnostics);
   // Without tables or actions, whatever refers to them would be reported too.
   const bool complete = read_sections(files, folder, reading);
-  if (!complete || program.tables.empty() || program.actions.empty()) return result;
+  if (!complete || program.tables.empty() || program.actions.empty()) return;
   for (const auto &resolve : reading.references) resolve();
   check_program(program, result.diagnostics);
-  if (!result.diagnostics.empty()) return result;
-  for (const auto &[handle, holder] : reading.handles) {
-    program.handles.push_back({handle, holder.object});
-  }
+  if (!result.diagnostics.empty()) return;
+  for (auto &[handle, owner] : reading.handles) program.handles.push_back(std::move(owner));
   derive_facts(program);
   result.program = std::move(program);
-  return result;
 }
 
 }  // namespace
 
-std::vector<CatalogueFile> read_files(const std::string &directory, std::string_view ending,
-                                      Diagnostics &diagnostics) {
-  std::vector<CatalogueFile> files;
+std::map<std::string_view, const TextFile *> by_name(const std::vector<TextFile> &files) {
+  std::map<std::string_view, const TextFile *> names;
+  for (const TextFile &file : files) {
+    names[std::string_view(file.path).substr(file.path.rfind('/') + 1)] = &file;
+  }
+  return names;
+}
+
+std::vector<TextFile> read_files(const std::string &directory,
+                                 const std::vector<std::string_view> &endings,
+                                 Diagnostics &diagnostics) {
+  std::vector<TextFile> files;
   std::error_code error;
   for (const auto &entry : std::filesystem::directory_iterator(directory, error)) {
-    if (entry.path().extension() != ending) continue;
-    std::ifstream stream(entry.path(), std::ios::binary);
-    CatalogueFile file{entry.path().string(), {std::istreambuf_iterator<char>(stream), {}}};
-    if (!stream) diagnostics.report({file.path, 1}, "file", "this file cannot be read");
-    files.push_back(std::move(file));
+    const std::string path = entry.path().string();
+    const auto ends_so = [&](std::string_view ending) { return path.ends_with(ending); };
+    if (std::ranges::none_of(endings, ends_so)) continue;
+    const auto text = read_file(path);
+    if (!text) diagnostics.report({path, 1}, "file", "this file cannot be read");
+    files.push_back({path, text.value_or("")});
   }
   if (error) {
     diagnostics.report({directory, 1}, "directory", "this directory cannot be read: {}",
                        error.message());
   }
-  std::ranges::sort(files,
-                    [](const CatalogueFile &a, const CatalogueFile &b) { return a.path < b.path; });
+  std::ranges::sort(files, {}, &TextFile::path);
   return files;
 }
 
 LoadResult load_program(const std::string &directory) {
   LoadResult result;
-  const std::vector<CatalogueFile> files = read_files(directory, ".toml", result.diagnostics);
-  if (!result.diagnostics.empty()) return result;
-  return load(files, directory);
+  const std::vector<TextFile> files = read_files(directory, {".toml"}, result.diagnostics);
+  if (result.diagnostics.empty()) load(files, directory, result);
+  return result;
 }
 
-LoadResult load_program(const std::vector<CatalogueFile> &files) {
-  const std::filesystem::path first = files.empty() ? "" : files.front().path;
-  return load(files, first.parent_path().string());
+LoadResult load_program(const std::vector<TextFile> &files) {
+  LoadResult result;
+  load(files, files.empty() ? "" : std::filesystem::path(files.front().path).parent_path(), result);
+  return result;
 }
 
 }  // namespace pdgen

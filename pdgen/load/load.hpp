@@ -1,6 +1,7 @@
 // From the TOML files of a catalogue to a checked Program.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -8,14 +9,9 @@
 
 #include "pdgen/check/diagnostics.hpp"
 #include "pdgen/model.hpp"
+#include "pdgen/text.hpp"
 
 namespace pdgen {
-
-// One file of a catalogue, or of the families; the path is what places name.
-struct CatalogueFile {
-  std::string path;
-  std::string text;
-};
 
 // A program if the catalogue has no fault, else the faults.
 struct LoadResult {
@@ -27,11 +23,15 @@ struct LoadResult {
 LoadResult load_program(const std::string &directory);
 
 // The same from texts in memory; the last part of each path says what the file holds.
-LoadResult load_program(const std::vector<CatalogueFile> &files);
+LoadResult load_program(const std::vector<TextFile> &files);
 
 // The files of a directory whose names end so, sorted by name; faults of reading go to
 // `diagnostics`.
-std::vector<CatalogueFile> read_files(const std::string &directory, std::string_view ending,
-                                      Diagnostics &diagnostics);
+std::vector<TextFile> read_files(const std::string &directory,
+                                 const std::vector<std::string_view> &endings,
+                                 Diagnostics &diagnostics);
+
+// Files by the last part of their paths.
+std::map<std::string_view, const TextFile *> by_name(const std::vector<TextFile> &files);
 
 }  // namespace pdgen

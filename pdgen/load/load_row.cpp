@@ -158,7 +158,8 @@ void RowReader::handle(std::string_view key, std::uint32_t &handle, HandleKind k
                   top_byte, top_byte);
   }
   if (object.empty()) object = what_;
-  const auto [holder, added] = reading_.handles.try_emplace(handle, object, place(key));
+  const auto [holder, added] =
+      reading_.handles.try_emplace(handle, Handle{handle, object, place(key)});
   if (added) return;
   report(key, "{} of {} is the handle of {} at {}", hex(handle), object, holder->second.object,
          place_text(holder->second.place));

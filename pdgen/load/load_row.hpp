@@ -39,14 +39,9 @@ enum class HandleKind : std::uint32_t {
 
 // What all rows of a catalogue share.
 struct Reading {
-  struct Holder {
-    std::string object;
-    Place place;
-  };
-
   Program &program;
   Diagnostics &diagnostics;
-  std::map<std::uint32_t, Holder> handles;  // no two objects share one
+  std::map<std::uint32_t, Handle> handles;  // no two objects share one
   // Set the targets of references, once all rows have been read.
   std::vector<std::function<void()>> references;
 };

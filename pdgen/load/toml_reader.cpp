@@ -58,20 +58,17 @@ std::string_view TomlValue::kind_text() const {
   return kTexts[data.index()];
 }
 
-TomlFile parse_toml(const std::string &path, std::string_view text, Diagnostics &diagnostics) {
-  TomlFile file;
-  file.root.place = {path, 1};
-  file.root.data = TomlValue::Table{};
+std::optional<TomlValue> parse_toml(const std::string &path, std::string_view text,
+                                    Diagnostics &diagnostics) {
   const toml::parse_result result = toml::parse(text, std::string_view(path));
-  if (!result) {
-    diagnostics.report(place_of(path, result.error().source()), "syntax", "{}",
-                       result.error().description());
-    return file;
+  if (result) {
+    TomlValue root = convert(path, result.table());
+    root.place.line = 1;
+    return root;
   }
-  file.root = convert(path, result.table());
-  file.root.place.line = 1;
-  file.parsed = true;
-  return file;
+  diagnostics.report(place_of(path, result.error().source()), "syntax", "{}",
+                     result.error().description());
+  return std::nullopt;
 }
 
 }  // namespace pdgen

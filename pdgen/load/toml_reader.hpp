@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -38,11 +39,8 @@ struct TomlMember {
 };
 
 // The root table of `text`. A syntax error is reported with the parser's message and line, under
-// the key "syntax", and gives an empty table.
-struct TomlFile {
-  TomlValue root;
-  bool parsed = false;
-};
-TomlFile parse_toml(const std::string &path, std::string_view text, Diagnostics &diagnostics);
+// the key "syntax".
+std::optional<TomlValue> parse_toml(const std::string &path, std::string_view text,
+                                    Diagnostics &diagnostics);
 
 }  // namespace pdgen

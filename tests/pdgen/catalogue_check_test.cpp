@@ -56,12 +56,12 @@ TEST(CatalogueFaults, NeededFilesMustBeThereAndOthersMustBeKnown) {
 
 // The constant of an action and a function of the program.
 TEST(CNames, MayNotBeMadeTwice) {
-  const LoadResult result = load_program(
-      {{"a/program.toml", "name = \"least\""},
-       {"a/actions.toml", "actions = [{ name = \"init\", value = 0 }]"},
-       {"a/tables.toml",
-        "[[table]]\nname = \"only\"\nhandle = 0x01000001\n"
-        "actions = [{ action = \"init\", handle = 0x20000001, default = true }]"}});
+  const LoadResult result =
+      load_program({{"a/program.toml", "name = \"least\""},
+                    {"a/actions.toml", "actions = [{ name = \"init\", value = 0 }]"},
+                    {"a/tables.toml",
+                     "[[table]]\nname = \"only\"\nhandle = 0x01000001\n"
+                     "actions = [{ action = \"init\", handle = 0x20000001, default = true }]"}});
   ASSERT_TRUE(result.program) << result.diagnostics.text();
   Diagnostics clashes;
   check_distinct(build_api(*result.program).names, "C name", clashes);

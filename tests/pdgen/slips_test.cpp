@@ -37,7 +37,7 @@ std::string with_line_ends(std::string text) {
 }
 
 // "> FILE: BEFORE => AFTER"
-void edit(std::vector<CatalogueFile> &files, const std::string &line) {
+void edit(std::vector<TextFile> &files, const std::string &line) {
   const size_t colon = line.find(": ");
   const size_t arrow = line.find(" =>", colon);
   ASSERT_NE(arrow, std::string::npos) << line;
@@ -55,10 +55,10 @@ void edit(std::vector<CatalogueFile> &files, const std::string &line) {
 
 // A file of edits of the files, each with what report(edited files) says.
 template <class Report>
-void expect_slips(const std::string &name, const std::vector<CatalogueFile> &files, Report report) {
+void expect_slips(const std::string &name, const std::vector<TextFile> &files, Report report) {
   std::ifstream file(kTests + "/slips/" + name);
   std::string made;
-  std::vector<CatalogueFile> edited = files;
+  std::vector<TextFile> edited = files;
   const auto finish = [&](bool was_edit) {
     if (!was_edit) return;
     const std::string text = report(edited);
@@ -80,9 +80,9 @@ void expect_slips(const std::string &name, const std::vector<CatalogueFile> &fil
 
 TEST(Slips, OfACatalogue) {
   Diagnostics none;
-  std::vector<CatalogueFile> files = read_files(kTests + "/fixtures/tiny", ".toml", none);
-  for (CatalogueFile &file : files) file.path = "tiny" + file.path.substr(file.path.rfind('/'));
-  expect_slips("catalogue.txt", files, [](const std::vector<CatalogueFile> &edited) {
+  std::vector<TextFile> files = read_files(kTests + "/fixtures/tiny", {".toml"}, none);
+  for (TextFile &file : files) file.path = "tiny" + file.path.substr(file.path.rfind('/'));
+  expect_slips("catalogue.txt", files, [](const std::vector<TextFile> &edited) {
     const LoadResult result = load_program(edited);
     EXPECT_FALSE(result.program);
     return result.diagnostics.text();
@@ -93,7 +93,7 @@ TEST(Slips, OfTheFamilies) {
   Diagnostics none;
   EXPECT_EQ(load_families(embedded_families(), none).families.size(), 22u);
   EXPECT_EQ(none.text(), "");
-  expect_slips("families.txt", embedded_families(), [](const std::vector<CatalogueFile> &edited) {
+  expect_slips("families.txt", embedded_families(), [](const std::vector<TextFile> &edited) {
     Diagnostics diagnostics;
     load_families(edited, diagnostics);
     return diagnostics.text();
