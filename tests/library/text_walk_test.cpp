@@ -10,7 +10,7 @@
 namespace pd_test {
 namespace {
 
-constexpr const char *kHints[] = {"None", "'mac'", "'v4addr'", "'v6addr'", "'port'", "'vport'"};
+constexpr const char *kHints[] = {"None", "'mac'", "'v4addr'", "'vport'", "'port'", "'v6addr'"};
 
 std::string digits_of(Bytes bytes) {
   std::string digits;
