@@ -229,7 +229,7 @@ Bytes pack_bit_by_bit(const std::vector<Field> &fields) {
 TEST_F(Hashes, StreamsAgreeWithAPackerOfSingleBits) {
   Random random(20240607);
   for (int round = 0; round < 2000; ++round) {
-    std::vector<Field> fields(random() % 7);
+    std::vector<Field> fields(static_cast<size_t>(random() % 7));
     for (Field &field : fields) {
       field.width = static_cast<uint32_t>(random() % 4 == 0 ? random() % 201 : random() % 41);
       field.bytes.resize((field.width + 7) / 8);

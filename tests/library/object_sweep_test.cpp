@@ -267,6 +267,22 @@ class ObjectSweep : public LibraryTest {
     });
   }
 
+  // Entries and default entries of the new device that point at each of the pointees.
+  static void compare_pointees(const pdgen::Table &table, const Contents &given,
+                               const std::vector<Pointee> &pointees, const Pointee &pointee,
+                               const Placement &placed, const Placement &defaulted) {
+    for (const Pointee &held : pointees) {
+      const bool same = &held == &pointee;
+      const uint32_t entry = add("add_entry", kNew, table, "", given, held);
+      EXPECT_EQ(equals(table, entry, placed), same);
+      EXPECT_FALSE(equals(table, entry, defaulted));
+      remove(kNew, table, entry);
+      const uint32_t other = add("set_default_entry", kNew, table, "", given, held);
+      EXPECT_EQ(equals(table, other, defaulted), same);
+      EXPECT_FALSE(equals(table, other, placed));
+    }
+  }
+
   static uint32_t add_member(const p4_pd_device_target_t &target, const pdgen::Profile &profile,
                              const pdgen::Action &action, const Bytes &spec) {
     return make("add_member", profile.name, action.name,
@@ -387,16 +403,7 @@ TEST_F(ObjectSweep, EntriesThatPointAtMembersAndGroups) {
         expect_pointee(Read(*find_export("table_get_default_entry", table.name), &table,
                             with("target", &kOld)),
                        pointee);
-        for (const Pointee &held : pointees) {
-          const bool same = &held == &pointee;
-          const uint32_t entry = add("add_entry", kNew, table, "", given, held);
-          EXPECT_EQ(equals(table, entry, placed), same);
-          EXPECT_FALSE(equals(table, entry, defaulted));
-          remove(kNew, table, entry);
-          const uint32_t other = add("set_default_entry", kNew, table, "", given, held);
-          EXPECT_EQ(equals(table, other, defaulted), same);
-          EXPECT_FALSE(equals(table, other, placed));
-        }
+        compare_pointees(table, given, pointees, pointee, placed, defaulted);
         compare_entries(table, placed, given, [&](const Contents &one) {
           return add("add_entry", kNew, table, "", one, pointee);
         });

@@ -1,7 +1,5 @@
 // An SDK that reports more than it was given room for, less than it was asked for, or sizes that
 // make no sense: what fits is delivered, and nothing beyond the room is read or written.
-#include <functional>
-
 #include "pipe_stful.h"
 #include "soft_snapshot.h"
 #include "soft_state.h"
@@ -136,53 +134,51 @@ TEST_F(OddSdk, WhatFitsIsDelivered) {
   const uint32_t entry =
       make("table_add", "pdpPolicy", "pdpPolice", with("match_spec", &key, "action_spec", &police));
 
+  PD(pdpPolicy_match_spec_t) read_key = {};
+  bool no_key = true;
+
   // Each row: the counts that come back, what is delivered, and room that stays as it was.
+  Words counts(2), room(12);
   const struct {
-    const char *what;
-    std::function<uint32_t(uint32_t *count, uint32_t *room)> read;
+    const char *family;
+    const char *object;
+    Given given;
     Words counts;
     Words delivered;
   } rows[] = {
-      {"cells of an index",
-       [&](uint32_t *count, uint32_t *room) {
-         return PD(register_read_flowDigestCountReg)(session(), kAllPipes, 20, 1, room, count);
-       },
+      {"register_read",
+       "flowDigestCountReg",
+       with("index", 20, "value_count", &counts[0]),
        {4, 9},
        {200, 201, 202, 203, 9}},
-      {"indexes and their cells",
-       [&](uint32_t *count, uint32_t *room) {
-         return PD(register_range_read_flowDigestCountReg)(session(), kAllPipes, 20, 2, 1, count,
-                                                           room, count + 1);
-       },
+      {"register_range_read",
+       "flowDigestCountReg",
+       with("first", 20, "index_count", 2, "indexes_read", &counts[0], "value_count", &counts[1]),
        {2, 8},
        {200, 201, 202, 203, 210, 211, 212, 213, 9}},
-      {"attributes",
-       [&](uint32_t *count, uint32_t *room) {
-         p4_pd_hash_calc_attr_t read[3] = {{9, 9, 9}, {9, 9, 9}, {9, 9, 9}};
-         const uint32_t status = PD(hash_calc_hashOuterIpv4Hdr_input_field_attribute_get)(
-             session(), kDevice, 0, 2, read, count);
-         for (size_t i = 0; i < 3; ++i) room[i] = read[i].field;
-         return status;
-       },
+      {"hash_calc_input_field_attribute_get_by_name",
+       "",
+       with("name", name, "max_count", 2, "attributes", &room[0], "filled", &counts[0]),
        {2, 9},
-       {2, 0, 9}},
-      {"resources",
-       [&](uint32_t *, uint32_t *room) {
-         PD(pdpPolicy_match_spec_t) read = {};
-         bool no_key = true;
-         return PD(pdpPolicy_get_entry)(session(), kDevice, entry, false, &read, nullptr, room,
-                                        nullptr, &no_key);
-       },
+       {2, 7, 0, 0, 5, 0, 9}},
+      {"get_entry",
+       "pdpPolicy",
+       with("entry", entry, "read_from_hardware", 0, "match_spec", &read_key, "action_name", 0,
+            "action_spec", &room[0], "action", 0, "no_key", &no_key),
        {9, 9},
        {6, 9}},
   };
   excess = 3;
   for (const auto &row : rows) {
-    Words counts(2, 9), room(12, 9);
-    EXPECT_EQ(row.read(counts.data(), room.data()), uint32_t{BF_SUCCESS}) << row.what;
-    EXPECT_EQ(counts, row.counts) << row.what;
-    room.resize(row.delivered.size());
-    EXPECT_EQ(room, row.delivered) << row.what;
+    SCOPED_TRACE(row.family);
+    counts.assign(2, 9);
+    room.assign(12, 9);
+    Arguments read(*find_export(row.family, row.object));
+    read.give(with("target", &kAllPipes, "flags", 1, "values", &room[0])).give(row.given);
+    EXPECT_EQ(read.status(), BF_SUCCESS);
+    EXPECT_EQ(counts, row.counts);
+    EXPECT_EQ(Words(room.begin(), room.begin() + static_cast<int>(row.delivered.size())),
+              row.delivered);
   }
 }
 
