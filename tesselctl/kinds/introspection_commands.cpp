@@ -111,11 +111,11 @@ void print_columns(Context &context, const std::vector<Row> &rows) {
     return;
   }
   if (rows.empty()) return;
-  std::vector<std::string> headings;
+  std::vector<TextColumn> columns;
   for (const Item &item : rows.front().items()) {
-    headings.push_back((item.kind == Item::Kind::number ? ">" : "") + item.name);
+    columns.push_back({item.name, item.kind == Item::Kind::number});
   }
-  Listing listing(headings);
+  Listing listing(columns);
   for (const Row &row : rows) {
     std::vector<std::string> cells;
     for (const Item &item : row.items()) cells.push_back(item.value);

@@ -193,7 +193,7 @@ class RouteLoad {
     print_step(out, "verified", found_, verify_time_);
     const double each = added_ == 0 ? 0 : static_cast<double>(bytes_) / static_cast<double>(added_);
     out.line("  memory    {:>10} bytes, {:.1f} an entry", grouped(bytes_), each);
-    Listing listing({"  length", ">entries"});
+    Listing listing({{"  length"}, {"entries", true}});
     for (size_t length = 0; length < std::size(by_length_); ++length) {
       if (by_length_[length] == 0) continue;
       listing.add({fmt::format("  /{}", length), grouped(by_length_[length])});

@@ -41,33 +41,38 @@ std::string Output::styled(Style style, std::string_view text) const {
   return codes[static_cast<int>(style)] + std::string(text) + "\033[0m";
 }
 
-Listing::Listing(std::vector<std::string> headings) : headings_(std::move(headings)) {
-  for (std::string &heading : headings_) {
-    right_.push_back(heading.starts_with('>'));
-    if (right_.back()) heading.erase(0, 1);
-  }
-}
-
-std::string Listing::aligned(const std::vector<std::string> &row,
-                             const std::vector<size_t> &widths) const {
+std::string aligned(std::span<const TextColumn> columns, const std::vector<std::string> &texts) {
   std::string line;
-  for (size_t i = 0; i < row.size(); ++i) {
-    const std::string padding(widths[i] - row[i].size(), ' ');
+  for (size_t i = 0; i < texts.size(); ++i) {
     if (i > 0) line += "  ";
-    line += right_[i] ? padding + row[i] : row[i] + padding;
+    const size_t width = i < columns.size() ? columns[i].width : 0;
+    const std::string padding(width - std::min(width, texts[i].size()), ' ');
+    line += i < columns.size() && columns[i].is_number ? padding + texts[i] : texts[i] + padding;
   }
   line.erase(line.find_last_not_of(' ') + 1);
   return line;
 }
 
-void Listing::print(Output &out) const {
-  std::vector<size_t> widths;
-  for (const std::string &heading : headings_) widths.push_back(heading.size());
-  for (const auto &row : rows_) {
-    for (size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], row[i].size());
+std::string aligned_names(std::span<const TextColumn> columns) {
+  std::vector<std::string> names;
+  for (const TextColumn &column : columns) names.push_back(column.name);
+  return aligned(columns, names);
+}
+
+Listing::Listing(std::vector<TextColumn> columns) : columns_(std::move(columns)) {
+  for (TextColumn &column : columns_) column.width = column.name.size();
+}
+
+void Listing::add(std::vector<std::string> row) {
+  for (size_t i = 0; i < row.size(); ++i) {
+    columns_[i].width = std::max(columns_[i].width, row[i].size());
   }
-  out.line("{}", out.styled(Style::heading, aligned(headings_, widths)));
-  for (const auto &row : rows_) out.line("{}", aligned(row, widths));
+  rows_.push_back(std::move(row));
+}
+
+void Listing::print(Output &out) const {
+  out.line("{}", out.styled(Style::heading, aligned_names(columns_)));
+  for (const auto &row : rows_) out.line("{}", aligned(columns_, row));
 }
 
 }  // namespace tesselctl

@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -64,20 +65,26 @@ class Output {
   std::string text_;
 };
 
-// Rows in columns that line up. Numbers (columns marked '>') stand to the right.
+// A column of texts that line up; numbers stand to the right.
+struct TextColumn {
+  std::string name;
+  bool is_number = false;
+  size_t width = 0;
+};
+// A text for each column, and maybe one behind them.
+std::string aligned(std::span<const TextColumn> columns, const std::vector<std::string> &texts);
+// The names of the columns, as a heading.
+std::string aligned_names(std::span<const TextColumn> columns);
+
+// Rows in columns that are as wide as the widest text.
 class Listing {
  public:
-  // One heading a column; a heading that begins with '>' makes the column a column of numbers.
-  explicit Listing(std::vector<std::string> headings);
-  void add(std::vector<std::string> row) { rows_.push_back(std::move(row)); }
-  bool empty() const { return rows_.empty(); }
+  explicit Listing(std::vector<TextColumn> columns);
+  void add(std::vector<std::string> row);
   void print(Output &out) const;
 
  private:
-  std::string aligned(const std::vector<std::string> &row, const std::vector<size_t> &widths) const;
-
-  std::vector<std::string> headings_;
-  std::vector<bool> right_;
+  std::vector<TextColumn> columns_;
   std::vector<std::vector<std::string>> rows_;
 };
 

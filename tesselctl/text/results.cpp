@@ -102,6 +102,7 @@ void Results::begin(const Settings &settings, std::string_view command, bool lis
   sort_was_known_ = false;
   held_.clear();
   columns_.clear();
+  key_names_.clear();
 }
 
 // Whether the item has what the filter wants; notes what that shows about the filter.
@@ -198,16 +199,7 @@ void Results::print(const Row &row) {
     return;
   }
   if (columns_.empty()) return out_->line("{}", row.words());
-  const std::vector<std::string> texts = cells(row);
-  std::string line;
-  for (size_t i = 0; i < texts.size(); ++i) {
-    if (i > 0) line += "  ";
-    const size_t width = i < columns_.size() ? columns_[i].width : 0;
-    const std::string padding(width - std::min(width, texts[i].size()), ' ');
-    line += i < columns_.size() && columns_[i].number ? padding + texts[i] : texts[i] + padding;
-  }
-  line.erase(line.find_last_not_of(' ') + 1);
-  out_->line("{}", line);
+  out_->line("{}", aligned(columns_, cells(row)));
 }
 
 void Results::choose_columns() {
@@ -216,12 +208,12 @@ void Results::choose_columns() {
     for (const Item &item : row.items()) {
       if (!has_column(item)) continue;
       auto found = std::find_if(columns_.begin(), columns_.end(),
-                                [&](const Column &column) { return column.name == item.name; });
+                                [&](const TextColumn &column) { return column.name == item.name; });
       if (found == columns_.end()) {
         // Behind the column of the item before it, as the rows have it.
         const auto at = columns_.begin() + static_cast<std::ptrdiff_t>(after);
-        found = columns_.insert(at, {item.name, item.kind == Item::Kind::number,
-                                     item.group == Row::kKey, item.name.size()});
+        found = columns_.insert(at, {item.name, item.kind == Item::Kind::number, item.name.size()});
+        if (item.group == Row::kKey) key_names_.insert(item.name);
       }
       found->width = std::max(found->width, item.value.size());
       after = static_cast<size_t>(found - columns_.begin()) + 1;
@@ -232,11 +224,14 @@ void Results::choose_columns() {
 // One text a column, and one for the rest of the row.
 std::vector<std::string> Results::cells(const Row &row) const {
   std::vector<std::string> texts;
-  for (const Column &column : columns_) texts.push_back(column.key ? "*" : "-");
+  for (const TextColumn &column : columns_) {
+    texts.emplace_back(key_names_.contains(column.name) ? "*" : "-");
+  }
   std::string rest;
   for (const Item &item : row.items()) {
-    const auto found = std::find_if(columns_.begin(), columns_.end(),
-                                    [&](const Column &column) { return column.name == item.name; });
+    const auto found =
+        std::find_if(columns_.begin(), columns_.end(),
+                     [&](const TextColumn &column) { return column.name == item.name; });
     if (has_column(item) && found != columns_.end()) {
       texts[static_cast<size_t>(found - columns_.begin())] = item.value;
     } else {
@@ -250,14 +245,7 @@ std::vector<std::string> Results::cells(const Row &row) const {
 void Results::print_columns() {
   if (held_.empty()) return;
   choose_columns();
-  std::string line;
-  for (const Column &column : columns_) {
-    if (!line.empty()) line += "  ";
-    const std::string padding(column.width - column.name.size(), ' ');
-    line += column.number ? padding + column.name : column.name + padding;
-  }
-  line.erase(line.find_last_not_of(' ') + 1);
-  out_->line("{}", out_->styled(Style::heading, line));
+  out_->line("{}", out_->styled(Style::heading, aligned_names(columns_)));
   for (const Row &row : held_) print(row);
   held_.clear();
 }

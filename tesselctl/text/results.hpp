@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -76,13 +77,6 @@ class Results {
   void start_json();
   void check_names() const;
 
-  struct Column {
-    std::string name;
-    bool number;
-    bool key;
-    size_t width;
-  };
-
   Output *out_;
   Settings settings_;
   std::string command_;
@@ -100,7 +94,8 @@ class Results {
   std::vector<FilterState> filter_states_;  // by filter
   bool sort_was_known_ = false;
   std::vector<Row> held_;  // to be sorted, or to measure the columns
-  std::vector<Column> columns_;
+  std::vector<TextColumn> columns_;
+  std::set<std::string> key_names_;  // of columns whose absent value matches anything
 };
 
 // Whether a text is one that a pattern with '*' describes.
