@@ -69,8 +69,8 @@ std::vector<std::pair<std::string, uint32_t>> constants(const std::string &heade
   return found;
 }
 
-// A caller who handles each status by itself: those of the SDK, and those of the library that are not
-// numbers of the SDK's too.
+// A caller who handles each status by itself: those of the SDK, and those of the library that are
+// not numbers of the SDK's too.
 std::string status_switch() {
   std::string cases;
   size_t count = 0;

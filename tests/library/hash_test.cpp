@@ -54,7 +54,7 @@ TEST_F(Hashes, CountTheAttributesOfTheConfiguredList) {
   only_call([&] { EXPECT_EQ(count_get(session(), kDevice, 1, &count), P4_PD_UNKNOWN_SELECTION); });
   EXPECT_EQ(count, 9u);
   // Another list than its own is passed on as it was read, whatever the input.
-  for (const uint32_t input : {0, 1}) {
+  for (const uint32_t input : {0u, 1u}) {
     count = 9;
     forget_list();
     const auto calls = recorded(

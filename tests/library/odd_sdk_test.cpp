@@ -122,7 +122,7 @@ class OddSdk : public LibraryTest {
 
 TEST_F(OddSdk, WhatFitsIsDelivered) {
   for (uint32_t pipe = 0; pipe < kPipes; ++pipe) {
-    for (const uint32_t index : {20, 21}) {
+    for (const uint32_t index : {20u, 21u}) {
       EXPECT_EQ(soft_register_write(kDevice, pipe, kWide, index, 10 * index + pipe), BF_SUCCESS);
     }
   }
@@ -245,7 +245,7 @@ struct Read {
 
 // The bytes of a trigger as the device gets them: every field of its layout in network order.
 TEST_F(OddSdk, TriggersReachTheDeviceInNetworkOrder) {
-  for (const uint32_t direction : {0, 1}) {
+  for (const uint32_t direction : {0u, 1u}) {
     Bytes value(kRecord);
     for (size_t i = 0; i < kRecord; ++i) value[i] = static_cast<uint8_t>(i % 251);
     Bytes mask(value.rbegin(), value.rend());
@@ -336,7 +336,7 @@ TEST_F(OddSdk, StagesOfOddSizes) {
     for (size_t i = 0; i < count; ++i) made[i] = static_cast<uint8_t>((first + i) % 251);
     return made;
   };
-  for (const auto &[total, stage] : {std::pair{1000, 0}, {0, 0}, {699, 700}}) {
+  for (const auto &[total, stage] : {std::pair{1000u, 0u}, {0u, 0u}, {699u, 700u}}) {
     EXPECT_EQ(read(total, stage)[0], kUntouchedRecord);
   }
   std::vector<Bytes> records = read(25, 10);
