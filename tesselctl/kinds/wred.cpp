@@ -109,11 +109,11 @@ constexpr Command kCommands[] = {
      Kind::lists},
 };
 
-constexpr ObjectKind kObjects = {"wred", "WRED table",
-                                 [](size_t at) { return at == 0 ? "profiles" : nullptr; }};
+constexpr ObjectKind kWredObjects = {"wred", "WRED table",
+                                     [](size_t at) { return at == 0 ? "profiles" : nullptr; }};
 
 constexpr ItemKind kKinds[] = {
-    {kObjects, "cell", 80, kCellSteps,
+    {kWredObjects, "cell", 80, kCellSteps,
      [](const char *) -> std::unique_ptr<ObjectItems> { return std::make_unique<WredCells>(); }}};
 
 }  // namespace

@@ -21,6 +21,8 @@
 //   seed 0x1
 //   valueset recirc_ports
 //   value 0x40 mask=0xf0 direction=0 pipe=65535 parser=255
+//   wred profiles                           by the handles of their tables
+//   cell 0x7000001 index=6 pipe=1 min=100 max=900 probability=0.25 time=12.5
 //   end 14 checksum=9f86d081884c7d65        the lines before it and their checksum
 //
 // Values are the value strings of the library. Members and groups are numbered from 1 in each
