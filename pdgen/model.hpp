@@ -175,7 +175,7 @@ struct ResourceRow {
   std::string index;                 // parameter that names the cell; empty: cell 0
   Place index_place;
   ResourceTag tag = ResourceTag::kAttach;
-  std::array<bool, kOperationCount> in{};  // by Operation
+  unsigned operations = 0;  // those that send it: a bit each, by Operation
 };
 
 // One item of the resource list that an operation of a (table, action) pair sends.
@@ -184,27 +184,31 @@ struct ResourceItem {
   const Param *index = nullptr;  // of the pair's action; null: cell 0
   ResourceTag tag = ResourceTag::kAttach;
   unsigned operations = 0;  // those that send it: a bit each, by Operation
+
+  bool sent_in(Operation operation) const {
+    return (operations >> static_cast<unsigned>(operation) & 1) != 0;
+  }
 };
 
 // An action that a table accepts.
 struct Pair {
   Ref<Action> action;
   Place place;
-  std::uint32_t handle = 0;  // action function handle of this table and action
-  bool in_entries = false;   // false only in tables without a key
-  bool as_default = false;   // may be the default action
-  std::array<std::vector<ResourceItem>, kOperationCount> items;  // by Operation, in list order
-  std::vector<ResourceItem> all_items;  // of all operations, a resource once
+  std::uint32_t handle = 0;         // action function handle of this table and action
+  bool in_entries = false;          // false only in tables without a key
+  bool as_default = false;          // may be the default action
+  std::vector<ResourceItem> items;  // in list order
 
-  const std::vector<ResourceItem> &sent_in(Operation operation) const {
-    return items[static_cast<std::size_t>(operation)];
+  std::vector<ResourceItem> sent_in(Operation operation) const {
+    std::vector<ResourceItem> sent = items;
+    std::erase_if(sent, [=](const ResourceItem &item) { return !item.sent_in(operation); });
+    return sent;
   }
   // Whether the operation takes the caller's meter spec.
   bool takes_meter_spec(Operation operation) const {
-    for (const ResourceItem &item : sent_in(operation)) {
-      if (item.tag == ResourceTag::kMeterSpec) return true;
-    }
-    return false;
+    return std::ranges::any_of(items, [=](const ResourceItem &item) {
+      return item.tag == ResourceTag::kMeterSpec && item.sent_in(operation);
+    });
   }
 };
 

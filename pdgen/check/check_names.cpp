@@ -1,4 +1,5 @@
-// Derived names: no two rows may lead to the same C name.
+// Derived names, of which no two rows may make the same, and what sizes and widths may come to:
+// limits of the core, and widths that go with one another.
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -73,6 +74,104 @@ void check_key_names(const Program &program, const Table &table, Diagnostics &di
   check_distinct(widths, "function", diagnostics);
 }
 
+// A key or the action data of an entry stands on the stack while it is read back, and positions in
+// a record have 16 bits.
+constexpr unsigned kMostBytes = 4096;
+// The cells that read-back looks for when it fills one parameter.
+constexpr std::size_t kMostCells = 2;
+
+template <typename Row>
+void check_bytes(const std::vector<Row> &parts, const Place &place, std::string_view key,
+                 const std::string &what, Diagnostics &diagnostics) {
+  std::uint64_t bytes = 0;
+  for (const Row &part : parts) bytes += part.bytes;
+  if (bytes <= kMostBytes) return;
+  diagnostics.report(place, key, "{} has {} bytes; at most {} can be", what, bytes, kMostBytes);
+}
+
+void check_sizes(const Program &program, Diagnostics &diagnostics) {
+  for (const Table &table : program.tables) {
+    check_bytes(table.key, table.place, "table.key", "the key of table " + table.name, diagnostics);
+  }
+  for (const Action &action : program.actions) {
+    check_bytes(action.params, action.place, "actions.params", "the data of action " + action.name,
+                diagnostics);
+    for (const Param &param : action.params) {
+      if (param.index_of.size() <= kMostCells) continue;
+      diagnostics.report(param.index_of[kMostCells].place, "actions.params.index_of",
+                         "parameter {} of action {} names cells of {} resources; at most {} can be",
+                         param.name, action.name, param.index_of.size(), kMostCells);
+    }
+  }
+}
+
+// A field is one and the same in all tables: packets carry it once.
+void check_field_widths(const Program &program, Diagnostics &diagnostics) {
+  std::map<std::string_view, const KeyField *> first;
+  for (const Table &table : program.tables) {
+    for (const KeyField &field : table.key) {
+      const KeyField &other = *first.try_emplace(field.name, &field).first->second;
+      if (field.width == 0 || other.width == 0 || field.width == other.width) continue;
+      diagnostics.report(field.place, "table.key.width",
+                         "field {} of table {} has {} bits, but {} at {}", field.name, table.name,
+                         field.width, other.width, place_text(other.place));
+    }
+  }
+}
+
+// What is wrong with the width, a format of the hinted one; empty if the hint goes with it.
+std::string wanted_width(Hint hint, unsigned width) {
+  const unsigned wanted = hint == Hint::kMac      ? 24  // one half of an address
+                          : hint == Hint::kV4Addr ? 32
+                          : hint == Hint::kV6Addr ? 128
+                                                  : 0;
+  if (width == 0 || hint == Hint::kNone || width == wanted) return {};
+  if (wanted != 0) return fmt::format("{} bits", wanted);
+  return width <= 32 ? "" : "at most 32 bits";
+}
+
+void check_hint_widths(const Program &program, Diagnostics &diagnostics) {
+  for (const Action &action : program.actions) {
+    for (const Param &param : action.params) {
+      const std::string wanted = wanted_width(param.hint, param.width);
+      if (wanted.empty()) continue;
+      diagnostics.report(param.place, "actions.params.hint",
+                         "the hint of parameter {} of action {} goes with {}, not {}", param.name,
+                         action.name, wanted, param.width);
+    }
+  }
+  for (const Table &table : program.tables) {
+    for (const KeyField &field : table.key) {
+      const FieldHint *hint = hint_of(field.name, field.width, program.field_facts);
+      const std::string wanted = hint == nullptr ? "" : wanted_width(hint->hint, field.width);
+      if (wanted.empty()) continue;
+      diagnostics.report(hint->place, "hints.hint",
+                         "this hint goes with {}, but field {} of table {} has {}", wanted,
+                         field.name, table.name, field.width);
+    }
+  }
+}
+
+// Where a part lies in a capture follows from its number.
+void check_parts(const Snapshots &snapshots, Diagnostics &diagnostics) {
+  for (const SnapshotLayout &layout : snapshots.layouts) {
+    for (const PacketField &field : layout.fields) {
+      const auto [whole, number] = captured_part(snapshots, field.name);
+      if (whole == nullptr) continue;
+      if ((number + 1) * field.bytes > whole->bytes) {
+        diagnostics.report(field.place, "layout.fields.bytes",
+                           "{}, {} bytes of {} from byte {}, ends beyond it", field.name,
+                           field.bytes, whole->name, number * field.bytes);
+      }
+      const std::string before = fmt::format("{}_{}", whole->name, number - 1);
+      if (number == 0 || find_row(layout.fields, before) != nullptr) continue;
+      diagnostics.report(field.place, "layout.fields.name",
+                         "{} is a part of {}, whose part {} is missing in layout {}", field.name,
+                         whole->name, before, layout.name);
+    }
+  }
+}
+
 }  // namespace
 
 void check_distinct(const std::vector<MadeName> &names, std::string_view kind,
@@ -89,6 +188,13 @@ void check_distinct(const std::vector<MadeName> &names, std::string_view kind,
 void check_names(const Program &program, Diagnostics &diagnostics) {
   check_object_names(program, diagnostics);
   for (const Table &table : program.tables) check_key_names(program, table, diagnostics);
+}
+
+void check_limits(const Program &program, Diagnostics &diagnostics) {
+  check_sizes(program, diagnostics);
+  check_field_widths(program, diagnostics);
+  check_hint_widths(program, diagnostics);
+  if (program.snapshots) check_parts(*program.snapshots, diagnostics);
 }
 
 }  // namespace pdgen

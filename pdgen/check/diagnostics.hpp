@@ -4,8 +4,10 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -30,10 +32,22 @@ class Diagnostics {
   bool empty() const { return faults_.empty(); }
 
   // By file and line; faults of one line in the order in which they were found.
-  std::vector<Fault> sorted() const;
+  std::vector<Fault> sorted() const {
+    std::vector<Fault> faults = faults_;
+    std::ranges::stable_sort(faults, {}, [](const Fault &fault) {
+      return std::tie(fault.place.file, fault.place.line);
+    });
+    return faults;
+  }
 
   // One line per fault, "file:line: key: message", in the order of sorted().
-  std::string text() const;
+  std::string text() const {
+    std::string lines;
+    for (const auto &[place, key, message] : sorted()) {
+      lines += fmt::format("{}:{}: {}: {}\n", place.file, place.line, key, message);
+    }
+    return lines;
+  }
 
  private:
   std::vector<Fault> faults_;

@@ -83,7 +83,7 @@ const Walk kWalks[] = {
      [](S s) { return only(each_pair(s), [](S pair) { return pair.get<Pair>().as_default; }); }},
     {"table", "field", "field", each<&Table::key>},
     {"table", "record_field", "record_field", each<&Table::record>},
-    {"pair", "item", "resource item", each_with<&Pair::all_items, &ResourceItem::resource>},
+    {"pair", "item", "resource item", each_with<&Pair::items, &ResourceItem::resource>},
     {"profile", "member", "action member", each_with<&Profile::actions, &ProfileAction::action>},
     {"action", "param", "param", each<&Action::params>},
     {"param", "cell", "resource", [](S s) { return each_target(s, s.get<Param>().index_of); }},
@@ -98,6 +98,13 @@ const Walk kWalks[] = {
      [](S s) {
        return only(each<&Label::items>(s),
                    [](S item) { return item.get<LabelItem>().kind != LabelKind::kSilent; });
+     }},
+    {"label_item", "place", "field",
+     [](S s) {
+       const auto &[kind, place, field, oui, station, label, bit, after, format, digits, texts,
+                    mask] = s.get<LabelItem>();
+       return kind == LabelKind::kMac ? each_target<KeyField>(s, {oui, station})
+                                      : each_target<KeyField>(s, {field});
      }},
     {"label_item", "text", "label_text", each<&LabelItem::texts>},
     {"record_list", "record", "record", each<&ToolRecords::records>},

@@ -159,13 +159,6 @@ Text digits_at(const ValueText &value) {
 
 // --- Labels ---
 
-Text place_in_record(const KeyField &field) {
-  const bool exact = field.match == Match::kExact;
-  return fmt::format("{{offsetof(Record, {}), offsetof(Record, {}), {}, {}}}", field.name,
-                     exact ? field.name : companion_member(field), field.storage_bytes,
-                     hex32(static_cast<std::uint32_t>(field.key_bits.lower)));
-}
-
 bool is_number(const LabelItem &item) {
   return item.kind == LabelKind::kNumber || item.kind == LabelKind::kExact;
 }
@@ -257,6 +250,8 @@ const Placeholder kPlaceholders[] = {
     {"field", "storage", text<&KeyField::storage_bytes>},
     {"field", "width", text<&KeyField::width>},
     {"field", "bytes", text<&KeyField::bytes>},
+    {"field", "key_bits",
+     [](S s) { return hex32(static_cast<std::uint32_t>(s.get<KeyField>().key_bits.lower)); }},
     {"field", "match", name_of<&KeyField::match>},
     {"field", "MATCH", capitals<&KeyField::match>},
     {"record_field", "name", text<&RecordField::name>},
@@ -341,13 +336,6 @@ const Placeholder kPlaceholders[] = {
     {"label_item", "item", item_number},
     {"label_item", "kind", name_of<&LabelItem::kind>},
     {"label_item", "digits", text<&LabelItem::digits>},
-    {"label_item", "field_place",
-     [](S s) {
-       const LabelItem &item = s.get<LabelItem>();
-       return place_in_record(item.field ? *item.field : *item.oui);
-     }},
-    {"label_item", "station_place",
-     [](S s) { return place_in_record(*s.get<LabelItem>().station); }},
     {"label_item", "bits",
      [](S s) {
        const LabelItem &item = s.get<LabelItem>();
@@ -440,7 +428,6 @@ const Condition kConditions[] = {
     {"packet_field", "many", [](S s) { return s.get<PacketField>().bytes > 1; }},
     {"label_item", "number", [](S s) { return s.get<LabelItem>().kind == LabelKind::kNumber; }},
     {"label_item", "any_number", [](S s) { return is_number(s.get<LabelItem>()); }},
-    {"label_item", "mac", [](S s) { return s.get<LabelItem>().kind == LabelKind::kMac; }},
     {"label_item", "bits",
      [](S s) {
        const LabelItem &item = s.get<LabelItem>();

@@ -79,29 +79,12 @@ void lay_out_record(Table &table) {
   table.record_bytes = lay_out(table.record);
 }
 
-// A resource is one item, whatever operations send it.
-void add_operation(std::vector<ResourceItem> &items, ResourceItem sent, std::size_t operation) {
-  auto item = std::ranges::find_if(
-      items, [&](const ResourceItem &other) { return other.resource == sent.resource; });
-  if (item == items.end()) item = items.insert(item, sent);
-  item->operations |= 1u << operation;
-}
-
 void list_resource_items(Table &table) {
   for (Pair &pair : table.pairs) {
     for (const ResourceRow &row : table.resources) {
       if (!applies_to(row, pair)) continue;
       const Param *index = row.index.empty() ? nullptr : find_row(pair.action->params, row.index);
-      for (std::size_t operation = 0; operation < kOperationCount; ++operation) {
-        if (row.in[operation]) {
-          pair.items[operation].push_back({row.resource.target, index, row.tag});
-        }
-      }
-    }
-    for (std::size_t operation = 0; operation < kOperationCount; ++operation) {
-      for (const ResourceItem &item : pair.items[operation]) {
-        add_operation(pair.all_items, item, operation);
-      }
+      pair.items.push_back({row.resource.target, index, row.tag, row.operations});
     }
   }
 }

@@ -139,7 +139,7 @@ void read_operations(RowReader &row, bool keyed, ResourceRow &resource) {
       row.report("in", "{} is sent in {}, but a table without a key has no entries", row.what(),
                  name);
     }
-    resource.in[operation] = true;
+    resource.operations |= 1u << operation;
   }
 }
 
