@@ -56,6 +56,25 @@ void check_counted(const Program &program, const Label &label, Diagnostics &diag
                      label.table.name);
 }
 
+// What a kind of items needs of its fields: the match, the width (0: up to 32 bits), and who says
+// so.
+struct Needs {
+  Match match;
+  unsigned width;
+  const char *whose;
+};
+
+// By LabelKind. Nothing is written of a silent one.
+constexpr Needs kNeeds[] = {
+    {Match::kTernary, 0, "a flag"},
+    {Match::kTernary, 0, "a number"},
+    {Match::kExact, 0, "an exact number"},
+    {Match::kExact, 0, nullptr},
+    {Match::kTernary, 24, "this part of an address"},
+    {Match::kTernary, 32, "this part of an address"},
+    {Match::kTernary, 128, "this part of an address"},
+};
+
 class LabelChecker {
  public:
   LabelChecker(const Label &label, Diagnostics &diagnostics)
@@ -63,34 +82,23 @@ class LabelChecker {
 
   void check() const {
     for (const LabelItem &item : label_.items) {
-      if (item.field) check_field(item, *item.field);
-      if (item.oui) check_address(item, *item.oui, 24, "oui");
-      if (item.station) check_address(item, *item.station, 24, "station");
+      check(item, item.field, "field");
+      check(item, item.oui, "oui");
+      check(item, item.station, "station");
     }
   }
 
  private:
-  void check_field(const LabelItem &item, const KeyField &field) const {
-    const Match match = item.kind == LabelKind::kExact ? Match::kExact : Match::kTernary;
-    const char *what = item.kind == LabelKind::kFlag     ? "a flag needs a ternary"
-                       : item.kind == LabelKind::kNumber ? "a number needs a ternary"
-                                                         : "an exact number needs an exact";
-    switch (item.kind) {
-      case LabelKind::kV4Addr:
-        return check_address(item, field, 32, "field");
-      case LabelKind::kV6Addr:
-        return check_address(item, field, 128, "field");
-      case LabelKind::kSilent:
-      case LabelKind::kMac:
-        return;
-      default:
-        break;
+  void check(const LabelItem &item, const Ref<KeyField> &field, std::string_view key) const {
+    const auto &[match, width, whose] = kNeeds[static_cast<std::size_t>(item.kind)];
+    if (!field || whose == nullptr) return;
+    if (field->match != match || (width == 0 ? field->wide() : field->width != width)) {
+      return report(item, key, *field, "{} needs {} field of {} bits", whose,
+                    match == Match::kExact ? "an exact" : "a ternary",
+                    width == 0 ? "at most 32" : std::to_string(width));
     }
-    if (field.match != match || field.wide()) {
-      return report(item, "field", field, "{} field of at most 32 bits", what);
-    }
-    if (item.kind == LabelKind::kFlag) check_bit(item, field);
-    if (item.kind == LabelKind::kNumber) check_texts(item, field);
+    if (item.kind == LabelKind::kFlag) check_bit(item, *field);
+    if (item.kind == LabelKind::kNumber) check_texts(item, *field);
   }
 
   // A text for a value that the field cannot have would never be written.
@@ -113,18 +121,10 @@ class LabelChecker {
   void check_bit(const LabelItem &item, const KeyField &field) const {
     if (item.bit == 0 && field.width > 1) {
       report(item, "bit", field, "the field has {} bits, so a flag must name its bit", field.width);
-    }
-    if (item.bit == 0) return;
-    if ((item.bit & (item.bit - 1)) != 0 || (item.bit & ~field.key_bits.lower) != 0) {
+    } else if ((item.bit & (item.bit - 1)) != 0 || (item.bit & ~field.key_bits.lower) != 0) {
       report(item, "bit", field, "{} must be one bit of the key bits {:#x}", hex(item.bit),
              field.key_bits.lower);
     }
-  }
-
-  void check_address(const LabelItem &item, const KeyField &field, unsigned width,
-                     std::string_view key) const {
-    if (field.match == Match::kTernary && field.width == width) return;
-    report(item, key, field, "this part of an address needs a ternary field of {} bits", width);
   }
 
   template <typename... Args>

@@ -32,32 +32,26 @@ void add_number(ValueText &value, unsigned digits) {
   value.text += "0x" + std::string(digits, '0') + ",";
 }
 
-constexpr std::size_t kMac = std::string_view("0011.2233.4455").size();
-constexpr std::size_t kV4Addr = std::string_view("255.255.255.255").size();
-constexpr std::size_t kV6Addr = std::string_view("1111:2222:3333:4444:5555:6666:7777:8888").size();
+// What follows the labels of addresses, at its longest: from LabelKind::kMac on.
+constexpr std::string_view kLongest[] = {
+    "0011.2233.4455 / 0011.2233.4455", "255.255.255.255 / 32",
+    "1111:2222:3333:4444:5555:6666:7777:8888 / 1111:2222:3333:4444:5555:6666:7777:8888"};
 
 void raise(std::size_t &greatest, std::size_t size) { greatest = std::max(greatest, size); }
 
-std::size_t pointee_size() { return std::string_view("('setMbrHdl',(0xffffffff,))").size(); }
-
 std::size_t number_size(const LabelItem &item) {
   const KeyField &field = *item.field;
-  const auto value_digits = [&] {
-    return std::max<std::size_t>(item.digits, fmt::formatted_size("{:x}", field.key_bits.lower));
-  };
+  const std::size_t digits =
+      std::max<std::size_t>(item.digits, fmt::formatted_size("{:x}", field.key_bits.lower));
   // The mask is written as the record holds it.
   const std::size_t masked = std::string_view(" & 0x").size() + 2 * field.storage_bytes;
-  const std::size_t number = item.format.size() + std::string_view(" 0x ").size() + value_digits() +
-                             (item.kind == LabelKind::kNumber ? masked : 0);
-  std::size_t greatest = number;
-  for (const LabelText &text : item.texts) raise(greatest, text.text.size());
-  return greatest;
+  std::size_t size = item.format.size() + std::string_view(" 0x ").size() + digits;
+  if (item.kind == LabelKind::kNumber) size += masked;
+  for (const LabelText &text : item.texts) raise(size, text.text.size());
+  return size;
 }
 
 std::size_t item_size(const LabelItem &item) {
-  const auto address = [&](std::size_t value, std::size_t mask) {
-    return item.label.size() + std::string_view(" / ").size() + value + mask;
-  };
   switch (item.kind) {
     case LabelKind::kFlag:
       return std::string_view("!").size() + item.label.size() + item.after;
@@ -66,14 +60,10 @@ std::size_t item_size(const LabelItem &item) {
       return number_size(item);
     case LabelKind::kSilent:
       return 0;
-    case LabelKind::kMac:
-      return address(kMac, kMac);
-    case LabelKind::kV4Addr:
-      return address(kV4Addr, std::string_view("32").size());
-    case LabelKind::kV6Addr:
-      return address(kV6Addr, kV6Addr);
+    default:
+      return item.label.size() +
+             kLongest[static_cast<int>(item.kind) - static_cast<int>(LabelKind::kMac)].size();
   }
-  return 0;
 }
 
 }  // namespace
@@ -156,7 +146,8 @@ std::string action_lines(const Action &action) {
 std::size_t entry_value_size(const Table &table) {
   std::size_t key = std::string_view("(),").size();
   if (table.keyed()) raise(key, match_spec_value(table).text.size());
-  std::size_t action = table.indirect() ? pointee_size() : 0;
+  std::size_t action =
+      table.indirect() ? std::string_view("('setMbrHdl',(0xffffffff,))").size() : 0;
   for (const Pair &pair : table.pairs) raise(action, action_value(*pair.action).text.size());
   const std::size_t priority = std::string_view(table.has_priority() ? "-2147483648" : "0").size();
   return std::string_view("((),(,True))").size() + key + action + priority + 1;
