@@ -13,12 +13,13 @@ void Room::clear() {
   std::memset(static_cast<void *>(this), 0xa5, sizeof(*this));
   zero[0] = zero[1] = 0;
   match = {};
-  match.byte_count = 5;
+  match.scope = 5;
+  match.byte_count = 10;
   match.value = bytes;
-  match.mask = bytes + 8;
+  match.mask = bytes + 16;
   action = {};
-  action.data = {0, 28, bytes + 16};
-  data = {0, 28, bytes + 44};
+  action.data = {0, 28, bytes + 32};
+  data = {0, 28, bytes + 60};
   query = {2, cells};
 }
 
@@ -45,7 +46,8 @@ std::string contents(const Calls &calls, Hand hand) {
   for (const Call &call : calls) {
     if (call.kind != Call::kRead) continue;
     hand.begin();
-    all += std::to_string(call.make(hand)) + hand.room.contents();
+    all += std::to_string(call.make(hand));
+    all += hand.room.contents();
   }
   return all;
 }

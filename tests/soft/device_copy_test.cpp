@@ -40,6 +40,7 @@ TEST_F(DeviceCopy, IsTheSameInEverythingAndLivesOnByItself) {
   OK(bf_snapshot_create(kDevice, 0, 0, 0, 0, &entry));
   OK(bf_snapshot_create(kOther, 0, 0, 0, 0, &snapshot));
   EXPECT_EQ(snapshot - entry, (kOther - kDevice) << 24);
+  EXPECT_EQ(entry & 0xff000003, kDevice << 24 | 1) << "of ingress";
 }
 
 // As a host that tries something and takes it back sees it.

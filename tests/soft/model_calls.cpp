@@ -28,6 +28,9 @@ void Beside::create(bf_device_id_t id, bool as_virtual) {
     static_cast<Beside *>(cookie)->heard.push_back({object, update, group, member});
   };
   OK(pipe_register_sel_update_cb(session, id, kSelector, hear, this));
+  const auto count = [](pipe_session_handle_t, bf_device_id_t, uint32_t, uint32_t, uint32_t,
+                        uint32_t, void *cookie) { ++static_cast<Beside *>(cookie)->owner_heard; };
+  OK(pipe_mgr_sel_tbl_register_cb(0, id, kSelector, count, this));  // before the first session
   const auto hear_expiry = [](bf_device_id_t, uint32_t, uint32_t entry, void *cookie) {
     static_cast<Beside *>(cookie)->expired.push_back({entry, 0});
   };
@@ -47,6 +50,9 @@ void Beside::TearDown() {
 
 void Beside::expect_update(bf_status_t status, const Update &update) {
   ASSERT_EQ(heard, status == BF_SUCCESS ? std::vector{update} : std::vector<Update>{});
+  const bool of_group = status == BF_SUCCESS && update.object == kSelector;
+  ASSERT_EQ(owner_heard, of_group ? 1 : 0);
+  owner_heard = 0;
   heard.clear();
 }
 

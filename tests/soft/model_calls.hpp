@@ -79,6 +79,7 @@ class Beside : public testing::TestWithParam<uint32_t> {
   bf_device_id_t device = 20, other = 21;
   bool is_virtual = true;
   std::vector<Update> heard;
+  int owner_heard = 0;  // of the selector
   std::vector<Expiry> expired;
   Words gone{0, 0xfffffff};
   pipe_mgr_placement_t *placed = nullptr;

@@ -63,7 +63,7 @@ void Beside::change_group() {
     static const Words profiles{kMembers, kPorts, kSelector};
     const uint32_t profile = random.of(profiles);
     uint32_t read = 99;
-    OK(soft_profile_capacity_set(device, profile, model.capacity[profile] = random.below(15)));
+    OK(soft_profile_capacity_set(device, profile, model.capacity[profile] = random.below(40)));
     OK(soft_profile_capacity_get(device, profile, &read));
     ASSERT_EQ(read, model.capacity[profile]);
     return;

@@ -44,7 +44,7 @@ Bytes Beside::random_packet(const ModelTable &table) {
 
 // An exact table does not look at mask and priority.
 pipe_mgr_match_spec_t Beside::record_of(const ModelTable &table, ModelEntry *key) {
-  static const uint8_t any_mask[5] = {1, 2, 3, 4, 5};
+  static const uint8_t any_mask[10] = {1, 2, 3, 4, 5};
   const bool odd = table.is_exact() && random.one_in(3);
   return {0,
           table.description->key_bits,
@@ -346,10 +346,11 @@ void Beside::compare_action(const ModelEntry &entry, uint32_t action,
 void Beside::compare_entry(const ModelTable &table, const ModelEntry &entry, const Room &room) {
   compare_action(entry, room.word[0], room.action);
   ASSERT_EQ(room.match.priority, entry.priority);
+  ASSERT_EQ(room.match.scope, 0u);
   const size_t bytes = entry.value.size();
   ASSERT_EQ(room.match.value, bytes == 0 ? nullptr : room.bytes);
   ASSERT_EQ(Bytes(room.bytes, room.bytes + bytes), entry.value);
-  ASSERT_EQ(Bytes(room.bytes + 8, room.bytes + 8 + bytes), entry.mask);
+  ASSERT_EQ(Bytes(room.bytes + 16, room.bytes + 16 + bytes), entry.mask);
   ASSERT_EQ(room.bytes[bytes], 0xa5) << "written behind the key";
   ASSERT_EQ(room.match.byte_count, bytes);
   ASSERT_EQ(room.match.valid_bit_count, bytes == 0 ? 0 : table.description->key_bits);

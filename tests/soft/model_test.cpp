@@ -16,9 +16,10 @@ TEST_P(Beside, AgreesAfterRandomCalls) {
       &Beside::change_age,        &Beside::advance_clock,     &Beside::change_member,
       &Beside::change_group,      &Beside::change_membership, &Beside::change_membership,
       &Beside::change_membership, &Beside::change_fallback,   &Beside::change_counter_cell,
-      &Beside::change_meter_cell, &Beside::change_meter_cell};
+      &Beside::change_meter_cell, &Beside::change_meter_cell, &Beside::change_member,
+      &Beside::change_membership, &Beside::change_membership};
   const std::vector<Step> seldom = {&Beside::change_property, &Beside::switch_ageing};
-  for (uint32_t step = 0; step < 4000; ++step) {
+  for (uint32_t step = 0; step < 6000; ++step) {
     SCOPED_TRACE("step " + std::to_string(step));
     if (random.one_in(40)) (this->*random.of(seldom))();
     // Fills and drains in turn.

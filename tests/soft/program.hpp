@@ -37,7 +37,7 @@ constexpr uint32_t kRoute = 0x01000003;   // lpm, 40 bits in 5 bytes, ages
 constexpr uint32_t kEncap = 0x01000004;   // keyless
 constexpr uint32_t kLag = 0x01000005;     // exact, 8 bits, bound to a profile with a selector
 constexpr uint32_t kBridge = 0x01000006;  // exact, 8 bits, bound to a profile without one
-constexpr uint32_t kTunnel = 0x01000007;  // ternary, 16 bits, of which packets are compared in 12
+constexpr uint32_t kTunnel = 0x01000007;  // ternary, 80 bits, of which packets are compared in 76
 
 constexpr uint32_t kForward = 0x20000001;  // 9 bits in 2 bytes
 constexpr uint32_t kDrop = 0x20000002;     // no data; the only default of kHost
@@ -80,7 +80,7 @@ constexpr uint32_t kTypeSet = 0x200;
 constexpr uint32_t kSnapshotBytes = 4;
 
 // Behind the bits of kTunnel stands a byte that is not of the key.
-inline constexpr uint8_t kCompared[] = {0x0f, 0xff, 0xff};
+inline constexpr uint8_t kCompared[] = {0x0f, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255};
 
 inline const soft_program_t &small_program() {
   static const soft_key_field_t host_key[] = {{"vlan", SOFT_EXACT, 12, 0, 2},
@@ -88,6 +88,7 @@ inline const soft_program_t &small_program() {
   static const soft_key_field_t word_key[] = {{"type", SOFT_TERNARY, 16, 0, 2}};
   static const soft_key_field_t route_key[] = {{"vrf", SOFT_EXACT, 8, 0, 1},
                                                {"dip", SOFT_LPM, 32, 1, 4}};
+  static const soft_key_field_t wide_key[] = {{"id", SOFT_TERNARY, 80, 0, 10}};
   static const soft_key_field_t byte_key[] = {{"number", SOFT_EXACT, 8, 0, 1}};
   static const soft_action_t host_actions[] = {{"forward", kForward, 9, 2, false},
                                                {"drop", kDrop, 0, 0, true}};
@@ -104,7 +105,7 @@ inline const soft_program_t &small_program() {
       {"encap", kEncap, SOFT_EXACT, 0, 0, nullptr, 0, encap_actions, 1, 0, false, nullptr},
       {"lag", kLag, SOFT_EXACT, 8, 1, byte_key, 1, nullptr, 0, kMembers, false, nullptr},
       {"bridge", kBridge, SOFT_EXACT, 8, 1, byte_key, 1, nullptr, 0, kPorts, false, nullptr},
-      {"tunnel", kTunnel, SOFT_TERNARY, 16, 2, word_key, 1, acl_actions, 2, 0, false, kCompared},
+      {"tunnel", kTunnel, SOFT_TERNARY, 80, 10, wide_key, 1, acl_actions, 2, 0, false, kCompared},
   };
   static const soft_profile_t profiles[] = {{"lag", kMembers, kSelector, lag_actions, 2},
                                             {"port", kPorts, 0, lag_actions, 2}};

@@ -45,6 +45,7 @@ class Snapshots : public SoftTest {
 
 TEST_F(Snapshots, CaptureTheFirstPacketThatTheTriggerMatches) {
   const uint32_t snapshot = create(2, 4);
+  EXPECT_EQ(snapshot, 0x04000005u);
   EXPECT_EQ(packet(2, {0x77, 1, 2, 3}), 0u) << "no trigger yet";
   OK(trigger(snapshot, 0x77));
   EXPECT_EQ(packet(2, {0x76, 1, 2, 3}), 0u);
