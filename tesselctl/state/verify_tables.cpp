@@ -37,13 +37,20 @@ class TableCheck {
                entry, placement) == 1;
   }
 
+  // The same for the entry under a handle of the other device. Placement data are without the
+  // priority, which is part of what a ternary entry is, so that one has to be found by its key.
+  bool is_in_place(const Device &other, uint32_t entry,
+                   const pipe_mgr_placement_t *placement) const {
+    return !table_.has_priority() && equals(other, entry, placement);
+  }
+
   // Whether the new device has an equal entry under the same handle.
   bool check_entry(uint32_t entry) {
     ++run_.counts.entries;
     const pipe_mgr_placement_t *placement = placement_.of_entry(old_, table_, entry);
-    if (equals(new_, entry, placement)) return true;
+    if (is_in_place(new_, entry, placement)) return true;
     const uint32_t found = find(new_, old_reader_, placement);
-    if (found != 0 && equals(new_, found, placement)) return false;
+    if (found != 0 && equals(new_, found, placement)) return found == entry;
     report(found == 0 ? Difference::missing : Difference::different, Compared::entry, entry, found);
     return false;
   }
@@ -51,7 +58,7 @@ class TableCheck {
   void look_for_extra() {
     for_each_entry(new_, table_, word_, [&](uint32_t entry) {
       const pipe_mgr_placement_t *placement = placement_.of_entry(new_, table_, entry);
-      if (equals(old_, entry, placement) || find(old_, new_reader_, placement) != 0) return;
+      if (is_in_place(old_, entry, placement) || find(old_, new_reader_, placement) != 0) return;
       report(Difference::extra, Compared::entry, 0, entry);
     });
   }
