@@ -1,12 +1,15 @@
-// One name and one notation for a value, wherever it is printed, offered or read.
+// Every action of every table: its entry reads the same wherever it is printed, offered or read.
 #include <fmt/format.h>
 
 #include <algorithm>
 #include <map>
+#include <random>
 #include <set>
 
 #include "tesselctl/completion/completion.hpp"
-#include "tesselctl/device/entry_line.hpp"
+#include "tesselctl/device/read_back.hpp"
+#include "tesselctl/program/value.hpp"
+#include "tesselctl/state/image.hpp"
 #include "tesselctl/text/files.hpp"
 #include "tool_fixture.hpp"
 
@@ -25,45 +28,23 @@ std::vector<std::string> words_of(std::string_view line) {
 
 class NamesTest : public ToolTest {
  protected:
-  ~NamesTest() override { remove(image_.c_str()); }
-
-  // Values that are not 0, as the fields' names and notations have them.
-  static std::string values(const bindings::Record &record) {
+  uint64_t random() { return uint64_t{engine_()} << 32 | engine_(); }
+  // Random values, as the fields' names and notations have them.
+  std::string values(const bindings::Record &record) {
     std::string text;
     for (const Field &field : record.shown()) {
-      Number bit = 1;  // one that value strings hold
-      while ((bit & key_bits(field)).is_zero()) bit = bit << 1;
+      const Number taken = key_bits(field);
       Number mask = low_ones(field.width);
-      if (field.match == Match::ternary) mask = bit;
-      if (field.match == Match::lpm) mask = bit = prefix_mask(1, field.width);
-      text += fmt::format(" {}={}", field.label, format_value(field, {bit, mask}));
+      if (field.match == Match::ternary) mask = taken & Number(random(), random());
+      if (mask.is_zero()) mask = taken;
+      if (field.match == Match::lpm)
+        mask = prefix_mask(static_cast<unsigned>(1 + engine_() % field.width), field.width);
+      Number value = Number(random(), random()) & mask & taken;
+      // Cells that every counter and meter of the device has.
+      if (field.label.ends_with("Index")) value = value & low_ones(22);
+      text += fmt::format(" {}={}", field.label, format_value(field, {value, mask}));
     }
     return text;
-  }
-  // The words that would add one entry, but for its action, and what it does.
-  struct Line {
-    std::string key;
-    std::string outcome;
-  };
-  Line line_of(const TableInfo &table) {
-    std::string key = values(*table.record);
-    if (table.has_priority()) key += " priority=5";
-    if (const soft_profile_t *profile = table.profile()) {
-      const char *action = profile->actions[0].name;
-      EXPECT_EQ(run(fmt::format("member add {} as=m action={}{}", profile->name, action,
-                                values(action_record(action)))),
-                "");
-      return {key, " member=" + std::to_string(context_.labels["m"])};
-    }
-    const char *family = table.keyed() ? "table_add" : "set_default_action";
-    // The action with the most to name.
-    const bindings::Record *chosen = nullptr;
-    for (uint32_t i = 0; i < table.description->action_count; ++i) {
-      const bindings::Record &action = action_record(table.description->actions[i].name);
-      if (find_export(family, table.name(), action.name) == nullptr) continue;
-      if (chosen == nullptr || action.shown_count > chosen->shown_count) chosen = &action;
-    }
-    return {key, fmt::format(" action={}{}", chosen->name, values(*chosen))};
   }
   // The first words of rows of that kind.
   Names described(const std::string &table, std::string_view kind) {
@@ -76,16 +57,25 @@ class NamesTest : public ToolTest {
     }
     return names;
   }
-  Names offered(const std::string &line) {
-    Names names;
+  bool offers_all(const std::string &line, const Names &names) {
+    Names offered;
     for (const Candidate &candidate : complete(context_, line, line.size()).candidates) {
-      names.insert(candidate.word.substr(0, candidate.word.find('=')));
+      offered.insert(candidate.word.substr(0, candidate.word.find('=')));
     }
-    return names;
+    return std::includes(offered.begin(), offered.end(), names.begin(), names.end());
   }
-  void expect_same_everywhere(const TableInfo &table, const Line &line);
+  static std::string image_of(const Device &device) {
+    std::string text;
+    save_image(device, [&](std::string_view piece) { text += piece; });
+    return text;
+  }
+  void expect_same_everywhere(const std::string &entry, const std::string &written);
+  void expect_named(const TableInfo &table, const std::string &key, const std::string &action,
+                    const std::string &parameters);
+  void take_entry(const TableInfo &table, const std::string &outcome, const char *more);
 
-  std::string image_ = ::testing::TempDir() + "tesselctl_names.img";
+  std::mt19937 engine_{2026};
+  std::map<std::string, std::vector<std::string>> written_;  // entries by their keys
 };
 
 // Names of the NAME=VALUE words.
@@ -107,57 +97,85 @@ std::vector<std::string> common(const std::string &text) {
   return words;
 }
 
-void NamesTest::expect_same_everywhere(const TableInfo &table, const Line &line) {
-  const std::string name = table.name();
-  const std::vector<std::string> written = words_of(name + line.key + line.outcome);
-  EXPECT_EQ(common(run(fmt::format("show {} entry=$it", name))), written);
-  EXPECT_EQ(common(run(fmt::format("display {} entry=$it", name))), written);
-  const Names keys = names_in(values(*table.record));
-  EXPECT_EQ(described(name, "field"), keys) << name;
-  if (!table.keyed()) return;
-  const Names offers = offered("add " + name + " ");
-  EXPECT_TRUE(std::includes(offers.begin(), offers.end(), keys.begin(), keys.end())) << name;
-  if (table.indirect()) return;
-  const std::string action = words_of(line.outcome).front();
-  const Names parameters = names_in(line.outcome.substr(1 + action.size()));
-  const Names behind = offered(fmt::format("add {} {} ", name, action));
-  EXPECT_TRUE(std::includes(behind.begin(), behind.end(), parameters.begin(), parameters.end()))
-      << name;
-  EXPECT_EQ(described(action.substr(7), "parameter"), parameters) << name;
+void NamesTest::expect_same_everywhere(const std::string &entry, const std::string &written) {
+  for (const char *command : {"show ", "display "}) {
+    EXPECT_EQ(common(run(command + entry)), words_of(written)) << command << entry;
+  }
 }
 
-TEST_F(NamesTest, OneEntryOfEachTableReadsTheSameInEveryPlace) {
-  std::map<std::string, std::vector<std::string>> shown;
-  ASSERT_EQ(run("save " + image_), "");
+void NamesTest::expect_named(const TableInfo &table, const std::string &key,
+                             const std::string &action, const std::string &parameters) {
+  const std::string name = table.name();
+  EXPECT_EQ(described(name, "field"), names_in(key)) << name;
+  EXPECT_EQ(described(action, "parameter"), names_in(parameters)) << name;
+  if (!table.keyed()) return;
+  EXPECT_TRUE(offers_all("add " + name + " ", names_in(key))) << name;
+  EXPECT_TRUE(offers_all("add " + name + " action=" + action + " ", names_in(parameters))) << name;
+}
+
+// An entry is added, found, read, modified, and deleted, and stays when it is added again.
+void NamesTest::take_entry(const TableInfo &table, const std::string &outcome, const char *more) {
+  const std::string name = table.name();
+  const std::string key =
+      name + values(*table.record) + (table.has_priority() ? " priority=5" : "");
+  run("delete " + key);
+  const std::string line = "add " + key + more + outcome;
+  ASSERT_EQ(run(line + " as=it"), "") << line;
+  expect_same_everywhere(name + " entry=$it", key + outcome);
+  const std::string entry = fmt::format("{} entry={}", name, context_.labels["it"]);
+  EXPECT_EQ(run("find " + key), entry + "\n") << line;
+  for (const std::string &again :
+       {"modify " + entry + outcome, "modify " + key + outcome, "delete " + key, line}) {
+    EXPECT_EQ(run(again), "") << again;
+  }
+  if (!table.indirect()) written_[key] = words_of(key + outcome);  // diff has numbers of members
+}
+
+TEST_F(NamesTest, EveryActionOfEveryTableReadsTheSameInEveryPlace) {
+  const std::string empty = ::testing::TempDir() + "tesselctl_names.img";
+  ASSERT_EQ(run("save " + empty), "");
+  size_t pairs = 0;
+  for_each_export("table_add", [&](const bindings::Export &add) {
+    const TableInfo table = resolve_table({add.object, 0});
+    const std::string parameters = values(action_record(add.action));
+    const std::string outcome = fmt::format(" action={}{}", add.action, parameters);
+    take_entry(table, outcome, Call(add).takes("meter_spec") ? " meter=1,2,3,4" : "");
+    expect_named(table, values(*table.record), add.action, parameters);
+    ++pairs;
+  });
+  EXPECT_EQ(pairs, 221u);
   for (const bindings::Record &record : tables()) {
     const TableInfo table = resolve_table({record.name, 0});
-    const Line line = line_of(table);
-    if (!table.keyed()) {
-      ASSERT_EQ(run(fmt::format("default set {} as=it{}", table.name(), line.outcome)), "");
+    const soft_profile_t *const profile = table.profile();
+    if (table.keyed() && profile == nullptr) continue;
+    const char *action =
+        profile != nullptr ? profile->actions[0].name : table.description->actions[0].name;
+    const std::string parameters = values(action_record(action));
+    const std::string outcome = fmt::format(" action={}{}", action, parameters);
+    const char *const made = profile != nullptr ? profile->name : record.name;
+    const char *const command = profile != nullptr ? "member add" : "default set";
+    ASSERT_EQ(run(fmt::format("{} {} as=it{}", command, made, outcome)), "");
+    if (profile != nullptr) {
+      take_entry(table, fmt::format(" member={}", context_.labels["it"]), "");
     } else {
-      const bool metered =
-          !table.indirect() &&
-          Call(need_export("table_add", table.name(), words_of(line.outcome)[0].substr(7)))
-              .takes("meter_spec");
-      ASSERT_EQ(run(fmt::format("add {}{} as=it{}{}", table.name(), line.key,
-                                metered ? " meter=1,2,3,4" : "", line.outcome)),
-                "");
-      if (!table.indirect()) shown[table.name()] = words_of(table.name() + line.key + line.outcome);
+      expect_same_everywhere(made + std::string(" entry=$it"), made + outcome);
+      expect_named(table, "", action, parameters);
     }
-    expect_same_everywhere(table, line);
   }
-  // What the image of a device without them lacks is printed in the same words.
+  // A device without them is found to lack them in the same words, and an image brings them back.
   size_t compared = 0;
-  const std::string text = run("diff " + image_);
+  const std::string text = run("diff " + empty);
   for (size_t at = 0; at < text.size(); at = text.find('\n', at) + 1) {
     const std::vector<std::string> words = common(text.substr(at, text.find('\n', at) - at));
-    const auto found = words.empty() ? shown.end() : shown.find(words.front());
-    if (found == shown.end()) continue;
-    EXPECT_EQ(words, found->second);
-    ++compared;
+    compared += std::ranges::count(written_, words, [](const auto &one) { return one.second; });
   }
-  EXPECT_EQ(compared, shown.size());
-  EXPECT_GT(compared, 80u);
+  EXPECT_EQ(compared, written_.size());
+  EXPECT_GT(compared, 200u);
+  ASSERT_EQ(run("save " + empty), "");
+  const Device other({.id = 9, .pipes = 2});
+  ImageSource(empty, empty).load(other);
+  EXPECT_EQ(image_of(other), image_of(device_));
+  std::remove(empty.c_str());
 }
 
 TEST_F(NamesTest, NamesAreUniqueAndThoseOfBeforeAreAccepted) {

@@ -1,47 +1,11 @@
-// Commands that run again and again.
-#include "tesselctl/shell/tool_runner.hpp"
-
-#include "tesselctl/completion/completion.hpp"
+// What watch draws on a terminal.
 #include "tesselctl/shell/watch_screen.hpp"
-#include "tests/tool/tool_fixture.hpp"
+
+#include <gtest/gtest.h>
 
 namespace tesselctl {
 
 namespace {
-
-class WatchTest : public ToolTest {};
-
-TEST_F(WatchTest, AnInterruptEndsIt) {
-  clear_interrupt();
-  std::string text;
-  Output out([&](std::string_view piece) {
-    text += piece;
-    request_interrupt();
-  });
-  LocalRunner runner(device_, out, errors_, {.terse = true});
-  ToolRunner watching(runner, out, errors_, -1);
-  EXPECT_EQ(watching.run({"w", 1, "watch 3600 count"}), LineOutcome::done);
-  EXPECT_TRUE(text.ends_with("\nall tables are empty\n")) << text;
-  EXPECT_FALSE(interrupt_requested());
-  // A server does not wait for anybody.
-  EXPECT_EQ(run("watch 1 count"),
-            "1: 'watch': only the tool that the command is typed into can repeat it");
-}
-
-TEST_F(WatchTest, CompletesWhatItRepeats) {
-  const auto at = [&](std::string_view line) {
-    std::string text;
-    for (const Candidate &candidate : complete(context_, line, line.size()).candidates) {
-      text += candidate.word + " ";
-    }
-    return text;
-  };
-  EXPECT_EQ(at("watch cou"), "count= count counter ");
-  EXPECT_EQ(at("watch 2 count=3 cou"), "count counter ");
-  EXPECT_EQ(at("watch de"), "default describe ");
-  EXPECT_EQ(at("watch 2 counter l"), "list ");
-  EXPECT_EQ(at("watch 2 show ipv4S"), "ipv4ShortMaskLpm ");
-}
 
 TEST(WatchScreenTest, ARoundStandsWhereTheOneBeforeStoodWithItsChangesMarked) {
   Output out;
