@@ -6,12 +6,19 @@
 
 namespace tesselctl {
 
+const std::vector<TableInfo> &all_tables() {
+  static const std::vector<TableInfo> all = [] {
+    std::vector<TableInfo> found;
+    for (const bindings::Record &record : tables()) {
+      found.push_back({&record, find_object<soft_table_t>(record.name)});
+    }
+    return found;
+  }();
+  return all;
+}
+
 TableInfo resolve_table(Word word) {
-  const bindings::Record &record = resolve(word, tables(), "table");
-  for (const soft_table_t &description : program_rows<soft_table_t>()) {
-    if (description.handle == record.number) return {&record, &description};
-  }
-  throw Fault(word, "the device knows no such table");
+  return all_tables()[static_cast<size_t>(&resolve(word, tables(), "table") - tables().data())];
 }
 
 const soft_profile_t *TableInfo::profile() const {
@@ -23,8 +30,8 @@ const soft_profile_t *TableInfo::profile() const {
 }
 
 TableInfo table_of_handle(uint32_t handle) {
-  for (const bindings::Record &record : tables()) {
-    if (record.number == handle) return resolve_table({record.name, 0});
+  for (const TableInfo &table : all_tables()) {
+    if (table.record->number == handle) return table;
   }
   throw std::logic_error("the program has no table of this handle");
 }

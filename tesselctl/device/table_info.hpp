@@ -26,6 +26,8 @@ const char *match_name(const TableInfo &table);
 // are.
 std::string key_text(const TableInfo &table, std::string_view separator, size_t most = ~size_t{0});
 
+// In the order of the program.
+const std::vector<TableInfo> &all_tables();
 // Throws Fault when no table has this name.
 TableInfo resolve_table(Word word);
 // Of a handle that the program has.

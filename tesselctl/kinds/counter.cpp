@@ -111,7 +111,7 @@ class CountedCells {
       if (has_counted(values)) cells_[cell].values = values;
     });
     if (cells_.empty()) return;
-    for (const bindings::Record &table : tables()) label_entries(resolve_table({table.name, 0}));
+    for (const TableInfo &table : all_tables()) label_entries(table);
   }
 
   void print(Results &results) const {

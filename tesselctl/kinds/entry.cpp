@@ -165,8 +165,7 @@ void count(Context &context, const Invocation &invocation) {
   }
   if (!invocation.arguments.empty()) return;
   bool any = false;
-  for (const bindings::Record &record : tables()) {
-    const TableInfo table = resolve_table({record.name, 0});
+  for (const TableInfo &table : all_tables()) {
     const uint32_t entries = entry_count(context.device, table, invocation.command);
     results.expect(count_row(table, entries));
     if (entries == 0) continue;
@@ -203,12 +202,11 @@ std::string table_help(const TableInfo &table) {
 
 void offer_tables(Offers &offers, const Command &command, Words given) {
   const bool only_ageing = command.first_word() == "age";
-  for (const bindings::Record &record : tables()) {
-    if (!offers.begins(record.name)) continue;
+  for (const TableInfo &table : all_tables()) {
+    if (!offers.begins(table.name())) continue;
     const bool is_given = std::any_of(given.begin(), given.end(),
-                                      [&](const Word &word) { return word.text == record.name; });
-    const TableInfo table = resolve_table({record.name, 0});
-    if (!is_given && (!only_ageing || table.ages())) offers.offer(record.name, table_help(table));
+                                      [&](const Word &word) { return word.text == table.name(); });
+    if (!is_given && (!only_ageing || table.ages())) offers.offer(table.name(), table_help(table));
   }
 }
 

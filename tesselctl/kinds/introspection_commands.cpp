@@ -33,10 +33,7 @@ void list_tables(Context &context, const Invocation &invocation) {
   for (const Word &word : invocation.arguments) chosen.push_back(resolve_table(word));
   // People who read through all of them want short lines.
   const bool clipped = chosen.empty() && !context.settings.json && !context.settings.terse;
-  if (chosen.empty()) {
-    for (const bindings::Record &record : tables())
-      chosen.push_back(resolve_table({record.name, 0}));
-  }
+  if (chosen.empty()) chosen = all_tables();
   for (const TableInfo &table : chosen) {
     Row row;
     row.object("table", table.name()).text("match", match_name(table));

@@ -88,9 +88,7 @@ class Collector {
         from_{device, numbering_} {}
 
   void collect(DeviceReport &report) {
-    for (const bindings::Record &record : tables()) {
-      report.tables.push_back(table_report(resolve_table({record.name, 0})));
-    }
+    for (const TableInfo &table : all_tables()) report.tables.push_back(table_report(table));
     for (const soft_profile_t &profile : program_rows<soft_profile_t>()) {
       report.profiles.push_back(profile_report(profile));
     }

@@ -30,9 +30,7 @@ const pipe_mgr_placement_t *Placement::of_member(const Device &device,
 VerifyCounts verify(const Device &old_device, const Device &new_device,
                     const std::function<void(const Finding &)> &report) {
   Verification run = {old_device, new_device, report};
-  for (const soft_table_t &table : program_rows<soft_table_t>()) {
-    verify_table(run, table_of_handle(table.handle));
-  }
+  for (const TableInfo &table : all_tables()) verify_table(run, table);
   for (const soft_profile_t &profile : program_rows<soft_profile_t>()) {
     verify_profile(run, profile);
   }
