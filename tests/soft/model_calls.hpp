@@ -42,8 +42,11 @@ class Beside : public testing::TestWithParam<uint32_t> {
   void change_member();
   void change_group();
   void change_membership();
+  void join(uint32_t group, uint32_t member);
   void change_fallback();
   void compare_profiles();
+  void compare_groups();
+  void compare_slots();
 
   // ---- Indirect counters and meters ----
   void change_counter_cell();

@@ -93,39 +93,44 @@ void Beside::change_group() {
   }
 }
 
+void Beside::join(uint32_t group, uint32_t member) {
+  const auto found = model.groups.find(group);
+  bf_status_t expected = BF_OBJECT_NOT_FOUND;
+  const uint32_t action = random.one_in(20) ? kDeny : random.one_in(5) ? kFlood : kSend;
+  const bool known = model.profiles[kMembers].contains(member);
+  if (found != model.groups.end()) {
+    const ModelGroup &held = found->second;
+    const bool joined = held.members.contains(member);
+    expected = action == kDeny                                              ? BF_FOREIGN_ACTION
+               : joined                                                     ? BF_ALREADY_EXISTS
+               : held.max_size != 0 && held.members.size() >= held.max_size ? BF_TABLE_FULL
+               : !known                                                     ? BF_OBJECT_NOT_FOUND
+               : model.profiles[kMembers][member].action != action          ? BF_INVALID_ARGUMENT
+                                                                            : BF_SUCCESS;
+  }
+  ASSERT_EQ(pipe_mgr_sel_grp_mbr_add(session, device, kSelector, group, action, member, 0),
+            expected);
+  expect_update(expected, {kSelector, PIPE_UPDATE_MEMBER_JOIN, group, member});
+  if (expected != BF_SUCCESS) return;
+  found->second.members[member] = true;
+  auto free = std::ranges::find(model.slots, ModelSlot{});
+  if (free == model.slots.end()) free = model.slots.insert(free, ModelSlot{});
+  *free = {group, member};
+}
+
 void Beside::change_membership() {
   const uint32_t group = any_group(), member = any_member(kMembers);
   const auto found = model.groups.find(group);
   const bool joined = found != model.groups.end() && found->second.members.contains(member);
   bf_status_t expected = joined ? BF_SUCCESS : BF_OBJECT_NOT_FOUND;
   const uint32_t what = random.below(5);
-  const auto slot = std::ranges::find(model.slots, ModelSlot{group, member});
-  if (what <= 1) {
-    const uint32_t action = random.one_in(20) ? kDeny : random.one_in(5) ? kFlood : kSend;
-    const bool known = model.profiles[kMembers].contains(member);
-    if (found != model.groups.end()) {
-      const ModelGroup &held = found->second;
-      expected = action == kDeny                                              ? BF_FOREIGN_ACTION
-                 : joined                                                     ? BF_ALREADY_EXISTS
-                 : held.max_size != 0 && held.members.size() >= held.max_size ? BF_TABLE_FULL
-                 : !known                                                     ? BF_OBJECT_NOT_FOUND
-                 : model.profiles[kMembers][member].action != action          ? BF_INVALID_ARGUMENT
-                                                                              : BF_SUCCESS;
-    }
-    ASSERT_EQ(pipe_mgr_sel_grp_mbr_add(session, device, kSelector, group, action, member, 0),
-              expected);
-    expect_update(expected, {kSelector, PIPE_UPDATE_MEMBER_JOIN, group, member});
-    if (expected != BF_SUCCESS) return;
-    found->second.members[member] = true;
-    auto free = std::ranges::find(model.slots, ModelSlot{});
-    if (free == model.slots.end()) free = model.slots.insert(free, ModelSlot{});
-    *free = {group, member};
-  } else if (what == 2) {
+  if (what <= 1) return join(group, member);
+  if (what == 2) {
     ASSERT_EQ(pipe_mgr_sel_grp_mbr_del(session, device, kSelector, group, member, 0), expected);
     expect_update(expected, {kSelector, PIPE_UPDATE_MEMBER_LEAVE, group, member});
     if (expected != BF_SUCCESS) return;
     found->second.members.erase(member);
-    *slot = {};
+    *std::ranges::find(model.slots, ModelSlot{group, member}) = {};
   } else {
     const bool on = what == 3, was = joined && found->second.members[member];
     ASSERT_EQ((on ? pipe_mgr_sel_grp_mbr_enable : pipe_mgr_sel_grp_mbr_disable)(
@@ -179,6 +184,11 @@ void Beside::compare_profiles() {
     }
     ASSERT_EQ(walk(table, kAll), expected);
   }
+  compare_groups();
+  compare_slots();
+}
+
+void Beside::compare_groups() {
   Words expected;
   for (const auto &[group, held] : model.groups) {
     expected.push_back(group);
@@ -209,6 +219,9 @@ void Beside::compare_profiles() {
   ASSERT_EQ(soft_fallback_member(device, kSelector, &fallback),
             model.fallback == 0 ? BF_OBJECT_NOT_FOUND : BF_SUCCESS);
   ASSERT_EQ(fallback, model.fallback);
+}
+
+void Beside::compare_slots() {
   for (uint32_t word = 0; word <= model.slots.size() / 32; ++word) {
     Words active;
     for (size_t i = word * 32; i < std::min<size_t>(model.slots.size(), word * 32 + 32); ++i) {
