@@ -37,10 +37,11 @@ std::size_t index_of(S scope, const auto &row) {
   return static_cast<std::size_t>(&row - value_of<Rows>(scope).data());
 }
 
-template <auto Rows, auto Size>
-Text greatest(S scope, unsigned least) {
-  for (const auto &row : value_of<Rows>(scope)) least = std::max(least, row.*Size);
-  return text_of(least);
+template <auto Rows, auto Size, unsigned Least = 1>
+Text greatest(S scope) {
+  unsigned size = Least;
+  for (const auto &row : value_of<Rows>(scope)) size = std::max(size, row.*Size);
+  return text_of(size);
 }
 
 template <auto Size>
@@ -209,13 +210,13 @@ const Placeholder kPlaceholders[] = {
     {"program", "label_size", longest<&TextSizes::label>},
     // The pipeline manager may hand back so much action data whatever the program has.
     {"program", "greatest_action_data",
-     [](S s) { return greatest<&Program::actions, &Action::data_bytes>(s, 28); }},
+     greatest<&Program::actions, &Action::data_bytes, 28>},
     {"program", "greatest_action_spec",
-     [](S s) { return greatest<&Program::actions, &Action::record_bytes>(s, 1); }},
+     greatest<&Program::actions, &Action::record_bytes>},
     {"program", "greatest_match_spec",
-     [](S s) { return greatest<&Program::tables, &Table::record_bytes>(s, 1); }},
+     greatest<&Program::tables, &Table::record_bytes>},
     {"program", "greatest_key",
-     [](S s) { return greatest<&Program::tables, &Table::key_bytes>(s, 1); }},
+     greatest<&Program::tables, &Table::key_bytes>},
     {"program", "at_least_one_profile",
      [](S s) { return text_of(std::max<std::size_t>(1, s.get<Program>().profiles.size())); }},
     {"table", "table", text<&Table::name>},
