@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "pdgen/check/check.hpp"
-#include "pdgen/families/api.hpp"
+#include "pdgen/families/apply.hpp"
 #include "pdgen/load/load.hpp"
 #include "pdgen/text.hpp"
 

@@ -1,9 +1,10 @@
-// The P4 program as the emitters see it: one plain struct per row of the catalogue, references
-// resolved, everything that is derived from a row (positions, sizes, tool names) filled in.
+// The P4 program as families and outputs see it: one plain struct per row of the catalogue,
+// references resolved, everything that is derived from a row (positions, sizes, tool names) filled
+// in.
 //
 // Only load_program (load.hpp) builds a Program, and it hands one out only if every check has
-// passed, so an emitter may rely on each rule that check.cpp states. References are pointers into
-// the vectors of the same Program: it can be moved, not copied.
+// passed, so whoever reads it may rely on each rule that check/ states. References are pointers
+// into the vectors of the same Program: it can be moved, not copied.
 #pragma once
 
 #include <algorithm>

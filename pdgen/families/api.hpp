@@ -8,9 +8,7 @@
 #include <vector>
 
 #include "pdgen/check/check.hpp"
-#include "pdgen/families/families.hpp"
 #include "pdgen/model.hpp"
-#include "pdgen/text.hpp"
 
 namespace pdgen {
 
@@ -74,16 +72,7 @@ struct Api {
   std::vector<MadeName> names;       // of functions and of what the header declares
 };
 
-// The whole interface. The families have no fault; without them, those that were compiled in.
-Api build_api(const Program &program, const Families &families);
-Api build_api(const Program &program);
-
 // The C declaration of a function, without its semicolon, in lines of so many columns.
 std::string declaration(const Function &function, std::size_t width = std::string::npos);
-
-// What an output makes of the interface: name and text of each file.
-std::vector<TextFile> written(const Output &output, const Api &api);
-// The text of an output of one file that was compiled in.
-std::string written(std::string_view output, const Api &api);
 
 }  // namespace pdgen

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "pdgen/families/api.hpp"
+#include "pdgen/families/families.hpp"
 #include "pdgen/model.hpp"
 
 namespace pdgen {

@@ -9,7 +9,7 @@
 
 #include "files.hpp"
 #include "p4_pd_types.h"
-#include "pdgen/families/api.hpp"
+#include "pdgen/families/apply.hpp"
 #include "pdgen/load/load.hpp"
 
 namespace pd_test {

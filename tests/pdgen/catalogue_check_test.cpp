@@ -1,7 +1,7 @@
 // What a catalogue must hold, and how much it may.
 #include <gtest/gtest.h>
 
-#include "pdgen/families/api.hpp"
+#include "pdgen/families/apply.hpp"
 #include "pdgen/load/load.hpp"
 
 namespace pdgen {
