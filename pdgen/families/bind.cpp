@@ -83,8 +83,11 @@ class TemplateReader {
     for (std::size_t open = 0; (open = line.find("{% ")) != std::string_view::npos;) {
       add_text(line.substr(0, open));
       const std::size_t close = line.find(" %}", open);
+      if (close == line.npos) {
+        return diagnostics_.report(place_, "output", "\"{}\" has no %}}", line.substr(open));
+      }
       read_order(std::string(line.substr(open + 3, close - open - 3)));
-      line.remove_prefix(std::min(line.size(), close == line.npos ? close : close + 3));
+      line.remove_prefix(close + 3);
     }
     add_text(std::string(line) + "\n");
   }
@@ -126,7 +129,11 @@ class TemplateReader {
     block.objects = binder_.walk(kinds, head, place_);
     block.where = binder_.where(kinds, condition, place_);
     if (!key.empty()) block.order = binder_.text(kinds, "<" + key + ">", place_, "each");
-    if (separator.size() > 1) block.separator = separator.substr(1, separator.size() - 2);
+    if (separator.empty()) return;
+    if (separator.size() < 2 || separator[0] != '"' || separator.back() != '"') {
+      return diagnostics_.report(place_, "each", "{} must stand in quotation marks", separator);
+    }
+    block.separator = separator.substr(1, separator.size() - 2);
     if (block.separator.ends_with("\\n"))
       block.separator.replace(block.separator.size() - 2, 2, "\n");
   }
