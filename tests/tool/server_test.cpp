@@ -2,19 +2,14 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/socket.h>
-#include <sys/stat.h>
 
-#include <csignal>
 #include <filesystem>
 #include <random>
 #include <thread>
 
 #include "tesselctl/command/flags.hpp"
 #include "tesselctl/server/client.hpp"
-#include "tesselctl/server/serve.hpp"
 #include "tesselctl/server/server.hpp"
-#include "tesselctl/text/file_writer.hpp"
-#include "tesselctl/text/files.hpp"
 #include "tool_fixture.hpp"
 
 namespace tesselctl {
@@ -195,27 +190,12 @@ TEST(ProtocolTest, MessagesComeWholeFromAnyPiecesAndRubbishComesToNothing) {
   EXPECT_GT(refused, 1000);
 }
 
-TEST(ProtocolTest, SettingsTravelAsWords) {
-  const Settings given = {.verbose = true,
-                          .dry_run = true,
-                          .filters = {{"dip", "10.0.0.0/8"}, {"a", "b c"}},
-                          .sort = "dip"};
-  std::vector<Word> words;
-  const std::string text = words_of(given);
-  split_words(text, words);
-  Settings taken;
-  take_flags(words, taken);
-  EXPECT_EQ(taken, given);
-}
-
 // ---- Clients that behave ----
 
 TEST_F(ServerTest, AnswersAreThoseOfADeviceOfOnesOwn) {
   start();
   TestClient client(path_);
-  EXPECT_EQ(client.run(add_next_hop(1) + " as=it --verbose"), "nextHop entry=1 added\n");
-  EXPECT_EQ(client.run("show nextHop entry=$it"),
-            "nextHop entry=1 nextHop=1 action=setNextHopDetails dmac=00:00:00:00:00:01 domain=1\n");
+  EXPECT_EQ(client.run(add_next_hop(1) + " --verbose"), "nextHop entry=1 added\n");
   EXPECT_EQ(client.runner.ask("count nextHop"), "nextHop entries=1\n");
   EXPECT_EQ(client.runner.ask("cuont"), "");
   EXPECT_EQ(client.runner.run({"x.tessel", 3, " # blank"}), LineOutcome::blank);
@@ -227,41 +207,30 @@ TEST_F(ServerTest, AnswersAreThoseOfADeviceOfOnesOwn) {
   client.errors.set_colour(true);
   client.runner.run({{}, 0, "cuont"});
   EXPECT_TRUE(client.errors.take().starts_with("\033[1;31mtesselctl: 'cuont': "));
-  client.runner.defaults().json = true;
-  EXPECT_EQ(client.run("count nextHop"),
-            "{\"version\":1,\"command\":\"count nextHop\",\"rows\":[{\"table\":\"nextHop\","
-            "\"entries\":1}]}\n");
-  // Handles are remembered for the client that asked for it.
-  EXPECT_EQ(TestClient(path_).run("show nextHop entry=$it"),
-            "tesselctl: '$it': no handle was remembered under this name\n"
-            "  show nextHop entry=$it\n                     ^^^\n");
   EXPECT_EQ(fault_of([&] { client.run(std::string(kMostPayload, 'x')); }).substr(0, 35),
             "the line is too long for the server");
-  EXPECT_EQ(client.runner.ask("count nextHop"), "nextHop entries=1\n");
+  // The client's options, words that need quotes among them.
+  client.runner.defaults() = {.json = true, .filters = {{"dmac", "0 0"}}, .sort = "entry"};
+  EXPECT_NE(client.run("show nextHop").find("--filter dmac: '0 0'"), std::string::npos);
 }
 
 TEST_F(ServerTest, EightClientsWorkAtOnce) {
   start();
   std::vector<std::string> wrong(8);
   std::vector<std::thread> threads;
-  for (int n = 0; n < 8; ++n) {
+  for (size_t n = 0; n < wrong.size(); ++n) {
     threads.emplace_back([&, n] {
       TestClient client(path_);
       const auto expect = [&](const std::string &line, const std::string &answer) {
         const std::string got = client.run(line);
-        if (got != answer) wrong[static_cast<size_t>(n)] += line + ": " + got;
+        const bool good = answer.empty() ? got.empty() : got.find(answer) != std::string::npos;
+        if (!good) wrong[n] += line + ": " + got;
       };
       for (int i = 0; i < 50; ++i) {
-        const int hop = 100 * n + i;
+        const int hop = static_cast<int>(n) * 100 + i;
         expect(add_next_hop(hop) + " as=it", "");
-        expect(add_next_hop(hop) + " --terse=1",
-               "tesselctl: '--terse=1': --terse takes no value\n  " + add_next_hop(hop) +
-                   " --terse=1\n  " + std::string(add_next_hop(hop).size() + 1, ' ') +
-                   "^^^^^^^^^\n");
-        const std::string shown = client.run("show nextHop entry=$it");
-        const size_t fields = shown.find(fmt::format(" nextHop={} action=", hop));
-        if (fields == std::string::npos) wrong[static_cast<size_t>(n)] += shown;
-        expect(fmt::format("find nextHop nextHop={}", hop), shown.substr(0, fields) + "\n");
+        expect(add_next_hop(hop) + " --terse=1", "'--terse=1': --terse takes no value");
+        expect("show nextHop entry=$it", fmt::format(" nextHop={} action=", hop));
         if (i % 2 == 0) expect(fmt::format("delete nextHop nextHop={}", hop), "");
       }
     });
@@ -269,43 +238,6 @@ TEST_F(ServerTest, EightClientsWorkAtOnce) {
   for (std::thread &thread : threads) thread.join();
   for (const std::string &text : wrong) EXPECT_EQ(text, "");
   EXPECT_EQ(TestClient(path_).run("count nextHop"), "nextHop entries=200\n");
-}
-
-TEST_F(ServerTest, WhatAClientAskedTheDeviceToTellOutlivesIt) {
-  start();
-  {
-    TestClient first(path_);
-    EXPECT_EQ(first.run("age enable ipv4ShortMaskLpm sweep=100 ttl=1000"), "");
-    EXPECT_EQ(first.run("add ipv4ShortMaskLpm vrfId=1 dip=10.0.0.0/8 ttl=1000 action=setEcmp "
-                        "ecmpGroup=1"),
-              "");
-  }
-  expect_alive();
-  EXPECT_EQ(TestClient(path_).run("age advance 5000"),
-            "ipv4ShortMaskLpm entry=1 expired vrfId=1 dip=10.0.0.0/8 ttl=1000 action=setEcmp "
-            "ecmpGroup=1\n");
-}
-
-TEST_F(ServerTest, FilesAreThoseOfTheClientsDirectory) {
-  start();
-  ASSERT_EQ(mkfifo((directory_ + "/pipe").c_str(), 0600), 0);
-  Peer client = peer();
-  client.say(request("state log x.json", directory_) + request("state restore x.json", directory_) +
-             request("save image", directory_) + request("load " + directory_ + "/image") +
-             request("state restore x.json") + request("state restore pipe", directory_) +
-             request("load -", directory_));
-  EXPECT_EQ(client.hear(), "x\x01");
-  EXPECT_EQ(client.hear(), "x\x01");
-  EXPECT_TRUE(std::filesystem::exists(directory_ + "/x.json"));
-  EXPECT_EQ(client.hear(), "x\x01");
-  EXPECT_EQ(client.hear(), "x\x01");
-  EXPECT_EQ(read_input(directory_ + "/image").substr(0, 31), "tesselctl image 1 tessel_switch");
-  EXPECT_EQ(client.hear().substr(0, 16), "ex:7: /x.json: N");
-  EXPECT_EQ(client.hear(), "x\x02");
-  const std::string refused = ": the server reads and writes regular files only";
-  EXPECT_EQ(client.hear().substr(0, 61), "ex:7:15: 'pipe'" + refused.substr(0, 46));
-  EXPECT_EQ(client.hear(), "x\x02");
-  EXPECT_EQ(client.hear().substr(0, 58), "ex:7:6: '-'" + refused.substr(0, 47));
 }
 
 TEST_F(ServerTest, AnInterruptEndsTheCommandBeforeItAlone) {
@@ -427,91 +359,18 @@ TEST_F(ServerTest, ASlowClientWaitsWithItsOwnCommandsOnly) {
   expect_alive();
 }
 
-TEST_F(ServerTest, AClientThatNeverReadsIsDropped) {
+TEST_F(ServerTest, AClientThatNeverReadsIsDroppedAndOneTooManyRefused) {
   add_next_hops(1200);
-  start({.paused_at = 1u << 30, .dropped_at = 1u << 17});
+  start({.clients = 2, .paused_at = 1u << 30, .dropped_at = 1u << 17});
   Peer slow = peer();
   for (int i = 0; i < 10; ++i) slow.say(request("show nextHop"));
   EXPECT_TRUE(slow.is_left());
-  expect_alive();
-  expect_alive();
-}
-
-TEST_F(ServerTest, ClientsAreLimited) {
-  start({.clients = 2});
   TestClient first(path_);
-  first.run("count");
-  Peer second = peer();
-  second.say(request("count"));
-  EXPECT_EQ(second.hear_answer().back(), "x\x01");
+  TestClient second(path_);
+  for (TestClient *one : {&first, &second})
+    EXPECT_EQ(one->run("count l2Lookup"), "l2Lookup entries=0\n");
   EXPECT_EQ(peer().hear(), "nthe server has 2 clients, no more");
-  EXPECT_EQ(first.run("count"), "all tables are empty\n");
-}
-
-// ---- The socket ----
-
-TEST_F(ServerTest, TheSocketIsPrivateAndGoesWithTheServer) {
-  start();
-  struct stat status;
-  ASSERT_EQ(lstat(path_.c_str(), &status), 0);
-  EXPECT_EQ(status.st_mode, S_IFSOCK | 0600u);
-  EXPECT_EQ(fault_of([&] { ListeningSocket second(path_); }),
-            path_ + ": a server runs there already");
-  expect_alive();
-  stop();
-  EXPECT_FALSE(std::filesystem::exists(path_));
-  EXPECT_EQ(fault_of([&] { connect_to(path_); }), path_ + ": no server runs there");
-}
-
-TEST_F(ServerTest, OnlyTheSocketOfADeadServerIsReplaced) {
-  {
-    const ListeningSocket dead(path_);
-    std::filesystem::create_hard_link(path_, directory_ + "/left");
-  }
-  std::filesystem::rename(directory_ + "/left", path_);
-  EXPECT_EQ(fault_of([&] { connect_to(path_); }), path_ + ": no server runs there");
-  start();
-  expect_alive();
-  // What has taken the place of its socket, the server leaves alone.
-  std::filesystem::remove(path_);
-  write_file(path_, "mine");
-  stop();
-  EXPECT_EQ(fault_of([&] { start(); }), path_ + ": this exists and is no socket");
-  EXPECT_EQ(read_input(path_), "mine");
-  EXPECT_EQ(fault_of([&] { ListeningSocket(std::string(108, 'x')); }),
-            std::string(108, 'x') + ": the path of a socket has 1 to 107 bytes");
-}
-
-TEST(ServeTest, ASignalEndsItAndTheImageOutlivesIt) {
-  const TemporaryDirectory temporary;
-  const ServeOptions options = {
-      {.id = 5, .pipes = 2}, temporary.name + "/socket", {temporary.name + "/image"}};
-  const auto connected = [&]() -> std::unique_ptr<TestClient> {
-    while (true) {
-      try {
-        return std::make_unique<TestClient>(options.socket);
-      } catch (const Fault &) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-      }
-    }
-  };
-  const auto with_server = [&](auto body) {
-    Output out;
-    Output errors;
-    std::thread thread([&] { serve(options, out, errors); });
-    body(*connected());
-    pthread_kill(thread.native_handle(), SIGTERM);
-    thread.join();
-    EXPECT_EQ(out.take(), "device 5 is served at " + options.socket + "\n");
-    EXPECT_FALSE(std::filesystem::exists(options.socket));
-  };
-  with_server([](TestClient &client) { EXPECT_EQ(client.run(add_next_hop(1)), ""); });
-  with_server([](TestClient &client) {
-    EXPECT_EQ(client.run("count nextHop"), "nextHop entries=1\n");
-    EXPECT_EQ(client.run("delete nextHop nextHop=1"), "");
-  });
-  with_server(
-      [](TestClient &client) { EXPECT_EQ(client.run("count nextHop"), "nextHop entries=0\n"); });
+  EXPECT_EQ(first.run("count l2Lookup"), "l2Lookup entries=0\n");
 }
 
 }  // namespace
