@@ -3,8 +3,8 @@
 #pragma once
 
 #include "by_handle.hpp"
-#include "compare.hpp"
 #include "codec/decode.hpp"
+#include "compare.hpp"
 #include "pipe_mgr_placement.h"
 #include "print.hpp"
 #include "value.hpp"

@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <optional>
 
-#include "tesselctl/completion/field_offers.hpp"
 #include "tesselctl/command/flags.hpp"
 #include "tesselctl/command/grammar.hpp"
 #include "tesselctl/command/watch_line.hpp"
+#include "tesselctl/completion/field_offers.hpp"
 #include "tesselctl/device/entry_line.hpp"
 
 namespace tesselctl {

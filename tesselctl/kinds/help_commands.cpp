@@ -1,9 +1,9 @@
 // What can be typed: help for people, completion for shells, the manual page.
 #include "tesselctl/command/command_help.hpp"
-#include "tesselctl/completion/completion.hpp"
 #include "tesselctl/command/manual.hpp"
 #include "tesselctl/command/options.hpp"
 #include "tesselctl/command/topic.hpp"
+#include "tesselctl/completion/completion.hpp"
 #include "tesselctl/text/files.hpp"
 
 namespace tesselctl {

@@ -3,8 +3,8 @@
 
 #include <functional>
 
-#include "tesselctl/completion/completion.hpp"
 #include "tesselctl/command/flags.hpp"
+#include "tesselctl/completion/completion.hpp"
 
 namespace tesselctl {
 
