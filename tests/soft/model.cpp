@@ -125,7 +125,7 @@ uint32_t ModelDevice::choose(uint32_t group, const Bytes &hash) const {
     if (is_active) active.push_back(member);
   }
   if (active.empty()) return fallback;
-  uint64_t remainder = 0;
+  size_t remainder = 0;
   for (const uint8_t byte : hash) remainder = (remainder * 256 + byte) % active.size();
   return active[remainder];
 }

@@ -49,7 +49,7 @@ class ValueSets : public SoftTest, public testing::WithParamInterface<uint32_t> 
         const Where one{where.direction, pipe, parser};
         const auto held = std::ranges::count_if(
             entries, [&](const Entry &entry) { return entry.where.meets(one); });
-        if (where.meets(one) && held >= capacity) return true;
+        if (where.meets(one) && static_cast<uint32_t>(held) >= capacity) return true;
       }
     }
     return false;
