@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <chrono>
 #include <fstream>
 
@@ -56,6 +57,13 @@ class Session {
     return true;
   }
   const std::string &seen() const { return seen_; }
+  // Types each text, and waits for what comes of it.
+  void talk(std::initializer_list<std::array<std::string_view, 2>> turns) {
+    for (const auto &[typed, shown] : turns) {
+      type(typed);
+      if (!sees(shown)) return;
+    }
+  }
   // -1 when the tool does not end by itself in time.
   int exit_code() {
     while (read_some()) {
@@ -110,45 +118,30 @@ constexpr char kPrompt[] = "tesselctl> ";
 #define NEEDS_LINE_EDITING() \
   if (!has_line_editing()) GTEST_SKIP() << "this build has no line editing"
 
-TEST_F(ShellTest, CompletesACommandATableAndAField) {
+TEST_F(ShellTest, CompletesAndExplainsWhatCanStandAtThePoint) {
   NEEDS_LINE_EDITING();
   Session shell(history_);
-  ASSERT_TRUE(shell.sees(kPrompt));
-  shell.type("fi\t");
-  ASSERT_TRUE(shell.sees("nd "));
-  shell.type("ipv4S\t");
-  ASSERT_TRUE(shell.sees("hortMaskLpm "));
-  shell.type("vr\t1 DI\t");
-  ASSERT_TRUE(shell.sees("dip="));
-  shell.type("10.0.0.0/8\r");
-  ASSERT_TRUE(shell.sees("BF_OBJECT_NOT_FOUND"));
-  ASSERT_TRUE(shell.sees(kPrompt));
-  // Nothing to insert: the candidates are listed, and the line comes back.
-  shell.type("age \t");
-  ASSERT_TRUE(shell.sees("disable  ends ageing"));
-  ASSERT_TRUE(shell.sees("tesselctl> age "));
-}
-
-TEST_F(ShellTest, ExplainsWhatCanStandAtThePoint) {
-  NEEDS_LINE_EDITING();
-  Session shell(history_);
-  ASSERT_TRUE(shell.sees(kPrompt));
-  shell.type("add ipv4ShortMaskLpm vrfId=1 ?");
-  ASSERT_TRUE(shell.sees("dip=     32 bits, prefix, 10.0.0.0/8"));
-  ASSERT_TRUE(shell.sees("action=  what is done on a hit"));
-  ASSERT_TRUE(shell.sees("tesselctl> add ipv4ShortMaskLpm vrfId=1 "));
-  shell.type("dip=?");
-  ASSERT_TRUE(shell.sees("  32 bits, prefix, 10.0.0.0/8"));
+  shell.talk({{"", kPrompt},
+              {"fi\t", "nd "},
+              {"ipv4S\t", "hortMaskLpm "},
+              {"vr\t1 DI\t", "dip="},
+              {"10.0.0.0/8\r", "BF_OBJECT_NOT_FOUND"},
+              {"", kPrompt},
+              // Nothing to insert: the candidates are listed, and the line comes back.
+              {"age \t", "disable  ends ageing"},
+              {"", "tesselctl> age "},
+              {"\x03", kPrompt},
+              {"add ipv4ShortMaskLpm vrfId=1 ?", "dip=     32 bits, prefix, 10.0.0.0/8"},
+              {"", "action=  what is done on a hit"},
+              {"", "tesselctl> add ipv4ShortMaskLpm vrfId=1 "},
+              {"dip=?", "  32 bits, prefix, 10.0.0.0/8"}});
 }
 
 TEST_F(ShellTest, KeepsItsHistoryForTheUserAlone) {
   NEEDS_LINE_EDITING();
   {
     Session first(history_);
-    ASSERT_TRUE(first.sees(kPrompt));
-    first.type("count nextHop\r");
-    ASSERT_TRUE(first.sees("nextHop        0"));
-    ASSERT_TRUE(first.sees(kPrompt));
+    first.talk({{"", kPrompt}, {"count nextHop\r", "nextHop        0"}, {"", kPrompt}});
     first.type("\x04");
     EXPECT_EQ(first.exit_code(), 0);
   }
@@ -156,21 +149,16 @@ TEST_F(ShellTest, KeepsItsHistoryForTheUserAlone) {
   ASSERT_EQ(stat(history_.c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 0777u, 0600u);
   Session second(history_);
-  ASSERT_TRUE(second.sees(kPrompt));
-  second.type("\x1b[A\r");
-  ASSERT_TRUE(second.sees("nextHop        0"));
+  second.talk({{"", kPrompt}, {"\x1b[A\r", "nextHop        0"}});
 }
 
 TEST_F(ShellTest, AnInterruptClearsTheLine) {
   Session shell(history_);
-  ASSERT_TRUE(shell.sees(kPrompt));
-  shell.type("age advance");
-  ASSERT_TRUE(shell.sees("age advance"));
-  shell.type("\x03");
-  ASSERT_TRUE(shell.sees(kPrompt));
-  shell.type("nosuch\r");
-  ASSERT_TRUE(shell.sees("'nosuch': no command has this name"));
-  ASSERT_TRUE(shell.sees(kPrompt));
+  shell.talk({{"", kPrompt},
+              {"age advance", "age advance"},
+              {"\x03", kPrompt},
+              {"nosuch\r", "'nosuch': no command has this name"},
+              {"", kPrompt}});
   shell.type("quit\r");
   EXPECT_EQ(shell.exit_code(), 0);
 }
@@ -183,18 +171,13 @@ TEST_F(ShellTest, AnInterruptEndsALongCommand) {
   for (int i = 0; i < kRoutes; ++i) routes << "10." << i / 256 << "." << i % 256 << ".0/24\n";
   routes.close();
   Session shell(history_);
-  ASSERT_TRUE(shell.sees(kPrompt));
-  shell.type("routes " + folder_ + "/routes\r");
-  ASSERT_TRUE(shell.sees("0 errors"));
-  ASSERT_TRUE(shell.sees(kPrompt));
-  shell.type("show ipv4ShortMaskLpm --terse\r");
-  ASSERT_TRUE(shell.sees("ipv4ShortMaskLpm entry=1 "));
-  shell.type("\x03");
-  ASSERT_TRUE(shell.sees("interrupted"));
+  shell.talk({{"", kPrompt},
+              {"routes " + folder_ + "/routes\r", "0 errors"},
+              {"", kPrompt},
+              {"show ipv4ShortMaskLpm --terse\r", "ipv4ShortMaskLpm entry=1 "},
+              {"\x03", "interrupted"}});
   EXPECT_EQ(shell.seen().find("dip=10.78.31.0/24"), std::string::npos) << "the last route";
-  ASSERT_TRUE(shell.sees(kPrompt));
-  shell.type("count ipv4ShortMaskLpm\r");
-  ASSERT_TRUE(shell.sees("20000"));
+  shell.talk({{"", kPrompt}, {"count ipv4ShortMaskLpm\r", "20000"}});
 }
 
 }  // namespace
