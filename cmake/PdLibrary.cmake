@@ -12,7 +12,7 @@
 # wrappers, "% file NAME_<unit>.cpp for each unit". A family says "unit NAME: ..." or, in N parts,
 # "unit NAME in N: ...".
 file(GLOB pd_families CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/families/*.family)
-file(GLOB pd_outputs CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/families/*.output)
+file(GLOB pd_outputs CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/families/outputs/*.output)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${pd_families} ${pd_outputs})
 set(PD_UNITS "")
 foreach(family ${pd_families})

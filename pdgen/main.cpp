@@ -2,7 +2,9 @@
 // files. Usage errors and faults of the catalogue end with exit status 1 and write nothing.
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <map>
 #include <string>
 #include <vector>
@@ -45,7 +47,9 @@ bool parse(int argc, char **argv, Options &options) {
 
 pdgen::Families load_families(const std::string &directory, pdgen::Diagnostics &diagnostics) {
   if (directory.empty()) return pdgen::load_families(pdgen::embedded_families(), diagnostics);
-  const auto files = pdgen::read_files(directory, {".family", ".output"}, diagnostics);
+  auto files = pdgen::read_files(directory, ".family", diagnostics);
+  std::ranges::move(pdgen::read_files(directory + "/outputs", ".output", diagnostics),
+                    std::back_inserter(files));
   return pdgen::load_families(files, diagnostics);
 }
 

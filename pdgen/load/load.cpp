@@ -81,15 +81,13 @@ std::map<std::string_view, const TextFile *> by_name(const std::vector<TextFile>
   return names;
 }
 
-std::vector<TextFile> read_files(const std::string &directory,
-                                 const std::vector<std::string_view> &endings,
+std::vector<TextFile> read_files(const std::string &directory, std::string_view ending,
                                  Diagnostics &diagnostics) {
   std::vector<TextFile> files;
   std::error_code error;
   for (const auto &entry : std::filesystem::directory_iterator(directory, error)) {
     const std::string path = entry.path().string();
-    const auto ends_so = [&](std::string_view ending) { return path.ends_with(ending); };
-    if (std::ranges::none_of(endings, ends_so)) continue;
+    if (!path.ends_with(ending)) continue;
     const auto text = read_file(path);
     if (!text) diagnostics.report({path, 1}, "file", "this file cannot be read");
     files.push_back({path, text.value_or("")});
@@ -104,7 +102,7 @@ std::vector<TextFile> read_files(const std::string &directory,
 
 LoadResult load_program(const std::string &directory) {
   LoadResult result;
-  const std::vector<TextFile> files = read_files(directory, {".toml"}, result.diagnostics);
+  const std::vector<TextFile> files = read_files(directory, ".toml", result.diagnostics);
   if (result.diagnostics.empty()) load(files, directory, result);
   return result;
 }

@@ -27,8 +27,7 @@ LoadResult load_program(const std::vector<TextFile> &files);
 
 // The files of a directory whose names end so, sorted by name; faults of reading go to
 // `diagnostics`.
-std::vector<TextFile> read_files(const std::string &directory,
-                                 const std::vector<std::string_view> &endings,
+std::vector<TextFile> read_files(const std::string &directory, std::string_view ending,
                                  Diagnostics &diagnostics);
 
 // Files by the last part of their paths.
