@@ -3,6 +3,8 @@
 //
 // Every change takes effect at once, whatever session makes it; the helper holds no transaction
 // records. A null state or out-pointer is BF_INVALID_ARGUMENT.
+#include <functional>
+
 #include "contract/contract_call.hpp"
 #include "profiles/shadow_states.hpp"
 
@@ -10,48 +12,44 @@ using namespace soft;
 
 namespace {
 
-// body(ProfileShadow &) under the lock of the state; a device of which nothing is known begins
-// empty.
-template <class Body>
-bf_status_t on_shadow(p4_pd_ms_state_t *state, uint8_t device, Body &&body) {
+using Item = ProfileShadow::Item;
+
+// function(ProfileShadow &, arguments...) under the lock of the state; a device of which nothing is
+// known begins empty.
+template <class Function, class... Arguments>
+bf_status_t on_shadow(p4_pd_ms_state_t *state, uint8_t device, const Function &function,
+                      const Arguments &...arguments) {
   if (state == nullptr) return BF_INVALID_ARGUMENT;
   const std::lock_guard lock(state->mutex);
-  return body(state->devices[device]);
+  return std::invoke(function, state->devices[device], arguments...);
 }
 
-// body(Member &) or body(Group &) for one that is there.
-template <class Body>
-bf_status_t on_member(p4_pd_ms_state_t *state, uint8_t device, pipe_member_handle_t member,
-                      Body &&body) {
+using Find = Item *(ProfileShadow::*)(uint32_t);
+constexpr Find kMember = &ProfileShadow::member;
+constexpr Find kGroup = &ProfileShadow::group;
+
+// function(Item &, arguments...) for a member or a group that is there.
+template <class Function, class... Arguments>
+bf_status_t on_item(Find find, p4_pd_ms_state_t *state, uint8_t device, uint32_t handle,
+                    const Function &function, const Arguments &...arguments) {
   return on_shadow(state, device, [&](ProfileShadow &shadow) -> bf_status_t {
-    ProfileShadow::Member *found = shadow.member(member);
-    if (found == nullptr) return BF_OBJECT_NOT_FOUND;
-    return body(*found);
-  });
-}
-template <class Body>
-bf_status_t on_group(p4_pd_ms_state_t *state, uint8_t device, pipe_group_handle_t group,
-                     Body &&body) {
-  return on_shadow(state, device, [&](ProfileShadow &shadow) -> bf_status_t {
-    ProfileShadow::Group *found = shadow.group(group);
-    if (found == nullptr) return BF_OBJECT_NOT_FOUND;
-    return body(*found);
+    Item *item = (shadow.*find)(handle);
+    if (item == nullptr) return BF_OBJECT_NOT_FOUND;
+    return function(*item, arguments...);
   });
 }
 
-bf_status_t give_action(const std::optional<pipe_object_handle_t> &recorded,
-                        pipe_object_handle_t *action) {
+bf_status_t give_action(const Item &item, pipe_object_handle_t *action) {
   if (action == nullptr) return BF_INVALID_ARGUMENT;
-  if (!recorded) return BF_OBJECT_NOT_FOUND;
-  *action = *recorded;
+  if (!item.action) return BF_OBJECT_NOT_FOUND;
+  *action = *item.action;
   return BF_SUCCESS;
 }
 
-bf_status_t give_resources(ProfileShadow::Resources &held, uint32_t *count,
-                           p4_pd_res_spec_t **resources) {
+bf_status_t give_resources(Item &item, uint32_t *count, p4_pd_res_spec_t **resources) {
   if (count == nullptr || resources == nullptr) return BF_INVALID_ARGUMENT;
-  *count = static_cast<uint32_t>(held.size());
-  *resources = held.empty() ? nullptr : held.data();
+  *count = static_cast<uint32_t>(item.resources.size());
+  *resources = item.resources.empty() ? nullptr : item.resources.data();
   return BF_SUCCESS;
 }
 
@@ -61,8 +59,8 @@ bf_status_t apply_to_groups(p4_pd_ms_state_t *state, uint8_t device, pipe_member
                             p4_pd_ms_group_cb_t callback, void *cookie) {
   if (callback == nullptr) return BF_INVALID_ARGUMENT;
   std::vector<pipe_group_handle_t> groups;
-  bf_status_t status = on_member(state, device, member, [&](ProfileShadow::Member &found) {
-    groups.assign(found.groups.begin(), found.groups.end());
+  bf_status_t status = on_item(kMember, state, device, member, [&](const Item &found) {
+    groups.assign(found.partners.begin(), found.partners.end());
     return BF_SUCCESS;
   });
   for (const pipe_group_handle_t group : groups) {
@@ -75,8 +73,8 @@ bf_status_t apply_to_groups(p4_pd_ms_state_t *state, uint8_t device, pipe_member
 bf_status_t copy_resources(p4_pd_ms_state_t *state, uint8_t device, pipe_member_handle_t member,
                            pipe_group_handle_t group) {
   return on_shadow(state, device, [&](ProfileShadow &shadow) -> bf_status_t {
-    const ProfileShadow::Member *from = shadow.member(member);
-    ProfileShadow::Group *to = shadow.group(group);
+    const Item *from = shadow.member(member);
+    Item *to = shadow.group(group);
     if (from == nullptr || to == nullptr) return BF_OBJECT_NOT_FOUND;
     to->resources = from->resources;
     return BF_SUCCESS;
@@ -110,7 +108,6 @@ bf_status_t forget_device(p4_pd_ms_state_t *state, uint8_t device) {
   return BF_SUCCESS;
 }
 
-template <class Item>
 bf_status_t set_action(Item &item, pipe_object_handle_t action) {
   item.action = action;
   return BF_SUCCESS;
@@ -135,30 +132,26 @@ p4_pd_ms_state_t *p4_pd_ms_init_state(void) {
 
 bf_status_t p4_pd_ms_new_mbr(pipe_session_handle_t session, p4_pd_ms_state_t *state, uint8_t device,
                              pipe_member_handle_t member) {
-  return SOFT_CALL((session, state, device, member), on_shadow(state, device, [&](auto &shadow) {
-                     return shadow.add_member(member);
-                   }));
+  return SOFT_CALL((session, state, device, member),
+                   on_shadow(state, device, &ProfileShadow::add_member, member));
 }
 
 bf_status_t p4_pd_ms_set_mbr_act(p4_pd_ms_state_t *state, uint8_t device,
                                  pipe_member_handle_t member, pipe_object_handle_t action) {
-  return SOFT_CALL(
-      (state, device, member, action),
-      on_member(state, device, member, [&](auto &found) { return set_action(found, action); }));
+  return SOFT_CALL((state, device, member, action),
+                   on_item(kMember, state, device, member, set_action, action));
 }
 
 bf_status_t p4_pd_ms_get_mbr_act(p4_pd_ms_state_t *state, uint8_t device,
                                  pipe_member_handle_t member, pipe_object_handle_t *action) {
   return SOFT_CALL((state, device, member, action),
-                   on_member(state, device, member,
-                             [&](auto &found) { return give_action(found.action, action); }));
+                   on_item(kMember, state, device, member, give_action, action));
 }
 
 bf_status_t p4_pd_ms_del_mbr(pipe_session_handle_t session, p4_pd_ms_state_t *state, uint8_t device,
                              pipe_member_handle_t member) {
-  return SOFT_CALL((session, state, device, member), on_shadow(state, device, [&](auto &shadow) {
-                     return shadow.remove_member(member);
-                   }));
+  return SOFT_CALL((session, state, device, member),
+                   on_shadow(state, device, &ProfileShadow::remove_member, member));
 }
 
 // ---- Groups ----
@@ -166,44 +159,39 @@ bf_status_t p4_pd_ms_del_mbr(pipe_session_handle_t session, p4_pd_ms_state_t *st
 bf_status_t p4_pd_ms_new_grp(pipe_session_handle_t session, p4_pd_ms_state_t *state, uint8_t device,
                              pipe_group_handle_t group) {
   return SOFT_CALL((session, state, device, group),
-                   on_shadow(state, device, [&](auto &shadow) { return shadow.add_group(group); }));
+                   on_shadow(state, device, &ProfileShadow::add_group, group));
 }
 
 bf_status_t p4_pd_ms_del_grp(pipe_session_handle_t session, p4_pd_ms_state_t *state, uint8_t device,
                              pipe_group_handle_t group) {
-  return SOFT_CALL((session, state, device, group), on_shadow(state, device, [&](auto &shadow) {
-                     return shadow.remove_group(group);
-                   }));
+  return SOFT_CALL((session, state, device, group),
+                   on_shadow(state, device, &ProfileShadow::remove_group, group));
 }
 
 bf_status_t p4_pd_ms_add_mbr_to_grp(pipe_session_handle_t session, p4_pd_ms_state_t *state,
                                     uint8_t device, pipe_member_handle_t member,
                                     pipe_group_handle_t group) {
-  return SOFT_CALL(
-      (session, state, device, member, group),
-      on_shadow(state, device, [&](auto &shadow) { return shadow.join(member, group); }));
+  return SOFT_CALL((session, state, device, member, group),
+                   on_shadow(state, device, &ProfileShadow::join, member, group));
 }
 
 bf_status_t p4_pd_ms_del_mbr_from_grp(pipe_session_handle_t session, p4_pd_ms_state_t *state,
                                       uint8_t device, pipe_member_handle_t member,
                                       pipe_group_handle_t group) {
-  return SOFT_CALL(
-      (session, state, device, member, group),
-      on_shadow(state, device, [&](auto &shadow) { return shadow.leave(member, group); }));
+  return SOFT_CALL((session, state, device, member, group),
+                   on_shadow(state, device, &ProfileShadow::leave, member, group));
 }
 
 bf_status_t p4_pd_ms_set_grp_act(p4_pd_ms_state_t *state, uint8_t device, pipe_group_handle_t group,
                                  pipe_object_handle_t action) {
-  return SOFT_CALL((state, device, group, action), on_group(state, device, group, [&](auto &found) {
-                     return set_action(found, action);
-                   }));
+  return SOFT_CALL((state, device, group, action),
+                   on_item(kGroup, state, device, group, set_action, action));
 }
 
 bf_status_t p4_pd_ms_get_grp_act(p4_pd_ms_state_t *state, uint8_t device, pipe_group_handle_t group,
                                  pipe_object_handle_t *action) {
-  return SOFT_CALL((state, device, group, action), on_group(state, device, group, [&](auto &found) {
-                     return give_action(found.action, action);
-                   }));
+  return SOFT_CALL((state, device, group, action),
+                   on_item(kGroup, state, device, group, give_action, action));
 }
 
 // ---- Resource references ----
@@ -212,17 +200,13 @@ bf_status_t p4_pd_ms_mbr_get_res(p4_pd_ms_state_t *state, uint8_t device,
                                  pipe_member_handle_t member, uint32_t *count,
                                  p4_pd_res_spec_t **resources) {
   return SOFT_CALL((state, device, member, count, resources),
-                   on_member(state, device, member, [&](auto &found) {
-                     return give_resources(found.resources, count, resources);
-                   }));
+                   on_item(kMember, state, device, member, give_resources, count, resources));
 }
 
 bf_status_t p4_pd_ms_grp_get_res(p4_pd_ms_state_t *state, uint8_t device, pipe_group_handle_t group,
                                  uint32_t *count, p4_pd_res_spec_t **resources) {
   return SOFT_CALL((state, device, group, count, resources),
-                   on_group(state, device, group, [&](auto &found) {
-                     return give_resources(found.resources, count, resources);
-                   }));
+                   on_item(kGroup, state, device, group, give_resources, count, resources));
 }
 
 bf_status_t p4_pd_ms_mbr_apply_to_grps(p4_pd_ms_state_t *state, uint8_t device,

@@ -18,27 +18,26 @@ namespace soft {
 class ProfileShadow {
  public:
   using Resources = std::vector<p4_pd_res_spec_t>;
-  struct Member {
+  // A member or a group.
+  struct Item {
     std::optional<pipe_object_handle_t> action;
     Resources resources;
-    HandleSet groups;
+    HandleSet partners;  // groups of a member, members of a group
   };
-  struct Group {
-    std::optional<pipe_object_handle_t> action;
-    Resources resources;
-    HandleSet members;
-  };
+  using Items = std::unordered_map<uint32_t, Item>;
 
   // Null when there is none.
-  Member *member(pipe_member_handle_t handle) { return find(members_, handle); }
-  Group *group(pipe_group_handle_t handle) { return find(groups_, handle); }
+  Item *member(pipe_member_handle_t handle) { return find(members_, handle); }
+  Item *group(pipe_group_handle_t handle) { return find(groups_, handle); }
 
   // BF_ALREADY_EXISTS.
-  bf_status_t add_member(pipe_member_handle_t member);
-  bf_status_t add_group(pipe_group_handle_t group);
+  bf_status_t add_member(pipe_member_handle_t member) { return add(members_, member); }
+  bf_status_t add_group(pipe_group_handle_t group) { return add(groups_, group); }
   // BF_OBJECT_NOT_FOUND. Memberships go as well.
-  bf_status_t remove_member(pipe_member_handle_t member);
-  bf_status_t remove_group(pipe_group_handle_t group);
+  bf_status_t remove_member(pipe_member_handle_t handle) {
+    return remove(members_, groups_, handle);
+  }
+  bf_status_t remove_group(pipe_group_handle_t handle) { return remove(groups_, members_, handle); }
 
   // BF_OBJECT_NOT_FOUND unless both are there; BF_ALREADY_EXISTS.
   bf_status_t join(pipe_member_handle_t member, pipe_group_handle_t group);
@@ -58,14 +57,14 @@ class ProfileShadow {
   void read(const cJSON *object);
 
  private:
-  template <class T>
-  static T *find(std::unordered_map<uint32_t, T> &map, uint32_t handle) {
-    const auto at = map.find(handle);
-    return at == map.end() ? nullptr : &at->second;
-  }
+  static Item *find(Items &items, uint32_t handle);
+  static bf_status_t add(Items &to, uint32_t handle);
+  static bf_status_t remove(Items &from, Items &partners, uint32_t handle);
+  // The handle of what an element of a list adds, if it adds anything.
+  static std::optional<uint32_t> read_item(Items &to, const cJSON *element);
 
-  std::unordered_map<pipe_member_handle_t, Member> members_;
-  std::unordered_map<pipe_group_handle_t, Group> groups_;
+  Items members_;
+  Items groups_;
 };
 
 // Whether a document is an object at all, and whether it has the form that ProfileShadow::write

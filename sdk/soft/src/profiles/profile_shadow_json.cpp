@@ -52,33 +52,31 @@ Json resource_list(const ProfileShadow::Resources &resources) {
   return list;
 }
 
-// What a member and a group have in common.
-template <class T>
-Json element(uint32_t handle, const T &described) {
+Json element(uint32_t handle, const ProfileShadow::Item &item) {
   Json object = made(cJSON_CreateObject());
   put(object.get(), kHandle, number(handle));
-  if (described.action) put(object.get(), kAction, number(*described.action));
-  if (!described.resources.empty()) {
-    put(object.get(), kResources, resource_list(described.resources));
-  }
+  if (item.action) put(object.get(), kAction, number(*item.action));
+  if (!item.resources.empty()) put(object.get(), kResources, resource_list(item.resources));
   return object;
 }
 
-Json group_element(uint32_t handle, const ProfileShadow::Group &group) {
-  Json object = element(handle, group);
-  Json members = made(cJSON_CreateArray());
-  for (const pipe_member_handle_t member : group.members) append(members, number(member));
-  put(object.get(), kMembers, std::move(members));
-  return object;
-}
-
-template <class T>
-std::vector<uint32_t> sorted_handles(const std::unordered_map<uint32_t, T> &map) {
+// Groups name their members, members do not name their groups.
+Json item_list(const ProfileShadow::Items &items, bool with_partners) {
   std::vector<uint32_t> handles;
-  handles.reserve(map.size());
-  for (const auto &[handle, described] : map) handles.push_back(handle);
+  handles.reserve(items.size());
+  for (const auto &[handle, item] : items) handles.push_back(handle);
   std::ranges::sort(handles);
-  return handles;
+  Json list = made(cJSON_CreateArray());
+  for (const uint32_t handle : handles) {
+    Json object = element(handle, items.at(handle));
+    if (with_partners) {
+      Json partners = made(cJSON_CreateArray());
+      for (const uint32_t partner : items.at(handle).partners) append(partners, number(partner));
+      put(object.get(), kMembers, std::move(partners));
+    }
+    append(list, std::move(object));
+  }
+  return list;
 }
 
 void remove_contents(cJSON *object) {
@@ -122,14 +120,8 @@ ProfileShadow::Resources resources_of(const cJSON *object) {
 }  // namespace
 
 void ProfileShadow::write(cJSON *object) const {
-  Json members = made(cJSON_CreateArray());
-  for (const uint32_t handle : sorted_handles(members_)) {
-    append(members, element(handle, members_.at(handle)));
-  }
-  Json groups = made(cJSON_CreateArray());
-  for (const uint32_t handle : sorted_handles(groups_)) {
-    append(groups, group_element(handle, groups_.at(handle)));
-  }
+  Json members = item_list(members_, false);
+  Json groups = item_list(groups_, true);
   remove_contents(object);
   try {
     put(object, kMembers, std::move(members));
@@ -140,22 +132,24 @@ void ProfileShadow::write(cJSON *object) const {
   }
 }
 
+std::optional<uint32_t> ProfileShadow::read_item(Items &to, const cJSON *element) {
+  const auto handle = word_of(element, kHandle);
+  if (!handle || add(to, *handle) != BF_SUCCESS) return std::nullopt;
+  Item &added = to.at(*handle);
+  added.action = word_of(element, kAction);
+  added.resources = resources_of(element);
+  return handle;
+}
+
 void ProfileShadow::read(const cJSON *object) {
   const cJSON *item = nullptr;
-  cJSON_ArrayForEach(item, list_of(object, kMembers)) {
-    const auto handle = word_of(item, kHandle);
-    if (!handle || add_member(*handle) != BF_SUCCESS) continue;
-    member(*handle)->action = word_of(item, kAction);
-    member(*handle)->resources = resources_of(item);
-  }
+  cJSON_ArrayForEach(item, list_of(object, kMembers)) read_item(members_, item);
   cJSON_ArrayForEach(item, list_of(object, kGroups)) {
-    const auto handle = word_of(item, kHandle);
-    if (!handle || add_group(*handle) != BF_SUCCESS) continue;
-    group(*handle)->action = word_of(item, kAction);
-    group(*handle)->resources = resources_of(item);
+    const auto group = read_item(groups_, item);
+    const cJSON *members = group ? list_of(item, kMembers) : nullptr;
     const cJSON *held = nullptr;
-    cJSON_ArrayForEach(held, list_of(item, kMembers)) {
-      if (const auto held_handle = word(held)) join(*held_handle, *handle);
+    cJSON_ArrayForEach(held, members) {
+      if (const auto member = word(held)) join(*member, *group);
     }
   }
 }
