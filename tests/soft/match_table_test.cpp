@@ -38,12 +38,16 @@ uint32_t add(MatchTable &table, const Bytes &value, const Bytes &mask = {}, uint
   return handle;
 }
 
+bf_status_t next(const MatchTable &table, uint32_t previous, uint32_t *handle) {
+  return table.next_in(BF_ALL_PIPES, previous, {handle, 1});
+}
+
 Words walk(const MatchTable &table) {
   Words handles;
   uint32_t handle;
-  bf_status_t status = table.first(&handle);
-  for (; status == BF_SUCCESS; status = table.next(handle, &handle)) handles.push_back(handle);
-  EXPECT_EQ(status, BF_END_OF_LIST);
+  bf_status_t status = table.first_in(BF_ALL_PIPES, &handle);
+  for (; status == BF_SUCCESS; status = next(table, handle, &handle)) handles.push_back(handle);
+  EXPECT_EQ(status, BF_OBJECT_NOT_FOUND);
   return handles;
 }
 
@@ -66,17 +70,17 @@ TEST(MatchTableHandles, WalkHoldsWhileEntriesComeAndGo) {
   Words handles;
   for (uint8_t i = 0; i < 6; ++i) handles.push_back(add(table, {i}));
   uint32_t at;
-  ASSERT_EQ(table.first(&at), 0u);
+  ASSERT_EQ(table.first_in(BF_ALL_PIPES, &at), 0u);
   EXPECT_EQ(at, handles[0]);
   table.erase(handles[0]);  // the one we stand on
   table.erase(handles[1]);  // and the one ahead
-  ASSERT_EQ(table.next(at, &at), 0u);
+  ASSERT_EQ(next(table, at, &at), 0u);
   EXPECT_EQ(at, handles[2]);
   const uint32_t added = add(table, {99});
   EXPECT_EQ(walk(table), (Words{handles[2], handles[3], handles[4], handles[5], added}));
-  EXPECT_EQ(table.next(added, &at), BF_END_OF_LIST);
-  EXPECT_EQ(table.next(0x00001000, &at), BF_OBJECT_NOT_FOUND);
-  EXPECT_EQ(table.next(handles[3] | 0x04000000, &at),  // a generation that was never issued
+  EXPECT_EQ(next(table, added, &at), BF_OBJECT_NOT_FOUND);
+  EXPECT_EQ(next(table, 0x00001000, &at), BF_OBJECT_NOT_FOUND);
+  EXPECT_EQ(next(table, handles[3] | 0x04000000, &at),  // a generation that was never issued
             BF_OBJECT_NOT_FOUND);
 }
 
@@ -98,7 +102,7 @@ TEST(MatchTableHandles, GrowsOverManyChunksAndDrains) {
   // 12 bytes of record; an index cell of 8 bytes at a load of 11/32 to 11/16; bits of the walk.
   EXPECT_LT(table.memory_bytes(), 300000u * (12 + 24 + 1));
   uint32_t handle;
-  while (table.first(&handle) == BF_SUCCESS) ASSERT_EQ(table.erase(handle), 0u);
+  while (table.first_in(BF_ALL_PIPES, &handle) == BF_SUCCESS) ASSERT_EQ(table.erase(handle), 0u);
   EXPECT_LT(table.memory_bytes(), 2 * 300000u) << "the generations of the slots";
   for (uint32_t i = 0; i < 300000; ++i) {
     const uint32_t again = add(table, bytes_of(i));

@@ -39,8 +39,6 @@ class KeyTwins {
   // The smallest priority, then the oldest, of those in this pipe or in all pipes, or kNone.
   uint32_t best(uint32_t root, uint8_t pipe) const;
 
-  uint64_t age(uint32_t slot) const { return link(slot).age; }
-
   // Forgets all trees and gives the memory back.
   void reset() { links_.reset(); }
 

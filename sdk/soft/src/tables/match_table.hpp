@@ -83,16 +83,6 @@ class MatchTable {
 
   size_t count() const { return slots_.count(); }
 
-  // Walks the entries in an order that never changes while they live: whatever is in the table from
-  // first() to the end of the walk is met exactly once, what comes or goes meanwhile at most once.
-  // BF_END_OF_LIST when nothing follows.
-  bf_status_t first(pipe_entry_handle_t *entry) const;
-
-  // previous may have been erased since: the walk goes on behind the place it had.
-  // BF_OBJECT_NOT_FOUND for a handle that was never issued, or so long ago that its place has seen
-  // more than 31 entries since.
-  bf_status_t next(pipe_entry_handle_t previous, pipe_entry_handle_t *entry) const;
-
   // Runs visit(handle) on all entries; it may not add or erase any.
   template <class Visit>
   void each(Visit visit) const {
@@ -101,8 +91,10 @@ class MatchTable {
     }
   }
 
-  // The same of the entries that are in a pipe, or of all of them for BF_ALL_PIPES: as the
-  // functions of SlotStore.
+  // Walks the entries that are in a pipe, or all of them for BF_ALL_PIPES, in an order that never
+  // changes while they live: whatever is in the table from first_in() to the end of the walk is met
+  // exactly once, what comes or goes meanwhile at most once. As the functions of SlotStore;
+  // previous may have been erased since: the walk goes on behind the place it had.
   bf_status_t first_in(bf_pipe_id_t pipe, pipe_entry_handle_t *entry) const;
   bf_status_t next_in(bf_pipe_id_t pipe, pipe_entry_handle_t previous,
                       std::span<pipe_entry_handle_t> entries) const;
@@ -134,7 +126,6 @@ class MatchTable {
   // Bytes held: the object and everything it has allocated, without the allocator's own overhead.
   size_t memory_bytes() const { return sizeof(*this) + memory_.bytes(); }
 
-  size_t key_bytes() const { return record_.key_bytes; }
   size_t distinct_masks() const { return record_.has_mask ? masks_.count() : 1; }
 
  private:

@@ -59,21 +59,6 @@ bf_status_t MatchTable::set_meter(pipe_entry_handle_t entry, const pipe_mgr_mete
 
 // ---- Enumeration ----
 
-bf_status_t MatchTable::first(pipe_entry_handle_t *entry) const {
-  const uint32_t slot = slots_.next_live(0);
-  if (slot == kNone) return BF_END_OF_LIST;
-  *entry = slots_.handle_of(slot);
-  return BF_SUCCESS;
-}
-
-bf_status_t MatchTable::next(pipe_entry_handle_t previous, pipe_entry_handle_t *entry) const {
-  if (!slots_.knew(previous)) return BF_OBJECT_NOT_FOUND;
-  const uint32_t slot = slots_.next_live(SlotStore::slot_of(previous) + 1);
-  if (slot == kNone) return BF_END_OF_LIST;
-  *entry = slots_.handle_of(slot);
-  return BF_SUCCESS;
-}
-
 bf_status_t MatchTable::first_in(bf_pipe_id_t pipe, pipe_entry_handle_t *entry) const {
   return slots_.first_handle(entry, [&](uint32_t slot) { return is_in(slot, pipe); });
 }
