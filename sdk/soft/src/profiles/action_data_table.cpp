@@ -3,6 +3,14 @@
 #include <algorithm>
 
 namespace soft {
+
+bf_status_t check_data(const pipe_mgr_action_data_t &data, const soft_action_t &action) {
+  if (data.byte_count != action.data_bytes || data.valid_bit_count != action.data_bits) {
+    return BF_WRONG_LENGTH;
+  }
+  return data.byte_count != 0 && data.bytes == nullptr ? BF_INVALID_ARGUMENT : BF_SUCCESS;
+}
+
 ActionDataTable::ActionDataTable(const Device &device, const soft_profile_t &profile)
     : ObjectOf(profile.action_data_table, device.id(),
                kData + longest_data(described(profile.actions, profile.action_count))),
@@ -19,12 +27,7 @@ bf_status_t ActionDataTable::check(pipe_object_handle_t handle,
   if (declared == nullptr) return BF_FOREIGN_ACTION;
   if (spec->type != 0 && spec->type != PIPE_ACTION_DATA) return BF_INVALID_ARGUMENT;
   if (spec->resource_count != 0) return BF_INVALID_ARGUMENT;
-  if (spec->data.byte_count != declared->data_bytes ||
-      spec->data.valid_bit_count != declared->data_bits) {
-    return BF_WRONG_LENGTH;
-  }
-  if (spec->data.byte_count != 0 && spec->data.bytes == nullptr) return BF_INVALID_ARGUMENT;
-  return BF_SUCCESS;
+  return check_data(spec->data, *declared);
 }
 
 uint8_t *ActionDataTable::record_of(pipe_member_handle_t member) {

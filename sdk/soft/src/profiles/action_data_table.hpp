@@ -9,6 +9,10 @@
 
 namespace soft {
 
+// Action data must be of exactly the length of the action. BF_WRONG_LENGTH; BF_INVALID_ARGUMENT:
+// there is none where there should be.
+bf_status_t check_data(const pipe_mgr_action_data_t &data, const soft_action_t &action);
+
 // Functions that add something may throw std::bad_alloc, and then nothing has changed.
 class ActionDataTable : public ObjectOf<ActionDataTable, ProfileStore> {
  public:

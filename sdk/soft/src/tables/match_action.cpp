@@ -3,6 +3,7 @@
 
 #include <mutex>
 
+#include "profiles/action_data_table.hpp"
 #include "soft_state.h"
 #include "soft_traffic.h"
 
@@ -57,18 +58,11 @@ bf_status_t check_meter(const soft_program_t &p, const pipe_mgr_resource_t &reso
   return fits_meter(resource.data.meter, meter->unit) ? BF_SUCCESS : BF_INVALID_ARGUMENT;
 }
 
-bf_status_t check_data(const pipe_mgr_action_data_t &data, const soft_action_t &action) {
-  if (data.byte_count != action.data_bytes || data.valid_bit_count != action.data_bits) {
-    return BF_WRONG_LENGTH;
-  }
-  return data.byte_count != 0 && data.bytes == nullptr ? BF_INVALID_ARGUMENT : BF_SUCCESS;
-}
-
 }  // namespace
 
 // The program does not tie registers to tables: one that an entry refers to is the entry's own.
 bool MatchEngine::is_direct(pipe_object_handle_t resource) const {
-  return counts_here(resource) || meters_here(resource) || resource >> 24 == kRegisterKind;
+  return has_cell_here(resource) || resource >> 24 == kRegisterKind;
 }
 
 const soft_action_t *MatchEngine::action_of(pipe_object_handle_t action) const {
@@ -122,19 +116,20 @@ bf_status_t MatchEngine::check_resources(std::span<const pipe_mgr_resource_t> re
 
 // ---- Members and groups ----
 
+Object *MatchEngine::owner_of(uint32_t type) const {
+  return device_.find(type == PIPE_ACTION_MEMBER ? profile_->action_data_table
+                                                 : profile_->selector);
+}
+
 bf_status_t MatchEngine::acquire_reference(const EntryAction &action) {
   if (action.type == PIPE_ACTION_DATA) return BF_SUCCESS;
-  const bool member = action.type == PIPE_ACTION_MEMBER;
-  Object *owner = device_.find(member ? profile_->action_data_table : profile_->selector);
-  if (owner == nullptr) return BF_NOT_SUPPORTED;
-  return owner->acquire(action.reference);
+  Object *owner = owner_of(action.type);
+  return owner == nullptr ? bf_status_t{BF_NOT_SUPPORTED} : owner->acquire(action.reference);
 }
 
 void MatchEngine::release_reference(uint32_t type, uint32_t reference) {
   if (type == PIPE_ACTION_DATA) return;
-  const bool member = type == PIPE_ACTION_MEMBER;
-  Object *owner = device_.find(member ? profile_->action_data_table : profile_->selector);
-  if (owner != nullptr) owner->release(reference);
+  if (Object *owner = owner_of(type)) owner->release(reference);
 }
 
 // ---- Resources of entries ----
@@ -145,15 +140,8 @@ bf_status_t MatchEngine::set_resources(pipe_session_handle_t session, pipe_entry
   return update(session, PIPE_UPDATE_MODIFY, [&](pipe_entry_handle_t *changed) {
     *changed = entry;
     Checked checked;
-    EntryView view;
-    if (const DefaultEntry *found = default_of(entry)) {
-      checked.resources = found->resources;
-    } else if (const bf_status_t status = entries_->get(entry, &view); status != BF_SUCCESS) {
-      return status;
-    } else {
-      checked.resources = resources_of(entry, view);
-    }
-    const bf_status_t status = check_resources(resources, &checked);
+    bf_status_t status = get_resources(entry, &checked.resources);
+    if (status == BF_SUCCESS) status = check_resources(resources, &checked);
     return status == BF_SUCCESS ? store_resources(entry, checked) : status;
   });
 }
@@ -166,13 +154,12 @@ bf_status_t MatchEngine::store_resources(pipe_entry_handle_t entry, const Checke
     store_cells(entry, checked);
     return BF_SUCCESS;
   }
-  const auto in_entry = [&](pipe_object_handle_t r) { return counts_here(r) || meters_here(r); };
   try {
-    beside_.set(entry, checked.resources.those([&](auto r) { return !in_entry(r); }));
+    beside_.set(entry, checked.resources.those([&](auto r) { return !has_cell_here(r); }));
   } catch (const std::bad_alloc &) {
     return BF_NO_MEMORY;
   }
-  const ResourceList inside = checked.resources.those(in_entry);
+  const ResourceList inside = cells_of(checked.resources);
   const bf_status_t status = entries_->set_resources(entry, inside.all());
   store_cells(entry, checked);
   return status;
@@ -203,20 +190,32 @@ ResourceList MatchEngine::resources_of(pipe_entry_handle_t entry, const EntryVie
   return list;
 }
 
-bool MatchEngine::has_resource(pipe_entry_handle_t entry, pipe_object_handle_t resource) {
-  const std::shared_lock lock(mutex_);
-  if (const DefaultEntry *found = default_of(entry)) return found->resources.has(resource);
+bf_status_t MatchEngine::get_resources(pipe_entry_handle_t entry, ResourceList *list) const {
+  if (const DefaultEntry *found = default_of(entry)) {
+    *list = found->resources;
+    return BF_SUCCESS;
+  }
   EntryView view;
-  return entries_->get(entry, &view) == BF_SUCCESS && resources_of(entry, view).has(resource);
+  const bf_status_t status = entries_->get(entry, &view);
+  if (status == BF_SUCCESS) *list = resources_of(entry, view);
+  return status;
+}
+
+pipe_mgr_meter_spec_t MatchEngine::meter_of(pipe_entry_handle_t entry) const {
+  if (const DefaultEntry *found = default_of(entry)) return found->meter;
+  pipe_mgr_meter_spec_t meter{};
+  entries_->get_meter(entry, &meter);
+  return meter;
 }
 
 bf_status_t MatchEngine::get_meter(pipe_entry_handle_t entry, pipe_mgr_meter_spec_t *meter) {
   if (direct_meter_ == 0) return BF_NOT_SUPPORTED;
-  if (!has_resource(entry, direct_meter_)) return BF_OBJECT_NOT_FOUND;
   const std::shared_lock lock(mutex_);
-  const DefaultEntry *found = default_of(entry);
-  if (found == nullptr) return entries_->get_meter(entry, meter);
-  *meter = found->meter;
+  ResourceList list;
+  const bf_status_t status = get_resources(entry, &list);
+  if (status != BF_SUCCESS) return status;
+  if (!list.has(direct_meter_)) return BF_OBJECT_NOT_FOUND;
+  *meter = meter_of(entry);
   return BF_SUCCESS;
 }
 

@@ -124,8 +124,7 @@ bf_status_t MatchEngine::replace(pipe_entry_handle_t entry, pipe_object_handle_t
   status = acquire_reference(checked.action);
   if (status != BF_SUCCESS) return status;
   if (status = store_resources(entry, checked); status == BF_SUCCESS) {
-    const ResourceList inside = checked.resources.those(
-        [&](pipe_object_handle_t r) { return counts_here(r) || meters_here(r); });
+    const ResourceList inside = cells_of(checked.resources);
     checked.action.resources = inside.all();
     status = entries_->set_action(entry, checked.action);
   }

@@ -103,8 +103,6 @@ class MatchEngine : public ObjectOf<MatchEngine> {
   template <class Change>
   bf_status_t change_all_counters(Change change);
   bf_status_t get_meter(pipe_entry_handle_t entry, pipe_mgr_meter_spec_t *meter);
-  // Whether the resource is attached to the entry; also for registers.
-  bool has_resource(pipe_entry_handle_t entry, pipe_object_handle_t resource);
 
   // When it throws, nothing has changed.
   void copy_from(Object &object) override;
@@ -142,6 +140,11 @@ class MatchEngine : public ObjectOf<MatchEngine> {
   bool is_direct(pipe_object_handle_t resource) const;
   bool counts_here(pipe_object_handle_t resource) const { return resource == direct_counter_; }
   bool meters_here(pipe_object_handle_t resource) const { return resource == direct_meter_; }
+  // What stands in the entry; everything else is beside the table.
+  bool has_cell_here(pipe_object_handle_t r) const { return counts_here(r) || meters_here(r); }
+  ResourceList cells_of(const ResourceList &list) const {
+    return list.those([this](pipe_object_handle_t r) { return has_cell_here(r); });
+  }
   const soft_action_t *action_of(pipe_object_handle_t action) const;
 
   bf_status_t check_key(const pipe_mgr_match_spec_t *match) const;
@@ -151,6 +154,7 @@ class MatchEngine : public ObjectOf<MatchEngine> {
   bf_status_t check_resources(std::span<const pipe_mgr_resource_t> resources,
                               Checked *checked) const;
   bf_status_t locate(const Name &name, pipe_entry_handle_t *entry) const;
+  Object *owner_of(uint32_t type) const;
   bf_status_t acquire_reference(const EntryAction &action);
   void release_reference(uint32_t type, uint32_t reference);
 
@@ -162,6 +166,9 @@ class MatchEngine : public ObjectOf<MatchEngine> {
   void store_cells(pipe_entry_handle_t entry, const Checked &checked);
   bf_status_t erase(pipe_entry_handle_t entry);
   ResourceList resources_of(pipe_entry_handle_t entry, const EntryView &view) const;
+  // Of any entry, default ones included. BF_OBJECT_NOT_FOUND.
+  bf_status_t get_resources(pipe_entry_handle_t entry, ResourceList *list) const;
+  pipe_mgr_meter_spec_t meter_of(pipe_entry_handle_t entry) const;
   bf_status_t fill_key(const EntryView &view, pipe_mgr_match_spec_t *match) const;
   bf_status_t fill_action(const EntryAction &action, const ResourceList &resources,
                           pipe_entry_handle_t entry, pipe_mgr_action_spec_t *spec) const;

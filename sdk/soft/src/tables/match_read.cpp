@@ -58,12 +58,7 @@ bf_status_t MatchEngine::fill_action(const EntryAction &action, const ResourceLi
   for (uint32_t i = 0; i < spec->resource_count; ++i) {
     const EntryResource &held = resources.all()[i];
     spec->resources[i] = {held.handle, held.index, {}, PIPE_RESOURCE_ATTACH};
-    if (!meters_here(held.handle)) continue;
-    if (const DefaultEntry *found = default_of(entry)) {
-      spec->resources[i].data.meter = found->meter;
-    } else {
-      entries_->get_meter(entry, &spec->resources[i].data.meter);
-    }
+    if (meters_here(held.handle)) spec->resources[i].data.meter = meter_of(entry);
   }
   return BF_SUCCESS;
 }
