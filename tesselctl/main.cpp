@@ -2,7 +2,9 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <memory>
 #include <new>
 #include <optional>
@@ -20,6 +22,7 @@
 #include "tesselctl/shell/tool_completion.hpp"
 #include "tesselctl/shell/tool_runner.hpp"
 #include "tesselctl/state/image_file.hpp"
+#include "tesselctl/text/interrupt.hpp"
 #include "tesselctl/text/utf8.hpp"
 #include "tesselctl/version.hpp"
 
@@ -82,15 +85,32 @@ class Session {
     }
     tool_.emplace(*runner_, streams.out, streams.errors, redrawn_terminal());
     if (home_ && home_->may_be_old()) tool_->before_each([this] { home_->read_again(); });
+    if (home_ && !settings.image.empty() && use == ImageUse::changes) {
+      signals_.emplace({SIGINT, SIGTERM, SIGHUP, SIGPIPE}, take_signal);
+    }
   }
   Runner &runner() { return *tool_; }
-  // Call it when all is done.
+  // Runs something with the runner, and saves what it changed, whatever ended it.
+  void run(const std::function<void(Runner &)> &run) {
+    try {
+      run(runner());
+    } catch (...) {
+      save_if_changed();
+      throw;
+    }
+    save_if_changed();
+    signals_.reset();
+  }
+
+ private:
   void save_if_changed() {
+    const UninterruptedScope scope;
     if (local_ == nullptr || local_->changed() == Changed::no) return;
     if (local_->changed() == Changed::yes || home_->is_worth_saving()) home_->save();
   }
 
- private:
+  // An image is saved behind them; with none they end the process.
+  std::optional<SignalScope> signals_;
   std::optional<DeviceOfImage> home_;
   std::unique_ptr<Runner> runner_;
   LocalRunner *local_ = nullptr;
@@ -129,8 +149,8 @@ int run_command(const ToolSettings &settings, const std::vector<Word> &words) {
   const std::string line = line_of(words);
   Session session(settings, streams,
                   may_change_device(words) ? ImageUse::changes : ImageUse::reads);
-  const LineOutcome outcome = session.runner().run({{}, 0, line});
-  session.save_if_changed();
+  LineOutcome outcome = LineOutcome::done;
+  session.run([&](Runner &runner) { outcome = runner.run({{}, 0, line}); });
   streams.out.flush();
   return exit_of(outcome);
 }
@@ -138,9 +158,9 @@ int run_command(const ToolSettings &settings, const std::vector<Word> &words) {
 int run_terminal(const ToolSettings &settings) {
   Streams streams(settings);
   Session session(settings, streams, ImageUse::changes);
-  run_shell(session.runner(), streams.out,
-            {.history = settings.history.value_or(default_history_path())});
-  session.save_if_changed();
+  session.run([&](Runner &runner) {
+    run_shell(runner, streams.out, {.history = settings.history.value_or(default_history_path())});
+  });
   return kDone;
 }
 
@@ -244,12 +264,13 @@ int main(int argc, char **argv) {
   try {
     return tesselctl::run_tool(argc, argv);
   } catch (const std::bad_alloc &) {
-    fmt::print(stderr, "tesselctl: there is no memory for this\n");
+    std::fputs("tesselctl: there is no memory for this\n", stderr);
     return 1;
   } catch (const std::exception &error) {
     const auto *fault = dynamic_cast<const tesselctl::Fault *>(&error);
     const std::string text = fault != nullptr ? fault->sentence() : error.what();
-    fmt::print(stderr, "tesselctl: {}\n", tesselctl::printable(text));
+    // The terminal may be gone.
+    std::fputs(("tesselctl: " + tesselctl::printable(text) + "\n").c_str(), stderr);
     return 1;
   }
 }

@@ -24,8 +24,8 @@ enum class LineEnd { entered, interrupted, end_of_input };
 class LineEditor {
  public:
   virtual ~LineEditor() = default;
-  // Reads a line from standard input, without the end of line. interrupted: a signal for which
-  // interrupt_line was called came instead.
+  // Reads a line from standard input, without the end of line. interrupted: an interrupt
+  // was requested instead.
   virtual LineEnd read(std::string &line) = 0;
   // Puts a line where the arrow keys find it.
   virtual void remember(const std::string &line) = 0;
@@ -34,8 +34,5 @@ class LineEditor {
 // With line editing where the tool is built with it; otherwise one that reads plain lines.
 std::unique_ptr<LineEditor> make_line_editor(LineHost host);
 bool has_line_editing();
-
-// Makes the editor that reads give up. Safe in signal handlers.
-void interrupt_line() noexcept;
 
 }  // namespace tesselctl

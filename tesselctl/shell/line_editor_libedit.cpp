@@ -115,7 +115,6 @@ int EditedLines::read_character(EditLine *editor, wchar_t *character) {
 }
 
 LineEnd EditedLines::read(std::string &line) {
-  begin_line();
   interrupted_ = false;
   state_ = {};
   int count = 0;

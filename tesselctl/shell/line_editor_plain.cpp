@@ -13,7 +13,6 @@ class PlainLines : public LineEditor {
   explicit PlainLines(LineHost host) : host_(std::move(host)) {}
 
   LineEnd read(std::string &line) override {
-    begin_line();
     std::fputs(host_.prompt.c_str(), stdout);
     std::fflush(stdout);
     line.clear();

@@ -13,11 +13,6 @@ namespace {
 constexpr std::string_view kPrompt = "tesselctl> ";
 constexpr std::string_view kEndings[] = {"exit", "quit"};
 
-extern "C" void on_interrupt(int) {
-  request_interrupt();
-  interrupt_line();
-}
-
 bool ends_shell(std::string_view line) {
   return std::find(std::begin(kEndings), std::end(kEndings), line) != std::end(kEndings);
 }
@@ -40,7 +35,7 @@ Completion complete_for_shell(Runner &runner, std::string_view line, size_t curs
 }  // namespace
 
 void run_shell(Runner &runner, Output &out, const ShellOptions &options) {
-  const SignalScope scope({SIGINT}, on_interrupt);
+  const SignalScope scope({SIGINT, SIGTERM, SIGHUP}, take_signal);
   const History history(options.history);
   const std::unique_ptr<LineEditor> editor =
       make_line_editor({.prompt = std::string(kPrompt),
@@ -51,7 +46,8 @@ void run_shell(Runner &runner, Output &out, const ShellOptions &options) {
   std::string last;
   for (const std::string &line : history.load()) editor->remember(last = line);
   std::string line;
-  while (true) {
+  while (!end_requested()) {
+    clear_interrupt();
     const LineEnd end = editor->read(line);
     if (end != LineEnd::entered) {
       out.write("\n");
@@ -67,7 +63,6 @@ void run_shell(Runner &runner, Output &out, const ShellOptions &options) {
       history.add(last);
     }
     if (ends_shell(command)) return;
-    clear_interrupt();
     runner.run({{}, 0, command});
     out.flush();
   }

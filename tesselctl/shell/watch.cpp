@@ -18,12 +18,10 @@ using std::chrono::milliseconds;
 // An interrupt is heard of so much later.
 constexpr auto kLookUp = milliseconds(50);
 
-extern "C" void on_interrupt_of_watch(int) { request_interrupt(); }
-
 // While it lives, SIGINT ends the watch and nothing else.
 struct InterruptibleScope {
   ~InterruptibleScope() { clear_interrupt(); }  // the lines that follow go on
-  const SignalScope signals{{SIGINT}, on_interrupt_of_watch};
+  const SignalScope signals{{SIGINT}, take_signal};
 };
 
 void wait_until(Clock::time_point when) {

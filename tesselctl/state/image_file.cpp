@@ -3,21 +3,8 @@
 #include <unistd.h>
 
 #include "tesselctl/device/device_copy.hpp"
-#include "tesselctl/text/interrupt.hpp"
 
 namespace tesselctl {
-
-uint64_t save_image_file(const Device &device, const std::string &path) {
-  FileWriter file{path};
-  uint64_t bytes = 0;
-  save_image(device, [&](std::string_view text) {
-    check_interrupt();
-    file.write(text);
-    bytes += text.size();
-  });
-  file.commit();
-  return bytes;
-}
 
 LoadCounts load_image_file(const Device &device, const std::string &path, std::string_view shown) {
   return ImageSource(path, shown).load(device);
@@ -67,7 +54,9 @@ bool DeviceOfImage::is_worth_saving() const {
 
 void DeviceOfImage::save() {
   if (image_.path.empty()) return;
-  save_image_file(*device_, image_.path);
+  FileWriter file{image_.path};
+  save_image(*device_, [&](std::string_view text) { file.write(text); });
+  file.commit();
   if (!is_new_) return;
   is_new_ = false;
   errors_.line("new image {}", image_.path);

@@ -12,9 +12,6 @@
 
 namespace tesselctl {
 
-// The image of the device replaces the file, whole or not at all. The number of bytes. Throws
-// Fault.
-uint64_t save_image_file(const Device &device, const std::string &path);
 // Adds what the file holds to the device; faults name it as shown. See load_image.
 LoadCounts load_image_file(const Device &device, const std::string &path, std::string_view shown);
 
@@ -41,8 +38,8 @@ class DeviceOfImage {
   void read_again();
   // False where there was no image and the device is as a new one.
   bool is_worth_saving() const;
-  // The device as the image from now on, with a note on errors when there was none before. Nothing
-  // where there is no image.
+  // The device as the image from now on, whole or not at all, with a note on errors when there was
+  // none before. Nothing where there is no image.
   void save();
 
  private:

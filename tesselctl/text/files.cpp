@@ -97,6 +97,7 @@ size_t FileBytes::read(char *to, size_t room) {
   if (!file_.is_open()) return 0;
   ssize_t got;
   do {
+    if (!wait_for_input(file_.get())) check_interrupt();
     got = ::read(file_.get(), to, room);
   } while (got < 0 && errno == EINTR);
   if (got < 0) throw_system(path_);

@@ -16,6 +16,16 @@ bool interrupt_requested() noexcept;
 // Safe in signal handlers.
 void request_interrupt() noexcept;
 void clear_interrupt() noexcept;
+// The process is to end: an interrupt that stays. Safe in signal handlers.
+void request_end() noexcept;
+bool end_requested() noexcept;
+
+// Waits until there is something to read. False when an interrupt came first.
+bool wait_for_input(int fd);
+
+// For SignalScope: SIGINT interrupts, SIGTERM and SIGHUP end the process, and others are taken and
+// do nothing, unlike ignored ones in the programs that the process starts, too.
+extern "C" void take_signal(int signal);
 
 // While it lives, the handler takes the signals and wakes up what waits. One that is ignored, as by
 // nohup, stays so.
@@ -32,6 +42,15 @@ class SignalScope {
     struct sigaction action;
   };
   std::vector<Before> before_;
+};
+
+// While it lives, nothing interrupts this thread.
+class UninterruptedScope {
+ public:
+  UninterruptedScope();
+  ~UninterruptedScope();
+  UninterruptedScope(const UninterruptedScope &) = delete;
+  UninterruptedScope &operator=(const UninterruptedScope &) = delete;
 };
 
 // While it lives, check_interrupt on this thread asks this too, fifty times a second at most. One

@@ -21,14 +21,14 @@ using std::chrono::steady_clock;
 
 class Session {
  public:
-  explicit Session(const std::string &history) {
+  explicit Session(const std::string &history, const char *image = nullptr) {
     const winsize size = {.ws_row = 24, .ws_col = 120, .ws_xpixel = 0, .ws_ypixel = 0};
     child_ = forkpty(&terminal_, nullptr, nullptr, &size);
     if (child_ != 0) return;
     setenv("TERM", "xterm", 1);
     setenv("NO_COLOR", "1", 1);
     setenv("TESSELCTL_HISTORY", history.c_str(), 1);
-    execl(TOOL, "tesselctl", nullptr);
+    execl(TOOL, "tesselctl", image == nullptr ? nullptr : "--image", image, nullptr);
     _exit(127);
   }
   ~Session() {
@@ -39,6 +39,7 @@ class Session {
   Session(const Session &) = delete;
   Session &operator=(const Session &) = delete;
 
+  void terminate() { kill(child_, SIGTERM); }
   void type(std::string_view text) {
     ASSERT_EQ(write(terminal_, text.data(), text.size()), static_cast<ssize_t>(text.size()));
   }
@@ -152,15 +153,22 @@ TEST_F(ShellTest, KeepsItsHistoryForTheUserAlone) {
   second.talk({{"", kPrompt}, {"\x1b[A\r", "nextHop        0"}});
 }
 
-TEST_F(ShellTest, AnInterruptClearsTheLine) {
-  Session shell(history_);
-  shell.talk({{"", kPrompt},
-              {"age advance", "age advance"},
-              {"\x03", kPrompt},
-              {"nosuch\r", "'nosuch': no command has this name"},
-              {"", kPrompt}});
-  shell.type("quit\r");
-  EXPECT_EQ(shell.exit_code(), 0);
+TEST_F(ShellTest, AnInterruptClearsTheLineAndNothingIsLost) {
+  mkdir(folder_.c_str(), 0700);
+  const std::string image = folder_ + "/image";
+  for (const bool quits : {true, false}) {
+    Session shell(history_, image.c_str());
+    shell.talk({{"", kPrompt},
+                {"register write ingVlanCheckData value=1\r", kPrompt},
+                {"age advance", "age advance"},
+                {"\x03", kPrompt},
+                {"nosuch\r", "'nosuch': no command has this name"},
+                {"", kPrompt},
+                {"\x03", kPrompt}});
+    quits ? shell.type("quit\r") : shell.terminate();
+    EXPECT_EQ(shell.exit_code(), 0);
+    EXPECT_EQ(unlink(image.c_str()), 0) << quits;
+  }
 }
 
 // The rows fill the terminal's buffer long before the last, so the command runs while nobody reads.
