@@ -1,7 +1,7 @@
 // A device: the objects of its program, found by handle. What an object does is up to its engine;
 // engines of another kind come in a file of their own:
 //
-//   class Gauge : public ObjectOf<Gauge> { ... };
+//   class Gauge : public Engine<Gauge> { ... };
 //   const EngineSet gauges{EngineOrder::kStateful,
 //                          add_all<Gauge, &soft_program_t::gauges, &soft_program_t::gauge_count>};
 //

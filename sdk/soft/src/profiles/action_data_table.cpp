@@ -12,8 +12,8 @@ bf_status_t check_data(const pipe_mgr_action_data_t &data, const soft_action_t &
 }
 
 ActionDataTable::ActionDataTable(const Device &device, const soft_profile_t &profile)
-    : ObjectOf(profile.action_data_table, device.id(),
-               kData + longest_data(described(profile.actions, profile.action_count))),
+    : Engine(profile.action_data_table, device.id(),
+             kData + longest_data(described(profile.actions, profile.action_count))),
       actions_(described(profile.actions, profile.action_count)) {}
 
 const soft_action_t *ActionDataTable::action(pipe_object_handle_t handle) const {
@@ -140,9 +140,7 @@ void ActionDataTable::listen(pipe_mgr_adt_update_cb_t callback, void *cookie) {
   listener_ = {callback, cookie};
 }
 
-void ActionDataTable::copy_from(Object &object) {
-  ActionDataTable &other = *object.as<ActionDataTable>();
-  const std::scoped_lock lock(mutex_, other.mutex_);
+void ActionDataTable::take_over(ActionDataTable &other) {
   SlotStore records(&memory_, 0);
   records.copy_from(other.records_);
   records_.swap(records);

@@ -14,7 +14,7 @@ namespace soft {
 bf_status_t check_data(const pipe_mgr_action_data_t &data, const soft_action_t &action);
 
 // Functions that add something may throw std::bad_alloc, and then nothing has changed.
-class ActionDataTable : public ObjectOf<ActionDataTable, ProfileStore> {
+class ActionDataTable : public Engine<ActionDataTable, ProfileStore> {
  public:
   ActionDataTable(const Device &device, const soft_profile_t &profile);
 
@@ -43,7 +43,7 @@ class ActionDataTable : public ObjectOf<ActionDataTable, ProfileStore> {
   bf_status_t acquire_with_action(pipe_member_handle_t member, pipe_object_handle_t action);
 
   // When it throws, nothing has changed.
-  void copy_from(Object &object) override;
+  void take_over(ActionDataTable &other);
   void inherit(Object &predecessor) noexcept override;
 
   void listen(pipe_mgr_adt_update_cb_t callback, void *cookie);

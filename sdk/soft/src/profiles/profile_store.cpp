@@ -4,7 +4,7 @@ namespace soft {
 
 ProfileStore::ProfileStore(pipe_object_handle_t handle, const void *type, bf_device_id_t device,
                            size_t record_bytes)
-    : Object(handle, type),
+    : LockedObject(handle, type),
       device_(device),
       memory_(std::pmr::new_delete_resource()),
       records_(&memory_, record_bytes) {}
@@ -36,11 +36,6 @@ bf_status_t ProfileStore::get_capacity(uint32_t *capacity) {
   const std::lock_guard lock(mutex_);
   *capacity = capacity_;
   return BF_SUCCESS;
-}
-
-uint64_t ProfileStore::memory_bytes() {
-  const std::lock_guard lock(mutex_);
-  return sizeof(*this) + memory_.bytes();
 }
 
 }  // namespace soft

@@ -2,16 +2,14 @@
 // a limit of their number, the same in all pipes.
 #pragma once
 
-#include <mutex>
-
-#include "device/device.hpp"
+#include "device/engine.hpp"
 #include "device/listener.hpp"
 #include "store/counting_resource.hpp"
 #include "store/slot_store.hpp"
 
 namespace soft {
 
-class ProfileStore : public Object {
+class ProfileStore : public LockedObject {
  public:
   bf_status_t entry_count(bf_pipe_id_t pipe, uint32_t *count) override;
   bf_status_t first_entry(bf_pipe_id_t pipe, uint32_t *entry) override;
@@ -23,7 +21,7 @@ class ProfileStore : public Object {
   bf_status_t set_capacity(uint32_t capacity) override;
   bf_status_t get_capacity(uint32_t *capacity) override;
 
-  uint64_t memory_bytes() override;
+  uint64_t held_bytes() const { return memory_.bytes(); }
 
  protected:
   ProfileStore(pipe_object_handle_t handle, const void *type, bf_device_id_t device,
@@ -35,7 +33,6 @@ class ProfileStore : public Object {
   }
 
   bf_device_id_t device_;
-  std::mutex mutex_;
   CountingResource memory_;
   SlotStore records_;
   uint32_t capacity_ = 0;

@@ -25,7 +25,7 @@ const EngineSet profiles{EngineOrder::kSelectors, add_profiles};
 }  // namespace
 
 Selector::Selector(const Device &device, const soft_profile_t &profile, ActionDataTable &members)
-    : ObjectOf(profile.selector, device.id(), kPointer + sizeof(Group *)),
+    : Engine(profile.selector, device.id(), kPointer + sizeof(Group *)),
       members_(members),
       slots_(&memory_) {}
 
@@ -269,9 +269,7 @@ bf_status_t Selector::fallback(pipe_member_handle_t *member) {
   return BF_SUCCESS;
 }
 
-void Selector::copy_from(Object &object) {
-  Selector &other = *object.as<Selector>();
-  const std::scoped_lock lock(mutex_, other.mutex_);
+void Selector::take_over(Selector &other) {
   std::pmr::polymorphic_allocator<> allocator(&memory_);
   SlotStore groups(&memory_, 0);
   groups.copy_from(other.records_);

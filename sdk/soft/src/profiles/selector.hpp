@@ -17,7 +17,7 @@ namespace soft {
 
 // Functions that add something may throw std::bad_alloc, and then nothing has changed. The session
 // is the one that the listeners hear of. BF_OBJECT_NOT_FOUND: no such group, member or membership.
-class Selector : public ObjectOf<Selector, ProfileStore> {
+class Selector : public Engine<Selector, ProfileStore> {
  public:
   // members must live as long as the selector is used.
   Selector(const Device &device, const soft_profile_t &profile, ActionDataTable &members);
@@ -65,7 +65,7 @@ class Selector : public ObjectOf<Selector, ProfileStore> {
   // ---- The selector ----
 
   // The members follow by their own copy. When it throws, nothing has changed.
-  void copy_from(Object &object) override;
+  void take_over(Selector &other);
   void inherit(Object &predecessor) noexcept override;
 
   enum class Ear { kOwner, kFurther };

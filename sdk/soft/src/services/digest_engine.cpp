@@ -13,7 +13,7 @@ const EngineSet digests{
 }  // namespace
 
 DigestEngine::DigestEngine(const Device &device, const soft_digest_t &description)
-    : ObjectOf(description.handle),
+    : Engine(description.handle),
       entry_bytes_(description.entry_bytes),
       device_(device.id()),
       collecting_(device.pipes()) {}
@@ -147,9 +147,8 @@ DigestEngine::Pending DigestEngine::pending() {
   return pending;
 }
 
-uint64_t DigestEngine::memory_bytes() {
-  const std::lock_guard lock(mutex_);
-  uint64_t bytes = sizeof(*this) + collecting_.capacity() * sizeof(Messages) +
+uint64_t DigestEngine::held_bytes() const {
+  uint64_t bytes = collecting_.capacity() * sizeof(Messages) +
                    known_.size() * (sizeof(std::string) + 4 * sizeof(void *) + entry_bytes_);
   const auto add = [&](const Messages &messages) {
     for (const Message &message : messages) bytes += sizeof(message) + message.entries.capacity();
@@ -160,9 +159,7 @@ uint64_t DigestEngine::memory_bytes() {
   return bytes;
 }
 
-void DigestEngine::copy_from(Object &object) {
-  DigestEngine &other = *object.as<DigestEngine>();
-  const std::scoped_lock lock(mutex_, other.mutex_);
+void DigestEngine::take_over(DigestEngine &other) {
   const auto add = [this](Messages &messages, const Message &message) {
     if (message.head.entry_count == 0) return;
     Message &copy = messages.emplace_back(message);

@@ -4,18 +4,17 @@
 
 #include <functional>
 #include <list>
-#include <mutex>
 #include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "device/device.hpp"
+#include "device/engine.hpp"
 #include "pipe_mgr_types.h"
 
 namespace soft {
 
-class DigestEngine : public ObjectOf<DigestEngine> {
+class DigestEngine : public Engine<DigestEngine> {
  public:
   DigestEngine(const Device &device, const soft_digest_t &description);
 
@@ -44,10 +43,10 @@ class DigestEngine : public ObjectOf<DigestEngine> {
   Pending pending();
 
   uint32_t entry_bytes() const { return entry_bytes_; }
-  uint64_t memory_bytes() override;
+  uint64_t held_bytes() const;
   // Into an engine without contents. What was sent stays with the listener that it was sent to;
   // what waits, waits here for the next occasion to be sent.
-  void copy_from(Object &object) override;
+  void take_over(DigestEngine &other);
   void inherit(Object &predecessor) noexcept override;
 
  private:
@@ -73,7 +72,6 @@ class DigestEngine : public ObjectOf<DigestEngine> {
 
   uint32_t entry_bytes_;
   bf_device_id_t device_;
-  std::mutex mutex_;
   uint32_t timeout_us_ = 0;
   pipe_session_handle_t session_ = 0;
   pipe_mgr_digest_cb_t callback_ = nullptr;  // null: nobody listens

@@ -14,7 +14,7 @@ const EngineSet hashes{
 }  // namespace
 
 HashCalculation::HashCalculation(const Device &, const soft_hash_t &description)
-    : ObjectOf(description.handle), description_(description) {}
+    : Engine(description.handle), description_(description) {}
 
 bf_status_t HashCalculation::set_input(pipe_object_handle_t field_list) const {
   return field_list != 0 && field_list == description_.field_list ? BF_SUCCESS : BF_INVALID_HANDLE;
@@ -77,14 +77,11 @@ bf_status_t HashCalculation::calculate(std::span<const uint8_t> stream, std::spa
   return BF_SUCCESS;
 }
 
-uint64_t HashCalculation::memory_bytes() {
-  const std::lock_guard lock(mutex_);
-  return sizeof(*this) + attributes_.capacity() * sizeof(pipe_mgr_hash_attribute_t);
+uint64_t HashCalculation::held_bytes() const {
+  return attributes_.capacity() * sizeof(pipe_mgr_hash_attribute_t);
 }
 
-void HashCalculation::copy_from(Object &object) {
-  HashCalculation &other = *object.as<HashCalculation>();
-  const std::scoped_lock lock(mutex_, other.mutex_);
+void HashCalculation::take_over(HashCalculation &other) {
   attributes_ = other.attributes_;
   seed_ = other.seed_;
 }

@@ -7,10 +7,9 @@
 // seed 0 the stream "123456789" has block 0 = 62EC59E3F1A4F00A.
 #pragma once
 
-#include <mutex>
 #include <vector>
 
-#include "device/device.hpp"
+#include "device/engine.hpp"
 #include "pipe_mgr_types.h"
 
 namespace soft {
@@ -18,7 +17,7 @@ namespace soft {
 // A member function with the arguments of a contract function does what that function says. The
 // calculation takes the field list and the algorithm that the program declares and no other;
 // BF_INVALID_HANDLE otherwise.
-class HashCalculation : public ObjectOf<HashCalculation> {
+class HashCalculation : public Engine<HashCalculation> {
  public:
   static constexpr uint32_t kMostHashBytes = 64;
 
@@ -45,12 +44,11 @@ class HashCalculation : public ObjectOf<HashCalculation> {
   // Writes hash.size() bytes, 1 to kMostHashBytes; BF_INVALID_ARGUMENT for another number.
   bf_status_t calculate(std::span<const uint8_t> stream, std::span<uint8_t> hash);
 
-  uint64_t memory_bytes() override;
-  void copy_from(Object &object) override;
+  uint64_t held_bytes() const;
+  void take_over(HashCalculation &other);
 
  private:
   const soft_hash_t &description_;
-  std::mutex mutex_;
   uint64_t seed_ = 0;
   std::vector<pipe_mgr_hash_attribute_t> attributes_;
 };

@@ -20,7 +20,7 @@ const EngineSet snapshots{EngineOrder::kServices, add_unit};
 }  // namespace
 
 SnapshotUnit::SnapshotUnit(const Device &device)
-    : ObjectOf(kHandle),
+    : Engine(kHandle),
       device_(device.id()),
       record_bytes_(device.program().snapshot_bytes),
       moves_{moves_of(device.program(), 0), moves_of(device.program(), 1)} {}
@@ -154,9 +154,8 @@ uint32_t SnapshotUnit::inject(const Packet &packet) {
   return captured;
 }
 
-uint64_t SnapshotUnit::memory_bytes() {
-  const std::lock_guard lock(mutex_);
-  uint64_t bytes = sizeof(*this);
+uint64_t SnapshotUnit::held_bytes() const {
+  uint64_t bytes = 0;
   for (const auto &[handle, snapshot] : snapshots_) {
     bytes += sizeof(snapshot) + snapshot.value.size() + snapshot.mask.size();
     for (const auto &[pipe, capture] : snapshot.captures) {
@@ -167,9 +166,7 @@ uint64_t SnapshotUnit::memory_bytes() {
   return bytes;
 }
 
-void SnapshotUnit::copy_from(Object &object) {
-  SnapshotUnit &other = *object.as<SnapshotUnit>();
-  const std::scoped_lock lock(mutex_, other.mutex_);
+void SnapshotUnit::take_over(SnapshotUnit &other) {
   snapshots_.clear();
   for (const auto &[handle, snapshot] : other.snapshots_) {
     snapshots_.emplace(device_ << kDeviceAt | (handle & kBelowDevice), snapshot);

@@ -2,11 +2,10 @@
 #pragma once
 
 #include <map>
-#include <mutex>
 #include <vector>
 
 #include "bf_snapshot.h"
-#include "device/device.hpp"
+#include "device/engine.hpp"
 
 namespace soft {
 
@@ -19,7 +18,7 @@ struct StageRange {
 };
 
 // A member function that takes a snapshot says BF_OBJECT_NOT_FOUND when there is no such one.
-class SnapshotUnit : public ObjectOf<SnapshotUnit> {
+class SnapshotUnit : public Engine<SnapshotUnit> {
  public:
   static constexpr pipe_object_handle_t kHandle = kServiceHandles | 1;
 
@@ -52,9 +51,9 @@ class SnapshotUnit : public ObjectOf<SnapshotUnit> {
   };
   uint32_t inject(const Packet &packet);
 
-  uint64_t memory_bytes() override;
+  uint64_t held_bytes() const;
   // The copies bear the number of this device in their handles.
-  void copy_from(Object &object) override;
+  void take_over(SnapshotUnit &other);
 
  private:
   static constexpr uint32_t kDeviceAt = 24;  // its lowest bit in a handle
@@ -92,7 +91,6 @@ class SnapshotUnit : public ObjectOf<SnapshotUnit> {
   bf_device_id_t device_;
   size_t record_bytes_;
   std::vector<Move> moves_[2];  // by direction
-  std::mutex mutex_;
   uint32_t last_serial_ = 0;
   std::map<uint32_t, Snapshot> snapshots_;
 };

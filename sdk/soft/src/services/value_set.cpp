@@ -185,14 +185,11 @@ bf_status_t ValueSet::next(const Parsers &where, pipe_entry_handle_t entry,
   return BF_SUCCESS;
 }
 
-uint64_t ValueSet::memory_bytes() {
-  const std::lock_guard lock(mutex_);
-  return sizeof(*this) + entries_.size() * (sizeof(Entries::value_type) + 4 * sizeof(void *));
+uint64_t ValueSet::held_bytes() const {
+  return entries_.size() * (sizeof(Entries::value_type) + 4 * sizeof(void *));
 }
 
-void ValueSet::copy_from(Object &object) {
-  ValueSet &other = *object.as<ValueSet>();
-  const std::scoped_lock lock(mutex_, other.mutex_);
+void ValueSet::take_over(ValueSet &other) {
   entries_ = other.entries_;
   last_handle_ = other.last_handle_;
   capacity_ = other.capacity_;

@@ -3,9 +3,8 @@
 #pragma once
 
 #include <map>
-#include <mutex>
 
-#include "device/device.hpp"
+#include "device/engine.hpp"
 #include "soft_contents.h"
 
 namespace soft {
@@ -23,9 +22,9 @@ struct Parsers {
 // A member function with the arguments of a contract function does what that function says. Parsers
 // are checked by the caller. A call that looks for entries finds those that are in at least one of
 // the parsers that it names, the oldest first.
-class ValueSet : public ObjectOf<ValueSet> {
+class ValueSet : public Engine<ValueSet> {
  public:
-  ValueSet(const Device &, const soft_value_set_t &description) : ObjectOf(description.handle) {}
+  ValueSet(const Device &, const soft_value_set_t &description) : Engine(description.handle) {}
 
   // The one property, PIPE_PVS_CAPACITY: most entries in any one parser, 0 no limit. A capacity
   // below the number of entries keeps them and refuses new ones.
@@ -49,8 +48,8 @@ class ValueSet : public ObjectOf<ValueSet> {
   bf_status_t next(const Parsers &where, pipe_entry_handle_t entry,
                    std::span<pipe_entry_handle_t> entries);
 
-  uint64_t memory_bytes() override;
-  void copy_from(Object &object) override;
+  uint64_t held_bytes() const;
+  void take_over(ValueSet &other);
 
  private:
   struct Entry {
@@ -73,7 +72,6 @@ class ValueSet : public ObjectOf<ValueSet> {
   bool is_full(const Parsers &where) const;
   uint32_t count_in(const Parsers &where) const;
 
-  std::mutex mutex_;
   uint32_t capacity_ = 0;
   pipe_entry_handle_t last_handle_ = 0;
   Entries entries_;

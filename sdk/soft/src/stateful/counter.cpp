@@ -1,7 +1,5 @@
 #include "stateful/counter.hpp"
 
-#include "soft_traffic.h"
-
 namespace soft {
 namespace {
 
@@ -10,17 +8,6 @@ const EngineSet counters{
     add_all<Counter, &soft_program_t::counters, &soft_program_t::counter_count>};
 
 }  // namespace
-
-Counter::Counter(const Device &device, const soft_counter_t &description)
-    : ObjectOf(description.handle),
-      direct_(description.table != 0),
-      memory_(std::pmr::new_delete_resource()),
-      cells_(direct_ ? 0 : device.pipes(), &memory_) {}
-
-bf_status_t Counter::check(uint32_t index) const {
-  if (direct_) return BF_NOT_SUPPORTED;
-  return index < SOFT_COUNTER_CELLS ? BF_SUCCESS : BF_INVALID_ARGUMENT;
-}
 
 bf_status_t Counter::query(bf_pipe_id_t pipe, uint32_t index, pipe_mgr_counter_t *value) {
   if (const bf_status_t status = check(index); status != BF_SUCCESS) return status;
@@ -78,26 +65,6 @@ bf_status_t Counter::count(bf_pipe_id_t pipe, uint32_t index, uint64_t packets, 
     counted.bytes += bytes;
   });
   return BF_SUCCESS;
-}
-
-bf_status_t Counter::next_cell(uint32_t from, uint32_t *cell) {
-  if (direct_) return BF_NOT_SUPPORTED;
-  const std::lock_guard lock(mutex_);
-  return cells_.next(from, cell, [](const EntryCounters &cell_counters) {
-    return (cell_counters.hardware.packets | cell_counters.hardware.bytes |
-            cell_counters.software.packets | cell_counters.software.bytes) != 0;
-  });
-}
-
-uint64_t Counter::memory_bytes() {
-  const std::lock_guard lock(mutex_);
-  return sizeof(*this) + memory_.bytes();
-}
-
-void Counter::copy_from(Object &object) {
-  Counter &other = *object.as<Counter>();
-  const std::scoped_lock lock(mutex_, other.mutex_);
-  cells_.copy_from(other.cells_);
 }
 
 }  // namespace soft

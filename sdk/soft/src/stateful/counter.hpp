@@ -9,19 +9,16 @@
 // clears the others, so that the sum is what was set.
 #pragma once
 
-#include <mutex>
-
-#include "device/device.hpp"
+#include "soft_traffic.h"
+#include "stateful/cell_engine.hpp"
 #include "stateful/counter_cell.hpp"
-#include "store/cell_array.hpp"
-#include "store/counting_resource.hpp"
 
 namespace soft {
 
 // BF_INVALID_ARGUMENT: the index is SOFT_COUNTER_CELLS or more. Pipes are checked by the caller.
-class Counter : public ObjectOf<Counter> {
+class Counter : public CellEngine<Counter, EntryCounters, SOFT_COUNTER_CELLS> {
  public:
-  Counter(const Device &device, const soft_counter_t &description);
+  using CellEngine::CellEngine;
 
   bf_status_t query(bf_pipe_id_t pipe, uint32_t index, pipe_mgr_counter_t *value);
   bf_status_t set(bf_pipe_id_t pipe, uint32_t index, const pipe_mgr_counter_t *value);
@@ -31,19 +28,10 @@ class Counter : public ObjectOf<Counter> {
   // Traffic, in one pipe.
   bf_status_t count(bf_pipe_id_t pipe, uint32_t index, uint64_t packets, uint64_t bytes);
 
-  bf_status_t next_cell(uint32_t from, uint32_t *cell) override;
-  uint64_t memory_bytes() override;
-  void copy_from(Object &object) override;
-
- private:
-  using Cells = CellArray<EntryCounters>;
-
-  bf_status_t check(uint32_t index) const;
-
-  bool direct_;
-  std::mutex mutex_;
-  CountingResource memory_;
-  PipedCells<EntryCounters> cells_;
+  static bool is_set(const EntryCounters &cell) {
+    return (cell.hardware.packets | cell.hardware.bytes | cell.software.packets |
+            cell.software.bytes) != 0;
+  }
 };
 
 }  // namespace soft

@@ -6,18 +6,21 @@
 // that was never set reads as a colour-unaware spec of zeros and marks all traffic green.
 #pragma once
 
-#include <mutex>
-
-#include "device/device.hpp"
+#include "soft_traffic.h"
+#include "stateful/cell_engine.hpp"
 #include "stateful/meter_buckets.hpp"
-#include "store/cell_array.hpp"
-#include "store/counting_resource.hpp"
 
 namespace soft {
 
+struct MeterCell {
+  pipe_mgr_meter_spec_t spec;
+  MeterBuckets buckets;
+  bool set;
+};
+
 // BF_INVALID_ARGUMENT: the index is SOFT_METER_CELLS or more, or the rates do not fit the meter.
 // Pipes are checked by the caller.
-class Meter : public ObjectOf<Meter> {
+class Meter : public CellEngine<Meter, MeterCell, SOFT_METER_CELLS> {
  public:
   Meter(const Device &device, const soft_meter_t &description);
 
@@ -35,25 +38,11 @@ class Meter : public ObjectOf<Meter> {
   bf_status_t mark(bf_pipe_id_t pipe, uint32_t index, uint64_t packets, uint64_t bytes,
                    uint8_t *color);
 
-  bf_status_t next_cell(uint32_t from, uint32_t *cell) override;
-  uint64_t memory_bytes() override;
-  void copy_from(Object &object) override;
+  static bool is_set(const MeterCell &cell) { return cell.set; }
+  void take_over(Meter &other);
 
  private:
-  struct Cell {
-    pipe_mgr_meter_spec_t spec;
-    MeterBuckets buckets;
-    bool set;
-  };
-  using Cells = CellArray<Cell>;
-
-  bf_status_t check(uint32_t index) const;
-
-  bool direct_;
   uint32_t unit_;
-  std::mutex mutex_;
-  CountingResource memory_;
-  PipedCells<Cell> cells_;
   uint32_t adjustment_ = 0;
 };
 

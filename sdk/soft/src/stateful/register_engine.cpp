@@ -23,7 +23,7 @@ const EngineSet registers{
 }  // namespace
 
 RegisterEngine::RegisterEngine(const Device &device, const soft_register_t &description)
-    : ObjectOf(description.handle),
+    : Engine(description.handle),
       width_(description.width),
       mask_(width_ >= 32 ? 0xffffffffu : (1u << width_) - 1) {
   for (uint32_t pipe = 0; pipe < device.pipes(); ++pipe) {
@@ -155,18 +155,15 @@ bf_status_t RegisterEngine::next_cell(uint32_t from, uint32_t *cell) {
   return BF_SUCCESS;
 }
 
-uint64_t RegisterEngine::memory_bytes() {
-  const std::lock_guard lock(mutex_);
-  uint64_t bytes = sizeof(*this) + instances_.capacity() * sizeof(Instance);
+uint64_t RegisterEngine::held_bytes() const {
+  uint64_t bytes = instances_.capacity() * sizeof(Instance);
   for (const Instance &instance : instances_) {
     bytes += instance.hardware.memory_bytes() + instance.software.memory_bytes();
   }
   return bytes;
 }
 
-void RegisterEngine::copy_from(Object &object) {
-  RegisterEngine &other = *object.as<RegisterEngine>();
-  const std::scoped_lock lock(mutex_, other.mutex_);
+void RegisterEngine::take_over(RegisterEngine &other) {
   for (size_t pipe = 0; pipe < instances_.size(); ++pipe) {
     instances_[pipe].hardware.copy(other.instances_[pipe].hardware);
     instances_[pipe].software.copy(other.instances_[pipe].software);

@@ -8,10 +8,9 @@
 // record, wider ones in its word.
 #pragma once
 
-#include <mutex>
 #include <vector>
 
-#include "device/device.hpp"
+#include "device/engine.hpp"
 #include "pipe_mgr_types.h"
 #include "store/cell_plane.hpp"
 
@@ -19,7 +18,7 @@ namespace soft {
 
 // A member function with the arguments of a contract function does what that function says. Pipes
 // are checked by the caller.
-class RegisterEngine : public ObjectOf<RegisterEngine> {
+class RegisterEngine : public Engine<RegisterEngine> {
  public:
   RegisterEngine(const Device &device, const soft_register_t &description);
 
@@ -41,8 +40,8 @@ class RegisterEngine : public ObjectOf<RegisterEngine> {
   bf_status_t write_hardware(bf_pipe_id_t pipe, uint32_t index, uint32_t value);
 
   bf_status_t next_cell(uint32_t from, uint32_t *cell) override;
-  uint64_t memory_bytes() override;
-  void copy_from(Object &object) override;
+  uint64_t held_bytes() const;
+  void take_over(RegisterEngine &other);
 
  private:
   struct Instance {
@@ -59,7 +58,6 @@ class RegisterEngine : public ObjectOf<RegisterEngine> {
 
   uint16_t width_;
   uint32_t mask_;
-  std::mutex mutex_;
   std::vector<Instance> instances_;  // one of each pipe
 };
 

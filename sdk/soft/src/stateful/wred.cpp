@@ -21,7 +21,7 @@ bf_status_t check(pipe_object_handle_t table, uint32_t index, const void *spec) 
 }  // namespace
 
 WredUnit::WredUnit(const Device &device)
-    : ObjectOf(kHandle),
+    : Engine(kHandle),
       pipes_(device.pipes()),
       memory_(std::pmr::new_delete_resource()),
       tables_(&memory_) {}
@@ -70,14 +70,9 @@ bf_status_t WredUnit::next(bf_pipe_id_t pipe, pipe_object_handle_t *table, uint3
   return BF_OBJECT_NOT_FOUND;
 }
 
-uint64_t WredUnit::memory_bytes() {
-  const std::lock_guard lock(mutex_);
-  return sizeof(*this) + memory_.bytes();
-}
+uint64_t WredUnit::held_bytes() const { return memory_.bytes(); }
 
-void WredUnit::copy_from(Object &object) {
-  WredUnit &other = *object.as<WredUnit>();
-  const std::scoped_lock lock(mutex_, other.mutex_);
+void WredUnit::take_over(WredUnit &other) {
   tables_.clear();
   for (const auto &[table, cells] : other.tables_) {
     tables_.try_emplace(table, pipes_, &memory_).first->second.copy_from(cells);

@@ -2,17 +2,16 @@
 // the first cell that the host sets in it.
 #pragma once
 
-#include <mutex>
 #include <unordered_map>
 
-#include "device/device.hpp"
+#include "device/engine.hpp"
 #include "pipe_mgr_types.h"
 #include "store/cell_array.hpp"
 #include "store/counting_resource.hpp"
 
 namespace soft {
 
-class WredUnit : public ObjectOf<WredUnit> {
+class WredUnit : public Engine<WredUnit> {
  public:
   static constexpr pipe_object_handle_t kHandle = kServiceHandles | 0x77;
 
@@ -28,8 +27,8 @@ class WredUnit : public ObjectOf<WredUnit> {
   // As soft_next_wred_cell.
   bf_status_t next(bf_pipe_id_t pipe, pipe_object_handle_t *table, uint32_t *index);
 
-  uint64_t memory_bytes() override;
-  void copy_from(Object &object) override;
+  uint64_t held_bytes() const;
+  void take_over(WredUnit &other);
 
  private:
   struct Cell {
@@ -39,7 +38,6 @@ class WredUnit : public ObjectOf<WredUnit> {
   using Cells = CellArray<Cell>;
 
   uint32_t pipes_;
-  std::mutex mutex_;
   CountingResource memory_;
   std::pmr::unordered_map<pipe_object_handle_t, PipedCells<Cell>> tables_;
 };
