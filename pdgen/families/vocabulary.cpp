@@ -85,7 +85,8 @@ Text companion(S s) {
 
 // The byte of that number, 0 the least significant.
 unsigned byte_of(const Bits &bits, unsigned number) {
-  return (number < 8 ? bits.lower >> 8 * number : bits.upper >> 8 * (number - 8)) & 0xff;
+  return static_cast<uint8_t>(number < 8 ? bits.lower >> 8 * number
+                                         : bits.upper >> 8 * (number - 8));
 }
 
 // The bits that are compared in each byte of a key.
