@@ -71,7 +71,6 @@ TEST_F(Memory, CallsChangeNothingWithoutIt) {
     hand.session = session;
     for (const Call &call : list) {
       SCOPED_TRACE(call.text);
-      if (getenv("SHOW")) fprintf(stderr, "%s\n", call.text);
       const auto make = [&] {
         hand.begin();
         return call.make(hand);
