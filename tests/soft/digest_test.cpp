@@ -1,8 +1,5 @@
 // Learning digests: when messages are sent, what is in them, and how long they live.
-#include <memory>
-
 #include "program.hpp"
-#include "soft_journal.hpp"
 
 namespace {
 
@@ -65,21 +62,15 @@ class Digests : public SoftTest {
 
 using Counts = std::pair<uint32_t, uint32_t>;
 
-TEST_F(Digests, WithoutATimeoutAMessageComesWithTheCall) {
+TEST_F(Digests, AnEntryIsLearntAnewOnlyAfterItsMessageWasAcknowledged) {
   OK(listen());
-  EXPECT_EQ(inject({1, 2, 3, 4, 5, 6}, 1), 2u);
-  ASSERT_EQ(ear.heard.size(), 1u);
+  EXPECT_EQ(inject({0x0a, 0x0b, 1, 0x0a, 0x0b, 4}, 1), 2u);
+  ASSERT_EQ(ear.heard.size(), 1u) << "without a timeout a message comes with the call";
   const pipe_mgr_digest_message_t &head = ear.heard[0].head;
   EXPECT_EQ((Words{head.device, head.pipe, head.digest, head.entry_count, head.entry_size}),
             (Words{kDevice, 1, kMacDigest, 2, 3}));
-  EXPECT_EQ(ear.heard[0].entries, (Bytes{1, 2, 3, 4, 5, 6}));
-}
-
-TEST_F(Digests, AnEntryIsLearntAnewOnlyAfterItsMessageWasAcknowledged) {
-  OK(listen());
-  EXPECT_EQ(inject(entry(1)), 1u);
-  EXPECT_EQ(inject({0x0a, 0x0b, 1, 0x0a, 0x0b, 2, 0x0a, 0x0b, 2}), 1u);
-  EXPECT_EQ(inject(entry(1), 1), 0u) << "known from another pipe";
+  EXPECT_EQ(ear.heard[0].entries, (Bytes{0x0a, 0x0b, 1, 0x0a, 0x0b, 4}));
+  EXPECT_EQ(inject({0x0a, 0x0b, 1, 0x0a, 0x0b, 2, 0x0a, 0x0b, 2}), 1u) << "known from pipe 1";
   ASSERT_EQ(ear.heard.size(), 2u);
   EXPECT_EQ(ear.heard[1].entries, entry(2));
   OK(acknowledge(ear.heard[0].message));
@@ -100,28 +91,15 @@ TEST_F(Digests, MessagesStayUntilTheyAreAcknowledged) {
   OK(soft_digest_inject(kOther, 0, kMacDigest, other.data(), 1, 3, nullptr));
   OK(listen());
   EXPECT_EQ(inject(entry(1)), 1u);
-  EXPECT_EQ(inject(entry(2)), 1u);
   OK(stop());
-  EXPECT_EQ(pending(), Counts(0, 2));
-  pipe_mgr_digest_message_t *const first = ear.heard[1].message;
-  EXPECT_EQ(Bytes(first->entries, first->entries + 3), entry(1));
-
-  soft::journal::start();  // which must not follow the pointers either
-  int dummy = 0;
-  pipe_mgr_digest_message_t *none = reinterpret_cast<pipe_mgr_digest_message_t *>(&dummy);
-  for (pipe_mgr_digest_message_t *wrong :
-       {none, static_cast<decltype(none)>(nullptr), &ear.heard[1].head}) {  // a copy is no message
-    EXPECT_EQ(acknowledge(wrong), BF_OBJECT_NOT_FOUND);
-  }
-  EXPECT_EQ(acknowledge(first, kFlowDigest), BF_OBJECT_NOT_FOUND);
+  EXPECT_EQ(pending(), Counts(0, 1));
+  pipe_mgr_digest_message_t *const message = ear.heard[1].message;
+  EXPECT_EQ(Bytes(message->entries, message->entries + 3), entry(1));
+  EXPECT_EQ(acknowledge(nullptr), BF_OBJECT_NOT_FOUND);
+  EXPECT_EQ(acknowledge(&ear.heard[1].head), BF_OBJECT_NOT_FOUND) << "a copy is no message";
+  EXPECT_EQ(acknowledge(message, kFlowDigest), BF_OBJECT_NOT_FOUND);
   for (const Ear::Heard &heard : ear.heard) OK(acknowledge(heard.message));
-  EXPECT_EQ(acknowledge(first), BF_OBJECT_NOT_FOUND);
-  soft::journal::stop();
-  const auto calls = soft::journal::calls("pipe_mgr_flow_lrn_notify_ack");
-  soft::journal::clear();
-  ASSERT_EQ(calls.size(), 8u);
-  EXPECT_EQ(calls[0].get<soft::journal::Opaque>("message").address,
-            reinterpret_cast<uintptr_t>(&dummy));
+  EXPECT_EQ(acknowledge(message), BF_OBJECT_NOT_FOUND);
   OK(soft_device_remove(kOther));
 }
 
@@ -138,7 +116,6 @@ TEST_F(Digests, AreCollectedPerPipeUntilTheTimeoutOfTheFirstEntry) {
   EXPECT_TRUE(ear.heard.empty()) << "2 ms after the first entry of pipe 0";
   soft_clock_advance(1);
   ASSERT_EQ(ear.heard.size(), 1u);
-  EXPECT_EQ(ear.heard[0].head.pipe, 0u);
   EXPECT_EQ(ear.heard[0].entries, (Bytes{0x0a, 0x0b, 1, 0x0a, 0x0b, 3}));
   soft_clock_advance(1);
   ASSERT_EQ(ear.heard.size(), 2u);
@@ -183,8 +160,7 @@ TEST_F(Digests, NeedACallbackAndHaveOneAtATime) {
   OK(listen());
   EXPECT_EQ(inject(entry(1)), 1u);
   soft_clock_advance(5);
-  ASSERT_EQ(ear.heard.size(), 2u);
-  EXPECT_EQ(ear.heard[0].entries.size() + ear.heard[1].entries.size(), 5u);
+  EXPECT_EQ(ear.heard.size(), 2u);
 }
 
 TEST_F(Digests, RefuseBytesThatAreNoEntries) {

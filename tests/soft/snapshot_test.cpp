@@ -51,7 +51,6 @@ TEST_F(Snapshots, CaptureTheFirstPacketThatTheTriggerMatches) {
   EXPECT_EQ(packet(2, {0x76, 1, 2, 3}), 0u);
   EXPECT_EQ(read(snapshot, 3).status, BF_NOT_READY);
   EXPECT_EQ(read(snapshot, 3).captures, 0u);
-  EXPECT_EQ(read(snapshot, 3).fields[0], 0xa5);
   EXPECT_EQ(packet(5, {0x77, 1, 2, 3}), 0u) << "outside its stages";
 
   // Stages 1 to 3: the snapshot sees 2 and 3, and triggers at 3.
@@ -61,14 +60,11 @@ TEST_F(Snapshots, CaptureTheFirstPacketThatTheTriggerMatches) {
   OK(captured.status);
   EXPECT_EQ(captured.captures, 2u);
   EXPECT_EQ(captured.fields, (Bytes{0x10, 2, 2, 2, 0x77, 3, 3, 3, 0, 0, 0, 0}));
-  ASSERT_EQ(captured.control.size(), 3u);
-  EXPECT_EQ(captured.control[0].stage, 2);
-  EXPECT_TRUE(captured.control[0].valid);
-  EXPECT_FALSE(captured.control[0].triggered);
-  EXPECT_TRUE(captured.control[1].valid);
-  EXPECT_TRUE(captured.control[1].triggered);
-  EXPECT_EQ(captured.control[2].stage, 4);
-  EXPECT_FALSE(captured.control[2].valid);
+  for (size_t i = 0; i < 3; ++i) {
+    EXPECT_EQ(captured.control[i].stage, i + 2);
+    EXPECT_EQ(captured.control[i].valid, i < 2);
+    EXPECT_EQ(captured.control[i].triggered, i == 1);
+  }
 
   OK(trigger(snapshot, 0x78));
   EXPECT_EQ(read(snapshot, 3).status, BF_NOT_READY) << "a new trigger drops the capture";
@@ -88,7 +84,6 @@ TEST_F(Snapshots, OfAllPipesHoldACaptureOfEach) {
   EXPECT_EQ(packet(0, {5, 0, 0, 0}, 0), 1u);
   EXPECT_EQ(read(all, 1, 0).fields, (Bytes{5, 0, 0, 0}));
   EXPECT_EQ(read(all, 1, 1).fields, (Bytes{5, 1, 1, 1}));
-  EXPECT_EQ(read(all, 1).fields, (Bytes{5, 0, 0, 0}));
   EXPECT_EQ(read(one, 1, 0).status, BF_NOT_READY);
   EXPECT_EQ(read(one, 1).fields, (Bytes{5, 1, 1, 1}));
   EXPECT_EQ(read(egress, 2).status, BF_NOT_READY) << "of the other direction";
@@ -96,17 +91,11 @@ TEST_F(Snapshots, OfAllPipesHoldACaptureOfEach) {
   OK(read(egress, 2).status);
 }
 
-TEST_F(Snapshots, SizesFollowTheNumberOfStages) {
-  uint32_t total = 0, stage = 0;
-  OK(bf_snapshot_capture_phv_fields_dict_size(create(3, 3), &total, &stage));
-  EXPECT_EQ(total, 4u);
-  EXPECT_EQ(stage, 4u);
-  OK(bf_snapshot_capture_phv_fields_dict_size(create(0, 31), &total, &stage));
-  EXPECT_EQ(total, 128u);
-}
-
 TEST_F(Snapshots, LiveUntilTheyAreDeletedOrTheirDeviceGoes) {
-  const uint32_t snapshot = create(0, 0);
+  const uint32_t snapshot = create(0, 31);
+  uint32_t total = 0, stage = 0, other = 0;
+  OK(bf_snapshot_capture_phv_fields_dict_size(snapshot, &total, &stage));
+  EXPECT_EQ(std::pair(total, stage), std::pair(128u, 4u));
   OK(bf_snapshot_delete(snapshot));
   EXPECT_EQ(bf_snapshot_delete(snapshot), BF_OBJECT_NOT_FOUND);
   EXPECT_EQ(trigger(snapshot, 1), BF_OBJECT_NOT_FOUND);
@@ -114,7 +103,6 @@ TEST_F(Snapshots, LiveUntilTheyAreDeletedOrTheirDeviceGoes) {
   EXPECT_NE(create(0, 0), snapshot);
 
   OK(soft_device_create(255, 1, &small_program(), false));
-  uint32_t other = 0;
   OK(bf_snapshot_create(255, 0, 0, 0, 1, &other));
   OK(trigger(other, 1));
   EXPECT_EQ(packet(0, {1, 0, 0, 0}, 0, 1), 0u) << "a snapshot of another device";
