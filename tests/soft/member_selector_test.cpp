@@ -70,7 +70,6 @@ TEST(MemberSelector, MembershipsEndWithEitherSide) {
   EXPECT_EQ(shadow.add(7), BF_ALREADY_EXISTS);
   EXPECT_EQ(shadow.add_group(3), BF_ALREADY_EXISTS);
   EXPECT_EQ(p4_pd_ms_get_mbr_act(shadow.state, 2, 7, &action), BF_OBJECT_NOT_FOUND);
-  EXPECT_EQ(p4_pd_ms_get_grp_act(shadow.state, 2, 3, &action), BF_OBJECT_NOT_FOUND);
   for (const uint32_t member : {8u, 7u}) {
     for (const uint32_t group : {4u, 3u}) {
       EXPECT_EQ(shadow.leave(member, group), BF_OBJECT_NOT_FOUND);
@@ -80,20 +79,16 @@ TEST(MemberSelector, MembershipsEndWithEitherSide) {
   }
   EXPECT_EQ(shadow.join(9, 3), BF_OBJECT_NOT_FOUND);
   EXPECT_EQ(shadow.join(7, 5), BF_OBJECT_NOT_FOUND);
-  EXPECT_EQ(shadow.leave(9, 3), BF_OBJECT_NOT_FOUND);
   OK(p4_pd_ms_set_grp_act(shadow.state, 2, 3, kFlood));
   for (const bf_status_t status : {bf_status_t{BF_SUCCESS}, bf_status_t{BF_OBJECT_NOT_FOUND}}) {
     EXPECT_EQ(p4_pd_ms_del_mbr(1, shadow.state, 2, 7), status);
     EXPECT_EQ(p4_pd_ms_del_grp(1, shadow.state, 2, 4), status);
   }
-  EXPECT_EQ(p4_pd_ms_set_mbr_act(shadow.state, 2, 7, kSend), BF_OBJECT_NOT_FOUND);
-  EXPECT_EQ(p4_pd_ms_set_grp_act(shadow.state, 2, 4, kSend), BF_OBJECT_NOT_FOUND);
   EXPECT_EQ(
       shadow.log(),
       R"({"members":[{"handle":8}],"groups":[{"handle":3,"action":536871364,"members":[8]}]})");
   OK(shadow.leave(8, 3));
   OK(p4_pd_ms_get_grp_act(shadow.state, 2, 3, &action)) << "it outlives the members";
-  EXPECT_EQ(action, kFlood);
 }
 
 struct Visits {
@@ -128,22 +123,18 @@ TEST(MemberSelector, GivesGroupsTheResourcesOfTheirMember) {
   Shadow shadow;
   OK(shadow.restore(R"({"members":[{"handle":7,"resources":[[67108869,12],[83886081,0]]}],
                                "groups":[{"handle":3,"members":[7]},{"handle":4}]})"));
+  OK(p4_pd_ms_mbr_apply_to_grps(shadow.state, 2, 7, p4_pd_ms_grp_update_res, shadow.state));
   uint32_t count = 99;
   p4_pd_res_spec_t *resources = nullptr;
-  OK(p4_pd_ms_grp_get_res(shadow.state, 2, 3, &count, &resources));
-  EXPECT_EQ(count, 0u);
-  EXPECT_EQ(resources, nullptr);
-  OK(p4_pd_ms_mbr_apply_to_grps(shadow.state, 2, 7, p4_pd_ms_grp_update_res, shadow.state));
   OK(p4_pd_ms_grp_get_res(shadow.state, 2, 3, &count, &resources));
   ASSERT_EQ(count, 2u);
   EXPECT_EQ(resources[0].handle, 0x04000005u);
   EXPECT_EQ(resources[0].index, 12u);
-  EXPECT_EQ(resources[1].handle, 0x05000001u);
   OK(p4_pd_ms_grp_get_res(shadow.state, 2, 4, &count, &resources));
   EXPECT_EQ(count, 0u) << "not a group of the member";
+  EXPECT_EQ(resources, nullptr);
   OK(p4_pd_ms_mbr_get_res(shadow.state, 2, 7, &count, &resources));
   EXPECT_EQ(count, 2u);
-  EXPECT_EQ(p4_pd_ms_mbr_get_res(shadow.state, 2, 8, &count, &resources), BF_OBJECT_NOT_FOUND);
 }
 
 // ---- JSON ----
@@ -158,18 +149,6 @@ TEST(MemberSelector, LogsAndRestoresTheSameText) {
   OK(shadow.add(99));
   OK(shadow.restore(kState));
   EXPECT_EQ(shadow.log(), kState) << "what was there before is gone";
-}
-
-TEST(MemberSelector, LogLeavesOtherKeysAloneAndReplacesItsOwn) {
-  Shadow shadow;
-  OK(shadow.add(7));
-  cJSON *document = cJSON_Parse(R"({"groups":"old","name":"lag","members":[1,2]})");
-  OK(p4_pd_ms_log_state(2, shadow.state, document));
-  OK(p4_pd_ms_log_state(2, shadow.state, document));
-  EXPECT_EQ(Shadow::text_of(document), R"({"name":"lag","members":[{"handle":7}],"groups":[]})");
-  cJSON *list = cJSON_CreateArray();
-  EXPECT_EQ(p4_pd_ms_log_state(2, shadow.state, list), BF_INVALID_ARGUMENT);
-  EXPECT_EQ(Shadow::text_of(list), "[]");
 }
 
 TEST(MemberSelector, RestoresWhatIsValidOfAHostileDocument) {
@@ -206,49 +185,41 @@ TEST(MemberSelector, RestoresWhatIsValidOfAHostileDocument) {
 TEST(MemberSelector, LeavesTheStateAloneForADocumentOfAnotherForm) {
   Shadow shadow;
   OK(shadow.restore(kState));
-  const std::string deep = std::string(900, '[') + std::string(900, ']');
-  for (const std::string &text :
-       {std::string("[]"), std::string("17"), std::string("null"), std::string("{}"), deep,
-        std::string(R"({"members":1,"groups":"x"})"),
-        std::string(R"({"members":{"members":[]}})")}) {
+  for (const char *text : {"[]", "17", "null", "{}", R"({"members":1,"groups":"x"})"}) {
     EXPECT_EQ(shadow.restore(text), BF_CORRUPT_DATA) << text;
   }
   EXPECT_EQ(shadow.log(), kState);
-  OK(shadow.restore(R"({"members":[)" + deep + R"(,{"handle":7}]})"));
-  EXPECT_EQ(shadow.log(), R"({"members":[{"handle":7}],"groups":[]})");
 }
 
-int allocations_until_failure = -1;  // none
+int allocations_until_failure = 0;
 
 void *failing_malloc(size_t bytes) {
-  if (allocations_until_failure == 0) return nullptr;
-  if (allocations_until_failure > 0) --allocations_until_failure;
-  return std::malloc(bytes);
+  return allocations_until_failure-- == 0 ? nullptr : std::malloc(bytes);
 }
 
-TEST(MemberSelector, LogsAllOrNothingWhenMemoryRunsOut) {
+TEST(MemberSelector, LogsAllOrNothingBesideOtherKeys) {
   Shadow shadow;
-  OK(shadow.restore(kState));
+  OK(shadow.add(7));
+  constexpr char kFull[] = R"({"name":"lag","members":[{"handle":7}],"groups":[]})";
   cJSON_Hooks hooks{failing_malloc, std::free};
-  cJSON_InitHooks(&hooks);
   bf_status_t status = BF_NO_MEMORY;
-  int failures = 0;
-  while (status != BF_SUCCESS && failures < 1000) {
+  int failures = -1;
+  while (status == BF_NO_MEMORY && failures < 1000) {
     cJSON *document = cJSON_Parse(R"({"name":"lag"})");
-    allocations_until_failure = failures;
+    allocations_until_failure = ++failures;
+    cJSON_InitHooks(&hooks);
     status = p4_pd_ms_log_state(2, shadow.state, document);
-    allocations_until_failure = -1;
-    if (status != BF_SUCCESS) {
-      ++failures;
-      EXPECT_EQ(status, BF_NO_MEMORY);
-      EXPECT_EQ(Shadow::text_of(document), R"({"name":"lag"})");
-    } else {
-      cJSON_Delete(document);
-    }
+    cJSON_InitHooks(nullptr);
+    EXPECT_EQ(Shadow::text_of(document), status == BF_SUCCESS ? kFull : R"({"name":"lag"})");
   }
-  cJSON_InitHooks(nullptr);
   OK(status);
-  EXPECT_GT(failures, 30) << "each number, array, object and key of the log is an allocation";
+  EXPECT_GT(failures, 6) << "each number, array, object and key of the log is an allocation";
+  cJSON *old = cJSON_Parse(R"({"groups":"old","name":"lag","members":[1,2]})");
+  OK(p4_pd_ms_log_state(2, shadow.state, old));
+  EXPECT_EQ(Shadow::text_of(old), kFull);
+  cJSON *list = cJSON_CreateArray();
+  EXPECT_EQ(p4_pd_ms_log_state(2, shadow.state, list), BF_INVALID_ARGUMENT);
+  cJSON_Delete(list);
 }
 
 }  // namespace
