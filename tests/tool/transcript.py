@@ -12,6 +12,7 @@ before a block says otherwise: "not run" skips it, "file NAME" makes it the cont
 do further lines of the comment; "run" and lines are commands of their own.
 
     transcript.py TOOL [--write] FILE...      --write puts what came in the place of what differs
+    transcript.py TOOL --json SCHEMA FILE...  kept tools print JSON, which must say the same
 """
 import os
 import re
@@ -64,17 +65,18 @@ class Process:
 class Section:
     """A folder, with a shell and a tool that work in it."""
 
-    def __init__(self, tool):
-        self.tool, self.folder = tool, tempfile.TemporaryDirectory(prefix="transcript.")
-        self.processes = {}
+    def __init__(self, tool, shape):
+        self.tool, self.shape, self.processes = tool, shape, {}
+        self.folder = tempfile.TemporaryDirectory(prefix="transcript.")
 
     def process(self, prompt):
         if prompt not in self.processes:
             made = (Process(["bash", "--norc"], self.folder.name,
                             f"_s=$?; echo {MARK} $_s; (exit $_s)", MARK + r" (\d+)\n")
                     if prompt == "$" else
-                    Process([self.tool, "--terse", "--pipes", "2", "run", "-k", "-"],
-                            self.folder.name, MARK, f".*'{MARK}'.*\n.*\n.*\n"))
+                    Process([self.tool, "--json" if self.shape else "--terse", "--pipes", "2",
+                             "run", "-k", "-"], self.folder.name, MARK,
+                            f'.*"{MARK}".*\n' if self.shape else f".*'{MARK}'.*\n.*\n.*\n"))
             self.processes[prompt] = made
             if prompt == "$":
                 made.run("set -m")  # kill %1
@@ -83,6 +85,8 @@ class Section:
     def run(self, prompt, command, expected):
         process = self.process(prompt)
         text, end = process.run(command)
+        if prompt == ">" and self.shape:
+            return expected if self.shape.stands_for(text, expected) else text
         if prompt == ">":
             return re.sub(r"(?m)^standard input:\d+(?::(\d+))?: (.*)\n(?:  .*\n  *\^+\n)?",
                           lambda fault: f"{fault[1] or 0}: {fault[2]}\n", text)
@@ -112,9 +116,9 @@ def pattern_of(text):
 
 
 class Transcript:
-    def __init__(self, path, tool):
+    def __init__(self, path, *tool):
         self.path, self.tool, self.is_page = path, tool, path.endswith(".md")
-        self.section, self.commands, self.faults = Section(tool), 0, 0
+        self.section, self.commands, self.faults = Section(*tool), 0, 0
 
     def run_command(self, line, expected):
         self.commands += 1
@@ -124,6 +128,8 @@ class Transcript:
         text = self.section.run(line[0], line[2:], expected)
         if self.is_page and "(exit code" not in expected:
             text = re.sub(r"\(exit code \d+\)\n$", "", text)
+        if line[0] == "$" and self.section.shape:
+            list(self.section.shape.answers(text))
         if re.fullmatch(pattern_of(expected), text):
             return expected
         self.faults += 1
@@ -138,7 +144,7 @@ class Transcript:
             now += line + "\n"
             if line.startswith("=="):
                 self.section.close()
-                self.section = Section(self.tool)
+                self.section = Section(*self.tool)
             if line[:2] not in ("$ ", "> "):
                 continue
             expected = ""
@@ -180,10 +186,16 @@ class Transcript:
 
 def main():
     tool, *paths = sys.argv[1:]
-    write = "--write" in paths
     tool = os.path.abspath(tool)
+    write, shape = "--write" in paths, None
+    if "--json" in paths:
+        import json_shape
+        _, schema, *paths = paths
+        shape = json_shape.Shape(schema)
     os.environ.update(PATH=os.path.dirname(tool) + ":" + os.environ["PATH"], TERM="dumb")
-    good = [Transcript(path, tool).run(write) for path in paths if path != "--write"]
+    good = [Transcript(path, tool, shape).run(write) for path in paths if path != "--write"]
+    if shape and shape.unseen(tool):
+        sys.exit(f"no JSON of: {shape.unseen(tool)}")
     sys.exit(0 if good and all(good) else 1)
 
 
