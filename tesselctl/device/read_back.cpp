@@ -189,10 +189,8 @@ namespace {
 
 template <class Owner>
 void add_action_samples(Row &row, const Owner &owner) {
-  const std::vector<const bindings::Record *> actions = actions_of(owner);
-  for (const bindings::Record *action : actions) {
-    const std::vector<uint8_t> zeroes(action->size);
-    if (action == actions.front()) add_action(row, *action, zeroes.data());
+  for (const bindings::Record *action : actions_of(owner)) {
+    row.choice("action", action->name);
     add_samples(row, Row::kParameters, *action);
   }
 }
@@ -201,10 +199,10 @@ void add_action_samples(Row &row, const Owner &owner) {
 
 void add_entry_samples(Row &row, const TableInfo &table) {
   add_samples(row, Row::kKey, *table.record);
-  if (table.has_priority()) row.number("priority", 0);
-  if (table.ages()) row.number("ttl", 0);
-  row.list("meter", {}).number("packets", 0).number("bytes", 0);
-  if (table.indirect()) row.number("member", 0).number("group", 0);
+  if (table.has_priority()) row.number("priority", 0u);
+  if (table.ages()) row.number("ttl", 0u);
+  row.list("meter", {}).number("packets", uint64_t{0}).number("bytes", uint64_t{0});
+  if (table.indirect()) row.number("member", 0u).number("group", 0u);
   add_action_samples(row, *table.description);
 }
 
@@ -214,7 +212,7 @@ void add_member_samples(Row &row, const soft_profile_t &profile) {
 
 void expect_entries(Results &results, const TableInfo &table) {
   Row row;
-  row.object("table", table.name()).number("entry", 0);
+  row.object("table", table.name()).number("entry", 0u);
   add_entry_samples(row, table);
   results.expect(row);
 }

@@ -87,7 +87,7 @@ class Groups : public ObjectItems {
   }
   void add_samples_to(Row &row, Naming naming) const override {
     add_number(row, "group", 0, naming);
-    if (naming == Naming::numbers) row.number("size", 0);
+    if (naming == Naming::numbers) row.number("size", 0u);
     row.list("members", {}).list("inactive", {});
   }
 

@@ -36,9 +36,9 @@ void list_tables(Context &context, const Invocation &invocation) {
   if (chosen.empty()) chosen = all_tables();
   for (const TableInfo &table : chosen) {
     Row row;
-    row.object("table", table.name()).text("match", match_name(table));
-    row.number("actions", table.indirect() ? 0 : table.description->action_count);
-    row.text("size", size_text(context, table))
+    row.object("table", table.name()).choice("match", match_name(table));
+    row.number("actions", table.indirect() ? 0u : table.description->action_count);
+    row.choice("size", size_text(context, table))
         .number("entries", entry_count(context.device, table, invocation.command));
     if (table.keyed()) row.text("fields", key_text(table, ",", clipped ? 3 : ~size_t{0}));
     context.results.row(row);

@@ -21,7 +21,7 @@ void add_spec(Row &row, const soft_meter_t &meter, const p4_pd_bytes_meter_spec_
   for (size_t i = 0; i < numbers.size(); ++i) {
     row.number(kNames[i], numbers[i], units[meter.unit == PIPE_RATE_PACKETS ? 1 : 0][i % 2]);
   }
-  row.text("type", spec.meter_type == PD_METER_TYPE_COLOR_AWARE ? "aware" : "unaware");
+  row.choice("type", spec.meter_type == PD_METER_TYPE_COLOR_AWARE ? "aware" : "unaware");
 }
 
 // ---- Items ----

@@ -110,8 +110,8 @@ void inject(Context &context, const Invocation &invocation) {
 
 Row stage_row(uint32_t snapshot, const bf_snapshot_control_t &control) {
   Row row = snapshot_row(snapshot);
-  row.text("direction", direction_name(snapshot >> 1 & 1)).number("stage", control.stage);
-  return row.text("triggered", control.triggered ? "yes" : "no");
+  row.choice("direction", direction_name(snapshot >> 1 & 1)).number("stage", control.stage);
+  return row.choice("triggered", control.triggered ? "yes" : "no");
 }
 
 // A row for each stage that the packet went through, with the fields that are not 0; none before
@@ -121,6 +121,7 @@ void show(Context &context, const Invocation &invocation) {
   const uint32_t snapshot = options.handle(context, "snapshot");
   const bindings::Record &capture = record_in(bindings::binding.captures, "capture", {});
   Row sample = stage_row(snapshot, {});
+  for (const char *word : {"yes", "no"}) sample.choice("triggered", word);
   add_samples(sample, "fields", capture);
   context.results.expect(sample);
   std::vector<Capture> records(kMostCaptures);

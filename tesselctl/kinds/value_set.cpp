@@ -71,8 +71,9 @@ class SetValues : public NumberItems {
 
  protected:
   void add_numbers(Row &row, const Numbers &value) const override {
-    row.text("value", hexadecimal(value[0])).text("mask", hexadecimal(value[1]));
-    row.text("direction", value[2] == 0 ? "ingress" : "egress");
+    row.hexadecimal("value", static_cast<uint32_t>(value[0]));
+    row.hexadecimal("mask", static_cast<uint32_t>(value[1]));
+    row.choice("direction", value[2] == 0 ? "ingress" : "egress");
     if (value[3] != BF_ALL_PIPES) row.number("pipe", value[3]);
     if (value[4] != SOFT_ALL_PARSERS) row.number("parser", value[4]);
   }
@@ -149,7 +150,7 @@ void show(Context &context, const Invocation &invocation) {
   const Enumeration values = set_values_of(context.device, line.object.name, target);
   const auto row_of = [&](uint32_t entry, const MaskedValue &value) {
     Row row = line.row().number("entry", entry);
-    return row.text("value", hexadecimal(value.value)).text("mask", hexadecimal(value.mask));
+    return row.hexadecimal("value", value.value).hexadecimal("mask", value.mask);
   };
   context.results.expect(row_of(0, {}));
   for_each_handle(values, line.word, [&](uint32_t entry) {

@@ -44,13 +44,11 @@ void RecordWriter::finish(Word word) {
 
 namespace {
 
-bool same_field_value(const void *field, std::string_view shown, Word written) {
-  return same_value(*static_cast<const Field *>(field), shown, written);
-}
-
-bool same_action(const void *, std::string_view shown, Word written) {
-  resolve(written, actions(), "action");
-  return shown == written.text;
+ValueKind kind_of(const Field &field) {
+  const auto matches = [](const void *what, std::string_view shown, Word wanted) {
+    return matches_value(*static_cast<const Field *>(what), shown, wanted);
+  };
+  return {matches, &field, field.name};
 }
 
 }  // namespace
@@ -59,21 +57,24 @@ void add_record(Row &row, std::string_view group, const bindings::Record &record
                 const uint8_t *bytes, LeaveOut leave_out) {
   for (const Field &field : record.shown()) {
     const FieldValue value = load_value(field, bytes);
-    if (field.match == Match::ternary && value.mask.is_zero()) continue;
+    if (field.match == Match::ternary && value.mask.is_zero()) {
+      row.anything(field.label, kind_of(field));
+      continue;
+    }
     if (leave_out == LeaveOut::zeroes && value.value.is_zero()) continue;
-    row.field(group, field.label, format_value(field, value), {same_field_value, &field});
+    row.field(group, field.label, format_value(field, value), kind_of(field));
   }
 }
 
 void add_action(Row &row, const bindings::Record &action, const uint8_t *bytes) {
-  row.field({}, "action", action.name, {same_action, nullptr});
+  row.choice("action", action.name);
   add_record(row, Row::kParameters, action, bytes);
 }
 
 void add_samples(Row &row, std::string_view group, const bindings::Record &record) {
   for (const Field &field : record.shown()) {
     const std::string value = format_value(field, {{}, low_ones(field.width)});
-    row.field(group, field.label, value, {same_field_value, &field});
+    row.field(group, field.label, value, kind_of(field));
   }
 }
 

@@ -3,10 +3,9 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
 #include <cstring>
 
+#include "tesselctl/text/row.hpp"
 #include "tesselctl/text/words.hpp"
 
 namespace tesselctl {
@@ -154,10 +153,7 @@ std::vector<uint64_t> number_list(Word word, uint64_t limit) {
 }
 
 float parse_real(Word text, std::string_view what) {
-  float number = 0;
-  const char *end = text.text.data() + text.text.size();
-  const auto [stop, error] = std::from_chars(text.text.data(), end, number);
-  if (error == std::errc() && stop == end && std::isfinite(number) && number >= 0) return number;
+  if (const auto number = parse_float(text.text)) return *number;
   throw Fault(text, fmt::format("{} is a number like 0.25", what));
 }
 
@@ -177,7 +173,28 @@ std::string format_value(const Field &field, const FieldValue &value) {
   return plain_text(field, value.value) + "&" + plain_text(field, value.mask);
 }
 
-bool same_value(const Field &field, std::string_view shown, Word written) {
+namespace {
+
+// Those that format_value makes values of.
+std::string_view characters_of(const Field &field) {
+  switch (field.notation) {
+    case Notation::ipv4:
+      return "0123456789./&";
+    case Notation::ipv6:
+      return "0123456789abcdef:./&";
+    case Notation::mac:
+      return "0123456789abcdef:/&";
+    default:
+      break;
+  }
+  const bool decimal = field.match != Match::ternary && field.width <= 64;
+  return decimal ? "0123456789/" : "0123456789abcdefx/&";
+}
+
+}  // namespace
+
+bool matches_value(const Field &field, std::string_view shown, Word written) {
+  if (is_pattern(written.text)) return matches_pattern(shown, written, characters_of(field));
   Field maskable = field;
   if (field.match == Match::exact) maskable.match = Match::ternary;
   return parse_value(maskable, written) == parse_value(maskable, {shown, 0});

@@ -42,9 +42,10 @@ float parse_real(Word text, std::string_view what);
 // The shortest text that parse_value reads as the same.
 std::string format_value(const Field &field, const FieldValue &value);
 
-// Whether two texts are one value of the field, in whatever notation. An exact field may be written
-// with its full mask or prefix as well. Throws Fault where written is no value of the field.
-bool same_value(const Field &field, std::string_view shown, Word written);
+// Whether two texts are one value of the field, in whatever notation, or the shown one has the
+// pattern. An exact field may be written with its full mask or prefix as well. Throws Fault where
+// no value of the field is or has what is written.
+bool matches_value(const Field &field, std::string_view shown, Word written);
 
 void store_value(const Field &field, const FieldValue &value, uint8_t *record);
 FieldValue load_value(const Field &field, const uint8_t *record);

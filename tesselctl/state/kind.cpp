@@ -119,8 +119,12 @@ void NumberItems::print(std::string &text, const ItemView &item) const {
 void NumberItems::add_numbers(Row &row, const Numbers &all) const {
   if (!layout_.what.empty()) row.object("what", layout_.what);
   for_each_column(layout_, all, [&](const Column &column, auto numbers) {
-    if (column.notation != Notation::decimal) {
-      row.text(column.name, text_of(column, numbers));
+    if (column.notation == Notation::real) {
+      row.real(column.name, real_of(numbers.front()));
+    } else if (column.notation == Notation::hexadecimal) {
+      row.hexadecimal(column.name, static_cast<uint32_t>(numbers.front()));
+    } else if (column.count == 1 && column.limit <= 0xffffffffu) {
+      row.number(column.name, static_cast<uint32_t>(numbers.front()));
     } else if (column.count == 1) {
       row.number(column.name, numbers.front());
     } else {
@@ -130,9 +134,10 @@ void NumberItems::add_numbers(Row &row, const Numbers &all) const {
 }
 
 void NumberItems::add_samples_to(Row &row, Naming) const {
-  Numbers zeros;
-  for (const Column &column : layout_.columns) zeros.resize(zeros.size() + column.count);
-  add_numbers(row, zeros);
+  size_t count = 0;
+  for (const Column &column : layout_.columns) count += column.count;
+  // Numbers that stand for words are 0 and 1.
+  for (const uint64_t number : {0, 1}) add_numbers(row, Numbers(count, number));
 }
 
 void NumberItems::read(Source &from, const ItemVisitor &visit) {

@@ -4,6 +4,8 @@
 #include <fmt/format.h>
 
 #include <bit>
+#include <charconv>
+#include <cmath>
 #include <cstring>
 
 namespace tesselctl {
@@ -55,6 +57,15 @@ std::optional<Number> parse_number(std::string_view text) {
     if (digit >= base || !multiply_add(value, base, digit)) return std::nullopt;
   }
   return value;
+}
+
+std::optional<float> parse_float(std::string_view text) {
+  float number = 0;
+  const char *end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, number);
+  const bool is_whole = error == std::errc() && stop == end;
+  if (!is_whole || !std::isfinite(number) || number < 0) return std::nullopt;
+  return number + 0.0f;  // -0 becomes 0
 }
 
 std::optional<uint32_t> parse_ipv4(std::string_view text) {

@@ -51,6 +51,8 @@ std::optional<unsigned> prefix_length_of(Number mask, unsigned width);
 
 // Decimal, or hexadecimal behind 0x, up to 128 bits. Digits may be grouped by '_'.
 std::optional<Number> parse_number(std::string_view text);
+// A real number of at least 0, in decimal notation.
+std::optional<float> parse_float(std::string_view text);
 // a.b.c.d, each 0 to 255 without leading zeros.
 std::optional<uint32_t> parse_ipv4(std::string_view text);
 std::optional<Number> parse_ipv6(std::string_view text);

@@ -14,33 +14,6 @@ namespace {
 // Rows that are looked at before the columns are chosen; a dump of a million rows starts at once.
 constexpr size_t kMeasured = 1000;
 
-bool is_plain(std::string_view pattern) { return pattern.find('*') == std::string_view::npos; }
-
-// Throws Fault.
-std::vector<Number> numbers_of(std::string_view list) {
-  std::vector<Number> numbers;
-  for (size_t at = 0; at < list.size();) {
-    const size_t end = std::min(list.find(',', at), list.size());
-    const std::optional<Number> number = parse_number(list.substr(at, end - at));
-    if (!number) throw Fault("this is not a list of numbers");
-    numbers.push_back(*number);
-    at = end + 1;
-  }
-  return numbers;
-}
-
-// A pattern, or the same value in whatever notation. Throws Fault where it is no such value.
-bool matches(const Item &item, std::string_view pattern) {
-  if (matches_pattern(item.value, pattern)) return true;
-  if (!is_plain(pattern)) return false;
-  if (item.of.same != nullptr) return item.of.same(item.of.what, item.value, {pattern, 0});
-  if (item.kind == Item::Kind::list) return numbers_of(item.value) == numbers_of(pattern);
-  const std::optional<Number> wanted = parse_number(pattern);
-  const bool is_number = item.kind == Item::Kind::number || item.value.starts_with("0x");
-  if (!wanted && is_number) throw Fault("this is not a number");
-  return wanted && parse_number(item.value) == wanted;
-}
-
 // Items that stand in a column of their own; the others follow as words.
 bool has_column(const Item &item) {
   return item.group != Row::kParameters && item.kind != Item::Kind::list;
@@ -49,23 +22,6 @@ bool has_column(const Item &item) {
 bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
 }  // namespace
-
-bool matches_pattern(std::string_view text, std::string_view pattern) {
-  const size_t star = pattern.find('*');
-  if (star == std::string_view::npos) return text == pattern;
-  if (!text.starts_with(pattern.substr(0, star))) return false;
-  text.remove_prefix(star);
-  pattern.remove_prefix(star + 1);
-  while (true) {
-    const size_t next = pattern.find('*');
-    const std::string_view piece = pattern.substr(0, next);
-    if (next == std::string_view::npos) return text.ends_with(piece);
-    const size_t found = text.find(piece);
-    if (found == std::string_view::npos) return false;
-    text.remove_prefix(found + piece.size());
-    pattern.remove_prefix(next + 1);
-  }
-}
 
 bool sorts_before(std::string_view a, std::string_view b) {
   while (!a.empty() && !b.empty()) {
@@ -110,14 +66,14 @@ bool Results::passes(size_t filter, const Item &item) {
   FilterState &state = filter_states_[filter];
   state.is_known = true;
   const std::string &pattern = settings_.filters[filter].pattern;
-  // Of names there are those that rows have, and no more.
-  if (item.kind == Item::Kind::object && is_plain(pattern)) {
-    if (item.value == pattern) return state.is_value = true;
+  if (item.of.matches == nullptr) {
+    const bool passes = matches_text(nullptr, item.value, {pattern, 0});
+    state.is_value = state.is_value || passes;
     if (!state.is_value) state.near = nearest(pattern, std::array{state.near, item.value});
-    return false;
+    return passes;
   }
   try {
-    const bool passes = matches(item, pattern);
+    const bool passes = item.of.matches(item.of.what, item.value, {pattern, 0});
     state.is_value = true;
     return passes;
   } catch (const Fault &fault) {
@@ -151,7 +107,7 @@ void Results::expect(const Row &row) {
   note_names(row);
   for (size_t i = 0; i < settings_.filters.size(); ++i) {
     for (const Item &item : row.items()) {
-      if (same_name(item.name, settings_.filters[i].name)) passes(i, item);
+      if (goes_by(item, settings_.filters[i].name)) passes(i, item);
     }
   }
 }

@@ -98,8 +98,6 @@ class Results {
   std::set<std::string> key_names_;  // of columns whose absent value matches anything
 };
 
-// Whether a text is one that a pattern with '*' describes.
-bool matches_pattern(std::string_view text, std::string_view pattern);
 // As people sort: runs of digits count as numbers.
 bool sorts_before(std::string_view a, std::string_view b);
 

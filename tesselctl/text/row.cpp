@@ -3,8 +3,12 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cctype>
+#include <optional>
 
+#include "tesselctl/text/number.hpp"
 #include "tesselctl/text/utf8.hpp"
+#include "tesselctl/text/words.hpp"
 
 namespace tesselctl {
 
@@ -23,6 +27,96 @@ bool same_name(std::string_view a, std::string_view b) {
     if (left == '\0') return true;
   }
 }
+
+// ---- Kinds of values ----
+
+namespace {
+
+std::string lowered(std::string_view text) {
+  std::string lower(text);
+  for (char &c : lower) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return lower;
+}
+
+bool is_digit(char c) { return c >= '0' && c <= '9'; }
+
+Number parse_wanted(std::string_view text) {
+  if (const auto number = parse_number(text)) return *number;
+  throw Fault("this is not a number");
+}
+
+bool matches_real(const void *, std::string_view shown, Word wanted) {
+  if (is_pattern(wanted.text)) return matches_pattern(shown, wanted, "0123456789.e+-");
+  const std::optional<float> number = parse_float(wanted.text);
+  if (!number) throw Fault("this is not a number");
+  return number == parse_float(shown);
+}
+
+}  // namespace
+
+bool matches_pattern(std::string_view text, std::string_view pattern) {
+  const std::string lower_text = lowered(text);
+  const std::string lower_pattern = lowered(pattern);
+  text = lower_text;
+  pattern = lower_pattern;
+  const size_t star = pattern.find('*');
+  if (star == std::string_view::npos) return text == pattern;
+  if (!text.starts_with(pattern.substr(0, star))) return false;
+  text.remove_prefix(star);
+  pattern.remove_prefix(star + 1);
+  while (true) {
+    const size_t next = pattern.find('*');
+    const std::string_view piece = pattern.substr(0, next);
+    if (next == std::string_view::npos) return text.ends_with(piece);
+    const size_t found = text.find(piece);
+    if (found == std::string_view::npos) return false;
+    text.remove_prefix(found + piece.size());
+    pattern.remove_prefix(next + 1);
+  }
+}
+
+bool matches_pattern(std::string_view shown, Word pattern, std::string_view characters) {
+  const std::string lower = lowered(pattern.text);
+  const bool digit_first = characters.find(':') == std::string_view::npos;
+  const bool can_begin = !digit_first || lower.front() == '*' || is_digit(lower.front());
+  const bool can_be =
+      lower.find_first_not_of(std::string(characters) + '*') == std::string_view::npos;
+  if (!can_begin || !can_be) throw Fault("no row can have this");
+  return matches_pattern(shown, lower);
+}
+
+bool matches_text(const void *, std::string_view shown, Word wanted) {
+  return is_pattern(wanted.text) ? matches_pattern(shown, wanted.text) : shown == wanted.text;
+}
+
+bool matches_number(const void *most, std::string_view shown, Word wanted) {
+  const bool is_hexadecimal = shown.starts_with("0x");
+  if (is_pattern(wanted.text)) {
+    return matches_pattern(shown, wanted, is_hexadecimal ? "0123456789abcdefx" : "0123456789");
+  }
+  const Number number = parse_wanted(wanted.text);
+  const uint64_t limit = *static_cast<const uint64_t *>(most);
+  if (number.high != 0 || number.low > limit) {
+    throw Fault(fmt::format("the number is at most {}", limit));
+  }
+  return parse_number(shown) == number;
+}
+
+bool matches_numbers(const void *, std::string_view shown, Word wanted) {
+  if (is_pattern(wanted.text)) return matches_pattern(shown, wanted, "0123456789,");
+  const auto numbers_of = [](std::string_view list) {
+    std::vector<Number> numbers;
+    while (!list.empty()) {
+      const auto number = parse_number(take_until(list, ','));
+      if (!number) throw Fault("this is not a list of numbers");
+      numbers.push_back(*number);
+    }
+    return numbers;
+  };
+  return numbers_of(shown) == numbers_of(wanted.text);
+}
+
+// ---- Rows ----
 
 namespace {
 
@@ -44,7 +138,17 @@ std::string json_value(const Item &item) {
 Row &Row::list(std::string_view name, const std::vector<uint64_t> &values) {
   std::string text;
   for (const uint64_t value : values) text += (text.empty() ? "" : ",") + std::to_string(value);
-  return add({Item::Kind::list, {}, std::string(name), text, {}, {}});
+  return add({Item::Kind::list, {}, std::string(name), text, {}, {matches_numbers}});
+}
+
+Row &Row::hexadecimal(std::string_view name, uint32_t value) {
+  const ValueKind of = {matches_number, &kMost<uint32_t>};
+  return add({Item::Kind::text, {}, std::string(name), tesselctl::hexadecimal(value), {}, of});
+}
+
+Row &Row::real(std::string_view name, float value) {
+  return add(
+      {Item::Kind::number, {}, std::string(name), fmt::format("{}", value), {}, {matches_real}});
 }
 
 Row &Row::field(std::string_view group, std::string_view name, std::string value, ValueKind of) {
@@ -53,10 +157,20 @@ Row &Row::field(std::string_view group, std::string_view name, std::string value
   return add({kind, group, std::string(name), std::move(value), {}, of});
 }
 
+Row &Row::anything(std::string_view name, ValueKind of) {
+  unshown_.push_back({Item::Kind::text, kKey, std::string(name), "*", {}, of});
+  return *this;
+}
+
 const Item *Row::find(std::string_view name) const {
-  const auto found = std::find_if(items_.begin(), items_.end(),
-                                  [&](const Item &item) { return same_name(item.name, name); });
-  return found == items_.end() ? nullptr : &*found;
+  const Item *found = nullptr;
+  for (const auto *items : {&items_, &unshown_}) {
+    for (const Item &item : *items) {
+      if (same_name(item.name, name)) return &item;
+      if (found == nullptr && goes_by(item, name)) found = &item;
+    }
+  }
+  return found;
 }
 
 std::string item_words(const Item &item) {

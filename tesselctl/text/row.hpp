@@ -9,7 +9,9 @@
 //    "action":"forward","parameters":{"port":12}}
 #pragma once
 
+#include <concepts>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,11 +22,28 @@ namespace tesselctl {
 
 // What the values of an item are, so that filters compare values and not how they are written.
 struct ValueKind {
-  // Throws Fault where written is no such value.
-  using Same = bool (*)(const void *what, std::string_view shown, Word written);
-  Same same = nullptr;  // null: equal texts
+  // Whether a shown value is the wanted one, or has its pattern. Throws Fault where no such value
+  // is.
+  using Matches = bool (*)(const void *what, std::string_view shown, Word wanted);
+  Matches matches = nullptr;  // null: a name, of which there are those that rows have and no more
   const void *what = nullptr;
+  std::string_view field = {};  // its name in the record, which the item goes by too
 };
+
+// Whether a text is a pattern, in which '*' stands for any characters.
+inline bool is_pattern(std::string_view text) { return text.find('*') != std::string_view::npos; }
+// Upper and lower case make no difference.
+bool matches_pattern(std::string_view text, std::string_view pattern);
+// Of values that are shown in those characters, lower case and digits first; unless ':' is one of
+// them, a value begins with a digit. Throws Fault when none can have the pattern.
+bool matches_pattern(std::string_view shown, Word pattern, std::string_view characters);
+
+// Kinds of values; the number is at most *what.
+bool matches_text(const void *, std::string_view shown, Word wanted);
+bool matches_number(const void *most, std::string_view shown, Word wanted);
+bool matches_numbers(const void *, std::string_view shown, Word wanted);
+template <std::unsigned_integral T>
+inline constexpr uint64_t kMost = std::numeric_limits<T>::max();
 
 struct Item {
   enum class Kind : uint8_t {
@@ -50,17 +69,28 @@ class Row {
     return add({Item::Kind::object, {}, std::string(name), std::string(value), {}, {}});
   }
   Row &text(std::string_view name, std::string_view value) {
+    return add({Item::Kind::text, {}, std::string(name), std::string(value), {}, {matches_text}});
+  }
+  // A text that is one of a few.
+  Row &choice(std::string_view name, std::string_view value) {
     return add({Item::Kind::text, {}, std::string(name), std::string(value), {}, {}});
   }
-  Row &number(std::string_view name, uint64_t value, std::string_view unit = {}) {
-    return add({Item::Kind::number, {}, std::string(name), std::to_string(value), unit, {}});
+  template <std::unsigned_integral T>
+  Row &number(std::string_view name, T value, std::string_view unit = {}) {
+    const ValueKind of = {matches_number, &kMost<T>};
+    return add({Item::Kind::number, {}, std::string(name), std::to_string(value), unit, of});
   }
+  // A string in JSON.
+  Row &hexadecimal(std::string_view name, uint32_t value);
+  Row &real(std::string_view name, float value);
   Row &list(std::string_view name, const std::vector<uint64_t> &values);
   // A value with a notation of its own; a number in JSON where it is written as one.
   Row &field(std::string_view group, std::string_view name, std::string value, ValueKind of);
+  // Of a field that matches anything: found, but neither printed nor one of the items.
+  Row &anything(std::string_view name, ValueKind of);
 
   const std::vector<Item> &items() const { return items_; }
-  // The item of that name.
+  // The item of that name, or else of the field of that name.
   const Item *find(std::string_view name) const;
 
   std::string words() const;
@@ -72,10 +102,14 @@ class Row {
     return *this;
   }
   std::vector<Item> items_;
+  std::vector<Item> unshown_;
 };
 
 // Names as people write them: '_' and upper and lower case make no difference.
 bool same_name(std::string_view a, std::string_view b);
+inline bool goes_by(const Item &item, std::string_view name) {
+  return same_name(item.name, name) || (!item.of.field.empty() && same_name(item.of.field, name));
+}
 // "name=value unit", or the value alone for an object.
 std::string item_words(const Item &item);
 // The text as a JSON string, in quotes. Bytes that are no UTF-8 become U+FFFD.
