@@ -27,12 +27,13 @@ void copy_all(const Device &target, const Device &source) {
   }
 }
 
-// Runs visit(handle) for the members or groups of an object until it fails.
+// Runs visit(handle) for the members or groups of an object, if there is one, until it fails.
 template <class Visit>
-bf_status_t for_each(Object &object, Visit visit) {
+bf_status_t for_each(Object *object, Visit visit) {
+  if (object == nullptr) return BF_SUCCESS;
   uint32_t at = 0;
-  for (bf_status_t found = object.first_entry(BF_ALL_PIPES, &at); found == BF_SUCCESS;
-       found = object.next_entries(BF_ALL_PIPES, at, 1, &at)) {
+  for (bf_status_t found = object->first_entry(BF_ALL_PIPES, &at); found == BF_SUCCESS;
+       found = object->next_entries(BF_ALL_PIPES, at, 1, &at)) {
     const bf_status_t status = visit(at);
     if (status != BF_SUCCESS) return status;
   }
@@ -45,24 +46,25 @@ class Report {
   Report(const Device &device, pipe_session_handle_t session, pipe_mgr_replay_cb_t callback)
       : device_(static_cast<uint8_t>(device.id())), session_(session), callback_(callback) {}
 
-  bf_status_t members(ActionDataTable &table) const {
-    return for_each(table, [&](pipe_member_handle_t member) -> bf_status_t {
+  // Each of a profile's members and its selector, which may be null.
+  bf_status_t members(ActionDataTable &table, Selector *) const {
+    return for_each(&table, [&](pipe_member_handle_t member) -> bf_status_t {
       pipe_object_handle_t action = 0;
       if (table.action_of(member, &action) != BF_SUCCESS) return BF_SUCCESS;
       return report(table, action, 0, member);
     });
   }
 
-  bf_status_t groups(const ActionDataTable &table, Selector &selector) const {
+  bf_status_t groups(ActionDataTable &table, Selector *selector) const {
     return for_each(selector,
                     [&](pipe_group_handle_t group) { return report(table, 0, group, 0); });
   }
 
-  bf_status_t memberships(ActionDataTable &table, Selector &selector) const {
+  bf_status_t memberships(ActionDataTable &table, Selector *selector) const {
     return for_each(selector, [&](pipe_group_handle_t group) -> bf_status_t {
       pipe_member_handle_t member = 0;
-      for (bf_status_t found = selector.first_member(group, &member); found == BF_SUCCESS;
-           found = selector.next_members(group, member, {&member, 1})) {
+      for (bf_status_t found = selector->first_member(group, &member); found == BF_SUCCESS;
+           found = selector->next_members(group, member, {&member, 1})) {
         pipe_object_handle_t action = 0;
         if (table.action_of(member, &action) != BF_SUCCESS) continue;
         const bf_status_t status = report(table, action, group, member);
@@ -84,30 +86,17 @@ class Report {
   pipe_mgr_replay_cb_t callback_;
 };
 
-// Runs step(members, selector) for each profile until it fails; the selector may be null.
-template <class Step>
-bf_status_t for_each_profile(const Device &device, Step step) {
+bf_status_t report_all(const Device &device, const Report &report) {
   const soft_program_t &program = device.program();
-  for (const soft_profile_t &profile : described(program.profiles, program.profile_count)) {
-    auto *members = device.find<ActionDataTable>(profile.action_data_table);
-    auto *selector = profile.selector == 0 ? nullptr : device.find<Selector>(profile.selector);
-    const bf_status_t status = step(*members, selector);
-    if (status != BF_SUCCESS) return status;
+  for (const auto step : {&Report::members, &Report::groups, &Report::memberships}) {
+    for (const soft_profile_t &profile : described(program.profiles, program.profile_count)) {
+      auto *members = device.find<ActionDataTable>(profile.action_data_table);
+      auto *selector = profile.selector == 0 ? nullptr : device.find<Selector>(profile.selector);
+      const bf_status_t status = (report.*step)(*members, selector);
+      if (status != BF_SUCCESS) return status;
+    }
   }
   return BF_SUCCESS;
-}
-
-bf_status_t report_all(const Device &device, const Report &report) {
-  bf_status_t status = for_each_profile(
-      device, [&](ActionDataTable &members, Selector *) { return report.members(members); });
-  if (status != BF_SUCCESS) return status;
-  status = for_each_profile(device, [&](ActionDataTable &members, Selector *selector) {
-    return selector == nullptr ? bf_status_t{BF_SUCCESS} : report.groups(members, *selector);
-  });
-  if (status != BF_SUCCESS) return status;
-  return for_each_profile(device, [&](ActionDataTable &members, Selector *selector) {
-    return selector == nullptr ? bf_status_t{BF_SUCCESS} : report.memberships(members, *selector);
-  });
 }
 
 bf_status_t replay(Device &target, const Device &source, bf_pipe_id_t pipe,
