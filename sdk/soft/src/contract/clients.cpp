@@ -26,13 +26,10 @@ struct Clients {
   std::vector<Client> list;  // ascending by priority, then by registration
   uint32_t last_handle = 0;
 
-  // All three under the mutex.
-  Client *find(uint32_t handle) {
-    auto it = std::ranges::find(list, handle, &Client::handle);
-    return it == list.end() ? nullptr : &*it;
-  }
-  Client *find(std::string_view name) {
-    auto it = std::ranges::find(list, name, &Client::name);
+  // Both under the mutex.
+  template <class Key, class Member>
+  Client *find(const Key &key, Member of) {
+    const auto it = std::ranges::find(list, key, of);
     return it == list.end() ? nullptr : &*it;
   }
   void sort() { std::ranges::stable_sort(list, {}, &Client::priority); }
@@ -52,7 +49,7 @@ std::vector<Client> clients_now() {
 bf_status_t add_client(const char *name, uint32_t *handle) {
   if (name == nullptr || handle == nullptr) return BF_INVALID_ARGUMENT;
   const std::lock_guard lock(clients().mutex);
-  if (clients().find(std::string_view(name)) != nullptr) return BF_ALREADY_EXISTS;
+  if (clients().find(std::string_view(name), &Client::name) != nullptr) return BF_ALREADY_EXISTS;
   clients().list.push_back({clients().last_handle + 1, name, 0, {}});
   *handle = ++clients().last_handle;
   clients().sort();
@@ -63,7 +60,7 @@ bf_status_t bind_callbacks(uint32_t handle, const bf_drv_client_callbacks_t *cal
                            uint32_t priority) {
   if (callbacks == nullptr) return BF_INVALID_ARGUMENT;
   const std::lock_guard lock(clients().mutex);
-  Client *client = clients().find(handle);
+  Client *client = clients().find(handle, &Client::handle);
   if (client == nullptr) return BF_OBJECT_NOT_FOUND;
   client->callbacks = *callbacks;
   client->priority = priority;
@@ -164,7 +161,8 @@ bf_status_t soft_client_get(const char *client_name, uint32_t *client, uint32_t 
                             bf_drv_client_callbacks_t *callbacks) {
   if (client_name == nullptr) return BF_INVALID_ARGUMENT;
   const std::lock_guard lock(soft::clients().mutex);
-  const soft::Client *found = soft::clients().find(std::string_view(client_name));
+  const soft::Client *found =
+      soft::clients().find(std::string_view(client_name), &soft::Client::name);
   if (found == nullptr) return BF_OBJECT_NOT_FOUND;
   if (client != nullptr) *client = found->handle;
   if (priority != nullptr) *priority = found->priority;
