@@ -51,10 +51,10 @@ bf_status_t DigestEngine::acknowledge(const pipe_mgr_digest_message_t *message) 
 }
 
 void DigestEngine::forget(const Message &message) {
-  for (size_t at = 0; at < message.entries.size(); at += entry_bytes_) {
-    const auto entry = known_.find(entry_at(message.entries.data() + at));
+  each(message.entries, [this](std::string_view bytes) {
+    const auto entry = known_.find(bytes);
     if (entry != known_.end()) known_.erase(entry);
-  }
+  });
 }
 
 bf_status_t DigestEngine::inject(bf_pipe_id_t pipe, std::span<const uint8_t> entries,
@@ -63,9 +63,7 @@ bf_status_t DigestEngine::inject(bf_pipe_id_t pipe, std::span<const uint8_t> ent
   {
     const std::lock_guard lock(mutex_);
     if (callback_ == nullptr) return BF_NOT_READY;
-    for (size_t at = 0; at < entries.size(); at += entry_bytes_) {
-      if (collect(pipe, entries.data() + at)) ++fresh;
-    }
+    each(entries, [&](std::string_view entry) { fresh += collect(pipe, entry); });
     if (timeout_us_ == 0) close(pipe);
   }
   if (learnt != nullptr) *learnt = fresh;
@@ -75,7 +73,7 @@ bf_status_t DigestEngine::inject(bf_pipe_id_t pipe, std::span<const uint8_t> ent
 
 // Takes an entry into the message of its pipe; false when it is known. May throw std::bad_alloc,
 // and then the entry is not taken.
-bool DigestEngine::collect(bf_pipe_id_t pipe, const uint8_t *entry) {
+bool DigestEngine::collect(bf_pipe_id_t pipe, std::string_view entry) {
   Messages &open = collecting_[pipe];
   if (open.empty()) open.emplace_back();
   Message &message = open.front();
@@ -84,9 +82,9 @@ bool DigestEngine::collect(bf_pipe_id_t pipe, const uint8_t *entry) {
     message.head = {device_, pipe, handle(), 0, entry_bytes_, message.entries.data()};
     message.begun_ms = soft_clock_now();
   }
-  if (known_.contains(entry_at(entry))) return false;
-  known_.emplace(entry_at(entry));
-  message.entries.insert(message.entries.end(), entry, entry + entry_bytes_);
+  if (known_.contains(entry)) return false;
+  known_.emplace(entry);
+  message.entries.insert(message.entries.end(), entry.begin(), entry.end());
   if (++message.head.entry_count == SOFT_DIGEST_BATCH) close(pipe);
   return true;
 }
@@ -166,9 +164,7 @@ void DigestEngine::take_over(DigestEngine &other) {
     copy.entries.reserve(size_t{SOFT_DIGEST_BATCH} * entry_bytes_);
     copy.head.device = device_;
     copy.head.entries = copy.entries.data();
-    for (size_t at = 0; at < copy.entries.size(); at += entry_bytes_) {
-      known_.emplace(entry_at(copy.entries.data() + at));
-    }
+    each(copy.entries, [this](std::string_view entry) { known_.emplace(entry); });
   };
   for (size_t pipe = 0; pipe < collecting_.size(); ++pipe) {
     for (const Message &message : other.collecting_[pipe]) add(collecting_[pipe], message);
@@ -184,10 +180,10 @@ void DigestEngine::inherit(Object &predecessor) noexcept {
   callback_ = old.callback_;
   cookie_ = old.cookie_;
   for (const Message &message : old.sent_) {
-    for (size_t at = 0; at < message.entries.size(); at += entry_bytes_) {
-      const auto entry = old.known_.find(entry_at(message.entries.data() + at));
+    each(message.entries, [&](std::string_view bytes) {
+      const auto entry = old.known_.find(bytes);
       if (entry != old.known_.end()) known_.insert(old.known_.extract(entry));
-    }
+    });
   }
   sent_.splice(sent_.end(), old.sent_);
 }

@@ -58,11 +58,14 @@ class DigestEngine : public Engine<DigestEngine> {
   // A message moves from list to list and never in memory: its address is its name.
   using Messages = std::list<Message>;
 
-  std::string_view entry_at(const uint8_t *bytes) const {
-    return {reinterpret_cast<const char *>(bytes), entry_bytes_};
+  // Runs visit(entry) on the bytes of each entry.
+  template <class Visit>
+  void each(std::span<const uint8_t> entries, Visit visit) const {
+    const std::string_view all(reinterpret_cast<const char *>(entries.data()), entries.size());
+    for (size_t at = 0; at < all.size(); at += entry_bytes_) visit(all.substr(at, entry_bytes_));
   }
   // The members below are called under the lock.
-  bool collect(bf_pipe_id_t pipe, const uint8_t *entry);
+  bool collect(bf_pipe_id_t pipe, std::string_view entry);
   void close(bf_pipe_id_t pipe);
   void close_due(uint64_t now_ms);
   void forget(const Message &message);
