@@ -13,6 +13,11 @@ namespace tesselctl {
 
 namespace {
 
+void run_traced(Context &context, const Command &command, const Invocation &invocation) {
+  const TraceScope trace(context.settings.trace ? &context.results : nullptr);
+  command.run(context, invocation);
+}
+
 // Runs the command on a copy of the device, which is gone afterwards.
 void run_on_copy(Context &context, const Command &command, const Invocation &invocation) {
   const std::unique_ptr<Device> copy = copy_of(context.device);
@@ -25,7 +30,7 @@ void run_on_copy(Context &context, const Command &command, const Invocation &inv
                    .is_trial = true};
   trial.results = context.results;
   try {
-    command.run(trial, invocation);
+    run_traced(trial, command, invocation);
   } catch (...) {
     context.results = trial.results;
     throw;
@@ -34,12 +39,11 @@ void run_on_copy(Context &context, const Command &command, const Invocation &inv
 }
 
 void run_command(Context &context, const Command &command, const Invocation &invocation) {
-  const TraceScope trace(context.settings.trace ? &context.results : nullptr);
   try {
     if (context.settings.dry_run) {
       run_on_copy(context, command, invocation);
     } else {
-      command.run(context, invocation);
+      run_traced(context, command, invocation);
     }
     context.results.end();
   } catch (const std::bad_alloc &) {
