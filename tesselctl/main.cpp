@@ -226,9 +226,9 @@ int run_words(ToolSettings &settings, std::vector<Word> words) {
     refuse_arguments_from(invocation, 0);
     return run_serve(settings);
   }
-  check_socket(settings);
   // Help needs no device.
   if (of_line.help) settings.image.clear(), settings.socket.clear();
+  check_socket(settings);
   return run_command(settings, words);
 }
 
