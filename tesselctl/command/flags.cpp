@@ -55,8 +55,13 @@ constexpr Flag kFlags[] = {
     {"--device", FlagOf::tool, set_device, "id of the device, 0 to 255 (0)", "N"},
     {"--pipes", FlagOf::tool, set_pipes, "pipes of the device, 1 to 8 (those of the image, or 4)",
      "N"},
-    {"--history", FlagOf::tool, set_text<&ToolSettings::history>,
-     "file of the shell's history; \"\" keeps none", "FILE"},
+    {"--history",
+     FlagOf::tool,
+     set_text<&ToolSettings::history>,
+     "file of the shell's history; \"\" keeps none",
+     "FILE",
+     {},
+     true},
     {"--no-color", FlagOf::tool, turn_on<&ToolSettings::no_colour>, "never prints in colour"},
     {"--version", FlagOf::tool, turn_on<&ToolSettings::version>,
      "prints the versions of the tool, the library and its contracts"},
@@ -94,13 +99,16 @@ const Flag &need_flag(Word word) {
 Word take_value(const Flag &flag, Words words, size_t &at) {
   const Word word = words[at];
   const size_t equals = word.text.find('=');
-  if (flag.wants_next(word.text)) {
-    if (at + 1 < words.size()) return words[++at];
-    throw Fault(word, std::string(flag.name) + " needs " + std::string(flag.value));
+  if (flag.value.empty()) {
+    if (equals == std::string_view::npos) return {{}, word.column};
+    throw Fault(word, std::string(flag.name) + " takes no value");
   }
-  if (equals == std::string_view::npos) return {{}, word.column};
-  if (flag.value.empty()) throw Fault(word, std::string(flag.name) + " takes no value");
-  return word.from(equals + 1);
+  const bool is_next = flag.wants_next(word.text);
+  const bool is_there = !is_next || at + 1 < words.size();
+  Word value;
+  if (is_there) value = is_next ? words[++at] : word.from(equals + 1);
+  if (is_there && (flag.may_be_empty || !value.text.empty())) return value;
+  throw Fault(word, std::string(flag.name) + " needs " + std::string(flag.value));
 }
 
 bool has_word(std::string_view words, std::string_view word) {

@@ -32,6 +32,7 @@ struct Flag {
   std::string_view help;
   std::string_view value = {};   // what stands behind it, in capitals; empty for nothing
   std::string_view letter = {};  // "-v", or empty
+  bool may_be_empty = false;     // the value
 
   // Whether the word after that one is the value.
   bool wants_next(std::string_view word) const {
