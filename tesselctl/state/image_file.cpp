@@ -20,6 +20,10 @@ DeviceOfImage::DeviceOfImage(const DeviceOptions &device, const ImageOptions &im
   if (use_ == ImageUse::changes) {
     place_ = FilePlace::of_file(image_.path);
     if (place_.folder.is_open()) lock_.emplace(place_);
+    if (place_.exists && is_compressed(image_.path)) {
+      throw Fault(image_.path +
+                  ": a compressed image can be read only; decompress it with xz -d first");
+    }
   }
   // Only now: whoever had the lock may have made the image.
   is_new_ = use_ == ImageUse::changes && access(image_.path.c_str(), F_OK) != 0;

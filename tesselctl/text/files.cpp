@@ -174,6 +174,11 @@ std::string path_in(const std::string &directory, const std::string &name) {
   return directory + (directory.ends_with('/') ? "" : "/") + name;
 }
 
+bool is_compressed(const std::string &path) {
+  const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+  return file.is_open() && is_xz(file.get());
+}
+
 bool is_no_regular_file(const std::string &path) {
   struct stat status;
   return stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode);

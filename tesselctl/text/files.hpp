@@ -73,6 +73,7 @@ class FileLines {
 
 // The file of that name as seen from the directory: the name itself when it is absolute.
 std::string path_in(const std::string &directory, const std::string &name);
+bool is_compressed(const std::string &path);
 // Whether something is there that a read or write could wait for: a pipe, a terminal, a device.
 bool is_no_regular_file(const std::string &path);
 
