@@ -146,11 +146,15 @@ void read(Context &context, const Invocation &invocation) {
                read_cell(context.device, line.object, index, read_flags(line.options), line.word)));
 }
 
+// The first cell, and how many.
+std::pair<uint64_t, uint64_t> range_of(const Options &options, uint64_t limit) {
+  const uint64_t first = options.number("first", kLastCell);
+  return {first, options.number("count", std::min(limit, SOFT_REGISTER_CELLS - first), 1)};
+}
+
 void read_range(Context &context, const Invocation &invocation) {
   const RegisterLine line(context, invocation, {"first", "count", "source"});
-  const uint64_t first = line.options.number("first", kLastCell);
-  const uint64_t wanted =
-      line.options.number("count", std::min<uint64_t>(kRangeLimit, SOFT_REGISTER_CELLS - first));
+  const auto [first, wanted] = range_of(line.options, kRangeLimit);
   CellBuffer buffer(line.object, static_cast<size_t>(wanted) * context.device.pipes() + 1);
   uint32_t indexes = 0;
   uint32_t count = 0;
@@ -179,8 +183,8 @@ void reset(Context &context, const Invocation &invocation) {
   const bool range = line.options.has("first") || line.options.has("count");
   Call call = line.call(range ? "register_range_reset" : "register_reset_all");
   if (range) {
-    call.set("first", line.options.number("first", kLastCell));
-    call.set("index_count", line.options.number("count", 0xffffffffu));
+    const auto [first, count] = range_of(line.options, SOFT_REGISTER_CELLS);
+    call.set("first", first).set("index_count", count);
   }
   line.run(call);
   line.done("reset");
