@@ -10,8 +10,20 @@ namespace {
 
 using Params = p4_pd_wred_params_t;
 
+// The program has no WRED tables. The soft SDK takes these handles for some, as soft_traffic.h
+// says.
+constexpr uint64_t kFirstHandle = 0x07000001;
+constexpr uint64_t kLastHandle = 0x07ffffff;
+
+void check_handle(uint64_t handle, Word word) {
+  if (handle >= kFirstHandle && handle <= kLastHandle) return;
+  throw Fault(word, fmt::format("the handle of a WRED table is {:#010x} to {:#010x}", kFirstHandle,
+                                kLastHandle));
+}
+
 void write_cell(const Device &device, const p4_pd_device_target_t &target, uint64_t handle,
                 uint64_t index, const Params &params, Word word) {
+  check_handle(handle, word);
   Call call = device.prepare("wred_set", "");
   call.set("target", &target).set("wred", handle).set("index", index).set("params", &params);
   check(call.run(), word);
@@ -71,7 +83,7 @@ void set(Context &context, const Invocation &invocation) {
   Params params = {};
   params.min_threshold_cells = static_cast<uint32_t>(options.number("min", 0xffffffffu));
   params.max_threshold_cells = static_cast<uint32_t>(options.number("max", 0xffffffffu));
-  params.max_probability = parse_real(options.need("probability"), "probability");
+  params.max_probability = parse_real(options.need("probability"), "probability", 1);
   params.time_constant_ns = parse_real(options.need("time"), "time");
   write_cell(context.device, target, handle, options.number("index", SOFT_WRED_CELLS - 1), params,
              options.need("handle"));
@@ -85,6 +97,7 @@ void get(Context &context, const Invocation &invocation) {
   const uint64_t wanted[] = {options.number_or("handle", 0xffffffffu, kAny),
                              options.number_or("index", SOFT_WRED_CELLS - 1, kAny),
                              options.number_or("pipe", context.device.pipes() - 1, kAny)};
+  if (wanted[0] != kAny) check_handle(wanted[0], options.need("handle"));
   WredCells cells;
   Row sample;
   cells.add_samples_to(sample, Naming::handles);
@@ -103,7 +116,7 @@ void get(Context &context, const Invocation &invocation) {
 }
 
 constexpr Command kCommands[] = {
-    {"wred set", "handle=N index=N min=N max=N probability=P time=NS [pipe=N]",
+    {"wred set", "handle=N index=N min=CELLS max=CELLS probability=P time=NS [pipe=N]",
      "sets a WRED profile; without pipe= in all pipes", set, Kind::changes},
     {"wred get", "[handle=N] [index=N] [pipe=N]", "prints the WRED profiles that were set", get,
      Kind::lists},

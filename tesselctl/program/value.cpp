@@ -152,9 +152,10 @@ std::vector<uint64_t> number_list(Word word, uint64_t limit) {
   return numbers;
 }
 
-float parse_real(Word text, std::string_view what) {
-  if (const auto number = parse_float(text.text)) return *number;
-  throw Fault(text, fmt::format("{} is a number like 0.25", what));
+float parse_real(Word text, std::string_view what, float limit) {
+  const auto number = parse_float(text.text);
+  if (number && *number <= limit) return *number;
+  throw Fault(text, fmt::format("{} is a number from 0 to {}, like 0.25", what, limit));
 }
 
 std::string format_value(const Field &field, const FieldValue &value) {

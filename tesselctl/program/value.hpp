@@ -12,6 +12,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <string>
 
 #include "tesselctl/program/field.hpp"
@@ -36,8 +37,8 @@ uint64_t parse_limited(Word text, uint64_t limit, const std::string &what, uint6
 // The numbers of "1,2,3", up to a limit; none of an empty word. Throws Fault.
 std::vector<uint64_t> number_list(Word word, uint64_t limit = 0xffffffffu);
 
-// A real number of at least 0, in decimal notation.
-float parse_real(Word text, std::string_view what);
+// A real number from 0 to limit, in decimal notation; what says whose it is in the message.
+float parse_real(Word text, std::string_view what, float limit = std::numeric_limits<float>::max());
 
 // The shortest text that parse_value reads as the same.
 std::string format_value(const Field &field, const FieldValue &value);
