@@ -41,20 +41,17 @@ bf_status_t place_member(ActionDataTable &table, pipe_member_handle_t member,
 }
 
 void fill_data(const Placed &placed, pipe_mgr_action_data_t *data) {
-  if (data->bytes != nullptr) std::memcpy(data->bytes, placed.data(), placed.head.data_bytes);
-  data->valid_bit_count = placed.head.data_bits;
-  data->byte_count = placed.head.data_bytes;
+  const pipe_mgr_action_data_t &held = placed.head.spec.data;
+  if (data->bytes != nullptr) std::memcpy(data->bytes, placed.data(), held.byte_count);
+  data->valid_bit_count = held.valid_bit_count;
+  data->byte_count = held.byte_count;
 }
 
 void fill_key(const Placed &placed, pipe_mgr_match_spec_t *match) {
   uint8_t *const value = match->value;
   uint8_t *const mask = match->mask;
-  *match = {};
-  match->scope = placed.head.scope;
-  match->priority = placed.head.priority;
+  *match = placed.head.match;
   if (placed.head.has_key == 0) return;
-  match->valid_bit_count = placed.head.key_bits;
-  match->byte_count = placed.head.key_room;
   match->value = value;
   match->mask = mask;
   std::memcpy(value, placed.value(), placed.head.key_room);
@@ -62,12 +59,9 @@ void fill_key(const Placed &placed, pipe_mgr_match_spec_t *match) {
 }
 
 void fill_action(const Placed &placed, pipe_mgr_action_spec_t *spec) {
-  spec->type = placed.head.type;
-  spec->member = placed.head.type == PIPE_ACTION_MEMBER ? placed.head.reference : 0;
-  spec->group = placed.head.type == PIPE_ACTION_GROUP ? placed.head.reference : 0;
-  spec->resource_count = placed.head.resource_count;
-  std::memcpy(spec->resources, placed.resources(),
-              placed.head.resource_count * sizeof(pipe_mgr_resource_t));
+  const pipe_mgr_action_data_t data = spec->data;
+  *spec = placed.head.spec;
+  spec->data = data;
   fill_data(placed, &spec->data);
 }
 

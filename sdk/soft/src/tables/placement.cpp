@@ -41,8 +41,7 @@ PlacementDraft::PlacementDraft(pipe_mgr_placement_t **placement, uint16_t data_r
     : placement_(placement), object_(*placement) {
   head_.data_room = data_room;
   head_.key_room = key_room;
-  const size_t most = head_.length() + PIPE_RESOURCES_PER_ACTION * sizeof(pipe_mgr_resource_t);
-  if (object_ == nullptr || object_->room < most) object_ = new_object(most);
+  if (object_ == nullptr || object_->room < head_.length()) object_ = new_object(head_.length());
 }
 
 PlacementDraft::~PlacementDraft() {
@@ -51,33 +50,25 @@ PlacementDraft::~PlacementDraft() {
 
 void PlacementDraft::complete(const pipe_mgr_match_spec_t &match,
                               const pipe_mgr_action_spec_t &spec, pipe_object_handle_t action) {
-  head_.kind = PlacedKind::kEntry;
   head_.has_key = match.value != nullptr;
-  head_.key_bits = match.valid_bit_count;
-  head_.scope = match.scope;
-  head_.priority = match.priority;
-  head_.data_bits = spec.data.valid_bit_count;
-  head_.data_bytes = spec.data.byte_count;
-  head_.type = spec.type;
-  head_.reference = spec.type == PIPE_ACTION_GROUP ? spec.group : spec.member;
-  head_.action = action;
-  head_.resource_count = spec.resource_count;
   if (head_.has_key == 0) std::memset(value(), 0, 2 * size_t{head_.key_room});
-  std::memcpy(mask() + head_.key_room, spec.resources,
-              spec.resource_count * sizeof(pipe_mgr_resource_t));
-  seal();
+  head_.match = match;
+  head_.match.value = head_.match.mask = nullptr;
+  head_.spec = spec;
+  seal(PlacedKind::kEntry, action);
 }
 
 void PlacementDraft::complete(const pipe_mgr_action_data_t &data, pipe_object_handle_t action) {
-  head_.kind = PlacedKind::kMember;
-  head_.data_bits = data.valid_bit_count;
-  head_.data_bytes = data.byte_count;
-  head_.action = action;
-  seal();
+  head_.spec.data = data;
+  seal(PlacedKind::kMember, action);
 }
 
-void PlacementDraft::seal() {
-  std::memset(data() + head_.data_bytes, 0, head_.data_room - size_t{head_.data_bytes});
+void PlacementDraft::seal(PlacedKind kind, pipe_object_handle_t action) {
+  head_.kind = kind;
+  head_.action = action;
+  head_.spec.data.bytes = nullptr;
+  const size_t data_bytes = head_.spec.data.byte_count;
+  std::memset(data() + data_bytes, 0, head_.data_room - data_bytes);
   std::memcpy(object_->contents(), &head_, sizeof head_);
   object_->mark = kMark;
   object_->length = static_cast<uint32_t>(head_.length());
@@ -97,8 +88,9 @@ bf_status_t open_placement(const pipe_mgr_placement_t *placement, PlacedKind kin
   placed->contents = placement->contents();
   std::memcpy(&placed->head, placed->contents, sizeof(PlacedHead));
   if (placed->head.kind != kind) return BF_INVALID_ARGUMENT;
-  const bool fits = placed->head.resource_count <= PIPE_RESOURCES_PER_ACTION &&
-                    placed->head.data_bytes <= placed->head.data_room &&
+  const pipe_mgr_action_spec_t &spec = placed->head.spec;
+  const bool fits = spec.resource_count <= PIPE_RESOURCES_PER_ACTION &&
+                    spec.data.byte_count <= placed->head.data_room &&
                     placed->head.length() == placement->length;
   return fits ? BF_SUCCESS : BF_CORRUPT_DATA;
 }

@@ -19,28 +19,18 @@ namespace soft {
 
 enum class PlacedKind : uint32_t { kEntry, kMember };
 
-// The contents begin with this. Data, value, mask and resources follow without gaps; the first
-// three take the room that the table needs, also where the action has less data or there is no key.
+// The contents begin with this. Data, value and mask follow without gaps and take the room that the
+// table needs, also where the action has less data or there is no key; the specs hold no pointers.
 struct PlacedHead {
   PlacedKind kind;
   uint32_t has_key;
   uint16_t data_room;
   uint16_t key_room;
-  uint16_t data_bits;
-  uint16_t data_bytes;
-  uint16_t key_bits;
-  uint16_t reserved;
-  uint32_t scope;
-  uint32_t priority;
-  uint32_t type;
-  uint32_t reference;  // member or group, by type
   pipe_object_handle_t action;
-  uint32_t resource_count;
+  pipe_mgr_match_spec_t match;
+  pipe_mgr_action_spec_t spec;  // of a member the data alone
 
-  size_t length() const {
-    return sizeof(PlacedHead) + data_room + 2 * size_t{key_room} +
-           resource_count * sizeof(pipe_mgr_resource_t);
-  }
+  size_t length() const { return sizeof(PlacedHead) + data_room + 2 * size_t{key_room}; }
 };
 
 // Placement data being made, in the object that the caller has from before or in a new one. The
@@ -65,7 +55,7 @@ class PlacementDraft {
   void complete(const pipe_mgr_action_data_t &data, pipe_object_handle_t action);
 
  private:
-  void seal();
+  void seal(PlacedKind kind, pipe_object_handle_t action);
 
   pipe_mgr_placement_t **placement_;
   pipe_mgr_placement_t *object_;
@@ -80,7 +70,6 @@ struct Placed {
   const uint8_t *data() const { return contents + sizeof(PlacedHead); }
   const uint8_t *value() const { return data() + head.data_room; }
   const uint8_t *mask() const { return value() + head.key_room; }
-  const uint8_t *resources() const { return mask() + head.key_room; }
 };
 
 // BF_INVALID_ARGUMENT: null, or of another kind. BF_CORRUPT_DATA: not as a draft left it.
