@@ -30,10 +30,7 @@ Selector::Selector(const Device &device, const soft_profile_t &profile, ActionDa
       slots_(&memory_) {}
 
 Selector::~Selector() {
-  for (uint32_t slot = records_.next_live(0); slot != SlotStore::kNone;
-       slot = records_.next_live(slot + 1)) {
-    drop(slot);
-  }
+  records_.each_live([this](uint32_t slot) { drop(slot); });
 }
 
 Selector::Group *Selector::group_at(uint32_t slot) {
@@ -278,22 +275,19 @@ void Selector::take_over(Selector &other) {
   std::vector<Group *> made;
   made.reserve(groups.count());
   try {
-    for (uint32_t at = groups.next_live(0); at != SlotStore::kNone; at = groups.next_live(at + 1)) {
+    groups.each_live([&](uint32_t at) {
       const Group &group = *other.group_at(at);
       made.push_back(allocator.new_object<Group>(group.max_size, &memory_));
       made.back()->uses = group.uses;
       made.back()->members = group.members;
       made.back()->active = group.active;
       store(groups.at(at) + kPointer, made.back());
-    }
+    });
   } catch (const std::bad_alloc &) {
     for (Group *group : made) allocator.delete_object(group);
     throw;
   }
-  for (uint32_t at = records_.next_live(0); at != SlotStore::kNone;
-       at = records_.next_live(at + 1)) {
-    drop(at);
-  }
+  records_.each_live([this](uint32_t slot) { drop(slot); });
   records_.swap(groups);
   slots_.swap(slots);
   fallback_ = other.fallback_;

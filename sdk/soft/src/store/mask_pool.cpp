@@ -74,8 +74,7 @@ void MaskPool::release(uint32_t id) {
 const std::pmr::vector<uint32_t> &MaskPool::in_order() {
   if (sorted_) return order_;
   order_.clear();
-  for (uint32_t id = store_.next_live(0); id != kNone; id = store_.next_live(id + 1))
-    order_.push_back(id);
+  store_.each_live([this](uint32_t id) { order_.push_back(id); });
   std::sort(order_.begin(), order_.end(), [this](uint32_t a, uint32_t b) {
     if (least_priority(a) != least_priority(b)) return least_priority(a) < least_priority(b);
     const uint32_t bits_a = bits_set(bytes(a), mask_bytes_);

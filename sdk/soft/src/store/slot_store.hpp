@@ -92,6 +92,12 @@ class SlotStore {
   // The first live slot at or behind from, or kNone.
   uint32_t next_live(uint32_t from) const { return live_.next(from); }
 
+  // Runs visit(slot) on all live slots.
+  template <class Visit>
+  void each_live(Visit visit) const {
+    for (uint32_t slot = next_live(0); slot != kNone; slot = next_live(slot + 1)) visit(slot);
+  }
+
   // ---- Handles of records that test(slot) holds for, in the order of their slots ----
   // BF_OBJECT_NOT_FOUND: there is none, or the previous handle was never known. Handles that are
   // asked for and not there are kNoHandle.

@@ -86,9 +86,7 @@ class MatchTable {
   // Runs visit(handle) on all entries; it may not add or erase any.
   template <class Visit>
   void each(Visit visit) const {
-    for (uint32_t slot = slots_.next_live(0); slot != kNone; slot = slots_.next_live(slot + 1)) {
-      visit(slots_.handle_of(slot));
-    }
+    slots_.each_live([&](uint32_t slot) { visit(slots_.handle_of(slot)); });
   }
 
   // Walks the entries that are in a pipe, or all of them for BF_ALL_PIPES, in an order that never
