@@ -30,19 +30,15 @@ Plan &plan() {
   return *instance;
 }
 
-void add_call_fault(std::string_view function, uint64_t n, bf_status_t status) {
+}  // namespace
+
+void fail_call(std::string_view function, uint64_t n, bf_status_t status) {
   const std::lock_guard lock(plan().mutex);
   plan().calls.push_back({std::string(function), std::max<uint64_t>(n, 1), status});
   plan().renew_watch();
 }
 
-}  // namespace
-
-void fail_call(std::string_view function, uint64_t n, bf_status_t status) {
-  add_call_fault(function, n, status);
-}
-
-void fail_any_call(uint64_t n, bf_status_t status) { add_call_fault({}, n, status); }
+void fail_any_call(uint64_t n, bf_status_t status) { fail_call({}, n, status); }
 
 void fail_allocation(uint64_t n) {
   const std::lock_guard lock(plan().mutex);

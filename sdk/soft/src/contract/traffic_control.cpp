@@ -9,18 +9,9 @@
 
 using namespace soft;
 
-namespace {
-
-bf_status_t pass(MatchEngine &table, bf_pipe_id_t pipe, const soft_traffic_t *traffic,
-                 soft_hit_t *hit) {
-  return table.pass(pipe, *traffic, hit);
-}
-
-}  // namespace
-
 bf_status_t soft_traffic_hit(bf_device_id_t device, bf_pipe_id_t pipe, pipe_object_handle_t table,
                              const soft_traffic_t *traffic, soft_hit_t *hit) {
-  return control<pass>(InPipe{device, pipe, table}, pipe, given(traffic), given(hit));
+  return control<&MatchEngine::pass>(InPipe{device, pipe, table}, pipe, given(traffic), given(hit));
 }
 
 bf_status_t soft_counter_count(bf_device_id_t device, bf_pipe_id_t pipe,

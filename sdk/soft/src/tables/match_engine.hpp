@@ -87,7 +87,7 @@ class MatchEngine : public ObjectOf<MatchEngine> {
   // As soft_lookup and soft_traffic_hit.
   bf_status_t lookup(bf_pipe_id_t pipe, const uint8_t *key, uint32_t length,
                      pipe_entry_handle_t *entry, bool *is_default);
-  bf_status_t pass(bf_pipe_id_t pipe, const soft_traffic_t &traffic, soft_hit_t *hit);
+  bf_status_t pass(bf_pipe_id_t pipe, const soft_traffic_t *traffic, soft_hit_t *hit);
 
   // ---- Direct counters and meters, for the statistics engines ----
   // BF_OBJECT_NOT_FOUND: no such entry, or none is attached to it. BF_NOT_SUPPORTED: the table has

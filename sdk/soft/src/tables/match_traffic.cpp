@@ -62,21 +62,21 @@ bf_status_t MatchEngine::lookup(bf_pipe_id_t pipe, const uint8_t *key, uint32_t 
   return BF_SUCCESS;
 }
 
-bf_status_t MatchEngine::pass(bf_pipe_id_t pipe, const soft_traffic_t &traffic, soft_hit_t *hit) {
+bf_status_t MatchEngine::pass(bf_pipe_id_t pipe, const soft_traffic_t *traffic, soft_hit_t *hit) {
   soft_hit_t found{};
   const std::lock_guard lock(mutex_);
-  const bf_status_t status = find_hit(pipe, traffic.key, traffic.key_length, &found);
+  const bf_status_t status = find_hit(pipe, traffic->key, traffic->key_length, &found);
   if (status != BF_SUCCESS) return status;
   if (found.is_default) {
     const DefaultEntry &entry = *default_of(found.entry);
-    found.color = note_traffic(pipe, traffic, found.entry, entry.resources);
-    follow(action_of(entry), traffic, &found);
+    found.color = note_traffic(pipe, *traffic, found.entry, entry.resources);
+    follow(action_of(entry), *traffic, &found);
   } else {
     EntryView view;
     entries_->get(found.entry, &view);
-    found.color = note_traffic(pipe, traffic, found.entry, resources_of(found.entry, view));
+    found.color = note_traffic(pipe, *traffic, found.entry, resources_of(found.entry, view));
     if (description_.ages_entries) note_hit(found.entry);
-    follow({view.action, view.type, {}, view.reference, {}}, traffic, &found);
+    follow({view.action, view.type, {}, view.reference, {}}, *traffic, &found);
   }
   *hit = found;
   return BF_SUCCESS;
