@@ -1,6 +1,7 @@
 // The command line of tesselctl.
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -144,9 +145,9 @@ std::string line_of(Words words) {
   return line;
 }
 
-int run_command(const ToolSettings &settings, const std::vector<Word> &words) {
+int run_command(const ToolSettings &settings, const std::string &line,
+                const std::vector<Word> &words) {
   Streams streams(settings);
-  const std::string line = line_of(words);
   Session session(settings, streams,
                   may_change_device(words) ? ImageUse::changes : ImageUse::reads);
   LineOutcome outcome = LineOutcome::done;
@@ -190,9 +191,12 @@ int run_completion(const ToolSettings &settings, const Invocation &invocation) {
   return kDone;
 }
 
-int print_text(const std::string &text) {
+int print_text(const Settings &settings, std::string_view command, const std::string &text) {
   Output out(stdout, false);
-  out.line("{}", text);
+  Results results(out);
+  results.begin(settings, command, false);
+  results.text(text);
+  results.end();
   out.flush();
   return kDone;
 }
@@ -203,21 +207,22 @@ void check_socket(const ToolSettings &settings) {
   throw Fault(fmt::format("{} is for the server to choose", settings.device_flag));
 }
 
-// words are those behind the tool's own options.
-int run_words(ToolSettings &settings, std::vector<Word> words) {
+// line has the words behind the tool's own options.
+int run_words(ToolSettings &settings, const std::string &line) {
+  std::vector<Word> words;
+  split_words(line, words);
   std::vector<Word> plain = words;
   Settings of_line = settings.lines;
   const TakenFlags flags = take_flags(plain, of_line);
-  if (plain.empty() && of_line.help) return print_text(tool_help());
+  if (plain.empty() && of_line.help) {
+    return print_text(of_line, "--help", tool_help());
+  }
   if (plain.empty() && isatty(STDIN_FILENO) != 0) {
     if (!words.empty()) throw Fault(words[0], "this option needs a command");
     check_socket(settings);
     return run_terminal(settings);
   }
-  if (plain.empty()) {
-    plain = {{"run", 1}, {"-", 5}};
-    words.insert(words.begin(), plain.begin(), plain.end());
-  }
+  if (plain.empty()) return run_words(settings, "run - " + line);
   Invocation invocation;
   const std::string_view first = plain[0].text;
   if (!of_line.help && (first == "serve" || first == "complete")) {
@@ -229,7 +234,7 @@ int run_words(ToolSettings &settings, std::vector<Word> words) {
   // Help needs no device.
   if (of_line.help) settings.image.clear(), settings.socket.clear();
   check_socket(settings);
-  return run_command(settings, words);
+  return run_command(settings, line, words);
 }
 
 int run_tool(int argc, char **argv) {
@@ -240,15 +245,23 @@ int run_tool(int argc, char **argv) {
     words.push_back({argv[i], column});
     column += words.back().text.size() + 1;
   }
+  const bool json = std::any_of(words.begin(), words.end(),
+                                [](const Word &word) { return word.text == "--json"; });
+  std::string line;
   try {
+    // With the tool's own options as long as there may be a fault in them.
+    line = line_of(words);
     take_tool_flags(words, settings);
-    if (settings.version) return print_text(version_text());
-    return run_words(settings, words);
+    line = line_of(words);
+    if (!settings.version) return run_words(settings, line);
+    if (!words.empty()) throw Fault({words[0].text, 1}, "nothing should stand here");
+    return print_text(settings.lines, "--version", version_text());
   } catch (const Fault &fault) {
     // What keeps a command from being run at all is an answer in JSON, too.
+    settings.lines.json = json;
     Streams streams(settings);
     Results results(streams.out);
-    results.begin(settings.lines, line_of(words), false);
+    results.begin(settings.lines, line, false);
     report_fault(fault, {}, results, settings.lines.json, streams.out, streams.errors);
     return kFault;
   }

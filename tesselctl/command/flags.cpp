@@ -178,10 +178,10 @@ void take_tool_flags(std::vector<Word> &words, ToolSettings &settings) {
       others.push_back(words[i]);
       continue;
     }
-    const Flag &flag = need_flag(words[i]);
-    const Word value = take_value(flag, words, i);
-    if (flag.of == FlagOf::tool || (flag.of == FlagOf::all && !in_command)) {
-      flag.set(settings, value);
+    const Flag *flag = find_flag(words[i].text);
+    const Word value = flag != nullptr ? take_value(*flag, words, i) : Word{};
+    if (flag != nullptr && (flag->of == FlagOf::tool || (flag->of == FlagOf::all && !in_command))) {
+      flag->set(settings, value);
     } else {
       others.insert(others.end(), words.begin() + static_cast<ptrdiff_t>(first),
                     words.begin() + static_cast<ptrdiff_t>(i + 1));

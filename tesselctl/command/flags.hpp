@@ -56,7 +56,7 @@ struct TakenFlags {
 // Flags of commands go to the settings, the other words stay. Throws Fault.
 TakenFlags take_flags(std::vector<Word> &words, Settings &settings);
 // The tool's own flags go to the settings wherever they stand, and so do those that every command
-// takes, before the first word of a command. The others stay. Throws Fault.
+// takes, before the first word of a command. The others stay, unknown ones too. Throws Fault.
 void take_tool_flags(std::vector<Word> &words, ToolSettings &settings);
 
 // The settings as such words, from which take_flags makes the same settings.
