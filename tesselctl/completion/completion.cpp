@@ -210,10 +210,15 @@ void Completer::complete_flag_value(const Flag *flag) {
   if (!flag->value.empty()) complete_answer_name(flag->value != "NAME");
 }
 
-// The names of what the command answers.
+// The names of what the command answers; behind one the values, where they are words.
 void Completer::complete_answer_name(bool with_equals) {
-  if (offers_.typed().find('=') != std::string_view::npos) {
-    return offers_.hint(meaning_of_value("NAME=PATTERN"));
+  std::string_view value = offers_.typed();
+  const std::string_view name = take_until(value, '=');
+  if (name.size() != offers_.typed().size()) {
+    if (name != "action" || subject_.actions().empty())
+      return offers_.hint(meaning_of_value("NAME=PATTERN"));
+    offers_.start_at(cut_.start + current_.size() - value.size(), value);
+    return offer_actions(offers_, subject_, command_->name);
   }
   if (!subject_.table) return offers_.hint("a name of the answer");
   offer_answer_names(offers_, subject_, with_equals ? "=" : "");

@@ -68,6 +68,7 @@ TEST_F(CompletionTest, OffersWhatCanStandAtThePoint) {
       // Options, choices and files.
       {"show nextHop --sort d", "20: dmac domain"},
       {"show nextHop --filter=d", "22: dmac= domain="},
+      {"show nextHop --filter action=", "29: setNextHopDetails"},
       {"add --dry-run nextHop --d", "22:"},
       {"counter read kf1Count source=", "29: hardware software"},
       {"state log " + folder + "_o", "10: \"" + folder + "_one two\""},
