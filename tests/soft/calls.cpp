@@ -111,7 +111,8 @@ namespace {
   }
 // What most calls begin with.
 #define IN_DEVICE h.s(), h.d()
-#define IN_PIPES h.s(), h.d(), h.p()
+#define ON(object) IN_DEVICE, h.o(object)
+#define IN(object) IN_DEVICE, h.p(), h.o(object)
 
 #define CHANGE(...) CALL(kChange, __VA_ARGS__)
 #define READ(...) CALL(kRead, __VA_ARGS__)
@@ -135,21 +136,15 @@ struct TableCase {
 };
 
 TableCase table_case(uint32_t table) {
-  static const Key hosts[] = {{20, {0, 1, 0}, {255, 255, 255}},
-                              {20, {0, 1, 1}, {255, 255, 255}},
-                              {20, {0, 1, 2}, {255, 255, 255}},
-                              {20, {0, 1, 3}, {255, 255, 255}},
-                              {20, {0, 1, 4}, {255, 255, 255}}};
+  const auto host = [](uint8_t i) { return Key(20, {0, 1, i}, {255, 255, 255}); };
+  const auto route = [](uint8_t i) { return Key(40, {0, 1, i, 4, 5}, Bytes(5, 255)); };
+  static const Key hosts[] = {host(0), host(1), host(2), host(3), host(4)};
+  static const Key routes[] = {route(0), route(1), route(2), route(3), route(4)};
   static const Key rules[] = {{16, {0, 1}, {255, 255}, 1},
                               {16, {0, 1}, {255, 255}, 2},
                               {16, {0, 0}, {255, 0}, 3},
                               {16, {0, 1}, {255, 15}, 4},
                               {16, {0, 1}, {255, 255}, 5}};
-  static const Key routes[] = {{40, {0, 1, 0, 4, 5}, Bytes(5, 255)},
-                               {40, {0, 1, 1, 4, 5}, Bytes(5, 255)},
-                               {40, {0, 1, 2, 4, 5}, Bytes(5, 255)},
-                               {40, {0, 1, 3, 4, 5}, Bytes(5, 255)},
-                               {40, {0, 1, 4, 4, 5}, Bytes(5, 255)}};
   static Action forward(9, {0, 1}), deny, hop(14, {0, 1});
   deny.spec.resource_count = forward.spec.resource_count = 0;
   forward.resource(kHostCount, 0, PIPE_RESOURCE_ATTACH).data.counter = kCounted;
@@ -163,15 +158,14 @@ TableCase table_case(uint32_t table) {
 
 bf_status_t look_up(Hand &h, const TableCase &t) {
   const uint8_t key[5] = {0, 1, h.few(), 4, 5};
-  return soft_lookup(h.d(), h.q(), h.o(t.table), h.x(key), t.length, h.x(h.room.word), nullptr);
+  return soft_lookup(h.d(), h.q(), h.o(t.table), h.x(key), t.length, h.word(), nullptr);
 }
 
 bf_status_t send(Hand &h, const TableCase &t, bool is_packet) {
   static const uint8_t hash = 0;
   const uint8_t key[5] = {0, 1, h.few(), 4, 5};
   if (is_packet) {
-    return soft_packet(h.d(), h.q(), h.o(t.table), h.x(key), t.length, 64, h.x(h.room.word),
-                       nullptr);
+    return soft_packet(h.d(), h.q(), h.o(t.table), h.x(key), t.length, 64, h.word(), nullptr);
   }
   const soft_traffic_t traffic{key, t.length, &hash, 1, 1, 64};
   soft_hit_t hit{};
@@ -180,10 +174,10 @@ bf_status_t send(Hand &h, const TableCase &t, bool is_packet) {
 
 Calls counted_calls(uint32_t t) {
   return {
-      CHANGE(pipe_mgr_mat_ent_direct_stat_set(IN_DEVICE, h.o(t), h.entry(), h.x(&kCounted))),
-      READ(pipe_mgr_mat_ent_direct_stat_query(IN_DEVICE, h.o(t), h.entry(), h.x(&h.room.counter))),
-      CHANGE(pipe_mgr_direct_stat_ent_database_sync(IN_PIPES, h.o(t), h.entry())),
-      CHANGE(pipe_mgr_direct_stat_database_sync(IN_PIPES, h.o(t), nullptr, nullptr)),
+      CHANGE(pipe_mgr_mat_ent_direct_stat_set(ON(t), h.entry(), h.x(&kCounted))),
+      READ(pipe_mgr_mat_ent_direct_stat_query(ON(t), h.entry(), h.x(&h.room.counter))),
+      CHANGE(pipe_mgr_direct_stat_ent_database_sync(IN(t), h.entry())),
+      CHANGE(pipe_mgr_direct_stat_database_sync(IN(t), nullptr, nullptr)),
   };
 }
 
@@ -191,15 +185,15 @@ Calls ageing_calls(uint32_t t) {
   static const pipe_mgr_idle_params_t ageing{PIPE_IDLE_NOTIFY, 10, 9000, 10, 300, 0};
   const auto hear = [](bf_device_id_t, pipe_object_handle_t, pipe_entry_handle_t, void *) {};
   return {
-      CHANGE(pipe_mgr_idle_tmo_enable(IN_DEVICE, h.o(t), ageing)),
-      CHANGE(pipe_mgr_idle_register_tmo_cb(IN_DEVICE, h.o(t), hear, nullptr)),
-      READ(pipe_mgr_idle_params_get(IN_DEVICE, h.o(t), h.x(&h.room.ageing))),
-      CHANGE(pipe_mgr_mat_ent_set_idle_ttl(IN_DEVICE, h.o(t), h.entry(), 20, 0)),
-      READ(pipe_mgr_mat_ent_get_idle_ttl(IN_DEVICE, h.o(t), h.entry(), h.x(h.room.word))),
-      CHANGE(pipe_mgr_idle_time_update_hit_state(IN_DEVICE, h.o(t), h.entry(), h.few() % 2)),
-      READ(pipe_mgr_idle_time_get_hit_state(IN_DEVICE, h.o(t), h.entry(), h.x(h.room.word))),
+      CHANGE(pipe_mgr_idle_tmo_enable(ON(t), ageing)),
+      CHANGE(pipe_mgr_idle_register_tmo_cb(ON(t), hear, nullptr)),
+      READ(pipe_mgr_idle_params_get(ON(t), h.x(&h.room.ageing))),
+      CHANGE(pipe_mgr_mat_ent_set_idle_ttl(ON(t), h.entry(), 20, 0)),
+      READ(pipe_mgr_mat_ent_get_idle_ttl(ON(t), h.entry(), h.word())),
+      CHANGE(pipe_mgr_idle_time_update_hit_state(ON(t), h.entry(), h.few() % 2)),
+      READ(pipe_mgr_idle_time_get_hit_state(ON(t), h.entry(), h.word())),
       CHANGE(soft_clock_advance(10), BF_SUCCESS),
-      END(pipe_mgr_idle_tmo_disable(IN_DEVICE, h.o(t))),
+      END(pipe_mgr_idle_tmo_disable(ON(t))),
   };
 }
 
@@ -218,8 +212,7 @@ Calls unsupported_calls(uint32_t t) {
     }
   }
   if (t == kAcl) return calls;
-  append(calls,
-         {UNSUPPORTED(pipe_mgr_meter_read_entry(IN_PIPES, h.o(t), h.entry(), h.x(&h.room.meter)))});
+  append(calls, {UNSUPPORTED(pipe_mgr_meter_read_entry(IN(t), h.entry(), h.x(&h.room.meter)))});
   return calls;
 }
 
@@ -228,11 +221,9 @@ Calls default_calls(uint32_t t) {
   static const Action none;
   const uint32_t preset = t == kHost ? kDrop : kDeny;
   return {
-      CHANGE(pipe_mgr_mat_default_entry_set(IN_PIPES, h.o(t), preset, h.x(&none.spec), 0,
-                                            h.x(h.room.word))),
-      READ(pipe_mgr_table_get_default_entry_handle(IN_PIPES, h.o(t), h.x(h.room.word))),
-      READ(pipe_mgr_table_get_default_entry(IN_PIPES, h.o(t), h.x(&h.room.action), h.x(h.room.word),
-                                            false)),
+      CHANGE(pipe_mgr_mat_default_entry_set(IN(t), preset, h.x(&none.spec), 0, h.word())),
+      READ(pipe_mgr_table_get_default_entry_handle(IN(t), h.word())),
+      READ(pipe_mgr_table_get_default_entry(IN(t), h.x(&h.room.action), h.word(), false)),
   };
 }
 
@@ -245,33 +236,31 @@ Calls table_calls(uint32_t table) {
   const auto hear = [](pipe_session_handle_t, bf_device_id_t, pipe_object_handle_t, uint32_t,
                        pipe_entry_handle_t, void *) {};
   Calls calls = {
-      CHANGE(pipe_mgr_mat_ent_add(IN_PIPES, h.o(t), h.x(key(h)), c.action, h.x(c.spec), 50, 0,
-                                  h.x(&h.last))),
-      CHANGE(pipe_mgr_mat_ent_set_action(IN_DEVICE, h.o(t), h.entry(), c.action, h.x(c.spec), 0)),
-      CHANGE(pipe_mgr_mat_ent_set_action_by_match_spec(IN_PIPES, h.o(t), h.x(key(h)), c.action,
-                                                       h.x(c.spec), 0)),
-      CHANGE(pipe_mgr_mat_ent_set_resource(IN_DEVICE, h.o(t), h.entry(),
+      CHANGE(pipe_mgr_mat_ent_add(IN(t), h.x(key(h)), c.action, h.x(c.spec), 50, 0, h.x(&h.last))),
+      CHANGE(pipe_mgr_mat_ent_set_action(ON(t), h.entry(), c.action, h.x(c.spec), 0)),
+      CHANGE(
+          pipe_mgr_mat_ent_set_action_by_match_spec(IN(t), h.x(key(h)), c.action, h.x(c.spec), 0)),
+      CHANGE(pipe_mgr_mat_ent_set_resource(ON(t), h.entry(),
                                            t == kRoute ? nullptr : h.x(c.spec->resources),
                                            c.spec->resource_count, 0)),
-      READ(pipe_mgr_match_spec_to_ent_hdl(IN_PIPES, h.o(t), h.x(key(h)), h.x(h.room.word))),
+      READ(pipe_mgr_match_spec_to_ent_hdl(IN(t), h.x(key(h)), h.word())),
       READ(pipe_mgr_get_entry(h.s(), h.o(t), h.d(), h.entry(), h.x(&h.room.match),
-                              h.x(&h.room.action), h.x(h.room.word), false)),
-      READ(pipe_mgr_get_entry_count(IN_PIPES, h.o(t), 0, h.x(h.room.word))),
-      READ(pipe_mgr_get_first_entry_handle(h.s(), h.o(t), h.d(), h.p(), h.x(h.room.word))),
+                              h.x(&h.room.action), h.word(), false)),
+      READ(pipe_mgr_get_entry_count(IN(t), 0, h.word())),
+      READ(pipe_mgr_get_first_entry_handle(h.s(), h.o(t), h.d(), h.p(), h.word())),
       CHANGE(pipe_mgr_get_next_entry_handles(h.s(), h.o(t), h.d(), h.p(), h.entry(), h.more(),
-                                             h.x(h.room.word))),
-      CHANGE(pipe_mgr_tbl_set_property(IN_DEVICE, h.o(t), PIPE_TABLE_CAPACITY, 9 + h.number, 0)),
-      READ(pipe_mgr_tbl_get_property(IN_DEVICE, h.o(t), PIPE_TABLE_CAPACITY, h.x(h.room.word),
-                                     h.x(h.room.word + 1))),
+                                             h.word())),
+      CHANGE(pipe_mgr_tbl_set_property(ON(t), PIPE_TABLE_CAPACITY, 9 + h.number, 0)),
+      READ(pipe_mgr_tbl_get_property(ON(t), PIPE_TABLE_CAPACITY, h.word(), h.x(h.room.word + 1))),
       CHANGE(soft_table_capacity_set(h.d(), h.o(t), 9)),
-      READ(soft_table_capacity_get(h.d(), h.o(t), h.x(h.room.word))),
-      CHANGE(pipe_register_mat_update_cb(IN_DEVICE, h.o(t), hear, nullptr)),
+      READ(soft_table_capacity_get(h.d(), h.o(t), h.word())),
+      CHANGE(pipe_register_mat_update_cb(ON(t), hear, nullptr)),
       READ(look_up(h, c)),
       CHANGE(send(h, c, true)),
       CHANGE(send(h, c, false)),
       CHANGE(soft_placement_of_entry(h.d(), h.o(t), h.entry(), h.x(&h.placed))),
       READ(pipe_mgr_plcmt_mat_data_get_entry(h.x(h.placed), h.x(&h.room.match), h.x(&h.room.action),
-                                             h.x(h.room.word))),
+                                             h.word())),
       END(soft_placement_free(h.placed), h.placed = nullptr, BF_SUCCESS),
   };
   append(calls, unsupported_calls(t));
@@ -279,16 +268,16 @@ Calls table_calls(uint32_t table) {
   if (t != kRoute) append(calls, counted_calls(t));
   if (t == kRoute) append(calls, ageing_calls(t));
   if (t == kAcl) {
-    append(calls,
-           {READ(pipe_mgr_meter_read_entry(IN_PIPES, h.o(t), h.entry(), h.x(&h.room.meter)))});
+    append(calls, {READ(pipe_mgr_meter_read_entry(IN(t), h.entry(), h.x(&h.room.meter)))});
   }
-  append(calls, {
-                    END(pipe_mgr_mat_tbl_default_entry_reset(IN_PIPES, h.o(t), 0)),
-                    END(pipe_mgr_mat_ent_del(IN_DEVICE, h.o(t), h.last, 0)),
-                    END(pipe_mgr_mat_ent_add(IN_PIPES, h.o(t), h.x(key(h)), c.action, h.x(c.spec),
-                                             50, 0, h.x(&h.last))),
-                    END(pipe_mgr_mat_ent_del_by_match_spec(IN_PIPES, h.o(t), h.x(key(h)), 0)),
-                });
+  append(
+      calls,
+      {
+          END(pipe_mgr_mat_tbl_default_entry_reset(IN(t), 0)),
+          END(pipe_mgr_mat_ent_del(ON(t), h.last, 0)),
+          END(pipe_mgr_mat_ent_add(IN(t), h.x(key(h)), c.action, h.x(c.spec), 50, 0, h.x(&h.last))),
+          END(pipe_mgr_mat_ent_del_by_match_spec(IN(t), h.x(key(h)), 0)),
+      });
   return calls;
 }
 
@@ -305,57 +294,52 @@ Calls profile_calls() {
   constexpr uint32_t m = kMembers, g = kSelector;
   const auto add_lag = [=](Hand &h) {
     const pipe_mgr_action_spec_t spec = naming(PIPE_ACTION_GROUP, h.group());
-    return pipe_mgr_mat_ent_add(IN_PIPES, h.o(kLag), h.x(&lag.spec), kSend, h.x(&spec), 0, 0,
-                                h.x(h.room.word));
+    return pipe_mgr_mat_ent_add(IN(kLag), h.x(&lag.spec), kSend, h.x(&spec), 0, 0, h.word());
   };
   Calls calls = {
-      CHANGE(pipe_mgr_adt_ent_add(IN_PIPES, h.o(m), kSend, h.x(&send.spec), h.x(&h.member), 0)),
-      CHANGE(pipe_mgr_adt_ent_set(IN_DEVICE, h.o(m), h.one_member(), kSend, h.x(&send.spec), 0)),
+      CHANGE(pipe_mgr_adt_ent_add(IN(m), kSend, h.x(&send.spec), h.x(&h.member), 0)),
+      CHANGE(pipe_mgr_adt_ent_set(ON(m), h.one_member(), kSend, h.x(&send.spec), 0)),
       READ(pipe_mgr_get_action_data_entry(h.o(m), h.d(), h.one_member(), h.x(&h.room.data),
-                                          h.x(h.room.word), false)),
+                                          h.word(), false)),
       CHANGE(soft_placement_of_member(h.d(), h.o(m), h.one_member(), h.x(&h.placed))),
-      READ(pipe_mgr_plcmt_adt_data_get_entry(h.x(h.placed), h.x(&h.room.data), h.x(h.room.word))),
+      READ(pipe_mgr_plcmt_adt_data_get_entry(h.x(h.placed), h.x(&h.room.data), h.word())),
       END(soft_placement_free(h.placed), h.placed = nullptr, BF_SUCCESS),
-      CHANGE(pipe_mgr_sel_grp_add(IN_PIPES, h.o(g), 3, h.x(&h.last), 0)),
-      CHANGE(pipe_mgr_sel_grp_mbr_add(IN_DEVICE, h.o(g), h.group(), kSend, h.one_member(), 0)),
-      CHANGE(pipe_mgr_sel_grp_mbr_disable(IN_DEVICE, h.o(g), h.group(), h.one_member(), 0)),
-      READ(pipe_mgr_sel_grp_mbr_state_get(IN_DEVICE, h.o(g), h.group(), h.one_member(),
-                                          h.x(h.room.word))),
-      CHANGE(pipe_mgr_sel_grp_mbr_enable(IN_DEVICE, h.o(g), h.group(), h.one_member(), 0)),
-      READ(pipe_mgr_sel_grp_mbr_get_from_hash(IN_DEVICE, h.o(g), h.group(), h.x(&hash), 1,
-                                              h.x(h.room.word))),
-      CHANGE(pipe_mgr_sel_fallback_mbr_set(IN_PIPES, h.o(g), h.one_member(), 0)),
-      READ(soft_fallback_member(h.d(), h.o(g), h.x(h.room.word))),
-      END(pipe_mgr_sel_fallback_mbr_reset(IN_PIPES, h.o(g), 0)),
-      READ(soft_group_max_size(h.d(), h.o(g), h.group(), h.x(h.room.word))),
-      READ(pipe_mgr_get_first_group_member(h.s(), h.o(g), h.d(), h.group(), h.x(h.room.word))),
-      READ(
-          pipe_mgr_get_next_group_members(h.s(), h.o(g), h.d(), h.group(), 0, 3, h.x(h.room.word))),
-      READ(pipe_mgr_get_sel_grp_mbr_count(IN_DEVICE, h.o(g), h.group(), h.x(h.room.word))),
-      READ(pipe_mgr_get_word_llp_active_member_count(IN_PIPES, h.o(g), 0, h.x(h.room.word))),
-      READ(pipe_mgr_get_word_llp_active_members(IN_PIPES, h.o(g), 0, 3, h.x(h.room.word))),
-      CHANGE(pipe_register_adt_update_cb(IN_DEVICE, h.o(m), hear_member, nullptr)),
-      CHANGE(pipe_mgr_sel_tbl_register_cb(IN_DEVICE, h.o(g), hear_group, nullptr)),
-      CHANGE(pipe_register_sel_update_cb(IN_DEVICE, h.o(g), hear_group, nullptr)),
+      CHANGE(pipe_mgr_sel_grp_add(IN(g), 3, h.x(&h.last), 0)),
+      CHANGE(pipe_mgr_sel_grp_mbr_add(ON(g), h.group(), kSend, h.one_member(), 0)),
+      CHANGE(pipe_mgr_sel_grp_mbr_disable(ON(g), h.group(), h.one_member(), 0)),
+      READ(pipe_mgr_sel_grp_mbr_state_get(ON(g), h.group(), h.one_member(), h.word())),
+      CHANGE(pipe_mgr_sel_grp_mbr_enable(ON(g), h.group(), h.one_member(), 0)),
+      READ(pipe_mgr_sel_grp_mbr_get_from_hash(ON(g), h.group(), h.x(&hash), 1, h.word())),
+      CHANGE(pipe_mgr_sel_fallback_mbr_set(IN(g), h.one_member(), 0)),
+      READ(soft_fallback_member(h.d(), h.o(g), h.word())),
+      END(pipe_mgr_sel_fallback_mbr_reset(IN(g), 0)),
+      READ(soft_group_max_size(h.d(), h.o(g), h.group(), h.word())),
+      READ(pipe_mgr_get_first_group_member(h.s(), h.o(g), h.d(), h.group(), h.word())),
+      READ(pipe_mgr_get_next_group_members(h.s(), h.o(g), h.d(), h.group(), 0, 3, h.word())),
+      READ(pipe_mgr_get_sel_grp_mbr_count(ON(g), h.group(), h.word())),
+      READ(pipe_mgr_get_word_llp_active_member_count(IN(g), 0, h.word())),
+      READ(pipe_mgr_get_word_llp_active_members(IN(g), 0, 3, h.word())),
+      CHANGE(pipe_register_adt_update_cb(ON(m), hear_member, nullptr)),
+      CHANGE(pipe_mgr_sel_tbl_register_cb(ON(g), hear_group, nullptr)),
+      CHANGE(pipe_register_sel_update_cb(ON(g), hear_group, nullptr)),
       CHANGE(add_lag(h)),
-      CHANGE(soft_packet(h.d(), h.q(), h.o(kLag), h.x(&packet), 1, 64, h.x(h.room.word), nullptr)),
+      CHANGE(soft_packet(h.d(), h.q(), h.o(kLag), h.x(&packet), 1, 64, h.word(), nullptr)),
   };
   for (const uint32_t t : {m, g}) {
-    append(calls,
-           {
-               READ(pipe_mgr_get_entry_count(IN_PIPES, h.o(t), 0, h.x(h.room.word))),
-               READ(pipe_mgr_get_first_entry_handle(h.s(), h.o(t), h.d(), h.p(), h.x(h.room.word))),
-               CHANGE(pipe_mgr_get_next_entry_handles(h.s(), h.o(t), h.d(), h.p(), 1, h.more(),
-                                                      h.x(h.room.word))),
-               CHANGE(soft_profile_capacity_set(h.d(), h.o(t), 50)),
-               READ(soft_profile_capacity_get(h.d(), h.o(t), h.x(h.room.word))),
-           });
+    append(calls, {
+                      READ(pipe_mgr_get_entry_count(IN(t), 0, h.word())),
+                      READ(pipe_mgr_get_first_entry_handle(h.s(), h.o(t), h.d(), h.p(), h.word())),
+                      CHANGE(pipe_mgr_get_next_entry_handles(h.s(), h.o(t), h.d(), h.p(), 1,
+                                                             h.more(), h.word())),
+                      CHANGE(soft_profile_capacity_set(h.d(), h.o(t), 50)),
+                      READ(soft_profile_capacity_get(h.d(), h.o(t), h.word())),
+                  });
   }
   append(calls, {
-                    END(pipe_mgr_mat_ent_del_by_match_spec(IN_PIPES, h.o(kLag), h.x(&lag.spec), 0)),
-                    END(pipe_mgr_sel_grp_mbr_del(IN_DEVICE, h.o(g), h.group(), h.one_member(), 0)),
-                    END(pipe_mgr_sel_grp_del(IN_DEVICE, h.o(g), h.spent(&h.last), 0)),
-                    END(pipe_mgr_adt_ent_del(IN_DEVICE, h.o(m), h.spent(&h.member), 0)),
+                    END(pipe_mgr_mat_ent_del_by_match_spec(IN(kLag), h.x(&lag.spec), 0)),
+                    END(pipe_mgr_sel_grp_mbr_del(ON(g), h.group(), h.one_member(), 0)),
+                    END(pipe_mgr_sel_grp_del(ON(g), h.spent(&h.last), 0)),
+                    END(pipe_mgr_adt_ent_del(ON(m), h.spent(&h.member), 0)),
                 });
   return calls;
 }
@@ -370,43 +354,42 @@ Calls cell_calls() {
   return {
       CHANGE(soft_counter_count(h.d(), h.q(), h.o(c), h.few(), 1, 64)),
       READ(pipe_mgr_stat_ent_query(IN_DEVICE, h.p(0), h.o(c), h.few(), h.x(&h.room.counter))),
-      CHANGE(pipe_mgr_stat_ent_set(IN_PIPES, h.o(c), h.few(), h.x(&kCounted))),
+      CHANGE(pipe_mgr_stat_ent_set(IN(c), h.few(), h.x(&kCounted))),
       CHANGE(pipe_mgr_stat_ent_database_sync(IN_DEVICE, h.p(0), h.o(c), h.few())),
-      READ(soft_next_cell(h.d(), h.o(c), 0, h.x(h.room.word))),
-      END(pipe_mgr_stat_database_sync(IN_PIPES, h.o(c), nullptr, nullptr)),
-      CHANGE(pipe_mgr_meter_ent_set(IN_PIPES, h.o(m), h.few(), h.x(&kMetered), 0)),
+      READ(soft_next_cell(h.d(), h.o(c), 0, h.word())),
+      END(pipe_mgr_stat_database_sync(IN(c), nullptr, nullptr)),
+      CHANGE(pipe_mgr_meter_ent_set(IN(m), h.few(), h.x(&kMetered), 0)),
       READ(pipe_mgr_meter_read_entry_idx(IN_DEVICE, h.p(0), h.o(m), h.few(), h.x(&h.room.meter))),
-      CHANGE(pipe_mgr_meter_set_bytecount_adjust(IN_PIPES, h.o(m), h.few())),
-      READ(pipe_mgr_meter_get_bytecount_adjust(IN_PIPES, h.o(m), h.x(h.room.word))),
+      CHANGE(pipe_mgr_meter_set_bytecount_adjust(IN(m), h.few())),
+      READ(pipe_mgr_meter_get_bytecount_adjust(IN(m), h.word())),
       CHANGE(mark(h, m)),
-      READ(soft_next_cell(h.d(), h.o(m), 0, h.x(h.room.word))),
+      READ(soft_next_cell(h.d(), h.o(m), 0, h.word())),
       UNSUPPORTED(soft_counter_count(h.d(), h.q(), h.o(kHostCount), 0, 1, 64)),
       UNSUPPORTED(pipe_mgr_stat_ent_query(IN_DEVICE, h.p(0), h.o(kHostCount), 0, &h.room.counter)),
-      UNSUPPORTED(pipe_mgr_stat_ent_set(IN_PIPES, h.o(kHostCount), 0, &kCounted)),
-      UNSUPPORTED(pipe_mgr_stat_ent_database_sync(IN_PIPES, h.o(kHostCount), 0)),
-      UNSUPPORTED(pipe_mgr_stat_database_sync(IN_PIPES, h.o(kHostCount), nullptr, nullptr)),
+      UNSUPPORTED(pipe_mgr_stat_ent_set(IN(kHostCount), 0, &kCounted)),
+      UNSUPPORTED(pipe_mgr_stat_ent_database_sync(IN(kHostCount), 0)),
+      UNSUPPORTED(pipe_mgr_stat_database_sync(IN(kHostCount), nullptr, nullptr)),
       UNSUPPORTED(soft_next_cell(h.d(), h.o(kHostCount), 0, h.room.word)),
-      UNSUPPORTED(pipe_mgr_meter_ent_set(IN_PIPES, h.o(kAclMeter), 0, &kMetered, 0)),
-      UNSUPPORTED(pipe_mgr_meter_read_entry_idx(IN_PIPES, h.o(kAclMeter), 0, &h.room.meter)),
+      UNSUPPORTED(pipe_mgr_meter_ent_set(IN(kAclMeter), 0, &kMetered, 0)),
+      UNSUPPORTED(pipe_mgr_meter_read_entry_idx(IN(kAclMeter), 0, &h.room.meter)),
       UNSUPPORTED(soft_next_cell(h.d(), h.o(kAclMeter), 0, h.room.word)),
       UNSUPPORTED(mark(h, kAclMeter)),
-      CHANGE(pipe_mgr_wred_ent_set(IN_PIPES, h.o(kWred), h.few(), h.x(&wred), 0)),
+      CHANGE(pipe_mgr_wred_ent_set(IN(kWred), h.few(), h.x(&wred), 0)),
       READ(soft_wred_get(h.d(), h.q(), h.o(kWred), h.few(), h.x(&h.room.wred))),
       READ(soft_next_wred_cell(h.d(), h.q(), h.x(h.room.zero), h.x(h.room.zero + 1))),
-      CHANGE(pipe_stful_ent_set(IN_PIPES, h.o(r), h.few(), h.x(&cell), 0)),
-      READ(pipe_stful_ent_query(IN_PIPES, h.o(r), h.few(), h.x(&h.room.query), false)),
+      CHANGE(pipe_stful_ent_set(IN(r), h.few(), h.x(&cell), 0)),
+      READ(pipe_stful_ent_query(IN(r), h.few(), h.x(&h.room.query), false)),
       CHANGE(soft_register_write(h.d(), h.p(0), h.o(r), 2000 + h.few(), h.number)),
-      CHANGE(pipe_stful_ent_query(IN_PIPES, h.o(r), 2000 + h.few(), h.x(&h.room.query), true)),
-      READ(pipe_stful_ent_query_range(IN_PIPES, h.o(r), 2000, 1, h.x(&h.room.query),
-                                      h.x(h.room.word), false)),
-      CHANGE(pipe_stful_table_reset_range(IN_PIPES, h.o(r), 1000, 4001, &cell)),
-      READ(pipe_stful_query_get_sizes(IN_DEVICE, h.o(r), h.x(h.room.word))),
-      READ(soft_next_cell(h.d(), h.o(r), 0, h.x(h.room.word))),
+      CHANGE(pipe_stful_ent_query(IN(r), 2000 + h.few(), h.x(&h.room.query), true)),
+      READ(pipe_stful_ent_query_range(IN(r), 2000, 1, h.x(&h.room.query), h.word(), false)),
+      CHANGE(pipe_stful_table_reset_range(IN(r), 1000, 4001, &cell)),
+      READ(pipe_stful_query_get_sizes(ON(r), h.word())),
+      READ(soft_next_cell(h.d(), h.o(r), 0, h.word())),
       CHANGE(soft_register_write(h.d(), h.p(), h.o(r), 0x3ffff, h.number)),
-      CHANGE(pipe_stful_database_sync(IN_PIPES, h.o(r), nullptr, nullptr)),
-      END(pipe_stful_table_reset(IN_PIPES, h.o(r), &cell)),
-      UNSUPPORTED(pipe_stful_direct_ent_query(IN_DEVICE, h.o(kHost), 1, &h.room.query, false)),
-      UNSUPPORTED(pipe_stful_direct_database_sync(IN_PIPES, h.o(kHost), nullptr, nullptr)),
+      CHANGE(pipe_stful_database_sync(IN(r), nullptr, nullptr)),
+      END(pipe_stful_table_reset(IN(r), &cell)),
+      UNSUPPORTED(pipe_stful_direct_ent_query(ON(kHost), 1, &h.room.query, false)),
+      UNSUPPORTED(pipe_stful_direct_database_sync(IN(kHost), nullptr, nullptr)),
   };
 }
 
@@ -425,26 +408,24 @@ Calls hash_and_digest_calls() {
   static const uint8_t entries[5][3] = {{0, 1, 2}, {1, 1, 2}, {2, 1, 2}, {3, 1, 2}, {4, 1, 2}};
   constexpr uint32_t c = kIpHash, d = kMacDigest;
   return {
-      CHANGE(pipe_mgr_hash_calc_input_set(IN_DEVICE, h.o(c), kIpFields)),
-      READ(pipe_mgr_hash_calc_input_get(IN_DEVICE, h.o(c), h.x(h.room.word))),
-      CHANGE(pipe_mgr_hash_calc_algorithm_set(IN_DEVICE, h.o(c), kCrc)),
-      READ(pipe_mgr_hash_calc_algorithm_get(IN_DEVICE, h.o(c), h.x(h.room.word))),
-      CHANGE(pipe_mgr_hash_calc_seed_set(IN_DEVICE, h.o(c), h.number)),
-      READ(pipe_mgr_hash_calc_seed_get(IN_DEVICE, h.o(c), h.x(&h.room.number))),
-      CHANGE(pipe_mgr_hash_calc_input_field_attribute_set(IN_DEVICE, h.o(c), kIpFields, 1,
-                                                          h.x(&attribute))),
-      READ(pipe_mgr_hash_calc_input_field_attribute_count_get(IN_DEVICE, h.o(c), kIpFields,
-                                                              h.x(h.room.word))),
-      READ(pipe_mgr_hash_calc_input_field_attribute_get(IN_DEVICE, h.o(c), kIpFields, 1,
-                                                        h.x(&h.room.attribute), h.x(h.room.word))),
-      READ(pipe_mgr_hash_calc_calculate_hash_value(IN_DEVICE, h.o(c), h.x(entries[0]), 3,
-                                                   h.x(h.room.bytes), 4)),
-      CHANGE(pipe_mgr_lrn_digest_notification_register(IN_DEVICE, h.o(d), h.x(keep), nullptr)),
+      CHANGE(pipe_mgr_hash_calc_input_set(ON(c), kIpFields)),
+      READ(pipe_mgr_hash_calc_input_get(ON(c), h.word())),
+      CHANGE(pipe_mgr_hash_calc_algorithm_set(ON(c), kCrc)),
+      READ(pipe_mgr_hash_calc_algorithm_get(ON(c), h.word())),
+      CHANGE(pipe_mgr_hash_calc_seed_set(ON(c), h.number)),
+      READ(pipe_mgr_hash_calc_seed_get(ON(c), h.x(&h.room.number))),
+      CHANGE(pipe_mgr_hash_calc_input_field_attribute_set(ON(c), kIpFields, 1, h.x(&attribute))),
+      READ(pipe_mgr_hash_calc_input_field_attribute_count_get(ON(c), kIpFields, h.word())),
+      READ(pipe_mgr_hash_calc_input_field_attribute_get(ON(c), kIpFields, 1, h.x(&h.room.attribute),
+                                                        h.word())),
+      READ(
+          pipe_mgr_hash_calc_calculate_hash_value(ON(c), h.x(entries[0]), 3, h.x(h.room.bytes), 4)),
+      CHANGE(pipe_mgr_lrn_digest_notification_register(ON(d), h.x(keep), nullptr)),
       CHANGE(soft_digest_inject(h.d(), h.q(), h.o(d), h.x(entries[h.few()]), 1, 3, h.room.word)),
       READ(soft_digest_pending(h.d(), h.o(d), h.room.word, h.room.word + 1)),
       CHANGE(pipe_mgr_flow_lrn_set_timeout(IN_DEVICE, h.few())),
       CHANGE(pipe_mgr_flow_lrn_notify_ack(h.s(), h.o(d), sent)),
-      CHANGE(pipe_mgr_lrn_digest_notification_deregister(IN_DEVICE, h.o(d))),
+      CHANGE(pipe_mgr_lrn_digest_notification_deregister(ON(d))),
   };
 }
 
@@ -456,22 +437,18 @@ Calls value_set_calls() {
   };
   constexpr uint32_t v = kPortSet, all = SOFT_ALL_PARSERS;
   return {
-      CHANGE(
-          pipe_mgr_pvs_entry_add(IN_DEVICE, h.o(v), 0, h.p(), all, h.number, kNone, h.x(&h.last))),
-      CHANGE(pipe_mgr_pvs_entry_modify(IN_DEVICE, h.o(v), h.last, h.few(), 15)),
-      READ(pipe_mgr_pvs_entry_get(IN_DEVICE, h.o(v), h.last, h.x(h.room.word),
-                                  h.x(h.room.word + 1))),
+      CHANGE(pipe_mgr_pvs_entry_add(ON(v), 0, h.p(), all, h.number, kNone, h.x(&h.last))),
+      CHANGE(pipe_mgr_pvs_entry_modify(ON(v), h.last, h.few(), 15)),
+      READ(pipe_mgr_pvs_entry_get(ON(v), h.last, h.word(), h.x(h.room.word + 1))),
       READ(soft_value_set_parsers(h.d(), h.o(v), h.last, h.x(&h.room.parsers))),
-      READ(pipe_mgr_pvs_entry_handle_get(IN_DEVICE, h.o(v), 0, h.p(0), 1, h.few(), 15,
-                                         h.x(h.room.word))),
-      READ(pipe_mgr_pvs_entry_get_first(IN_DEVICE, h.o(v), 0, h.p(0), 1, h.x(h.room.word))),
-      CHANGE(
-          pipe_mgr_pvs_entry_get_next(IN_DEVICE, h.o(v), 0, h.p(0), 1, 1, h.more(), h.room.word)),
-      READ(pipe_mgr_pvs_entry_get_count(IN_DEVICE, h.o(v), 0, h.p(0), 1, 0, h.x(h.room.word))),
-      READ(soft_value_set_match(h.d(), h.o(v), 0, h.q(), 1, h.few(), h.x(h.room.word))),
-      CHANGE(pipe_mgr_pvs_set_property(IN_DEVICE, h.o(v), PIPE_PVS_CAPACITY, 0, 0, 0)),
-      READ(pipe_mgr_pvs_get_property(IN_DEVICE, h.o(v), PIPE_PVS_CAPACITY, h.x(h.room.word), 0, 0)),
-      END(pipe_mgr_pvs_entry_delete(IN_DEVICE, h.o(v), oldest(h))),
+      READ(pipe_mgr_pvs_entry_handle_get(ON(v), 0, h.p(0), 1, h.few(), 15, h.word())),
+      READ(pipe_mgr_pvs_entry_get_first(ON(v), 0, h.p(0), 1, h.word())),
+      CHANGE(pipe_mgr_pvs_entry_get_next(ON(v), 0, h.p(0), 1, 1, h.more(), h.room.word)),
+      READ(pipe_mgr_pvs_entry_get_count(ON(v), 0, h.p(0), 1, 0, h.word())),
+      READ(soft_value_set_match(h.d(), h.o(v), 0, h.q(), 1, h.few(), h.word())),
+      CHANGE(pipe_mgr_pvs_set_property(ON(v), PIPE_PVS_CAPACITY, 0, 0, 0)),
+      READ(pipe_mgr_pvs_get_property(ON(v), PIPE_PVS_CAPACITY, h.word(), 0, 0)),
+      END(pipe_mgr_pvs_entry_delete(ON(v), oldest(h))),
   };
 }
 
@@ -483,10 +460,8 @@ Calls snapshot_calls() {
       CHANGE(bf_snapshot_capture_trigger_set(h.member, h.x(bytes), h.x(bytes))),
       READ(soft_snapshot_trigger_get(h.member, h.x(h.room.bytes), h.x(h.room.bytes + 8))),
       CHANGE(soft_snapshot_inject(h.d(), h.q(), 0, 0, h.x(bytes), 1, kSnapshotBytes, h.room.word)),
-      READ(bf_snapshot_capture_get(h.member, 0, h.x(h.room.bytes), h.room.control,
-                                   h.x(h.room.word))),
-      READ(bf_snapshot_capture_phv_fields_dict_size(h.member, h.x(h.room.word),
-                                                    h.x(h.room.word + 1))),
+      READ(bf_snapshot_capture_get(h.member, 0, h.x(h.room.bytes), h.room.control, h.word())),
+      READ(bf_snapshot_capture_phv_fields_dict_size(h.member, h.word(), h.x(h.room.word + 1))),
       END(bf_snapshot_delete(h.member)),
   };
 }
@@ -524,20 +499,20 @@ Calls shadow_calls() {
   return {
       CHANGE(p4_pd_ms_new_mbr(h.session, h.x(state), 1, h.few())),
       CHANGE(p4_pd_ms_set_mbr_act(h.x(state), 1, h.few(), kSend)),
-      READ(p4_pd_ms_get_mbr_act(h.x(state), 1, h.few(), h.x(h.room.word))),
+      READ(p4_pd_ms_get_mbr_act(h.x(state), 1, h.few(), h.word())),
       CHANGE(p4_pd_ms_new_grp(h.session, h.x(state), 1, h.few())),
       CHANGE(p4_pd_ms_set_grp_act(h.x(state), 1, h.few(), kSend)),
-      READ(p4_pd_ms_get_grp_act(h.x(state), 1, h.few(), h.x(h.room.word))),
+      READ(p4_pd_ms_get_grp_act(h.x(state), 1, h.few(), h.word())),
       CHANGE(p4_pd_ms_add_mbr_to_grp(h.session, h.x(state), 1, h.few(), h.few())),
       CHANGE(p4_pd_ms_mbr_apply_to_grps(h.x(state), 1, h.few(), h.x(pass_by), nullptr)),
       CHANGE(p4_pd_ms_grp_update_res(1, h.few(), h.few(), h.x(state))),
       CHANGE([&] {
         p4_pd_res_spec_t *held = nullptr;
-        return p4_pd_ms_mbr_get_res(h.x(state), 1, h.few(), h.x(h.room.word), h.x(&held));
+        return p4_pd_ms_mbr_get_res(h.x(state), 1, h.few(), h.word(), h.x(&held));
       }()),
       CHANGE([&] {
         p4_pd_res_spec_t *held = nullptr;
-        return p4_pd_ms_grp_get_res(h.x(state), 1, h.few(), h.x(h.room.word), h.x(&held));
+        return p4_pd_ms_grp_get_res(h.x(state), 1, h.few(), h.word(), h.x(&held));
       }()),
       CHANGE(on_document([&](cJSON *d) { return p4_pd_ms_log_state(1, h.x(state), h.x(d)); })),
       CHANGE(on_document([&](cJSON *d) { return p4_pd_ms_restore_state(1, h.x(state), h.x(d)); })),

@@ -75,6 +75,7 @@ struct Hand {
     const bool chosen = pointers++ == wrong_pointer;
     return is_wrong(kPointer) && chosen ? nullptr : pointer;
   }
+  uint32_t *word() { return x(room.word); }
 
   uint8_t few() const { return steady ? 0 : static_cast<uint8_t>(number % 5); }
   uint32_t entry() const { return steady || number % 2 == 0 ? last : 1 + few(); }

@@ -234,8 +234,12 @@ class SoftTest : public testing::Test {
   }
 
   // Of kHost with kForward to port 1, by number.
-  bf_status_t add_host(uint8_t number, uint32_t *entry, bf_device_id_t device = kDevice) const {
-    const Key key(20, {0x00, 0x10, number}, {0xff, 0xff, 0xff});
+  bf_status_t add_host(uint32_t number, uint32_t *entry, bf_device_id_t device = kDevice) const {
+    const uint32_t vlan = 0x1000 + number;
+    const Key key(20,
+                  {static_cast<uint8_t>(vlan >> 16), static_cast<uint8_t>(vlan >> 8),
+                   static_cast<uint8_t>(vlan)},
+                  {0xff, 0xff, 0xff});
     const Action forward(9, {0x00, 0x01});
     return pipe_mgr_mat_ent_add(session, device, kAll, kHost, &key.spec, kForward, &forward.spec, 0,
                                 0, entry);

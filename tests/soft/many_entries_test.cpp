@@ -1,0 +1,84 @@
+// A table at a size that the model does not reach: handles, walks and memory.
+#include <set>
+
+#include "program.hpp"
+
+namespace {
+
+using namespace soft_test;
+
+class ManyEntries : public SoftTest {
+ protected:
+  uint32_t add(uint32_t number) const {
+    uint32_t entry = 0;
+    OK(add_host(number, &entry));
+    return entry;
+  }
+  bf_status_t remove(uint32_t entry) const {
+    return pipe_mgr_mat_ent_del(session, kDevice, kHost, entry, 0);
+  }
+  bf_status_t next(uint32_t after, Words *handles) const {
+    const auto room = static_cast<uint32_t>(handles->size());
+    const bf_status_t status = pipe_mgr_get_next_entry_handles(session, kHost, kDevice, kAll, after,
+                                                               room, handles->data());
+    std::erase(*handles, kNone);
+    return status;
+  }
+  uint64_t bytes() const {
+    uint64_t held = 0;
+    OK(soft_memory_bytes(kDevice, kHost, &held));
+    return held;
+  }
+};
+
+TEST_F(ManyEntries, StaleHandlesStayUnknown) {
+  const uint32_t stale = add(1);
+  OK(remove(stale));
+  for (int i = 1; i < 65536; ++i) {
+    const uint32_t handle = add(1);
+    ASSERT_TRUE(handle != stale && handle != kNone);
+    ASSERT_EQ(remove(stale), BF_OBJECT_NOT_FOUND);
+    OK(remove(handle));
+  }
+  for (const uint32_t never : {kNone, 5000u}) EXPECT_EQ(remove(never), BF_OBJECT_NOT_FOUND);
+}
+
+TEST_F(ManyEntries, AWalkHoldsWhileEntriesComeAndGo) {
+  Words handles, ahead(9);
+  for (uint32_t i = 0; i < 6; ++i) handles.push_back(add(i));
+  OK(remove(handles[0]));  // the one we stand on
+  OK(remove(handles[1]));  // and the one ahead
+  handles.push_back(add(99));
+  OK(next(handles[0], &ahead));
+  EXPECT_EQ(ahead, Words(handles.begin() + 2, handles.end()));
+  EXPECT_EQ(next(0x00001000, &ahead), BF_OBJECT_NOT_FOUND);
+  EXPECT_EQ(next(handles[3] | 0x04000000, &ahead),  // a generation that was never issued
+            BF_OBJECT_NOT_FOUND);
+}
+
+TEST_F(ManyEntries, GrowOverManyChunksAndDrain) {
+  constexpr uint32_t kMany = 300000;
+  Words handles;
+  for (uint32_t i = 0; i < kMany; ++i) handles.push_back(add(i));
+  ASSERT_EQ(std::set<uint32_t>(handles.begin(), handles.end()).size(), kMany);
+  const auto is_left = [](uint32_t i) { return i == 5 || i == 262143; };
+  for (uint32_t i = 0; i < kMany; ++i) {
+    if (is_left(i)) continue;
+    ASSERT_EQ(remove(handles[i]), BF_SUCCESS);
+  }
+  Words ahead(2);
+  OK(next(handles[5], &ahead));
+  EXPECT_EQ(ahead, Words{handles[262143]}) << "alone behind many free places";
+  for (uint32_t i = 0; i < kMany; ++i) {
+    if (!is_left(i)) handles[i] = add(i);
+  }
+  const uint8_t packet[] = {0x03, 0xe8, 0x00};  // number 251904
+  uint32_t hit = 0;
+  OK(soft_lookup(kDevice, 0, kHost, packet, 3, &hit, nullptr));
+  EXPECT_EQ(hit, handles[251904]);
+  EXPECT_LT(bytes(), uint64_t{kMany} * 72) << "slots are used again";
+  for (const uint32_t entry : handles) ASSERT_EQ(remove(entry), BF_SUCCESS);
+  EXPECT_LT(bytes(), uint64_t{kMany} * 2) << "the generations of the slots";
+}
+
+}  // namespace
