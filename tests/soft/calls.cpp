@@ -147,10 +147,10 @@ TableCase table_case(uint32_t table) {
                               {16, {0, 1}, {255, 255}, 5}};
   static Action forward(9, {0, 1}), deny, hop(14, {0, 1});
   deny.spec.resource_count = forward.spec.resource_count = 0;
-  forward.resource(kHostCount, 0, PIPE_RESOURCE_ATTACH).data.counter = kCounted;
-  forward.resource(kAclCount, 9, PIPE_RESOURCE_ATTACH);
-  deny.resource(kRuleCount, 0, PIPE_RESOURCE_ATTACH);
-  deny.resource(kAclMeter, 0, PIPE_RESOURCE_ATTACH).data.meter = kMetered;
+  forward.resource(kHostCount).data.counter = kCounted;
+  forward.resource(kAclCount, 9);
+  deny.resource(kRuleCount);
+  deny.resource(kAclMeter).data.meter = kMetered;
   if (table == kHost) return {table, hosts, kForward, &forward.spec, 3};
   if (table == kAcl) return {table, rules, kDeny, &deny.spec, 2};
   return {table, routes, kNextHop, &hop.spec, 5};
@@ -293,7 +293,9 @@ Calls profile_calls() {
                              pipe_group_handle_t, pipe_member_handle_t, void *) {};
   constexpr uint32_t m = kMembers, g = kSelector;
   const auto add_lag = [=](Hand &h) {
-    const pipe_mgr_action_spec_t spec = naming(PIPE_ACTION_GROUP, h.group());
+    pipe_mgr_action_spec_t spec{};
+    spec.type = PIPE_ACTION_GROUP;
+    spec.group = h.group();
     return pipe_mgr_mat_ent_add(IN(kLag), h.x(&lag.spec), kSend, h.x(&spec), 0, 0, h.word());
   };
   Calls calls = {

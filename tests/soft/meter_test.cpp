@@ -60,8 +60,7 @@ TEST_F(Meters, RefuseASpecOrACellThatDoesNotFit) {
 TEST_F(Meters, BucketsGoWithTheirEntry) {
   const Key key(16, {8, 1}, {255, 255});
   Action deny;
-  deny.resource(kAclMeter, 0, PIPE_RESOURCE_ATTACH).data.meter =
-      meter_spec(PIPE_RATE_BYTES, 0, 1, 0, 2);
+  deny.resource(kAclMeter).data.meter = meter_spec(PIPE_RATE_BYTES, 0, 1, 0, 2);
   uint32_t entry = 0;
   uint64_t held[3] = {};
   for (uint64_t &bytes : held) {

@@ -137,16 +137,17 @@ TEST_F(Replay, ReportsMembersThenGroupsThenMemberships) {
 }
 
 TEST_F(Replay, TakesOnlyAVirtualDeviceThatIsAlike) {
-  OK(soft_device_create(8, 2, &small_program(), false));
-  OK(soft_device_create(9, 1, &small_program(), true));
-  OK(soft_device_create(11, 2, &other_program(), true));
-  for (const bf_device_id_t unfit : {4u, 8u, 9u, 11u}) {
-    EXPECT_EQ(replay(unfit), BF_INVALID_ARGUMENT) << unfit;
+  EXPECT_EQ(replay(kDevice), BF_INVALID_ARGUMENT);
+  for (const auto &[pipes, program, is_virtual] : {std::tuple{2u, &small_program(), false},
+                                                   {1u, &small_program(), true},
+                                                   {2u, &other_program, true}}) {
+    OK(soft_device_create(8, pipes, program, is_virtual));
+    EXPECT_EQ(replay(8), BF_INVALID_ARGUMENT);
+    OK(soft_device_remove(8));
   }
-  EXPECT_EQ(replay(12), BF_INVALID_DEVICE);
+  EXPECT_EQ(replay(8), BF_INVALID_DEVICE);
   EXPECT_EQ(replay(kVirtual, 1), BF_NOT_SUPPORTED);
   EXPECT_TRUE(told.empty());
-  for (const bf_device_id_t device : {8u, 9u, 11u}) OK(soft_device_remove(device));
 }
 
 }  // namespace

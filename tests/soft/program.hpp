@@ -130,17 +130,8 @@ inline const soft_program_t &small_program() {
   return whole;
 }
 
-// What it has in common with a program that has no more than one table.
-inline const soft_program_t &other_program() {
-  static const soft_program_t whole = [] {
-    soft_program_t p{};
-    p.name = "other";
-    p.tables = small_program().tables;
-    p.table_count = 1;
-    return p;
-  }();
-  return whole;
-}
+// What it has in common with a program that has no objects.
+inline const soft_program_t other_program{};
 
 // ---- Records of calls, with their bytes ----
 
@@ -172,21 +163,14 @@ struct Action {
   Action(const Action &) = delete;
   Action &operator=(const Action &) = delete;
 
-  pipe_mgr_resource_t &resource(uint32_t handle, uint32_t index, uint32_t tag) {
+  pipe_mgr_resource_t &resource(uint32_t handle, uint32_t index = 0) {
     pipe_mgr_resource_t &added = spec.resources[spec.resource_count++];
     added.handle = handle;
     added.index = index;
-    added.tag = tag;
+    added.tag = PIPE_RESOURCE_ATTACH;
     return added;
   }
 };
-
-inline pipe_mgr_action_spec_t naming(uint32_t type, uint32_t reference) {
-  pipe_mgr_action_spec_t spec{};
-  spec.type = type;
-  (type == PIPE_ACTION_MEMBER ? spec.member : spec.group) = reference;
-  return spec;
-}
 
 inline pipe_mgr_meter_spec_t meter_spec(uint32_t unit, uint64_t committed_rate,
                                         uint64_t committed_burst, uint64_t peak_rate,

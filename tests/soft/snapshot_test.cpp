@@ -122,7 +122,7 @@ TEST_F(Snapshots, RefusedCallsWriteNothing) {
   EXPECT_EQ(soft_snapshot_inject(kDevice, 0, 0, 31, records, 2, 8, nullptr), BF_INVALID_ARGUMENT);
 
   // A program without snapshots.
-  OK(soft_device_create(9, 1, &other_program(), false));
+  OK(soft_device_create(9, 1, &other_program, false));
   EXPECT_EQ(bf_snapshot_create(9, 0, 0, 0, 0, &snapshot), BF_NOT_SUPPORTED);
   OK(soft_device_remove(9));
 }

@@ -8,7 +8,9 @@ namespace {
 using namespace soft_test;
 
 struct Where {
-  uint32_t direction, pipe, parser;
+  uint32_t direction;
+  uint16_t pipe;
+  uint8_t parser;
   bool meets(const Where &other) const {
     const auto agree = [](uint32_t a, uint32_t b, uint32_t all) {
       return a == b || a == all || b == all;
@@ -26,8 +28,8 @@ struct Entry {
 class ValueSets : public SoftTest, public testing::WithParamInterface<uint32_t> {
  protected:
   Where any_where() {
-    return {random.below(2), random.one_in(3) ? kAll : random.below(2),
-            random.one_in(3) ? SOFT_ALL_PARSERS : random.below(3)};
+    return {random.below(2), static_cast<uint16_t>(random.one_in(3) ? kAll : random.below(2)),
+            static_cast<uint8_t>(random.one_in(3) ? SOFT_ALL_PARSERS : random.below(3))};
   }
   uint32_t any_value() { return random.below(4) * 0x100 + random.below(3); }
   uint32_t any_mask() { return random.one_in(2) ? 0xff00 : 0xffff; }
@@ -44,8 +46,8 @@ class ValueSets : public SoftTest, public testing::WithParamInterface<uint32_t> 
   }
   // Whether one of the parsers has no room; parser 3 stands for all that no entry names.
   bool is_full(const Where &where) const {
-    for (uint32_t pipe = 0; capacity != 0 && pipe < 2; ++pipe) {
-      for (uint32_t parser = 0; parser < 4; ++parser) {
+    for (uint16_t pipe = 0; capacity != 0 && pipe < 2; ++pipe) {
+      for (uint8_t parser = 0; parser < 4; ++parser) {
         const Where one{where.direction, pipe, parser};
         const auto held = std::ranges::count_if(
             entries, [&](const Entry &entry) { return entry.where.meets(one); });
@@ -68,9 +70,8 @@ class ValueSets : public SoftTest, public testing::WithParamInterface<uint32_t> 
     const bf_status_t expected = clash(where, value, mask) != nullptr ? BF_ALREADY_EXISTS
                                  : is_full(where)                     ? BF_TABLE_FULL
                                                                       : BF_SUCCESS;
-    ASSERT_EQ(pipe_mgr_pvs_entry_add(session, kDevice, kPortSet, where.direction,
-                                     static_cast<uint16_t>(where.pipe),
-                                     static_cast<uint8_t>(where.parser), value, mask, &handle),
+    ASSERT_EQ(pipe_mgr_pvs_entry_add(session, kDevice, kPortSet, where.direction, where.pipe,
+                                     where.parser, value, mask, &handle),
               expected);
     if (expected != BF_SUCCESS) return;
     ASSERT_TRUE(entries.empty() || handle > entries.back().handle);
@@ -104,13 +105,11 @@ class ValueSets : public SoftTest, public testing::WithParamInterface<uint32_t> 
   }
   void find() {
     const Where where = any_where();
-    const auto pipe = static_cast<uint16_t>(where.pipe);
-    const auto parser = static_cast<uint8_t>(where.parser);
     const uint32_t value = any_value(), mask = any_mask();
     uint32_t handle = kNowhere;
     const Entry *same = clash(where, value, mask);
-    ASSERT_EQ(pipe_mgr_pvs_entry_handle_get(session, kDevice, kPortSet, where.direction, pipe,
-                                            parser, value, mask, &handle),
+    ASSERT_EQ(pipe_mgr_pvs_entry_handle_get(session, kDevice, kPortSet, where.direction, where.pipe,
+                                            where.parser, value, mask, &handle),
               found(same));
     ASSERT_EQ(handle, same == nullptr ? kNowhere : same->handle);
     if (where.pipe != kAll && where.parser != SOFT_ALL_PARSERS) {
@@ -118,16 +117,14 @@ class ValueSets : public SoftTest, public testing::WithParamInterface<uint32_t> 
         return e.where.meets(where) && ((e.value ^ value) & e.mask) == 0;
       });
       handle = kNowhere;
-      ASSERT_EQ(soft_value_set_match(kDevice, kPortSet, where.direction, where.pipe, parser, value,
-                                     &handle),
+      ASSERT_EQ(soft_value_set_match(kDevice, kPortSet, where.direction, where.pipe, where.parser,
+                                     value, &handle),
                 found(hit));
       ASSERT_EQ(handle, hit == nullptr ? kNowhere : hit->handle);
     }
   }
   void compare() {
     const Where where = any_where();
-    const auto pipe = static_cast<uint16_t>(where.pipe);
-    const auto parser = static_cast<uint8_t>(where.parser);
     Words expected;
     for (const Entry &entry : entries) {
       if (!entry.where.meets(where)) continue;
@@ -142,17 +139,17 @@ class ValueSets : public SoftTest, public testing::WithParamInterface<uint32_t> 
                 (Words{entry.where.direction, entry.where.pipe, entry.where.parser}));
     }
     uint32_t count = kNowhere;
-    OK(pipe_mgr_pvs_entry_get_count(session, kDevice, kPortSet, where.direction, pipe, parser, 0,
-                                    &count));
+    OK(pipe_mgr_pvs_entry_get_count(session, kDevice, kPortSet, where.direction, where.pipe,
+                                    where.parser, 0, &count));
     ASSERT_EQ(count, expected.size());
     Words walked{0};
     bf_status_t status = pipe_mgr_pvs_entry_get_first(session, kDevice, kPortSet, where.direction,
-                                                      pipe, parser, walked.data());
+                                                      where.pipe, where.parser, walked.data());
     if (status != BF_SUCCESS) walked.clear();
     while (status == BF_SUCCESS && walked.back() != kNone) {
       Words next(1 + random.below(4));
-      status = pipe_mgr_pvs_entry_get_next(session, kDevice, kPortSet, where.direction, pipe,
-                                           parser, walked.back(),
+      status = pipe_mgr_pvs_entry_get_next(session, kDevice, kPortSet, where.direction, where.pipe,
+                                           where.parser, walked.back(),
                                            static_cast<uint32_t>(next.size()), next.data());
       if (status == BF_SUCCESS) walked.insert(walked.end(), next.begin(), next.end());
     }
