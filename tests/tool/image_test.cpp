@@ -1,6 +1,4 @@
 // Damaged images.
-#include "tesselctl/state/image.hpp"
-
 #include <cstdlib>
 
 #include "tesselctl/text/files.hpp"
@@ -11,11 +9,6 @@ namespace {
 
 class ImageTest : public ToolTest {
  protected:
-  static std::string saved(const Device &device) {
-    std::string text;
-    save_image(device, [&](std::string_view piece) { text += piece; });
-    return text;
-  }
   // What a new device that loads the image saves, or the fault.
   static std::string loaded_and_saved(std::string_view text) {
     const Device device({.id = 9, .pipes = 2});
@@ -24,7 +17,7 @@ class ImageTest : public ToolTest {
     } catch (const Fault &fault) {
       return fault.what();
     }
-    return saved(device);
+    return image_of(device);
   }
 };
 
@@ -32,7 +25,7 @@ class ImageTest : public ToolTest {
 TEST_F(ImageTest, ADamagedImageIsNoticed) {
   const std::string script = read_input(TOOL_TEST_DIR "/everything.tessel");
   ASSERT_EQ(run_script(runner_, "everything", script, {}).faults, 0u);
-  const std::string text = saved(device_);
+  const std::string text = image_of(device_);
   ASSERT_EQ(loaded_and_saved(text), text);
   const char *const wanted = getenv("IMAGE_BIT_FLIPS");
   const size_t flips = wanted == nullptr ? 2000 : std::stoul(wanted);

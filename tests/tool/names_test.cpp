@@ -9,7 +9,6 @@
 #include "tesselctl/completion/completion.hpp"
 #include "tesselctl/device/read_back.hpp"
 #include "tesselctl/program/value.hpp"
-#include "tesselctl/state/image.hpp"
 #include "tesselctl/text/files.hpp"
 #include "tool_fixture.hpp"
 
@@ -63,11 +62,6 @@ class NamesTest : public ToolTest {
       offered.insert(candidate.word.substr(0, candidate.word.find('=')));
     }
     return std::includes(offered.begin(), offered.end(), names.begin(), names.end());
-  }
-  static std::string image_of(const Device &device) {
-    std::string text;
-    save_image(device, [&](std::string_view piece) { text += piece; });
-    return text;
   }
   void expect_same_everywhere(const std::string &entry, const std::string &written);
   void expect_named(const TableInfo &table, const std::string &key, const std::string &action,

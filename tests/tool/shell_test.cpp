@@ -101,18 +101,9 @@ class Session {
 
 class ShellTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    folder_ = ::testing::TempDir() + "tesselctl_shell." + std::to_string(getpid());
-    history_ = folder_ + "/deep/history";
-  }
-  void TearDown() override {
-    unlink(history_.c_str());
-    rmdir((folder_ + "/deep").c_str());
-    unlink((folder_ + "/routes").c_str());
-    rmdir(folder_.c_str());
-  }
-  std::string folder_;
-  std::string history_;
+  const TemporaryDirectory temporary_;
+  const std::string folder_ = temporary_.name;
+  const std::string history_ = folder_ + "/deep/history";
 };
 
 constexpr char kPrompt[] = "tesselctl> ";
@@ -154,7 +145,6 @@ TEST_F(ShellTest, KeepsItsHistoryForTheUserAlone) {
 }
 
 TEST_F(ShellTest, AnInterruptClearsTheLineAndNothingIsLost) {
-  mkdir(folder_.c_str(), 0700);
   const std::string image = folder_ + "/image";
   for (const bool quits : {true, false}) {
     Session shell(history_, image.c_str());
@@ -174,7 +164,6 @@ TEST_F(ShellTest, AnInterruptClearsTheLineAndNothingIsLost) {
 // The rows fill the terminal's buffer long before the last, so the command runs while nobody reads.
 TEST_F(ShellTest, AnInterruptEndsALongCommand) {
   constexpr int kRoutes = 20000;
-  mkdir(folder_.c_str(), 0700);
   std::ofstream routes(folder_ + "/routes");
   for (int i = 0; i < kRoutes; ++i) routes << "10." << i / 256 << "." << i % 256 << ".0/24\n";
   routes.close();

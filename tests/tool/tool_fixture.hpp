@@ -3,13 +3,21 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <memory>
 #include <string>
 
 #include "tesselctl/command/local_runner.hpp"
 #include "tesselctl/command/script.hpp"
+#include "tesselctl/state/image.hpp"
 
 namespace tesselctl {
+
+struct TemporaryDirectory {
+  TemporaryDirectory() : name(mkdtemp(std::string("/tmp/tesselctl.XXXXXX").data())) {}
+  ~TemporaryDirectory() { std::filesystem::remove_all(name); }
+  std::string name;
+};
 
 class ToolTest : public ::testing::Test {
  protected:
@@ -21,6 +29,11 @@ class ToolTest : public ::testing::Test {
       return out_.take() + std::to_string(fault.column()) + ": " + fault.sentence();
     }
     return out_.take();
+  }
+  static std::string image_of(const Device &device) {
+    std::string text;
+    save_image(device, [&](std::string_view piece) { text += piece; });
+    return text;
   }
 
   Device device_{DeviceOptions{.id = 0, .pipes = 2}};

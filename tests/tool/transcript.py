@@ -79,7 +79,7 @@ class Section:
                             f'.*"{MARK}".*\n' if self.shape else f".*'{MARK}'.*\n.*\n.*\n"))
             self.processes[prompt] = made
             if prompt == "$":
-                made.run("set -m")  # kill %1
+                made.run("set -m; trap 'kill $(jobs -p) 2>/dev/null; wait' EXIT")  # kill %1
         return self.processes[prompt]
 
     def run(self, prompt, command, expected):
