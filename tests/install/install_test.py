@@ -45,28 +45,6 @@ def check(what, wanted, got):
         sys.exit(f"{what}\nwanted:\n{wanted}\ngot:\n{got}")
 
 
-def blocks_with_prompt(page):
-    for block in re.findall(r"^```\n(.*?)^```", page, re.M | re.S):
-        if block.startswith("$ ") and "build/" not in block:
-            yield re.findall(r"^\$ (.*)\n((?:(?!\$ ).*\n)*)", block, re.M)
-
-
-def run_page(page, folder, environment):
-    """Runs each command of the page's blocks; a file that a block shows by cat is made from it."""
-    count = 0
-    for command, wanted in (step for block in blocks_with_prompt(page) for step in block):
-        if command.startswith("cat "):
-            (folder / command.split()[1]).write_text(wanted)
-            continue
-        done = subprocess.run(["sh", "-c", command], cwd=folder, env=environment, text=True,
-                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
-        code = f"(exit code {done.returncode})\n" if done.returncode else ""
-        # The page leaves out the code of a fault, which explains itself.
-        check(command, wanted, done.stdout + (code if code in wanted else ""))
-        count += 1
-    check("commands of the page", True, count > 10)
-
-
 def check_hosts(prefix, libdir, source, folder, cmake, toolchain, compiler):
     loaded = dict(os.environ, LD_LIBRARY_PATH=str(prefix / libdir),
                   PKG_CONFIG_LIBDIR=str(prefix / libdir / "pkgconfig"))
@@ -97,12 +75,12 @@ def main():
         folder = pathlib.Path(name)
         run(cmake, "--install", build, "--prefix", folder / "installed")
         prefix = (folder / "installed").rename(folder / "moved")
-        environment = dict(os.environ, PATH=f"{prefix}/bin:{os.environ['PATH']}")
         own = [line.split() for line in run("ldd", prefix / "bin/tesselctl").splitlines()
                if re.search("libp4_pd_|libsoft_", line)]
         check("libraries of the tool", [True] * 3,
               [os.path.realpath(words[2]).startswith(str(prefix)) for words in own])
-        run_page((source / "README.md").read_text(), folder, environment)
+        run(sys.executable, source / "tests/tool/transcript.py", prefix / "bin/tesselctl",
+            source / "README.md", env=dict(os.environ, ROOT=str(source)))
         check_hosts(prefix, libdir, source, folder, cmake, toolchain, compiler)
 
 

@@ -84,15 +84,6 @@ TEST_F(Large, Entry) {
   EXPECT_NE(std::strstr(value.data(), "0xa0b0c1fb"), nullptr) << "the last parameter";
 }
 
-TEST_F(Large, DefaultEntry) {
-  p4_pd_entry_handle_t entry = 0;
-  ASSERT_EQ(p4_pd_large_deep_set_default_action_wide(session_, kTarget, &data_, &entry),
-            BF_SUCCESS);
-  p4_pd_large_action_specs_t specs;
-  ASSERT_EQ(p4_pd_large_deep_table_get_default_entry(session_, kTarget, true, &specs), BF_SUCCESS);
-  expect_data(specs);
-}
-
 TEST_F(Large, MemberOfTheLastProfile) {
   p4_pd_member_handle_t member = 0;
   ASSERT_EQ(p4_pd_large_members49_add_member_with_wide(session_, kTarget, &data_, &member),

@@ -141,35 +141,6 @@ TEST_F(Tiny, PrefixesAgeAndHopsAreWide) {
             (Bytes{1, 2, 3, 4, 0x0a, 0x0b, 0x0c, 0x0d, 0x0e, 0x0f}));
 }
 
-TEST_F(Tiny, MetersComeFromTheCaller) {
-  const p4_pd_tiny_flood_match_spec_t key = {};
-  const p4_pd_bytes_meter_spec_t meter = {1, 2, 3, 4, PD_METER_TYPE_COLOR_UNAWARE};
-  EXPECT_EQ(p4_pd_tiny_flood_table_add_with_pass(session_, kTarget, &key, 1, nullptr, &entry_),
-            P4_PD_METER_SPEC_MISSING);
-  const Call call = last_call([&] {
-    return p4_pd_tiny_flood_table_add_with_pass(session_, kTarget, &key, 1, &meter, &entry_);
-  });
-  const auto &resources = call.get<ActionSpec>("action_spec").resources;
-  ASSERT_EQ(resources.size(), 1u);
-  EXPECT_EQ(resources[0].handle, 0x05000002u);
-  EXPECT_EQ(resources[0].data.meter.peak_burst, 4u);
-}
-
-TEST_F(Tiny, PathsPointAtMembers) {
-  const p4_pd_tiny_setMember_action_spec_t egress = {0x155};
-  p4_pd_member_handle_t member = 0;
-  ASSERT_EQ(p4_pd_tiny_pathMembers_add_member_with_setMember(session_, kTarget, &egress, &member),
-            BF_SUCCESS);
-  const p4_pd_tiny_paths_match_spec_t key = {0x3fff, 0xffff};
-  const Call call = last_call(
-      [&] { return p4_pd_tiny_paths_add_entry(session_, kTarget, &key, 2, member, &entry_); });
-  EXPECT_EQ(call.scalar("action"), 0x20000012u);
-  EXPECT_EQ(call.get<MatchSpec>("match").mask, (Bytes{0x3f, 0xff}));
-  EXPECT_EQ(call.get<ActionSpec>("action_spec").member, member);
-  EXPECT_EQ(p4_pd_tiny_pathMembers_modify_member_with_discard(session_, kDevice, member),
-            0xffffffffu);
-}
-
 TEST_F(Tiny, ItsExportsAreThereAsData) {
   EXPECT_STREQ(bindings::binding.program, "tiny");
   EXPECT_EQ(bindings::binding.tables.count, 12u);
