@@ -11,6 +11,7 @@
 #include "tesselctl/command/script.hpp"
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/completion/offers.hpp"
+#include "tesselctl/text/files.hpp"
 
 using namespace tesselctl;
 
@@ -36,20 +37,6 @@ bool uses_files(std::string_view line) {
   return false;
 }
 
-class FilelessRunner : public Runner {
- public:
-  explicit FilelessRunner(Runner &runner) : runner_(&runner) {}
-  LineOutcome run(const SourceLine &source) override {
-    return uses_files(source.text) ? LineOutcome::blank : runner_->run(source);
-  }
-  LineOutcome run_whole(const WholeScript &script) override { return runner_->run_whole(script); }
-  std::string ask(std::string_view line) override { return runner_->ask(line); }
-  Settings &defaults() override { return runner_->defaults(); }
-
- private:
-  Runner *runner_;
-};
-
 void require_json_lines(std::string_view text) {
   while (!text.empty()) {
     const size_t end = text.find('\n');
@@ -70,9 +57,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
   Device device(DeviceOptions{.id = 0, .pipes = 2});
   Output out;
   Output errors;
-  LocalRunner local(device, out, errors, settings);
-  FilelessRunner runner(local);
-  run_script(runner, "input", text_of(data, size), {.keep_going = true});
+  LocalRunner runner(device, out, errors, settings);
+  const LineSource lines = lines_of(text_of(data, size));
+  const auto next = [&](std::string_view &line) {
+    bool is_there = lines(line);
+    while (is_there && uses_files(line)) is_there = lines(line);
+    return is_there;
+  };
+  run_script(runner, "input", next, {.keep_going = true});
   if (settings.json) require_json_lines(out.take());
   return 0;
 }
