@@ -150,21 +150,6 @@ TEST(ProtocolTest, ARequestHasTheseBytes) {
   EXPECT_THROW(encode_request({.text = std::string(kMostPayload, 'x')}), Fault);
 }
 
-TEST(ProtocolTest, MessagesComeWholeFromAnyPieces) {
-  MessageReader reader;
-  std::string types;
-  for (const char byte :
-       encode_end(LineOutcome::fault) + encode_message(MessageType::output, "ab")) {
-    reader.add({&byte, 1});
-    while (const auto message = reader.front()) {
-      types += static_cast<char>(message->type) + std::to_string(message->payload.size());
-      reader.pop();
-    }
-  }
-  EXPECT_EQ(types, "x1o2");
-  EXPECT_EQ(reader.waiting(), 0u);
-}
-
 // ---- Clients that behave ----
 
 TEST_F(ServerTest, AnswersAreThoseOfADeviceOfOnesOwn) {
