@@ -137,7 +137,7 @@ void NumberItems::add_samples_to(Row &row, Naming) const {
   size_t count = 0;
   for (const Column &column : layout_.columns) count += column.count;
   // Numbers that stand for words are 0 and 1.
-  for (const uint64_t number : {0, 1}) add_numbers(row, Numbers(count, number));
+  for (const uint64_t number : {0u, 1u}) add_numbers(row, Numbers(count, number));
 }
 
 void NumberItems::read(Source &from, const ItemVisitor &visit) {
