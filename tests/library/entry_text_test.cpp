@@ -68,46 +68,6 @@ TEST_F(EntryText, PlacementDataThatCannotBeDecoded) {
             "");
 }
 
-// The device knows an action where the library knows none.
-TEST_F(EntryText, EntriesThatPointAtNothing) {
-  const soft_action_t nowhere = {"nowhere", 0x20fffff0, 0, 0, true};
-  Altered altered("ecmpGroup");
-  altered.table().action_data_table = 0;
-  altered.use({nowhere});
-  const Device device(kOther, false, altered.program());
-  uint8_t key[] = {0, 0x12}, mask[] = {0xff, 0xff};
-  const pipe_mgr_match_spec_t match = {0, 14, 2, key, mask, {}, 0};
-  pipe_mgr_action_spec_t spec = {};
-  spec.type = PIPE_ACTION_DATA;
-  uint32_t lost = 0;
-  const uint32_t table = altered.table().handle;
-  ASSERT_EQ(pipe_mgr_mat_ent_add(session(), kOther, kPipe, table, &match, nowhere.handle, &spec, 0,
-                                 0, &lost),
-            BF_SUCCESS);
-  const Placement at_nothing = Placement::of_entry(kOther, table, lost);
-  PD(ecmpGroup_match_spec_t) read = {};
-  uint32_t member = kUnwritten, group = kUnwritten;
-  bool has_member = true, has_group = true, no_key = true;
-  EXPECT_EQ(PD(ecmpGroup_get_entry_from_plcmt_data)(at_nothing.object, &read, &member, &group,
-                                                    &has_member, &has_group, &no_key),
-            BF_SUCCESS);
-  EXPECT_TRUE(read.l3_ecmpGroup == 0x12 && !no_key && has_member && has_group);
-  EXPECT_TRUE(member == kUnwritten && group == kUnwritten);
-  TextBuffer value, whole;
-  EXPECT_EQ(value.text(PD(ecmpGroup_plcmt_data_value)(at_nothing.object, value.data())),
-            "(( 0x0012,),)");
-  EXPECT_EQ(whole.text(PD(ecmpGroup_value)(session(), kOther, lost, false, whole.data())),
-            "((( 0x0012,),),(0,True))");
-
-  const uint32_t entry =
-      make("add_entry", "ecmpGroup", "", with("match_spec", &read, "member", add_hop()));
-  const auto equal = PD(ecmpGroup_plcmt_data_eq_to_hw);
-  EXPECT_EQ(equal(session(), kOther, table, lost, at_nothing.object), 1);
-  EXPECT_EQ(equal(session(), kDevice, table, entry, at_nothing.object), 0);
-  EXPECT_EQ(
-      equal(session(), kOther, table, lost, Placement::of_entry(kDevice, table, entry).object), 0);
-}
-
 // ---- By handle ----
 
 TEST_F(EntryText, UnknownHandlesAreAnsweredWithoutACall) {

@@ -1,6 +1,8 @@
 // An SDK that reports more than it was given room for, less than it was asked for, or sizes that
-// make no sense: what fits is delivered, and nothing beyond the room is read or written.
+// make no sense: what fits is delivered, and nothing beyond the room is read or written. And one
+// whose entries are of another program than the library's.
 #include "pipe_stful.h"
+#include "scene.hpp"
 #include "soft_snapshot.h"
 #include "soft_state.h"
 #include "typed.hpp"
@@ -21,6 +23,20 @@ struct OddService {
   uint32_t total = 0;
   uint32_t stage = 0;
 } odd_service;
+// What is added to the handles of actions that are read, and the type of what entries hold, as they
+// are read from the device and from placement data; 0 is the true one.
+struct OddActions {
+  uint32_t handles = 0;
+  uint32_t read_type = 0;
+  uint32_t placed_type = 0;
+} odd_actions;
+
+bf_status_t spoil(bf_status_t status, uint32_t *action, pipe_mgr_action_spec_t *spec = nullptr,
+                  uint32_t type = 0) {
+  *action += odd_actions.handles;
+  if (type != 0) spec->type = type;
+  return status;
+}
 
 }  // namespace
 
@@ -68,12 +84,49 @@ bf_status_t pipe_mgr_get_entry(pipe_session_handle_t session, pipe_object_handle
                                pipe_object_handle_t *action, bool read_from_hardware) {
   const bf_status_t status = soft_function(pipe_mgr_get_entry, "pipe_mgr_get_entry")(
       session, table, device, entry, match, action_spec, action, read_from_hardware);
-  if (excess == 0) return status;
+  if (excess == 0) return spoil(status, action, action_spec, odd_actions.read_type);
   action_spec->resource_count += excess << 20;
   action_spec->resources[3] = action_spec->resources[1];
   action_spec->resources[3].index = 77;
   action_spec->resources[3].tag = PIPE_RESOURCE_DETACH;
   return status;
+}
+
+bf_status_t pipe_mgr_table_get_default_entry(pipe_session_handle_t session, bf_device_id_t device,
+                                             bf_pipe_id_t pipe, pipe_object_handle_t table,
+                                             pipe_mgr_action_spec_t *action_spec,
+                                             pipe_object_handle_t *action,
+                                             bool read_from_hardware) {
+  return spoil(soft_function(pipe_mgr_table_get_default_entry, "pipe_mgr_table_get_default_entry")(
+                   session, device, pipe, table, action_spec, action, read_from_hardware),
+               action, action_spec, odd_actions.read_type);
+}
+
+bf_status_t pipe_mgr_plcmt_mat_data_get_entry(const pipe_mgr_placement_t *placement,
+                                              pipe_mgr_match_spec_t *match,
+                                              pipe_mgr_action_spec_t *action_spec,
+                                              pipe_object_handle_t *action) {
+  return spoil(
+      soft_function(pipe_mgr_plcmt_mat_data_get_entry, "pipe_mgr_plcmt_mat_data_get_entry")(
+          placement, match, action_spec, action),
+      action, action_spec, odd_actions.placed_type);
+}
+
+bf_status_t pipe_mgr_plcmt_adt_data_get_entry(const pipe_mgr_placement_t *placement,
+                                              pipe_mgr_action_data_t *data,
+                                              pipe_object_handle_t *action) {
+  return spoil(soft_function(pipe_mgr_plcmt_adt_data_get_entry,
+                             "pipe_mgr_plcmt_adt_data_get_entry")(placement, data, action),
+               action);
+}
+
+bf_status_t pipe_mgr_get_action_data_entry(pipe_object_handle_t table, bf_device_id_t device,
+                                           pipe_member_handle_t member,
+                                           pipe_mgr_action_data_t *data,
+                                           pipe_object_handle_t *action, bool read_from_hardware) {
+  return spoil(soft_function(pipe_mgr_get_action_data_entry, "pipe_mgr_get_action_data_entry")(
+                   table, device, member, data, action, read_from_hardware),
+               action);
 }
 
 bf_status_t bf_snapshot_capture_phv_fields_dict_size(uint32_t snapshot, uint32_t *total_size,
@@ -210,38 +263,7 @@ TEST_F(OddSdk, RangesReportTheIndexesThatThereWere) {
 
 // ---- Snapshots ----
 
-using Ingress = PD(snapshot_ingress_trigger_t);
-using Egress = PD(snapshot_egress_trigger_t);
-using Capture = PD(snapshot_capture_t);
-
-constexpr size_t kRecord = 634;
-static_assert(sizeof(Ingress) == kRecord && sizeof(Egress) == kRecord &&
-              sizeof(Capture) == kRecord);
-
-uint32_t create(uint32_t direction) {
-  uint32_t snapshot = 0;
-  EXPECT_EQ(PD(snapshot_create)(kDevice, 1, 0, 3, direction, &snapshot), BF_SUCCESS);
-  return snapshot;
-}
-
-const Bytes kUntouchedRecord(kRecord, 0xa5);
-
-// A capture read into room for 22 records, filled with 0xa5 before.
-struct Read {
-  std::vector<Bytes> records;
-  uint32_t captures = 99;
-  p4_pd_status_t status = 0;
-
-  explicit Read(uint32_t snapshot) {
-    Bytes room(22 * kRecord, 0xa5);
-    bf_snapshot_control_t control[32] = {};
-    status = PD(snapshot_capture_data_get)(snapshot, 1, reinterpret_cast<Capture *>(room.data()),
-                                           control, &captures);
-    for (size_t i = 0; i < 22; ++i) {
-      records.emplace_back(&room[i * kRecord], &room[i * kRecord] + kRecord);
-    }
-  }
-};
+constexpr size_t kRecord = sizeof(PD(snapshot_capture_t));
 
 // The bytes of a trigger as the device gets them: every field of its layout in network order.
 TEST_F(OddSdk, TriggersReachTheDeviceInNetworkOrder) {
@@ -261,93 +283,92 @@ TEST_F(OddSdk, TriggersReachTheDeviceInNetworkOrder) {
     }
     EXPECT_EQ(fields[2], direction == 0 ? 74u : 49u);
     EXPECT_EQ(fields[4], direction == 0 ? 40u : 32u);
-    const uint32_t snapshot = create(direction);
+    uint32_t snapshot = 0;
+    EXPECT_EQ(PD(snapshot_create)(kDevice, 1, 0, 3, direction, &snapshot), BF_SUCCESS);
     ASSERT_EQ(PD(snapshot_capture_trigger_set)(snapshot, value.data(), mask.data()), BF_SUCCESS);
     ASSERT_EQ(soft_snapshot_trigger_get(snapshot, sent.data(), sent_mask.data()), BF_SUCCESS);
     EXPECT_EQ(sent, wanted);
     EXPECT_EQ(sent_mask, wanted_mask);
     EXPECT_EQ(value, given);
   }
-  Ingress port = {};
-  port.ig_intr_md_ingress_port = 0x1234;
-  port.outerEthHdr_dmacOui = 0x00abcdef;
-  Bytes sent(kRecord), sent_mask(kRecord);
-  const uint32_t snapshot = create(0);
-  ASSERT_EQ(PD(snapshot_capture_trigger_set)(snapshot, &port, &port), BF_SUCCESS);
-  ASSERT_EQ(soft_snapshot_trigger_get(snapshot, sent.data(), sent_mask.data()), BF_SUCCESS);
-  EXPECT_EQ(hex(Bytes(&sent[0], &sent[2])), "12 34");
-  EXPECT_EQ(hex(Bytes(&sent[21], &sent[25])), "00 ab cd ef");
 }
 
-TEST_F(OddSdk, CapturesAreCutIntoRecords) {
-  const uint32_t snapshot = create(0);
-  const Read none(snapshot);
-  EXPECT_EQ(none.status, BF_NOT_READY) << "nothing captured";
-  EXPECT_EQ(none.captures, 0u);
-  const Ingress anything = {};
-  PD(snapshot_capture_trigger_set)(snapshot, &anything, &anything);
-  Bytes packet(5 * kRecord);
-  for (size_t i = 0; i < packet.size(); ++i) packet[i] = static_cast<uint8_t>(i % 255);
-  ASSERT_EQ(soft_snapshot_inject(kDevice, 1, 0, 0, packet.data(), 5, 5 * kRecord, nullptr),
-            BF_SUCCESS);
-  const Read read(snapshot);
-  EXPECT_EQ(read.status, BF_SUCCESS);
-  EXPECT_EQ(read.captures, 4u);
-  // The fields of ingress packets are the first 404 bytes of a record and of a capture.
-  for (size_t stage = 0; stage < 4; ++stage) {
-    Bytes wanted(kRecord);
-    std::copy_n(&packet[stage * kRecord], 404, wanted.begin());
-    EXPECT_EQ(read.records[stage], wanted) << stage;
-  }
-  EXPECT_EQ(read.records[4], kUntouchedRecord);
-}
-
-// Egress packets have their fields in another order than captures.
-TEST_F(OddSdk, FieldsOfEgressPacketsHaveTheirNames) {
-  const uint32_t snapshot = create(1);
-  const Egress anything = {};
-  PD(snapshot_capture_trigger_set)(snapshot, &anything, &anything);
-  Bytes packet(kRecord);
-  packet[0] = 0x01;  // egress port
-  packet[1] = 0x23;
-  packet[5] = 0xab;    // 4 to 7, the OUI of the destination
-  packet[49] = 0x52;   // 44 to 49, three parts of the hardware address of the ARP sender
-  packet[257] = 0x01;  // the last field: sender dropped by the firewall
-  ASSERT_EQ(soft_snapshot_inject(kDevice, 1, 1, 0, packet.data(), 1, kRecord, nullptr), BF_SUCCESS);
-  Capture wanted = {};
-  wanted.eg_intr_md_egress_port[0] = 0x01;
-  wanted.eg_intr_md_egress_port[1] = 0x23;
-  wanted.outerEthHdr_dmacOui[1] = 0xab;
-  wanted.arpHdr_smac[5] = 0x52;
-  wanted.fwMd_sipDrop = 0x01;
-  EXPECT_EQ(std::memcmp(Read(snapshot).records[0].data(), &wanted, kRecord), 0);
-}
-
+// Room is for 20 records; nothing behind those that there are is touched.
 TEST_F(OddSdk, StagesOfOddSizes) {
-  const auto read = [](uint32_t total, uint32_t stage) {
+  for (const auto &[total, stage, records] : {std::tuple{1000u, 0u, 0u},
+                                              {0u, 0u, 0u},
+                                              {699u, 700u, 0u},
+                                              {25u, 10u, 2u},
+                                              {1400u, 700u, 2u},
+                                              {4 * 634u, 634u, 4u},
+                                              {1000u, 1u, 20u}}) {
     odd_service = {true, total, stage};
-    const Read made(0);
-    EXPECT_EQ(made.captures, 20u) << "as many as there is room for";
-    return made.records;
-  };
-  // Bytes from first on, and zeroes behind count of them.
-  const auto block = [](size_t first, size_t count) {
-    Bytes made(kRecord);
-    for (size_t i = 0; i < count; ++i) made[i] = static_cast<uint8_t>((first + i) % 251);
-    return made;
-  };
-  for (const auto &[total, stage] : {std::pair{1000u, 0u}, {0u, 0u}, {699u, 700u}}) {
-    EXPECT_EQ(read(total, stage)[0], kUntouchedRecord);
+    Bytes room(22 * kRecord, 0xa5), wanted = room;
+    for (size_t i = 0; i < records * kRecord; ++i) {
+      const size_t byte = i % kRecord;
+      wanted[i] = byte < stage ? static_cast<uint8_t>((i / kRecord * stage + byte) % 251) : 0;
+    }
+    bf_snapshot_control_t control[32] = {};
+    uint32_t captures = 0;
+    EXPECT_EQ(
+        PD(snapshot_capture_data_get)(0, 1, reinterpret_cast<PD(snapshot_capture_t) *>(room.data()),
+                                      control, &captures),
+        BF_SUCCESS);
+    EXPECT_EQ(captures, 20u) << "as many as there is room for";
+    EXPECT_EQ(hex(room), hex(wanted)) << total << " in stages of " << stage;
   }
-  std::vector<Bytes> records = read(25, 10);
-  EXPECT_EQ(records[1], block(10, 10));
-  EXPECT_EQ(records[2], kUntouchedRecord);
-  records = read(1400, 700);
-  EXPECT_EQ(records[1], block(700, kRecord));
-  EXPECT_EQ(records[2], kUntouchedRecord);
-  records = read(1000, 1);
-  EXPECT_EQ(records[19], block(19, 1));
-  EXPECT_EQ(records[20], kUntouchedRecord);
+}
+
+// ---- Another program in the device than in the library ----
+
+constexpr uint32_t kNothing = 7;  // what entries hold that have no action and point nowhere
+
+TEST(OddProgram, WhatIsNotOfTheProgramIsNotRead) {
+  const struct {
+    const char *family;
+    OddActions odd;
+    p4_pd_status_t status;
+  } rows[] = {
+      {"get_entry", {0x10000, 0, 0}, P4_PD_FOREIGN_ACTION},
+      {"get_entry", {0, kNothing, 0}, P4_PD_NO_ACTION_DATA},
+      {"table_get_default_entry", {0x10000, PIPE_ACTION_DATA, 0}, P4_PD_FOREIGN_ACTION},
+      {"table_get_default_entry", {0, kNothing, 0}, P4_PD_FOREIGN_ACTION},
+      {"get_entry_from_plcmt_data", {0x10000, 0, 0}, P4_PD_FOREIGN_ACTION},
+      {"get_member", {0x10000, 0, 0}, P4_PD_FOREIGN_ACTION},
+      {"get_member_from_plcmt_data", {0x10000, 0, 0}, P4_PD_FOREIGN_ACTION},
+      {"get_full_member_info_from_plcmt_data", {0x10000, 0, 0}, P4_PD_FOREIGN_ACTION},
+  };
+  for (const auto &row : rows) {
+    for (const Export *exported : exports_of(row.family)) {
+      if (expected_status(*exported) != BF_SUCCESS) continue;
+      Scene scene(*exported);
+      odd_actions = row.odd;
+      EXPECT_EQ(scene.play(), row.status) << exported->name;
+      odd_actions = {};
+      EXPECT_EQ(scene.written_outputs(), "") << exported->name;
+    }
+  }
+}
+
+TEST(OddProgram, EntriesMayPointAtNothing) {
+  const auto play = [](const char *family, const char *table, uint32_t read, uint32_t placed) {
+    Scene scene(*find_export(family, table));
+    odd_actions = {0, read, placed};
+    const uint64_t result = scene.play();
+    odd_actions = {};
+    const bool text = scene.is_output("buffer");
+    const auto *buffer = text ? reinterpret_cast<const char *>(scene.output("buffer").data()) : "";
+    return std::to_string(result) + ": " + (text ? buffer : scene.written_outputs());
+  };
+  EXPECT_EQ(play("get_indirect_entry", "ecmpGroup", kNothing, 0),
+            "0: has_group has_member match_spec no_key ");
+  EXPECT_EQ(play("get_indirect_entry_from_plcmt_data", "ecmpGroup", 0, kNothing),
+            "0: match_spec no_key ");
+  EXPECT_TRUE(play("table_value", "ecmpGroup", kNothing, 0).ends_with(",),),(0,True))"));
+  EXPECT_TRUE(play("plcmt_data_value", "ecmpGroup", 0, kNothing).ends_with(",),)"));
+  EXPECT_EQ(play("plcmt_data_eq_to_hw", "ecmpGroup", kNothing, kNothing), "1: ");
+  EXPECT_EQ(play("plcmt_data_eq_to_hw", "ecmpGroup", kNothing, 0), "0: ");
+  EXPECT_EQ(play("plcmt_data_eq_to_hw", "ecmpGroup", 0, kNothing), "0: ");
 }
 
 }  // namespace
