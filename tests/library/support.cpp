@@ -283,4 +283,9 @@ std::string hex(const Bytes &bytes) {
   return text;
 }
 
+std::string text_of(const cJSON *item) {
+  const std::unique_ptr<char, decltype(&cJSON_free)> text(cJSON_PrintUnformatted(item), cJSON_free);
+  return text == nullptr ? "" : text.get();
+}
+
 }  // namespace pd_test

@@ -2,6 +2,7 @@
 // library is initialised, devices, and calls whose arguments are given by name.
 #pragma once
 
+#include <cjson/cJSON.h>
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
@@ -9,6 +10,7 @@
 #include <cstdint>
 #include <deque>
 #include <map>
+#include <memory>
 #include <random>
 #include <string>
 #include <string_view>
@@ -201,5 +203,14 @@ p4_pd_bytes_meter_spec_t random_meter_spec(Random &random);
 const bindings::Member &member_of(const bindings::Record &record, std::string_view name);
 
 std::string hex(const Bytes &bytes);
+
+// ---- Documents ----
+
+struct JsonDelete {
+  void operator()(cJSON *item) const { cJSON_Delete(item); }
+};
+using Json = std::unique_ptr<cJSON, JsonDelete>;
+
+std::string text_of(const cJSON *item);
 
 }  // namespace pd_test
