@@ -76,6 +76,16 @@ bf_status_t pipe_mgr_hash_calc_input_field_attribute_get(
   return status;
 }
 
+bf_status_t pipe_mgr_sel_grp_mbr_state_get(pipe_session_handle_t session, bf_device_id_t device,
+                                           pipe_object_handle_t selector, pipe_group_handle_t group,
+                                           pipe_member_handle_t member, uint32_t *state) {
+  const bf_status_t status =
+      soft_function(pipe_mgr_sel_grp_mbr_state_get, "pipe_mgr_sel_grp_mbr_state_get")(
+          session, device, selector, group, member, state);
+  *state += excess;
+  return status;
+}
+
 // So many resources that whoever believes it reads beyond the stack; what is not attached but
 // detached counts for nothing.
 bf_status_t pipe_mgr_get_entry(pipe_session_handle_t session, pipe_object_handle_t table,
@@ -317,6 +327,14 @@ TEST_F(OddSdk, StagesOfOddSizes) {
     EXPECT_EQ(captures, 20u) << "as many as there is room for";
     EXPECT_EQ(hex(room), hex(wanted)) << total << " in stages of " << stage;
   }
+}
+
+TEST(OddSdkState, NeitherOfTheTwoIsNoState) {
+  Scene scene(*find_export("group_member_state_get", "lagPortActionProfile"));
+  excess = 2;
+  EXPECT_EQ(scene.play(), BF_SUCCESS);
+  excess = 0;
+  EXPECT_EQ(scene.written_outputs(), "");
 }
 
 // ---- Another program in the device than in the library ----

@@ -190,8 +190,6 @@ TEST(TextWalk, RecordsOfRandomBits) {
 // ---- Widths and names ----
 
 TEST(TextWalk, WidthsOfEveryKeyField) {
-  EXPECT_EQ(p4_pd_tessel_switch_cpuEncap_vlanHdr_0__width(), 1u);
-  EXPECT_EQ(p4_pd_tessel_switch_ecmpGroup_l3_ecmpGroup_width(), 14u);
   std::map<std::string, const Export *> functions;
   for (const Export *function : exports_of("width")) functions[function->name] = function;
   for (const pdgen::Table &table : program().tables) {
@@ -209,11 +207,8 @@ TEST(TextWalk, WidthsOfEveryKeyField) {
 }
 
 TEST(TextWalk, NamesOfActionsBothWays) {
-  EXPECT_EQ(p4_pd_tessel_switch_trapPktToCpuUntagged, 0);
-  EXPECT_EQ(p4_pd_tessel_switch_setVlanProperties, 231);
   const auto name_of = p4_pd_tessel_switch_action_enum_to_string;
   const auto value_of = p4_pd_tessel_switch_action_string_to_enum;
-  EXPECT_STREQ(name_of(14), "p4_pd_tessel_switch_dipHashCompute");
   for (const uint32_t beyond : {232u, 0xffffffffu}) EXPECT_EQ(name_of(beyond), nullptr);
   for (const char *none : {"setVlanProperties", "", "p4_pd_tessel_switch_setVlanPropertie",
                            "p4_pd_tessel_switch_setVlanProperties "}) {
