@@ -16,7 +16,6 @@ constexpr size_t by_abi(size_t on_64, size_t on_32) { return sizeof(void *) == 8
 
 // ---- The library's own ----
 
-PIN(p4_pd_device_target_t, pipe_id, 4, 4);
 PIN_SIZE(p4_pd_device_target_t, 8, 8);
 PIN(p4_pd_parser_target_t, direction, 4, 4);
 PIN(p4_pd_parser_target_t, pipe_id, 8, 8);
@@ -28,10 +27,6 @@ PIN(p4_pd_bytes_meter_spec_t, peak_rate, 8, 8);
 PIN(p4_pd_bytes_meter_spec_t, peak_burst, 12, 12);
 PIN(p4_pd_bytes_meter_spec_t, meter_type, 16, 16);
 PIN_SIZE(p4_pd_bytes_meter_spec_t, 20, 20);
-PIN(p4_pd_packets_meter_spec_t, committed_burst, 4, 4);
-PIN(p4_pd_packets_meter_spec_t, peak_rate, 8, 8);
-PIN(p4_pd_packets_meter_spec_t, peak_burst, 12, 12);
-PIN(p4_pd_packets_meter_spec_t, meter_type, 16, 16);
 PIN_SIZE(p4_pd_packets_meter_spec_t, 20, 20);
 
 PIN(p4_pd_counter_values_t, packets, 0, 0);
@@ -49,33 +44,23 @@ PIN_SIZE(p4_pd_idle_time_params_t, 24, 24);
 PIN(p4_pd_hash_calc_attr_t, type, 4, 4);
 PIN(p4_pd_hash_calc_attr_t, value, 8, 8);
 PIN_SIZE(p4_pd_hash_calc_attr_t, 16, 12);
-PIN(p4_pd_res_spec_t, index, 4, 4);
 PIN_SIZE(p4_pd_res_spec_t, 8, 8);
 
 // Match and action records hold no 64-bit number and no pointer: one layout everywhere.
 PIN_SIZE(p4_pd_tessel_switch_cpuEncap_match_spec_t, 8, 8);
-PIN(p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t, ingIpv4_dip, 4, 4);
-PIN(p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t, ingIpv4_dip_prefix_length, 8, 8);
-PIN_SIZE(p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t, 12, 12);
 PIN(p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t, ingIpv6_dip, 1, 1);
 PIN(p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t, ingIpv6_dip_prefix_length, 18, 18);
 PIN_SIZE(p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t, 20, 20);
 PIN(p4_pd_tessel_switch_setPhase0_action_spec_t, action_switchPort, 4, 4);
 PIN_SIZE(p4_pd_tessel_switch_setPhase0_action_spec_t, 6, 6);
-PIN_SIZE(p4_pd_tessel_switch_setNextHop_action_spec_t, 4, 4);
-PIN(p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_action_spec_t, action_vlanId, 12, 12);
-PIN(p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_action_spec_t, action_dmacOui, 16, 16);
-PIN_SIZE(p4_pd_tessel_switch_setMirrorPacketEncapGreIpv4_action_spec_t, 24, 24);
 PIN(p4_pd_tessel_switch_action_specs_t, spec, 4, 4);
 PIN_SIZE(p4_pd_tessel_switch_action_specs_t, 28, 28);
 
 // ---- The SDK's ----
 
 PIN(pipe_mgr_match_spec_t, valid_bit_count, 4, 4);
-PIN(pipe_mgr_match_spec_t, byte_count, 6, 6);
 PIN(pipe_mgr_match_spec_t, value, 8, 8);
 PIN(pipe_mgr_match_spec_t, mask, 16, 12);
-PIN(pipe_mgr_match_spec_t, reserved, 24, 16);
 PIN(pipe_mgr_match_spec_t, priority, 32, 24);
 PIN_SIZE(pipe_mgr_match_spec_t, 40, 28);
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "expected_calls.hpp"
+#include "scene_values.hpp"
 
 namespace pd_test {
 namespace {
@@ -58,13 +59,6 @@ std::string profile_state() {
 
 class FaultSweep : public testing::Test {
  protected:
-  // Plays all scenes of one export. Returns how many faults were played.
-  size_t fail_each_call(const Export &exported) {
-    const size_t calls = count_calls(exported);
-    for (size_t n = 1; n <= calls; ++n) fail_call(exported, n);
-    return calls;
-  }
-
   size_t count_calls(const Export &exported) {
     Scene scene(exported);
     const uint64_t result = scene.play();
@@ -136,7 +130,9 @@ class FaultSweep : public testing::Test {
 TEST_F(FaultSweep, AFailedCallIsTheLastAndGivesTheStatus) {
   size_t played = 0;
   for (const Export *exported : all_exports()) {
-    played += fail_each_call(*exported);
+    const size_t calls = count_calls(*exported);
+    for (size_t n = 1; n <= calls; ++n) fail_call(*exported, n);
+    played += calls;
     ASSERT_FALSE(HasFatalFailure());
   }
   // Every table's and profile's functions, each with one call or more.
@@ -164,85 +160,63 @@ bool may_be_null(std::string_view family, std::string_view name) {
          (family.starts_with("table_modify") || family == "set_default_action");
 }
 
-class NullSweep : public testing::Test {
- protected:
-  static bool is_pointer(const bindings::Parameter &parameter) {
-    const std::string_view type = parameter.type;
-    return type.ends_with("*") || type.ends_with("_cb_t");
-  }
+// Without a status there is no text, "not equal", or what decoding nothing gives. The size of a
+// digest's field is optional.
+void expect_nothing(const Export &exported, std::string_view name, p4_pd_status_t answer,
+                    const std::string &written) {
+  const std::string_view family = exported.family;
+  const bool size = name == "size";
+  EXPECT_EQ(written, family == "get_digest_entry_field" && !size ? "size " : "");
+  uint64_t none = family == "action_string_to_enum" ? P4_PD_TESSEL_SWITCH_ACTION_COUNT : 0;
+  if (name == "placement") none = answer_to(exported, BF_INVALID_ARGUMENT);
+  EXPECT_TRUE(size || answer == none);
+}
 
-  static bool is_record_of_action(const Export &exported, const bindings::Parameter &parameter) {
-    return exported.family == std::string_view("get_entry") &&
-           parameter.name == std::string_view("action_spec");
-  }
+bool writes(const Export &exported, std::string_view output) {
+  Scene scene(exported);
+  scene.play();
+  return scene.written_outputs().find(output) != std::string::npos;
+}
 
-  // They record what the pipeline manager has made.
-  static bool reads_new_handle(const Export &exported) {
-    const std::string_view family = exported.family;
-    return family == "add_member" || family == "create_group";
+void spoil(const Export &exported, std::string_view name) {
+  SCOPED_TRACE(std::string(exported.name) + ", null " + std::string(name));
+  const std::string_view family = exported.family;
+  // Needed as soon as the entry's action is known to have parameters.
+  const bool of_action = family == "get_entry" && name == "action_spec";
+  const bool unused = of_action && !writes(exported, name);
+  Scene scene(exported);
+  scene.arguments().set(name, nullptr);
+  const auto status = static_cast<p4_pd_status_t>(scene.play());
+  const std::string written = scene.written_outputs();
+  if (!returns_status(exported)) return expect_nothing(exported, name, status, written);
+  if (unused || may_be_null(family, name)) {
+    EXPECT_EQ(status, expected_status(exported));
+    return;
   }
-
-  // Calls that look up an action before the pipeline manager is asked.
-  static size_t counted_before(const Export &exported) {
-    const std::string_view family = exported.family;
-    return family.starts_with("add_entry") || family.starts_with("set_default_entry") ? 1 : 0;
+  EXPECT_EQ(written, "");
+  // Members and groups are recorded under their handles.
+  const bool recorded = family == "add_member" || family == "create_group";
+  if (hands_on(*calls_of_family(family), name) && !recorded) {
+    // The pipeline manager is the judge, after the action was looked up.
+    const bool looked_up =
+        family.starts_with("add_entry") || family.starts_with("set_default_entry");
+    ASSERT_EQ(scene.calls().size(), looked_up ? 2u : 1u);
+    EXPECT_EQ(status, scene.calls().back().status);
+    EXPECT_NE(status, BF_SUCCESS);
+    return;
   }
+  const bool meter = family == "table_add" && name == "meter_spec";
+  EXPECT_EQ(status, meter ? P4_PD_METER_SPEC_MISSING : P4_PD_NULL_ARGUMENT);
+  EXPECT_TRUE(of_action || scene.calls().empty()) << scene.calls().front().function;
+}
 
-  static bool writes(const Export &exported, const std::string &output) {
-    Scene scene(exported);
-    scene.play();
-    return scene.written_outputs().find(output) != std::string::npos;
-  }
-
-  void spoil(const Export &exported, const bindings::Parameter &parameter) {
-    SCOPED_TRACE(std::string(exported.name) + ", null " + parameter.name);
-    const FamilyCalls *row = calls_of_family(exported.family);
-    const bool needed =
-        is_record_of_action(exported, parameter) && writes(exported, parameter.name);
-    Scene scene(exported);
-    scene.arguments().set(parameter.name, nullptr);
-    const auto status = static_cast<p4_pd_status_t>(scene.play());
-    const std::string written = scene.written_outputs();
-    if (!returns_status(exported)) {
-      // No text, not equal, or what decoding nothing gives. The size of a digest's field is
-      // optional.
-      const bool of_field = exported.family == std::string_view("get_digest_entry_field");
-      const bool size = parameter.name == std::string_view("size");
-      const bool placed = parameter.name == std::string_view("placement");
-      EXPECT_EQ(written, of_field && !size ? "size " : "");
-      const uint64_t none = exported.family == std::string_view("action_string_to_enum")
-                                ? P4_PD_TESSEL_SWITCH_ACTION_COUNT
-                                : 0;
-      EXPECT_TRUE(size || status == (placed ? answer_to(exported, BF_INVALID_ARGUMENT) : none));
-    } else if (is_record_of_action(exported, parameter)) {
-      // Mandatory as soon as the entry's action is known to have parameters.
-      const int wanted = needed ? int{P4_PD_NULL_ARGUMENT} : int{BF_SUCCESS};
-      EXPECT_EQ(static_cast<int>(status), wanted);
-      EXPECT_EQ(written.empty(), needed) << written;
-    } else if (may_be_null(exported.family, parameter.name)) {
-      EXPECT_EQ(status, expected_status(exported));
-    } else if (hands_on(*row, parameter.name) && !reads_new_handle(exported)) {
-      // The pipeline manager is the judge.
-      ASSERT_EQ(scene.calls().size(), 1 + counted_before(exported));
-      EXPECT_EQ(status, scene.calls().back().status);
-      EXPECT_NE(status, BF_SUCCESS);
-      EXPECT_EQ(written, "");
-    } else {
-      const bool meter = exported.family == std::string_view("table_add") &&
-                         parameter.name == std::string_view("meter_spec");
-      EXPECT_EQ(status, meter ? P4_PD_METER_SPEC_MISSING : P4_PD_NULL_ARGUMENT);
-      EXPECT_TRUE(scene.calls().empty()) << scene.calls().front().function;
-      EXPECT_EQ(written, "");
-    }
-  }
-};
-
-TEST_F(NullSweep, ANullPointerIsRefusedBeforeAnyCall) {
+TEST(NullSweep, ANullPointerIsRefusedBeforeAnyCall) {
   size_t played = 0;
   for (const Export *exported : all_exports()) {
     for (const bindings::Parameter &parameter : exported->parameter_list()) {
-      if (!is_pointer(parameter)) continue;
-      spoil(*exported, parameter);
+      const bool callback = std::string_view(parameter.type).ends_with("_cb_t");
+      if (!callback && !is_pointer(parameter)) continue;
+      spoil(*exported, parameter.name);
       ++played;
     }
   }

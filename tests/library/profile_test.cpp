@@ -69,15 +69,12 @@ TEST_F(LagProfile, MemberStates) {
                                                            state);
   };
   uint32_t state = 9;
-  const auto get = [&] {
+  for (const uint32_t wanted : {1u, 0u, 1u}) {
+    EXPECT_EQ(set(wanted), BF_SUCCESS);
     EXPECT_EQ(
         PD(lagPortActionProfile_group_member_state_get)(session(), kDevice, group, member, &state),
         BF_SUCCESS);
-    return state;
-  };
-  for (const uint32_t wanted : {1u, 0u, 1u}) {
-    EXPECT_EQ(set(wanted), BF_SUCCESS);
-    EXPECT_EQ(get(), wanted);
+    EXPECT_EQ(state, wanted);
   }
   const auto refused = recorded([&] { EXPECT_EQ(set(2), P4_PD_MEMBER_STATE_REFUSED); });
   EXPECT_TRUE(refused.empty());

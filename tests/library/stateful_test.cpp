@@ -46,14 +46,11 @@ TEST_F(Stateful, CountersExchangeTheirTwoCounts) {
   expect_exchanged(of_cell, "value");
 
   // The device is asked for what it counted by one flag alone.
-  ASSERT_EQ(soft_counter_count(kDevice, kPipe, 0x04000005, 5, 3, 192), BF_SUCCESS);
-  const auto packets = [&](uint32_t flags) {
-    EXPECT_EQ(PD(counter_read_firewallPolicyCount)(session(), kTarget, 5, flags, &read),
-              BF_SUCCESS);
-    return read.packets;
-  };
-  EXPECT_EQ(packets(~P4_PD_READ_FROM_HARDWARE), 0u);
-  EXPECT_EQ(packets(P4_PD_READ_FROM_HARDWARE), 3u);
+  const Call plain = only_call([&] {
+    PD(counter_read_pdpClassCount)
+    (session(), kTarget, 9, ~P4_PD_READ_FROM_HARDWARE, &read);
+  });
+  EXPECT_EQ(plain.function, "pipe_mgr_stat_ent_query");
 }
 
 // ---- Meters ----
@@ -189,19 +186,19 @@ TEST_F(Stateful, RegistersByHandleTakeTheDevicesRecords) {
 
 // In the order of the entry: each field begins where the one before it ends.
 TEST_F(Stateful, FieldsOfDigestsFillTheEntry) {
-  const std::pair<const char *, uint32_t> mac[] = {{"ingMd_smacStation", 4},
-                                                   {"ingMd_ingL2Domain", 2},
-                                                   {"ingMd_ingL2Aintf", 4},
-                                                   {"ingMd_smacOui", 4}};
   const uint8_t entry[64] = {};
-  const uint8_t *next = entry;
-  for (const auto &[name, bytes] : mac) {
-    uint32_t size = 99;
-    EXPECT_EQ(PD(get_digest_entry_field)(entry, "macLearningDigest", name, &size), next) << name;
-    EXPECT_EQ(size, bytes) << name;
-    next += bytes;
+  for (const pdgen::Digest &digest : program().digests) {
+    const uint8_t *next = entry;
+    for (const pdgen::PacketField &field : digest.fields) {
+      uint32_t size = 99;
+      EXPECT_EQ(PD(get_digest_entry_field)(entry, digest.name.c_str(), field.name.c_str(), &size),
+                next)
+          << field.name;
+      EXPECT_EQ(size, field.bytes);
+      next += size;
+    }
+    EXPECT_EQ(PD(get_digest_entry_size)(digest.name.c_str()), next - entry);
   }
-  EXPECT_EQ(PD(get_digest_entry_size)("macLearningDigest"), 14u);
 }
 
 TEST_F(Stateful, UnknownNamesOfDigestsLeadNowhere) {

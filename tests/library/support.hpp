@@ -6,7 +6,6 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <cstdint>
 #include <deque>
 #include <map>
@@ -75,13 +74,6 @@ struct FirstInit {
   std::vector<Call> calls;
 };
 const FirstInit &first_init();
-
-// Calls of the SDK's allocator that give memory back, and those among them that give back none.
-struct Frees {
-  std::atomic<uint64_t> made;
-  std::atomic<uint64_t> of_nothing;
-};
-const Frees &frees();
 
 // A device that runs the program, for as long as the object lives.
 class Device {
@@ -160,7 +152,7 @@ class Arguments {
  public:
   explicit Arguments(const Export &exported);
 
-  // Fails the test when there is no such parameter.
+  // Fails the test when there is no such parameter; std::out_of_range leaves it.
   Arguments &set(std::string_view name, uint64_t word);
   Arguments &set(std::string_view name, const void *object);
   // Sets those that the export takes.
@@ -174,6 +166,8 @@ class Arguments {
   p4_pd_status_t status() const { return static_cast<p4_pd_status_t>(call()); }
 
  private:
+  size_t index_of(std::string_view name) const;
+
   const Export *exported_;
   std::vector<uint64_t> words_;
   std::vector<bool> given_;
