@@ -28,8 +28,6 @@ TEST_F(ReadBack, TheMeterOverridesTheCounterInWhateverOrder) {
       {{attach(kClassCount, 0, PIPE_RESOURCE_DETACH)}, 0xffffffff},
       {{attach(kPolicyCount, 9)}, 0},
       {{attach(kClassCount, 5)}, 5},
-      {{attach(kPdpMeter, 6)}, 6},
-      {{attach(kClassCount, 5), attach(kPdpMeter, 6)}, 6},
       {{attach(kPdpMeter, 6), attach(kClassCount, 5)}, 6},
       {{attach(kPdpMeter, 0), attach(kPolicyCount, 3), attach(kClassCount, 5)}, 0},
   };
