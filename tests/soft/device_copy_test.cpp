@@ -1,5 +1,6 @@
-// Devices that are made the same as others.
+// Devices that are made the same as others, and their removal.
 #include <atomic>
+#include <chrono>
 #include <thread>
 
 #include "calls.hpp"
@@ -120,26 +121,24 @@ TEST_F(DeviceCopy, RefusesDevicesThatCannotBeTheSame) {
   OK(soft_device_copy(kDevice, kOther)) << "a refused copy leaves no lock";
 }
 
-TEST_F(DeviceCopy, ReadersMeetTheOldOrTheNewContents) {
-  uint32_t first = 0, second = 0;
-  OK(add_host(1, &first, kOther));
-  OK(add_host(1, &first));
-  OK(add_host(2, &second));
-  std::atomic<bool> done{false};
-  std::atomic<int> wrong{0};
-  std::thread reader([&] {
-    const uint8_t key[] = {0x00, 0x10, 1};
-    while (!done.load()) {
-      uint32_t entry = 0;
-      if (soft_lookup(kOther, 0, kHost, key, 3, &entry, nullptr) != BF_SUCCESS || entry != first) {
-        ++wrong;
-      }
-    }
-  });
-  for (int i = 0; i < 20; ++i) OK(soft_device_copy(kDevice, kOther));
-  done.store(true);
-  reader.join();
-  EXPECT_EQ(wrong.load(), 0);
+std::atomic<bool> entered{false}, left{false};
+
+TEST_F(SoftTest, RemovalWaitsForCallsInProgress) {
+  OK(soft_device_create(kOther, 1, &small_program(), false));
+  const auto hear = [](pipe_session_handle_t, bf_device_id_t device, uint32_t, uint32_t, uint32_t,
+                       void *) {
+    entered = true;
+    while (soft_device_exists(device)) std::this_thread::yield();
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    left = true;
+  };
+  OK(pipe_register_mat_update_cb(session, kOther, kHost, hear, nullptr));
+  std::thread caller(
+      [this] { OK(pipe_mgr_mat_tbl_default_entry_reset(session, kOther, 0, kHost, 0)); });
+  while (!entered) std::this_thread::yield();
+  OK(soft_device_remove(kOther));
+  EXPECT_TRUE(left);
+  caller.join();
 }
 
 }  // namespace

@@ -14,14 +14,17 @@ class Meters : public SoftTest {
   }
 };
 
-TEST_F(Meters, GreatestRatesAndBurstsDoNotOverflow) {
-  constexpr uint64_t most = UINT64_MAX;
-  uint8_t color = 99;
-  OK(set(kFlowMeter, 7, meter_spec(PIPE_RATE_PACKETS, most, most, most, most)));
-  for (const uint64_t later : {0u, 5u}) {
-    soft_clock_advance(later);
-    OK(soft_meter_mark(kDevice, 0, kFlowMeter, 7, most, 0, &color));
-    EXPECT_EQ(color, SOFT_COLOR_GREEN);
+// A thousand times as many, and four times as many, leave nothing in 64 bits.
+TEST_F(Meters, GreatRatesBurstsAndCountsDoNotOverflow) {
+  constexpr uint64_t great = uint64_t{1} << 62;
+  for (const auto &[burst, expected] : {std::pair{great, SOFT_COLOR_GREEN}, {1, SOFT_COLOR_RED}}) {
+    OK(set(kFlowMeter, 7, meter_spec(PIPE_RATE_PACKETS, great, burst, great, burst)));
+    for (int i = 0; i < 2; ++i) {
+      uint8_t color = 99;
+      OK(soft_meter_mark(kDevice, 0, kFlowMeter, 7, great, 0, &color));
+      EXPECT_EQ(color, expected);
+      soft_clock_advance(4);
+    }
   }
 }
 
