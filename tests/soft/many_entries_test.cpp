@@ -79,6 +79,7 @@ TEST_F(ManyEntries, GrowOverManyChunksAndDrain) {
   EXPECT_LT(bytes(), uint64_t{kMany} * 72) << "slots are used again";
   for (const uint32_t entry : handles) ASSERT_EQ(remove(entry), BF_SUCCESS);
   EXPECT_LT(bytes(), uint64_t{kMany} * 2) << "the generations of the slots";
+  for (uint32_t i = 0; i < kMany; ++i) ASSERT_NE(add(i), handles[i]);
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 #include <new>
 
 #include "calls.hpp"
-#include "tables/match_table.hpp"
 
 namespace {
 
@@ -82,31 +81,28 @@ TEST_F(Memory, CallsChangeNothingWithoutIt) {
 }
 
 // Additions to a table that grows: masks, twins, chunks, segments and directory.
-TEST(TableMemory, AdditionsChangeNothingWithoutIt) {
-  soft_table_t description{};
-  description.match = SOFT_TERNARY;
-  description.key_bytes = 2;
-  soft::EntryLayout layout;
-  layout.ages = true;
-  soft::MatchTable table(description, layout);
+TEST_F(Memory, AdditionsChangeNothingWithoutIt) {
+  const Action deny;
   int failures = 0;
-  for (uint32_t i = 0; i < 12000 && !testing::Test::HasFailure(); ++i) {
-    const uint8_t value[] = {static_cast<uint8_t>(i % 97), static_cast<uint8_t>(i % 89)};
-    const uint8_t mask[] = {0xff, static_cast<uint8_t>(i % 3 == 0 ? i >> 4 : 0xff)};
-    const soft::EntryKey key{value, mask, i};
-    uint32_t handle = 99;
-    const auto state = [&] {
-      uint32_t found = 99;
-      EXPECT_EQ(table.find(key, &found), BF_OBJECT_NOT_FOUND);
-      return Words{static_cast<uint32_t>(table.count()),
-                   static_cast<uint32_t>(table.distinct_masks()), table.lookup(value), handle};
+  for (uint32_t i = 0; i < 12000 && !HasFailure(); ++i) {
+    const auto mask = static_cast<uint8_t>(i % 3 == 0 ? i >> 4 : 0xff);
+    const Key key(16, {static_cast<uint8_t>(i % 97), static_cast<uint8_t>(i % 89)}, {0xff, mask},
+                  i);
+    uint32_t entry = kNowhere;
+    const auto add = [&] {
+      return pipe_mgr_mat_ent_add(session, kDevice, kAll, kAcl, &key.spec, kDeny, &deny.spec, 0, 0,
+                                  &entry);
     };
-    failures += until_success([&] { return table.add(key, {}, 7, 0, &handle); }, BF_SUCCESS, state);
+    const auto state = [&] {
+      uint32_t found = kNowhere, hit = 0;
+      EXPECT_EQ(pipe_mgr_match_spec_to_ent_hdl(session, kDevice, kAll, kAcl, &key.spec, &found),
+                BF_OBJECT_NOT_FOUND);
+      soft_lookup(kDevice, 0, kAcl, key.value.data(), 2, &hit, nullptr);
+      return Words{count(kAcl), hit, entry};
+    };
+    failures += until_success(add, BF_SUCCESS, state);
   }
   EXPECT_GT(failures, 60);
-  uint32_t expired = 0;
-  while (table.next_expired(7) != 0) ++expired;
-  EXPECT_EQ(expired, 12000u);
 }
 
 TEST_F(Memory, ADeviceThatCannotBeCopiedStaysAsItWas) {
