@@ -1,5 +1,7 @@
 #include "tesselctl/shell/tool_runner.hpp"
 
+#include <algorithm>
+
 #include "tesselctl/command/flags.hpp"
 #include "tesselctl/command/script.hpp"
 #include "tesselctl/command/topic.hpp"
@@ -13,16 +15,17 @@ namespace {
 
 constexpr unsigned kDeepest = 16;
 
-// While it lives, the lines of a script run, one script deeper, with settings of their own.
+// While it lives, the lines of a script run, with settings of their own.
 class ScriptScope {
  public:
-  ScriptScope(Settings &settings, const Settings &of_lines, unsigned &depth)
-      : settings_(settings), before_(std::exchange(settings, of_lines)), depth_(depth) {
-    ++depth_;
+  ScriptScope(Settings &settings, const Settings &of_lines, std::vector<std::string> &running,
+              const std::string &path)
+      : settings_(settings), before_(std::exchange(settings, of_lines)), running_(running) {
+    running_.push_back(path);
   }
   ~ScriptScope() {
     settings_ = std::move(before_);
-    --depth_;
+    running_.pop_back();
   }
   ScriptScope(const ScriptScope &) = delete;
   ScriptScope &operator=(const ScriptScope &) = delete;
@@ -30,7 +33,7 @@ class ScriptScope {
  private:
   Settings &settings_;
   Settings before_;
-  unsigned &depth_;
+  std::vector<std::string> &running_;
 };
 
 // The command of the line in its place, with blanks for the words of watch before it, so that the
@@ -83,15 +86,20 @@ LineOutcome ToolRunner::run(const SourceLine &source) {
 }
 
 LineOutcome ToolRunner::run_file(Word file, const Settings &settings) {
-  if (depth_ == kDeepest) throw Fault(file, "the scripts that run one another are too many");
   const std::string path(file.text);
+  if (std::find(running_.begin(), running_.end(), path) != running_.end()) {
+    throw Fault(file, "the script is running already");
+  }
+  if (running_.size() == kDeepest) {
+    throw Fault(file, "the scripts that run one another are too many");
+  }
   const std::string name = path == "-" ? "standard input" : path;
   if (settings.atomic || settings.dry_run) {
     return runner_->run_whole({name, read_input(path), settings});
   }
   Settings of_lines = settings;
   of_lines.keep_going = false;
-  const ScriptScope scope(runner_->defaults(), of_lines, depth_);
+  const ScriptScope scope(runner_->defaults(), of_lines, running_, path);
   FileLines lines(path);
   const auto next = [&](std::string_view &line) {
     // Whoever writes the lines may wait for the answer to the one before.

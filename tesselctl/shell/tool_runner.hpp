@@ -4,6 +4,8 @@
 #pragma once
 
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "tesselctl/command/runner.hpp"
 
@@ -31,7 +33,7 @@ class ToolRunner : public Runner {
   Output *errors_;
   int terminal_;
   std::function<void()> prepare_ = {};
-  unsigned depth_ = 0;  // scripts that run one another
+  std::vector<std::string> running_ = {};  // scripts that run one another, by path
 };
 
 }  // namespace tesselctl
