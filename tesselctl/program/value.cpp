@@ -28,14 +28,6 @@ Number check_width(const Field &field, Word text, Number value) {
                                 field.width == 1 ? "" : "s", limit_text(field.width)));
 }
 
-// "10.1.0.0" of "10.1", as some tools write networks; empty where it is not so.
-std::string completed_ipv4(std::string_view text) {
-  std::string address(text);
-  const auto dots = std::count(text.begin(), text.end(), '.');
-  for (auto missing = 3 - dots; missing > 0; --missing) address += ".0";
-  return parse_ipv4(address) ? address : std::string();
-}
-
 // One value in the notations that fit the width of the field.
 Number parse_plain(const Field &field, Word text) {
   const bool colon = has(text.text, ':');

@@ -3,6 +3,7 @@
 #include <arpa/inet.h>
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <bit>
 #include <charconv>
 #include <cmath>
@@ -83,6 +84,13 @@ std::optional<uint32_t> parse_ipv4(std::string_view text) {
   }
   if (at != text.size()) return std::nullopt;
   return address;
+}
+
+std::string completed_ipv4(std::string_view text) {
+  std::string address(text);
+  const auto dots = std::count(text.begin(), text.end(), '.');
+  for (auto missing = 3 - dots; missing > 0; --missing) address += ".0";
+  return parse_ipv4(address) ? address : std::string();
 }
 
 std::optional<Number> parse_ipv6(std::string_view text) {

@@ -55,6 +55,8 @@ std::optional<Number> parse_number(std::string_view text);
 std::optional<float> parse_float(std::string_view text);
 // a.b.c.d, each 0 to 255 without leading zeros.
 std::optional<uint32_t> parse_ipv4(std::string_view text);
+// "10.1.0.0" of "10.1", as some tools write networks; empty where it is not so.
+std::string completed_ipv4(std::string_view text);
 std::optional<Number> parse_ipv6(std::string_view text);
 // aa:bb:cc:dd:ee:ff, aa-bb-cc-dd-ee-ff or aabb.ccdd.eeff.
 std::optional<uint64_t> parse_mac(std::string_view text);

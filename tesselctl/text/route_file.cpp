@@ -66,7 +66,10 @@ class RouteParser {
       if (problem == nullptr && !cursor.done()) problem = "nothing should stand here";
     }
     if (problem != nullptr) {
-      return RouteFault{line, static_cast<size_t>(cursor.at - begin) + 1, problem};
+      std::string message = problem;
+      const std::string_view prefix = trimmed(text);
+      if (!is_ipv6) message += suggestion_for(prefix.substr(0, prefix.find_first_of(" \t#")));
+      return RouteFault{line, static_cast<size_t>(cursor.at - begin) + 1, message};
     }
     if (is_ipv6) {
       route6.length = static_cast<uint8_t>(length);
@@ -83,6 +86,18 @@ class RouteParser {
   }
 
  private:
+  // Of a network whose address is not whole.
+  static std::string suggestion_for(std::string_view prefix) {
+    const size_t slash = std::min(prefix.find('/'), prefix.size());
+    const std::string address = completed_ipv4(prefix.substr(0, slash));
+    const std::string meant = address + std::string(prefix.substr(slash));
+    Cursor cursor{meant.data(), meant.data() + meant.size()};
+    Ipv4Route route;
+    uint32_t length = 0;
+    const bool would_do = parse_ipv4_prefix(cursor, route, length) == nullptr && cursor.done();
+    return would_do ? "; did you mean '" + meant + "'?" : "";
+  }
+
   // The problem, with the cursor where it is, or null with the cursor behind the prefix.
   static const char *parse_ipv4_prefix(Cursor &cursor, Ipv4Route &route, uint32_t &length) {
     uint32_t address = 0;
