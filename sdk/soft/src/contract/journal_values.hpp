@@ -1,9 +1,10 @@
 // Deep copies of arguments and results, chosen by type:
 //   number                           the number
 //   const pointer to a known record  a copy; a text as std::string; null as NullPointer
-//   pointer to a known record        Output (or its shape) before the call, a copy after success
+//   pointer to a known record        Output (or all but its contents) before the call, a copy after
+//                                    success
 //   any other pointer                Opaque
-// A record becomes known by an overload of copy() in this file.
+// A record becomes known by an overload of copy() or seen() in this file.
 #pragma once
 
 #include <algorithm>
@@ -45,33 +46,52 @@ template <std::integral T>
 Value copy(const T &number) {
   return static_cast<uint64_t>(number);
 }
-inline Value copy(const pipe_mgr_match_spec_t &spec) {
-  return MatchSpec{spec.scope,
-                   spec.valid_bit_count,
-                   spec.byte_count,
-                   copy_bytes(spec.value, spec.byte_count),
-                   copy_bytes(spec.mask, spec.byte_count),
-                   spec.priority};
+
+// Records that lead to more: with the contents, or without them, which is what is worth knowing of
+// one that is to be filled.
+inline MatchSpec seen(const pipe_mgr_match_spec_t &spec, bool contents) {
+  const size_t bytes = contents ? spec.byte_count : 0;
+  return {spec.scope,
+          spec.valid_bit_count,
+          spec.byte_count,
+          copy_bytes(spec.value, bytes),
+          copy_bytes(spec.mask, bytes),
+          spec.priority};
 }
-inline ActionData copy_data(const pipe_mgr_action_data_t &data) {
-  return {data.valid_bit_count, data.byte_count, copy_bytes(data.bytes, data.byte_count)};
+inline ActionData seen(const pipe_mgr_action_data_t &data, bool contents) {
+  return {data.valid_bit_count, data.byte_count,
+          copy_bytes(data.bytes, contents ? data.byte_count : 0)};
 }
-inline Value copy(const pipe_mgr_action_data_t &data) { return copy_data(data); }
-inline Value copy(const pipe_mgr_action_spec_t &spec) {
-  const size_t held = std::min<size_t>(spec.resource_count, PIPE_RESOURCES_PER_ACTION);
-  return ActionSpec{spec.type,
-                    copy_data(spec.data),
-                    spec.member,
-                    spec.group,
-                    {spec.resources, spec.resources + held},
-                    spec.resource_count};
+inline ActionSpec seen(const pipe_mgr_action_spec_t &spec, bool contents) {
+  const uint32_t count = contents ? spec.resource_count : 0;
+  const size_t held = std::min<size_t>(count, PIPE_RESOURCES_PER_ACTION);
+  return {spec.type,
+          seen(spec.data, contents),
+          spec.member,
+          spec.group,
+          {spec.resources, spec.resources + held},
+          count};
 }
-inline Query copy_query(const pipe_stful_query_t &query) {
-  Query copied{query.count, std::nullopt};
-  if (query.cells != nullptr) copied.cells.emplace(query.cells, query.cells + query.count);
-  return copied;
+inline std::vector<Query> seen(std::span<const pipe_stful_query_t> queries, bool contents) {
+  std::vector<Query> list;
+  for (const auto &[count, cells] : queries) {
+    Query &query = list.emplace_back(Query{count, std::nullopt});
+    if (cells != nullptr) query.cells.emplace(cells, cells + (contents ? count : 0));
+  }
+  return list;
 }
-inline Value copy(const pipe_stful_query_t &query) { return std::vector<Query>{copy_query(query)}; }
+inline std::vector<Query> seen(const pipe_stful_query_t &query, bool contents) {
+  return seen({&query, 1}, contents);
+}
+
+template <class T>
+concept Leading = requires(const T &record) {
+  seen(record, true);
+};
+template <Leading T>
+Value copy(const T &record) {
+  return seen(record, true);
+}
 inline Value copy(const pipe_stful_cell_t &cell) { return std::vector<pipe_stful_cell_t>{cell}; }
 inline Value copy(const pipe_mgr_meter_spec_t &spec) { return spec; }
 inline Value copy(const pipe_mgr_counter_t &counter) { return counter; }
@@ -93,44 +113,11 @@ concept Known = requires(const T &record) {
 inline Value copy_list(const uint8_t *data, size_t count) { return Bytes(data, data + count); }
 inline Value copy_list(const uint32_t *data, size_t count) { return Words(data, data + count); }
 inline Value copy_list(const pipe_stful_query_t *data, size_t count) {
-  std::vector<Query> queries;
-  for (size_t i = 0; i < count; ++i) queries.push_back(copy_query(data[i]));
-  return queries;
+  return seen({data, count}, true);
 }
 template <class T>
 Value copy_list(const T *data, size_t count) {
   return std::vector<T>(data, data + count);
-}
-
-// ---- Shapes: what is worth knowing of a record that is to be filled ----
-
-template <class T>
-Value shape(const T &) {
-  return Output{};
-}
-inline ActionData shape_data(const pipe_mgr_action_data_t &data) {
-  ActionData shown{data.valid_bit_count, data.byte_count, std::nullopt};
-  if (data.bytes != nullptr) shown.bytes.emplace();
-  return shown;
-}
-inline Value shape(const pipe_mgr_match_spec_t &spec) {
-  MatchSpec shown{spec.scope,   spec.valid_bit_count, spec.byte_count,
-                  std::nullopt, std::nullopt,         spec.priority};
-  if (spec.value != nullptr) shown.value.emplace();
-  if (spec.mask != nullptr) shown.mask.emplace();
-  return shown;
-}
-inline Value shape(const pipe_mgr_action_data_t &data) { return shape_data(data); }
-inline Value shape(const pipe_mgr_action_spec_t &spec) {
-  return ActionSpec{spec.type, shape_data(spec.data), spec.member, spec.group, {}, 0};
-}
-inline Query shape_query(const pipe_stful_query_t &query) {
-  Query shown{query.count, std::nullopt};
-  if (query.cells != nullptr) shown.cells.emplace();
-  return shown;
-}
-inline Value shape(const pipe_stful_query_t &query) {
-  return std::vector<Query>{shape_query(query)};
 }
 
 // ---- What the frame calls ----
@@ -146,8 +133,10 @@ Value before_call(const T &argument) {
       return Opaque{reinterpret_cast<uintptr_t>(argument)};
     } else if constexpr (std::is_const_v<Pointee>) {
       return copy(*argument);
+    } else if constexpr (Leading<Pointee>) {
+      return seen(*argument, false);
     } else {
-      return shape(*argument);
+      return Output{};
     }
   } else {
     static_assert(Known<T>, "the journal knows no copy of this type");
@@ -160,9 +149,7 @@ Value before_call(const List<T> &argument) {
   if constexpr (std::is_const_v<T>) {
     return copy_list(argument.data, argument.count);
   } else if constexpr (std::is_same_v<T, pipe_stful_query_t>) {
-    std::vector<Query> shapes;
-    for (size_t i = 0; i < argument.count; ++i) shapes.push_back(shape_query(argument.data[i]));
-    return shapes;
+    return seen({argument.data, argument.count}, false);
   } else {
     return Output{};
   }
