@@ -63,6 +63,15 @@ bf_status_t Selector::update(pipe_session_handle_t session, uint32_t what,
                            member);
 }
 
+template <class Body>
+bf_status_t Selector::on_group(pipe_group_handle_t group, Body body) {
+  const std::lock_guard lock(mutex_);
+  Group *found = group_of(group);
+  if (found == nullptr) return BF_OBJECT_NOT_FOUND;
+  body(*found);
+  return BF_SUCCESS;
+}
+
 // ---- Groups ----
 
 bf_status_t Selector::add(pipe_session_handle_t session, uint32_t max_size,
@@ -96,16 +105,11 @@ bf_status_t Selector::remove(pipe_session_handle_t session, pipe_group_handle_t 
 }
 
 bf_status_t Selector::acquire(uint32_t group) {
-  const std::lock_guard lock(mutex_);
-  Group *used = group_of(group);
-  if (used == nullptr) return BF_OBJECT_NOT_FOUND;
-  ++used->uses;
-  return BF_SUCCESS;
+  return on_group(group, [](Group &used) { ++used.uses; });
 }
 
 void Selector::release(uint32_t group) {
-  const std::lock_guard lock(mutex_);
-  if (Group *used = group_of(group)) --used->uses;
+  on_group(group, [](Group &used) { --used.uses; });
 }
 
 // ---- Memberships ----
@@ -173,12 +177,9 @@ bf_status_t Selector::is_active(pipe_group_handle_t group, pipe_member_handle_t 
   return BF_SUCCESS;
 }
 
-bf_status_t Selector::member_count(pipe_group_handle_t group_handle, uint32_t *count) {
-  const std::lock_guard lock(mutex_);
-  const Group *group = group_of(group_handle);
-  if (group == nullptr) return BF_OBJECT_NOT_FOUND;
-  *count = static_cast<uint32_t>(group->members.size());
-  return BF_SUCCESS;
+bf_status_t Selector::member_count(pipe_group_handle_t group, uint32_t *count) {
+  return on_group(
+      group, [&](const Group &found) { *count = static_cast<uint32_t>(found.members.size()); });
 }
 
 bf_status_t Selector::first_member(pipe_group_handle_t group_handle, pipe_member_handle_t *member) {
@@ -251,12 +252,8 @@ void Selector::listen(Ear ear, pipe_mgr_sel_update_cb_t callback, void *cookie) 
   (ear == Ear::kOwner ? listeners_.owner : listeners_.further) = {callback, cookie};
 }
 
-bf_status_t Selector::max_size(pipe_group_handle_t group_handle, uint32_t *max_size) {
-  const std::lock_guard lock(mutex_);
-  const Group *group = group_of(group_handle);
-  if (group == nullptr) return BF_OBJECT_NOT_FOUND;
-  *max_size = group->max_size;
-  return BF_SUCCESS;
+bf_status_t Selector::max_size(pipe_group_handle_t group, uint32_t *max_size) {
+  return on_group(group, [&](const Group &found) { *max_size = found.max_size; });
 }
 
 bf_status_t Selector::fallback(pipe_member_handle_t *member) {

@@ -108,6 +108,9 @@ class Selector : public Engine<Selector, ProfileStore> {
     }
   };
 
+  // Runs body(Group &) under the lock. BF_OBJECT_NOT_FOUND: there is no such group.
+  template <class Body>
+  bf_status_t on_group(pipe_group_handle_t group, Body body);
   // All below under the lock. Null for an unknown group or membership.
   Group *group_of(pipe_group_handle_t group);
   Group *group_at(uint32_t slot);

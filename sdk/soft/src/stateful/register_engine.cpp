@@ -37,6 +37,14 @@ std::span<RegisterEngine::Instance> RegisterEngine::chosen(bf_pipe_id_t pipe) {
   return pipe == BF_ALL_PIPES ? all : all.subspan(pipe, 1);
 }
 
+template <class Visit>
+void RegisterEngine::each_plane(bf_pipe_id_t pipe, Visit visit) {
+  for (Instance &instance : chosen(pipe)) {
+    visit(instance.hardware);
+    visit(instance.software);
+  }
+}
+
 bool RegisterEngine::has_room(const pipe_stful_query_t &query, bf_pipe_id_t pipe) {
   return query.cells != nullptr && query.count >= chosen(pipe).size();
 }
@@ -107,10 +115,7 @@ bf_status_t RegisterEngine::query_range(bf_pipe_id_t pipe, uint32_t first,
 
 bf_status_t RegisterEngine::reset(bf_pipe_id_t pipe, const pipe_stful_cell_t *cell) {
   const std::lock_guard lock(mutex_);
-  for (Instance &instance : chosen(pipe)) {
-    instance.hardware.fill_all(value_of(cell));
-    instance.software.fill_all(value_of(cell));
-  }
+  each_plane(pipe, [&](CellPlane &plane) { plane.fill_all(value_of(cell)); });
   return BF_SUCCESS;
 }
 
@@ -118,14 +123,8 @@ bf_status_t RegisterEngine::reset_range(bf_pipe_id_t pipe, uint32_t first, uint3
                                         const pipe_stful_cell_t *cell) {
   if (!in_range(first, count)) return BF_INVALID_ARGUMENT;
   const std::lock_guard lock(mutex_);
-  for (Instance &instance : chosen(pipe)) {
-    instance.hardware.reserve(first, count);
-    instance.software.reserve(first, count);
-  }
-  for (Instance &instance : chosen(pipe)) {
-    instance.hardware.fill(first, count, value_of(cell));
-    instance.software.fill(first, count, value_of(cell));
-  }
+  each_plane(pipe, [&](CellPlane &plane) { plane.reserve(first, count); });
+  each_plane(pipe, [&](CellPlane &plane) { plane.fill(first, count, value_of(cell)); });
   return BF_SUCCESS;
 }
 

@@ -50,6 +50,8 @@ class RegisterEngine : public Engine<RegisterEngine> {
   };
 
   std::span<Instance> chosen(bf_pipe_id_t pipe);
+  template <class Visit>
+  void each_plane(bf_pipe_id_t pipe, Visit visit);
   bool has_room(const pipe_stful_query_t &query, bf_pipe_id_t pipe);
   void refresh(bf_pipe_id_t pipe, uint32_t index);
   void fill(bf_pipe_id_t pipe, uint32_t index, pipe_stful_query_t *query, bool hardware);
