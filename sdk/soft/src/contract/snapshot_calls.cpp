@@ -29,34 +29,25 @@ bf_status_t with_snapshot(uint32_t snapshot, Body body) {
   return unit == nullptr ? bf_status_t{BF_OBJECT_NOT_FOUND} : body(*unit);
 }
 
-// Sizes of the whole capture and of one stage; both stay 0 when there is no such snapshot.
-struct Sizes {
-  uint32_t total = 0;
-  uint32_t stage = 0;
-};
-
-bf_status_t get_sizes(uint32_t snapshot, Sizes *sizes) {
-  return with_snapshot(snapshot, [&](SnapshotUnit &unit) {
-    size_t stages = 0;
-    const bf_status_t status = unit.stage_count(snapshot, &stages);
-    if (status != BF_SUCCESS) return status;
-    sizes->stage = static_cast<uint32_t>(unit.record_bytes());
-    sizes->total = static_cast<uint32_t>(stages * unit.record_bytes());
-    return status;
-  });
+bf_status_t get_sizes(uint32_t snapshot, uint32_t *total_size, uint32_t *stage_size) {
+  if (total_size == nullptr || stage_size == nullptr) return BF_INVALID_ARGUMENT;
+  return with_snapshot(
+      snapshot, [&](SnapshotUnit &unit) { return unit.sizes(snapshot, total_size, stage_size); });
 }
 
 // Records and captures for the journal: a pointer to nothing known as the bytes that it leads to.
 List<const uint8_t> record_of(const void *record, uint32_t snapshot) {
-  Sizes sizes;
-  get_sizes(snapshot, &sizes);
-  return {static_cast<const uint8_t *>(record), sizes.stage};
+  uint32_t total = 0;
+  uint32_t stage = 0;
+  get_sizes(snapshot, &total, &stage);
+  return {static_cast<const uint8_t *>(record), stage};
 }
 
 List<uint8_t> capture_of(void *fields, uint32_t snapshot) {
-  Sizes sizes;
-  get_sizes(snapshot, &sizes);
-  return {static_cast<uint8_t *>(fields), sizes.total};
+  uint32_t total = 0;
+  uint32_t stage = 0;
+  get_sizes(snapshot, &total, &stage);
+  return {static_cast<uint8_t *>(fields), total};
 }
 
 bf_status_t set_trigger(uint32_t snapshot, const void *value, const void *mask) {
@@ -65,16 +56,6 @@ bf_status_t set_trigger(uint32_t snapshot, const void *value, const void *mask) 
     return unit.set_trigger(snapshot, static_cast<const uint8_t *>(value),
                             static_cast<const uint8_t *>(mask));
   });
-}
-
-bf_status_t give_sizes(uint32_t snapshot, uint32_t *total_size, uint32_t *stage_size) {
-  if (total_size == nullptr || stage_size == nullptr) return BF_INVALID_ARGUMENT;
-  Sizes sizes;
-  const bf_status_t status = get_sizes(snapshot, &sizes);
-  if (status != BF_SUCCESS) return status;
-  *total_size = sizes.total;
-  *stage_size = sizes.stage;
-  return status;
 }
 
 bf_status_t read_capture(uint32_t snapshot, bf_pipe_id_t pipe, void *fields,
@@ -118,8 +99,7 @@ bf_status_t bf_snapshot_capture_trigger_set(uint32_t snapshot, const void *value
 
 bf_status_t bf_snapshot_capture_phv_fields_dict_size(uint32_t snapshot, uint32_t *total_size,
                                                      uint32_t *stage_size) {
-  return SOFT_CALL((snapshot, total_size, stage_size),
-                   give_sizes(snapshot, total_size, stage_size));
+  return SOFT_CALL((snapshot, total_size, stage_size), get_sizes(snapshot, total_size, stage_size));
 }
 
 bf_status_t bf_snapshot_capture_get(uint32_t snapshot, uint16_t pipe, void *fields,

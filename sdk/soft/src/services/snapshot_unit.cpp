@@ -86,9 +86,10 @@ bf_status_t SnapshotUnit::get_trigger(uint32_t snapshot, uint8_t *value, uint8_t
   });
 }
 
-bf_status_t SnapshotUnit::stage_count(uint32_t snapshot, size_t *count) {
+bf_status_t SnapshotUnit::sizes(uint32_t snapshot, uint32_t *total, uint32_t *stage) {
   return on_snapshot(snapshot, [&](Snapshot &found) -> bf_status_t {
-    *count = found.stages.count();
+    *total = static_cast<uint32_t>(found.stages.count() * record_bytes_);
+    *stage = static_cast<uint32_t>(record_bytes_);
     return BF_SUCCESS;
   });
 }

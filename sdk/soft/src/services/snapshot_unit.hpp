@@ -37,7 +37,8 @@ class SnapshotUnit : public Engine<SnapshotUnit> {
   bf_status_t set_trigger(uint32_t snapshot, const uint8_t *value, const uint8_t *mask);
   bf_status_t get_trigger(uint32_t snapshot, uint8_t *value, uint8_t *mask);
 
-  bf_status_t stage_count(uint32_t snapshot, size_t *count);
+  // Of the whole capture and of one stage.
+  bf_status_t sizes(uint32_t snapshot, uint32_t *total, uint32_t *stage);
   // control may be null. BF_NOT_READY: nothing is captured; only captures is written.
   bf_status_t read(uint32_t snapshot, bf_pipe_id_t pipe, uint8_t *fields,
                    bf_snapshot_control_t *control, uint32_t *captures);
