@@ -197,22 +197,10 @@ Calls ageing_calls(uint32_t t) {
   };
 }
 
-// Calls on ageing, counters or meters of a table that has none.
-Calls unsupported_calls(uint32_t t) {
-  Calls calls;
-  if (t != kRoute) {
-    for (Call &call : ageing_calls(t)) {
-      call.kind = Call::kUnsupported;
-      if (std::strstr(call.text, "clock") == nullptr) calls.push_back(call);
-    }
-  } else {
-    for (Call &call : counted_calls(t)) {
-      call.kind = Call::kUnsupported;
-      calls.push_back(call);
-    }
-  }
-  if (t == kAcl) return calls;
-  append(calls, {UNSUPPORTED(pipe_mgr_meter_read_entry(IN(t), h.entry(), h.x(&h.room.meter)))});
+// The same calls on something that has no such part.
+Calls unsupported(Calls calls) {
+  std::erase_if(calls, [](const Call &call) { return std::strstr(call.text, "clock") != nullptr; });
+  for (Call &call : calls) call.kind = Call::kUnsupported;
   return calls;
 }
 
@@ -263,13 +251,11 @@ Calls table_calls(uint32_t table) {
                                              h.word())),
       END(soft_placement_free(h.placed), h.placed = nullptr, BF_SUCCESS),
   };
-  append(calls, unsupported_calls(t));
+  append(calls, t == kRoute ? unsupported(counted_calls(t)) : unsupported(ageing_calls(t)));
   if (t != kRoute) append(calls, default_calls(t));
-  if (t != kRoute) append(calls, counted_calls(t));
-  if (t == kRoute) append(calls, ageing_calls(t));
-  if (t == kAcl) {
-    append(calls, {READ(pipe_mgr_meter_read_entry(IN(t), h.entry(), h.x(&h.room.meter)))});
-  }
+  append(calls, t == kRoute ? ageing_calls(t) : counted_calls(t));
+  const Calls metered{READ(pipe_mgr_meter_read_entry(IN(t), h.entry(), h.x(&h.room.meter)))};
+  append(calls, t == kAcl ? metered : unsupported(metered));
   append(
       calls,
       {
@@ -346,13 +332,9 @@ Calls profile_calls() {
   return calls;
 }
 
-Calls cell_calls() {
-  static const pipe_mgr_wred_spec_t wred{1, 2, 3, 0.5f};
-  static const pipe_stful_cell_t cell{7};
-  constexpr uint32_t c = kAclCount, m = kPoliceMeter, r = kWordRegister;
-  const auto mark = [](Hand &h, uint32_t meter) {
-    return soft_meter_mark(h.d(), h.q(), h.o(meter), h.few(), 1, 64, h.x(h.room.bytes));
-  };
+namespace {
+
+Calls counter_calls(uint32_t c) {
   return {
       CHANGE(soft_counter_count(h.d(), h.q(), h.o(c), h.few(), 1, 64)),
       READ(pipe_mgr_stat_ent_query(IN_DEVICE, h.p(0), h.o(c), h.few(), h.x(&h.room.counter))),
@@ -360,39 +342,50 @@ Calls cell_calls() {
       CHANGE(pipe_mgr_stat_ent_database_sync(IN_DEVICE, h.p(0), h.o(c), h.few())),
       READ(soft_next_cell(h.d(), h.o(c), 0, h.word())),
       END(pipe_mgr_stat_database_sync(IN(c), nullptr, nullptr)),
+  };
+}
+
+Calls meter_calls(uint32_t m) {
+  return {
       CHANGE(pipe_mgr_meter_ent_set(IN(m), h.few(), h.x(&kMetered), 0)),
       READ(pipe_mgr_meter_read_entry_idx(IN_DEVICE, h.p(0), h.o(m), h.few(), h.x(&h.room.meter))),
-      CHANGE(pipe_mgr_meter_set_bytecount_adjust(IN(m), h.few())),
-      READ(pipe_mgr_meter_get_bytecount_adjust(IN(m), h.word())),
-      CHANGE(mark(h, m)),
+      CHANGE(soft_meter_mark(h.d(), h.q(), h.o(m), h.few(), 1, 64, h.x(h.room.bytes))),
       READ(soft_next_cell(h.d(), h.o(m), 0, h.word())),
-      UNSUPPORTED(soft_counter_count(h.d(), h.q(), h.o(kHostCount), 0, 1, 64)),
-      UNSUPPORTED(pipe_mgr_stat_ent_query(IN_DEVICE, h.p(0), h.o(kHostCount), 0, &h.room.counter)),
-      UNSUPPORTED(pipe_mgr_stat_ent_set(IN(kHostCount), 0, &kCounted)),
-      UNSUPPORTED(pipe_mgr_stat_ent_database_sync(IN(kHostCount), 0)),
-      UNSUPPORTED(pipe_mgr_stat_database_sync(IN(kHostCount), nullptr, nullptr)),
-      UNSUPPORTED(soft_next_cell(h.d(), h.o(kHostCount), 0, h.room.word)),
-      UNSUPPORTED(pipe_mgr_meter_ent_set(IN(kAclMeter), 0, &kMetered, 0)),
-      UNSUPPORTED(pipe_mgr_meter_read_entry_idx(IN(kAclMeter), 0, &h.room.meter)),
-      UNSUPPORTED(soft_next_cell(h.d(), h.o(kAclMeter), 0, h.room.word)),
-      UNSUPPORTED(mark(h, kAclMeter)),
-      CHANGE(pipe_mgr_wred_ent_set(IN(kWred), h.few(), h.x(&wred), 0)),
-      READ(soft_wred_get(h.d(), h.q(), h.o(kWred), h.few(), h.x(&h.room.wred))),
-      READ(soft_next_wred_cell(h.d(), h.q(), h.x(h.room.zero), h.x(h.room.zero + 1))),
-      CHANGE(pipe_stful_ent_set(IN(r), h.few(), h.x(&cell), 0)),
-      READ(pipe_stful_ent_query(IN(r), h.few(), h.x(&h.room.query), false)),
-      CHANGE(soft_register_write(h.d(), h.p(0), h.o(r), 2000 + h.few(), h.number)),
-      CHANGE(pipe_stful_ent_query(IN(r), 2000 + h.few(), h.x(&h.room.query), true)),
-      READ(pipe_stful_ent_query_range(IN(r), 2000, 1, h.x(&h.room.query), h.word(), false)),
-      CHANGE(pipe_stful_table_reset_range(IN(r), 1000, 4001, &cell)),
-      READ(pipe_stful_query_get_sizes(ON(r), h.word())),
-      READ(soft_next_cell(h.d(), h.o(r), 0, h.word())),
-      CHANGE(soft_register_write(h.d(), h.p(), h.o(r), 0x3ffff, h.number)),
-      CHANGE(pipe_stful_database_sync(IN(r), nullptr, nullptr)),
-      END(pipe_stful_table_reset(IN(r), &cell)),
-      UNSUPPORTED(pipe_stful_direct_ent_query(ON(kHost), 1, &h.room.query, false)),
-      UNSUPPORTED(pipe_stful_direct_database_sync(IN(kHost), nullptr, nullptr)),
   };
+}
+
+}  // namespace
+
+Calls cell_calls() {
+  static const pipe_mgr_wred_spec_t wred{1, 2, 3, 0.5f};
+  static const pipe_stful_cell_t cell{7};
+  constexpr uint32_t m = kPoliceMeter, r = kWordRegister;
+  Calls calls = counter_calls(kAclCount);
+  append(calls, meter_calls(m));
+  append(calls, unsupported(counter_calls(kHostCount)));
+  append(calls, unsupported(meter_calls(kAclMeter)));
+  append(calls,
+         {
+             CHANGE(pipe_mgr_meter_set_bytecount_adjust(IN(m), h.few())),
+             READ(pipe_mgr_meter_get_bytecount_adjust(IN(m), h.word())),
+             CHANGE(pipe_mgr_wred_ent_set(IN(kWred), h.few(), h.x(&wred), 0)),
+             READ(soft_wred_get(h.d(), h.q(), h.o(kWred), h.few(), h.x(&h.room.wred))),
+             READ(soft_next_wred_cell(h.d(), h.q(), h.x(h.room.zero), h.x(h.room.zero + 1))),
+             CHANGE(pipe_stful_ent_set(IN(r), h.few(), h.x(&cell), 0)),
+             READ(pipe_stful_ent_query(IN(r), h.few(), h.x(&h.room.query), false)),
+             CHANGE(soft_register_write(h.d(), h.p(0), h.o(r), 2000 + h.few(), h.number)),
+             CHANGE(pipe_stful_ent_query(IN(r), 2000 + h.few(), h.x(&h.room.query), true)),
+             READ(pipe_stful_ent_query_range(IN(r), 2000, 1, h.x(&h.room.query), h.word(), false)),
+             CHANGE(pipe_stful_table_reset_range(IN(r), 1000, 4001, &cell)),
+             READ(pipe_stful_query_get_sizes(ON(r), h.word())),
+             READ(soft_next_cell(h.d(), h.o(r), 0, h.word())),
+             CHANGE(soft_register_write(h.d(), h.p(), h.o(r), 0x3ffff, h.number)),
+             CHANGE(pipe_stful_database_sync(IN(r), nullptr, nullptr)),
+             END(pipe_stful_table_reset(IN(r), &cell)),
+             UNSUPPORTED(pipe_stful_direct_ent_query(ON(kHost), 1, &h.room.query, false)),
+             UNSUPPORTED(pipe_stful_direct_database_sync(IN(kHost), nullptr, nullptr)),
+         });
+  return calls;
 }
 
 namespace {

@@ -87,16 +87,6 @@ TEST_F(DeviceCopy, KeepsMessagesThatAListenerHolds) {
   EXPECT_EQ(heard[4]->entries[0], 1);
 }
 
-TEST_F(DeviceCopy, TakesMemberSelectorStatesAlong) {
-  p4_pd_ms_state_t *state = p4_pd_ms_init_state(), *second = p4_pd_ms_init_state();
-  OK(p4_pd_ms_new_mbr(session, state, kDevice, 7));
-  OK(p4_pd_ms_new_mbr(session, second, kOther, 8));
-  OK(soft_device_copy(kDevice, kOther));
-  OK(p4_pd_ms_del_mbr(session, state, kDevice, 7));
-  OK(p4_pd_ms_del_mbr(session, state, kOther, 7));
-  EXPECT_EQ(p4_pd_ms_del_mbr(session, second, kOther, 8), BF_OBJECT_NOT_FOUND);
-}
-
 TEST_F(DeviceCopy, RefusesDevicesThatCannotBeTheSame) {
   uint32_t entry = 0;
   constexpr bf_device_id_t kUnlike = 10;
