@@ -239,7 +239,7 @@ TEST_F(ServerTest, AServerThatGoesInTheMiddleIsAFault) {
   const ListeningSocket listening(path_);
   TestClient client(path_);
   for (const std::string &answer :
-       {encode_message(MessageType::output, "half"), encode_end(LineOutcome::done).substr(0, 5),
+       {encode_message(MessageType::output, "half"), "\0\0\0\1"s, "\0\0\0\1x"s,
         "\xff\xff\xff\xff"
         "o"s}) {
     std::string fault;
