@@ -122,55 +122,55 @@ class ObjectSweep : public LibraryTest {
 
   // ---- Texts, put together from those of the parts ----
 
-  static std::string key_value(const pdgen::Table &table, const Read &read) {
-    if (read.no_key != 0) return "(),";
-    return written(*find_export("match_spec_value", table.name),
-                   with("match_spec", read.match_spec.data()),
-                   P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX);
+  struct Texts {
+    std::string value;
+    std::string lines;
+  };
+  static std::string lines_of_record(const Export &print, const void *record) {
+    return printed(
+        [&](int file) { call(print, static_cast<uint64_t>(file), uint64_t{3}, record); });
   }
-  static std::string action_value(const pdgen::Action &action, const Read &read) {
-    return written(*find_export("action_value", action.name),
-                   with("action_spec", &read.action_specs[4]),
-                   P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX);
+  static Texts key_texts(const pdgen::Table &table, const Read &read) {
+    const std::string title = table.keyed() ? "" : "   p4_pd_tessel_switch_" + table.name + ":\n";
+    if (read.no_key != 0) return {"(),", title};
+    const uint8_t *record = read.match_spec.data();
+    return {written(*find_export("match_spec_value", table.name), with("match_spec", record),
+                    P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX),
+            title + lines_of_record(*find_export("match_spec_print", table.name), record)};
   }
-  static void print_key(int file, const pdgen::Table &table, const Read &read) {
-    if (!table.keyed()) dprintf(file, "   p4_pd_tessel_switch_%s:\n", table.name.c_str());
-    if (read.no_key != 0) return;
-    call(*find_export("match_spec_print", table.name), static_cast<uint64_t>(file), uint64_t{3},
-         read.match_spec.data());
-  }
-  static void print_action(int file, const pdgen::Action &action, const Read &read) {
-    dprintf(file, "   p4_pd_tessel_switch_%s:\n", action.name.c_str());
-    if (!action.has_params()) return;
-    call(*find_export("action_print", action.name), static_cast<uint64_t>(file), uint64_t{3},
-         &read.action_specs[4]);
+  static Texts action_texts(const pdgen::Action &action, const Read &read) {
+    const uint8_t *record = &read.action_specs[4];
+    Texts texts = {written(*find_export("action_value", action.name), with("action_spec", record),
+                           P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX),
+                   "   p4_pd_tessel_switch_" + action.name + ":\n"};
+    if (!action.has_params()) return texts;
+    texts.lines += lines_of_record(*find_export("action_print", action.name), record);
+    return texts;
   }
   // Of an object's function and of the one that takes its handle. family: "plcmt_data".
-  template <class Parts>
   static void expect_texts(const std::string &family, const std::string &object, Given given,
-                           const std::string &value, Parts parts) {
-    const std::string wanted = printed(parts);
+                           const Texts &wanted) {
     given.push_back({"indent", 3});
     for (const bool by_handle : {false, true}) {
       const std::string name = (by_handle ? "by_handle_" : "") + family;
       const std::string owner = by_handle ? "" : object;
       EXPECT_EQ(written(*find_export(name + "_value", owner), given, P4_PD_TESSEL_SWITCH_VALUE_MAX),
-                value);
+                wanted.value);
       const std::string lines = printed([&](int file) {
         given.push_back({"descriptor", static_cast<uint64_t>(file)});
         EXPECT_EQ(Arguments(*find_export(name + "_print", owner)).give(given).call(), 0u);
       });
-      EXPECT_EQ(lines, wanted);
+      EXPECT_EQ(lines, wanted.lines);
     }
   }
 
   // ---- One entry ----
 
   // It is read from the old device, and its placement data is decoded and returned. expect(read)
-  // looks at what it does, value(read) and print(file, read) say what stands for it in texts.
-  template <class Expect, class Value, class Print>
+  // looks at what it does, texts(read) say what stands for it.
+  template <class Expect, class TextsOf>
   static Placement examine(const pdgen::Table &table, uint32_t entry, const Contents *key,
-                           Expect expect, Value value, Print print) {
+                           Expect expect, TextsOf texts) {
     Placement placed = Placement::of_entry(kOld.device_id, table.handle, entry);
     const char *get = table.indirect() ? "get_indirect_entry" : "get_entry";
     const Given where = with("device", kOld.device_id, "entry", entry);
@@ -181,16 +181,15 @@ class ObjectSweep : public LibraryTest {
       expect_key(table, *each, key);
       expect(*each);
     }
+    const Texts of_key = key_texts(table, decoded);
+    const Texts of_rest = texts(decoded);
+    const std::string value = "(" + of_key.value + of_rest.value + ")";
     expect_texts("plcmt_data", table.name,
                  with("table_handle", table.handle, "placement", placed.object),
-                 "(" + key_value(table, decoded) + value(decoded) + ")", [&](int file) {
-                   print_key(file, table, decoded);
-                   print(file, decoded);
-                 });
+                 {value, of_key.lines + of_rest.lines});
     const int32_t priority =
         table.has_priority() && key != nullptr ? static_cast<int32_t>(key->priority) : 0;
-    const std::string whole = "((" + key_value(table, decoded) + value(decoded) + "),(" +
-                              std::to_string(priority) + ",True))";
+    const std::string whole = "(" + value + ",(" + std::to_string(priority) + ",True))";
     Arguments shown(*find_export("table_value", table.name));
     shown.give(with("read_from_hardware", 0)).give(where);
     TextBuffer buffer;
@@ -205,8 +204,7 @@ class ObjectSweep : public LibraryTest {
     return examine(
         table, entry, has_key ? &given : nullptr,
         [&](const Read &read) { expect_action(read, *pair.action, image); },
-        [&](const Read &read) { return action_value(*pair.action, read); },
-        [&](int file, const Read &read) { print_action(file, *pair.action, read); });
+        [&](const Read &read) { return action_texts(*pair.action, read); });
   }
 
   // ---- Comparison ----
@@ -393,7 +391,9 @@ TEST_F(ObjectSweep, EntriesThatPointAtMembersAndGroups) {
                         pointee.is_group() ? "Grp" : "Mbr", pointee.handle);
           return examine(
               table, entry, key, [&](const Read &read) { expect_pointee(read, pointee); },
-              [&](const Read &) { return std::string(text); }, [](int, const Read &) {});
+              [&](const Read &) {
+                return Texts{text, ""};
+              });
         };
         const uint32_t old_entry = add("add_entry", kOld, table, "", given, pointee);
         const Placement placed = examined(old_entry, &given);
@@ -432,8 +432,7 @@ TEST_F(ObjectSweep, MembersOfEveryAction) {
         read.emplace(*find_export(family, profile.name), nullptr, given);
         expect_action(*read, *pair.action, action_image(*pair.action, spec.data()));
       }
-      expect_texts("adt_plcmt_data", profile.name, given, action_value(*pair.action, *read),
-                   [&](int file) { print_action(file, *pair.action, *read); });
+      expect_texts("adt_plcmt_data", profile.name, given, action_texts(*pair.action, *read));
       ++actions;
     }
   }

@@ -33,34 +33,39 @@ const pdgen::Action &action_named(std::string_view name) {
   return *pdgen::find_row(program().actions, name);
 }
 
-const pdgen::Pair *pair_of(const pdgen::Table &table, std::string_view action) {
+namespace {
+
+template <class Pairs>
+auto named_pair(const Pairs &pairs, std::string_view action) {
   const auto found =
-      std::ranges::find_if(table.pairs, [&](auto &pair) { return pair.action->name == action; });
-  return found == table.pairs.end() ? nullptr : &*found;
+      std::ranges::find_if(pairs, [&](auto &pair) { return pair.action->name == action; });
+  return found == pairs.end() ? nullptr : &*found;
+}
+
+}  // namespace
+
+const pdgen::Pair *pair_of(const pdgen::Table &table, std::string_view action) {
+  return named_pair(table.pairs, action);
 }
 
 const pdgen::ProfileAction *pair_of(const pdgen::Profile &profile, std::string_view action) {
-  const auto found = std::ranges::find_if(profile.actions,
-                                          [&](auto &pair) { return pair.action->name == action; });
-  return found == profile.actions.end() ? nullptr : &*found;
+  return named_pair(profile.actions, action);
 }
 
 namespace {
 
-const bindings::Record &record_named(const bindings::Record *records, size_t count,
-                                     std::string_view name) {
-  const std::span all(records, count);
+const bindings::Record &record_named(std::span<const bindings::Record> all, std::string_view name) {
   return *std::ranges::find_if(all, [&](auto &record) { return record.name == name; });
 }
 
 }  // namespace
 
 const bindings::Record &record_of(const pdgen::Table &table) {
-  return record_named(bindings::binding.tables.rows, bindings::binding.tables.count, table.name);
+  return record_named(bindings::binding.tables.list(), table.name);
 }
 
 const bindings::Record &record_of(const pdgen::Action &action) {
-  return record_named(bindings::binding.actions.rows, bindings::binding.actions.count, action.name);
+  return record_named(bindings::binding.actions.list(), action.name);
 }
 
 // ---- The exports ----
