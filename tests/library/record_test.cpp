@@ -33,17 +33,6 @@ const KeyRow kKeyRows[] = {
      "eg_intr_md_egress_port=0x105 outerIpv4Hdr_ttl=0x7f/0xff egrMd_routed=1/0xff "
      "fwMd_sipDrop=0xff/0x81",
      23, "01 05 00 00 81 00 7f 00 01", "01 ff 00 00 01 00 ff 00 01", 10},
-    {"trapToCpu",
-     "arpHdr_valid=1/1 arpHdr_opcode=0x0102/0xffff egrMd_cpuReasonCode=0xab/0x0f "
-     "ingIpv4_dip=0x0a010203/0xffffff00 "
-     "ingIpv6_dip=ff020000000000000000000000000016/ff000000000000000000000000000003 "
-     "ingMd_etherType=0x0806/0xffff ingMd_srcPort=0x1234/0xff00 phase0_ingVPort=0x2fff/0xffff",
-     287,
-     "08 06 00 00 00 12 00 00 00 2f ff 00 00 00 00 01 01 02 00 0a 01 02 00 00 00 00 ff 00 00 00 00 "
-     "00 00 00 00 00 00 00 00 00 00 02 00 0b",
-     "ff ff 00 00 00 ff 00 00 00 3f ff 00 00 00 00 01 ff ff 00 ff ff ff 00 00 00 00 ff 00 00 00 00 "
-     "00 00 00 00 00 00 00 00 00 00 03 00 0f",
-     10},
     // Exact: the mask is whole, and whole bytes of the value travel.
     {"ecmpGroup", "l3_ecmpGroup=0x3f12", 14, "3f 12", "ff ff", 0},
     // Longest prefix: the priority is the number of wildcard bits, and a prefix beyond the address
@@ -87,10 +76,6 @@ struct ActionRow {
 };
 
 const ActionRow kActionRows[] = {
-    {"table_add", "mirrorPacketEncap", "setMirrorPacketEncapGreIpv4",
-     "srcIp=0x0a000001 dstIp=0xc0a80102 ttl=64 dscp=0x2e greProto=0x88be vlanId=0x0fed "
-     "dmacOui=0x00abcdef dmacStation=0x00123456",
-     154, "0a 00 00 01 c0 a8 01 02 40 2e 88 be 0f ed ab cd ef 12 34 56", ""},
     // What is above the last byte is dropped.
     {"table_add", "nextHop", "setNextHopDetails",
      "dmacOui=0xff123456 dmacStation=0xee654321 domain=0xf00d", 60, "12 34 56 65 43 21 f0 0d", ""},
