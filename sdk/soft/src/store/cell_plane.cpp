@@ -5,27 +5,36 @@
 
 namespace soft {
 
-// A cell and what follows it: a cell is the low bytes of a little-endian word.
-uint32_t CellPlane::word_at(const Page &page, uint32_t at) const {
-  uint32_t word;
-  std::memcpy(&word, page.cells.get() + size_t{at} * cell_bytes_, sizeof(word));
-  return word;
-}
-
 uint32_t CellPlane::load(const Page &page, uint32_t at) const {
   if (page.cells == nullptr) return page.alike;
-  return word_at(page, at) & mask_;
+  const uint8_t *cell = page.cells.get() + size_t{at} * cell_bytes_;
+  if (cell_bytes_ == 1) return *cell;
+  if (cell_bytes_ == 2) {
+    uint16_t value = 0;
+    std::memcpy(&value, cell, sizeof(value));
+    return value;
+  }
+  uint32_t value = 0;
+  std::memcpy(&value, cell, sizeof(value));
+  return value;
 }
 
 void CellPlane::store(Page &page, uint32_t at, uint32_t value) const {
-  const uint32_t word = (word_at(page, at) & ~mask_) | (value & mask_);
-  std::memcpy(page.cells.get() + size_t{at} * cell_bytes_, &word, sizeof(word));
+  uint8_t *cell = page.cells.get() + size_t{at} * cell_bytes_;
+  if (cell_bytes_ == 1) {
+    *cell = static_cast<uint8_t>(value);
+  } else if (cell_bytes_ == 2) {
+    const auto half = static_cast<uint16_t>(value);
+    std::memcpy(cell, &half, sizeof(half));
+  } else {
+    std::memcpy(cell, &value, sizeof(value));
+  }
 }
 
 // Gives a page cells of its own.
 void CellPlane::spread(Page &page) const {
   if (page.cells != nullptr) return;
-  page.cells.reset(new uint8_t[page_bytes()]());
+  page.cells.reset(new uint8_t[size_t{kPageCells} * cell_bytes_]);
   for (uint32_t at = 0; at < kPageCells; ++at) store(page, at, page.alike);
 }
 
@@ -73,11 +82,12 @@ void CellPlane::fill_all(uint32_t value) {
 void CellPlane::copy(const CellPlane &other) {
   std::vector<Page> pages;
   pages.reserve(other.pages_.size());
+  const size_t bytes = size_t{kPageCells} * cell_bytes_;
   for (const Page &page : other.pages_) {
     pages.push_back({page.alike, nullptr});
     if (page.cells == nullptr) continue;
-    pages.back().cells.reset(new uint8_t[page_bytes()]);
-    std::memcpy(pages.back().cells.get(), page.cells.get(), page_bytes());
+    pages.back().cells.reset(new uint8_t[bytes]);
+    std::memcpy(pages.back().cells.get(), page.cells.get(), bytes);
   }
   pages_ = std::move(pages);
   elsewhere_ = other.elsewhere_;
@@ -101,7 +111,7 @@ uint32_t CellPlane::next_other(uint32_t from, uint32_t end, uint32_t value) cons
 size_t CellPlane::memory_bytes() const {
   size_t bytes = pages_.capacity() * sizeof(Page);
   for (const Page &page : pages_) {
-    if (page.cells != nullptr) bytes += page_bytes();
+    if (page.cells != nullptr) bytes += size_t{kPageCells} * cell_bytes_;
   }
   return bytes;
 }

@@ -16,8 +16,7 @@ class CellPlane {
   static constexpr uint32_t kPageCells = 1024;
 
   // A cell keeps the low 8 * cell_bytes bits of what is stored; cell_bytes is 1, 2 or 4.
-  explicit CellPlane(uint8_t cell_bytes)
-      : cell_bytes_(cell_bytes), mask_(0xffffffffu >> (32 - 8 * cell_bytes)) {}
+  explicit CellPlane(uint8_t cell_bytes) : cell_bytes_(cell_bytes) {}
 
   uint32_t get(uint32_t index) const;
 
@@ -44,18 +43,14 @@ class CellPlane {
  private:
   struct Page {
     uint32_t alike;                    // what every cell holds while there are no cells
-    std::unique_ptr<uint8_t[]> cells;  // page_bytes(), or null
+    std::unique_ptr<uint8_t[]> cells;  // kPageCells * cell_bytes_ bytes, or null
   };
 
-  // The last cell is read as a word too.
-  size_t page_bytes() const { return size_t{kPageCells} * cell_bytes_ + sizeof(uint32_t) - 1; }
-  uint32_t word_at(const Page &page, uint32_t at) const;
   void spread(Page &page) const;
   void store(Page &page, uint32_t at, uint32_t value) const;
   uint32_t load(const Page &page, uint32_t at) const;
 
   uint8_t cell_bytes_;
-  uint32_t mask_;
   uint32_t elsewhere_ = 0;  // what every cell behind the last page holds
   std::vector<Page> pages_;
 };
