@@ -1,7 +1,9 @@
-// What watch draws on a terminal.
+// What is drawn on a terminal: the rounds of watch, and how far a long task is.
 #include "tesselctl/shell/watch_screen.hpp"
 
 #include <gtest/gtest.h>
+
+#include "tesselctl/text/progress.hpp"
 
 namespace tesselctl {
 
@@ -30,6 +32,12 @@ TEST(WatchScreenTest, ARoundStandsWhereTheOneBeforeStoodWithItsChangesMarked) {
             "\033[7mnew\033[0m \033[7m1\033[0m\033[K\n"
             "b  \033[7m3\033[0m  y\033[K\n"
             "a  1  x\033[K\n\033[J\033[?7h");
+}
+
+TEST(ProgressTest, ShowsRateAndRemainingTime) {
+  EXPECT_EQ(progress_text("adding", 250000, 1000000, 0.5),
+            "adding 250,000 of 1,000,000 (25 %), 500,000 a second, 1.5 s left");
+  EXPECT_EQ(progress_text("adding", 0, 10, 0), "adding 0 of 10 (0 %), 0 a second");
 }
 
 }  // namespace
