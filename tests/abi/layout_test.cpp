@@ -16,6 +16,7 @@ constexpr size_t by_abi(size_t on_64, size_t on_32) { return sizeof(void *) == 8
 
 // ---- The library's own ----
 
+PIN(p4_pd_device_target_t, pipe_id, 4, 4);
 PIN_SIZE(p4_pd_device_target_t, 8, 8);
 PIN(p4_pd_parser_target_t, direction, 4, 4);
 PIN(p4_pd_parser_target_t, pipe_id, 8, 8);
@@ -44,6 +45,7 @@ PIN_SIZE(p4_pd_idle_time_params_t, 24, 24);
 PIN(p4_pd_hash_calc_attr_t, type, 4, 4);
 PIN(p4_pd_hash_calc_attr_t, value, 8, 8);
 PIN_SIZE(p4_pd_hash_calc_attr_t, 16, 12);
+PIN(p4_pd_res_spec_t, index, 4, 4);
 PIN_SIZE(p4_pd_res_spec_t, 8, 8);
 
 // Match and action records hold no 64-bit number and no pointer: one layout everywhere.

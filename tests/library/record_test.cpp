@@ -1,5 +1,7 @@
 // What follows from a typed record, worked out by hand: key and mask bytes, action data and
 // resources, value string and printed lines, and the label of a counted entry. One row a record.
+#include <fmt/format.h>
+
 #include "texts.hpp"
 
 namespace pd_test {
@@ -72,7 +74,7 @@ struct ActionRow {
   const char *members;
   unsigned bits;
   const char *data;
-  const char *resources;  // handle:index:tag
+  const char *resources;  // handle:index:tag and a blank for each
 };
 
 const ActionRow kActionRows[] = {
@@ -81,20 +83,20 @@ const ActionRow kActionRows[] = {
      "dmacOui=0xff123456 dmacStation=0xee654321 domain=0xf00d", 60, "12 34 56 65 43 21 f0 0d", ""},
     // Cells of indirect resources.
     {"table_add", "firewallPolicy", "setFirewallPolicyDrop", "counterIndex=7 log=1", 34,
-     "00 00 00 00 01 00", "04000005:7:1"},
+     "00 00 00 00 01 00", "04000005:7:1 "},
     {"table_add", "pdpPolicy", "pdpPolice", "pdpResourceIndex=0x1234", 32, "00 00 00 00",
-     "04000007:1234:1 05000001:1234:1"},
+     "04000007:1234:1 05000001:1234:1 "},
     {"table_modify", "pdpPolicy", "setPdpClassCount", "pdpResourceIndex=0x5678", 32, "00 00 00 00",
-     "04000007:5678:1 05000001:0:2"},
+     "04000007:5678:1 05000001:0:2 "},
     {"set_default_action", "egressMirrorRate", "setEgressMirrorColorRed", "", 0, "",
-     "05000007:0:2"},
+     "05000007:0:2 "},
     // Direct ones: a modified entry keeps its counter, defaults attach.
-    {"table_add", "trapToCpu", "noOp", "", 0, "", "0400000a:0:1"},
+    {"table_add", "trapToCpu", "noOp", "", 0, "", "0400000a:0:1 "},
     {"table_modify", "trapToCpu", "trapPacket", "cpuReasonCode=0x42", 8, "42", ""},
     // A meter of the entry: without a spec it is kept, or let go of by the default entry.
-    {"table_modify", "l2LookupMiss", "l2LookupBcastHit", "", 0, "", "05000005:0:0"},
-    {"set_default_action", "l2LookupMiss", "l2LookupBcastHit", "", 0, "", "05000005:0:2"},
-    {"set_default_action", "egrStpCheck", "egrStpAction", "", 0, "", "06000009:0:1"},
+    {"table_modify", "l2LookupMiss", "l2LookupBcastHit", "", 0, "", "05000005:0:0 "},
+    {"set_default_action", "l2LookupMiss", "l2LookupBcastHit", "", 0, "", "05000005:0:2 "},
+    {"set_default_action", "egrStpCheck", "egrStpAction", "", 0, "", "06000009:0:1 "},
 };
 
 TEST_F(Records, OfActions) {
@@ -112,8 +114,12 @@ TEST_F(Records, OfActions) {
     EXPECT_EQ(action.type, 1u);
     EXPECT_EQ(action.data.valid_bit_count, row.bits);
     EXPECT_EQ(action.data.byte_count, (std::strlen(row.data) + 1) / 3);
-    EXPECT_EQ(data_of(action), row.data) << "no bytes have an address too";
-    EXPECT_EQ(resources_of(action), row.resources);
+    EXPECT_EQ(hex(action.data.bytes.value()), row.data) << "no bytes have an address too";
+    std::string resources;
+    for (const pipe_mgr_resource_t &resource : action.resources) {
+      resources += fmt::format("{:08x}:{:x}:{} ", resource.handle, resource.index, resource.tag);
+    }
+    EXPECT_EQ(resources, row.resources);
   }
 }
 
