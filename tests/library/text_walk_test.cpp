@@ -110,9 +110,11 @@ TEST(TextWalk, SchemasToTheLetter) {
 // The bits of a member that count, in the order of its bytes.
 Bytes counted(const Spec &spec, bool is_table, const Member &member) {
   if (is_table) return key_bits(table_named(spec.record().name), member);
-  const uint32_t bits = member.width < 32 ? (1u << member.width) - 1 : 0xffffffff;
-  const auto *bytes = reinterpret_cast<const uint8_t *>(&bits);
-  return Bytes(bytes, bytes + member.storage);
+  Bytes bits(member.storage);
+  for (unsigned bit = 0; bit < member.width; ++bit) {
+    bits[bit / 8] = static_cast<uint8_t>(bits[bit / 8] | 1 << bit % 8);
+  }
+  return bits;
 }
 
 // Value string and printed lines; wide fields are written whole.
@@ -127,10 +129,12 @@ std::pair<std::string, std::string> texts_of(const Spec &spec, bool is_table) {
     const Bytes bits = counted(spec, is_table, member);
     if (!wide) std::memcpy(&mask, bits.data(), bits.size());
     const bool partial = !wide && !is_length && mask != (~0u >> (32 - member.width));
-    std::string digits = fmt::format("{:0{}x}", spec.get(member) & mask, (member.width + 3) / 4);
+    std::string digits;
     if (wide) {
       digits = digits_of(Bytes(spec.at(member), spec.at(member) + 16));
       std::ranges::transform(digits, digits.begin(), ::toupper);
+    } else {
+      digits = fmt::format("{:0{}x}", spec.get(member) & mask, (member.width + 3) / 4);
     }
     value += "0x" + digits + ",";
     lines += fmt::format("  {}{}{}: 0x{}\n", is_table ? "" : "action_", member.name,
