@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <chrono>
 #include <climits>
+#include <csignal>
 #include <cstring>
 #include <mutex>
 #include <thread>
@@ -62,8 +63,10 @@ void write_holder(int fd) {
 
 std::string holder_of(int fd) {
   char text[16] = {};
-  const bool known = pread(fd, text, sizeof text - 1, 0) > 0 && atoi(text) > 0;
-  return known ? fmt::format("process {}", atoi(text)) : "another process";
+  const int process = pread(fd, text, sizeof text - 1, 0) > 0 ? atoi(text) : 0;
+  // Who cannot write to the lock leaves the number of a process that is gone in it.
+  const bool is_alive = process > 0 && (kill(process, 0) == 0 || errno == EPERM);
+  return is_alive ? fmt::format("process {}", process) : "another process";
 }
 
 }  // namespace
@@ -148,11 +151,13 @@ bool FileLock::try_take() {
   const bool is_named =
       fstatat(place_.folder.get(), name_.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0;
   if (!is_named || !is_same_file(status, named)) return false;
-  if (!is_ours) {
-    if (unlinkat(place_.folder.get(), name_.c_str(), 0) != 0) throw_beside(place_, name_);
+  if (is_ours) {
+    write_holder(file_.get());
+  } else if (unlinkat(place_.folder.get(), name_.c_str(), 0) == 0) {
     return false;
+  } else if (errno != EPERM) {  // in a sticky folder it stays, and locks as it is
+    throw_beside(place_, name_);
   }
-  write_holder(file_.get());
   const std::lock_guard guard(held_mutex);
   held.push_back(status);
   return owns_ = true;
