@@ -24,6 +24,7 @@ DeviceOfImage::DeviceOfImage(const DeviceOptions &device, const ImageOptions &im
       throw Fault(image_.path +
                   ": a compressed image can be read only; decompress it with xz -d first");
     }
+    if (place_.folder.is_open()) refuse_compressed_name(image_.path);
   }
   // Only now: whoever had the lock may have made the image.
   is_new_ = use_ == ImageUse::changes && access(image_.path.c_str(), F_OK) != 0;

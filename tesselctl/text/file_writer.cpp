@@ -186,7 +186,13 @@ FileWriter::FileWriter(const std::string &path) : place_(FilePlace::of_file(path
   if (!file_.is_open()) throw_system(path);
 }
 
+void refuse_compressed_name(const std::string &path) {
+  if (!path.ends_with(".xz")) return;
+  throw Fault(path + ": no file is written compressed; leave out .xz, and run xz on it");
+}
+
 void FileWriter::open_temporary() {
+  refuse_compressed_name(place_.path);
   lock_.emplace(place_);
   const std::string name = "." + place_.name + ".new";
   if (unlinkat(place_.folder.get(), name.c_str(), 0) != 0 && errno != ENOENT) {

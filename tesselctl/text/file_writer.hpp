@@ -74,6 +74,9 @@ class FileWriter {
   Descriptor file_;
 };
 
+// Throws Fault where the name is one of a compressed file.
+void refuse_compressed_name(const std::string &path);
+
 void write_file(const std::string &path, std::string_view text);
 
 }  // namespace tesselctl
