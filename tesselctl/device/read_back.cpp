@@ -157,7 +157,7 @@ void add_number(Row &row, std::string_view name, uint32_t number, Naming naming)
   if (naming == Naming::handles) {
     row.number(name, number);
   } else {
-    row.text(name, fmt::format("#{}", number));
+    row.field({}, name, fmt::format("#{}", number), {matches_numbered});
   }
 }
 

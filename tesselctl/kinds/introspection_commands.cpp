@@ -20,10 +20,15 @@ namespace {
 
 constexpr size_t kLineWidth = 100;
 
+bool matches_size(const void *, std::string_view shown, Word wanted) {
+  if (wanted.text == "unlimited") return shown == wanted.text;
+  return matches_number(&kMost<uint32_t>, shown, wanted);
+}
+
 // How many entries the table may have.
-std::string size_text(const Context &context, const TableInfo &table) {
-  const uint32_t capacity = table_capacity(context.device, table);
-  return capacity == 0 ? "unlimited" : grouped(capacity);
+void add_size(Row &row, uint32_t capacity) {
+  const std::string size = capacity == 0 ? "unlimited" : decimal(capacity);
+  row.field({}, "size", size, {matches_size});
 }
 
 // ---- tables ----
@@ -38,8 +43,8 @@ void list_tables(Context &context, const Invocation &invocation) {
     Row row;
     row.object("table", table.name()).choice("match", match_name(table));
     row.number("actions", table.indirect() ? 0u : table.description->action_count);
-    row.choice("size", size_text(context, table))
-        .number("entries", entry_count(context.device, table, invocation.command));
+    add_size(row, table_capacity(context.device, table));
+    row.number("entries", entry_count(context.device, table, invocation.command));
     if (table.keyed()) row.text("fields", key_text(table, ",", clipped ? 3 : ~size_t{0}));
     context.results.row(row);
   }
@@ -166,12 +171,13 @@ void print_cells(Context &context, const TableInfo &table, const char *kind) {
 void describe_table(Context &context, const TableInfo &table, Word word) {
   const std::string handle = fmt::format("{:#010x}", table.description->handle);
   const uint32_t entries = entry_count(context.device, table, word);
-  const std::string size = size_text(context, table);
+  const uint32_t capacity = table_capacity(context.device, table);
   Row head;
   head.object("table", table.name()).text("match", match_name(table)).text("handle", handle);
-  print(context, head.text("size", size).number("entries", entries),
+  add_size(head, capacity);
+  print(context, head.number("entries", entries),
         fmt::format("{}: {} table, handle {}, size {}, entries {}", table.name(), match_name(table),
-                    handle, size, grouped(entries)));
+                    handle, capacity == 0 ? "unlimited" : grouped(capacity), grouped(entries)));
   if (const soft_profile_t *profile = table.profile()) {
     print(context, Row().object("profile", profile->name),
           fmt::format("entries name a member or a group of {}", profile->name));

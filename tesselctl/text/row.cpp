@@ -102,6 +102,11 @@ bool matches_number(const void *most, std::string_view shown, Word wanted) {
   return parse_number(shown) == number;
 }
 
+bool matches_numbered(const void *, std::string_view shown, Word wanted) {
+  const auto number = [](std::string_view text) { return text.substr(text.starts_with('#')); };
+  return matches_number(&kMost<uint32_t>, number(shown), {number(wanted.text), wanted.column});
+}
+
 bool matches_numbers(const void *, std::string_view shown, Word wanted) {
   if (is_pattern(wanted.text)) return matches_pattern(shown, wanted, "0123456789,");
   const auto numbers_of = [](std::string_view list) {

@@ -41,6 +41,7 @@ bool matches_pattern(std::string_view shown, Word pattern, std::string_view char
 // Kinds of values; the number is at most *what.
 bool matches_text(const void *, std::string_view shown, Word wanted);
 bool matches_number(const void *most, std::string_view shown, Word wanted);
+bool matches_numbered(const void *, std::string_view shown, Word wanted);  // "#1"
 bool matches_numbers(const void *, std::string_view shown, Word wanted);
 template <std::unsigned_integral T>
 inline constexpr uint64_t kMost = std::numeric_limits<T>::max();
