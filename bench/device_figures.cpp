@@ -209,6 +209,7 @@ void upgrade() {
 }  // namespace
 
 int main() {
+  tesselctl::use_program(bindings::pd_binding);
   const tesselctl::LibraryUse library;
   soft_session_open(&session);
   upgrade();

@@ -11,6 +11,8 @@
 
 namespace {
 
+const bool has_used_program = (tesselctl::use_program(bindings::pd_binding), true);
+
 // Every bit set, so that no value is short.
 template <class Record>
 Record filled() {

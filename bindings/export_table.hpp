@@ -1,13 +1,15 @@
 // Every export of a library as data: name, what it belongs to, its parameters, and a way to call it
 // through words. The generator fills it from the same list that it prints the header from. Tools
 // find a function by family, object and action and pass the arguments by parameter name; tests
-// sweep over all of it.
+// sweep over all of it. Neither includes the header of a program.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string_view>
+
+#include "soft_program.h"
 
 namespace bindings {
 
@@ -108,8 +110,29 @@ struct Routes {
   const char *action;  // null without such tables
 };
 
+// Bytes that callers make room for, the NUL of a text included. Constants of the header.
+struct Sizes {
+  size_t action_name;
+  size_t schema;
+  size_t match_spec_value;
+  size_t action_value;
+  size_t value;
+  size_t label;
+  size_t action_specs;  // an action as it is read back, with room for the parameters of any
+  size_t action_spec;   // where the parameters begin in it
+};
+
+// Changes with whatever is declared here and in soft_program.h.
+inline constexpr uint32_t kBindingVersion = 1;
+
 struct Binding {
+  uint32_t version;  // kBindingVersion of the compilation; the first member in every version
   const char *program;
+  const char *library_version;        // "1.0.0"
+  const soft_program_t *description;  // for the soft SDK
+  Sizes sizes;
+  const char *const *action_names;  // in full, by enumeration value
+  size_t action_count;
   const ExportList *const *lists;
   size_t list_count;
   RecordList tables;
@@ -120,9 +143,13 @@ struct Binding {
   RecordList triggers;
   RecordList packets;
   RecordList captures;
+  size_t capture_limit;  // records that a caller has room for
   Routes routes;
 };
 
-extern const Binding binding;
+// The only symbol of a module.
+extern "C" {
+extern const Binding pd_binding;
+}
 
 }  // namespace bindings

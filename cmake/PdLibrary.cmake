@@ -98,6 +98,7 @@ function(pd_add_library program)
   add_library(pd_${program}_binding STATIC EXCLUDE_FROM_ALL ${tables})
   add_dependencies(pd_${program}_binding pd_${program}_generated)
   target_include_directories(pd_${program}_binding PUBLIC ${CMAKE_SOURCE_DIR})
+  target_compile_definitions(pd_${program}_binding PRIVATE PD_LIBRARY_VERSION="${arg_VERSION}")
   # The call table is data; optimising it only costs time.
   target_compile_options(pd_${program}_binding PRIVATE -O1)
   target_link_libraries(pd_${program}_binding PUBLIC pd_${program} soft_program_${program}

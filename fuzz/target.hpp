@@ -7,7 +7,9 @@
 #include <string_view>
 
 #include "tesselctl/device/device.hpp"
+#include "tesselctl/program/library.hpp"
 
+inline const bool has_used_program = (tesselctl::use_program(bindings::pd_binding), true);
 // Keeps the library started: every input has devices of its own, as a first one would be.
 inline const tesselctl::LibraryUse library_use;
 

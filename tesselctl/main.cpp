@@ -46,7 +46,7 @@ std::string version_text() {
       "tesselctl {}\n"
       "library libp4_pd_{}.so.{}\n"
       "contracts: C interface {}, JSON {}",
-      kVersion, program().name, kLibraryVersion, kInterfaceVersion, kJsonVersion);
+      kVersion, binding().program, binding().library_version, kInterfaceVersion, kJsonVersion);
 }
 
 // Where a command line comes from and goes to.
@@ -274,6 +274,7 @@ int run_tool(int argc, char **argv) {
 int main(int argc, char **argv) {
   // A file that may not grow is a fault of the command that writes it.
   std::signal(SIGXFSZ, SIG_IGN);
+  tesselctl::use_program(bindings::pd_binding);
   try {
     return tesselctl::run_tool(argc, argv);
   } catch (const std::bad_alloc &) {

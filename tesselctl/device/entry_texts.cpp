@@ -7,15 +7,15 @@
 namespace tesselctl {
 
 ValueStrings::ValueStrings(const Device &device, const TableInfo &table)
-    : call_(device.prepare("table_value", table.name())) {
-  call_.set("read_from_hardware", uint64_t{0}).set("buffer", buffer_);
+    : call_(device.prepare("table_value", table.name())), buffer_(binding().sizes.value, '\0') {
+  call_.set("read_from_hardware", uint64_t{0}).set("buffer", buffer_.data());
 }
 
 std::string_view ValueStrings::line(p4_pd_entry_handle_t entry, Word word) {
   const auto length = static_cast<size_t>(call_.set("entry", uint64_t{entry}).run());
   if (length == 0) throw Fault(word, fmt::format("it has no entry {} that can be read", entry));
   buffer_[length] = '\n';  // in place of the NUL
-  return {buffer_, length + 1};
+  return std::string_view(buffer_).substr(0, length + 1);
 }
 
 namespace {
@@ -60,10 +60,12 @@ void dump_value(Context &context, const TableInfo &table, p4_pd_entry_handle_t e
 }
 
 std::string counter_label(const Device &device, uint32_t table, p4_pd_entry_handle_t entry) {
-  char buffer[P4_PD_TESSEL_SWITCH_LABEL_MAX];
+  std::string label(binding().sizes.label, '\0');
   Call call = device.prepare("stringify_counter_matchspec", "");
-  call.set("table_handle", uint64_t{table}).set("entry", uint64_t{entry}).set("buffer", buffer);
-  std::string label(buffer, static_cast<size_t>(call.run()));
+  call.set("table_handle", uint64_t{table})
+      .set("entry", uint64_t{entry})
+      .set("buffer", label.data());
+  label.resize(static_cast<size_t>(call.run()));
   label.erase(label.find_last_not_of(' ') + 1);
   return label;
 }

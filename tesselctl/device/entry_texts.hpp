@@ -4,7 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "p4_pd_tessel_switch.h"
 #include "tesselctl/device/device.hpp"
 #include "tesselctl/device/entry_line.hpp"
 
@@ -23,7 +22,7 @@ class ValueStrings {
 
  private:
   Call call_;
-  char buffer_[P4_PD_TESSEL_SWITCH_VALUE_MAX];
+  std::string buffer_;
 };
 
 // Answers with the value string of every entry of the table, or of one: a line each, which goes

@@ -39,9 +39,9 @@ Call EntryReader::prepare(const char *direct, const char *indirect) {
   bind("member", &member_);
   bind("group", &group_);
   bind("action_name", nullptr);
-  bind("action", &specs_.action);
-  bind("action_spec", &specs_.spec);
-  bind("action_specs", &specs_);
+  bind("action", specs_.data());
+  bind("action_spec", specs_.parameters());
+  bind("action_specs", specs_.data());
   return call;
 }
 
@@ -109,15 +109,14 @@ void EntryReader::build(ItemBytes &item) {
   }
   if (!table_.indirect()) {
     head_.outcome = EntryHead::kAction;
-    head_.number = static_cast<uint32_t>(specs_.action);
+    head_.number = specs_.action();
   } else if (has_group_ || has_member_) {
     head_.outcome = has_group_ ? EntryHead::kGroup : EntryHead::kMember;
     head_.number = has_group_ ? group_ : member_;
   }
   append_bytes(item.value, head_);
   if (head_.outcome != EntryHead::kAction) return;
-  append_action_bytes(item.value, action_of_number(head_.number),
-                      reinterpret_cast<const uint8_t *>(&specs_.spec));
+  append_action_bytes(item.value, action_of_number(head_.number), specs_.parameters());
 }
 
 std::optional<p4_pd_entry_handle_t> EntryReader::default_entry(uint16_t pipe) const {
@@ -135,7 +134,7 @@ std::optional<p4_pd_entry_handle_t> EntryReader::default_entry(uint16_t pipe) co
 
 MemberReader::MemberReader(const Device &device, const char *profile)
     : call_(device.prepare("get_member", profile)) {
-  call_.set("read_from_hardware", uint64_t{0}).set("action_specs", &specs_);
+  call_.set("read_from_hardware", uint64_t{0}).set("action_specs", specs_.data());
 }
 
 uint64_t MemberReader::read(p4_pd_member_handle_t member, std::string &value) {
@@ -143,11 +142,10 @@ uint64_t MemberReader::read(p4_pd_member_handle_t member, std::string &value) {
   if (status != BF_SUCCESS) return status;
   EntryHead head;
   head.outcome = EntryHead::kAction;
-  head.number = static_cast<uint32_t>(specs_.action);
+  head.number = specs_.action();
   value.clear();
   append_bytes(value, head);
-  append_action_bytes(value, action_of_number(head.number),
-                      reinterpret_cast<const uint8_t *>(&specs_.spec));
+  append_action_bytes(value, action_of_number(head.number), specs_.parameters());
   return status;
 }
 

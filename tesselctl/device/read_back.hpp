@@ -3,12 +3,12 @@
 
 #include <optional>
 
-#include "p4_pd_tessel_switch.h"
 #include "soft_placement.h"
 #include "tesselctl/device/handles.hpp"
 #include "tesselctl/device/item.hpp"
 #include "tesselctl/device/meter_spec.hpp"
 #include "tesselctl/device/table_info.hpp"
+#include "tesselctl/program/action_specs.hpp"
 #include "tesselctl/text/results.hpp"
 
 namespace tesselctl {
@@ -78,7 +78,7 @@ class EntryReader {
   bool has_group_ = false;
   uint32_t member_ = 0;
   uint32_t group_ = 0;
-  p4_pd_tessel_switch_action_specs_t specs_ = {};
+  ActionSpecs specs_;
   EntryHead head_;
   p4_pd_bytes_meter_spec_t meter_ = {};
   Call entry_call_;
@@ -96,7 +96,7 @@ class MemberReader {
   uint64_t read(p4_pd_member_handle_t member, std::string &value);
 
  private:
-  p4_pd_tessel_switch_action_specs_t specs_ = {};
+  ActionSpecs specs_;
   Call call_;
 };
 

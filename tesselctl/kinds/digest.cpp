@@ -15,7 +15,7 @@ namespace {
 using DigestLine = ObjectLine<soft_digest_t>;
 
 const bindings::Record &record_of(const soft_digest_t &digest) {
-  return *find_record(bindings::binding.digests.list(), digest.name);
+  return *find_record(binding().digests.list(), digest.name);
 }
 
 Row message_row(const soft_digest_t &digest, uint32_t number, bf_pipe_id_t pipe) {

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "p4_pd_tessel_switch.h"
 #include "soft_sdk.h"
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/device/entry_texts.hpp"
@@ -74,7 +73,7 @@ std::string schema_text(Described kind, std::string_view name) {
   if (kind == Described::action) {
     return reinterpret_cast<const char *>(static_cast<uintptr_t>(call.run()));
   }
-  std::string text(P4_PD_TESSEL_SWITCH_SCHEMA_MAX, '\0');
+  std::string text(binding().sizes.schema, '\0');
   text.resize(static_cast<size_t>(call.set("buffer", text.data()).run()));
   return text;
 }

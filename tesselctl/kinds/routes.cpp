@@ -56,7 +56,7 @@ class FaultReport {
 
 // The table of the program's routes whose prefixes are such addresses, or null.
 const bindings::Record *table_for(Notation address) {
-  const bindings::Routes &routes = bindings::binding.routes;
+  const bindings::Routes &routes = binding().routes;
   for (size_t i = 0; i < routes.table_count; ++i) {
     const bindings::Record *table = find_record(tables(), routes.tables[i]);
     for (const Field &field : table->shown()) {
@@ -67,8 +67,7 @@ const bindings::Record *table_for(Notation address) {
 }
 
 const bindings::Record &route_action() {
-  if (bindings::binding.routes.action != nullptr)
-    return action_record(bindings::binding.routes.action);
+  if (binding().routes.action != nullptr) return action_record(binding().routes.action);
   throw Fault("the program has no tables of routes");
 }
 

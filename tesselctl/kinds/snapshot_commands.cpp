@@ -2,7 +2,6 @@
 #include <algorithm>
 
 #include "bf_snapshot.h"
-#include "p4_pd_tessel_switch.h"
 #include "soft_snapshot.h"
 #include "tesselctl/command/options.hpp"
 #include "tesselctl/command/topic.hpp"
@@ -10,10 +9,6 @@
 namespace tesselctl {
 
 namespace {
-
-using Capture = p4_pd_tessel_switch_snapshot_capture_t;
-
-constexpr size_t kMostCaptures = 20;
 
 const char *direction_name(uint32_t direction) { return direction == 0 ? "ingress" : "egress"; }
 
@@ -78,7 +73,7 @@ void trigger(Context &context, const Invocation &invocation) {
   const FieldWords words(invocation, 0, {"snapshot"});
   const Options options(words.options(), 0, {"snapshot"});
   const uint32_t snapshot = options.handle(context, "snapshot");
-  const RecordWriter fields = record_of(words, bindings::binding.triggers, snapshot >> 1 & 1);
+  const RecordWriter fields = record_of(words, binding().triggers, snapshot >> 1 & 1);
   const uint8_t *mask = fields.data() + program().snapshot_bytes;
   Call call = context.device.prepare("snapshot_capture_trigger_set", "");
   call.set("snapshot", uint64_t{snapshot}).set("value", fields.data()).set("mask", mask);
@@ -92,7 +87,7 @@ void inject(Context &context, const Invocation &invocation) {
   const Options options(words.options(), 0, {"first", "last", "direction", "pipe"});
   const Stages stages(options);
   const uint32_t direction = direction_of(options);
-  const RecordWriter fields = record_of(words, bindings::binding.packets, direction);
+  const RecordWriter fields = record_of(words, binding().packets, direction);
   const uint32_t count = stages.last - stages.first + 1u;
   std::vector<uint8_t> records(size_t{count} * program().snapshot_bytes);
   for (uint32_t i = 0; i < count; ++i) {
@@ -119,12 +114,12 @@ Row stage_row(uint32_t snapshot, const bf_snapshot_control_t &control) {
 void show(Context &context, const Invocation &invocation) {
   const Options options(invocation, 0, {"snapshot", "pipe"});
   const uint32_t snapshot = options.handle(context, "snapshot");
-  const bindings::Record &capture = record_in(bindings::binding.captures, "capture", {});
+  const bindings::Record &capture = record_in(binding().captures, "capture", {});
   Row sample = stage_row(snapshot, {});
   for (const char *word : {"yes", "no"}) sample.choice("triggered", word);
   add_samples(sample, "fields", capture);
   context.results.expect(sample);
-  std::vector<Capture> records(kMostCaptures);
+  std::vector<uint8_t> records(binding().capture_limit * capture.size);
   std::vector<bf_snapshot_control_t> control(SOFT_STAGE_LIMIT);
   uint32_t captures = 0;
   Call call = context.device.prepare("snapshot_capture_data_get", "");
@@ -134,11 +129,10 @@ void show(Context &context, const Invocation &invocation) {
   const uint64_t status = call.run();
   if (status == BF_NOT_READY) return;
   check(status, options.need("snapshot"));
-  for (size_t i = 0; i < kMostCaptures; ++i) {
+  for (size_t i = 0; i < binding().capture_limit; ++i) {
     if (!control[i].valid) continue;
-    const auto *bytes = reinterpret_cast<const uint8_t *>(&records[i]);
     Row row = stage_row(snapshot, control[i]);
-    add_record(row, "fields", capture, bytes, LeaveOut::zeroes);
+    add_record(row, "fields", capture, &records[i * capture.size], LeaveOut::zeroes);
     context.results.row(row);
   }
 }

@@ -5,28 +5,25 @@
 
 #include "tesselctl/text/suggest.hpp"
 
-extern "C" {
-extern const soft_program_t soft_program_tessel_switch;
-}
-
 namespace tesselctl {
 
 namespace {
 
-using bindings::binding;
 using bindings::Export;
+
+const bindings::Binding *used = nullptr;
 
 // Exports by family, object and action: open addressing at half load.
 class ExportIndex {
  public:
   ExportIndex() {
     size_t count = 0;
-    for (size_t i = 0; i < binding.list_count; ++i) count += binding.lists[i]->count;
+    for (size_t i = 0; i < binding().list_count; ++i) count += binding().lists[i]->count;
     size_t size = 64;
     while (size < 2 * count) size *= 2;
     slots_.resize(size);
-    for (size_t i = 0; i < binding.list_count; ++i) {
-      const bindings::ExportList &list = *binding.lists[i];
+    for (size_t i = 0; i < binding().list_count; ++i) {
+      const bindings::ExportList &list = *binding().lists[i];
       for (size_t j = 0; j < list.count; ++j) insert(list.rows[j]);
     }
   }
@@ -56,6 +53,15 @@ class ExportIndex {
 
 }  // namespace
 
+const bindings::Binding &binding() {
+  if (used == nullptr) throw std::logic_error("there is no program yet");
+  return *used;
+}
+
+bool has_program() { return used != nullptr; }
+
+void use_program(const bindings::Binding &binding) { used = &binding; }
+
 const Export *find_export(std::string_view family, std::string_view object,
                           std::string_view action) {
   static const ExportIndex index;
@@ -63,16 +69,16 @@ const Export *find_export(std::string_view family, std::string_view object,
 }
 
 void for_each_export(std::string_view family, const std::function<void(const Export &)> &visit) {
-  for (size_t i = 0; i < binding.list_count; ++i) {
-    const bindings::ExportList &list = *binding.lists[i];
+  for (size_t i = 0; i < binding().list_count; ++i) {
+    const bindings::ExportList &list = *binding().lists[i];
     for (size_t j = 0; j < list.count; ++j) {
       if (family == list.rows[j].family) visit(list.rows[j]);
     }
   }
 }
 
-std::span<const bindings::Record> tables() { return binding.tables.list(); }
-std::span<const bindings::Record> actions() { return binding.actions.list(); }
+std::span<const bindings::Record> tables() { return binding().tables.list(); }
+std::span<const bindings::Record> actions() { return binding().actions.list(); }
 
 const bindings::Record *find_record(std::span<const bindings::Record> records,
                                     std::string_view name) {
@@ -87,7 +93,7 @@ const bindings::Record &action_record(std::string_view name) {
   throw std::logic_error("the binding has no action " + std::string(name));
 }
 
-const soft_program_t &program() { return soft_program_tessel_switch; }
+const soft_program_t &program() { return *binding().description; }
 
 void throw_unknown(Word word, std::string_view kind, const std::vector<std::string_view> &names) {
   throw Fault(word, "no " + std::string(kind) + " has this name", nearest(word.text, names));

@@ -1,6 +1,6 @@
 // The control-plane library as the tool sees it: its exports, tables, actions and profiles by name.
-// Everything is constant data; the index over it is built at the first look-up, so that a start
-// costs nothing.
+// Everything is constant data of the program that the process works on; the index over it is built
+// at the first look-up, so that a start costs nothing.
 #pragma once
 
 #include <functional>
@@ -15,6 +15,12 @@
 #include "tesselctl/text/suggest.hpp"
 
 namespace tesselctl {
+
+// Throws std::logic_error before there is a program.
+const bindings::Binding &binding();
+bool has_program();
+// Once, before anything else here.
+void use_program(const bindings::Binding &binding);
 
 // The export of that family, object and action, or null. Object and action may be empty.
 const bindings::Export *find_export(std::string_view family, std::string_view object,

@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
-#include "p4_pd_tessel_switch.h"
+#include "p4_pd_types.h"
 #include "soft_contents.h"
 #include "tesselctl/device/entry_texts.hpp"
 #include "tesselctl/device/read_back.hpp"

@@ -1,4 +1,5 @@
 #include "tesselctl/state/verify.hpp"
+#include "tesselctl/program/trace.hpp"
 
 namespace tesselctl {
 
@@ -25,6 +26,14 @@ const pipe_mgr_placement_t *Placement::of_member(const Device &device,
   check(soft_placement_of_member(device.id(), profile.action_data_table, member, &object_),
         {profile.name, 1});
   return object_;
+}
+
+std::string value_of(const bindings::Export &function, const pipe_mgr_placement_t *placement) {
+  const TraceScope quiet(nullptr);
+  std::string text(binding().sizes.value, '\0');
+  Call call(function);
+  text.resize(call.set("placement", placement).set("buffer", text.data()).run());
+  return text;
 }
 
 VerifyCounts verify(const Device &old_device, const Device &new_device,

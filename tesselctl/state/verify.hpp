@@ -71,6 +71,10 @@ struct Verification {
   }
 };
 
+// The value string of placement data by a function that writes one; empty when they cannot be
+// decoded.
+std::string value_of(const bindings::Export &function, const pipe_mgr_placement_t *placement);
+
 void verify_table(Verification &run, const TableInfo &table);
 void verify_profile(Verification &run, const soft_profile_t &profile);
 

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "p4_pd_tessel_switch.h"
 #include "tesselctl/device/read_back.hpp"
 #include "tesselctl/state/verify.hpp"
 
@@ -23,7 +22,7 @@ class ProfileCheck {
   void run() {
     for_each_member(old_, profile_.name, word_, [&](uint32_t member) { check_member(member); });
     for_each_member(new_, profile_.name, word_, [&](uint32_t member) {
-      Specs specs;
+      ActionSpecs specs;
       if (!read(old_, member, specs)) report(Difference::extra, 0, member);
     });
     for_each_group(old_, profile_.name, word_, [&](uint32_t group) { check_group(group); });
@@ -33,34 +32,32 @@ class ProfileCheck {
   }
 
  private:
-  using Specs = p4_pd_tessel_switch_action_specs_t;
-
   // False when the device has no such member.
-  bool read(const Device &device, uint32_t member, Specs &specs) const {
+  bool read(const Device &device, uint32_t member, ActionSpecs &specs) const {
     Call call = device.prepare("get_member", profile_.name);
     call.set("member", uint64_t{member}).set("read_from_hardware", uint64_t{1});
-    const uint64_t status = call.set("action_specs", &specs).run();
+    const uint64_t status = call.set("action_specs", specs.data()).run();
     if (status == BF_OBJECT_NOT_FOUND) return false;
     check(status, word_);
     return true;
   }
 
-  static bool are_equal(const Specs &a, const Specs &b) {
-    if (a.action != b.action) return false;
-    const bindings::Record &action = action_of_number(static_cast<uint32_t>(a.action));
+  static bool are_equal(const ActionSpecs &a, const ActionSpecs &b) {
+    if (a.action() != b.action()) return false;
+    const bindings::Record &action = action_of_number(a.action());
     if (action.member_count == 0) return true;
     Call call(need_export("action_specs_are_equal", action.name));
-    return call.set("a", &a.spec).set("b", &b.spec).run() != 0;
+    return call.set("a", a.parameters()).set("b", b.parameters()).run() != 0;
   }
 
   void check_member(uint32_t member) {
     ++run_.counts.members;
-    Specs placed = {};
+    ActionSpecs placed;
     Call call(need_export("get_full_member_info_from_plcmt_data", profile_.name));
     call.set("device", uint64_t{old_.id()}).set("member", uint64_t{member});
     call.set("placement", placement_.of_member(old_, profile_, member));
-    check(call.set("action_specs", &placed).run(), word_);
-    Specs held = {};
+    check(call.set("action_specs", placed.data()).run(), word_);
+    ActionSpecs held;
     if (!read(new_, member, held)) return report(Difference::missing, member, 0);
     if (!are_equal(placed, held)) report(Difference::different, member, member);
   }
@@ -104,10 +101,8 @@ class ProfileCheck {
 
   std::string text(const Device &device, uint32_t member) {
     if (member == 0) return "";
-    char buffer[P4_PD_TESSEL_SWITCH_VALUE_MAX] = "";
-    p4_pd_tessel_switch_adt_plcmt_data_value(
-        profile_.action_data_table, placement_.of_member(device, profile_, member), buffer);
-    return buffer;
+    return value_of(need_export("adt_plcmt_data_value", profile_.name),
+                    placement_.of_member(device, profile_, member));
   }
 
   void report(Difference difference, uint32_t old_member, uint32_t new_member) {

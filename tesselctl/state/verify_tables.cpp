@@ -1,8 +1,8 @@
 // Entries and default entries of a table on both sides.
 #include <algorithm>
 
-#include "p4_pd_tessel_switch.h"
 #include "tesselctl/device/read_back.hpp"
+#include "tesselctl/program/trace.hpp"
 #include "tesselctl/state/verify.hpp"
 
 namespace tesselctl {
@@ -18,7 +18,11 @@ class TableCheck {
         table_(table),
         word_{table.name(), 1},
         old_reader_(old_, table, EntryReader::Resources::none),
-        new_reader_(new_, table, EntryReader::Resources::none) {}
+        new_reader_(new_, table, EntryReader::Resources::none),
+        old_equals_(old_.prepare("plcmt_data_eq_to_hw", table.name())),
+        new_equals_(new_.prepare("plcmt_data_eq_to_hw", table.name())) {
+    for (Call *call : {&old_equals_, &new_equals_}) call->set("table_handle", handle());
+  }
 
   void run() {
     check_defaults();
@@ -31,16 +35,17 @@ class TableCheck {
   }
 
  private:
-  bool equals(const Device &device, uint32_t entry, const pipe_mgr_placement_t *placement) const {
-    return p4_pd_tessel_switch_plcmt_data_eq_to_hw(
-               device.session(), static_cast<uint8_t>(device.id()), table_.description->handle,
-               entry, placement) == 1;
+  uint64_t handle() const { return table_.description->handle; }
+
+  bool equals(const Device &device, uint32_t entry, const pipe_mgr_placement_t *placement) {
+    const TraceScope quiet(nullptr);
+    Call &call = &device == &old_ ? old_equals_ : new_equals_;
+    return call.set("entry", uint64_t{entry}).set("placement", placement).run() == 1;
   }
 
   // The same for the entry under a handle of the other device. Placement data are without the
   // priority, which is part of what a ternary entry is, so that one has to be found by its key.
-  bool is_in_place(const Device &other, uint32_t entry,
-                   const pipe_mgr_placement_t *placement) const {
+  bool is_in_place(const Device &other, uint32_t entry, const pipe_mgr_placement_t *placement) {
     return !table_.has_priority() && equals(other, entry, placement);
   }
 
@@ -111,10 +116,8 @@ class TableCheck {
 
   std::string text(const Device &device, uint32_t entry) {
     if (entry == 0) return "";
-    char buffer[P4_PD_TESSEL_SWITCH_VALUE_MAX] = "";
-    p4_pd_tessel_switch_plcmt_data_value(table_.description->handle,
-                                         placement_.of_entry(device, table_, entry), buffer);
-    return buffer;
+    return value_of(need_export("plcmt_data_value", table_.name()),
+                    placement_.of_entry(device, table_, entry));
   }
 
   // Ends the use of the placement data.
@@ -130,6 +133,8 @@ class TableCheck {
   Word word_;
   EntryReader old_reader_;
   EntryReader new_reader_;
+  Call old_equals_;
+  Call new_equals_;
   Placement placement_;
   ItemBytes item_;
 };

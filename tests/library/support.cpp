@@ -61,11 +61,11 @@ const bindings::Record &record_named(std::span<const bindings::Record> all, std:
 }  // namespace
 
 const bindings::Record &record_of(const pdgen::Table &table) {
-  return record_named(bindings::binding.tables.list(), table.name);
+  return record_named(bindings::pd_binding.tables.list(), table.name);
 }
 
 const bindings::Record &record_of(const pdgen::Action &action) {
-  return record_named(bindings::binding.actions.list(), action.name);
+  return record_named(bindings::pd_binding.actions.list(), action.name);
 }
 
 // ---- The exports ----
@@ -73,8 +73,8 @@ const bindings::Record &record_of(const pdgen::Action &action) {
 const std::vector<const Export *> &all_exports() {
   static const std::vector<const Export *> all = [] {
     std::vector<const Export *> list;
-    for (size_t i = 0; i < bindings::binding.list_count; ++i) {
-      const bindings::ExportList &part = *bindings::binding.lists[i];
+    for (size_t i = 0; i < bindings::pd_binding.list_count; ++i) {
+      const bindings::ExportList &part = *bindings::pd_binding.lists[i];
       for (size_t row = 0; row < part.count; ++row) list.push_back(&part.rows[row]);
     }
     return list;

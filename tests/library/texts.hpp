@@ -29,8 +29,8 @@ inline std::string constant_text(const std::string &family, const std::string &o
   return reinterpret_cast<const char *>(static_cast<uintptr_t>(call(*find_export(family, object))));
 }
 
-inline std::span<const Record> tables() { return bindings::binding.tables.list(); }
-inline std::span<const Record> actions() { return bindings::binding.actions.list(); }
+inline std::span<const Record> tables() { return bindings::pd_binding.tables.list(); }
+inline std::span<const Record> actions() { return bindings::pd_binding.actions.list(); }
 
 // The match spec of a table or the action spec of an action.
 class Spec {

@@ -142,17 +142,17 @@ TEST_F(Tiny, PrefixesAgeAndHopsAreWide) {
 }
 
 TEST_F(Tiny, ItsExportsAreThereAsData) {
-  EXPECT_STREQ(bindings::binding.program, "tiny");
-  EXPECT_EQ(bindings::binding.tables.count, 12u);
-  EXPECT_EQ(bindings::binding.actions.count, 10u);
-  const bindings::Record &router = bindings::binding.actions.rows[4];
+  EXPECT_STREQ(bindings::pd_binding.program, "tiny");
+  EXPECT_EQ(bindings::pd_binding.tables.count, 12u);
+  EXPECT_EQ(bindings::pd_binding.actions.count, 10u);
+  const bindings::Record &router = bindings::pd_binding.actions.rows[4];
   ASSERT_EQ(router.shown_count, 2u);
   EXPECT_EQ(router.fields[0].notation, bindings::Notation::ipv4);
   EXPECT_EQ(router.fields[1].label, "hw");  // of hwOui and hwStation
   EXPECT_EQ(router.fields[1].notation, bindings::Notation::mac);
   EXPECT_EQ(router.fields[1].parts[0]->name, std::string("hwOui"));
-  EXPECT_EQ(bindings::binding.actions.rows[6].fields[0].cells[1], std::string("flowRate"));
-  EXPECT_EQ(bindings::binding.routes.tables[1], std::string("fib6"));
+  EXPECT_EQ(bindings::pd_binding.actions.rows[6].fields[0].cells[1], std::string("flowRate"));
+  EXPECT_EQ(bindings::pd_binding.routes.tables[1], std::string("fib6"));
 }
 
 }  // namespace

@@ -9,9 +9,12 @@
 
 #include "tesselctl/command/local_runner.hpp"
 #include "tesselctl/command/script.hpp"
+#include "tesselctl/program/library.hpp"
 #include "tesselctl/state/image.hpp"
 
 namespace tesselctl {
+
+inline const bool has_used_program = (use_program(bindings::pd_binding), true);
 
 struct TemporaryDirectory {
   TemporaryDirectory() : name(mkdtemp(std::string("/tmp/tesselctl.XXXXXX").data())) {}
