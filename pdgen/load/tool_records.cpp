@@ -14,6 +14,11 @@ namespace {
 
 constexpr unsigned kHalf = 24;
 
+// What commands take beside the fields of a record: a field of that name could not be given.
+constexpr std::string_view kCommandWords[] = {"action", "as",      "bytes", "direction", "entry",
+                                              "first",  "group",   "hash",  "last",      "member",
+                                              "meter",  "packets", "pipe",  "snapshot"};
+
 std::string notation_of(Hint hint, unsigned width) {
   if (hint == Hint::kV4Addr && width == 32) return "ipv4";
   if (hint == Hint::kV6Addr && width == 128) return "ipv6";
@@ -58,8 +63,10 @@ class RecordBuilder {
     record_.members.push_back(member);
   }
 
-  ToolRecord take(std::string name, std::string number, std::string size) {
+  // Commands have no words of their own behind the name of an action.
+  ToolRecord take(std::string name, std::string number, std::string size, bool is_action = false) {
     join_halves();
+    if (!is_action) name_apart_from_words();
     name_apart();
     record_.name = std::move(name);
     record_.number = std::move(number);
@@ -122,6 +129,16 @@ class RecordBuilder {
         record_.fields[i].label = long_name(record_.fields[i].name);
         changed = changed || record_.fields[i].label != labels[i];
       }
+    }
+  }
+
+  void name_apart_from_words() {
+    const auto is_word = [](const ToolField &field) {
+      return std::ranges::find(kCommandWords, field.label) != std::end(kCommandWords);
+    };
+    for (ToolField &field : record_.fields) {
+      if (is_word(field)) field.label = long_name(field.name);
+      if (is_word(field)) field.label += "Field";
     }
   }
 
@@ -207,7 +224,7 @@ ToolRecord tool_record(const Program &program, const Action &action) {
                 param.hint, param.name, low_bits(param.width), std::move(cells));
   }
   return builder.take(action.name, std::to_string(action.value),
-                      action.has_params() ? "sizeof(" + type + ")" : "0");
+                      action.has_params() ? "sizeof(" + type + ")" : "0", true);
 }
 
 ToolRecord tool_record(const Program &program, const Digest &digest) {
