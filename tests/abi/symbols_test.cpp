@@ -114,6 +114,22 @@ TEST(Symbols, NeedNoCxxRunTime) {
   EXPECT_EQ(difference({"libc.so.6", "libcjson.so.1"}, needed), "");
 }
 
+// Sessions of several threads have nothing in common in the library but a state a profile, the
+// driver's handle and what the linker keeps.
+TEST(Symbols, HoldNoVariablesThatThreadsWouldShare) {
+  if (PD_SANITIZED) GTEST_SKIP() << "a sanitizer keeps more";
+  const Outcome outcome = run(std::string("size -A ") + PD_LIBRARY);
+  const std::regex section("\\.(t?data|t?bss) +([0-9]+) ");
+  size_t sections = 0, bytes = 0;
+  for (std::sregex_iterator at(outcome.output.begin(), outcome.output.end(), section), end;
+       at != end; ++at) {
+    bytes += std::stoul((*at)[2]);
+    ++sections;
+  }
+  EXPECT_EQ(sections, 2u) << outcome.output;
+  EXPECT_LE(bytes, 9 * sizeof(void *)) << outcome.output;
+}
+
 TEST(Symbols, WouldBeMissed) {
   Names listed = exports_listed();
   listed.erase("bf_drv_hdl");
