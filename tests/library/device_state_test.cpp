@@ -2,6 +2,8 @@
 // rebuilt from the replay of a virtual device.
 #include <cjson/cJSON.h>
 
+#include <regex>
+
 #include "typed.hpp"
 
 namespace pd_test {
@@ -66,7 +68,10 @@ TEST_F(DeviceState, RemovingForgetsEveryProfile) {
   const std::string empty = state_text();
   EXPECT_TRUE(empty.starts_with(R"({"name":"tessel_switch","act_profs":[{"name":"ecmpMember)"))
       << empty;
+  const Device other(9);
   fill();
+  fill(9);
+  const std::string of_other = state_text(9);
   EXPECT_NE(state_text(), empty);
   std::vector<std::string> wanted(4, "p4_pd_ms_destroy_state_for_dev");
   wanted.push_back("p4_pd_ms_destroy_txn_state_for_dev");
@@ -74,6 +79,7 @@ TEST_F(DeviceState, RemovingForgetsEveryProfile) {
   EXPECT_EQ(names_of(calls), wanted);
   for (const Call &call : calls) EXPECT_EQ(call.scalar("device"), kDevice);
   EXPECT_EQ(state_text(), empty);
+  EXPECT_EQ(state_text(9), of_other);
 }
 
 // The states of the helper are not the library's to judge: whatever they answer, the result is 0.
@@ -111,27 +117,17 @@ TEST_F(DeviceState, AnyDocumentIsTakenWithoutHarm) {
   // As deep as the parser goes.
   const std::string deep = std::string(900, '[') + std::string(900, ']');
   const std::string lag = R"({"name":"lagPortActionProfile")";
-  std::vector<std::string> documents = {
+  const std::vector<std::string> documents = {
       "{}",
       "[]",
-      "null",
       "7",
-      R"("act_profs")",
       R"({"act_profs":null})",
-      R"({"act_profs":)" + lag + "}}",
-      R"({"act_profs":"lagPortActionProfile"})",
+      R"({"act_profs":{"x":)" + lag + R"(,"members":[]}}})",
       with_profiles(R"(null,1,true,"lagPortActionProfile",[],{})"),
       with_profiles(R"({"name":null},{"name":1},{"name":["lagPortActionProfile"]},{"name":{}})"),
-      with_profiles("[" + lag + "}]"),
-      with_profiles(lag + "}"),
       with_profiles(lag + R"(,"members":1,"groups":"x"})"),
       with_profiles(R"({"name":)" + deep + "}," + lag + R"(,"x":)" + deep + "}"),
-      R"({"act_profs":)" + deep + "}"};
-  for (const std::string name : {"lagPortActionProfil", "lagPortActionProfiles",
-                                 "agPortActionProfile", "LagPortActionProfile", ""}) {
-    documents.push_back(with_profiles(
-        R"({"name":")" + name + R"(","members":[{"handle":7,"action":536871358}],"groups":[]})"));
-  }
+      with_profiles(R"({"name":"lagPortActionProfil","members":[{"handle":7}]})")};
   for (const std::string &document : documents) {
     restore(document);
     EXPECT_EQ(state_text(), full) << document.substr(0, 200);
@@ -148,9 +144,10 @@ void *limited_malloc(size_t bytes) {
   return std::malloc(bytes);
 }
 
-// Every allocation of the document fails in turn: what fits is logged, the result is 0, and nothing
-// is lost (which AddressSanitizer sees).
+// Every allocation of the document fails in turn: the profiles that fit are logged whole, the
+// result is 0, and nothing is lost (which AddressSanitizer sees).
 TEST_F(DeviceState, ALogWithoutMemoryIsShorter) {
+  fill();
   const std::string full = state_text();
   cJSON_Hooks hooks = {limited_malloc, std::free};
   size_t allowed = 0;
@@ -162,6 +159,8 @@ TEST_F(DeviceState, ALogWithoutMemoryIsShorter) {
     EXPECT_EQ(callbacks().device_log(kDevice, document.get()), BF_SUCCESS);
     cJSON_InitHooks(nullptr);
     logged = text_of(document.get());
+    const std::regex end_and_empty_profile(R"((,?\{("name":"\w+")?\})?\]?\}$)");
+    EXPECT_TRUE(full.starts_with(std::regex_replace(logged, end_and_empty_profile, ""))) << logged;
   }
   EXPECT_EQ(logged, full);
   EXPECT_GT(allowed, 20u);

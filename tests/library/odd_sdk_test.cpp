@@ -9,7 +9,8 @@
 
 namespace {
 
-using pd_test::soft_function;
+// The soft SDK's own function, called.
+#define SOFT(function, ...) pd_test::soft_function(function, #function)(__VA_ARGS__)
 
 // How many items more than there are the SDK reports.
 uint32_t excess = 0;
@@ -45,8 +46,8 @@ extern "C" {
 bf_status_t pipe_stful_ent_query(pipe_session_handle_t session, bf_device_id_t device,
                                  bf_pipe_id_t pipe, pipe_object_handle_t reg, uint32_t index,
                                  pipe_stful_query_t *query, bool read_from_hardware) {
-  const bf_status_t status = soft_function(pipe_stful_ent_query, "pipe_stful_ent_query")(
-      session, device, pipe, reg, index, query, read_from_hardware);
+  const bf_status_t status =
+      SOFT(pipe_stful_ent_query, session, device, pipe, reg, index, query, read_from_hardware);
   query->count += excess;
   return status;
 }
@@ -56,9 +57,8 @@ bf_status_t pipe_stful_ent_query_range(pipe_session_handle_t session, bf_device_
                                        uint32_t count, pipe_stful_query_t *queries,
                                        uint32_t *filled, bool read_from_hardware) {
   const uint32_t capacity = count == 0 ? 0 : queries[0].count;
-  const bf_status_t status =
-      soft_function(pipe_stful_ent_query_range, "pipe_stful_ent_query_range")(
-          session, device, pipe, reg, first, count, queries, filled, read_from_hardware);
+  const bf_status_t status = SOFT(pipe_stful_ent_query_range, session, device, pipe, reg, first,
+                                  count, queries, filled, read_from_hardware);
   for (uint32_t i = *filled; leaves_unread_records && i < count; ++i) queries[i].count = capacity;
   for (uint32_t i = 0; i < count; ++i) queries[i].count += excess;
   *filled += excess;
@@ -69,9 +69,8 @@ bf_status_t pipe_mgr_hash_calc_input_field_attribute_get(
     pipe_session_handle_t session, bf_device_id_t device, pipe_object_handle_t calculation,
     pipe_object_handle_t list, uint32_t max_count, pipe_mgr_hash_attribute_t *attributes,
     uint32_t *filled) {
-  const bf_status_t status = soft_function(pipe_mgr_hash_calc_input_field_attribute_get,
-                                           "pipe_mgr_hash_calc_input_field_attribute_get")(
-      session, device, calculation, list, max_count, attributes, filled);
+  const bf_status_t status = SOFT(pipe_mgr_hash_calc_input_field_attribute_get, session, device,
+                                  calculation, list, max_count, attributes, filled);
   *filled += excess;
   return status;
 }
@@ -80,8 +79,7 @@ bf_status_t pipe_mgr_sel_grp_mbr_state_get(pipe_session_handle_t session, bf_dev
                                            pipe_object_handle_t selector, pipe_group_handle_t group,
                                            pipe_member_handle_t member, uint32_t *state) {
   const bf_status_t status =
-      soft_function(pipe_mgr_sel_grp_mbr_state_get, "pipe_mgr_sel_grp_mbr_state_get")(
-          session, device, selector, group, member, state);
+      SOFT(pipe_mgr_sel_grp_mbr_state_get, session, device, selector, group, member, state);
   *state += excess;
   return status;
 }
@@ -92,8 +90,8 @@ bf_status_t pipe_mgr_get_entry(pipe_session_handle_t session, pipe_object_handle
                                bf_device_id_t device, pipe_entry_handle_t entry,
                                pipe_mgr_match_spec_t *match, pipe_mgr_action_spec_t *action_spec,
                                pipe_object_handle_t *action, bool read_from_hardware) {
-  const bf_status_t status = soft_function(pipe_mgr_get_entry, "pipe_mgr_get_entry")(
-      session, table, device, entry, match, action_spec, action, read_from_hardware);
+  const bf_status_t status = SOFT(pipe_mgr_get_entry, session, table, device, entry, match,
+                                  action_spec, action, read_from_hardware);
   if (excess == 0) return spoil(status, action, action_spec, odd_actions.read_type);
   action_spec->resource_count += excess << 20;
   action_spec->resources[3] = action_spec->resources[1];
@@ -107,8 +105,8 @@ bf_status_t pipe_mgr_table_get_default_entry(pipe_session_handle_t session, bf_d
                                              pipe_mgr_action_spec_t *action_spec,
                                              pipe_object_handle_t *action,
                                              bool read_from_hardware) {
-  return spoil(soft_function(pipe_mgr_table_get_default_entry, "pipe_mgr_table_get_default_entry")(
-                   session, device, pipe, table, action_spec, action, read_from_hardware),
+  return spoil(SOFT(pipe_mgr_table_get_default_entry, session, device, pipe, table, action_spec,
+                    action, read_from_hardware),
                action, action_spec, odd_actions.read_type);
 }
 
@@ -116,35 +114,29 @@ bf_status_t pipe_mgr_plcmt_mat_data_get_entry(const pipe_mgr_placement_t *placem
                                               pipe_mgr_match_spec_t *match,
                                               pipe_mgr_action_spec_t *action_spec,
                                               pipe_object_handle_t *action) {
-  return spoil(
-      soft_function(pipe_mgr_plcmt_mat_data_get_entry, "pipe_mgr_plcmt_mat_data_get_entry")(
-          placement, match, action_spec, action),
-      action, action_spec, odd_actions.placed_type);
+  return spoil(SOFT(pipe_mgr_plcmt_mat_data_get_entry, placement, match, action_spec, action),
+               action, action_spec, odd_actions.placed_type);
 }
 
 bf_status_t pipe_mgr_plcmt_adt_data_get_entry(const pipe_mgr_placement_t *placement,
                                               pipe_mgr_action_data_t *data,
                                               pipe_object_handle_t *action) {
-  return spoil(soft_function(pipe_mgr_plcmt_adt_data_get_entry,
-                             "pipe_mgr_plcmt_adt_data_get_entry")(placement, data, action),
-               action);
+  return spoil(SOFT(pipe_mgr_plcmt_adt_data_get_entry, placement, data, action), action);
 }
 
 bf_status_t pipe_mgr_get_action_data_entry(pipe_object_handle_t table, bf_device_id_t device,
                                            pipe_member_handle_t member,
                                            pipe_mgr_action_data_t *data,
                                            pipe_object_handle_t *action, bool read_from_hardware) {
-  return spoil(soft_function(pipe_mgr_get_action_data_entry, "pipe_mgr_get_action_data_entry")(
-                   table, device, member, data, action, read_from_hardware),
-               action);
+  return spoil(
+      SOFT(pipe_mgr_get_action_data_entry, table, device, member, data, action, read_from_hardware),
+      action);
 }
 
 bf_status_t bf_snapshot_capture_phv_fields_dict_size(uint32_t snapshot, uint32_t *total_size,
                                                      uint32_t *stage_size) {
   if (!odd_service.on) {
-    return soft_function(bf_snapshot_capture_phv_fields_dict_size,
-                         "bf_snapshot_capture_phv_fields_dict_size")(snapshot, total_size,
-                                                                     stage_size);
+    return SOFT(bf_snapshot_capture_phv_fields_dict_size, snapshot, total_size, stage_size);
   }
   *total_size = odd_service.total;
   *stage_size = odd_service.stage;
@@ -154,8 +146,7 @@ bf_status_t bf_snapshot_capture_phv_fields_dict_size(uint32_t snapshot, uint32_t
 bf_status_t bf_snapshot_capture_get(uint32_t snapshot, uint16_t pipe, void *fields,
                                     bf_snapshot_control_t *control, uint32_t *captures) {
   if (!odd_service.on) {
-    return soft_function(bf_snapshot_capture_get, "bf_snapshot_capture_get")(snapshot, pipe, fields,
-                                                                             control, captures);
+    return SOFT(bf_snapshot_capture_get, snapshot, pipe, fields, control, captures);
   }
   for (uint32_t i = 0; i < odd_service.total; ++i) {
     static_cast<uint8_t *>(fields)[i] = static_cast<uint8_t>(i % 251);
