@@ -1,6 +1,4 @@
 // Meters, counters and WRED profiles where the model does not come.
-#include <cstring>
-
 #include "program.hpp"
 
 namespace {
@@ -76,28 +74,23 @@ TEST_F(Meters, BucketsGoWithTheirEntry) {
   EXPECT_EQ(held[2], held[1]);
 }
 
-TEST_F(Meters, WredCellsReadBack) {
-  const pipe_mgr_wred_spec_t spec{1.5f, 100, 200, 0.25f};
-  const auto set_wred = [&](uint32_t pipe, uint32_t table, uint32_t index) {
-    return pipe_mgr_wred_ent_set(session, kDevice, pipe, table, index, &spec, 0);
+TEST_F(Meters, WredCellsAreFoundOneAfterTheOther) {
+  const std::pair<pipe_object_handle_t, uint32_t> cells[] = {
+      {kWred, 3}, {kWred, 9}, {0x07ffffff, 1}};
+  pipe_mgr_wred_spec_t spec{1, 2, 3, 0.5f};
+  const auto set_wred = [&](uint32_t table, uint32_t index) {
+    return pipe_mgr_wred_ent_set(session, kDevice, 1, table, index, &spec, 0);
   };
-  pipe_mgr_wred_spec_t got{};
-  OK(set_wred(1, kWred, 3));
-  EXPECT_EQ(soft_wred_get(kDevice, 0, kWred, 3, &got), BF_OBJECT_NOT_FOUND);
-  EXPECT_EQ(soft_wred_get(kDevice, 1, kWred, 2, &got), BF_OBJECT_NOT_FOUND);
-  OK(soft_wred_get(kDevice, 1, kWred, 3, &got));
-  EXPECT_EQ(std::memcmp(&got, &spec, sizeof(got)), 0);
-  OK(set_wred(BF_ALL_PIPES, 0x07ffffff, SOFT_WRED_CELLS - 1));
-  OK(soft_wred_get(kDevice, 0, 0x07ffffff, SOFT_WRED_CELLS - 1, &got));
-  // One after the other, in pipe 1.
+  for (const auto &[table, index] : cells) OK(set_wred(table, index));
+  EXPECT_EQ(set_wred(kWred, SOFT_WRED_CELLS), BF_INVALID_ARGUMENT);
+  EXPECT_EQ(soft_wred_get(kDevice, 1, kWred, 2, &spec), BF_OBJECT_NOT_FOUND);
   pipe_object_handle_t wred = 0;
   uint32_t index = 0;
-  for (const auto &found : {std::pair(kWred, 3u), std::pair(0x07ffffffu, SOFT_WRED_CELLS - 1)}) {
+  for (const auto &cell : cells) {
     OK(soft_next_wred_cell(kDevice, 1, &wred, &index));
-    EXPECT_EQ(std::pair(wred, index++), found);
+    EXPECT_EQ(std::pair(wred, index++), cell);
   }
   EXPECT_EQ(soft_next_wred_cell(kDevice, 1, &wred, &index), BF_OBJECT_NOT_FOUND);
-  EXPECT_EQ(set_wred(0, kWred, SOFT_WRED_CELLS), BF_INVALID_ARGUMENT);
 }
 
 }  // namespace
