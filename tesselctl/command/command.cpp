@@ -1,8 +1,8 @@
 #include "tesselctl/command/command.hpp"
 
+#include "common/nearest.hpp"
 #include "tesselctl/program/value.hpp"
 #include "tesselctl/text/files.hpp"
-#include "tesselctl/text/suggest.hpp"
 
 namespace tesselctl {
 
@@ -38,7 +38,7 @@ uint32_t parse_handle(const Context &context, Word text, const std::string &what
   if (found != context.labels.end()) return found->second;
   std::vector<std::string> names;
   for (const auto &[name, handle] : context.labels) names.push_back("$" + name);
-  throw Fault(text, "no handle was remembered under this name", nearest(text.text, names));
+  throw Fault(text, "no handle was remembered under this name", common::nearest(text.text, names));
 }
 
 void remember(Context &context, Word name, uint32_t handle) {

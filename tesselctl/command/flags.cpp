@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "common/nearest.hpp"
 #include "tesselctl/program/value.hpp"
-#include "tesselctl/text/suggest.hpp"
 
 namespace tesselctl {
 
@@ -90,7 +90,7 @@ const Flag &need_flag(Word word) {
   if (const Flag *flag = find_flag(word.text)) return *flag;
   Word rest = word;
   const Word name = take_until(rest, '=');
-  Nearest near(name.text);
+  common::Nearest near(name.text);
   for (const Flag &flag : kFlags) near.consider(flag.name);
   throw Fault(name, "no option has this name", near.name());
 }

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "common/nearest.hpp"
 #include "tesselctl/program/value.hpp"
-#include "tesselctl/text/suggest.hpp"
 
 namespace tesselctl {
 
@@ -14,7 +14,8 @@ Options::Options(const Invocation &invocation, size_t at, std::span<const std::s
     const Assignment word = split_assignment(invocation.arguments[i]);
     const auto known = std::find(names.begin(), names.end(), word.name.text);
     if (known == names.end()) {
-      throw Fault(word.name, "the command takes no such word", nearest(word.name.text, names));
+      throw Fault(word.name, "the command takes no such word",
+                  common::nearest(word.name.text, names));
     }
     if (has(*known)) throw Fault(word.name, std::string(*known) + " is given twice");
     given_.push_back({*known, word.value});
@@ -48,7 +49,8 @@ size_t Options::choice_or(std::string_view name, std::initializer_list<std::stri
     ++at;
     list += (list.empty() ? "" : ", ") + std::string(word);
   }
-  throw Fault(*value, std::string(name) + " is one of " + list, nearest(value->text, words));
+  throw Fault(*value, std::string(name) + " is one of " + list,
+              common::nearest(value->text, words));
 }
 
 FieldWords::FieldWords(const Invocation &invocation, size_t at,

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "tesselctl/text/suggest.hpp"
+#include "common/nearest.hpp"
 
 namespace tesselctl {
 
@@ -19,11 +19,11 @@ namespace {
   });
   const std::string wants = std::string(words[0].text) + " wants one of " + list;
   if (words.size() < 2) throw Fault(words[0], wants);
-  throw Fault(words[1], wants, nearest(words[1].text, seconds));
+  throw Fault(words[1], wants, common::nearest(words[1].text, seconds));
 }
 
 [[noreturn]] void throw_unknown_first(Word word) {
-  Nearest near(word.text);
+  common::Nearest near(word.text);
   for_each_shown_command([&](const Command &command) { near.consider(command.first_word()); });
   throw Fault(word, "no command has this name", near.name());
 }

@@ -6,7 +6,7 @@
 #include <cctype>
 #include <vector>
 
-#include "tesselctl/text/suggest.hpp"
+#include "common/nearest.hpp"
 
 namespace tesselctl {
 
@@ -50,7 +50,7 @@ std::string list_of_fields(const bindings::Record &record) {
 
 [[noreturn]] void throw_unknown_field(const bindings::Record &record, Word name,
                                       std::string_view what) {
-  Nearest near(name.text);
+  common::Nearest near(name.text);
   for (const Field &field : record.field_list()) near.consider(field.label);
   for (const Field &field : record.field_list()) near.consider(field.name);
   throw Fault(name,

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "tesselctl/text/suggest.hpp"
+#include "common/nearest.hpp"
 
 namespace tesselctl {
 
@@ -96,7 +96,8 @@ const bindings::Record &action_record(std::string_view name) {
 const soft_program_t &program() { return *binding().description; }
 
 void throw_unknown(Word word, std::string_view kind, const std::vector<std::string_view> &names) {
-  throw Fault(word, "no " + std::string(kind) + " has this name", nearest(word.text, names));
+  throw Fault(word, "no " + std::string(kind) + " has this name",
+              common::nearest(word.text, names));
 }
 
 }  // namespace tesselctl

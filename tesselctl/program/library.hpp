@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "bindings/export_table.hpp"
+#include "common/nearest.hpp"
 #include "soft_program.h"
 #include "tesselctl/text/fault.hpp"
-#include "tesselctl/text/suggest.hpp"
 
 namespace tesselctl {
 
@@ -134,7 +134,7 @@ const bindings::Record &resolve_action(const Object &object, Word name) {
   std::vector<std::string_view> names;
   for (const bindings::Record *action : actions_of(object)) names.emplace_back(action->name);
   throw Fault(name, std::string(object.name) + " has no action of this name",
-              nearest(name.text, names));
+              common::nearest(name.text, names));
 }
 
 }  // namespace tesselctl

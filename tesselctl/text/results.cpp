@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "common/nearest.hpp"
 #include "tesselctl/text/number.hpp"
-#include "tesselctl/text/suggest.hpp"
 #include "tesselctl/text/utf8.hpp"
 
 namespace tesselctl {
@@ -69,7 +69,7 @@ bool Results::passes(size_t filter, const Item &item) {
   if (item.of.matches == nullptr) {
     const bool passes = matches_text(nullptr, item.value, {pattern, 0});
     state.is_value = state.is_value || passes;
-    if (!state.is_value) state.near = nearest(pattern, std::array{state.near, item.value});
+    if (!state.is_value) state.near = common::nearest(pattern, std::array{state.near, item.value});
     return passes;
   }
   try {
@@ -208,7 +208,7 @@ void Results::print_columns() {
 
 void Results::check_names() const {
   const auto unknown = [&](const std::string &name) {
-    throw Fault({name, 0}, "no row has a '" + name + "'", nearest(name, names_));
+    throw Fault({name, 0}, "no row has a '" + name + "'", common::nearest(name, names_));
   };
   for (size_t i = 0; i < settings_.filters.size(); ++i) {
     const FilterState &state = filter_states_[i];
