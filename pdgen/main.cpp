@@ -1,11 +1,14 @@
 // pdgen: reads the catalogue of a P4 program and writes its control-plane library's generated
-// files. Usage errors and faults of the catalogue end with exit status 1 and write nothing.
+// files.
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <iterator>
 #include <map>
+#include <ranges>
 #include <string>
 #include <vector>
 
@@ -16,56 +19,151 @@
 
 namespace {
 
-constexpr const char *kUsage =
-    "usage: pdgen --catalogue DIR [--header FILE] [--exports FILE] [--handles FILE]\n"
-    "             [--build DIR] [--soname N] [--families DIR]\n"
-    "  --catalogue DIR  folder of the program's .toml files\n"
-    "  --header FILE    write the public header\n"
-    "  --exports FILE   write the list of exported names\n"
-    "  --handles FILE   write the list of handles with their objects\n"
-    "  --build DIR      write all that is compiled: descriptors, wrappers, version script,\n"
-    "                   layout test, soft SDK description, call table\n"
-    "  --soname N       version of the shared object (1)\n"
-    "  --families DIR   folder of the .family files that state the interface, if not those\n"
-    "                   that pdgen was built with\n";
+struct Option {
+  std::string_view name;
+  std::string_view argument;  // empty: none
+  const char *help;
+};
 
-// The values of the options, by their names.
-using Options = std::map<std::string, std::string>;
+constexpr Option kOptions[] = {
+    {"--catalogue", "DIR", "the folder of the program's .toml files"},
+    {"--check", "", "read the catalogue and report its faults, but write nothing"},
+    {"--build", "DIR",
+     "write all that is compiled: descriptors, wrappers, version script, layout\n"
+     "test, soft SDK description, call table"},
+    {"--header", "FILE", "write the public header"},
+    {"--exports", "FILE", "write the list of exported names"},
+    {"--handles", "FILE", "write the list of handles with their objects"},
+    {"--soname", "N", "version of the shared object (1)"},
+    {"--families", "DIR",
+     "the folder of the .family files that state the interface, if not those\n"
+     "that pdgen was built with"},
+    {"--help", "", "show this"},
+    {"--version", "", "show the version"},
+};
 
-unsigned long soname(Options &options) {
-  return std::strtoul(options["--soname"].c_str(), nullptr, 10);
-}
+constexpr const char *kPurpose =
+    "usage: pdgen --catalogue DIR --check\n"
+    "       pdgen --catalogue DIR [--build DIR] [--header FILE] [--exports FILE]\n"
+    "             [--handles FILE] [--soname N] [--families DIR]\n"
+    "\n"
+    "Reads the catalogue of a P4 program and writes the sources of its control-plane library. "
+    "Files\n"
+    "whose text does not change are left alone.\n"
+    "\n";
 
-bool parse(int argc, char **argv, Options &options) {
-  for (int i = 1; i + 1 < argc; i += 2) {
-    const auto option = options.find(argv[i]);
-    if (option == options.end()) return false;
-    option->second = argv[i + 1];
+constexpr const char *kRest =
+    "\n"
+    "A catalogue has program.toml, actions.toml and tables.toml, and where the program has such\n"
+    "things profiles.toml, stateful.toml (counters, meters, registers), hashes.toml, "
+    "digests.toml,\n"
+    "value_sets.toml, snapshots.toml, labels.toml and fields.toml (how tools show fields).\n"
+    "\n"
+    "Faults are printed as FILE:LINE: KEY: WHAT. Exit status: 0 when all is done; 1 after a fault "
+    "of\n"
+    "the catalogue or of a family, or a wrong option, and then nothing was written; 1 as well when "
+    "a\n"
+    "file cannot be written.\n"
+    "\n"
+    "Example: pdgen --catalogue catalogue --build build/generated --header include/p4_pd_leaf.h\n";
+
+// The values of the options that are given, by their names.
+using Options = std::map<std::string, std::string, std::less<>>;
+
+std::string help_text() {
+  std::string text = kPurpose;
+  for (const auto &[name, argument, help] : kOptions) {
+    std::string lines = help;
+    const std::size_t end = lines.find('\n');
+    if (end != lines.npos) lines.insert(end + 1, std::string(20, ' '));
+    text += fmt::format("  {:<17} {}\n", fmt::format("{} {}", name, argument), lines);
   }
-  return argc % 2 == 1 && !options["--catalogue"].empty() && soname(options) > 0;
+  return text + kRest;
 }
 
-pdgen::Families load_families(const std::string &directory, pdgen::Diagnostics &diagnostics) {
-  if (directory.empty()) return pdgen::load_families(pdgen::embedded_families(), diagnostics);
-  auto files = pdgen::read_files(directory, ".family", diagnostics);
-  std::ranges::move(pdgen::read_files(directory + "/outputs", ".output", diagnostics),
+// What is wrong with the arguments, "" if nothing is. Each is NAME, NAME VALUE or NAME=VALUE.
+std::string parse(const std::vector<std::string> &arguments, Options &options) {
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    std::string value = arguments[i];
+    const std::string name = value.substr(0, value.find('='));
+    value.erase(0, name.size());
+    const auto *option = std::ranges::find(kOptions, name, &Option::name);
+    if (option == std::end(kOptions)) {
+      const auto names = kOptions | std::views::transform(&Option::name);
+      return fmt::format("{} is no option{}", name, pdgen::did_you_mean(name, names));
+    }
+    if (option->argument.empty()) {
+      if (!value.empty()) return fmt::format("{} takes no value", name);
+    } else if (!value.empty()) {
+      value.erase(0, 1);
+    } else if (++i < arguments.size()) {
+      value = arguments[i];
+    }
+    if (value.empty() && !option->argument.empty()) {
+      return fmt::format("{} needs a value: {} {}", name, name, option->argument);
+    }
+    options[name] = value;
+  }
+  return "";
+}
+
+unsigned long soname(const Options &options) {
+  const auto given = options.find("--soname");
+  return given == options.end() ? 1 : std::strtoul(given->second.c_str(), nullptr, 10);
+}
+
+std::string fault_of(const Options &options) {
+  if (!options.contains("--catalogue")) return "--catalogue DIR is missing";
+  if (soname(options) == 0) return "--soname needs a number from 1 on";
+  const bool has_work =
+      std::ranges::any_of(std::array{"--check", "--build", "--header", "--exports", "--handles"},
+                          [&](const char *name) { return options.contains(name); });
+  return has_work ? ""
+                  : "nothing to write: give --check, --build, --header, --exports or --handles";
+}
+
+pdgen::Families load_families(const Options &options, pdgen::Diagnostics &diagnostics) {
+  const auto directory = options.find("--families");
+  if (directory == options.end()) {
+    return pdgen::load_families(pdgen::embedded_families(), diagnostics);
+  }
+  auto files = pdgen::read_files(directory->second, ".family", diagnostics);
+  std::ranges::move(pdgen::read_files(directory->second + "/outputs", ".output", diagnostics),
                     std::back_inserter(files));
   return pdgen::load_families(files, diagnostics);
 }
 
-// A file that is checked in has an option of its own, all others are for the build folder.
-std::vector<pdgen::TextFile> output_files(const pdgen::Api &api, const pdgen::Families &families,
-                                          Options &options) {
-  std::vector<pdgen::TextFile> files;
+// The files of each option that is given. A file that is checked in has an option of its own, all
+// others are for the build folder.
+std::map<std::string, std::vector<pdgen::TextFile>> output_files(const pdgen::Api &api,
+                                                                 const pdgen::Families &families,
+                                                                 const Options &options) {
+  std::map<std::string, std::vector<pdgen::TextFile>> files;
   for (const pdgen::Output &output : families.outputs) {
     const bool has_option = !output.file_option.empty();
-    const std::string path = options[has_option ? output.file_option : "--build"];
-    if (path.empty()) continue;
+    const auto path = options.find(has_option ? output.file_option : "--build");
+    if (path == options.end()) continue;
     for (pdgen::TextFile &file : written(output, api)) {
-      files.push_back({has_option ? path : path + "/" + file.path, std::move(file.text)});
+      const std::string name = has_option ? path->second : path->second + "/" + file.path;
+      files[path->second].push_back({name, std::move(file.text)});
     }
   }
   return files;
+}
+
+// False after a fault.
+bool write(const std::string &path, const std::vector<pdgen::TextFile> &files) {
+  const auto [count, failed] = pdgen::write_files(files);
+  if (!failed.empty()) {
+    fmt::print(stderr, "pdgen: {}: cannot be written\n", failed);
+  } else if (count == 0) {
+    fmt::print("{} is up to date\n", path);
+  } else if (files[0].path == path) {
+    fmt::print("wrote {}\n", path);
+  } else {
+    fmt::print("wrote {} of {} files to {}\n", count, files.size(), path);
+  }
+  return failed.empty();
 }
 
 // What is wrong ends the run.
@@ -74,23 +172,46 @@ bool report(const std::string &faults) {
   return !faults.empty();
 }
 
-}  // namespace
-
-int main(int argc, char **argv) {
-  Options options = {{"--catalogue", ""}, {"--header", ""},   {"--exports", ""}, {"--handles", ""},
-                     {"--build", ""},     {"--families", ""}, {"--soname", "1"}};
-  if (!parse(argc, argv, options)) return report(kUsage);
-  const auto loaded = pdgen::load_program(options["--catalogue"]);
+// Reads, checks and writes what the options say.
+int run(const Options &options) {
+  const std::string &catalogue = options.find("--catalogue")->second;
+  const auto loaded = pdgen::load_program(catalogue);
   if (report(loaded.diagnostics.text())) return 1;
   pdgen::Diagnostics diagnostics;
-  const pdgen::Families families = load_families(options["--families"], diagnostics);
+  const pdgen::Families families = load_families(options, diagnostics);
   if (report(diagnostics.text())) return 1;
   pdgen::Api api = pdgen::build_api(*loaded.program, families);
   api.soname = soname(options);
   // Two C names that are the same are a fault of the catalogue that shows only here.
   pdgen::check_distinct(api.names, "C name", diagnostics);
   if (report(diagnostics.text())) return 1;
-  const std::string failed = pdgen::write_files(output_files(api, families, options));
-  if (!failed.empty()) fmt::print(stderr, "pdgen: {}: cannot be written\n", failed);
-  return failed.empty() ? 0 : 1;
+  if (options.contains("--check")) {
+    fmt::print("{} has no fault: {} tables, {} actions, {} functions\n", catalogue,
+               api.program.tables.size(), api.program.actions.size(), api.functions.size());
+    return 0;
+  }
+  const auto outputs = output_files(api, families, options);
+  return std::ranges::all_of(outputs,
+                             [](const auto &output) { return write(output.first, output.second); })
+             ? 0
+             : 1;
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+  Options options;
+  std::string fault = parse({argv + 1, argv + argc}, options);
+  if (fault.empty() && options.contains("--help")) {
+    fmt::print("{}", help_text());
+    return 0;
+  }
+  if (fault.empty() && options.contains("--version")) {
+    fmt::print("pdgen {}\n", PDGEN_VERSION);
+    return 0;
+  }
+  if (fault.empty()) fault = fault_of(options);
+  if (fault.empty()) return run(options);
+  fmt::print(stderr, "pdgen: {}\nTry pdgen --help.\n", fault);
+  return 1;
 }

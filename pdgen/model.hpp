@@ -221,7 +221,7 @@ struct Table {
   std::uint32_t handle = 0;
   TableKind kind = TableKind::kKeyless;  // that of its most general field
   std::vector<KeyField> key;             // in record order
-  std::vector<std::size_t> key_order;    // indexes into key, in the order of the key bytes
+  std::vector<Ref<KeyField>> key_order;  // the order of the key bytes
   std::vector<RecordField> record;       // the match record, companions included
   unsigned key_bits = 0;                 // sum of the fields' widths
   unsigned key_bytes = 0;                // sum of their slots

@@ -65,7 +65,8 @@ std::optional<std::string> read_file(const std::filesystem::path &path) {
   return file.is_open() ? std::optional(text.str()) : std::nullopt;
 }
 
-std::string write_files(const std::vector<TextFile> &files) {
+Written write_files(const std::vector<TextFile> &files) {
+  Written written;
   for (const auto &[path, text] : files) {
     if (read_file(path) == text) continue;
     std::error_code error;  // shows when the file cannot be opened
@@ -73,9 +74,10 @@ std::string write_files(const std::vector<TextFile> &files) {
     std::ofstream out(path, std::ios::binary | std::ios::trunc);
     out << text;
     out.close();
-    if (!out) return path;
+    if (!out) return {written.count, path};
+    ++written.count;
   }
-  return "";
+  return written;
 }
 
 }  // namespace pdgen

@@ -38,8 +38,12 @@ struct TextFile {
 // Only of a regular file, as a device may have no end.
 std::optional<std::string> read_file(const std::filesystem::path &path);
 
-// Writes files whose text changes, so that nothing is rebuilt without need, up to the first that
-// cannot be written: its path is returned, else "".
-std::string write_files(const std::vector<TextFile> &files);
+// Writes those of the files whose text changes, so that nothing is rebuilt without need, up to the
+// first that cannot be written, and returns their number.
+struct Written {
+  std::size_t count = 0;
+  std::string failed;  // the path of that one, else ""
+};
+Written write_files(const std::vector<TextFile> &files);
 
 }  // namespace pdgen

@@ -3,6 +3,8 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <bit>
+#include <ranges>
 
 #include "pdgen/check/check.hpp"
 #include "pdgen/load/load_row.hpp"
@@ -11,18 +13,6 @@ namespace pdgen {
 
 namespace {
 
-// A hint for a field that no table has is a slip of the pen.
-void check_hints(const Program &program, Diagnostics &diagnostics) {
-  for (const FieldHint &hint : program.field_facts.hints) {
-    for (const std::string &name : hint.fields) {
-      const bool known = std::ranges::any_of(
-          program.tables, [&](const Table &table) { return find_row(table.key, name) != nullptr; });
-      if (known) continue;
-      diagnostics.report(hint.place, "hints.fields", "{} is no key field of any table", name);
-    }
-  }
-}
-
 bool has_action(const Table &table, const Action &action) {
   return std::ranges::any_of(table.pairs,
                              [&](const Pair &pair) { return pair.action.target == &action; });
@@ -30,15 +20,15 @@ bool has_action(const Table &table, const Action &action) {
 
 // Routes are a prefix and a next hop: what a tool can load must have no more.
 void check_routes(const Program &program, Diagnostics &diagnostics) {
-  if (!program.routes || !program.routes->action) return;
-  const Routes &routes = *program.routes;
-  const Action &action = *routes.action;
+  if (!program.routes) return;
+  const auto &[place, ref, tables] = *program.routes;
+  const Action &action = *ref;
   if (action.params.size() != 1) {
-    diagnostics.report(routes.place, "routes.action", "{} must have one parameter, the next hop",
+    diagnostics.report(place, "routes.action", "{} must have one parameter, the next hop",
                        action.name);
   }
-  for (const Ref<Table> &table : routes.tables) {
-    if (!table || (table->kind == TableKind::kLpm && has_action(*table, action))) continue;
+  for (const Ref<Table> &table : tables) {
+    if (table->kind == TableKind::kLpm && has_action(*table, action)) continue;
     diagnostics.report(table.place, "routes.tables",
                        "{} must be a longest-prefix table with the action {}", table.name,
                        action.name);
@@ -104,7 +94,7 @@ class LabelChecker {
   // A text for a value that the field cannot have would never be written.
   void check_texts(const LabelItem &item, const KeyField &field) const {
     const auto beyond = [&](std::uint32_t bits) {
-      return field.width != 0 && (bits & ~low_bits(field.width).lower) != 0;
+      return (bits & ~low_bits(field.width).lower) != 0;
     };
     for (const LabelText &text : item.texts) {
       if (!beyond(text.value)) continue;
@@ -140,39 +130,76 @@ class LabelChecker {
 };
 
 // The resource list that goes with an action has room for so many items.
-constexpr std::size_t kMostItems = 4;
+constexpr std::ptrdiff_t kMostItems = 4;
 
 std::string item_text(const Table &table, const ResourceRow &row) {
   return fmt::format("resource {} of table {}", row.resource.name, table.name);
 }
 
-bool names_cell_of(const Param &param, const Resource &resource) {
-  return std::ranges::any_of(param.index_of,
-                             [&](const Ref<Resource> &ref) { return ref.target == &resource; });
+// A row that a table lacks; `columns` are those between the resource and the operations.
+std::string row_to_add(const Table &table, const std::string &resource,
+                       const std::string &columns = "") {
+  return fmt::format("add {{ resource = \"{}\", {}in = [{}] }} to its resources", resource, columns,
+                     table.keyed() ? "\"add\", \"modify\", \"default\"" : "\"default\"");
 }
 
-void check_index(const Table &table, const ResourceRow &row, const Pair &pair,
-                 Diagnostics &diagnostics) {
-  const Param *param = find_row(pair.action->params, row.index);
-  if (param != nullptr && (!row.resource || names_cell_of(*param, *row.resource))) return;
-  const std::string fault =
-      param == nullptr ? fmt::format("action {} has no parameter {}", pair.action.name, row.index)
-                       : fmt::format("parameter {} of action {} does not list it in index_of",
-                                     row.index, pair.action.name);
-  diagnostics.report(row.index_place, "table.resources.index", "{} has no cell: {}",
-                     item_text(table, row), fault);
+const ResourceRow *find_item(const Table &table, const Resource &resource) {
+  for (const ResourceRow &row : table.resources) {
+    if (row.resource.target == &resource) return &row;
+  }
+  return nullptr;
+}
+
+// What is wrong with the index of an item of a pair, "" if nothing is.
+std::string index_fault(const ResourceRow &row, const Pair &pair) {
+  const std::vector<Param> &params = pair.action->params;
+  const Param *param = find_row(params, row.index);
+  if (param == nullptr) {
+    return fmt::format("action {} has no parameter {}{}", pair.action.name, row.index,
+                       did_you_mean(row.index, params | std::views::transform(&Param::name)));
+  }
+  const auto named = param->index_of | std::views::transform(&Ref<Resource>::name);
+  if (std::ranges::find(named, row.resource.name) != named.end()) return "";
+  return fmt::format("parameter {} of action {} does not list it in index_of", row.index,
+                     pair.action.name);
+}
+
+// Each resource once in an operation of a pair.
+std::string twice_fault(const Table &table, const ResourceRow &row, const Pair &pair) {
+  for (const ResourceRow *other = table.resources.data(); other != &row; ++other) {
+    const unsigned both = row.operations & other->operations;
+    if (other->resource.target != row.resource.target || !applies_to(*other, pair) || both == 0) {
+      continue;
+    }
+    return fmt::format("{} of action {}", kNamesOf<Operation>[std::countr_zero(both)],
+                       pair.action.name);
+  }
+  return "";
+}
+
+// One fault of a kind, whatever number of actions shows it.
+void check_pairs(const Table &table, const ResourceRow &row, Diagnostics &diagnostics) {
+  std::string index;
+  std::string twice;
+  for (const Pair &pair : table.pairs) {
+    if (!applies_to(row, pair)) continue;
+    if (index.empty() && !row.index.empty()) index = index_fault(row, pair);
+    if (twice.empty()) twice = twice_fault(table, row, pair);
+  }
+  if (!index.empty()) {
+    diagnostics.report(row.index_place, "table.resources.index", "{} has no cell: {}",
+                       item_text(table, row), index);
+  }
+  if (!twice.empty()) {
+    diagnostics.report(row.place, "table.resources.in", "{} is sent twice in {}",
+                       item_text(table, row), twice);
+  }
 }
 
 void check_row(const Table &table, const ResourceRow &row, Diagnostics &diagnostics) {
-  if (!row.index.empty()) {
-    for (const Pair &pair : table.pairs) {
-      if (pair.action && applies_to(row, pair)) check_index(table, row, pair, diagnostics);
-    }
-  }
-  if (!row.resource) return;
   const Resource &resource = *row.resource;
   const bool direct_here = resource.table.target == &table;
-  if (resource.direct() && !direct_here) {
+  if (resource.direct() && !direct_here && find_item(*resource.table, resource) != nullptr) {
     diagnostics.report(row.place, "table.resources.resource",
                        "{} belongs to the entries of table {}", item_text(table, row),
                        resource.table.name);
@@ -183,62 +210,79 @@ void check_row(const Table &table, const ResourceRow &row, Diagnostics &diagnost
                        "{} is tagged meter_spec but is no direct meter of the table",
                        item_text(table, row));
   }
+  check_pairs(table, row, diagnostics);
 }
 
-// One operation of one pair sends each resource once, and not too many of them.
-void check_items(const Table &table, const Pair &pair, Diagnostics &diagnostics) {
-  for (std::size_t operation = 0; operation < kOperationCount; ++operation) {
-    std::vector<const ResourceRow *> sent;
-    for (const ResourceRow &row : table.resources) {
-      if ((row.operations >> operation & 1) == 0 || !applies_to(row, pair)) continue;
-      const bool twice = std::ranges::any_of(sent, [&](const ResourceRow *other) {
-        return other->resource.name == row.resource.name;
+void check_count(const Table &table, Diagnostics &diagnostics) {
+  for (const Pair &pair : table.pairs) {
+    for (std::size_t operation = 0; operation < kOperationCount; ++operation) {
+      const auto sent = std::ranges::count_if(table.resources, [&](const ResourceRow &row) {
+        return (row.operations >> operation & 1) != 0 && applies_to(row, pair);
       });
-      if (twice) {
-        diagnostics.report(row.place, "table.resources.in", "{} is sent twice in {} of action {}",
-                           item_text(table, row), kNamesOf<Operation>[operation], pair.action.name);
-      }
-      sent.push_back(&row);
-    }
-    if (sent.size() > kMostItems) {
-      diagnostics.report(sent[kMostItems]->place, "table.resources",
-                         "table {} sends {} resources in {} of action {}; the list "
-                         "holds {}",
-                         table.name, sent.size(), kNamesOf<Operation>[operation], pair.action.name,
-                         kMostItems);
+      if (sent <= kMostItems) continue;
+      return diagnostics.report(table.resources[kMostItems].place, "table.resources",
+                                "table {} sends {} resources in {} of action {}; at most {} can be",
+                                table.name, sent, kNamesOf<Operation>[operation], pair.action.name,
+                                kMostItems);
     }
   }
 }
 
 // A cell index that no row of the table picks up would be lost.
-void check_lost_indexes(const Table &table, const Pair &pair, Diagnostics &diagnostics) {
-  for (const Param &param : pair.action->params) {
-    for (const Ref<Resource> &resource : param.index_of) {
-      const bool picked_up = std::ranges::any_of(table.resources, [&](const ResourceRow &row) {
-        return row.resource.name == resource.name && row.index == param.name &&
-               applies_to(row, pair);
-      });
-      if (picked_up || !resource) continue;
-      diagnostics.report(pair.place, "table.resources",
-                         "table {} has no resource item for {}, whose cell parameter "
-                         "{} of action {} names",
-                         table.name, resource.name, param.name, pair.action.name);
+void check_lost_index(const Table &table, const Pair &pair, const Param &param,
+                      const Ref<Resource> &resource, Diagnostics &diagnostics) {
+  const ResourceRow *unindexed = nullptr;
+  for (const ResourceRow &row : table.resources) {
+    if (row.resource.target != resource.target || !applies_to(row, pair)) continue;
+    if (!row.index.empty()) return;
+    unindexed = &row;
+  }
+  const std::string index = fmt::format("index = \"{}\"", param.name);
+  diagnostics.report(
+      unindexed == nullptr ? pair.place : unindexed->place, "table.resources",
+      "parameter {} of action {} names a cell of {}, which table {} does not hand over; {}",
+      param.name, pair.action.name, resource.name, table.name,
+      unindexed != nullptr
+          ? "add " + index
+          : row_to_add(table, resource.name,
+                       fmt::format("actions = [\"{}\"], {}, ", pair.action.name, index)));
+}
+
+// A resource of a table's entries is listed there.
+void check_direct(const Program &program, const std::vector<Resource> &resources,
+                  std::string_view key, Diagnostics &diagnostics) {
+  for (const Resource &resource : resources) {
+    if (!resource.table || find_item(*resource.table, resource) != nullptr) continue;
+    const auto lists_it = [&](const Table &table) { return find_item(table, resource) != nullptr; };
+    const auto other = std::ranges::find_if(program.tables, lists_it);
+    if (other != program.tables.end()) {
+      diagnostics.report(resource.table.place, key,
+                         "{} belongs to the entries of table {}, but table {} lists it at {}",
+                         resource.name, resource.table.name, other->name,
+                         place_text(find_item(*other, resource)->place));
+    } else {
+      diagnostics.report(resource.table->place, "table.resources",
+                         "table {} lacks the resource {}, which belongs to its entries; {}",
+                         resource.table.name, resource.name,
+                         row_to_add(*resource.table, resource.name));
     }
   }
 }
 
-void check_direct(const std::vector<Resource> &resources, std::string_view key,
-                  Diagnostics &diagnostics) {
-  for (const Resource &resource : resources) {
-    if (!resource.table) continue;
-    const std::vector<ResourceRow> &rows = resource.table->resources;
-    const bool listed = std::ranges::any_of(
-        rows, [&](const ResourceRow &row) { return row.resource.name == resource.name; });
-    if (listed) continue;
-    diagnostics.report(resource.table.place, key,
-                       "{} belongs to the entries of table {}, whose resources do not "
-                       "list it",
-                       resource.name, resource.table.name);
+// The value of an action is its index.
+void check_values(const Program &program, Diagnostics &diagnostics) {
+  const std::vector<Action> &actions = program.actions;  // by value
+  std::uint32_t free = 0;
+  for (const Action &action : actions) free += action.value == free ? 1 : 0;
+  for (const Action &action : actions) {
+    const auto &first = *std::ranges::find(actions, action.value, &Action::value);
+    if (&first == &action && action.value < actions.size()) continue;
+    diagnostics.report(action.place, "actions.value", "{} of action {} must be {}; {} is free",
+                       action.value, action.name,
+                       &first == &action
+                           ? fmt::format("from 0 to {}", actions.size() - 1)
+                           : fmt::format("another than that of action {}", first.name),
+                       free);
   }
 }
 
@@ -246,7 +290,6 @@ void check_direct(const std::vector<Resource> &resources, std::string_view key,
 
 void check_labels(const Program &program, Diagnostics &diagnostics) {
   for (const Label &label : program.labels) {
-    if (!label.table) continue;
     check_counted(program, label, diagnostics);
     LabelChecker(label, diagnostics).check();
   }
@@ -255,7 +298,7 @@ void check_labels(const Program &program, Diagnostics &diagnostics) {
 void check_program(const Program &program, Diagnostics &diagnostics) {
   check_resources(program, diagnostics);
   check_labels(program, diagnostics);
-  check_hints(program, diagnostics);
+  check_values(program, diagnostics);
   check_limits(program, diagnostics);
   check_routes(program, diagnostics);
   check_names(program, diagnostics);
@@ -271,12 +314,16 @@ void check_resources(const Program &program, Diagnostics &diagnostics) {
   for (const Table &table : program.tables) {
     for (const ResourceRow &row : table.resources) check_row(table, row, diagnostics);
     for (const Pair &pair : table.pairs) {
-      check_items(table, pair, diagnostics);
-      if (pair.action) check_lost_indexes(table, pair, diagnostics);
+      for (const Param &param : pair.action->params) {
+        for (const auto &resource : param.index_of) {
+          check_lost_index(table, pair, param, resource, diagnostics);
+        }
+      }
     }
+    check_count(table, diagnostics);
   }
-  check_direct(program.counters, "counters.table", diagnostics);
-  check_direct(program.meters, "meters.table", diagnostics);
+  check_direct(program, program.counters, "counters.table", diagnostics);
+  check_direct(program, program.meters, "meters.table", diagnostics);
 }
 
 }  // namespace pdgen

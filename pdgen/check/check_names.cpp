@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <string>
 
 #include "pdgen/check/check.hpp"
@@ -24,19 +25,12 @@ constexpr std::string_view kTakenNames =
     "no_index pairs params profile record rendered_table resource_count resources rows size table "
     "text value wide_masks ";
 
-// Other rows of that name have been reported, and so have those without one.
-template <typename Row>
-bool is_first(const std::vector<Row> &rows, const Row &row) {
-  return !row.name.empty() && find_row(rows, row.name) == &row;
-}
-
 // Actions, tables and profiles share the operations "schema" and "value", and with hashes and
 // digests the place of their names in C names.
 void check_object_names(const Program &program, Diagnostics &diagnostics) {
   std::vector<MadeName> names;
   const auto add_all = [&](const auto &rows, const std::string &kind, const std::string &key) {
     for (const auto &row : rows) {
-      if (!is_first(rows, row)) continue;
       if (kTakenNames.find(" " + row.name + " ") != std::string_view::npos) {
         diagnostics.report(row.place, key + ".name",
                            "{} {} has a name that the generated code uses itself", kind, row.name);
@@ -59,7 +53,6 @@ void check_key_names(const Program &program, const Table &table, Diagnostics &di
   std::vector<MadeName> widths;
   std::vector<MadeName> shown;  // with all words, as fields of one short name are
   for (const KeyField &field : table.key) {
-    if (!is_first(table.key, field)) continue;
     const std::string origin = fmt::format("field {} of table {}", field.name, table.name);
     const auto add = [&](std::vector<MadeName> &names, std::string name) {
       names.push_back({std::move(name), origin, field.place, "table.key.field"});
@@ -105,17 +98,36 @@ void check_sizes(const Program &program, Diagnostics &diagnostics) {
   }
 }
 
-// A field is one and the same in all tables: packets carry it once.
-void check_field_widths(const Program &program, Diagnostics &diagnostics) {
-  std::map<std::string_view, const KeyField *> first;
+// The fields of keys by their names.
+struct Use {
+  const Table *table;
+  const KeyField *field;
+};
+using Uses = std::map<std::string_view, std::vector<Use>>;
+
+Uses uses_of_fields(const Program &program) {
+  Uses uses;
   for (const Table &table : program.tables) {
-    for (const KeyField &field : table.key) {
-      const KeyField &other = *first.try_emplace(field.name, &field).first->second;
-      if (field.width == 0 || other.width == 0 || field.width == other.width) continue;
-      diagnostics.report(field.place, "table.key.width",
-                         "field {} of table {} has {} bits, but {} at {}", field.name, table.name,
-                         field.width, other.width, place_text(other.place));
-    }
+    for (const KeyField &field : table.key) uses[field.name].push_back({&table, &field});
+  }
+  return uses;
+}
+
+// The first with the width that most tables have.
+const Use &usual(const std::vector<Use> &uses) {
+  const auto width = [](const Use &use) { return use.field->width; };
+  return *std::ranges::max_element(
+      uses, {}, [&](const Use &use) { return std::ranges::count(uses, width(use), width); });
+}
+
+// A field is one and the same in all tables: packets carry it once.
+void check_field_widths(const std::vector<Use> &uses, Diagnostics &diagnostics) {
+  const Use &most = usual(uses);
+  for (const auto &[table, field] : uses) {
+    if (field->width == most.field->width) continue;
+    diagnostics.report(field->place, "table.key.width",
+                       "field {} of table {} has {} bits, but {} at {}", field->name, table->name,
+                       field->width, most.field->width, place_text(most.field->place));
   }
 }
 
@@ -125,12 +137,12 @@ std::string wanted_width(Hint hint, unsigned width) {
                           : hint == Hint::kV4Addr ? 32
                           : hint == Hint::kV6Addr ? 128
                                                   : 0;
-  if (width == 0 || hint == Hint::kNone || width == wanted) return {};
+  if (hint == Hint::kNone || width == wanted) return {};
   if (wanted != 0) return fmt::format("{} bits", wanted);
   return width <= 32 ? "" : "at most 32 bits";
 }
 
-void check_hint_widths(const Program &program, Diagnostics &diagnostics) {
+void check_param_hints(const Program &program, Diagnostics &diagnostics) {
   for (const Action &action : program.actions) {
     for (const Param &param : action.params) {
       const std::string wanted = wanted_width(param.hint, param.width);
@@ -140,15 +152,42 @@ void check_hint_widths(const Program &program, Diagnostics &diagnostics) {
                          action.name, wanted, param.width);
     }
   }
-  for (const Table &table : program.tables) {
-    for (const KeyField &field : table.key) {
-      const FieldHint *hint = hint_of(field.name, field.width, program.field_facts);
-      const std::string wanted = hint == nullptr ? "" : wanted_width(hint->hint, field.width);
-      if (wanted.empty()) continue;
-      diagnostics.report(hint->place, "hints.hint",
-                         "this hint goes with {}, but field {} of table {} has {}", wanted,
-                         field.name, table.name, field.width);
+}
+
+// A hint is wrong that names a field which it does not go with, or goes with none; else it is the
+// field's width.
+void check_field_hints(const Program &program, const Uses &fields, Diagnostics &diagnostics) {
+  std::map<const FieldHint *, std::vector<Use>> faults;
+  std::set<const FieldHint *> fitting;
+  for (const auto &[name, uses] : fields) {
+    const Use &use = usual(uses);
+    const FieldHint *hint = hint_of(name, use.field->width, program.field_facts);
+    if (hint == nullptr) continue;
+    if (wanted_width(hint->hint, use.field->width).empty()) {
+      fitting.insert(hint);
+    } else {
+      faults[hint].push_back(use);
     }
+  }
+  for (auto &[hint, uses] : faults) {
+    if (!fitting.contains(hint)) uses.resize(1);
+    for (const auto &[table, field] : uses) {
+      const bool of_hint = !fitting.contains(hint) || std::ranges::count(hint->fields, field->name);
+      diagnostics.report(
+          of_hint ? hint->place : field->place, of_hint ? "hints.hint" : "table.key.width",
+          "the hint {} goes with {}, but field {} of table {} has {}",
+          kNamesOf<Hint>[static_cast<std::size_t>(hint->hint)],
+          wanted_width(hint->hint, field->width), field -> name, table -> name, field -> width);
+    }
+  }
+}
+
+void check_key_order(const Table &table, Diagnostics &diagnostics) {
+  for (const KeyField &field : table.key) {
+    const auto names_it = [&](const Ref<KeyField> &ref) { return ref.target == &field; };
+    if (table.key_order.empty() || std::ranges::any_of(table.key_order, names_it)) continue;
+    diagnostics.report(table.key_order[0].place, "table.key_order",
+                       "{} is missing from the key order of table {}", field.name, table.name);
   }
 }
 
@@ -192,8 +231,11 @@ void check_names(const Program &program, Diagnostics &diagnostics) {
 
 void check_limits(const Program &program, Diagnostics &diagnostics) {
   check_sizes(program, diagnostics);
-  check_field_widths(program, diagnostics);
-  check_hint_widths(program, diagnostics);
+  for (const Table &table : program.tables) check_key_order(table, diagnostics);
+  const Uses fields = uses_of_fields(program);
+  for (const auto &[name, uses] : fields) check_field_widths(uses, diagnostics);
+  check_field_hints(program, fields, diagnostics);
+  check_param_hints(program, diagnostics);
   if (program.snapshots) check_parts(*program.snapshots, diagnostics);
 }
 

@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "common/nearest.hpp"
 #include "pdgen/model.hpp"
 
 namespace pdgen {
@@ -21,13 +22,21 @@ struct Fault {
   std::string message;  // what is wrong: a full sentence that gives the value and the limit
 };
 
+// "; did you mean NAME?" if one of the names is near, else "".
+template <typename Names>
+std::string did_you_mean(std::string_view name, const Names &names) {
+  const std::string near = common::nearest(name, names);
+  return near.empty() ? "" : fmt::format("; did you mean {}?", near);
+}
+
 class Diagnostics {
  public:
   template <typename... Args>
   void report(const Place &place, std::string_view key, fmt::format_string<Args...> message,
               Args &&...args) {
-    faults_.push_back({place, std::string(key), fmt::format(message, std::forward<Args>(args)...)});
+    report({place, std::string(key), fmt::format(message, std::forward<Args>(args)...)});
   }
+  void report(Fault fault) { faults_.push_back(std::move(fault)); }
 
   bool empty() const { return faults_.empty(); }
 

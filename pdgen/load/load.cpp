@@ -15,18 +15,23 @@ namespace {
 
 struct Section {
   std::string_view file;
-  bool required;
+  const char *needed;  // what a catalogue must have there; null: nothing
   void (*read)(RowReader &file);
 };
 
 // In the order of reading: where two rows clash, the fault is the later one's.
 constexpr Section kSections[] = {
-    {"program.toml", true, read_program},      {"actions.toml", true, read_actions},
-    {"tables.toml", true, read_tables},        {"profiles.toml", false, read_profiles},
-    {"stateful.toml", false, read_stateful},   {"hashes.toml", false, read_hashes},
-    {"digests.toml", false, read_digests},     {"value_sets.toml", false, read_value_sets},
-    {"fields.toml", false, read_fields},       {"labels.toml", false, read_labels},
-    {"snapshots.toml", false, read_snapshots},
+    {"program.toml", "name = \"NAME\"", read_program},
+    {"actions.toml", "actions = [{ name = \"NAME\", value = 0 }, ...]", read_actions},
+    {"tables.toml", "a [[table]] for each table, with name, handle, key and actions", read_tables},
+    {"profiles.toml", nullptr, read_profiles},
+    {"stateful.toml", nullptr, read_stateful},
+    {"hashes.toml", nullptr, read_hashes},
+    {"digests.toml", nullptr, read_digests},
+    {"value_sets.toml", nullptr, read_value_sets},
+    {"fields.toml", nullptr, read_fields},
+    {"labels.toml", nullptr, read_labels},
+    {"snapshots.toml", nullptr, read_snapshots},
 };
 
 // Reads every file; false if one is missing or cannot be parsed, so that references into it must
@@ -35,12 +40,11 @@ bool read_sections(const std::vector<TextFile> &files, const std::filesystem::pa
                    Reading &reading) {
   bool complete = true;
   std::map<std::string_view, const TextFile *> unread = by_name(files);
+  std::vector<std::string_view> missing;
   for (const Section &section : kSections) {
     const auto file = unread.extract(section.file);
     if (file.empty()) {
-      if (!section.required) continue;
-      reading.diagnostics.report({folder / section.file, 1}, "file", "a catalogue needs this file");
-      complete = false;
+      missing.push_back(section.file);
       continue;
     }
     const auto parsed = parse_toml(file.mapped()->path, file.mapped()->text, reading.diagnostics);
@@ -51,20 +55,27 @@ bool read_sections(const std::vector<TextFile> &files, const std::filesystem::pa
     section.read(root);
   }
   for (const auto &[name, file] : unread) {
-    reading.diagnostics.report({file->path, 1}, "file", "a catalogue has no file of this name");
+    const std::string near = common::nearest(name, missing);
+    reading.diagnostics.report({file->path, 1}, "file", "a catalogue has no file of this name{}",
+                               did_you_mean(name, missing));
+    std::erase(missing, near);
   }
-  return complete;
+  for (const Section &section : kSections) {
+    if (section.needed == nullptr || !std::ranges::count(missing, section.file)) continue;
+    reading.diagnostics.report({folder / section.file, 1}, "file",
+                               "a catalogue needs this file: {}", section.needed);
+    complete = false;
+  }
+  return complete && unread.empty();
 }
 
+// Rules between rows are looked at when each row is right by itself.
 void load(const std::vector<TextFile> &files, const std::filesystem::path &folder,
           LoadResult &result) {
   Program program;
-  Reading reading{program, result.diagnostics, {}, {}};
-  // Without tables or actions, whatever refers to them would be reported too.
-  const bool complete = read_sections(files, folder, reading);
-  if (!complete || program.tables.empty() || program.actions.empty()) return;
-  for (const auto &resolve : reading.references) resolve();
-  check_program(program, result.diagnostics);
+  Reading reading{program, result.diagnostics, {}, {}, {}};
+  if (read_sections(files, folder, reading)) resolve_references(reading);
+  if (result.diagnostics.empty()) check_program(program, result.diagnostics);
   if (!result.diagnostics.empty()) return;
   for (auto &[handle, owner] : reading.handles) program.handles.push_back(std::move(owner));
   derive_facts(program);

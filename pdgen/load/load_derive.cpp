@@ -40,11 +40,13 @@ void place_params(Action &action) {
 }
 
 void place_key(Table &table) {
-  for (const std::size_t index : table.key_order) {
-    KeyField &field = table.key[index];
-    field.offset = table.key_bytes;
-    table.key_bytes += field.bytes;
-    table.key_bits += field.width;
+  if (table.key_order.empty()) {
+    for (const KeyField &field : table.key) table.key_order.push_back({field.name, {}, &field});
+  }
+  for (const Ref<KeyField> &ref : table.key_order) {
+    table.key[static_cast<std::size_t>(ref.target - table.key.data())].offset = table.key_bytes;
+    table.key_bytes += ref->bytes;
+    table.key_bits += ref->width;
   }
 }
 

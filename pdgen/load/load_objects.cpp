@@ -18,10 +18,9 @@ void read_param(RowReader &row, Param &param) {
   row.number("width", param.width, 1, 32);
   read_sizes(row, param.width, param.storage_bytes, param.bytes);
   row.choice("hint", param.hint, kOptional, 1, 3);
-  const auto find = [&program = row.program()](std::string_view name) {
-    return find_indexed(program, name);
-  };
-  row.references<Resource>("index_of", param.index_of, "counter or meter", find, kOptional);
+  const Program &program = row.program();
+  row.references("index_of", param.index_of, "counter or meter",
+                 row.rows_of(program.counters, program.meters), kOptional);
   if (param.is_index() && param.width != 32) {
     row.report("width", "parameter {} names a cell, so it has 32 bits, not {}", param.name,
                param.width);
@@ -30,24 +29,8 @@ void read_param(RowReader &row, Param &param) {
 
 void read_action(RowReader &row, Action &action) {
   row.name(action);
+  row.number("value", action.value);
   row.rows("params", "parameter", "name", action.params, read_param, kOptional);
-  action.value = kAnyNumber;
-  row.number("value", action.value, 0, kAnyNumber - 1);
-}
-
-// The values of an enumeration run from 0 without a gap. A value that could not be read comes last
-// and hides what follows it.
-void check_values(const RowReader &file, const std::vector<Action> &by_value) {
-  for (std::size_t i = 0; i < by_value.size() && by_value[i].value != kAnyNumber; ++i) {
-    const Action &action = by_value[i];
-    const std::uint32_t next = i == 0 ? 0 : by_value[i - 1].value + 1;
-    if (action.value == next) continue;
-    const bool twice = i > 0 && action.value + 1 == next;
-    file.report_at(action.place, "actions.value", "action {} has the value {}, {}", action.name,
-                   action.value,
-                   twice ? "which is that of action " + by_value[i - 1].name
-                         : fmt::format("but the next free one is {}", next));
-  }
 }
 
 // --- Profiles -------------------------------------------------------------------------------
@@ -72,7 +55,7 @@ void read_profile(RowReader &row, Profile &profile) {
 void read_resource(RowReader &row, Resource &resource, HandleKind kind) {
   row.name(resource);
   row.handle("handle", resource.handle, kind);
-  row.reference("table", resource.table, "table", row.program().tables, kOptional);
+  row.reference("table", resource.table, "table", row.rows_of(row.program().tables), kOptional);
 }
 
 void read_counter(RowReader &row, Resource &counter) {
@@ -148,18 +131,45 @@ void read_value_set(RowReader &row, ValueSet &set) {
 
 void read_routes(RowReader &row, Routes &routes) {
   const Program &program = row.program();
-  row.reference("action", routes.action, "action", program.actions);
-  row.references("tables", routes.tables, "table", row.find_in(program.tables));
+  row.reference("action", routes.action, "action", row.rows_of(program.actions));
+  row.references("tables", routes.tables, "table", row.rows_of(program.tables));
   routes.place = routes.action.place;
 }
 
 // --- Field hints ----------------------------------------------------------------------------
 
+bool begins(std::string_view field, std::string_view name) { return field.starts_with(name); }
+bool ends(std::string_view field, std::string_view name) { return field.ends_with(name); }
+
+RowReader::Candidates key_fields(const Program &program) {
+  return [&program] {
+    std::vector<Candidate> fields;
+    for (const Table &table : program.tables) add_rows(fields, table.key);
+    return fields;
+  };
+}
+
+// What may hold an address though no schema says so.
+RowReader::Candidates bare_fields(const Program &program) {
+  return [&program] {
+    std::vector<Candidate> fields;
+    for (const Action &action : program.actions) add_rows(fields, action.params);
+    for (const Digest &digest : program.digests) add_rows(fields, digest.fields);
+    if (program.snapshots) {
+      for (const SnapshotLayout &layout : program.snapshots->layouts)
+        add_rows(fields, layout.fields);
+      add_rows(fields, program.snapshots->capture);
+    }
+    return fields;
+  };
+}
+
 void read_hint(RowReader &row, FieldHint &hint) {
+  const RowReader::Candidates fields = key_fields(row.program());
   hint.place = row.place("hint");
   row.choice("hint", hint.hint, kRequired, 1);
-  row.words("fields", hint.fields);
-  row.words("suffixes", hint.suffixes);
+  row.names("fields", hint.fields, "key field of any table", fields);
+  row.names("suffixes", hint.suffixes, "ending of a key field of any table", fields, ends);
   row.number("width", hint.width, 1, 128, kOptional);
   if (!row.has("fields") && !row.has("suffixes") && !row.has("width")) {
     row.report("hint", "{} needs fields, suffixes or a width to go with", row.what());
@@ -172,14 +182,14 @@ constexpr unsigned kMostDigits = 8;
 constexpr unsigned kMostBlanks = 80;
 
 void read_number_texts(RowReader &row, LabelItem &item) {
-  row.number("texts_mask", item.texts_mask, 1, kAnyNumber, kOptional);
+  row.number("texts_mask", item.texts_mask, 1, kAnyNumber, kOptional, kBits);
   if (row.has("texts_mask") && !row.has("texts")) {
     row.report("texts_mask", "{} has a texts_mask but no texts", row.what());
   }
   const auto read_text = [&](RowReader &reader, LabelText &text) {
     text.place = reader.place("value");
     reader.text("text", text.text);
-    if (!reader.number("value", text.value)) return;
+    if (!reader.number("value", text.value, 0, kAnyNumber, kRequired, kBits)) return;
     if (std::ranges::count(item.texts, text.value, &LabelText::value) == 1) return;
     reader.report("value", "{} has two texts for {}", row.what(), hex(text.value));
   };
@@ -189,13 +199,10 @@ void read_number_texts(RowReader &row, LabelItem &item) {
 void read_item(RowReader &row, const Ref<Table> &table, LabelItem &item) {
   item.place = row.place("kind");
   if (!row.choice("kind", item.kind)) return row.ignore_other_keys();
-  // That the label has no table has been reported.
-  static const KeyField kReported;
-  const auto find = [&](std::string_view name) {
-    return table ? find_row(table->key, name) : &kReported;
-  };
   const auto read_field = [&](const char *key, Ref<KeyField> &field) {
-    row.reference<KeyField>(key, field, "key field of the table", find);
+    row.reference(key, field, "key field of the table", [&table] {
+      return table ? RowReader::rows_of(table->key)() : std::vector<Candidate>{};
+    });
   };
   const bool is_number = item.kind == LabelKind::kNumber || item.kind == LabelKind::kExact;
   if (item.kind == LabelKind::kMac) {
@@ -205,7 +212,7 @@ void read_item(RowReader &row, const Ref<Table> &table, LabelItem &item) {
     read_field("field", item.field);
   }
   if (item.kind == LabelKind::kFlag) {
-    row.number("bit", item.bit, 1, kAnyNumber, kOptional);
+    row.number("bit", item.bit, 1, kAnyNumber, kOptional, kBits);
     row.number("after", item.after, 1, kMostBlanks, kOptional);
   }
   if (item.kind == LabelKind::kNumber) read_number_texts(row, item);
@@ -258,11 +265,6 @@ void read_layout(RowReader &row, unsigned record_bytes, SnapshotLayout &layout) 
 
 }  // namespace
 
-const Resource *find_indexed(const Program &program, std::string_view name) {
-  const Resource *counter = find_row(program.counters, name);
-  return counter != nullptr ? counter : find_row(program.meters, name);
-}
-
 void read_program(RowReader &file) {
   Program &program = file.program();
   file.identifier("name", program.name);
@@ -274,7 +276,6 @@ void read_actions(RowReader &file) {
   std::vector<Action> &actions = file.program().actions;
   file.rows("actions", "action", "name", actions, read_action);
   std::ranges::stable_sort(actions, {}, &Action::value);
-  check_values(file, actions);
 }
 
 void read_profiles(RowReader &file) {
@@ -305,8 +306,10 @@ void read_value_sets(RowReader &file) {
 
 void read_fields(RowReader &file) {
   FieldFacts &facts = file.program().field_facts;
-  file.words("instance_prefixes", facts.instance_prefixes);
-  file.words("v4_addresses", facts.v4_addresses);
+  file.names("instance_prefixes", facts.instance_prefixes, "beginning of a key field of any table",
+             key_fields(file.program()), begins);
+  file.names("v4_addresses", facts.v4_addresses, "parameter or field of a digest or snapshot",
+             bare_fields(file.program()));
   file.rows("hints", "hint", "hint", facts.hints, read_hint, kOptional);
 }
 

@@ -1,6 +1,7 @@
 #include "pdgen/load/load_row.hpp"
 
 #include <algorithm>
+#include <ranges>
 #include <utility>
 
 #include "pdgen/text.hpp"
@@ -68,11 +69,33 @@ RowReader::RowReader(const TomlValue &row, Naming naming, NameScope &siblings, R
 
 RowReader::~RowReader() {
   const auto *members = std::get_if<TomlValue::Table>(&row_.data);
-  if (members == nullptr || ignores_others_) return;
-  for (const TomlMember &member : *members) {
+  bool has_slip = false;
+  for (std::size_t i = 0; members != nullptr && !ignores_others_ && i < members->size(); ++i) {
+    const TomlMember &member = (*members)[i];
     if (std::ranges::find(known_keys_, member.key) != known_keys_.end()) continue;
-    report_at(member.key_place, member.key, "{} has no such key", what_);
+    has_slip = report_unknown(member) || has_slip;
+    reading_.incomplete.insert(missing_kinds_.begin(), missing_kinds_.end());
   }
+  for (const std::string &key : missing_) report_at(row_.place, key, "{} lacks this key", what_);
+  if (has_slip) return;
+  for (Fault &fault : consequences_) reading_.diagnostics.report(std::move(fault));
+}
+
+// Whether it is another key, misspelt, which then is not missing.
+bool RowReader::report_unknown(const TomlMember &member) {
+  common::Nearest near(member.key);
+  for (const std::string &key : known_keys_) {
+    if (!has(key)) near.consider(key);
+  }
+  const auto shown = [&](const std::string &key) {
+    return member.value.has_headers ? fmt::format("[[{}]]", key) : key;
+  };
+  const std::string remedy = near.name().empty()
+                                 ? fmt::format("it may have {}", fmt::join(known_keys_, ", "))
+                                 : fmt::format("did you mean {}?", shown(near.name()));
+  report_at(member.key_place, member.key, "{} has no {}; {}", what_, shown(member.key), remedy);
+  std::erase(missing_, near.name());
+  return !near.name().empty();
 }
 
 RowReader::Naming RowReader::naming_of(std::string_view key, std::string kind,
@@ -92,9 +115,11 @@ std::string RowReader::path(std::string_view key) const {
 }
 
 void RowReader::add_to_siblings(const std::string &name, const Place &place) {
-  if (name.empty()) return;  // it could not be read
   const auto [first, added] = siblings_.try_emplace(name, place);
-  if (added) return;
+  if (added && !name.empty()) return;
+  reading_.incomplete.insert(naming_.kind);
+  if (name.empty()) return;  // it could not be read
+  is_doubled_ = true;
   report(naming_.name_key, "the name {} is taken at {}", name, place_text(first->second));
 }
 
@@ -102,7 +127,7 @@ const TomlValue *RowReader::value(std::string_view key, Need need) {
   known_keys_.emplace_back(key);
   const TomlMember *member = row_.find(key);
   if (member != nullptr) return &member->value;
-  if (need == kRequired) report(key, "{} lacks this key", what_);
+  if (need == kRequired) missing_.emplace_back(key);
   return nullptr;
 }
 
@@ -113,55 +138,60 @@ const T *RowReader::typed(std::string_view key, const TomlValue *value, std::str
   if (data != nullptr) return data;
   report_at(value->place, key, "{} has {} here, which must be {}", what_, value->kind_text(),
             wanted);
+  spoilt_.emplace(key);
   return nullptr;
 }
 
-bool RowReader::identifier(std::string_view key, std::string &name, Need need) {
+bool RowReader::string(std::string_view key, std::string &string, Need need) {
   const auto *text = typed<std::string>(key, value(key, need), "a string");
-  if (text == nullptr) return false;
-  if (is_identifier(*text) && !is_taken_word(*text)) {
-    name = *text;
+  if (text != nullptr) string = *text;
+  return text != nullptr;
+}
+
+bool RowReader::identifier(std::string_view key, std::string &name, Need need) {
+  std::string text;
+  if (!string(key, text, need)) return false;
+  if (is_identifier(text) && !is_taken_word(text)) {
+    name = text;
     return true;
   }
   report(key,
          "\"{}\" is no identifier: a letter or '_', then letters, digits and '_'; no word or macro "
          "of C or C++",
-         *text);
+         text);
   return false;
 }
 
 void RowReader::text(std::string_view key, std::string &text) {
-  const auto *given = typed<std::string>(key, value(key, kRequired), "a string");
-  if (given == nullptr) return;
-  text = *given;
+  if (!string(key, text, kRequired)) return;
   const auto is_printable = [](char c) { return c >= ' ' && c <= '~'; };
   if (!text.empty() && std::ranges::all_of(text, is_printable)) return;
   report(key, "the text of {} must be printable ASCII and not empty", what_);
 }
 
 bool RowReader::number(std::string_view key, unsigned &number, unsigned least, unsigned most,
-                       Need need) {
+                       Need need, std::string_view notation) {
   const auto *given = typed<std::int64_t>(key, value(key, need), "a whole number");
   if (given == nullptr) return false;
   const bool fits = *given >= std::int64_t{least} && *given <= std::int64_t{most};
+  const auto shown = [=](std::int64_t value) { return fmt::format(fmt::runtime(notation), value); };
   if (fits) number = static_cast<unsigned>(*given);
-  if (!fits) report(key, "{} of {} must be from {} to {}", *given, what_, least, most);
+  if (!fits) {
+    report(key, "{} of {} must be from {} to {}", shown(*given), what_, shown(least), shown(most));
+  }
   return fits;
 }
 
 void RowReader::handle(std::string_view key, std::uint32_t &handle, HandleKind kind,
                        std::string object) {
-  if (!number(key, handle)) return;
-  const auto top_byte = static_cast<std::uint32_t>(kind);
-  if (kind != HandleKind::kAny && handle >> 24 != top_byte) {
-    return report(key, "{} of {} must lie in 0x{:02x}000000 to 0x{:02x}ffffff", hex(handle), what_,
-                  top_byte, top_byte);
-  }
+  const auto least = static_cast<std::uint32_t>(kind) << 24;
+  const std::uint32_t most = kind == HandleKind::kAny ? kAnyNumber : least | 0xffffff;
+  if (!number(key, handle, least, most, kRequired, kHandle)) return;
   if (object.empty()) object = what_;
   const auto [holder, added] =
       reading_.handles.try_emplace(handle, Handle{handle, object, place(key)});
-  if (added) return;
-  report(key, "{} of {} is the handle of {} at {}", hex(handle), object, holder->second.object,
+  if (added || is_doubled_) return;
+  report(key, "{} of {} is the handle of {} at {}", hex32(handle), object, holder->second.object,
          place_text(holder->second.place));
 }
 
@@ -172,11 +202,11 @@ void RowReader::flag(std::string_view key, bool &flag) {
 
 std::size_t RowReader::index_of_choice(std::string_view key,
                                        std::span<const std::string_view> choices, Need need) {
-  const auto *text = typed<std::string>(key, value(key, need), "a string");
-  if (text == nullptr) return choices.size();
-  const auto chosen = std::ranges::find(choices, *text);
+  std::string text;
+  if (!string(key, text, need)) return choices.size();
+  const auto chosen = std::ranges::find(choices, text);
   if (chosen == choices.end()) {
-    report(key, "\"{}\" of {} must be one of {}", *text, what_, fmt::join(choices, ", "));
+    report(key, "\"{}\" of {} must be one of {}", text, what_, fmt::join(choices, ", "));
   }
   return static_cast<std::size_t>(chosen - choices.begin());
 }
@@ -188,7 +218,8 @@ std::vector<const TomlValue *> RowReader::elements(std::string_view key, Need ne
   const auto *array =
       typed<TomlValue::Array>(key, value(key, need), fmt::format("an array of {}s", kind));
   if (array == nullptr) return found;
-  if (need == kRequired && array->empty()) report(key, "{} {} nothing here", what_, verb);
+  const bool may_be_empty = need == kOptional && std::is_same_v<T, TomlValue::Table>;
+  if (array->empty() && !may_be_empty) report(key, "{} {} nothing here", what_, verb);
   for (const TomlValue &element : *array) {
     if (typed<T>(key, &element, fmt::format("a {}", kind)) != nullptr) found.push_back(&element);
   }
@@ -198,22 +229,96 @@ std::vector<const TomlValue *> RowReader::elements(std::string_view key, Need ne
 std::vector<RowReader::Word> RowReader::words(std::string_view key, Need need) {
   std::vector<Word> words;
   for (const TomlValue *element : elements<std::string>(key, need, "names", "string")) {
-    const auto &text = std::get<std::string>(element->data);
-    if (is_identifier(text)) {
-      words.emplace_back(text, element->place);
+    const auto &word = std::get<std::string>(element->data);
+    if (std::ranges::find(words, word, &Word::first) != words.end()) {
+      report_at(element->place, key, "{} stands twice in {}", word, what_);
     } else {
-      report_at(element->place, key, "\"{}\" of {} is no identifier", text, what_);
+      words.emplace_back(word, element->place);
     }
   }
   return words;
 }
 
-void RowReader::words(std::string_view key, std::vector<std::string> &names) {
-  for (auto &[word, at] : words(key, kOptional)) names.push_back(std::move(word));
+void RowReader::names(std::string_view key, std::vector<std::string> &names,
+                      std::string_view wanted, const Candidates &rows, Fits fits) {
+  const std::vector<Word> given = words(key, kOptional);
+  for (const auto &[word, place] : given) names.push_back(word);
+  for (std::size_t i = 0; i < given.size(); ++i) {
+    reading_.references.push_back(
+        {{given[i].second, path(key), what_}, names[i], wanted, rows, [](const void *) {}, fits});
+  }
 }
 
-std::vector<const TomlValue *> RowReader::row_values(std::string_view key, Need need) {
-  return elements<TomlValue::Table>(key, need, "lists", "table");
+std::vector<const TomlValue *> RowReader::row_values(std::string_view key, const std::string &kind,
+                                                     Need need) {
+  std::vector<const TomlValue *> rows = elements<TomlValue::Table>(key, need, "lists", "table");
+  if (rows.empty()) missing_kinds_.push_back(kind);
+  if (spoilt_.contains(key) || (rows.empty() && need == kRequired))
+    reading_.incomplete.insert(kind);
+  return rows;
+}
+
+// --- References -----------------------------------------------------------------------------
+
+namespace {
+
+// A name that nothing has.
+struct Unknown {
+  const Reference *first = nullptr;
+  std::size_t count = 0;  // of the references to it
+  std::optional<Candidate> near;
+};
+
+Unknown unknown_of(const Reference &reference, const std::vector<Candidate> &rows) {
+  const std::string near =
+      common::nearest(reference.name, rows | std::views::transform(&Candidate::name));
+  const auto row = std::ranges::find(rows, near, &Candidate::name);
+  return {&reference, 0, near.empty() ? std::nullopt : std::optional(*row)};
+}
+
+// Several rows are right, and the row that they mean is misspelt, if nothing names that one.
+void report_unknown(const Unknown &unknown, const std::set<const void *> &named,
+                    Diagnostics &diagnostics) {
+  const auto &[first, count, near] = unknown;
+  const auto &[fault, name, wanted, candidates, found, fits] = *first;
+  const std::string others = count == 1 ? " names" : fmt::format(" and {} more name", count - 1);
+  const std::string text =
+      fmt::format("{}{} {}, which is no {}", fault.message, others, name, wanted);
+  if (count > 1 && near && !named.contains(near->row)) {
+    return diagnostics.report(near->place, "name", "nothing names {}, but {}: is it this one?",
+                              near->name, text);
+  }
+  diagnostics.report(fault.place, fault.key, "{}{}", text,
+                     near ? fmt::format("; did you mean {}?", near->name) : "");
+}
+
+}  // namespace
+
+void resolve_references(Reading &reading) {
+  std::map<std::string_view, Unknown> unknown;
+  std::set<const void *> named;
+  for (const Reference &reference : reading.references) {
+    const std::vector<Candidate> rows = reference.candidates();
+    const auto row = std::ranges::find_if(rows, [&](const Candidate &candidate) {
+      return reference.fits(candidate.name, reference.name);
+    });
+    if (row != rows.end()) {
+      reference.found(row->row);
+      named.insert(row->row);
+      continue;
+    }
+    const bool may_be_unread =
+        std::ranges::any_of(reading.incomplete, [&](const std::string &kind) {
+          return reference.wanted.find(kind) != std::string_view::npos;
+        });
+    // Nor is anything known of what an unknown row has.
+    reading.incomplete.insert(fmt::format("of the {}", reference.wanted));
+    if (may_be_unread) continue;
+    const auto [slip, added] = unknown.try_emplace(reference.name);
+    if (added) slip->second = unknown_of(reference, rows);
+    ++slip->second.count;
+  }
+  for (const auto &[name, slip] : unknown) report_unknown(slip, named, reading.diagnostics);
 }
 
 }  // namespace pdgen

@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -37,19 +38,53 @@ enum class HandleKind : std::uint32_t {
   kAlgorithm = 0x23,
 };
 
+// A row that a reference may name.
+struct Candidate {
+  std::string_view name;
+  Place place;
+  const void *row;
+};
+
+template <typename Row>
+void add_rows(std::vector<Candidate> &candidates, const std::vector<Row> &rows) {
+  for (const Row &row : rows) candidates.push_back({row.name, row.place, &row});
+}
+
+// Whether a reference of that name leads to a row of that one.
+using Fits = bool (*)(std::string_view row, std::string_view name);
+
+// A reference to a row of another list, which is looked up once all rows have been read.
+struct Reference {
+  Fault fault;              // where it stands; its message says which row has it
+  std::string_view name;    // of the row that it leads to
+  std::string_view wanted;  // what that one must be
+  std::function<std::vector<Candidate>()> candidates;
+  std::function<void(const void *row)> found;
+  Fits fits = [](std::string_view row, std::string_view other) { return row == other; };
+};
+
 // What all rows of a catalogue share.
 struct Reading {
   Program &program;
   Diagnostics &diagnostics;
   std::map<std::uint32_t, Handle> handles;  // no two objects share one
-  // Set the targets of references, once all rows have been read.
-  std::vector<std::function<void()>> references;
+  std::vector<Reference> references;
+  // Kinds of rows that could not all be read: what is missing among them has been reported.
+  std::set<std::string> incomplete;
 };
+
+// Sets the targets of references. A name that nothing has is one fault, however many rows have it.
+void resolve_references(Reading &reading);
 
 // Whether the row must have a key.
 enum Need { kRequired, kOptional };
 
 constexpr std::uint32_t kAnyNumber = 0xffffffff;
+
+// How messages write a number: as catalogues do.
+constexpr std::string_view kDecimal = "{}";
+constexpr std::string_view kBits = "{:#x}";
+constexpr std::string_view kHandle = "{:#010x}";
 
 std::string hex(std::uint32_t value);
 
@@ -70,7 +105,7 @@ class RowReader {
   RowReader(const TomlValue &row, Naming naming, NameScope &siblings, Reading &reading);
   RowReader(const RowReader &) = delete;
   RowReader &operator=(const RowReader &) = delete;
-  // Reports each key that no accessor has asked for.
+  // Reports each key that no accessor has asked for, and those that the row lacks.
   ~RowReader();
 
   const std::string &what() const { return what_; }
@@ -79,9 +114,14 @@ class RowReader {
   bool has(std::string_view key) const { return row_.find(key) != nullptr; }
   // Of the value, or of the row if it lacks the key.
   const Place &place(std::string_view key) const;
+  // Says no more of a value whose type is wrong, nor of a key that the row lacks because it has
+  // another name there.
   template <typename... Args>
-  void report(std::string_view key, fmt::format_string<Args...> message, Args &&...args) const {
-    report_at(place(key), key, message, std::forward<Args>(args)...);
+  void report(std::string_view key, fmt::format_string<Args...> message, Args &&...args) {
+    Fault fault = {place(key), path(key), fmt::format(message, std::forward<Args>(args)...)};
+    if (spoilt_.contains(key)) return;
+    if (!has(key)) return consequences_.push_back(std::move(fault));
+    reading_.diagnostics.report(std::move(fault));
   }
   // At a place other than that of the key.
   template <typename... Args>
@@ -94,16 +134,15 @@ class RowReader {
   bool identifier(std::string_view key, std::string &value, Need need = kRequired);
   void text(std::string_view key, std::string &value);  // printable ASCII, not empty
   bool number(std::string_view key, unsigned &value, unsigned least = 0, unsigned most = kAnyNumber,
-              Need need = kRequired);
+              Need need = kRequired, std::string_view notation = kDecimal);
   // `object`: whose handle it is, if not the row's own.
   void handle(std::string_view key, std::uint32_t &value, HandleKind kind, std::string object = "");
   void flag(std::string_view key, bool &value);
   // A value without any rule, null if the row lacks the key.
   const TomlValue *value(std::string_view key, Need need);
-  // The words of an array with their places.
+  // The words of an array with their places, each of them once.
   using Word = std::pair<std::string, Place>;
   std::vector<Word> words(std::string_view key, Need need);
-  void words(std::string_view key, std::vector<std::string> &values);
   // One of the names of T, of so many from the first on.
   template <typename T>
   bool choice(std::string_view key, T &value, Need need = kRequired, std::size_t first = 0,
@@ -124,34 +163,36 @@ class RowReader {
   // The same where it is the name of a row of another list.
   template <typename Row, typename T>
   void name(Row &row, Ref<T> &ref, std::string_view wanted, const std::vector<T> &list) {
-    reference(naming_.name_key, ref, wanted, list);
+    reference(naming_.name_key, ref, wanted, rows_of(list));
     row.place = ref.place;
     add_to_siblings(ref.name, ref.place);
   }
 
-  // A row of another list, looked up once all are read; `wanted` is what it must be.
+  // A row of other lists; `wanted` is what it must be.
+  using Candidates = std::function<std::vector<Candidate>()>;
   template <typename T>
-  using Find = std::function<const T *(std::string_view name)>;
-  template <typename T>
-  void reference(std::string_view key, Ref<T> &ref, std::string_view wanted, Find<T> find,
+  void reference(std::string_view key, Ref<T> &ref, std::string_view wanted, Candidates rows,
                  Need need = kRequired) {
     ref.place = place(key);
-    if (identifier(key, ref.name, need)) resolve(key, ref, wanted, find);
-  }
-  template <typename T>
-  void reference(std::string_view key, Ref<T> &ref, std::string_view wanted,
-                 const std::vector<T> &list, Need need = kRequired) {
-    reference(key, ref, wanted, find_in(list), need);
+    if (string(key, ref.name, need)) refer(key, ref, wanted, std::move(rows));
   }
   template <typename T>
   void references(std::string_view key, std::vector<Ref<T>> &refs, std::string_view wanted,
-                  Find<T> find, Need need = kRequired) {
+                  const Candidates &rows, Need need = kRequired) {
     for (auto &[word, at] : words(key, need)) refs.push_back({std::move(word), at, nullptr});
-    for (Ref<T> &ref : refs) resolve(key, ref, wanted, find);
+    for (Ref<T> &ref : refs) refer(key, ref, wanted, rows);
   }
-  template <typename T>
-  static Find<T> find_in(const std::vector<T> &list) {
-    return [&list](std::string_view name) { return find_row(list, name); };
+  // Words that go with rows of other lists.
+  void names(std::string_view key, std::vector<std::string> &names, std::string_view wanted,
+             const Candidates &rows, Fits fits = Reference().fits);
+  // The rows of lists of the program.
+  template <typename... Lists>
+  static Candidates rows_of(const Lists &...lists) {
+    return [&lists...] {
+      std::vector<Candidate> rows;
+      (add_rows(rows, lists), ...);
+      return rows;
+    };
   }
 
   // The one row under a key that may be missing.
@@ -165,10 +206,11 @@ class RowReader {
 
   // The rows of an array of tables, read one by one. Rows stay where they are from then on.
   template <typename Row, typename Read>
-  void rows(std::string_view key, std::string kind, std::string name_key, std::vector<Row> &rows,
-            Read read, Need need = kRequired, NameScope *siblings = nullptr) {
+  void rows(std::string_view key, const std::string &kind, const std::string &name_key,
+            std::vector<Row> &rows, Read read, Need need = kRequired,
+            NameScope *siblings = nullptr) {
     NameScope names;
-    const std::vector<const TomlValue *> values = row_values(key, need);
+    const std::vector<const TomlValue *> values = row_values(key, kind, need);
     rows.reserve(values.size());
     for (const TomlValue *row : values) {
       RowReader reader(*row, naming_of(key, kind, name_key), siblings ? *siblings : names,
@@ -182,31 +224,31 @@ class RowReader {
 
  private:
   template <typename T>
-  void resolve(std::string_view key, Ref<T> &ref, std::string_view wanted, Find<T> find) {
+  void refer(std::string_view key, Ref<T> &ref, std::string_view wanted, Candidates rows) {
     const bool is_name = key == naming_.name_key;
-    const std::string owner = !is_name                ? what_
-                              : naming_.owner.empty() ? "a " + naming_.kind
-                                                      : naming_.owner;
+    const std::string &owner = is_name ? naming_.owner : what_;
     reading_.references.push_back(
-        [&ref, &reading = reading_, key = path(key), owner, wanted, find] {
-          ref.target = find(ref.name);
-          if (ref.target != nullptr) return;
-          reading.diagnostics.report(ref.place, key, "{} names {}, which is no {}", owner, ref.name,
-                                     wanted);
-        });
+        {{ref.place, path(key), owner.empty() ? "a " + naming_.kind : owner},
+         ref.name,
+         wanted,
+         std::move(rows),
+         [&ref](const void *row) { ref.target = static_cast<const T *>(row); }});
   }
 
   Naming naming_of(std::string_view key, std::string kind, std::string name_key) const;
   std::string path(std::string_view key) const;
   template <typename T>
   const T *typed(std::string_view key, const TomlValue *value, std::string_view wanted);
+  bool string(std::string_view key, std::string &value, Need need);
   template <typename T>
   std::vector<const TomlValue *> elements(std::string_view key, Need need, std::string_view verb,
                                           std::string_view kind);
   std::size_t index_of_choice(std::string_view key, std::span<const std::string_view> choices,
                               Need need);
-  std::vector<const TomlValue *> row_values(std::string_view key, Need need);
+  std::vector<const TomlValue *> row_values(std::string_view key, const std::string &kind,
+                                            Need need);
   void add_to_siblings(const std::string &name, const Place &place);
+  bool report_unknown(const TomlMember &member);
 
   const TomlValue &row_;
   Naming naming_;
@@ -214,6 +256,11 @@ class RowReader {
   NameScope &siblings_;
   Reading &reading_;
   std::vector<std::string> known_keys_;
+  std::vector<std::string> missing_;           // keys that the row must have
+  std::vector<Fault> consequences_;            // of keys that it lacks
+  std::vector<std::string> missing_kinds_;     // of rows under keys that it lacks
+  std::set<std::string, std::less<>> spoilt_;  // keys whose values have a wrong type
+  bool is_doubled_ = false;                    // its name is that of a sibling
   bool ignores_others_ = false;
 };
 

@@ -25,9 +25,6 @@ void read_snapshots(RowReader &file);
 // key "storage", and of its slot in key or action data. A width of 0 is one that could not be read.
 void read_sizes(RowReader &row, unsigned width, unsigned &storage_bytes, unsigned &bytes);
 
-// A counter or meter: registers are never indexed by a value of an entry.
-const Resource *find_indexed(const Program &program, std::string_view name);
-
 // The records of the program as tools see them: members by their places, and the fields that people
 // name, with their names, notations and the MAC addresses that two of them are halves of.
 std::vector<ToolRecords> tool_records(const Program &program);

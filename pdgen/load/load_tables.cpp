@@ -43,7 +43,8 @@ void read_key_bits(RowReader &row, KeyField &field) {
   field.key_bits = all;
   if (field.width == kWide) {
     read_wide_key_bits(row, field);
-  } else if (std::uint32_t given = 0; row.number("key_bits", given, 0, kAnyNumber, kOptional)) {
+  } else if (std::uint32_t given = 0;
+             row.number("key_bits", given, 0, kAnyNumber, kOptional, kBits)) {
     field.key_bits.lower = given;
     if (field.width != 0 && (given == 0 || (given & ~all.lower) != 0)) {
       row.report("key_bits", "{} of {} must be some of the {} bits {:#x}", hex(given), row.what(),
@@ -77,7 +78,7 @@ TableKind kind_of(const std::vector<KeyField> &key) {
   return kind;
 }
 
-void check_match_kinds(const RowReader &row, const Table &table) {
+void check_match_kinds(RowReader &row, const Table &table) {
   const KeyField *lpm = nullptr;
   for (const KeyField &field : table.key) {
     if (field.match != Match::kLpm) continue;
@@ -92,31 +93,6 @@ void check_match_kinds(const RowReader &row, const Table &table) {
       report(fmt::format("so its width is a multiple of 8, not {}", field.width));
     }
     lpm = &field;
-  }
-}
-
-// Fills table.key_order, the identity unless given.
-void read_key_order(RowReader &row, Table &table) {
-  const bool given = row.has("key_order");
-  std::vector<bool> used(table.key.size(), !given);
-  for (std::size_t i = 0; i < table.key.size() && !given; ++i) table.key_order.push_back(i);
-  for (const auto &[name, place] : row.words("key_order", kOptional)) {
-    const KeyField *field = find_row(table.key, name);
-    if (field == nullptr) {
-      row.report_at(place, "key_order", "{} is no key field of {}", name, row.what());
-      continue;
-    }
-    const auto index = static_cast<std::size_t>(field - table.key.data());
-    if (used[index]) {
-      row.report_at(place, "key_order", "{} stands twice in the key order of {}", name, row.what());
-    }
-    used[index] = true;
-    table.key_order.push_back(index);
-  }
-  for (std::size_t i = 0; i < used.size(); ++i) {
-    if (used[i]) continue;
-    row.report("key_order", "{} is missing from the key order of {}", table.key[i].name,
-               row.what());
   }
 }
 
@@ -143,27 +119,19 @@ void read_operations(RowReader &row, bool keyed, ResourceRow &resource) {
   }
 }
 
-// The action of that name if the table offers it. One that the program lacks is the pair's fault.
-const Action *find_offered(const Program &program, const Table &table, std::string_view name) {
-  static const Action kReported;
-  const auto has_name = [&](const Pair &pair) { return pair.action.name == name; };
-  if (std::ranges::none_of(table.pairs, has_name)) return nullptr;
-  const Action *action = find_row(program.actions, name);
-  return action == nullptr ? &kReported : action;
-}
-
 void read_resource(RowReader &row, const Table &table, ResourceRow &resource) {
   const Program &program = row.program();
-  row.reference<Resource>("resource", resource.resource, "counter, meter or register",
-                          [&program](std::string_view name) {
-                            const Resource *found = find_indexed(program, name);
-                            return found ? found : find_row(program.registers, name);
-                          });
+  row.reference("resource", resource.resource, "counter, meter or register",
+                row.rows_of(program.counters, program.meters, program.registers));
   resource.place = resource.resource.place;
-  row.references<Action>(
-      "actions", resource.actions, "action of the table",
-      [&program, &table](std::string_view name) { return find_offered(program, table, name); },
-      kOptional);
+  const auto offered = [&table] {
+    std::vector<Candidate> actions;
+    for (const Pair &pair : table.pairs) {
+      if (pair.action) actions.push_back({pair.action.name, pair.place, pair.action.target});
+    }
+    return actions;
+  };
+  row.references("actions", resource.actions, "action of the table", offered, kOptional);
   row.identifier("index", resource.index, kOptional);
   resource.index_place = row.place("index");
   row.choice("tag", resource.tag, kOptional);
@@ -173,7 +141,7 @@ void read_resource(RowReader &row, const Table &table, ResourceRow &resource) {
   read_operations(row, table.keyed(), resource);
 }
 
-void check_actions(const RowReader &row, const Table &table) {
+void check_actions(RowReader &row, const Table &table) {
   const bool has_profile = row.has("profile");
   if (has_profile && !table.pairs.empty()) {
     row.report("profile", "{} has both a profile and {} actions", row.what(), table.pairs.size());
@@ -186,7 +154,7 @@ void check_actions(const RowReader &row, const Table &table) {
   }
 }
 
-void check_keyless(const RowReader &row, const Table &table) {
+void check_keyless(RowReader &row, const Table &table) {
   if (table.keyed()) return;
   if (table.idle_time) {
     row.report("idle_time", "{} has no key, so no entries that could age", row.what());
@@ -210,9 +178,11 @@ void read_table(RowReader &row, Table &table) {
   row.rows("key", "field", "field", table.key, read_key_field, kOptional);
   table.kind = kind_of(table.key);
   check_match_kinds(row, table);
-  read_key_order(row, table);
+  row.references("key_order", table.key_order, "key field of the table", row.rows_of(table.key),
+                 kOptional);
   row.flag("idle_time", table.idle_time);
-  row.reference("profile", table.profile, "profile", row.program().profiles, kOptional);
+  row.reference("profile", table.profile, "profile", row.rows_of(row.program().profiles),
+                kOptional);
   row.rows("actions", "action", "action", table.pairs, read_pair, kOptional);
   for (Pair &pair : table.pairs) pair.in_entries = table.keyed();
   row.rows(

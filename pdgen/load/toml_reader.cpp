@@ -3,6 +3,8 @@
 #define TOML_EXCEPTIONS 0
 #include <toml++/toml.h>
 
+#include <cctype>
+#include <sstream>
 #include <utility>
 
 namespace pdgen {
@@ -26,6 +28,8 @@ TomlValue convert(const std::string &path, const toml::node &node) {
   } else if (const auto *array = node.as_array()) {
     TomlValue::Array elements;
     for (const toml::node &element : *array) elements.push_back(convert(path, element));
+    const auto *first = array->empty() ? nullptr : array->front().as_table();
+    value.has_headers = first != nullptr && !first->is_inline();
     value.data = std::move(elements);
   } else if (const auto *text = node.as_string()) {
     value.data = text->get();
@@ -35,6 +39,28 @@ TomlValue convert(const std::string &path, const toml::node &node) {
     value.data = boolean->get();
   }
   return value;
+}
+
+// What has no end, if a new key or header begins in the line of an error: brackets that are open.
+std::string open_value(std::string_view text, std::size_t error_line) {
+  std::istringstream lines{std::string(text)};
+  std::size_t begin = 0;
+  int open = 0;
+  std::string line;
+  for (std::size_t number = 1; std::getline(lines, line) && number < error_line; ++number) {
+    if (std::isalpha(static_cast<unsigned char>(line[0])) != 0) {
+      begin = number;
+      open = 0;
+    }
+    bool is_quoted = false;
+    for (const char c : line.substr(0, line.find('#'))) {
+      if (c == '"') is_quoted = !is_quoted;
+      if (!is_quoted && (c == '[' || c == '{')) ++open;
+      if (!is_quoted && (c == ']' || c == '}')) --open;
+    }
+  }
+  if (open <= 0 || line.starts_with(' ')) return "";
+  return fmt::format("; the value that begins in line {} has no end", begin);
 }
 
 }  // namespace
@@ -66,8 +92,9 @@ std::optional<TomlValue> parse_toml(const std::string &path, std::string_view te
     root.place.line = 1;
     return root;
   }
-  diagnostics.report(place_of(path, result.error().source()), "syntax", "{}",
-                     result.error().description());
+  const Place place = place_of(path, result.error().source());
+  diagnostics.report(place, "syntax", "{}{}", result.error().description(),
+                     open_value(text, place.line));
   return std::nullopt;
 }
 

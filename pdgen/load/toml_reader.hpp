@@ -25,6 +25,7 @@ struct TomlValue {
 
   Place place;
   std::variant<TomlOther, bool, std::int64_t, std::string, Array, Table> data;
+  bool has_headers = false;  // an array that [[KEY]] makes
 
   // The member of that key, null if there is none or this is no table.
   const TomlMember *find(std::string_view key) const;

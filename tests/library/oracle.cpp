@@ -105,8 +105,8 @@ MatchSpec key_image(const pdgen::Table &table, const uint8_t *record, uint32_t p
   Bits value;
   Bits mask;
   if (table.kind == pdgen::TableKind::kTernary) image.priority = priority;
-  for (const size_t index : table.key_order) {
-    const pdgen::KeyField &field = table.key.at(index);
+  for (const auto &name : table.key_order) {
+    const pdgen::KeyField &field = *name;
     const FieldImage part = field_image(table, field, record);
     value += part.value;
     mask += part.mask;

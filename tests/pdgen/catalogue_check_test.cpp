@@ -40,14 +40,19 @@ TEST(CatalogueFaults, KeysAndActionDataHaveALargestSize) {
 }
 
 TEST(CatalogueFaults, NeededFilesMustBeThereAndOthersMustBeKnown) {
-  EXPECT_EQ(load_program({{"a/program.toml",
-                           "name = \"none\"\nroutes = { action = \"go\", tables = [\"fib\"] }"},
-                          {"a/actions.toml", "actions = []"},
-                          {"a/table.toml", ""}})
+  EXPECT_EQ(
+      load_program(
+          {{"a/program.toml", "name = \"none\"\nroutes = { action = \"go\", tables = [\"fib\"] }"},
+           {"a/actions.toml", "actions = []"},
+           {"a/table.toml", ""}})
+          .diagnostics.text(),
+      "a/actions.toml:1: actions: actions.toml lists nothing here\n"
+      "a/table.toml:1: file: a catalogue has no file of this name; did you mean tables.toml?\n");
+  EXPECT_EQ(load_program({{"a/program.toml", "name = \"none\""}, {"a/tables.toml", "[[tabel]]"}})
                 .diagnostics.text(),
-            "a/actions.toml:1: actions: actions.toml lists nothing here\n"
-            "a/table.toml:1: file: a catalogue has no file of this name\n"
-            "a/tables.toml:1: file: a catalogue needs this file\n");
+            "a/actions.toml:1: file: a catalogue needs this file: actions = [{ name = \"NAME\", "
+            "value = 0 }, ...]\n"
+            "a/tables.toml:1: tabel: tables.toml has no [[tabel]]; did you mean [[table]]?\n");
   EXPECT_EQ(load_program(kSourceDir + "/no_such_directory").diagnostics.text(),
             kSourceDir +
                 "/no_such_directory:1: directory: this directory cannot be read: No such "
