@@ -191,10 +191,45 @@ void check_key_order(const Table &table, Diagnostics &diagnostics) {
   }
 }
 
+// Fields by their offsets lie behind one another within so many bytes. A field that does not is one
+// fault.
+void check_layout(std::vector<PacketField> fields, unsigned size, const std::string &owner,
+                  const std::string &key, Diagnostics &diagnostics) {
+  std::ranges::stable_sort(fields, {}, &PacketField::offset);
+  const PacketField *last = nullptr;  // of those before, the one that ends last
+  bool is_reported = false;
+  for (const PacketField &field : fields) {
+    const unsigned end = field.offset + field.bytes;
+    const unsigned last_end = last == nullptr ? 0 : last->offset + last->bytes;
+    if (field.offset < last_end && !is_reported) {
+      diagnostics.report(field.place, key + ".offset",
+                         "field {} of {} begins at byte {} inside field {}, which ends before byte "
+                         "{}",
+                         field.name, owner, field.offset, last->name, last_end);
+      is_reported = true;
+    }
+    if (end <= last_end) continue;
+    last = &field;
+    is_reported = false;
+    if (end <= size) continue;
+    return diagnostics.report(field.place, key + ".bytes",
+                              "field {} of {} ends at byte {}, beyond its {} bytes", field.name,
+                              owner, end, size);
+  }
+}
+
 // Where a part lies in a capture follows from its number.
-void check_parts(const Snapshots &snapshots, Diagnostics &diagnostics) {
+void check_snapshots(const Snapshots &snapshots, Diagnostics &diagnostics) {
+  check_layout(snapshots.capture, snapshots.record_bytes, "the capture", "capture", diagnostics);
   for (const SnapshotLayout &layout : snapshots.layouts) {
+    check_layout(layout.fields, snapshots.record_bytes, "layout " + layout.name, "layout.fields",
+                 diagnostics);
     for (const PacketField &field : layout.fields) {
+      if (field.bytes > 4 || field.bytes == 3) {
+        diagnostics.report(field.place, "layout.fields.bytes",
+                           "{} bytes of field {} of layout {} must be 1, 2 or 4", field.bytes,
+                           field.name, layout.name);
+      }
       const auto [whole, number] = captured_part(snapshots, field.name);
       if (whole == nullptr) continue;
       if ((number + 1) * field.bytes > whole->bytes) {
@@ -236,7 +271,10 @@ void check_limits(const Program &program, Diagnostics &diagnostics) {
   for (const auto &[name, uses] : fields) check_field_widths(uses, diagnostics);
   check_field_hints(program, fields, diagnostics);
   check_param_hints(program, diagnostics);
-  if (program.snapshots) check_parts(*program.snapshots, diagnostics);
+  if (program.snapshots) check_snapshots(*program.snapshots, diagnostics);
+  for (const Digest &digest : program.digests) {
+    check_layout(digest.fields, digest.size, "digest " + digest.name, "digest.fields", diagnostics);
+  }
 }
 
 }  // namespace pdgen

@@ -93,35 +93,11 @@ void read_digest_field(RowReader &row, PacketField &field) {
   row.number("bytes", field.bytes, 1, kMostDigestBytes);
 }
 
-void check_digest_layout(const RowReader &row, const Digest &digest) {
-  std::vector<const PacketField *> by_offset;
-  for (const PacketField &field : digest.fields) by_offset.push_back(&field);
-  std::ranges::stable_sort(by_offset, {}, &PacketField::offset);
-  unsigned end = 0;
-  const PacketField *before = nullptr;
-  for (const PacketField *field : by_offset) {
-    if (field->offset < end) {
-      row.report_at(field->place, "fields.offset",
-                    "field {} of {} begins at byte {} inside field {}, which ends before byte {}",
-                    field->name, row.what(), field->offset, before->name, end);
-    }
-    const unsigned field_end = field->offset + field->bytes;
-    if (digest.size > 0 && field_end > digest.size) {
-      row.report_at(field->place, "fields.bytes",
-                    "field {} of {} ends at byte {}, beyond the {} bytes of an entry", field->name,
-                    row.what(), field_end, digest.size);
-    }
-    if (field_end >= end) before = field;
-    end = std::max(end, field_end);
-  }
-}
-
 void read_digest(RowReader &row, Digest &digest) {
   row.name(digest);
   row.handle("handle", digest.handle, HandleKind::kFieldList);
   row.number("size", digest.size, 1, kMostDigestBytes);
   row.rows("fields", "field", "name", digest.fields, read_digest_field);
-  check_digest_layout(row, digest);
 }
 
 void read_value_set(RowReader &row, ValueSet &set) {
@@ -173,6 +149,11 @@ void read_hint(RowReader &row, FieldHint &hint) {
   row.number("width", hint.width, 1, 128, kOptional);
   if (!row.has("fields") && !row.has("suffixes") && !row.has("width")) {
     row.report("hint", "{} needs fields, suffixes or a width to go with", row.what());
+  }
+  if (hint.hint == Hint::kMac && row.has("suffixes") && hint.suffixes.size() != 2) {
+    row.report("suffixes",
+               "{} needs two suffixes, of the upper and of the lower half of an address",
+               row.what());
   }
 }
 
@@ -232,9 +213,8 @@ void read_label(RowReader &row, Label &label) {
 
 // --- Snapshots ------------------------------------------------------------------------------
 
-// Fields follow one another up to the end of a record.
-void read_snapshot_fields(RowReader &row, const char *key, unsigned record_bytes,
-                          std::vector<PacketField> &fields) {
+// Fields follow one another.
+void read_snapshot_fields(RowReader &row, const char *key, std::vector<PacketField> &fields) {
   unsigned end = 0;
   row.rows(key, "field", "name", fields, [&](RowReader &reader, PacketField &field) {
     reader.name(field);
@@ -244,23 +224,15 @@ void read_snapshot_fields(RowReader &row, const char *key, unsigned record_bytes
     field.offset = end;
     reader.number("bytes", field.bytes, 1, 0xffff);
     end += field.bytes;
-    if (record_bytes == 0 || end <= record_bytes || field.offset > record_bytes) return;
-    reader.report_at(field.place, "", "field {} ends at byte {}, beyond the {} bytes of a record",
-                     field.name, end, record_bytes);
   });
 }
 
-void read_layout(RowReader &row, unsigned record_bytes, SnapshotLayout &layout) {
+void read_layout(RowReader &row, SnapshotLayout &layout) {
   row.name(layout);
   if (!layout.name.empty() && layout.name != "ingress" && layout.name != "egress") {
     row.report("name", "\"{}\" of {} must be one of ingress, egress", layout.name, row.what());
   }
-  read_snapshot_fields(row, "fields", record_bytes, layout.fields);
-  for (const PacketField &field : layout.fields) {
-    if (field.bytes == 0 || field.bytes == 1 || field.bytes == 2 || field.bytes == 4) continue;
-    row.report_at(field.place, "fields.bytes", "{} bytes of field {} of {} must be 1, 2 or 4",
-                  field.bytes, field.name, row.what());
-  }
+  read_snapshot_fields(row, "fields", layout.fields);
 }
 
 }  // namespace
@@ -322,11 +294,8 @@ void read_snapshots(RowReader &file) {
   snapshots.place = file.place("record_bytes");
   file.number("record_bytes", snapshots.record_bytes, 1, 0xffff);
   file.number("capture_limit", snapshots.capture_limit, 1, 0xffff);
-  const unsigned record_bytes = snapshots.record_bytes;
-  file.rows(
-      "layout", "layout", "name", snapshots.layouts,
-      [&](RowReader &row, SnapshotLayout &layout) { read_layout(row, record_bytes, layout); });
-  read_snapshot_fields(file, "capture", record_bytes, snapshots.capture);
+  file.rows("layout", "layout", "name", snapshots.layouts, read_layout);
+  read_snapshot_fields(file, "capture", snapshots.capture);
 }
 
 }  // namespace pdgen

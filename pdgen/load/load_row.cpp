@@ -68,34 +68,46 @@ RowReader::RowReader(const TomlValue &row, Naming naming, NameScope &siblings, R
 }
 
 RowReader::~RowReader() {
-  const auto *members = std::get_if<TomlValue::Table>(&row_.data);
-  bool has_slip = false;
-  for (std::size_t i = 0; members != nullptr && !ignores_others_ && i < members->size(); ++i) {
-    const TomlMember &member = (*members)[i];
-    if (std::ranges::find(known_keys_, member.key) != known_keys_.end()) continue;
-    has_slip = report_unknown(member) || has_slip;
-    reading_.incomplete.insert(missing_kinds_.begin(), missing_kinds_.end());
+  const bool has_slip = report_unknown_keys();
+  if (!missing_.empty()) {
+    report_at(row_.place, missing_[0], "{} lacks {}", what_, fmt::join(missing_, ", "));
   }
-  for (const std::string &key : missing_) report_at(row_.place, key, "{} lacks this key", what_);
   if (has_slip) return;
   for (Fault &fault : consequences_) reading_.diagnostics.report(std::move(fault));
 }
 
-// Whether it is another key, misspelt, which then is not missing.
-bool RowReader::report_unknown(const TomlMember &member) {
-  common::Nearest near(member.key);
-  for (const std::string &key : known_keys_) {
-    if (!has(key)) near.consider(key);
+// Whether one is another key, misspelt, which then is not missing. The others are one fault, such
+// as those of a row whose header is missing.
+bool RowReader::report_unknown_keys() {
+  const auto *members = std::get_if<TomlValue::Table>(&row_.data);
+  if (members == nullptr || ignores_others_) return false;
+  std::vector<std::string> known = known_keys_;
+  std::erase_if(known, [&](const std::string &key) { return has(key); });
+  bool has_slip = false;
+  const TomlMember *first = nullptr;
+  std::vector<std::string> others;
+  for (const TomlMember &member : *members) {
+    if (std::ranges::find(known_keys_, member.key) != known_keys_.end()) continue;
+    reading_.incomplete.insert(missing_kinds_.begin(), missing_kinds_.end());
+    const std::string near = common::nearest(member.key, known);
+    if (near.empty()) {
+      others.push_back(member.key);
+      if (first == nullptr || member.key_place.line < first->key_place.line) first = &member;
+      continue;
+    }
+    has_slip = true;
+    std::erase(missing_, near);
+    const auto shown = [&](const std::string &key) {
+      return fmt::format(fmt::runtime(member.value.has_headers ? "[[{}]]" : "{}"), key);
+    };
+    report_at(member.key_place, member.key, "{} has no {}; did you mean {}?", what_,
+              shown(member.key), shown(near));
   }
-  const auto shown = [&](const std::string &key) {
-    return member.value.has_headers ? fmt::format("[[{}]]", key) : key;
-  };
-  const std::string remedy = near.name().empty()
-                                 ? fmt::format("it may have {}", fmt::join(known_keys_, ", "))
-                                 : fmt::format("did you mean {}?", shown(near.name()));
-  report_at(member.key_place, member.key, "{} has no {}; {}", what_, shown(member.key), remedy);
-  std::erase(missing_, near.name());
-  return !near.name().empty();
+  if (first != nullptr) {
+    report_at(first->key_place, first->key, "{} has no {}; it may have {}", what_,
+              fmt::join(others, ", "), fmt::join(known_keys_, ", "));
+  }
+  return has_slip;
 }
 
 RowReader::Naming RowReader::naming_of(std::string_view key, std::string kind,
@@ -114,13 +126,14 @@ std::string RowReader::path(std::string_view key) const {
   return fmt::format("{}{}{}", naming_.path, dot, key);
 }
 
-void RowReader::add_to_siblings(const std::string &name, const Place &place) {
+bool RowReader::add_to_siblings(const std::string &name, const Place &place) {
   const auto [first, added] = siblings_.try_emplace(name, place);
-  if (added && !name.empty()) return;
+  if (added && !name.empty()) return true;
   reading_.incomplete.insert(naming_.kind);
-  if (name.empty()) return;  // it could not be read
+  if (name.empty()) return false;  // it could not be read
   is_doubled_ = true;
   report(naming_.name_key, "the name {} is taken at {}", name, place_text(first->second));
+  return false;
 }
 
 const TomlValue *RowReader::value(std::string_view key, Need need) {
@@ -145,7 +158,8 @@ const T *RowReader::typed(std::string_view key, const TomlValue *value, std::str
 bool RowReader::string(std::string_view key, std::string &string, Need need) {
   const auto *text = typed<std::string>(key, value(key, need), "a string");
   if (text != nullptr) string = *text;
-  return text != nullptr;
+  if (text != nullptr && text->empty()) report(key, "{} has an empty string here", what_);
+  return !string.empty();
 }
 
 bool RowReader::identifier(std::string_view key, std::string &name, Need need) {
@@ -165,8 +179,8 @@ bool RowReader::identifier(std::string_view key, std::string &name, Need need) {
 void RowReader::text(std::string_view key, std::string &text) {
   if (!string(key, text, kRequired)) return;
   const auto is_printable = [](char c) { return c >= ' ' && c <= '~'; };
-  if (!text.empty() && std::ranges::all_of(text, is_printable)) return;
-  report(key, "the text of {} must be printable ASCII and not empty", what_);
+  if (std::ranges::all_of(text, is_printable)) return;
+  report(key, "the text of {} must be printable ASCII", what_);
 }
 
 bool RowReader::number(std::string_view key, unsigned &number, unsigned least, unsigned most,
@@ -252,7 +266,7 @@ void RowReader::names(std::string_view key, std::vector<std::string> &names,
 std::vector<const TomlValue *> RowReader::row_values(std::string_view key, const std::string &kind,
                                                      Need need) {
   std::vector<const TomlValue *> rows = elements<TomlValue::Table>(key, need, "lists", "table");
-  if (rows.empty()) missing_kinds_.push_back(kind);
+  if (rows.empty() || naming_.path.empty()) missing_kinds_.push_back(kind);
   if (spoilt_.contains(key) || (rows.empty() && need == kRequired))
     reading_.incomplete.insert(kind);
   return rows;
@@ -262,40 +276,53 @@ std::vector<const TomlValue *> RowReader::row_values(std::string_view key, const
 
 namespace {
 
-// A name that nothing has.
+// A name that nothing has, or those that a row gives of the rows of a table that lacks them.
 struct Unknown {
   const Reference *first = nullptr;
-  std::size_t count = 0;  // of the references to it
-  std::optional<Candidate> near;
+  std::size_t count = 0;
 };
 
-Unknown unknown_of(const Reference &reference, const std::vector<Candidate> &rows) {
+bool is_of_one(const Reference &reference) {
+  return reference.wanted.find(" of the ") != std::string_view::npos;
+}
+
+// The row that was probably meant, rather one that nothing names.
+std::optional<Candidate> meant(const Reference &reference, const std::set<const void *> &named) {
+  std::vector<Candidate> rows = reference.candidates();
+  std::ranges::stable_partition(
+      rows, [&](const Candidate &candidate) { return !named.contains(candidate.row); });
   const std::string near =
       common::nearest(reference.name, rows | std::views::transform(&Candidate::name));
   const auto row = std::ranges::find(rows, near, &Candidate::name);
-  return {&reference, 0, near.empty() ? std::nullopt : std::optional(*row)};
+  return near.empty() ? std::nullopt : std::optional(*row);
 }
 
 // Several rows are right, and the row that they mean is misspelt, if nothing names that one.
 void report_unknown(const Unknown &unknown, const std::set<const void *> &named,
                     Diagnostics &diagnostics) {
-  const auto &[first, count, near] = unknown;
-  const auto &[fault, name, wanted, candidates, found, fits] = *first;
-  const std::string others = count == 1 ? " names" : fmt::format(" and {} more name", count - 1);
-  const std::string text =
-      fmt::format("{}{} {}, which is no {}", fault.message, others, name, wanted);
-  if (count > 1 && near && !named.contains(near->row)) {
-    return diagnostics.report(near->place, "name", "nothing names {}, but {}: is it this one?",
-                              near->name, text);
+  const auto &[fault, name, wanted, candidates, found, fits] = *unknown.first;
+  const auto near = meant(*unknown.first, named);
+  const std::string more = fmt::format(" and {} more", unknown.count - 1);
+  if (unknown.count == 1 || is_of_one(*unknown.first)) {
+    diagnostics.report(fault.place, fault.key, "{} names {}{}, which is no {}{}", fault.message,
+                       name, unknown.count == 1 ? "" : more, wanted,
+                       near ? fmt::format("; did you mean {}?", near->name) : "");
+  } else if (near && !named.contains(near->row)) {
+    diagnostics.report(near->place, "name", "nothing names {}, but {}{} name {}: is it this one?",
+                       near->name, fault.message, more, name);
+  } else {
+    diagnostics.report(fault.place, fault.key, "{}{} name {}, which is no {}{}", fault.message,
+                       more, name, wanted,
+                       near ? fmt::format("; did you mean {}?", near->name) : "");
   }
-  diagnostics.report(fault.place, fault.key, "{}{}", text,
-                     near ? fmt::format("; did you mean {}?", near->name) : "");
 }
 
 }  // namespace
 
+std::string of_the(std::string_view wanted) { return fmt::format("of the {}", wanted); }
+
 void resolve_references(Reading &reading) {
-  std::map<std::string_view, Unknown> unknown;
+  std::map<std::string, Unknown> unknown;
   std::set<const void *> named;
   for (const Reference &reference : reading.references) {
     const std::vector<Candidate> rows = reference.candidates();
@@ -312,11 +339,11 @@ void resolve_references(Reading &reading) {
           return reference.wanted.find(kind) != std::string_view::npos;
         });
     // Nor is anything known of what an unknown row has.
-    reading.incomplete.insert(fmt::format("of the {}", reference.wanted));
+    reading.incomplete.insert(of_the(reference.wanted));
     if (may_be_unread) continue;
-    const auto [slip, added] = unknown.try_emplace(reference.name);
-    if (added) slip->second = unknown_of(reference, rows);
-    ++slip->second.count;
+    Unknown &slip =
+        unknown[is_of_one(reference) ? reference.fault.message : std::string(reference.name)];
+    if (slip.count++ == 0) slip.first = &reference;
   }
   for (const auto &[name, slip] : unknown) report_unknown(slip, named, reading.diagnostics);
 }

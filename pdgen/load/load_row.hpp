@@ -73,6 +73,9 @@ struct Reading {
   std::set<std::string> incomplete;
 };
 
+// Rows of a row of that kind: "field of the table".
+std::string of_the(std::string_view kind);
+
 // Sets the targets of references. A name that nothing has is one fault, however many rows have it.
 void resolve_references(Reading &reading);
 
@@ -165,7 +168,8 @@ class RowReader {
   void name(Row &row, Ref<T> &ref, std::string_view wanted, const std::vector<T> &list) {
     reference(naming_.name_key, ref, wanted, rows_of(list));
     row.place = ref.place;
-    add_to_siblings(ref.name, ref.place);
+    // Nothing is known of what it has unless it is the one that was meant.
+    if (!add_to_siblings(ref.name, ref.place)) reading_.incomplete.insert(of_the(wanted));
   }
 
   // A row of other lists; `wanted` is what it must be.
@@ -247,8 +251,8 @@ class RowReader {
                               Need need);
   std::vector<const TomlValue *> row_values(std::string_view key, const std::string &kind,
                                             Need need);
-  void add_to_siblings(const std::string &name, const Place &place);
-  bool report_unknown(const TomlMember &member);
+  bool add_to_siblings(const std::string &name, const Place &place);
+  bool report_unknown_keys();
 
   const TomlValue &row_;
   Naming naming_;
