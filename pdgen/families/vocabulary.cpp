@@ -279,6 +279,11 @@ const Placeholder kPlaceholders[] = {
     {"pair", "action_handle", hex<&Pair::handle>},
     {"item", "index", [](S s) { return s.get<ResourceItem>().index->name; }},
     {"item", "tag", name_of<&ResourceItem::tag>},
+    {"item", "UNIT",
+     [](S s) {
+       const auto unit = static_cast<std::size_t>(s.get<ResourceItem>().resource->unit);
+       return in_capitals(kNamesOf<MeterUnit>[unit]);
+     }},
     {"item", "operations", text<&ResourceItem::operations>},
     {"member", "action_handle", hex<&ProfileAction::handle>},
     {"action", "action", text<&Action::name>},

@@ -68,6 +68,7 @@ struct Resource {
   uint16_t index_param;  // offset of the parameter that holds the index, or no_index
   Attach attach;
   uint8_t operations;  // those that name it, a set of Operation
+  uint8_t rate_unit;   // of a meter
 };
 
 // An action as the entries of one table, or the members of one profile, carry it.

@@ -32,7 +32,7 @@ PD_INLINE p4_pd_status_t encode_resource(const uint8_t *record,
     if constexpr (R.attach == Attach::meter_spec) {
       if (meter != nullptr) {
         const p4_pd_status_t status =
-            convert_meter(*meter, PIPE_RATE_BYTES, false, resource.data.meter);
+            convert_meter(*meter, R.rate_unit, false, resource.data.meter);
         if (status != BF_SUCCESS) return status;
         resource.tag = PIPE_RESOURCE_ATTACH;
       } else if constexpr (Op == op_add) {
