@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "texts.hpp"
+#include "typed.hpp"
 
 namespace pd_test {
 namespace {
@@ -132,6 +133,21 @@ TEST_F(EntryText, LabelsByHandleGoToTheirTables) {
     for (const Call &call : made) EXPECT_EQ(call.scalar("table"), handle);
   }
   EXPECT_TRUE(buffer.is_untouched());
+}
+
+// ---- To the letter ----
+
+TEST(Schemas, ToTheLetter) {
+  const auto schema = [](uint32_t handle) {
+    return written(*find_export("cli_schema"), with("handle", handle), binding().sizes.schema);
+  };
+  EXPECT_EQ(schema(table_named("cpuEncapFields").handle),
+            "( ('cpuEncapFields','mat',(False,)),(( 'egressPort','eg_intr_md_egress_port',9,0x1ff,"
+            "None,None,None),( 'switchPort','phase0_switchPort',1,0x1,None,None,None),( "
+            "'ingressTagged','egrMd_ingressTagged',1,0x1,None,None,None),( 'decapType',"
+            "'egrMd_decapType',3,0x7,None,None,None),),(( ('encapPktToCpu'),(('tagType',None,2,"
+            "None),)),( ('onMiss'),()),))");
+  EXPECT_EQ(schema(kEcmpMembers), "(( ('setEcmpNextHop'),(('nextHop',None,14,None),)),)");
 }
 
 }  // namespace

@@ -6,22 +6,6 @@ namespace {
 
 constexpr const char *kClient = "p4_pd_tessel_switch_pd";
 
-TEST(Frame, InitMakesAStatePerProfileAndRegisters) {
-  // Without its third state it goes no further, ...
-  EXPECT_EQ(first_init().failed_status, P4_PD_NO_MEMORY);
-  EXPECT_EQ(names_of(first_init().failed_calls),
-            (std::vector<std::string>{"p4_pd_ms_init", "p4_pd_ms_init_state", "p4_pd_ms_init_state",
-                                      "p4_pd_ms_init_state"}));
-  // ... and the next one makes the two that are missing.
-  const std::vector<std::string> wanted = {"p4_pd_ms_init", "p4_pd_ms_init_state",
-                                           "p4_pd_ms_init_state", "bf_drv_register",
-                                           "bf_drv_client_register_callbacks"};
-  EXPECT_EQ(names_of(first_init().calls), wanted);
-  ASSERT_EQ(first_init().calls.size(), wanted.size());
-  EXPECT_EQ(first_init().calls[3].get<std::string>("client_name"), kClient);
-  EXPECT_EQ(first_init().calls[4].scalar("priority"), 2u);
-}
-
 TEST(Frame, TheFrameworkHoldsThreeCallbacks) {
   EXPECT_EQ(soft_client_count(), 1u);
   uint32_t client = 0;

@@ -7,6 +7,7 @@
 #include <csignal>
 
 #include "texts.hpp"
+#include "typed.hpp"
 
 namespace pd_test {
 namespace {

@@ -1,6 +1,7 @@
 // Read-back of resource lists that the library's own program does not make, and the words that are
 // written on failure.
 #include "texts.hpp"
+#include "typed.hpp"
 
 namespace pd_test {
 namespace {

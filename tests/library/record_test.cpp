@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "texts.hpp"
+#include "typed.hpp"
 
 namespace pd_test {
 namespace {
@@ -199,7 +200,7 @@ const LabelRow kLabelRows[] = {
 
 std::string label(const Spec &spec) {
   return written(*find_export("match_spec_stringify_for_counter", spec.record().name),
-                 with("match_spec", spec.data()), P4_PD_TESSEL_SWITCH_LABEL_MAX);
+                 with("match_spec", spec.data()), binding().sizes.label);
 }
 
 TEST_F(Records, OfLabels) {

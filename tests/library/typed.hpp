@@ -1,10 +1,12 @@
-// For scenarios that call the library as its users do: typed functions, short names.
+// For scenarios that call the library of tessel_switch as its users do: typed functions, short
+// names.
 #pragma once
 
 #include <algorithm>
 #include <climits>
 #include <cstring>
 
+#include "p4_pd_tessel_switch.h"
 #include "pipe_mgr.h"
 #include "support.hpp"
 

@@ -9,6 +9,22 @@
 
 namespace pd_test {
 
+// What of the program an export is about.
+struct Subject {
+  const pdgen::Table *table = nullptr;
+  const pdgen::Profile *profile = nullptr;
+  const pdgen::Resource *resource = nullptr;  // a counter, meter or register
+  const pdgen::Hash *hash = nullptr;
+  // Of the resource, the calculation, the digest or the value set.
+  uint32_t handle = 0;
+  // Whether the program has what a call needs: many exports are there for every program.
+  bool is_there = true;
+};
+Subject subject_of(const Export &exported);
+// The exports that a scene can be made for, and the others.
+const std::vector<const Export *> &exports_with_scene();
+const std::vector<const Export *> &exports_without_scene();
+
 class Scene {
  public:
   explicit Scene(const Export &exported, std::string_view variation = "");
@@ -24,9 +40,9 @@ class Scene {
   uint64_t play();
   const std::vector<Call> &calls() const { return calls_; }
 
-  // What the export belongs to; null when it belongs to something else.
-  const pdgen::Table *table() const { return table_; }
-  const pdgen::Profile *profile() const { return profile_; }
+  const Subject &subject() const { return subject_; }
+  const pdgen::Table *table() const { return subject_.table; }
+  const pdgen::Profile *profile() const { return subject_.profile; }
 
   // The records given to the export, where it takes them.
   const Bytes &match_spec() const { return match_spec_; }
@@ -45,9 +61,9 @@ class Scene {
   uint32_t member_action() const { return member_action_; }
 
  private:
-  uint32_t find_needs() const;
   void set_up(uint32_t needs);
   Given given(const Bytes &spec) const;
+  const pdgen::Resource *direct_resource() const;
   void add_entry();
   void add_second_entry();
   void set_default_entry();
@@ -72,8 +88,9 @@ class Scene {
   Random random_;
   Device device_;
   Arguments arguments_;
-  const pdgen::Table *table_ = nullptr;
-  const pdgen::Profile *profile_ = nullptr;
+  const Subject subject_;
+  const pdgen::Table *const table_;
+  const pdgen::Profile *const profile_;
   Bytes match_spec_;
   Bytes action_spec_;
   p4_pd_bytes_meter_spec_t meter_spec_;

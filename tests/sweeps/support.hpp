@@ -1,5 +1,6 @@
-// What all tests of the library share: the catalogue, the exports as data, a process in which the
-// library is initialised, devices, and calls whose arguments are given by name.
+// What all tests of a library share: its binding and its catalogue, the exports as data, a process
+// in which the library is initialised, devices, and calls whose arguments are given by name.
+// Nothing here knows the program, nor includes its header.
 #pragma once
 
 #include <cjson/cJSON.h>
@@ -16,14 +17,10 @@
 #include <vector>
 
 #include "bindings/export_table.hpp"
-#include "p4_pd_tessel_switch.h"
+#include "p4_pd_types.h"
 #include "pdgen/model.hpp"
 #include "soft_journal.hpp"
 #include "soft_sdk.h"
-
-extern "C" {
-extern const soft_program_t soft_program_tessel_switch;
-}
 
 namespace pd_test {
 
@@ -39,8 +36,14 @@ inline constexpr p4_pd_device_target_t kTarget = {kDevice, kPipe};
 
 // ---- The program ----
 
-// The catalogue of the source tree, loaded anew: nothing of the built library goes into it.
+// Says which program the tests are about, before anything else here is asked.
+void choose_program(const bindings::Binding &binding, std::string catalogue);
+
+const bindings::Binding &binding();
+// The catalogue, loaded anew: nothing of the built library goes into it.
 const pdgen::Program &program();
+// What names of the program begin with: "p4_pd_NAME_".
+std::string prefix();
 const pdgen::Table &table_named(std::string_view name);
 const pdgen::Action &action_named(std::string_view name);
 // The pair of a table; null when the table does not have the action.
@@ -65,8 +68,8 @@ const Export *find_export(std::string_view family, std::string_view object = "",
 // The session of all tests, open while the program runs.
 p4_pd_session_handle_t session();
 
-// The first initialisation of the library in this process: one for which the third state could not
-// be made, and the one after it.
+// The first initialisation of the library in this process: one for which the state of the last
+// profile could not be made, and the one after it.
 struct FirstInit {
   p4_pd_status_t failed_status;
   std::vector<Call> failed_calls;
@@ -75,11 +78,15 @@ struct FirstInit {
 };
 const FirstInit &first_init();
 
+p4_pd_status_t initialise();
+p4_pd_status_t clean_up();
+// The handle under which the driver framework knows the library, or knew it last.
+uint32_t client();
+
 // A device that runs the program, for as long as the object lives.
 class Device {
  public:
-  explicit Device(bf_device_id_t id = kDevice, bool is_virtual = false,
-                  const soft_program_t &description = soft_program_tessel_switch);
+  explicit Device(bf_device_id_t id = kDevice, bool is_virtual = false);
   Device(const Device &) = delete;
   Device &operator=(const Device &) = delete;
   ~Device();
@@ -158,6 +165,7 @@ class Arguments {
   // Sets those that the export takes.
   Arguments &give(const Given &given);
   bool takes(std::string_view name) const;
+  bool has(std::string_view name) const { return given_[index_of(name)]; }
   uint64_t get(std::string_view name) const;
   const Export &exported() const { return *exported_; }
 

@@ -19,11 +19,27 @@ namespace pd_test {
 
 // ---- The program ----
 
+namespace {
+
+const bindings::Binding *chosen = nullptr;
+std::string chosen_catalogue;
+
+}  // namespace
+
+void choose_program(const bindings::Binding &binding, std::string catalogue) {
+  chosen = &binding;
+  chosen_catalogue = std::move(catalogue);
+}
+
+const bindings::Binding &binding() { return *chosen; }
+
 const pdgen::Program &program() {
-  static const pdgen::LoadResult loaded = pdgen::load_program(PD_CATALOGUE_DIR);
+  static const pdgen::LoadResult loaded = pdgen::load_program(chosen_catalogue);
   if (!loaded.program) ADD_FAILURE() << loaded.diagnostics.text();
   return loaded.program.value();
 }
+
+std::string prefix() { return fmt::format("p4_pd_{}_", binding().program); }
 
 const pdgen::Table &table_named(std::string_view name) {
   return *pdgen::find_row(program().tables, name);
@@ -61,11 +77,11 @@ const bindings::Record &record_named(std::span<const bindings::Record> all, std:
 }  // namespace
 
 const bindings::Record &record_of(const pdgen::Table &table) {
-  return record_named(bindings::pd_binding.tables.list(), table.name);
+  return record_named(binding().tables.list(), table.name);
 }
 
 const bindings::Record &record_of(const pdgen::Action &action) {
-  return record_named(bindings::pd_binding.actions.list(), action.name);
+  return record_named(binding().actions.list(), action.name);
 }
 
 // ---- The exports ----
@@ -73,8 +89,8 @@ const bindings::Record &record_of(const pdgen::Action &action) {
 const std::vector<const Export *> &all_exports() {
   static const std::vector<const Export *> all = [] {
     std::vector<const Export *> list;
-    for (size_t i = 0; i < bindings::pd_binding.list_count; ++i) {
-      const bindings::ExportList &part = *bindings::pd_binding.lists[i];
+    for (size_t i = 0; i < binding().list_count; ++i) {
+      const bindings::ExportList &part = *binding().lists[i];
       for (size_t row = 0; row < part.count; ++row) list.push_back(&part.rows[row]);
     }
     return list;
@@ -116,13 +132,16 @@ class Process : public testing::Environment {
  public:
   void SetUp() override {
     ASSERT_EQ(soft_session_open(&open_session), BF_SUCCESS);
-    soft::faults::fail_call("p4_pd_ms_init_state", 3, BF_NO_MEMORY);
-    first.failed_calls = recorded([] { first.failed_status = p4_pd_tessel_switch_init(); });
-    first.calls = recorded([] { first.status = p4_pd_tessel_switch_init(); });
+    const auto profiles = static_cast<uint32_t>(program().profiles.size());
+    if (profiles != 0) {
+      soft::faults::fail_call("p4_pd_ms_init_state", profiles, BF_NO_MEMORY);
+      first.failed_calls = recorded([] { first.failed_status = initialise(); });
+    }
+    first.calls = recorded([] { first.status = initialise(); });
     ASSERT_EQ(first.status, BF_SUCCESS);
   }
   void TearDown() override {
-    EXPECT_EQ(p4_pd_tessel_switch_cleanup(), BF_SUCCESS);
+    EXPECT_EQ(clean_up(), BF_SUCCESS);
     EXPECT_EQ(soft_session_close(open_session), BF_SUCCESS);
     EXPECT_EQ(soft_allocations_live(), 0u);
   }
@@ -136,8 +155,17 @@ p4_pd_session_handle_t session() { return open_session; }
 
 const FirstInit &first_init() { return first; }
 
-Device::Device(bf_device_id_t id, bool is_virtual, const soft_program_t &description) : id_(id) {
-  EXPECT_EQ(soft_device_create(id, kPipes, &description, is_virtual), BF_SUCCESS);
+p4_pd_status_t initialise() { return Arguments(*find_export("init")).status(); }
+p4_pd_status_t clean_up() { return Arguments(*find_export("cleanup")).status(); }
+
+uint32_t client() {
+  static uint32_t last = 0;
+  soft_client_get((prefix() + "pd").c_str(), &last, nullptr, nullptr);
+  return last;
+}
+
+Device::Device(bf_device_id_t id, bool is_virtual) : id_(id) {
+  EXPECT_EQ(soft_device_create(id, kPipes, binding().description, is_virtual), BF_SUCCESS);
 }
 
 Device::~Device() { EXPECT_EQ(soft_device_remove(id_), BF_SUCCESS); }
@@ -238,17 +266,19 @@ Bytes random_record(const bindings::Record &record, Random &random) {
   for (const bindings::Member &member : record.member_list()) {
     if (member.role != bindings::Role::prefix_length) {
       width = member.width;
-      // Cells that every counter and meter of the device has.
-      if (std::string_view(member.name).ends_with("Index") && member.storage == 4) {
-        uint32_t cell = 0;
-        std::memcpy(&cell, bytes.data() + member.offset, sizeof cell);
-        cell %= SOFT_COUNTER_CELLS;
-        std::memcpy(bytes.data() + member.offset, &cell, sizeof cell);
-      }
       continue;
     }
     const auto length = static_cast<uint16_t>(random() % (width + 2));
     std::memcpy(bytes.data() + member.offset, &length, sizeof length);
+  }
+  // Cells that every counter and meter of the device has.
+  for (const bindings::Field &field : record.field_list()) {
+    if (field.cells.empty()) continue;
+    const bindings::Member &member = *field.parts[0];
+    uint32_t cell = 0;
+    std::memcpy(&cell, bytes.data() + member.offset, member.storage);
+    cell %= SOFT_COUNTER_CELLS;
+    std::memcpy(bytes.data() + member.offset, &cell, member.storage);
   }
   return bytes;
 }

@@ -30,7 +30,7 @@ bool is_record(std::string_view type) {
 const char *name_for(std::string_view parameter) {
   if (parameter == "digest_name") return program().digests.front().name.c_str();
   if (parameter == "field_name") return program().digests.front().fields.front().name.c_str();
-  return program().hashes.front().name.c_str();
+  return program().hashes.empty() ? "" : program().hashes.front().name.c_str();
 }
 
 // How much a call may write behind a pointer.
@@ -39,12 +39,12 @@ size_t output_size(const bindings::Parameter &parameter, const pdgen::Table *tab
   const std::string_view name = parameter.name;
   constexpr std::string_view kLists[] = {"entries", "members", "groups"};
   if (type.ends_with("_match_spec_t *")) return record_of(*table).size;
-  if (type.ends_with("_action_specs_t *")) return sizeof(p4_pd_tessel_switch_action_specs_t);
+  if (type.ends_with("_action_specs_t *")) return binding().sizes.action_specs;
   if (type.ends_with("_meter_spec_t *")) return sizeof(p4_pd_bytes_meter_spec_t);
   if (type == "p4_pd_idle_time_params_t *") return sizeof(p4_pd_idle_time_params_t);
-  if (type == "char *" && name == "action_name") return 61;
+  if (type == "char *" && name == "action_name") return binding().sizes.action_name;
   if (type == "void *" && name == "action_spec") {
-    return sizeof(p4_pd_tessel_switch_action_specs_t) - sizeof(uint32_t);
+    return binding().sizes.action_specs - binding().sizes.action_spec;
   }
   if (std::ranges::find(kLists, name) != std::end(kLists)) return 2 * sizeof(uint32_t);
   if (name == "values" && type.starts_with("uint")) return 2 * kPipes * sizeof(uint32_t);
@@ -52,7 +52,10 @@ size_t output_size(const bindings::Parameter &parameter, const pdgen::Table *tab
   if (type == "bool *" || type == "uint8_t *") return 1;
   if (type == "uint64_t *") return sizeof(uint64_t);
   if (type == "uint32_t *" || type.ends_with("_handle_t *")) return sizeof(uint32_t);
-  return 1 << 16;
+  if (type.ends_with("_snapshot_capture_t *")) {
+    return std::min<size_t>(binding().capture_limit, 32) * program().snapshots->record_bytes;
+  }
+  return std::max<size_t>(1 << 16, binding().sizes.value);
 }
 
 }  // namespace
@@ -106,16 +109,17 @@ Given Scene::values() const {
   const uint32_t table = table_ == nullptr ? 0 : table_->handle;
   const uint32_t property =
       family.starts_with("pvs") ? uint32_t{PIPE_PVS_CAPACITY} : uint32_t{PIPE_TABLE_CAPACITY};
-  return with(
-      "value", 21, "argument", 0, "count", 2, "max_size", 8, "state", P4_PD_GRP_MBR_STATE_INACTIVE,
-      "hash_length", 4, "word", 0, "ttl", 60000, "hit_state", PIPE_ENTRY_ACTIVE, "index", 3, "wred",
-      0x07000001, "adjustment", 24, "has_pre_color", 0, "input", 0, "algorithm", 0, "max_count", 2,
-      "reg", 0x06000005, "first", 4, "index_count", 2, "mask", 23, "last_stage", 2, "direction", 0,
-      "virtual_device", kSceneVirtualDevice, "pipe", BF_ALL_PIPES, "priority", priority_, "entry",
-      entry_, "member", member_, "group", group_, "table", table, "table_handle", table,
-      "profile_handle", profile_ == nullptr ? 0 : profile_->action_data_handle, "snapshot",
-      snapshot_, "meter", family.starts_with("packets") ? 0x05000002 : 0x05000001, "property",
-      property, "descriptor", ~uint64_t{0});  // no file: what is printed goes nowhere
+  return with("value", 21, "argument", 0, "count", 2, "max_size", 8, "state",
+              P4_PD_GRP_MBR_STATE_INACTIVE, "hash_length", 4, "word", 0, "ttl", 60000, "hit_state",
+              PIPE_ENTRY_ACTIVE, "index", 3, "wred", 0x07000001, "adjustment", 24, "has_pre_color",
+              0, "input", 0, "algorithm", 0, "max_count", 2, "reg", subject_.handle, "first", 4,
+              "index_count", 2, "mask", 23, "last_stage", 2, "direction",
+              program().snapshots ? snapshot_direction() : 0, "virtual_device", kSceneVirtualDevice,
+              "pipe", BF_ALL_PIPES, "priority", priority_, "entry", entry_, "member", member_,
+              "group", group_, "table", table, "table_handle", table, "profile_handle",
+              profile_ == nullptr ? 0 : profile_->action_data_handle, "snapshot", snapshot_,
+              "meter", subject_.handle, "property", property, "descriptor",
+              ~uint64_t{0});  // no file: what is printed goes nowhere
 }
 
 void Scene::fill_output(const bindings::Parameter &parameter) {

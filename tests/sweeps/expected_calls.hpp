@@ -9,7 +9,8 @@
 
 namespace pd_test {
 
-// What the exports of a family do when they succeed: a line of family_calls.txt.
+// What the exports of a family do when they succeed: a line of family_calls.txt, which is compiled
+// in.
 //
 // calls: "function(argument, ...)", one or several with "; " between; behind a " | " those for a
 // direct resource. An argument is
@@ -34,18 +35,11 @@ namespace pd_test {
 //                      a match or action spec to be filled
 //   meter, resources, ageing, wred, hash
 //                      the records that the scene gives
-struct FamilyCalls {
-  std::string family;
-  size_t count;  // exports of the family
-  std::string calls;
-};
-
-const std::vector<FamilyCalls> &family_calls();
-// Null for a family that is not in the list.
-const FamilyCalls *calls_of_family(std::string_view family);
+// Empty for a family that is not in the list.
+std::string calls_of(std::string_view family);
 
 // Whether the family hands its parameter on to the SDK as an out-parameter.
-bool hands_on(const FamilyCalls &row, std::string_view parameter);
+bool hands_on(std::string_view family, std::string_view parameter);
 
 // The states that profiles were seen to use; each profile keeps its own.
 using StatesSeen = std::map<std::string, uintptr_t>;

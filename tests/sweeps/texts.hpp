@@ -11,7 +11,7 @@
 #include <utility>
 
 #include "soft_placement.h"
-#include "typed.hpp"
+#include "support.hpp"
 
 namespace pd_test {
 
@@ -25,12 +25,15 @@ uint64_t call(const Export &function, Argument... arguments) {
   return function.call(words);
 }
 
+inline std::string text_at(uint64_t address) {
+  return reinterpret_cast<const char *>(static_cast<uintptr_t>(address));
+}
 inline std::string constant_text(const std::string &family, const std::string &object) {
-  return reinterpret_cast<const char *>(static_cast<uintptr_t>(call(*find_export(family, object))));
+  return text_at(call(*find_export(family, object)));
 }
 
-inline std::span<const Record> tables() { return bindings::pd_binding.tables.list(); }
-inline std::span<const Record> actions() { return bindings::pd_binding.actions.list(); }
+inline std::span<const Record> tables() { return binding().tables.list(); }
+inline std::span<const Record> actions() { return binding().actions.list(); }
 
 // The match spec of a table or the action spec of an action.
 class Spec {
@@ -107,7 +110,7 @@ inline Bytes key_bits(const pdgen::Table &table, const Member &member) {
 // A buffer of exactly size bytes with a guard behind it.
 class TextBuffer {
  public:
-  explicit TextBuffer(size_t size = P4_PD_TESSEL_SWITCH_VALUE_MAX)
+  explicit TextBuffer(size_t size = binding().sizes.value)
       : bytes_(size + 64, kUntouched), size_(size) {}
 
   char *data() { return bytes_.data(); }
@@ -144,11 +147,10 @@ inline std::string written(const Export &function, const Given &given, size_t si
 }
 
 inline std::string value_of(const Spec &spec, bool is_table) {
-  return is_table
-             ? written(*find_export("match_spec_value", spec.record().name),
-                       with("match_spec", spec.data()), P4_PD_TESSEL_SWITCH_MATCH_SPEC_VALUE_MAX)
-             : written(*find_export("action_value", spec.record().name),
-                       with("action_spec", spec.data()), P4_PD_TESSEL_SWITCH_ACTION_VALUE_MAX);
+  return is_table ? written(*find_export("match_spec_value", spec.record().name),
+                            with("match_spec", spec.data()), binding().sizes.match_spec_value)
+                  : written(*find_export("action_value", spec.record().name),
+                            with("action_spec", spec.data()), binding().sizes.action_value);
 }
 
 // What body(descriptor) prints.

@@ -23,8 +23,8 @@ Bytes kept_match_spec(const pdgen::Table &table, const uint8_t *record);
 // The action data of a record, without resources; type 0.
 ActionSpec action_image(const pdgen::Action &action, const uint8_t *record);
 
-// A meter spec of the caller, unaware of colours, with rates of a unit.
-pipe_mgr_meter_spec_t meter_image(const p4_pd_bytes_meter_spec_t &spec, uint32_t unit);
+// A meter spec of the caller, unaware of colours, with rates in the meter's unit.
+pipe_mgr_meter_spec_t meter_image(const p4_pd_bytes_meter_spec_t &spec, const pdgen::Resource &of);
 
 // What an operation of a pair sends; meter is the caller's spec, or null.
 ActionSpec action_image(const pdgen::Pair &pair, pdgen::Operation operation, const uint8_t *record,

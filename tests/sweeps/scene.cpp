@@ -12,6 +12,8 @@ namespace pd_test {
 
 namespace {
 
+using pdgen::Pair;
+
 // What must be there for a call of a family to succeed. An entry, member or group that a parameter
 // names, and the entry of a match spec that only names one, are there without saying so.
 enum Need : uint32_t {
@@ -79,54 +81,204 @@ bool takes_profile_handle(std::string_view family) {
   return family.find("_adt_") != family.npos || family.find("_member_") != family.npos;
 }
 
-// The functions that take a table's handle know no table of their own.
-const pdgen::Table *table_of(const Export &exported) {
-  const std::string_view family = exported.family;
-  if (family.ends_with("_direct")) return &table_named("flowDigestGeneration");
-  if (family == "stringify_counter_matchspec") return &table_named("trapToCpu");
-  if (is_by_handle(family) && !takes_profile_handle(family)) return &table_named("firewallPolicy");
-  if (const auto *table = pdgen::find_row(program().tables, exported.object)) return table;
-  for (const auto *resources : {&program().counters, &program().meters}) {
-    const pdgen::Resource *resource = pdgen::find_row(*resources, exported.object);
-    if (resource != nullptr && resource->direct()) return resource->table.target;
+bool holds_entries(const pdgen::Table &table) {
+  return table.indirect() || (table.keyed() && std::ranges::any_of(table.pairs, &Pair::in_entries));
+}
+bool has_default(const pdgen::Table &table) {
+  return table.indirect() || std::ranges::any_of(table.pairs, &Pair::as_default);
+}
+
+template <class Row>
+const Row *first(const std::vector<Row> &rows, bool (*fits)(const Row &) = nullptr) {
+  const auto found =
+      std::ranges::find_if(rows, [&](const Row &row) { return fits == nullptr || fits(row); });
+  return found == rows.end() ? nullptr : &*found;
+}
+
+// Whether an operation of the pair attaches the resource, or it is null.
+bool attaches(const Pair &pair, pdgen::Operation operation, const pdgen::Resource *resource) {
+  return resource == nullptr || std::ranges::any_of(pair.items, [&](auto &item) {
+           return item.resource == resource && item.sent_in(operation) &&
+                  item.tag != pdgen::ResourceTag::kDetach;
+         });
+}
+
+// The pair for an entry with the resource, if it is not null: the one that refers to most others,
+// as read-back has most to do for it. Null where no entry of the table can have it.
+const Pair *entry_pair(const pdgen::Table &table, const pdgen::Resource *resource) {
+  const Pair *richest = nullptr;
+  const auto riches = [](const Pair &pair) {
+    return pair.sent_in(pdgen::Operation::kAdd).size() * 2 + (pair.action->has_params() ? 1 : 0);
+  };
+  for (const Pair &pair : table.pairs) {
+    if (!pair.in_entries || !attaches(pair, pdgen::Operation::kAdd, resource)) continue;
+    if (richest == nullptr || riches(pair) > riches(*richest)) richest = &pair;
+  }
+  return table.keyed() ? richest : nullptr;
+}
+const Pair *default_pair(const pdgen::Table &table, const pdgen::Resource *resource) {
+  for (const Pair &pair : table.pairs) {
+    if (pair.as_default && attaches(pair, pdgen::Operation::kDefault, resource)) return &pair;
   }
   return nullptr;
 }
 
-const pdgen::Profile *profile_of(const Export &exported, const pdgen::Table *table) {
-  if (table != nullptr && table->indirect()) return table->profile.target;
-  if (is_by_handle(exported.family) && takes_profile_handle(exported.family)) {
-    return &program().profiles.front();
+// The table of functions that belong to none but take the handle of any.
+const pdgen::Table *table_for_all(std::string_view family) {
+  const std::vector<pdgen::Table> &tables = program().tables;
+  if (family == "stringify_counter_matchspec") {
+    const auto &labels = program().labels;
+    return labels.empty() ? nullptr : labels.front().table.target;
   }
-  return pdgen::find_row(program().profiles, exported.object);
+  if (family.ends_with("_default")) return first(tables, has_default);
+  const pdgen::Table *direct = first<pdgen::Table>(
+      tables, [](const pdgen::Table &table) { return holds_entries(table) && !table.indirect(); });
+  return direct != nullptr ? direct : first(tables, holds_entries);
 }
 
-// The pair whose entries refer to most resources: read-back has most to do for it.
-const pdgen::Pair &richest_pair(const pdgen::Table &table) {
-  return *std::ranges::max_element(table.pairs, {}, [](const pdgen::Pair &pair) {
-    return pair.sent_in(pdgen::Operation::kAdd).size() * 2 + (pair.action->has_params() ? 1 : 0);
-  });
+// The functions that take a meter's handle say its unit.
+const pdgen::Resource *meter_for_all(std::string_view family) {
+  return family.starts_with("packets_")
+             ? first<pdgen::Resource>(program().meters,
+                                      [](const pdgen::Resource &meter) {
+                                        return !meter.direct() &&
+                                               meter.unit == pdgen::MeterUnit::kPackets;
+                                      })
+             : first<pdgen::Resource>(program().meters, [](const pdgen::Resource &meter) {
+                 return !meter.direct() && meter.unit == pdgen::MeterUnit::kBytes;
+               });
+}
+
+template <class Row>
+const Row *named_or_first(const std::vector<Row> &rows, const Export &exported) {
+  return exported.object[0] == 0 ? first(rows) : pdgen::find_row(rows, exported.object);
+}
+
+Subject with_handle(const auto *row) {
+  Subject subject;
+  if (row != nullptr) subject.handle = row->handle;
+  subject.is_there = row != nullptr;
+  return subject;
+}
+
+Subject about_resource(const pdgen::Resource *resource) {
+  Subject subject = with_handle(resource);
+  subject.resource = resource;
+  if (resource == nullptr || !resource->direct()) return subject;
+  subject.table = resource->table.target;
+  subject.is_there = entry_pair(*subject.table, resource) != nullptr ||
+                     default_pair(*subject.table, resource) != nullptr;
+  return subject;
+}
+
+Subject about_table(const pdgen::Table *table) {
+  Subject subject;
+  subject.table = table;
+  subject.is_there = table != nullptr;
+  if (subject.is_there && table->indirect()) subject.profile = table->profile.target;
+  return subject;
 }
 
 }  // namespace
 
-// A table without a key has nothing to enumerate, and a table none of whose actions may be the
-// default has no default entry. No register belongs to the entries of a table.
+Subject subject_of(const Export &exported) {
+  const std::string_view family = exported.family;
+  const auto &all = program();
+  if (family.starts_with("action_")) return {};
+  if (family.starts_with("counter_")) {
+    return about_resource(pdgen::find_row(all.counters, exported.object));
+  }
+  if (family.starts_with("meter_")) {
+    return about_resource(pdgen::find_row(all.meters, exported.object));
+  }
+  if (family.find("s_meter_") != family.npos) return about_resource(meter_for_all(family));
+  if (family.starts_with("register_") && !family.ends_with("_direct") &&
+      !family.starts_with("register_callback") && family.find("_update_cb") == family.npos) {
+    return about_resource(named_or_first(all.registers, exported));
+  }
+  if (family.starts_with("hash_calc_")) {
+    Subject subject = with_handle(named_or_first(all.hashes, exported));
+    subject.hash = named_or_first(all.hashes, exported);
+    return subject;
+  }
+  if (family.starts_with("digest_") || family.starts_with("get_digest_")) {
+    return with_handle(named_or_first(all.digests, exported));
+  }
+  if (family.starts_with("pvs_"))
+    return with_handle(pdgen::find_row(all.value_sets, exported.object));
+  if (is_by_handle(family) && takes_profile_handle(family)) {
+    Subject subject;
+    subject.profile = first(all.profiles);
+    subject.is_there = subject.profile != nullptr;
+    return subject;
+  }
+  if (is_by_handle(family) || family.ends_with("_direct") ||
+      family == "stringify_counter_matchspec") {
+    return about_table(table_for_all(family));
+  }
+  if (const auto *table = pdgen::find_row(all.tables, exported.object)) return about_table(table);
+  Subject subject;
+  subject.profile = pdgen::find_row(all.profiles, exported.object);
+  return subject;
+}
+
+// A table that can hold no entry has nothing to enumerate, and a table none of whose actions may be
+// the default has no default entry. No register belongs to the entries of a table.
 p4_pd_status_t expected_status(const Export &exported) {
   const std::string_view family = exported.family;
-  const pdgen::Table *table = table_of(exported);
-  bool succeeds = true;
-  if (family == "get_first_entry_handle" || family == "get_next_entry_handles") {
-    succeeds = table->keyed();
-  }
-  if (family == "table_get_default_entry" || family == "table_get_default_entry_handle") {
-    succeeds = table->indirect() || std::ranges::any_of(table->pairs, &pdgen::Pair::as_default);
-  }
   if (family == "register_read_direct" || family == "register_hw_sync_direct") {
     return BF_NOT_SUPPORTED;
   }
   if (family == "register_write_direct") return BF_INVALID_HANDLE;
+  bool succeeds = true;
+  if (family == "get_first_entry_handle" || family == "get_next_entry_handles") {
+    succeeds = holds_entries(*subject_of(exported).table);
+  }
+  if (family == "table_get_default_entry" || family == "table_get_default_entry_handle") {
+    succeeds = has_default(*subject_of(exported).table);
+  }
   return succeeds ? BF_SUCCESS : BF_OBJECT_NOT_FOUND;
+}
+
+namespace {
+
+uint32_t needs_of(const Export &exported, const Subject &subject) {
+  uint32_t needs = 0;
+  const std::string family = fmt::format(" {} ", exported.family);
+  for (const Needs &row : kNeeds) {
+    if (row.families.find(family) != row.families.npos) needs = row.needs;
+  }
+  if (std::string_view(exported.family).starts_with("hash_calc_")) needs |= kHash;
+  for (const bindings::Parameter &parameter : exported.parameter_list()) {
+    const std::string_view name = parameter.name;
+    if (name == "match_spec" && is_input(parameter)) needs |= kEntry;
+    if (is_pointer(parameter)) continue;
+    if (name == "entry" && subject.table != nullptr) needs |= kEntry;
+    if (name == "member" && subject.profile != nullptr) needs |= kMember;
+    if (name == "group" && subject.profile != nullptr) needs |= kGroup;
+  }
+  if ((needs & kNewKey) != 0) needs &= ~uint32_t{kEntry};
+  if ((needs & (kEntry | kDefault)) != 0 && subject.table->indirect()) needs |= kMember;
+  return needs;
+}
+
+std::vector<const Export *> exports_by_scene(bool has_scene) {
+  std::vector<const Export *> chosen;
+  std::ranges::copy_if(all_exports(), std::back_inserter(chosen), [&](const Export *exported) {
+    return subject_of(*exported).is_there == has_scene;
+  });
+  return chosen;
+}
+
+}  // namespace
+
+const std::vector<const Export *> &exports_with_scene() {
+  static const std::vector<const Export *> all = exports_by_scene(true);
+  return all;
+}
+const std::vector<const Export *> &exports_without_scene() {
+  static const std::vector<const Export *> all = exports_by_scene(false);
+  return all;
 }
 
 // ---- Setting up ----
@@ -136,12 +288,14 @@ Scene::Scene(const Export &exported, std::string_view variation)
       allocations_before_(soft_allocations_live()),
       random_(random_for(fmt::format("{} {}", exported.name, variation))),
       arguments_(exported),
-      table_(table_of(exported)),
-      profile_(profile_of(exported, table_)),
+      subject_(subject_of(exported)),
+      table_(subject_.table),
+      profile_(subject_.profile),
       meter_spec_(random_meter_spec(random_)),
       priority_(static_cast<uint32_t>(random_())) {
   if (table_ != nullptr) match_spec_ = random_record(record_of(*table_), random_);
-  set_up(find_needs());
+  client();
+  set_up(needs_of(exported, subject_));
   if (const auto *action = pdgen::find_row(program().actions, exported.action)) {
     action_spec_ = random_record(record_of(*action), random_);
   }
@@ -151,34 +305,14 @@ Scene::Scene(const Export &exported, std::string_view variation)
 Scene::~Scene() {
   soft_placement_free(placement_);
   if (soft_client_count() == 0) {
-    EXPECT_EQ(p4_pd_tessel_switch_init(), BF_SUCCESS);
+    EXPECT_EQ(initialise(), BF_SUCCESS);
   }
   EXPECT_EQ(soft_allocations_live(), allocations_before_) << exported_.name;
 }
 
-uint32_t Scene::find_needs() const {
-  uint32_t needs = 0;
-  const std::string family = fmt::format(" {} ", exported_.family);
-  for (const Needs &row : kNeeds) {
-    if (row.families.find(family) != row.families.npos) needs = row.needs;
-  }
-  if (std::string_view(exported_.family).starts_with("hash_calc_")) needs |= kHash;
-  for (const bindings::Parameter &parameter : exported_.parameter_list()) {
-    const std::string_view name = parameter.name;
-    if (name == "match_spec" && is_input(parameter)) needs |= kEntry;
-    if (is_pointer(parameter)) continue;
-    if (name == "entry" && table_ != nullptr) needs |= kEntry;
-    if (name == "member" && profile_ != nullptr) needs |= kMember;
-    if (name == "group" && profile_ != nullptr) needs |= kGroup;
-  }
-  if ((needs & kNewKey) != 0) needs &= ~uint32_t{kEntry};
-  if ((needs & (kEntry | kDefault)) != 0 && table_->indirect()) needs |= kMember;
-  return needs;
-}
-
 void Scene::set_up(uint32_t needs) {
   if ((needs & kDeregistered) != 0) {
-    EXPECT_EQ(p4_pd_tessel_switch_cleanup(), BF_SUCCESS);
+    EXPECT_EQ(clean_up(), BF_SUCCESS);
   }
   if ((needs & kVirtual) != 0) virtual_device_.emplace(kSceneVirtualDevice, true);
   if ((needs & kValueEntry) != 0) add_value_entries();
@@ -201,7 +335,7 @@ void Scene::set_up(uint32_t needs) {
 }
 
 p4_pd_status_t Scene::add_entry_of(const Bytes &match_spec, uint32_t *entry) {
-  const pdgen::Pair *pair = table_->indirect() ? nullptr : &richest_pair(*table_);
+  const Pair *pair = entry_pair(*table_, direct_resource());
   const Bytes spec = pair == nullptr ? Bytes() : random_record(record_of(*pair->action), random_);
   Arguments add(pair == nullptr ? *find_export("add_entry", table_->name)
                                 : *find_export("table_add", table_->name, pair->action->name));
@@ -215,15 +349,24 @@ Given Scene::given(const Bytes &spec) const {
               50000, "member", member_);
 }
 
-// The entry of a table without a key is its default entry.
+// Of the entries that the export is about.
+const pdgen::Resource *Scene::direct_resource() const {
+  const pdgen::Resource *resource = subject_.resource;
+  return resource != nullptr && resource->direct() ? resource : nullptr;
+}
+
+// The entry of a table that can hold none is its default entry.
 void Scene::add_entry() {
-  if (!table_->keyed()) return set_default_entry();
+  if (!table_->indirect() && entry_pair(*table_, direct_resource()) == nullptr) {
+    return set_default_entry();
+  }
   EXPECT_EQ(add_entry_of(match_spec_, &entry_), BF_SUCCESS) << table_->name;
 }
 
 // A key of few bits may come up twice.
 void Scene::add_second_entry() {
-  if (!table_->keyed()) return;
+  if (!holds_entries(*table_)) return;
+  soft_table_capacity_set(kDevice, table_->handle, 0);
   uint32_t entry = 0;
   p4_pd_status_t status = BF_ALREADY_EXISTS;
   while (status == BF_ALREADY_EXISTS) {
@@ -237,8 +380,8 @@ void Scene::set_default_entry() {
     entry_ = make("set_default_entry", table_->name, "", given({}));
     return;
   }
-  const auto pair = std::ranges::find_if(table_->pairs, &pdgen::Pair::as_default);
-  if (pair == table_->pairs.end()) return;
+  const Pair *pair = default_pair(*table_, direct_resource());
+  if (pair == nullptr) return;
   const Bytes spec = random_record(record_of(*pair->action), random_);
   entry_ = make("set_default_action", table_->name, pair->action->name, given(spec));
 }
@@ -303,8 +446,8 @@ void Scene::send_digest() {
 
 // Also those that are only named by a text.
 void Scene::configure_hashes() {
-  const p4_pd_hash_calc_attr_t attribute = {1, 0, 0x77};
   for (const pdgen::Hash &hash : program().hashes) {
+    const p4_pd_hash_calc_attr_t attribute = {hash.field_count - 1, 0, 0x77};
     for (const char *family : {"hash_calc_input_set", "hash_calc_algorithm_set",
                                "hash_calc_input_field_attribute_set"}) {
       EXPECT_EQ(
@@ -318,13 +461,15 @@ void Scene::configure_hashes() {
 void Scene::take_snapshot() {
   const unsigned bytes = program().snapshots->record_bytes;
   const Bytes any(bytes);
-  snapshot_ = make("snapshot_create", "", "",
-                   with("pipe", kPipe, "direction", 0, "first_stage", 1, "last_stage", 1));
+  snapshot_ = make(
+      "snapshot_create", "", "",
+      with("pipe", kPipe, "direction", snapshot_direction(), "first_stage", 1, "last_stage", 1));
   EXPECT_EQ(run("snapshot_capture_trigger_set", "",
                 with("snapshot", snapshot_, "value", any.data(), "mask", any.data())),
             BF_SUCCESS);
   uint32_t captures = 0;
-  EXPECT_EQ(soft_snapshot_inject(kDevice, kPipe, 0, 1, any.data(), 1, bytes, &captures),
+  EXPECT_EQ(soft_snapshot_inject(kDevice, kPipe, snapshot_direction(), 1, any.data(), 1, bytes,
+                                 &captures),
             BF_SUCCESS);
   EXPECT_EQ(captures, 1u);
 }

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -83,7 +84,7 @@ struct Shown {
 // What the arguments of the calls of a scene should be.
 class Wanted {
  public:
-  Wanted(const Scene &scene) : scene_(scene), family_(scene.exported().family) {}
+  explicit Wanted(const Scene &scene) : scene_(scene) {}
 
   Value value(const std::string &wanted) const {
     if (wanted == "null") return NullPointer{};
@@ -91,14 +92,14 @@ class Wanted {
       return key_image(*scene_.table(), scene_.match_spec().data(),
                        arguments().takes("priority") ? word("priority") : 0);
     }
-    if (wanted == "client_name") return std::string("p4_pd_tessel_switch_pd");
+    if (wanted == "client_name") return prefix() + "pd";
     if (wanted == "ageing") return object<pipe_mgr_idle_params_t>("params");
     if (wanted == "params") return object<pipe_mgr_wred_spec_t>("params");
     if (wanted == "hash") return bytes_in(object<std::array<uint8_t, 4>>("hash"));
     if (wanted == "meter_record") return meter();
     if (wanted == "direct_meter") {
       pipe_mgr_resource_t resource{};
-      resource.handle = resource_handle();
+      resource.handle = scene_.subject().handle;
       resource.tag = 1;
       resource.data.meter = meter();
       return std::vector{resource};
@@ -146,9 +147,9 @@ class Wanted {
     return std::nullopt;
   }
 
-  // What read-back offers to be filled: the key of the table, 28 bytes of action data, or nothing.
+  // What read-back offers to be filled: the key of the table, bytes for any action, or nothing.
   Value buffer(const std::string &wanted) const {
-    const ActionData data = {0, 28, Bytes()};
+    const ActionData data = {0, greatest_action_data(), Bytes()};
     if (wanted == "member_buffer") return data;
     if (wanted == "key_buffer") {
       const pdgen::Table &table = *scene_.table();
@@ -163,29 +164,16 @@ class Wanted {
     return spec;
   }
 
-  pipe_mgr_meter_spec_t meter() const {
-    const pdgen::Resource *named = pdgen::find_row(program().meters, scene_.exported().object);
-    const bool packets = named == nullptr ? family_.starts_with("packets")
-                                          : named->unit == pdgen::MeterUnit::kPackets;
-    return meter_image(scene_.meter_spec(), packets ? PIPE_RATE_PACKETS : PIPE_RATE_BYTES);
-  }
-
-  // The first calculation is the one that scenes name.
-  const pdgen::Hash *hash() const {
-    return family_.ends_with("_by_name")
-               ? &program().hashes.front()
-               : pdgen::find_row(program().hashes, scene_.exported().object);
-  }
-
-  uint32_t resource_handle() const {
-    const char *object = scene_.exported().object;
-    if (hash() != nullptr) return hash()->handle;
-    for (const auto *rows : {&program().counters, &program().meters, &program().registers}) {
-      if (const auto *row = pdgen::find_row(*rows, object)) return row->handle;
+  static uint16_t greatest_action_data() {
+    unsigned greatest = 28;  // that of any program at least
+    for (const pdgen::Action &action : program().actions) {
+      greatest = std::max(greatest, action.data_bytes);
     }
-    if (const auto *set = pdgen::find_row(program().value_sets, object)) return set->handle;
-    const auto *digest = pdgen::find_row(program().digests, object);
-    return digest == nullptr ? 0 : digest->handle;
+    return static_cast<uint16_t>(greatest);
+  }
+
+  pipe_mgr_meter_spec_t meter() const {
+    return meter_image(scene_.meter_spec(), *scene_.subject().resource);
   }
 
   uint32_t pair_handle() const {
@@ -203,11 +191,12 @@ class Wanted {
     if (wanted == "table") return scene_.table()->handle;
     if (wanted == "adt") return scene_.profile()->action_data_handle;
     if (wanted == "sel") return scene_.profile()->selector_handle;
-    if (wanted == "resource") return resource_handle();
-    if (wanted == "field_list") return hash()->field_list_handle;
+    if (wanted == "resource") return scene_.subject().handle;
+    if (wanted == "field_list") return scene_.subject().hash->field_list_handle;
+    if (wanted == "algorithm_handle") return program().hash_algorithm;
     if (wanted == "action") return pair_handle();
     if (wanted == "member_action") return scene_.member_action();
-    if (wanted == "client") return bf_drv_hdl;
+    if (wanted == "client") return client();
     if (wanted == "ttl?") return arguments().takes("ttl") ? arguments().get("ttl") : 0;
     if (wanted.starts_with("got ")) {
       uint32_t word = 0;
@@ -218,7 +207,6 @@ class Wanted {
   }
 
   const Scene &scene_;
-  const std::string_view family_;
 };
 
 // What the SDK wrote has arrived at the caller's pointer.

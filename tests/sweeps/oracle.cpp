@@ -154,7 +154,8 @@ ActionSpec action_image(const pdgen::Action &action, const uint8_t *record) {
   return image;
 }
 
-pipe_mgr_meter_spec_t meter_image(const p4_pd_bytes_meter_spec_t &spec, uint32_t unit) {
+pipe_mgr_meter_spec_t meter_image(const p4_pd_bytes_meter_spec_t &spec, const pdgen::Resource &of) {
+  const uint32_t unit = of.unit == pdgen::MeterUnit::kPackets ? PIPE_RATE_PACKETS : PIPE_RATE_BYTES;
   pipe_mgr_meter_spec_t meter{};
   meter.type = 1;
   meter.committed_rate = {unit, spec.committed_rate};
@@ -194,7 +195,7 @@ ActionSpec action_image(const pdgen::Pair &pair, pdgen::Operation operation, con
     }
     resource.tag = tag_of(item, operation, meter != nullptr);
     if (item.tag == pdgen::ResourceTag::kMeterSpec && meter != nullptr) {
-      resource.data.meter = meter_image(*meter, PIPE_RATE_BYTES);
+      resource.data.meter = meter_image(*meter, *item.resource);
     }
     image.resources.push_back(resource);
     ++image.resource_count;
