@@ -9,6 +9,7 @@
 #include <iterator>
 #include <map>
 #include <ranges>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -19,90 +20,72 @@
 
 namespace {
 
-struct Option {
-  std::string_view name;
-  std::string_view argument;  // empty: none
-  const char *help;
-};
+// The options are read from here: a line for each, with its name and what it takes.
+constexpr std::string_view kHelp =
+    R"(usage: pdgen --catalogue DIR --check
+       pdgen --catalogue DIR [--build DIR] [--header FILE] [--exports FILE]
+             [--handles FILE] [--soname N] [--families DIR]
 
-constexpr Option kOptions[] = {
-    {"--catalogue", "DIR", "the folder of the program's .toml files"},
-    {"--check", "", "read the catalogue and report its faults, but write nothing"},
-    {"--build", "DIR",
-     "write all that is compiled: descriptors, wrappers, version script, layout\n"
-     "test, soft SDK description, call table"},
-    {"--header", "FILE", "write the public header"},
-    {"--exports", "FILE", "write the list of exported names"},
-    {"--handles", "FILE", "write the list of handles with their objects"},
-    {"--soname", "N", "version of the shared object (1)"},
-    {"--families", "DIR",
-     "the folder of the .family files that state the interface, if not those\n"
-     "that pdgen was built with"},
-    {"--help", "", "show this"},
-    {"--version", "", "show the version"},
-};
+Reads the catalogue of a P4 program and writes the sources of its control-plane
+library. Files whose text does not change are left alone.
 
-constexpr const char *kPurpose =
-    "usage: pdgen --catalogue DIR --check\n"
-    "       pdgen --catalogue DIR [--build DIR] [--header FILE] [--exports FILE]\n"
-    "             [--handles FILE] [--soname N] [--families DIR]\n"
-    "\n"
-    "Reads the catalogue of a P4 program and writes the sources of its control-plane library. "
-    "Files\n"
-    "whose text does not change are left alone.\n"
-    "\n";
+  --catalogue DIR  the folder of the program's .toml files
+  --check          report the faults of the catalogue and write nothing
+  --build DIR      write all that is compiled: descriptors, wrappers, version script,
+                   layout test, soft SDK description, call table
+  --header FILE    write the public header
+  --exports FILE   write the list of exported names
+  --handles FILE   write the list of handles with their objects
+  --soname N       version of the shared object (1)
+  --families DIR   the folder of the .family files that state the interface, if not
+                   those that pdgen was built with
+  --help           show this
+  --version        show the version
 
-constexpr const char *kRest =
-    "\n"
-    "A catalogue has program.toml, actions.toml and tables.toml, and where the program has such\n"
-    "things profiles.toml, stateful.toml (counters, meters, registers), hashes.toml, "
-    "digests.toml,\n"
-    "value_sets.toml, snapshots.toml, labels.toml and fields.toml (how tools show fields).\n"
-    "\n"
-    "Faults are printed as FILE:LINE: KEY: WHAT. Exit status: 0 when all is done; 1 after a fault "
-    "of\n"
-    "the catalogue or of a family, or a wrong option, and then nothing was written; 1 as well when "
-    "a\n"
-    "file cannot be written.\n"
-    "\n"
-    "Example: pdgen --catalogue catalogue --build build/generated --header include/p4_pd_leaf.h\n";
+A catalogue has program.toml, actions.toml and tables.toml and, where the program has
+such things, profiles.toml, stateful.toml (counters, meters, registers), hashes.toml,
+digests.toml, value_sets.toml, snapshots.toml, labels.toml and fields.toml (how tools
+show fields).
+
+Faults are shown as FILE:LINE: KEY: WHAT. Exit status: 0 when all is done; 1 after a
+fault or a wrong option, and then nothing is written, or if a file cannot be written.
+
+Example: pdgen --catalogue catalogue --build build/leaf --header include/p4_pd_leaf.h
+)";
+
+// What each option takes, "" if nothing, by its name.
+std::map<std::string, std::string> known_options() {
+  std::map<std::string, std::string> options;
+  std::istringstream lines{std::string(kHelp)};
+  for (std::string line; std::getline(lines, line);) {
+    const std::vector<std::string> words = pdgen::words(line.substr(0, 18));
+    if (line.starts_with("  --")) options[words[0]] = words.size() > 1 ? words[1] : "";
+  }
+  return options;
+}
 
 // The values of the options that are given, by their names.
 using Options = std::map<std::string, std::string, std::less<>>;
 
-std::string help_text() {
-  std::string text = kPurpose;
-  for (const auto &[name, argument, help] : kOptions) {
-    std::string lines = help;
-    const std::size_t end = lines.find('\n');
-    if (end != lines.npos) lines.insert(end + 1, std::string(20, ' '));
-    text += fmt::format("  {:<17} {}\n", fmt::format("{} {}", name, argument), lines);
-  }
-  return text + kRest;
-}
-
 // What is wrong with the arguments, "" if nothing is. Each is NAME, NAME VALUE or NAME=VALUE.
 std::string parse(const std::vector<std::string> &arguments, Options &options) {
+  const auto known = known_options();
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     std::string value = arguments[i];
     const std::string name = value.substr(0, value.find('='));
     value.erase(0, name.size());
-    const auto *option = std::ranges::find(kOptions, name, &Option::name);
-    if (option == std::end(kOptions)) {
-      const auto names = kOptions | std::views::transform(&Option::name);
-      return fmt::format("{} is no option{}", name, pdgen::did_you_mean(name, names));
+    const auto option = known.find(name);
+    if (option == known.end()) {
+      return fmt::format("{} is no option{}", name,
+                         name.starts_with("-") ? pdgen::did_you_mean(name, known | std::views::keys)
+                                               : "; did you mean --catalogue " + name + "?");
     }
-    if (option->argument.empty()) {
-      if (!value.empty()) return fmt::format("{} takes no value", name);
-    } else if (!value.empty()) {
-      value.erase(0, 1);
-    } else if (++i < arguments.size()) {
-      value = arguments[i];
-    }
-    if (value.empty() && !option->argument.empty()) {
-      return fmt::format("{} needs a value: {} {}", name, name, option->argument);
-    }
-    options[name] = value;
+    const bool takes_value = !option->second.empty();
+    if (!value.empty() && !takes_value) return name + " takes no value";
+    if (takes_value && value.empty() && ++i < arguments.size()) value = "=" + arguments[i];
+    if (takes_value && value.size() < 2)
+      return fmt::format("{} needs its {}", name, option->second);
+    options[name] = takes_value ? value.substr(1) : "";
   }
   return "";
 }
@@ -203,7 +186,7 @@ int main(int argc, char **argv) {
   Options options;
   std::string fault = parse({argv + 1, argv + argc}, options);
   if (fault.empty() && options.contains("--help")) {
-    fmt::print("{}", help_text());
+    fmt::print("{}", kHelp);
     return 0;
   }
   if (fault.empty() && options.contains("--version")) {

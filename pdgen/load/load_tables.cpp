@@ -79,21 +79,16 @@ TableKind kind_of(const std::vector<KeyField> &key) {
 }
 
 void check_match_kinds(RowReader &row, const Table &table) {
-  const KeyField *lpm = nullptr;
-  for (const KeyField &field : table.key) {
-    if (field.match != Match::kLpm) continue;
-    const auto report = [&](const std::string &message) {
-      row.report_at(field.place, "key.match", "field {} of {} is lpm, {}", field.name, row.what(),
-                    message);
-    };
-    if (lpm != nullptr) report("as is " + lpm->name + "; a key has at most one lpm field");
-    if (table.kind == TableKind::kTernary) {
-      report("but the key has ternary fields");
-    } else if (field.width % 8 != 0) {
-      report(fmt::format("so its width is a multiple of 8, not {}", field.width));
-    }
-    lpm = &field;
-  }
+  const auto is_lpm = [](const KeyField &field) { return field.match == Match::kLpm; };
+  const auto count = std::ranges::count_if(table.key, is_lpm);
+  if (count == 0) return;
+  const KeyField &last = *std::ranges::find_if(table.key.rbegin(), table.key.rend(), is_lpm);
+  const char *fault = table.kind == TableKind::kTernary ? "but the key has ternary fields"
+                      : count > 1                       ? "and a key has at most one such field"
+                      : last.width % 8 != 0             ? "so its width must be a multiple of 8"
+                                                        : nullptr;
+  if (fault == nullptr) return;
+  row.report_at(last.place, "key.match", "field {} of {} is lpm, {}", last.name, row.what(), fault);
 }
 
 void read_pair(RowReader &row, Pair &pair) {
@@ -105,13 +100,11 @@ void read_pair(RowReader &row, Pair &pair) {
 void read_operations(RowReader &row, bool keyed, ResourceRow &resource) {
   for (const auto &[name, place] : row.words("in", kRequired)) {
     const auto *found = std::ranges::find(kNamesOf<Operation>, name);
+    const auto operation = static_cast<std::size_t>(found - kNamesOf<Operation>.begin());
     if (found == kNamesOf<Operation>.end()) {
       row.report("in", "\"{}\" of {} must be one of {}", name, row.what(),
                  fmt::join(kNamesOf<Operation>, ", "));
-      continue;
-    }
-    const auto operation = static_cast<std::size_t>(found - kNamesOf<Operation>.begin());
-    if (!keyed && operation != static_cast<std::size_t>(Operation::kDefault)) {
+    } else if (!keyed && operation != static_cast<std::size_t>(Operation::kDefault)) {
       row.report("in", "{} is sent in {}, but a table without a key has no entries", row.what(),
                  name);
     }
