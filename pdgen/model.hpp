@@ -196,7 +196,7 @@ struct Pair {
   Ref<Action> action;
   Place place;
   std::uint32_t handle = 0;         // action function handle of this table and action
-  bool in_entries = false;          // false only in tables without a key
+  bool in_entries = false;          // entries may carry it; none does in a table without a key
   bool as_default = false;          // may be the default action
   std::vector<ResourceItem> items;  // in list order
 
@@ -211,6 +211,15 @@ struct Pair {
       return item.tag == ResourceTag::kMeterSpec && item.sent_in(operation);
     });
   }
+};
+
+// The default entry of a fresh device.
+struct DefaultEntry {
+  Place place;
+  Ref<Action> action;
+  std::vector<std::uint32_t> values;  // of its parameters, in record order
+  const Pair *pair = nullptr;         // of the action
+  std::vector<ResourceItem> cells;    // that it refers to
 };
 
 struct Profile;
@@ -229,6 +238,9 @@ struct Table {
   bool idle_time = false;
   Ref<Profile> profile;     // set: entries point at members and groups, and pairs is empty
   std::vector<Pair> pairs;  // as the catalogue orders them
+  unsigned size = 0;        // most entries; 0: unlimited
+  // As the catalogue states it, else the one action that may be it with zeroes, if one alone may.
+  std::optional<DefaultEntry> default_entry;
   const Table *first_of_key = nullptr;  // the first table whose key has the same schema
   std::vector<ResourceRow> resources;
 

@@ -58,6 +58,17 @@ std::vector<Scope> each_route_table(S scope) {
   return routes ? each_target(scope, routes->tables) : std::vector<Scope>{};
 }
 
+// The default entry of a fresh device, if it has one.
+std::vector<Scope> each_initial(S scope) {
+  const auto &entry = scope.get<Table>().default_entry;
+  if (!entry) return {};
+  Scope initial = scope;
+  initial.set(*entry);
+  initial.set(*entry->pair);
+  initial.set(*entry->pair->action);
+  return {initial};
+}
+
 constexpr auto each_pair = each_with<&Table::pairs, &Pair::action>;
 constexpr auto each_label = each_with<&Program::labels, &Label::table>;
 
@@ -81,6 +92,9 @@ const Walk kWalks[] = {
     {"table", "pair", "action pair", each_pair},
     {"table", "default", "action default",
      [](S s) { return only(each_pair(s), [](S pair) { return pair.get<Pair>().as_default; }); }},
+    {"table", "initial", "action pair initial", each_initial},
+    {"initial", "initial_cell", "resource item initial_cell",
+     each_with<&DefaultEntry::cells, &ResourceItem::resource>},
     {"table", "field", "field", each<&Table::key>},
     {"table", "record_field", "record_field", each<&Table::record>},
     {"pair", "item", "resource item", each_with<&Pair::items, &ResourceItem::resource>},

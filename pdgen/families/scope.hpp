@@ -43,9 +43,9 @@ class Scope {
   std::string group() const;
 
  private:
-  std::tuple<const Program *, const Table *, const Pair *, const KeyField *, const RecordField *,
-             const ResourceItem *, const Action *, const Param *, const Profile *,
-             const ProfileAction *, const Resource *, const Hash *, const Digest *,
+  std::tuple<const Program *, const Table *, const Pair *, const DefaultEntry *, const KeyField *,
+             const RecordField *, const ResourceItem *, const Action *, const Param *,
+             const Profile *, const ProfileAction *, const Resource *, const Hash *, const Digest *,
              const PacketField *, const ValueSet *, const SnapshotLayout *, const Handle *,
              const Label *, const LabelItem *, const LabelText *, const ToolRecords *,
              const ToolRecord *, const ToolMember *, const ToolField *, const Api *, const Note *,

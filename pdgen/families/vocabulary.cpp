@@ -100,6 +100,27 @@ Text compared_bytes(S s) {
   return fmt::format("{:#04x}", fmt::join(bytes, ", "));
 }
 
+// What a parameter is in the default entry of a fresh device.
+std::uint32_t initial_value(S s, const Param &param) {
+  const auto at = index_of<&Action::params>(s, param);
+  return s.get<DefaultEntry>().values[at];
+}
+
+// Its action data; a value that names a cell is no part of them.
+Text initial_data(S s) {
+  std::vector<unsigned> bytes;
+  for (const Param &param : s.get<Action>().params) {
+    const Bits value = {0, param.is_index() ? 0 : initial_value(s, param)};
+    for (unsigned i = param.bytes; i-- > 0;) bytes.push_back(byte_of(value, i));
+  }
+  return fmt::format("{:#04x}", fmt::join(bytes, ", "));
+}
+
+Text initial_index(S s) {
+  const Param *index = s.get<ResourceItem>().index;
+  return text_of(index == nullptr ? 0 : initial_value(s, *index));
+}
+
 // Where a field of a packet lies in a capture: under its own name or, a part of a longer field,
 // among the bytes of that one.
 Text captured_at(S s) {
@@ -231,6 +252,7 @@ const Placeholder kPlaceholders[] = {
     // A table without a key counts as exact.
     {"table", "MATCH",
      [](S s) { return is_keyed(s) ? capitals<&Table::kind>(s) : "EXACT"; }},
+    {"table", "size", text<&Table::size>},
     {"table", "profile_index", profile_index},
     {"table", "action_data",
      [](S s) {
@@ -277,6 +299,8 @@ const Placeholder kPlaceholders[] = {
      }},
     {"record_field", "remark", field_remark},
     {"pair", "action_handle", hex<&Pair::handle>},
+    {"initial", "data", initial_data},
+    {"initial_cell", "index", initial_index},
     {"item", "index", [](S s) { return s.get<ResourceItem>().index->name; }},
     {"item", "tag", name_of<&ResourceItem::tag>},
     {"item", "UNIT",
@@ -427,6 +451,8 @@ const Condition kConditions[] = {
     {"record_field", "wide", [](S s) { return s.get<RecordField>().storage_bytes == 16; }},
     {"action", "parameters", [](S s) { return s.get<Action>().has_params(); }},
     {"pair", "as_default", flag<&Pair::as_default>},
+    {"pair", "in_entries", flag<&Pair::in_entries>},
+    {"pair", "default_only", [](S s) { return is_keyed(s) && !s.get<Pair>().in_entries; }},
     {"pair", "metered", [](S s) { return s.get<Pair>().takes_meter_spec(Operation::kAdd); }},
     {"default", "metered", [](S s) { return s.get<Pair>().takes_meter_spec(Operation::kDefault); }},
     {"item", "indexed", [](S s) { return s.get<ResourceItem>().index != nullptr; }},

@@ -91,6 +91,25 @@ void list_resource_items(Table &table) {
   }
 }
 
+// Of what a default entry refers to, the fresh device has what a call could have set without a
+// meter spec; where the catalogue states none, it has the action alone.
+void complete_default_entry(Table &table) {
+  const bool is_stated = table.default_entry.has_value();
+  const auto is_it = [&](const Pair &pair) {
+    return is_stated ? pair.action.target == table.default_entry->action.target : pair.as_default;
+  };
+  if (!is_stated && std::ranges::count_if(table.pairs, is_it) != 1) return;
+  const Pair &pair = *std::ranges::find_if(table.pairs, is_it);
+  if (!is_stated) {
+    table.default_entry.emplace().values.assign(pair.action->params.size(), 0);
+  } else {
+    table.default_entry->cells = pair.sent_in(Operation::kDefault);
+    std::erase_if(table.default_entry->cells,
+                  [](const ResourceItem &item) { return item.tag != ResourceTag::kAttach; });
+  }
+  table.default_entry->pair = &pair;
+}
+
 void share_key_schemas(std::vector<Table> &tables) {
   std::map<std::string, const Table *> first;
   for (Table &table : tables) {
@@ -115,6 +134,7 @@ void derive_facts(Program &program) {
     name_fields(table, program.field_facts);
     lay_out_record(table);
     list_resource_items(table);
+    complete_default_entry(table);
   }
   share_key_schemas(program.tables);
   complete_labels(program);

@@ -91,10 +91,31 @@ void check_match_kinds(RowReader &row, const Table &table) {
   row.report_at(last.place, "key.match", "field {} of {} is lpm, {}", last.name, row.what(), fault);
 }
 
-void read_pair(RowReader &row, Pair &pair) {
+// Whether the action may be the default, or nothing else.
+void read_use(RowReader &row, bool keyed, Pair &pair) {
+  pair.in_entries = keyed;
+  const TomlValue *given = row.value("default", kOptional);
+  if (given == nullptr) return;
+  const auto *flag = std::get_if<bool>(&given->data);
+  const auto *text = std::get_if<std::string>(&given->data);
+  if (flag == nullptr && (text == nullptr || *text != "only")) {
+    row.report("default", "{} has {} here, which must be true, false or \"only\"", row.what(),
+               text == nullptr ? std::string(given->kind_text()) : '"' + *text + '"');
+    return;
+  }
+  pair.as_default = flag == nullptr || *flag;
+  if (flag != nullptr) return;
+  pair.in_entries = false;
+  if (keyed) return;
+  row.report("default",
+             "\"only\" of {} is for tables with a key; the action of a table without one is true",
+             row.what());
+}
+
+void read_pair(RowReader &row, bool keyed, Pair &pair) {
   row.name(pair, pair.action, "action", row.program().actions);
   row.handle("handle", pair.handle, HandleKind::kActionFunction);
-  row.flag("default", pair.as_default);
+  read_use(row, keyed, pair);
 }
 
 void read_operations(RowReader &row, bool keyed, ResourceRow &resource) {
@@ -112,18 +133,57 @@ void read_operations(RowReader &row, bool keyed, ResourceRow &resource) {
   }
 }
 
+// The actions of those pairs of the table that have what is asked.
+template <typename Has>
+std::vector<Candidate> actions_of(const Table &table, Has has) {
+  std::vector<Candidate> actions;
+  for (const Pair &pair : table.pairs) {
+    if (pair.action && has(pair))
+      actions.push_back({pair.action.name, pair.place, pair.action.target});
+  }
+  return actions;
+}
+
+// A value for each parameter of the action. No width, no limit: that is the parameter's fault.
+void read_values(RowReader &row, const Action &action, DefaultEntry &entry) {
+  if (!row.has("params") && !action.params.empty()) {
+    row.report("params", "{} has no values for the {} of action {}", row.what(),
+               action.params.size() == 1 ? "parameter" : "parameters", action.name);
+  }
+  std::optional<std::vector<std::uint32_t>> values;
+  row.row("params", values, [&](RowReader &params, std::vector<std::uint32_t> &read) {
+    for (const Param &param : action.params) {
+      const auto most = static_cast<std::uint32_t>(low_bits(param.width).lower);
+      params.number(param.name, read.emplace_back(), 0, param.width == 0 ? kAnyNumber : most);
+    }
+  });
+  entry.values = values.value_or(std::vector<std::uint32_t>(action.params.size()));
+}
+
+void read_default_entry(RowReader &row, const Table &table, DefaultEntry &entry) {
+  const Program &program = row.program();
+  const auto is_it = [&table](const Pair &pair) { return pair.as_default || !table.keyed(); };
+  const auto defaults = [&table, is_it] { return actions_of(table, is_it); };
+  row.reference("action", entry.action, "default action of the table", defaults);
+  entry.place = entry.action.place;
+  const Action *action = find_row(program.actions, entry.action.name);
+  const auto named = [&](const Pair &pair) {
+    return is_it(pair) && pair.action.name == entry.action.name;
+  };
+  if (action == nullptr || std::ranges::none_of(table.pairs, named)) return row.ignore_other_keys();
+  const bool is_whole = std::ranges::all_of(action->params, [&](const Param &param) {
+    return !param.name.empty() && find_row(action->params, param.name) == &param;
+  });
+  if (!is_whole) return row.ignore_other_keys();
+  read_values(row, *action, entry);
+}
+
 void read_resource(RowReader &row, const Table &table, ResourceRow &resource) {
   const Program &program = row.program();
   row.reference("resource", resource.resource, "counter, meter or register",
                 row.rows_of(program.counters, program.meters, program.registers));
   resource.place = resource.resource.place;
-  const auto offered = [&table] {
-    std::vector<Candidate> actions;
-    for (const Pair &pair : table.pairs) {
-      if (pair.action) actions.push_back({pair.action.name, pair.place, pair.action.target});
-    }
-    return actions;
-  };
+  const auto offered = [&table] { return actions_of(table, [](const Pair &) { return true; }); };
   row.references("actions", resource.actions, "action of the table", offered, kOptional);
   row.identifier("index", resource.index, kOptional);
   resource.index_place = row.place("index");
@@ -141,6 +201,12 @@ void check_actions(RowReader &row, const Table &table) {
   }
   if (!has_profile && table.pairs.empty()) {
     row.report("actions", "{} has neither actions nor a profile", row.what());
+  } else if (!has_profile && table.keyed() &&
+             std::ranges::none_of(table.pairs, &Pair::in_entries)) {
+    row.report("actions", "{} has no action that its entries may carry", row.what());
+  }
+  if (has_profile && row.has("default_entry")) {
+    row.report("default_entry", "{} has a profile, whose members a fresh device lacks", row.what());
   }
   if (has_profile && !table.resources.empty()) {
     row.report("resources", "{} has a profile; resource items go with actions", row.what());
@@ -163,6 +229,9 @@ void check_keyless(RowReader &row, const Table &table) {
                "them default",
                row.what(), table.pairs.size(), defaults);
   }
+  if (row.has("size")) {
+    row.report("size", "{} has no key, so no entries that could be limited", row.what());
+  }
 }
 
 void read_table(RowReader &row, Table &table) {
@@ -176,8 +245,14 @@ void read_table(RowReader &row, Table &table) {
   row.flag("idle_time", table.idle_time);
   row.reference("profile", table.profile, "profile", row.rows_of(row.program().profiles),
                 kOptional);
-  row.rows("actions", "action", "action", table.pairs, read_pair, kOptional);
-  for (Pair &pair : table.pairs) pair.in_entries = table.keyed();
+  row.number("size", table.size, 1, kAnyNumber, kOptional);
+  row.rows(
+      "actions", "action", "action", table.pairs,
+      [&](RowReader &action, Pair &pair) { read_pair(action, table.keyed(), pair); }, kOptional);
+  row.row("default_entry", table.default_entry, [&](RowReader &entry, DefaultEntry &read) {
+    if (row.has("profile")) return entry.ignore_other_keys();
+    read_default_entry(entry, table, read);
+  });
   row.rows(
       "resources", "resource", "resource", table.resources,
       [&](RowReader &item, ResourceRow &resource) { read_resource(item, table, resource); },

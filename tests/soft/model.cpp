@@ -11,6 +11,7 @@ ModelDevice::ModelDevice() {
     table.members = description.action_data_table;
     table.selector = table.members == kMembers ? kSelector : 0;
     table.defaults[0] = table.declared_default();
+    table.capacity = description.size;
   }
   tables[kHost].counter = kHostCount;
   tables[kAcl].counter = kRuleCount;
@@ -29,15 +30,17 @@ const std::vector<const soft_action_t *> ModelTable::actions() const {
   return all;
 }
 
-// The one action that may be default.
 std::optional<ModelEntry> ModelTable::declared_default() const {
-  std::optional<ModelEntry> entry;
+  const soft_default_t *declared = description->default_entry;
+  if (declared == nullptr) return std::nullopt;
+  ModelEntry entry;
+  entry.action = declared->action;
   for (const soft_action_t *action : actions()) {
-    if (!action->may_be_default) continue;
-    if (entry) return std::nullopt;
-    entry.emplace();
-    entry->action = action->handle;
-    entry->data.assign(action->data_bytes, 0);
+    if (action->handle != entry.action) continue;
+    entry.data.assign(declared->data, declared->data + action->data_bytes);
+  }
+  for (uint32_t i = 0; i < declared->cell_count; ++i) {
+    entry.resources[declared->cells[i].resource] = declared->cells[i].index;
   }
   return entry;
 }

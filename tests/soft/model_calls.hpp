@@ -65,6 +65,8 @@ class Beside : public testing::TestWithParam<uint32_t> {
   void add_random_resources(const ModelTable &table, Wanted *wanted);
   // What a call with this action does to an entry, or its status.
   bf_status_t apply(ModelTable &table, const Wanted &wanted, ModelEntry *entry);
+  // Of an entry with a key.
+  bf_status_t apply_keyed(ModelTable &table, const Wanted &wanted, ModelEntry *entry);
   // One that is there, or now and then one that is gone.
   uint32_t any_entry(const ModelTable &table);
   uint32_t any_member(uint32_t table);

@@ -136,11 +136,21 @@ bf_status_t Beside::apply(ModelTable &table, const Wanted &wanted, ModelEntry *e
   return there ? BF_SUCCESS : BF_OBJECT_NOT_FOUND;
 }
 
+bf_status_t Beside::apply_keyed(ModelTable &table, const Wanted &wanted, ModelEntry *entry) {
+  const bf_status_t status = apply(table, wanted, entry);
+  for (const soft_action_t *action : table.actions()) {
+    if (status == BF_SUCCESS && action->handle == wanted.action && action->default_only) {
+      return BF_INVALID_ARGUMENT;
+    }
+  }
+  return status;
+}
+
 void Beside::add_entry() {
   ModelTable &table = any_table();
   ModelEntry entry = random_key(table);
   const Wanted wanted = random_action(table);
-  bf_status_t expected = apply(table, wanted, &entry);
+  bf_status_t expected = apply_keyed(table, wanted, &entry);
   entry.ttl = random.one_in(4) ? 0 : random() >> random.below(32);
   const uint32_t asked = entry.ttl;
   const bool there = table.checks != 0 && table.by_key(entry) != nullptr;
@@ -186,7 +196,8 @@ void Beside::change_entry() {
   if (found != nullptr) {
     changed = *found;
     std::erase_if(changed.resources, [&](auto &held) { return !table.is_direct(held.first); });
-    expected = apply(table, wanted, &changed);
+    expected =
+        found == standing ? apply(table, wanted, &changed) : apply_keyed(table, wanted, &changed);
   }
   const auto record = record_of(table, &key);
   const bf_status_t status =

@@ -36,11 +36,11 @@ constexpr uint32_t kAcl = 0x01000002;     // ternary, 16 bits in 2 bytes, direct
 constexpr uint32_t kRoute = 0x01000003;   // lpm, 40 bits in 5 bytes, ages
 constexpr uint32_t kEncap = 0x01000004;   // keyless
 constexpr uint32_t kLag = 0x01000005;     // exact, 8 bits, bound to a profile with a selector
-constexpr uint32_t kBridge = 0x01000006;  // exact, 8 bits, bound to a profile without one
+constexpr uint32_t kBridge = 0x01000006;  // exact, 8 bits, 20 entries, of a profile without one
 constexpr uint32_t kTunnel = 0x01000007;  // ternary, 80 bits, of which packets are compared in 76
 
 constexpr uint32_t kForward = 0x20000001;  // 9 bits in 2 bytes
-constexpr uint32_t kDrop = 0x20000002;     // no data; the only default of kHost
+constexpr uint32_t kDrop = 0x20000002;     // no data; the only default of kHost and nothing else
 constexpr uint32_t kPermit = 0x20000011;   // 35 bits in 5 bytes
 constexpr uint32_t kDeny = 0x20000012;     // no data; like kPermit a possible default of kAcl
 constexpr uint32_t kNextHop = 0x20000021;  // 14 bits in 2 bytes
@@ -90,22 +90,33 @@ inline const soft_program_t &small_program() {
                                                {"dip", SOFT_LPM, 32, 1, 4}};
   static const soft_key_field_t wide_key[] = {{"id", SOFT_TERNARY, 80, 0, 10}};
   static const soft_key_field_t byte_key[] = {{"number", SOFT_EXACT, 8, 0, 1}};
-  static const soft_action_t host_actions[] = {{"forward", kForward, 9, 2, false},
-                                               {"drop", kDrop, 0, 0, true}};
-  static const soft_action_t acl_actions[] = {{"permit", kPermit, 35, 5, true},
-                                              {"deny", kDeny, 0, 0, true}};
-  static const soft_action_t route_actions[] = {{"next_hop", kNextHop, 14, 2, false}};
-  static const soft_action_t encap_actions[] = {{"wrap", kWrap, 20, 3, true}};
-  static const soft_action_t lag_actions[] = {{"send", kSend, 9, 2, false},
-                                              {"flood", kFlood, 0, 0, false}};
+  static const soft_action_t host_actions[] = {{"forward", kForward, 9, 2, false, false},
+                                               {"drop", kDrop, 0, 0, true, true}};
+  static const soft_action_t acl_actions[] = {{"permit", kPermit, 35, 5, true, false},
+                                              {"deny", kDeny, 0, 0, true, false}};
+  static const soft_action_t route_actions[] = {{"next_hop", kNextHop, 14, 2, false, false}};
+  static const soft_action_t encap_actions[] = {{"wrap", kWrap, 20, 3, true, false}};
+  static const soft_action_t lag_actions[] = {{"send", kSend, 9, 2, false, false},
+                                              {"flood", kFlood, 0, 0, false, false}};
+  static const soft_default_t drops = {kDrop, nullptr, nullptr, 0};
+  static const uint8_t wrap_data[] = {0x0a, 0xbc, 0xde};
+  static const soft_cell_t wrap_cells[] = {{kAclCount, 2}, {kWordRegister, 3}};
+  static const soft_default_t wraps = {kWrap, wrap_data, wrap_cells, 2};
   static const soft_table_t tables[] = {
-      {"host", kHost, SOFT_EXACT, 20, 3, host_key, 2, host_actions, 2, 0, false, nullptr},
-      {"acl", kAcl, SOFT_TERNARY, 16, 2, word_key, 1, acl_actions, 2, 0, false, nullptr},
-      {"route", kRoute, SOFT_LPM, 40, 5, route_key, 2, route_actions, 1, 0, true, nullptr},
-      {"encap", kEncap, SOFT_EXACT, 0, 0, nullptr, 0, encap_actions, 1, 0, false, nullptr},
-      {"lag", kLag, SOFT_EXACT, 8, 1, byte_key, 1, nullptr, 0, kMembers, false, nullptr},
-      {"bridge", kBridge, SOFT_EXACT, 8, 1, byte_key, 1, nullptr, 0, kPorts, false, nullptr},
-      {"tunnel", kTunnel, SOFT_TERNARY, 80, 10, wide_key, 1, acl_actions, 2, 0, false, kCompared},
+      {"host", kHost, SOFT_EXACT, 20, 3, host_key, 2, host_actions, 2, 0, false, nullptr, &drops,
+       0},
+      {"acl", kAcl, SOFT_TERNARY, 16, 2, word_key, 1, acl_actions, 2, 0, false, nullptr, nullptr,
+       0},
+      {"route", kRoute, SOFT_LPM, 40, 5, route_key, 2, route_actions, 1, 0, true, nullptr, nullptr,
+       0},
+      {"encap", kEncap, SOFT_EXACT, 0, 0, nullptr, 0, encap_actions, 1, 0, false, nullptr, &wraps,
+       0},
+      {"lag", kLag, SOFT_EXACT, 8, 1, byte_key, 1, nullptr, 0, kMembers, false, nullptr, nullptr,
+       0},
+      {"bridge", kBridge, SOFT_EXACT, 8, 1, byte_key, 1, nullptr, 0, kPorts, false, nullptr,
+       nullptr, 20},
+      {"tunnel", kTunnel, SOFT_TERNARY, 80, 10, wide_key, 1, acl_actions, 2, 0, false, kCompared,
+       nullptr, 0},
   };
   static const soft_profile_t profiles[] = {{"lag", kMembers, kSelector, lag_actions, 2},
                                             {"port", kPorts, 0, lag_actions, 2}};

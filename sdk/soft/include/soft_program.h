@@ -31,7 +31,23 @@ typedef struct soft_action {
   uint16_t data_bits;
   uint16_t data_bytes;
   bool may_be_default;
+  bool default_only; /* of a table with a key: entries may not carry it */
 } soft_action_t;
+
+/* A counter, meter or register that an entry refers to, and which of its cells; 0 of a direct one.
+ */
+typedef struct soft_cell {
+  uint32_t resource;
+  uint32_t index;
+} soft_cell_t;
+
+/* The default entry of a table on a fresh device, and after a reset. */
+typedef struct soft_default {
+  uint32_t action;     /* handle of one that may be the default */
+  const uint8_t *data; /* data_bytes of the action */
+  const soft_cell_t *cells;
+  uint32_t cell_count; /* at most PIPE_RESOURCES_PER_ACTION */
+} soft_default_t;
 
 typedef struct soft_table {
   const char *name;
@@ -48,6 +64,8 @@ typedef struct soft_table {
   /* The bits that packets are compared in, key_bytes of them; null: all. Entries hold whole fields
    * none the less, and two that differ elsewhere are two. */
   const uint8_t *compared;
+  const soft_default_t *default_entry; /* null: none */
+  uint32_t size;                       /* capacity of a fresh device; 0: unlimited */
 } soft_table_t;
 
 typedef struct soft_profile {

@@ -88,7 +88,8 @@ const char *soft_status_text(bf_status_t status);
 
 /* ---- Tables ---- */
 /* Greatest number of entries of a match table, 0 unlimited: the property PIPE_TABLE_CAPACITY
- * without a session. A capacity below the number of entries keeps them and refuses new ones. */
+ * without a session, at first the size that the program states. A capacity below the number of
+ * entries keeps them and refuses new ones. */
 bf_status_t soft_table_capacity_set(bf_device_id_t device, pipe_object_handle_t table,
                                     uint32_t capacity);
 bf_status_t soft_table_capacity_get(bf_device_id_t device, pipe_object_handle_t table,

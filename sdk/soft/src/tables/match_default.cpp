@@ -49,17 +49,14 @@ bf_status_t MatchEngine::default_at(bf_pipe_id_t pipe, size_t *index) const {
 }
 
 std::optional<MatchEngine::DefaultEntry> MatchEngine::declared_default() const {
-  if (description_.action_data_table != 0) return std::nullopt;
-  const soft_action_t *declared = nullptr;
-  for (const soft_action_t &action : actions_) {
-    if (!action.may_be_default) continue;
-    if (declared != nullptr) return std::nullopt;
-    declared = &action;
-  }
+  const soft_default_t *declared = description_.default_entry;
   if (declared == nullptr) return std::nullopt;
   DefaultEntry entry;
-  entry.action = declared->handle;
-  entry.data.assign(declared->data_bytes, 0);
+  entry.action = declared->action;
+  entry.data.assign(declared->data, declared->data + action_of(declared->action)->data_bytes);
+  for (const soft_cell_t &cell : described(declared->cells, declared->cell_count)) {
+    entry.resources.attach({cell.resource, cell.index});
+  }
   return entry;
 }
 

@@ -35,7 +35,8 @@ MatchEngine::MatchEngine(Device &device, const soft_table_t &table)
       direct_meter_(direct_of(described(device.program().meters, device.program().meter_count),
                               table.handle)),
       entries_(new_table()),
-      defaults_(1) {
+      defaults_(1),
+      capacity_(table.size) {
   if (profile_ != nullptr) actions_ = described(profile_->actions, profile_->action_count);
   defaults_[0] = declared_default();
 }
@@ -59,7 +60,7 @@ bf_status_t MatchEngine::add(pipe_session_handle_t session, bf_pipe_id_t pipe,
     bf_status_t status = check_key(match);
     if (status != BF_SUCCESS) return status;
     Checked checked;
-    status = check_action(action, spec, &checked);
+    status = check_entry_action(action, spec, &checked);
     if (status != BF_SUCCESS) return status;
     status = insert(key_of(*match, pipe), checked, ttl, added);
     if (status == BF_SUCCESS) *entry = *added;
@@ -117,7 +118,7 @@ bf_status_t MatchEngine::replace(pipe_entry_handle_t entry, pipe_object_handle_t
   bf_status_t status = entries_->get(entry, &view);
   if (status != BF_SUCCESS) return status;
   checked.resources = keep(resources_of(entry, view));
-  status = check_action(action, spec, &checked);
+  status = check_entry_action(action, spec, &checked);
   if (status != BF_SUCCESS) return status;
   const uint32_t old_type = view.type;
   const uint32_t old_reference = view.reference;

@@ -151,6 +151,9 @@ class MatchEngine : public ObjectOf<MatchEngine> {
   EntryKey key_of(const pipe_mgr_match_spec_t &match, bf_pipe_id_t pipe) const;
   bf_status_t check_action(pipe_object_handle_t action, const pipe_mgr_action_spec_t *spec,
                            Checked *checked) const;
+  // Of an entry with a key.
+  bf_status_t check_entry_action(pipe_object_handle_t action, const pipe_mgr_action_spec_t *spec,
+                                 Checked *checked) const;
   bf_status_t check_resources(std::span<const pipe_mgr_resource_t> resources,
                               Checked *checked) const;
   bf_status_t locate(const Name &name, pipe_entry_handle_t *entry) const;
