@@ -119,6 +119,7 @@ std::string_view meaning_of_name(std::string_view name) {
       {"last", "the last stage, without it the first"},
       {"count", "how many cells, or rounds of watch"},
       {"size", "the most members that the group may have"},
+      {"capacity", "the most entries that the table may have"},
       {"pipe", "the number of a pipe"},
       {"parser", "the number of a parser"},
       {"mask", "the bits of the value that count"},

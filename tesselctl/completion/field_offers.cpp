@@ -98,11 +98,10 @@ void offer_parameters(Offers &offers, const bindings::Record &record,
 
 void offer_actions(Offers &offers, const Subject &subject, std::string_view command) {
   const bool of_default = subject.table && command.starts_with("default");
+  const bool of_entry = subject.table && (command == "add" || command == "modify");
   for (const soft_action_t &action : subject.actions()) {
-    if (of_default &&
-        find_export("set_default_action", subject.table->name(), action.name) == nullptr) {
-      continue;
-    }
+    if (of_default && !action.may_be_default) continue;
+    if (of_entry && action.default_only) continue;
     std::string parameters;
     for (const Field &field : action_record(action.name).shown()) {
       parameters += (parameters.empty() ? "" : " ") + std::string(field.label) + "=";

@@ -1,4 +1,6 @@
 // Entries of keyed tables.
+#include <fmt/format.h>
+
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/device/entry_line.hpp"
 #include "tesselctl/device/entry_texts.hpp"
@@ -87,8 +89,14 @@ constexpr Step kSteps[] = {{Phase::entries_leave, Edit::remove},
 // groups.
 const bindings::Export &outcome_export(const EntryLine &line, std::string_view direct,
                                        std::string_view member, std::string_view group) {
-  if (line.need_outcome()) return need_export(direct, line.table().name(), line.action());
-  return need_export(line.member() ? member : group, line.table().name());
+  const char *table = line.table().name();
+  if (line.need_outcome()) {
+    const bindings::Export *found = find_export(direct, table, line.action());
+    if (found != nullptr) return *found;
+    throw Fault(line.table_word(),
+                fmt::format("{} may only be the default action of {}", line.action(), table));
+  }
+  return need_export(line.member() ? member : group, table);
 }
 
 Row table_row(const TableInfo &table) {

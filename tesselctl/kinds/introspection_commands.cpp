@@ -19,17 +19,6 @@ namespace {
 
 constexpr size_t kLineWidth = 100;
 
-bool matches_size(const void *, std::string_view shown, Word wanted) {
-  if (wanted.text == "unlimited") return shown == wanted.text;
-  return matches_number(&kMost<uint32_t>, shown, wanted);
-}
-
-// How many entries the table may have.
-void add_size(Row &row, uint32_t capacity) {
-  const std::string size = capacity == 0 ? "unlimited" : decimal(capacity);
-  row.field({}, "size", size, {matches_size});
-}
-
 // ---- tables ----
 
 void list_tables(Context &context, const Invocation &invocation) {
@@ -42,8 +31,9 @@ void list_tables(Context &context, const Invocation &invocation) {
     Row row;
     row.object("table", table.name()).choice("match", match_name(table));
     row.number("actions", table.indirect() ? 0u : table.description->action_count);
-    add_size(row, table_capacity(context.device, table));
-    row.number("entries", entry_count(context.device, table, invocation.command));
+    const uint32_t capacity = table_capacity(context.device, table);
+    add_capacity(row, "size", capacity);
+    add_occupancy(row, entry_count(context.device, table, invocation.command), capacity);
     if (table.keyed()) row.text("fields", key_text(table, ",", clipped ? 3 : ~size_t{0}));
     context.results.row(row);
   }
@@ -173,10 +163,10 @@ void describe_table(Context &context, const TableInfo &table, Word word) {
   const uint32_t capacity = table_capacity(context.device, table);
   Row head;
   head.object("table", table.name()).text("match", match_name(table)).text("handle", handle);
-  add_size(head, capacity);
-  print(context, head.number("entries", entries),
+  add_capacity(head, "size", capacity);
+  print(context, add_occupancy(head, entries, capacity),
         fmt::format("{}: {} table, handle {}, size {}, entries {}", table.name(), match_name(table),
-                    handle, capacity == 0 ? "unlimited" : grouped(capacity), grouped(entries)));
+                    handle, capacity == 0 ? kUnlimited : grouped(capacity), grouped(entries)));
   if (const soft_profile_t *profile = table.profile()) {
     print(context, Row().object("profile", profile->name),
           fmt::format("entries name a member or a group of {}", profile->name));

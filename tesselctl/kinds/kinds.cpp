@@ -9,7 +9,8 @@
 
 namespace tesselctl {
 
-extern const Topic kEntryTopic, kDefaultTopic, kMemberTopic, kGroupTopic, kFallbackTopic;
+extern const Topic kEntryTopic, kTableTopic, kDefaultTopic, kMemberTopic, kGroupTopic,
+    kFallbackTopic;
 extern const Topic kMeterTopic, kWredTopic, kCounterTopic, kRegisterTopic, kHashTopic,
     kValueSetTopic;
 extern const Topic kTrafficTopic, kDigestTopic, kSnapshotTopic, kAgeingTopic, kStateTopic;
@@ -18,11 +19,11 @@ extern const Topic kToolTopic, kHelpTopic;
 
 std::span<const Topic *const> command_topics() {
   static constexpr const Topic *kTopics[] = {
-      &kEntryTopic,    &kDefaultTopic, &kMemberTopic,  &kGroupTopic,    &kFallbackTopic,
-      &kMeterTopic,    &kWredTopic,    &kCounterTopic, &kRegisterTopic, &kHashTopic,
-      &kValueSetTopic, &kTrafficTopic, &kDigestTopic,  &kSnapshotTopic, &kAgeingTopic,
-      &kStateTopic,    &kImageTopic,   &kCompareTopic, &kRoutesTopic,   &kIntrospectionTopic,
-      &kReportTopic,   &kToolTopic,    &kHelpTopic,
+      &kEntryTopic,         &kTableTopic,    &kDefaultTopic, &kMemberTopic,  &kGroupTopic,
+      &kFallbackTopic,      &kMeterTopic,    &kWredTopic,    &kCounterTopic, &kRegisterTopic,
+      &kHashTopic,          &kValueSetTopic, &kTrafficTopic, &kDigestTopic,  &kSnapshotTopic,
+      &kAgeingTopic,        &kStateTopic,    &kImageTopic,   &kCompareTopic, &kRoutesTopic,
+      &kIntrospectionTopic, &kReportTopic,   &kToolTopic,    &kHelpTopic,
   };
   return kTopics;
 }

@@ -23,6 +23,12 @@ struct TableLine : ObjectLine<soft_table_t> {
   TableInfo table = resolve_table(word);
 };
 
+// A capacity of a table under that name: a number, or kUnlimited for 0.
+inline constexpr std::string_view kUnlimited = "unlimited";
+Row &add_capacity(Row &row, std::string_view name, uint32_t capacity);
+// The number of entries and, where that is limited, how many per cent of it they are.
+Row &add_occupancy(Row &row, uint32_t entries, uint32_t capacity);
+
 // Entries or default entries:
 //   ((( 0x01,0x0a000000,0x0008,),('setNextHop',(0x000c,)),),(0,True)) ttl=0
 //   (((),('setMbrHdl',(0x1,))),(0,True))
