@@ -94,5 +94,16 @@ TEST_F(TinyCatalogue, PairsSendTheirResources) {
   EXPECT_TRUE(table("seen").pairs[0].as_default);
 }
 
+TEST_F(TinyCatalogue, FreshTables) {
+  EXPECT_EQ(table("sampling").size, 2U);
+  const Pair &discard = table("hops").pairs[1];
+  EXPECT_TRUE(discard.as_default && !discard.in_entries);
+  EXPECT_EQ(table("hops").default_entry->pair, &discard);  // the only one that may be it
+  EXPECT_FALSE(table("sampling").default_entry);
+  const DefaultEntry &police = *table("flows").default_entry;
+  EXPECT_EQ(police.values, (std::vector<std::uint32_t>{5, 1}));
+  EXPECT_EQ(police.cells.size(), 2U);
+}
+
 }  // namespace
 }  // namespace pdgen

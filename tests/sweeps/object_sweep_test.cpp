@@ -344,6 +344,34 @@ TEST_F(ObjectSweep, DefaultEntriesOfEveryAction) {
   EXPECT_EQ(pairs, exports_of("set_default_action").size());
 }
 
+// Tables have the size and the default entry of the catalogue, and get the latter back.
+TEST_F(ObjectSweep, TablesOfAFreshDevice) {
+  for (const pdgen::Table &table : program().tables) {
+    SCOPED_TRACE(table.name);
+    uint32_t capacity = 0;
+    EXPECT_EQ(soft_table_capacity_get(kDevice, table.handle, &capacity), BF_SUCCESS);
+    EXPECT_EQ(capacity, table.size);
+    const auto &entry = table.default_entry;
+    EXPECT_EQ(run("table_get_default_entry_handle", table.name, with("entry", &capacity)),
+              entry ? BF_SUCCESS : BF_OBJECT_NOT_FOUND);
+    if (!entry) continue;
+    const pdgen::Action &action = *entry->pair->action;
+    Bytes spec(record_of(action).size);
+    for (size_t i = 0; i < action.params.size(); ++i) {
+      const Member &member = record_of(action).member_list()[i];
+      std::memcpy(&spec[member.offset], &entry->values[i], member.storage);
+    }
+    ActionSpec image = action_image(*entry->pair, pdgen::Operation::kDefault, spec.data(), nullptr);
+    if (entry->cells.empty()) image.resources.clear();
+    const Export &get = *find_export("table_get_default_entry", table.name);
+    expect_action(Read(get, &table, {}), action, image);
+    const Contents other = contents_for(table, &action);
+    add("set_default_action", kNew, table, action.name, other);
+    EXPECT_EQ(run("table_reset_default_entry", table.name, {}), BF_SUCCESS);
+    expect_action(Read(get, &table, {}), action, image);
+  }
+}
+
 TEST_F(ObjectSweep, EntriesThatPointAtMembersAndGroups) {
   size_t tables = 0;
   for (const pdgen::Profile &profile : program().profiles) {
