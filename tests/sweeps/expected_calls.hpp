@@ -13,7 +13,8 @@ namespace pd_test {
 // in.
 //
 // calls: "function(argument, ...)", one or several with "; " between; behind a " | " those for a
-// direct resource. An argument is
+// direct resource; "params: " stands before one that is made for a member with parameters only. An
+// argument is
 //   4711               this number
 //   session, pipe ...  the parameter of that name, by value or by address; device_id and pipe_id
 //                      are those of the target; "ttl?" is 0 where the export has no such parameter

@@ -388,8 +388,12 @@ void Scene::set_default_entry() {
 
 uint32_t Scene::add_member(std::string_view action) {
   const pdgen::ProfileAction *pair = pair_of(*profile_, action);
+  for (const pdgen::ProfileAction &any : profile_->actions) {
+    if (pair == nullptr && any.action->has_params()) pair = &any;
+  }
   if (pair == nullptr) pair = &profile_->actions.front();
   member_action_ = pair->handle;
+  member_has_params_ = pair->action->has_params();
   const Bytes spec = random_record(record_of(*pair->action), random_);
   return make("add_member", profile_->name, pair->action->name, given(spec));
 }

@@ -59,6 +59,7 @@ class Scene {
 
   // The action function handle of the member (and of the group that it is in).
   uint32_t member_action() const { return member_action_; }
+  bool member_has_params() const { return member_has_params_; }
 
  private:
   void set_up(uint32_t needs);
@@ -99,6 +100,7 @@ class Scene {
   uint32_t member_ = 0;
   uint32_t group_ = 0;
   uint32_t member_action_ = 0;
+  bool member_has_params_ = false;
   uint32_t snapshot_ = 0;
   pipe_mgr_digest_message_t *message_ = nullptr;
   pipe_stful_cell_t cells_[2 * kPipes] = {};
