@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <optional>
 #include <ranges>
 
 #include "pdgen/check/check.hpp"
@@ -65,69 +66,51 @@ constexpr Needs kNeeds[] = {
     {Match::kTernary, 128, "this part of an address"},
 };
 
-class LabelChecker {
- public:
-  LabelChecker(const Label &label, Diagnostics &diagnostics)
-      : label_(label), diagnostics_(diagnostics) {}
-
-  void check() const {
-    for (const LabelItem &item : label_.items) {
-      check(item, item.field, "field");
-      check(item, item.oui, "oui");
-      check(item, item.station, "station");
-    }
+// What is wrong with the bits of an item, and the key that says so; nothing if they are right.
+using Wrong = std::pair<std::string_view, std::string>;
+std::optional<Wrong> wrong_bits(const LabelItem &item, const KeyField &field) {
+  const bool is_flag = item.kind == LabelKind::kFlag;
+  if (is_flag && item.bit == 0 && field.width > 1) {
+    return Wrong("bit",
+                 fmt::format("the field has {} bits, so a flag must name its bit", field.width));
   }
-
- private:
-  void check(const LabelItem &item, const Ref<KeyField> &field, std::string_view key) const {
-    const auto &[match, width, whose] = kNeeds[static_cast<std::size_t>(item.kind)];
-    if (!field || whose == nullptr) return;
-    if (field->match != match || (width == 0 ? field->wide() : field->width != width)) {
-      return report(item, key, *field, "{} needs {} field of {} bits", whose,
-                    match == Match::kExact ? "an exact" : "a ternary",
-                    width == 0 ? "at most 32" : std::to_string(width));
-    }
-    if (item.kind == LabelKind::kFlag) check_bit(item, *field);
-    if (item.kind == LabelKind::kNumber) check_texts(item, *field);
+  if (is_flag && ((item.bit & (item.bit - 1)) != 0 || (item.bit & ~field.key_bits.lower) != 0)) {
+    return Wrong("bit", fmt::format("{} must be one bit of the key bits {:#x}", hex(item.bit),
+                                    field.key_bits.lower));
   }
-
   // A text for a value that the field cannot have would never be written.
-  void check_texts(const LabelItem &item, const KeyField &field) const {
-    const auto beyond = [&](std::uint32_t bits) {
-      return (bits & ~low_bits(field.width).lower) != 0;
-    };
-    for (const LabelText &text : item.texts) {
-      if (!beyond(text.value)) continue;
-      diagnostics_.report(text.place, "label.items.texts.value",
-                          "{} of field {} of table {} is beyond its {} bits", hex(text.value),
-                          field.name, label_.table.name, field.width);
-    }
-    if (item.texts_mask != kAnyNumber && beyond(item.texts_mask)) {
-      report(item, "texts_mask", field, "{} is beyond its {} bits", hex(item.texts_mask),
-             field.width);
-    }
+  const auto is_beyond = [&](std::uint32_t bits) { return bits >> (field.width - 1) >> 1 != 0; };
+  const auto beyond = std::ranges::find_if(item.texts, is_beyond, &LabelText::value);
+  if (beyond != item.texts.end()) {
+    return Wrong("texts.value",
+                 fmt::format("{} is beyond its {} bits", hex(beyond->value), field.width));
   }
+  if (item.texts_mask == kAnyNumber || !is_beyond(item.texts_mask)) return {};
+  return Wrong("texts_mask",
+               fmt::format("{} is beyond its {} bits", hex(item.texts_mask), field.width));
+}
 
-  void check_bit(const LabelItem &item, const KeyField &field) const {
-    if (item.bit == 0 && field.width > 1) {
-      report(item, "bit", field, "the field has {} bits, so a flag must name its bit", field.width);
-    } else if ((item.bit & (item.bit - 1)) != 0 || (item.bit & ~field.key_bits.lower) != 0) {
-      report(item, "bit", field, "{} must be one bit of the key bits {:#x}", hex(item.bit),
-             field.key_bits.lower);
-    }
+std::optional<Wrong> wrong_field(const LabelItem &item, const KeyField &field,
+                                 std::string_view key) {
+  const auto &[match, width, whose] = kNeeds[static_cast<std::size_t>(item.kind)];
+  if (whose == nullptr) return {};
+  if (field.match == match && (width == 0 ? !field.wide() : field.width == width)) {
+    return wrong_bits(item, field);
   }
+  return Wrong(key, fmt::format("{} needs {} field of {} bits", whose,
+                                match == Match::kExact ? "an exact" : "a ternary",
+                                width == 0 ? "at most 32" : std::to_string(width)));
+}
 
-  template <typename... Args>
-  void report(const LabelItem &item, std::string_view key, const KeyField &field,
-              fmt::format_string<Args...> message, Args &&...args) const {
-    diagnostics_.report(item.place, fmt::format("label.items.{}", key), "field {} of table {}: {}",
-                        field.name, label_.table.name,
-                        fmt::format(message, std::forward<Args>(args)...));
+void check_item(const Label &label, const LabelItem &item, Diagnostics &diagnostics) {
+  for (const auto &[key, field] : {std::pair("field", &item.field), std::pair("oui", &item.oui),
+                                   std::pair("station", &item.station)}) {
+    const auto wrong = *field ? wrong_field(item, **field, key) : std::nullopt;
+    if (!wrong) continue;
+    diagnostics.report(item.place, fmt::format("label.items.{}", wrong->first),
+                       "field {} of table {}: {}", field->name, label.table.name, wrong->second);
   }
-
-  const Label &label_;
-  Diagnostics &diagnostics_;
-};
+}
 
 // The resource list that goes with an action has room for so many items.
 constexpr std::ptrdiff_t kMostItems = 4;
@@ -291,7 +274,7 @@ void check_values(const Program &program, Diagnostics &diagnostics) {
 void check_labels(const Program &program, Diagnostics &diagnostics) {
   for (const Label &label : program.labels) {
     check_counted(program, label, diagnostics);
-    LabelChecker(label, diagnostics).check();
+    for (const LabelItem &item : label.items) check_item(label, item, diagnostics);
   }
 }
 

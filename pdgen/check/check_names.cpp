@@ -171,13 +171,14 @@ void check_field_hints(const Program &program, const Uses &fields, Diagnostics &
   }
   for (auto &[hint, uses] : faults) {
     if (!fitting.contains(hint)) uses.resize(1);
-    for (const auto &[table, field] : uses) {
-      const bool of_hint = !fitting.contains(hint) || std::ranges::count(hint->fields, field->name);
+    for (const Use &use : uses) {
+      const KeyField &field = *use.field;
+      const bool of_hint = !fitting.contains(hint) || std::ranges::count(hint->fields, field.name);
       diagnostics.report(
-          of_hint ? hint->place : field->place, of_hint ? "hints.hint" : "table.key.width",
+          of_hint ? hint->place : field.place, of_hint ? "hints.hint" : "table.key.width",
           "the hint {} goes with {}, but field {} of table {} has {}",
           kNamesOf<Hint>[static_cast<std::size_t>(hint->hint)],
-          wanted_width(hint->hint, field->width), field -> name, table -> name, field -> width);
+          wanted_width(hint->hint, field.width), field.name, use.table->name, field.width);
     }
   }
 }
@@ -225,11 +226,6 @@ void check_snapshots(const Snapshots &snapshots, Diagnostics &diagnostics) {
     check_layout(layout.fields, snapshots.record_bytes, "layout " + layout.name, "layout.fields",
                  diagnostics);
     for (const PacketField &field : layout.fields) {
-      if (field.bytes > 4 || field.bytes == 3) {
-        diagnostics.report(field.place, "layout.fields.bytes",
-                           "{} bytes of field {} of layout {} must be 1, 2 or 4", field.bytes,
-                           field.name, layout.name);
-      }
       const auto [whole, number] = captured_part(snapshots, field.name);
       if (whole == nullptr) continue;
       if ((number + 1) * field.bytes > whole->bytes) {

@@ -72,10 +72,7 @@ void read_register(RowReader &row, Resource &reg) {
   reg.kind = ResourceKind::kRegister;
   row.name(reg);
   row.handle("handle", reg.handle, HandleKind::kRegister);
-  if (!row.number("width", reg.width)) return;
-  if (reg.width != 1 && reg.width != 8 && reg.width != 16 && reg.width != 32) {
-    row.report("width", "{} bits of {} must be 1, 8, 16 or 32", reg.width, row.what());
-  }
+  row.number_of("width", reg.width, {1, 8, 16, 32});
 }
 
 // --- Hashes, digests, value sets ------------------------------------------------------------
@@ -213,8 +210,9 @@ void read_label(RowReader &row, Label &label) {
 
 // --- Snapshots ------------------------------------------------------------------------------
 
-// Fields follow one another.
-void read_snapshot_fields(RowReader &row, const char *key, std::vector<PacketField> &fields) {
+// Fields follow one another; those of a trigger are integers.
+void read_snapshot_fields(RowReader &row, const char *key, bool is_trigger,
+                          std::vector<PacketField> &fields) {
   unsigned end = 0;
   row.rows(key, "field", "name", fields, [&](RowReader &reader, PacketField &field) {
     reader.name(field);
@@ -222,7 +220,8 @@ void read_snapshot_fields(RowReader &row, const char *key, std::vector<PacketFie
       reader.report("name", "{} is the name of a record's padding", field.name);
     }
     field.offset = end;
-    reader.number("bytes", field.bytes, 1, 0xffff);
+    if (is_trigger) reader.number_of("bytes", field.bytes, {1, 2, 4});
+    if (!is_trigger) reader.number("bytes", field.bytes, 1, 0xffff);
     end += field.bytes;
   });
 }
@@ -232,7 +231,7 @@ void read_layout(RowReader &row, SnapshotLayout &layout) {
   if (!layout.name.empty() && layout.name != "ingress" && layout.name != "egress") {
     row.report("name", "\"{}\" of {} must be one of ingress, egress", layout.name, row.what());
   }
-  read_snapshot_fields(row, "fields", layout.fields);
+  read_snapshot_fields(row, "fields", true, layout.fields);
 }
 
 }  // namespace
@@ -295,7 +294,7 @@ void read_snapshots(RowReader &file) {
   file.number("record_bytes", snapshots.record_bytes, 1, 0xffff);
   file.number("capture_limit", snapshots.capture_limit, 1, 0xffff);
   file.rows("layout", "layout", "name", snapshots.layouts, read_layout);
-  read_snapshot_fields(file, "capture", snapshots.capture);
+  read_snapshot_fields(file, "capture", false, snapshots.capture);
 }
 
 }  // namespace pdgen

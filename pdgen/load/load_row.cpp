@@ -196,6 +196,16 @@ bool RowReader::number(std::string_view key, unsigned &number, unsigned least, u
   return fits;
 }
 
+bool RowReader::number_of(std::string_view key, unsigned &number,
+                          std::initializer_list<unsigned> choices, Need need) {
+  unsigned given = 0;
+  if (!this->number(key, given, 0, kAnyNumber, need)) return false;
+  const bool fits = std::ranges::find(choices, given) != choices.end();
+  if (fits) number = given;
+  if (!fits) report(key, "{} of {} must be one of {}", given, what_, fmt::join(choices, ", "));
+  return fits;
+}
+
 void RowReader::handle(std::string_view key, std::uint32_t &handle, HandleKind kind,
                        std::string object) {
   const auto least = static_cast<std::uint32_t>(kind) << 24;

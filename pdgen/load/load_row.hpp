@@ -138,6 +138,8 @@ class RowReader {
   void text(std::string_view key, std::string &value);  // printable ASCII, not empty
   bool number(std::string_view key, unsigned &value, unsigned least = 0, unsigned most = kAnyNumber,
               Need need = kRequired, std::string_view notation = kDecimal);
+  bool number_of(std::string_view key, unsigned &value, std::initializer_list<unsigned> choices,
+                 Need need = kRequired);
   // `object`: whose handle it is, if not the row's own.
   void handle(std::string_view key, std::uint32_t &value, HandleKind kind, std::string object = "");
   void flag(std::string_view key, bool &value);

@@ -265,14 +265,11 @@ void read_table(RowReader &row, Table &table) {
 
 void read_sizes(RowReader &row, unsigned width, unsigned &storage_bytes, unsigned &bytes) {
   unsigned bits = width == kWide ? kWide : width <= 8 ? 8 : width <= 16 ? 16 : 32;
-  if (row.number("storage", bits, 0, kAnyNumber, kOptional)) {
-    if (width == kWide) {
-      row.report("storage", "{} is 128 bits wide and always stored as 16 bytes", row.what());
-    } else if (bits != 8 && bits != 16 && bits != 32) {
-      row.report("storage", "{} bits of {} must be 8, 16 or 32", bits, row.what());
-    } else if (bits < width) {
-      row.report("storage", "{} bits of {} cannot hold its {} bits", bits, row.what(), width);
-    }
+  if (width == kWide && row.has("storage")) {
+    row.value("storage", kOptional);
+    row.report("storage", "{} is 128 bits wide and always stored as 16 bytes", row.what());
+  } else if (row.number_of("storage", bits, {8, 16, 32}, kOptional) && bits < width) {
+    row.report("storage", "{} bits of {} cannot hold its {} bits", bits, row.what(), width);
   }
   storage_bytes = bits / 8;
   bytes = (width + 7) / 8;
