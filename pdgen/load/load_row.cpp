@@ -239,8 +239,10 @@ template <typename T>
 std::vector<const TomlValue *> RowReader::elements(std::string_view key, Need need,
                                                    std::string_view verb, std::string_view kind) {
   std::vector<const TomlValue *> found;
-  const auto *array =
-      typed<TomlValue::Array>(key, value(key, need), fmt::format("an array of {}s", kind));
+  const bool has_headers = naming_.path.empty() && std::is_same_v<T, TomlValue::Table>;
+  const auto *array = typed<TomlValue::Array>(
+      key, value(key, need),
+      fmt::format("an array of {}s{}", kind, has_headers ? fmt::format(" ([[{}]])", key) : ""));
   if (array == nullptr) return found;
   const bool may_be_empty = need == kOptional && std::is_same_v<T, TomlValue::Table>;
   if (array->empty() && !may_be_empty) report(key, "{} {} nothing here", what_, verb);

@@ -3,7 +3,6 @@
 #define TOML_EXCEPTIONS 0
 #include <toml++/toml.h>
 
-#include <cctype>
 #include <sstream>
 #include <utility>
 
@@ -48,10 +47,7 @@ std::string open_value(std::string_view text, std::size_t error_line) {
   int open = 0;
   std::string line;
   for (std::size_t number = 1; std::getline(lines, line) && number < error_line; ++number) {
-    if (std::isalpha(static_cast<unsigned char>(line[0])) != 0) {
-      begin = number;
-      open = 0;
-    }
+    if (open == 0) begin = number;
     bool is_quoted = false;
     for (const char c : line.substr(0, line.find('#'))) {
       if (c == '"') is_quoted = !is_quoted;
