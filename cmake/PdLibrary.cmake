@@ -67,14 +67,14 @@ function(pd_add_library program)
 
   set(core ${CMAKE_SOURCE_DIR}/src/pd)
   file(GLOB core_sources CONFIGURE_DEPENDS ${core}/*.cpp ${core}/*/*.cpp
-       ${CMAKE_SOURCE_DIR}/src/pd_tessel/*.cpp)
+       ${CMAKE_SOURCE_DIR}/src/introspection/*.cpp)
   add_library(pd_${program} SHARED ${wrappers} ${core_sources})
   add_dependencies(pd_${program} pd_${program}_generated)
   target_include_directories(pd_${program}
     PUBLIC $<BUILD_INTERFACE:${arg_HEADER_DIR}> $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/include>
            $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/sdk/include>
            $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
-    PRIVATE ${dir} ${core} ${CMAKE_SOURCE_DIR}/src/pd_tessel ${CJSON_INCLUDE_DIR})
+    PRIVATE ${dir} ${core} ${CMAKE_SOURCE_DIR}/src/introspection ${CJSON_INCLUDE_DIR})
   # A C host loads the library: no C++ run time, nothing visible but the exports.
   target_compile_options(pd_${program} PRIVATE -fno-exceptions -fno-rtti -fno-threadsafe-statics
     -fvisibility=hidden -fno-semantic-interposition)
