@@ -13,9 +13,11 @@
 #include "tesselctl/command/command_help.hpp"
 #include "tesselctl/command/flags.hpp"
 #include "tesselctl/command/local_runner.hpp"
+#include "tesselctl/command/manual.hpp"
 #include "tesselctl/command/options.hpp"
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/program/library.hpp"
+#include "tesselctl/program/module.hpp"
 #include "tesselctl/server/client.hpp"
 #include "tesselctl/server/serve.hpp"
 #include "tesselctl/shell/history.hpp"
@@ -23,6 +25,7 @@
 #include "tesselctl/shell/tool_completion.hpp"
 #include "tesselctl/shell/tool_runner.hpp"
 #include "tesselctl/state/image_file.hpp"
+#include "tesselctl/text/files.hpp"
 #include "tesselctl/text/interrupt.hpp"
 #include "tesselctl/text/utf8.hpp"
 #include "tesselctl/version.hpp"
@@ -41,12 +44,31 @@ bool wants_colour(const ToolSettings &settings, int fd) {
   return !refused && isatty(fd) != 0;
 }
 
-std::string version_text() {
-  return fmt::format(
-      "tesselctl {}\n"
-      "library libp4_pd_{}.so.{}\n"
-      "contracts: C interface {}, JSON {}",
-      kVersion, binding().program, binding().library_version, kInterfaceVersion, kJsonVersion);
+// The program that the tool's own options name, or else the environment.
+void load_program_of(const ToolSettings &settings) {
+  const char *chosen = std::getenv("TESSELCTL_PROGRAM");
+  if (!settings.program.empty() || chosen == nullptr || *chosen == '\0') {
+    return load_program({{settings.program, settings.program_column}, settings.image});
+  }
+  try {
+    load_program({{chosen, 1}, settings.image});
+  } catch (const Fault &fault) {
+    throw Fault("TESSELCTL_PROGRAM: " + fault.sentence());
+  }
+}
+
+// The library is there when a program is.
+std::string version_text(const ToolSettings &settings) {
+  std::string library;
+  try {
+    load_program_of(settings);
+    library =
+        fmt::format("library libp4_pd_{}.so.{}\n", binding().program, binding().library_version);
+  } catch (const Fault &) {
+    if (!settings.program.empty()) throw;
+  }
+  return fmt::format("tesselctl {}\n{}contracts: C interface {}, JSON {}", kVersion, library,
+                     kInterfaceVersion, kJsonVersion);
 }
 
 // Where a command line comes from and goes to.
@@ -75,6 +97,7 @@ class Session {
   // use: of the image, by all that will be run.
   Session(const ToolSettings &settings, Streams &streams, ImageUse use) {
     if (settings.socket.empty()) {
+      load_program_of(settings);
       home_.emplace(settings.device, image_of(settings), use, streams.errors);
       auto local = std::make_unique<LocalRunner>(home_->device(), streams.out, streams.errors,
                                                  settings.lines);
@@ -125,6 +148,7 @@ int exit_of(LineOutcome outcome) {
 
 int run_serve(const ToolSettings &settings) {
   if (settings.socket.empty()) throw Fault("serve needs --socket PATH");
+  load_program_of(settings);
   Streams streams(settings);
   serve({settings.device, settings.socket, image_of(settings)}, streams.out, streams.errors);
   return kDone;
@@ -180,7 +204,8 @@ int run_completion(const ToolSettings &settings, const Invocation &invocation) {
     try {
       return ask(named, text, at);
     } catch (const Fault &) {
-      return ask({}, text, at);
+      // Options that do not hold complete as on a new device.
+      return ask({.program = named.program}, text, at);
     }
   };
   Results results(streams.out);
@@ -199,6 +224,15 @@ int print_text(const Settings &settings, std::string_view command, const std::st
   results.end();
   out.flush();
   return kDone;
+}
+
+// The page lists what the tool has, so it needs no program.
+int run_manual(const Settings &settings, const Invocation &invocation) {
+  const Word path = need_argument(invocation, 0, "the template of the page");
+  refuse_arguments_from(invocation, 1);
+  std::string page = manual_page(read_input(std::string(path.text)));
+  page.pop_back();  // the end of the last line
+  return print_text(settings, "manual", page);
 }
 
 // The device of a server is what the server made it.
@@ -225,8 +259,9 @@ int run_words(ToolSettings &settings, const std::string &line) {
   if (plain.empty()) return run_words(settings, "run - " + line);
   Invocation invocation;
   const std::string_view first = plain[0].text;
-  if (!of_line.help && (first == "serve" || first == "complete")) {
+  if (!of_line.help && (first == "serve" || first == "complete" || first == "manual")) {
     flags.check(find_command(plain, invocation));
+    if (first == "manual") return run_manual(of_line, invocation);
     if (first == "complete") return run_completion(settings, invocation);
     refuse_arguments_from(invocation, 0);
     return run_serve(settings);
@@ -255,7 +290,7 @@ int run_tool(int argc, char **argv) {
     line = line_of(words);
     if (!settings.version) return run_words(settings, line);
     if (!words.empty()) throw Fault({words[0].text, 1}, "nothing should stand here");
-    return print_text(settings.lines, "--version", version_text());
+    return print_text(settings.lines, "--version", version_text(settings));
   } catch (const Fault &fault) {
     // What keeps a command from being run at all is an answer in JSON, too.
     settings.lines.json = json;
@@ -274,7 +309,6 @@ int run_tool(int argc, char **argv) {
 int main(int argc, char **argv) {
   // A file that may not grow is a fault of the command that writes it.
   std::signal(SIGXFSZ, SIG_IGN);
-  tesselctl::use_program(bindings::pd_binding);
   try {
     return tesselctl::run_tool(argc, argv);
   } catch (const std::bad_alloc &) {

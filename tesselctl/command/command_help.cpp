@@ -74,7 +74,7 @@ std::string help_of(const Command &command) {
 
 std::string tool_help() {
   std::string text =
-      "tesselctl works on the tables of the tessel_switch program, in a soft device.\n"
+      "tesselctl works on the tables of a P4 program, in a soft device.\n"
       "\n"
       "  tesselctl [OPTION...] COMMAND   runs a command\n"
       "  tesselctl [OPTION...]           opens a shell on a terminal, otherwise runs the commands\n"

@@ -31,6 +31,12 @@ void set_image(ToolSettings &settings, Word value) {
   settings.device_flag = "--image";
 }
 
+void set_program(ToolSettings &settings, Word value) {
+  settings.program = value.text;
+  settings.program_column = value.column;
+  settings.device_flag = "--program";
+}
+
 void set_device(ToolSettings &settings, Word value) {
   settings.device.id = static_cast<uint32_t>(parse_limited(value, 255, "the device id"));
   settings.device_flag = "--device";
@@ -52,6 +58,9 @@ constexpr Flag kFlags[] = {
      "works on the device of an image, and saves it there when a command changed it", "FILE"},
     {"--socket", FlagOf::tool, set_text<&ToolSettings::socket>,
      "works on the device of the server that listens there; of serve: where it listens", "PATH"},
+    {"--program", FlagOf::tool, set_program,
+     "the P4 program, by name or by its module's file (that of the image, or the usual one)",
+     "NAME"},
     {"--device", FlagOf::tool, set_device, "id of the device, 0 to 255 (0)", "N"},
     {"--pipes", FlagOf::tool, set_pipes, "pipes of the device, 1 to 8 (those of the image, or 4)",
      "N"},

@@ -1,10 +1,8 @@
 // What can be typed: help for people, completion for shells, the manual page.
 #include "tesselctl/command/command_help.hpp"
-#include "tesselctl/command/manual.hpp"
 #include "tesselctl/command/options.hpp"
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/completion/completion.hpp"
-#include "tesselctl/text/files.hpp"
 
 namespace tesselctl {
 
@@ -43,12 +41,9 @@ void help(Context &context, const Invocation &invocation) {
   context.results.text(help_of(command));
 }
 
-void manual(Context &context, const Invocation &invocation) {
-  const Word word = need_argument(invocation, 0, "the template of the page");
-  refuse_arguments_from(invocation, 1);
-  std::string page = manual_page(read_input(context.path(word)));
-  page.pop_back();  // the end of the last line
-  context.results.text(page);
+// Reached where the line does not come from the tool's own command line.
+void refuse_manual(Context &, const Invocation &invocation) {
+  throw Fault(invocation.command, "the manual page is printed by 'tesselctl manual FILE'");
 }
 
 constexpr Command kCommands[] = {
@@ -61,7 +56,7 @@ constexpr Command kCommands[] = {
     {.name = "manual",
      .arguments = "FILE",
      .summary = "prints the manual page of a template",
-     .run = manual,
+     .run = refuse_manual,
      .hidden = true},
 };
 

@@ -1,5 +1,6 @@
 #include "tesselctl/shell/tool_completion.hpp"
 #include "tesselctl/command/topic.hpp"
+#include "tesselctl/program/module.hpp"
 
 #include <algorithm>
 #include <cstdlib>
@@ -89,6 +90,12 @@ class ToolCompleter {
   void offer_value() {
     if (open_->value == "FILE" || open_->value == "PATH")
       return offers_.offer_files({}, cut_.quoted);
+    if (open_->name == "--program") {
+      if (offers_.typed().find('/') != std::string_view::npos)
+        return offers_.offer_files({}, cut_.quoted);
+      for (const std::string &name : program_names()) offers_.offer(name, "program");
+      return;
+    }
     offers_.hint(open_->help);
   }
 

@@ -1,6 +1,6 @@
 // Images: everything that a device holds, as text.
 //
-//   tesselctl image 1 tessel_switch         the first line: version and program
+//   tesselctl image 1 leaf_switch           the first line: version and program
 //   pipes 4
 //   profile ecmpMemberActionProfile         what follows belongs to the profile
 //   member 1 ('setEcmpNextHop',(0x0009,)),

@@ -45,7 +45,7 @@ def check(what, wanted, got):
         sys.exit(f"{what}\nwanted:\n{wanted}\ngot:\n{got}")
 
 
-def check_hosts(prefix, libdir, source, folder, cmake, toolchain, compiler):
+def check_hosts(prefix, libdir, source, folder, settings, cmake, compiler):
     loaded = dict(os.environ, LD_LIBRARY_PATH=str(prefix / libdir),
                   PKG_CONFIG_LIBDIR=str(prefix / libdir / "pkgconfig"))
     flags = run("pkg-config", "--cflags", "--libs", "tessel_switch", "tessel_switch_soft_sdk",
@@ -57,15 +57,45 @@ def check_hosts(prefix, libdir, source, folder, cmake, toolchain, compiler):
     wanted = "entry 1: ((( 0x03,0x0a010200,0x0018,),('setNextHop',(0x0011,)),),(0,True))\n"
     check("host by pkg-config", wanted, run(folder / "host", env=loaded))
 
-    run(cmake, "-S", source / "examples", "-B", folder / "b", f"-DCMAKE_PREFIX_PATH={prefix}",
-        f"-DCMAKE_C_COMPILER={compiler[0]}", "-DCMAKE_C_FLAGS=" + " ".join(compiler[1:]),
-        f"-DCMAKE_TOOLCHAIN_FILE={toolchain}")
+    run(cmake, "-S", source / "examples", "-B", folder / "b", *settings)
     run(cmake, "--build", folder / "b")
     check("host by find_package", wanted, run(folder / "b/host"))
 
     (folder / "by_name.c").write_text(BY_NAME)
     run(*compiler, folder / "by_name.c", "-o", folder / "by_name", "-ldl")
     run(folder / "by_name", env=loaded)
+
+
+PROJECT = """cmake_minimum_required(VERSION 3.25)
+project(other LANGUAGES C CXX)
+find_package(pdgen REQUIRED)
+pd_add_program(tiny CATALOGUE {catalogue} VERSION 2.0.1)
+enable_testing()
+pd_add_sweeps(tiny)
+"""
+
+
+def check_program(prefix, source, folder, settings, cmake, compiler):
+    project, tool = folder / "project", prefix / "bin/tesselctl"
+    project.mkdir()
+    (project / "CMakeLists.txt").write_text(
+        PROJECT.format(catalogue=source / "tests/pdgen/fixtures/tiny"))
+    run(cmake, "-S", project, "-B", project / "b", *settings)
+    run(cmake, "--build", project / "b", "-j2")
+    key = "fib4 match=lpm actions=2 size=unlimited entries=0 fields=vrf,dst/lpm\n"
+    check("module at hand", key, run(tool, "--program", project / "b/tiny.so", "--terse", "tables",
+                                     "fib4"))
+    run(pathlib.Path(cmake).with_name("ctest"), "--test-dir", project / "b", "--no-tests=error")
+    run(cmake, "--install", project / "b", "--prefix", prefix)
+    image = folder / "tiny.image"
+    run(tool, "--program", "tiny", "--image", image, "default", "set", "fib4", "action=pass")
+    check("program of an image", "library libp4_pd_tiny.so.2.0.1",
+          run(tool, "--image", image, "--version").splitlines()[1])
+    (folder / "old.c").write_text("const unsigned pd_binding = 0;")
+    run(*compiler, "-shared", folder / "old.c", "-o", folder / "old.so")
+    check("module of another version", f"tesselctl: {folder}/old.so is a module of version 0, and "
+          "this tool takes version 1: build the program again\n",
+          run("sh", "-c", f"{tool} --program {folder}/old.so count 2>&1; exit $(($? - 1))"))
 
 
 def main():
@@ -75,13 +105,19 @@ def main():
         folder = pathlib.Path(name)
         run(cmake, "--install", build, "--prefix", folder / "installed")
         prefix = (folder / "installed").rename(folder / "moved")
-        own = [line.split() for line in run("ldd", prefix / "bin/tesselctl").splitlines()
+        own = [line.split() for file in ("bin/tesselctl", f"{libdir}/tesselctl/tessel_switch.so")
+               for line in run("ldd", prefix / file).splitlines()
                if re.search("libp4_pd_|libsoft_", line)]
-        check("libraries of the tool", [True] * 3,
+        check("libraries of the tool and its program", [True] * 3,
               [os.path.realpath(words[2]).startswith(str(prefix)) for words in own])
         run(sys.executable, source / "tests/tool/transcript.py", prefix / "bin/tesselctl",
             source / "README.md", env=dict(os.environ, ROOT=str(source)))
-        check_hosts(prefix, libdir, source, folder, cmake, toolchain, compiler)
+        settings = [f"-DCMAKE_PREFIX_PATH={prefix}", f"-DCMAKE_C_COMPILER={compiler[0]}",
+                    "-DCMAKE_C_FLAGS=" + " ".join(compiler[1:]),
+                    "-DCMAKE_CXX_FLAGS=" + " ".join(compiler[1:]), f"-DCMAKE_INSTALL_LIBDIR={libdir}",
+                    f"-DCMAKE_TOOLCHAIN_FILE={toolchain}"]
+        check_hosts(prefix, libdir, source, folder, settings, cmake, compiler)
+        check_program(prefix, source, folder, settings, cmake, compiler)
 
 
 main()

@@ -1,0 +1,25 @@
+// Programs as modules: shared objects that hold the binding of one P4 program each and bring its
+// library along. They stand in one folder, found from where the tool stands.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "tesselctl/text/fault.hpp"
+
+namespace tesselctl {
+
+// Of the modules that are installed, in order.
+std::vector<std::string> program_names();
+
+struct ProgramChoice {
+  Word name = {};          // of a program, or of a file ending in .so; empty when nobody names one
+  std::string image = {};  // whose first line names a program; a file that need not be there
+};
+
+// Makes a program the one that the process works on: the one that is named, or the image's, or the
+// one that the tool was configured for, or the only one there is. Does nothing when there is one
+// already. Throws Fault.
+void load_program(const ProgramChoice &choice);
+
+}  // namespace tesselctl
