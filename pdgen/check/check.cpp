@@ -193,6 +193,11 @@ void check_row(const Table &table, const ResourceRow &row, Diagnostics &diagnost
                        "{} is tagged meter_spec but is no direct meter of the table",
                        item_text(table, row));
   }
+  if (!table.keyed() && row.operations != 1u << static_cast<unsigned>(Operation::kDefault)) {
+    diagnostics.report(row.place, "table.resources.in",
+                       "{} is sent in add or modify, but a table without a key has no entries",
+                       item_text(table, row));
+  }
   check_pairs(table, row, diagnostics);
 }
 

@@ -62,7 +62,8 @@ RowReader::RowReader(const TomlValue &row, Naming naming, NameScope &siblings, R
       siblings_(siblings),
       reading_(reading) {
   if (const TomlMember *member = row_.find(naming_.name_key)) {
-    if (const auto *name = std::get_if<std::string>(&member->value.data)) what_ += " " + *name;
+    if (const auto *name = std::get_if<std::string>(&member->value.data))
+      what_ += (name->empty() ? "" : " ") + *name;
   }
   if (!naming_.owner.empty()) what_ += " of " + naming_.owner;
 }
@@ -73,7 +74,7 @@ RowReader::~RowReader() {
     report_at(row_.place, missing_[0], "{} lacks {}", what_, fmt::join(missing_, ", "));
   }
   if (has_slip) return;
-  for (Fault &fault : consequences_) reading_.diagnostics.report(std::move(fault));
+  for (Fault &fault : faults_) reading_.diagnostics.report(std::move(fault));
 }
 
 // Whether one is another key, misspelt, which then is not missing. The others are one fault, such
@@ -105,7 +106,8 @@ bool RowReader::report_unknown_keys() {
   }
   if (first != nullptr) {
     report_at(first->key_place, first->key, "{} has no {}; it may have {}", what_,
-              fmt::join(others, ", "), fmt::join(known_keys_, ", "));
+              fmt::join(others, ", "),
+              known_keys_.empty() ? "nothing" : fmt::to_string(fmt::join(known_keys_, ", ")));
   }
   return has_slip;
 }
@@ -141,17 +143,6 @@ const TomlValue *RowReader::value(std::string_view key, Need need) {
   const TomlMember *member = row_.find(key);
   if (member != nullptr) return &member->value;
   if (need == kRequired) missing_.emplace_back(key);
-  return nullptr;
-}
-
-template <typename T>
-const T *RowReader::typed(std::string_view key, const TomlValue *value, std::string_view wanted) {
-  if (value == nullptr) return nullptr;
-  const T *data = std::get_if<T>(&value->data);
-  if (data != nullptr) return data;
-  report_at(value->place, key, "{} has {} here, which must be {}", what_, value->kind_text(),
-            wanted);
-  spoilt_.emplace(key);
   return nullptr;
 }
 
@@ -191,7 +182,8 @@ bool RowReader::number(std::string_view key, unsigned &number, unsigned least, u
   const auto shown = [=](std::int64_t value) { return fmt::format(fmt::runtime(notation), value); };
   if (fits) number = static_cast<unsigned>(*given);
   if (!fits) {
-    report(key, "{} of {} must be from {} to {}", shown(*given), what_, shown(least), shown(most));
+    report_at(place(key), key, "{} of {} must be from {} to {}", shown(*given), what_, shown(least),
+              shown(most));
   }
   return fits;
 }
@@ -202,7 +194,9 @@ bool RowReader::number_of(std::string_view key, unsigned &number,
   if (!this->number(key, given, 0, kAnyNumber, need)) return false;
   const bool fits = std::ranges::find(choices, given) != choices.end();
   if (fits) number = given;
-  if (!fits) report(key, "{} of {} must be one of {}", given, what_, fmt::join(choices, ", "));
+  if (!fits)
+    report_at(place(key), key, "{} of {} must be one of {}", given, what_,
+              fmt::join(choices, ", "));
   return fits;
 }
 
@@ -230,7 +224,8 @@ std::size_t RowReader::index_of_choice(std::string_view key,
   if (!string(key, text, need)) return choices.size();
   const auto chosen = std::ranges::find(choices, text);
   if (chosen == choices.end()) {
-    report(key, "\"{}\" of {} must be one of {}", text, what_, fmt::join(choices, ", "));
+    report_at(place(key), key, "\"{}\" of {} must be one of {}", text, what_,
+              fmt::join(choices, ", "));
   }
   return static_cast<std::size_t>(chosen - choices.begin());
 }
@@ -353,8 +348,9 @@ void resolve_references(Reading &reading) {
     // Nor is anything known of what an unknown row has.
     reading.incomplete.insert(of_the(reference.wanted));
     if (may_be_unread) continue;
-    Unknown &slip =
-        unknown[is_of_one(reference) ? reference.fault.message : std::string(reference.name)];
+    const std::string name(reference.name);
+    const bool is_own = is_of_one(reference) && !unknown.contains(name);
+    Unknown &slip = unknown[is_own ? reference.fault.message : name];
     if (slip.count++ == 0) slip.first = &reference;
   }
   for (const auto &[name, slip] : unknown) report_unknown(slip, named, reading.diagnostics);

@@ -114,17 +114,17 @@ class RowReader {
   const std::string &what() const { return what_; }
   Program &program() const { return reading_.program; }
 
+  // Whether all rows of a kind have been read, as far as they come before this one.
+  bool knows(const std::string &kind) const { return !reading_.incomplete.contains(kind); }
+
   bool has(std::string_view key) const { return row_.find(key) != nullptr; }
   // Of the value, or of the row if it lacks the key.
   const Place &place(std::string_view key) const;
-  // Says no more of a value whose type is wrong, nor of a key that the row lacks because it has
-  // another name there.
+  // Nothing is said of a value whose type is wrong, nor of a row that has a misspelt key.
   template <typename... Args>
   void report(std::string_view key, fmt::format_string<Args...> message, Args &&...args) {
-    Fault fault = {place(key), path(key), fmt::format(message, std::forward<Args>(args)...)};
     if (spoilt_.contains(key)) return;
-    if (!has(key)) return consequences_.push_back(std::move(fault));
-    reading_.diagnostics.report(std::move(fault));
+    faults_.push_back({place(key), path(key), fmt::format(message, std::forward<Args>(args)...)});
   }
   // At a place other than that of the key.
   template <typename... Args>
@@ -205,7 +205,7 @@ class RowReader {
   template <typename Row, typename Read>
   void row(std::string_view key, std::optional<Row> &row, Read read) {
     const TomlValue *given = value(key, kOptional);
-    if (given == nullptr) return;
+    if (typed<TomlValue::Table>(key, given, "a table") == nullptr) return;
     RowReader reader(*given, naming_of(key, std::string(key), ""), siblings_, reading_);
     read(reader, row.emplace());
   }
@@ -244,7 +244,16 @@ class RowReader {
   Naming naming_of(std::string_view key, std::string kind, std::string name_key) const;
   std::string path(std::string_view key) const;
   template <typename T>
-  const T *typed(std::string_view key, const TomlValue *value, std::string_view wanted);
+  const T *typed(std::string_view key, const TomlValue *value, std::string_view wanted) {
+    if (value == nullptr) return nullptr;
+    const T *data = std::get_if<T>(&value->data);
+    if (data == nullptr) {
+      report_at(value->place, key, "{} has {} here, which must be {}", what_, value->kind_text(),
+                wanted);
+      spoilt_.emplace(key);
+    }
+    return data;
+  }
   bool string(std::string_view key, std::string &value, Need need);
   template <typename T>
   std::vector<const TomlValue *> elements(std::string_view key, Need need, std::string_view verb,
@@ -263,7 +272,7 @@ class RowReader {
   Reading &reading_;
   std::vector<std::string> known_keys_;
   std::vector<std::string> missing_;           // keys that the row must have
-  std::vector<Fault> consequences_;            // of keys that it lacks
+  std::vector<Fault> faults_;                  // of its values
   std::vector<std::string> missing_kinds_;     // of rows under keys that it lacks
   std::set<std::string, std::less<>> spoilt_;  // keys whose values have a wrong type
   bool is_doubled_ = false;                    // its name is that of a sibling

@@ -118,18 +118,14 @@ void read_pair(RowReader &row, bool keyed, Pair &pair) {
   read_use(row, keyed, pair);
 }
 
-void read_operations(RowReader &row, bool keyed, ResourceRow &resource) {
+void read_operations(RowReader &row, ResourceRow &resource) {
   for (const auto &[name, place] : row.words("in", kRequired)) {
     const auto *found = std::ranges::find(kNamesOf<Operation>, name);
-    const auto operation = static_cast<std::size_t>(found - kNamesOf<Operation>.begin());
     if (found == kNamesOf<Operation>.end()) {
       row.report("in", "\"{}\" of {} must be one of {}", name, row.what(),
                  fmt::join(kNamesOf<Operation>, ", "));
-    } else if (!keyed && operation != static_cast<std::size_t>(Operation::kDefault)) {
-      row.report("in", "{} is sent in {}, but a table without a key has no entries", row.what(),
-                 name);
     }
-    resource.operations |= 1u << operation;
+    resource.operations |= 1u << (found - kNamesOf<Operation>.begin());
   }
 }
 
@@ -170,11 +166,9 @@ void read_default_entry(RowReader &row, const Table &table, DefaultEntry &entry)
   const auto named = [&](const Pair &pair) {
     return is_it(pair) && pair.action.name == entry.action.name;
   };
-  if (action == nullptr || std::ranges::none_of(table.pairs, named)) return row.ignore_other_keys();
-  const bool is_whole = std::ranges::all_of(action->params, [&](const Param &param) {
-    return !param.name.empty() && find_row(action->params, param.name) == &param;
-  });
-  if (!is_whole) return row.ignore_other_keys();
+  if (action == nullptr || std::ranges::none_of(table.pairs, named) || !row.knows("parameter")) {
+    return row.ignore_other_keys();
+  }
   read_values(row, *action, entry);
 }
 
@@ -191,7 +185,7 @@ void read_resource(RowReader &row, const Table &table, ResourceRow &resource) {
   if (row.has("index") && resource.tag == ResourceTag::kDetach) {
     row.report("index", "{} is detached and needs no cell", row.what());
   }
-  read_operations(row, table.keyed(), resource);
+  read_operations(row, resource);
 }
 
 void check_actions(RowReader &row, const Table &table) {
