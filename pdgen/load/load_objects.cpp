@@ -279,7 +279,8 @@ void read_fields(RowReader &file) {
   FieldFacts &facts = file.program().field_facts;
   file.names("instance_prefixes", facts.instance_prefixes, "beginning of a key field of any table",
              key_fields(file.program()), begins);
-  file.names("v4_addresses", facts.v4_addresses, "parameter or field of a digest or snapshot",
+  file.names("v4_addresses", facts.v4_addresses,
+             "parameter of an action or field of a digest or snapshot",
              bare_fields(file.program()));
   file.rows("hints", "hint", "hint", facts.hints, read_hint, kOptional);
 }

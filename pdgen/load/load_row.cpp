@@ -304,15 +304,27 @@ std::optional<Candidate> meant(const Reference &reference, const std::set<const 
   return near.empty() ? std::nullopt : std::optional(*row);
 }
 
+// Where rows of optional files stand.
+std::string home_of(std::string_view wanted) {
+  const bool is_profile = wanted == "profile";
+  if (!is_profile && !wanted.starts_with("counter")) return "";
+  return fmt::format(", which {}.toml lists", is_profile ? "profiles" : "stateful");
+}
+
 // Several rows are right, and the row that they mean is misspelt, if nothing names that one.
 void report_unknown(const Unknown &unknown, const std::set<const void *> &named,
                     Diagnostics &diagnostics) {
   const auto &[fault, name, wanted, candidates, found, fits] = *unknown.first;
   const auto near = meant(*unknown.first, named);
-  const std::string more = fmt::format(" and {} more", unknown.count - 1);
+  const std::string more = unknown.count == 1 ? "" : fmt::format(" and {} more", unknown.count - 1);
+  if (candidates().empty()) {
+    return diagnostics.report(fault.place, fault.key,
+                              "{} names {}{}, but the catalogue has no {}{}", fault.message, name,
+                              more, wanted, is_of_one(*unknown.first) ? "" : home_of(wanted));
+  }
   if (unknown.count == 1 || is_of_one(*unknown.first)) {
     diagnostics.report(fault.place, fault.key, "{} names {}{}, which is no {}{}", fault.message,
-                       name, unknown.count == 1 ? "" : more, wanted,
+                       name, more, wanted,
                        near ? fmt::format("; did you mean {}?", near->name) : "");
   } else if (near && !named.contains(near->row)) {
     diagnostics.report(near->place, "name", "nothing names {}, but {}{} name {}: is it this one?",
@@ -350,7 +362,9 @@ void resolve_references(Reading &reading) {
     if (may_be_unread) continue;
     const std::string name(reference.name);
     const bool is_own = is_of_one(reference) && !unknown.contains(name);
-    Unknown &slip = unknown[is_own ? reference.fault.message : name];
+    Unknown &slip = unknown[rows.empty() ? std::string(reference.wanted)
+                            : is_own     ? reference.fault.message
+                                         : name];
     if (slip.count++ == 0) slip.first = &reference;
   }
   for (const auto &[name, slip] : unknown) report_unknown(slip, named, reading.diagnostics);
