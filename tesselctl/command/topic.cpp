@@ -34,6 +34,7 @@ const Command &find_command(Words words, Invocation &invocation) {
   const Command *found = nullptr;
   bool first_is_known = false;
   for (const Topic *topic : command_topics()) {
+    if (!topic->is_there()) continue;
     for (const Command &command : topic->commands) {
       if (command.first_word() != words[0].text) continue;
       first_is_known = true;

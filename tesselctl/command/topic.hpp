@@ -21,6 +21,7 @@ struct Topic {
   std::span<const Command> commands;
   std::span<const ObjectWord> words = {};
   std::span<const ItemKind> kinds = {};
+  bool (*is_there)() = [] { return true; };  // for the program at hand
 };
 std::span<const Topic *const> command_topics();
 
@@ -28,6 +29,7 @@ std::span<const Topic *const> command_topics();
 template <class Visit>
 void for_each_shown_command(Visit visit) {
   for (const Topic *topic : command_topics()) {
+    if (!topic->is_there()) continue;
     for (const Command &command : topic->commands) {
       if (!command.hidden) visit(command);
     }

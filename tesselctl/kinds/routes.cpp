@@ -66,10 +66,7 @@ const bindings::Record *table_for(Notation address) {
   return nullptr;
 }
 
-const bindings::Record &route_action() {
-  if (binding().routes.action != nullptr) return action_record(binding().routes.action);
-  throw Fault("the program has no tables of routes");
-}
+const bindings::Record &route_action() { return action_record(binding().routes.action); }
 
 // Adds and finds the entries of one table. The functions are looked up once; for each route only
 // the members of the records change.
@@ -336,8 +333,12 @@ constexpr Command kCommands[] = {
      Kind::changes},
 };
 
+// A process without a program lists all commands.
+bool has_routes() { return !has_program() || binding().routes.action != nullptr; }
+
 }  // namespace
 
-extern const Topic kRoutesTopic = {"Routes", kCommands};
+extern const Topic kRoutesTopic = {
+    .title = "Routes", .commands = kCommands, .is_there = has_routes};
 
 }  // namespace tesselctl
