@@ -340,6 +340,8 @@ struct LabelItem {
   std::vector<LabelText> texts;  // numbers
   std::uint32_t texts_mask =
       0xffffffff;  // numbers: texts apply if the mask has a bit of it; else all ones
+
+  bool is_number() const { return kind == LabelKind::kNumber || kind == LabelKind::kExact; }
 };
 
 struct Label {

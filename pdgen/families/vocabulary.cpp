@@ -2,6 +2,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <ranges>
 
 #include "pdgen/families/members.hpp"
 #include "pdgen/names.hpp"
@@ -65,17 +66,9 @@ Text tag(S scope) {
   return type.substr(0, type.size() - 2);
 }
 
-Text profile_index(S s) {
-  const Ref<Profile> &profile = s.get<Table>().profile;
-  return profile ? text_of(index_of<&Program::profiles>(s, *profile)) : "-1";
-}
-
-bool is_partial(S s) {
-  const std::vector<KeyField> &key = s.get<Table>().key;
-  return std::ranges::any_of(key, [](const KeyField &field) { return field.partial; });
-}
-
+bool is_partial(S s) { return std::ranges::any_of(s.get<Table>().key, &KeyField::partial); }
 bool is_keyed(S s) { return s.get<Table>().keyed(); }
+bool is_indirect(S s) { return s.get<Table>().indirect(); }
 
 // The member that goes with the value in the core: itself for an exact one.
 Text companion(S s) {
@@ -89,13 +82,19 @@ unsigned byte_of(const Bits &bits, unsigned number) {
                                          : bits.upper >> 8 * (number - 8));
 }
 
+Text hex64(std::uint64_t value) { return fmt::format("{:#018x}", value); }
+Text low_hex(const Bits &bits) { return hex32(static_cast<std::uint32_t>(bits.lower)); }
+
+// Of so many bytes, the most significant first.
+void append_bytes(std::vector<unsigned> &bytes, const Bits &bits, unsigned count) {
+  while (count-- > 0) bytes.push_back(byte_of(bits, count));
+}
+
 // The bits that are compared in each byte of a key.
 Text compared_bytes(S s) {
-  std::vector<unsigned> bytes(s.get<Table>().key_bytes, 0);
-  for (const KeyField &field : s.get<Table>().key) {
-    for (unsigned i = 0; i < field.bytes; ++i) {
-      bytes[field.offset + i] = byte_of(field.key_bits, field.bytes - 1 - i);
-    }
+  std::vector<unsigned> bytes;
+  for (const auto &field : s.get<Table>().key_order) {
+    append_bytes(bytes, field->key_bits, field->bytes);
   }
   return fmt::format("{:#04x}", fmt::join(bytes, ", "));
 }
@@ -110,8 +109,7 @@ std::uint32_t initial_value(S s, const Param &param) {
 Text initial_data(S s) {
   std::vector<unsigned> bytes;
   for (const Param &param : s.get<Action>().params) {
-    const Bits value = {0, param.is_index() ? 0 : initial_value(s, param)};
-    for (unsigned i = param.bytes; i-- > 0;) bytes.push_back(byte_of(value, i));
+    append_bytes(bytes, {0, param.is_index() ? 0 : initial_value(s, param)}, param.bytes);
   }
   return fmt::format("{:#04x}", fmt::join(bytes, ", "));
 }
@@ -155,11 +153,8 @@ Text field_remark(S s) {
 Text param_remark(S s) {
   const Param &param = s.get<Param>();
   std::string remark = bit_count(param.width);
-  const char *before = ", cell of ";
-  for (const Ref<Resource> &resource : param.index_of) {
-    remark += before + resource.name;
-    before = " and ";
-  }
+  const auto cells = param.index_of | std::views::transform(&Ref<Resource>::name);
+  if (param.is_index()) remark += fmt::format(", cell of {}", fmt::join(cells, " and "));
   if (param.hint == Hint::kMac) remark += ", half of a MAC address";
   if (param.hint == Hint::kV4Addr) remark += ", IPv4 address";
   return remark;
@@ -182,16 +177,12 @@ Text digits_at(const ValueText &value) {
 
 // --- Labels ---
 
-bool is_number(const LabelItem &item) {
-  return item.kind == LabelKind::kNumber || item.kind == LabelKind::kExact;
-}
-
 Text label_text(S s) {
   const LabelItem &item = s.get<LabelItem>();
   if (item.kind == LabelKind::kFlag) {
     return c_literal("!" + item.label + std::string(item.after, ' '));
   }
-  return c_literal(is_number(item) ? item.format + " 0x" : item.label);
+  return c_literal(item.is_number() ? item.format + " 0x" : item.label);
 }
 
 // Silent items have no number.
@@ -222,7 +213,8 @@ const Placeholder kPlaceholders[] = {
     {"program", "route_action", [](S s) { return s.get<Program>().routes->action.name; }},
     {"program", "schema_count",
      [](S s) {
-       return text_of(s.get<Program>().tables.size() + s.get<Program>().profiles.size());
+       const Program &program = s.get<Program>();
+       return text_of(program.tables.size() + program.profiles.size());
      }},
     {"program", "action_name_size", longest<&TextSizes::action_name>},
     {"program", "schema_size", longest<&TextSizes::schema>},
@@ -231,14 +223,10 @@ const Placeholder kPlaceholders[] = {
     {"program", "value_size", longest<&TextSizes::value>},
     {"program", "label_size", longest<&TextSizes::label>},
     // The pipeline manager may hand back so much action data whatever the program has.
-    {"program", "greatest_action_data",
-     greatest<&Program::actions, &Action::data_bytes, 28>},
-    {"program", "greatest_action_spec",
-     greatest<&Program::actions, &Action::record_bytes>},
-    {"program", "greatest_match_spec",
-     greatest<&Program::tables, &Table::record_bytes>},
-    {"program", "greatest_key",
-     greatest<&Program::tables, &Table::key_bytes>},
+    {"program", "greatest_action_data", greatest<&Program::actions, &Action::data_bytes, 28>},
+    {"program", "greatest_action_spec", greatest<&Program::actions, &Action::record_bytes>},
+    {"program", "greatest_match_spec", greatest<&Program::tables, &Table::record_bytes>},
+    {"program", "greatest_key", greatest<&Program::tables, &Table::key_bytes>},
     {"program", "at_least_one_profile",
      [](S s) { return text_of(std::max<std::size_t>(1, s.get<Program>().profiles.size())); }},
     {"table", "table", text<&Table::name>},
@@ -250,15 +238,15 @@ const Placeholder kPlaceholders[] = {
     {"table", "record_bytes", text<&Table::record_bytes>},
     {"table", "kind", name_of<&Table::kind>},
     // A table without a key counts as exact.
-    {"table", "MATCH",
-     [](S s) { return is_keyed(s) ? capitals<&Table::kind>(s) : "EXACT"; }},
+    {"table", "MATCH", [](S s) { return is_keyed(s) ? capitals<&Table::kind>(s) : "EXACT"; }},
     {"table", "size", text<&Table::size>},
-    {"table", "profile_index", profile_index},
-    {"table", "action_data",
+    {"table", "profile_index",
      [](S s) {
-       const Ref<Profile> &profile = s.get<Table>().profile;
-       return profile ? hex32(profile->action_data_handle) : "0";
+       if (!is_indirect(s)) return Text("-1");
+       return text_of(index_of<&Program::profiles>(s, *s.get<Table>().profile));
      }},
+    {"table", "action_data",
+     [](S s) { return is_indirect(s) ? hex32(s.get<Table>().profile->action_data_handle) : "0"; }},
     {"table", "compared", compared_bytes},
     {"table", "schema", [](S s) { return c_literal(table_schema(s.get<Table>())); }},
     {"table", "key_schema", [](S s) { return c_literal(match_spec_schema(s.get<Table>())); }},
@@ -274,8 +262,7 @@ const Placeholder kPlaceholders[] = {
     {"field", "storage", text<&KeyField::storage_bytes>},
     {"field", "width", text<&KeyField::width>},
     {"field", "bytes", text<&KeyField::bytes>},
-    {"field", "key_bits",
-     [](S s) { return hex32(static_cast<std::uint32_t>(s.get<KeyField>().key_bits.lower)); }},
+    {"field", "key_bits", [](S s) { return low_hex(s.get<KeyField>().key_bits); }},
     {"field", "match", name_of<&KeyField::match>},
     {"field", "MATCH", capitals<&KeyField::match>},
     {"record_field", "name", text<&RecordField::name>},
@@ -284,17 +271,15 @@ const Placeholder kPlaceholders[] = {
     {"record_field", "storage_bits", bits_of<&RecordField::storage_bytes>},
     {"record_field", "digits", [](S s) { return text_of(digit_count(s.get<RecordField>().width)); }},
     {"record_field", "bits",
+     // Those of a wide one stand in <wide_bits>.
      [](S s) {
-       const RecordField &field = s.get<RecordField>();
-       const bool wide = field.storage_bytes == 16;  // it has bits of its own
-       return hex32(wide ? 0 : static_cast<std::uint32_t>(member_bits(s.get<Table>(), field).lower));
+       const auto &field = s.get<RecordField>();
+       return low_hex(field.storage_bytes == 16 ? Bits{} : member_bits(s.get<Table>(), field));
      }},
     {"record_field", "wide_bits",
      [](S s) {
        std::vector<unsigned> bytes;
-       for (unsigned i = 16; i-- > 0;) {
-         bytes.push_back(byte_of(member_bits(s.get<Table>(), s.get<RecordField>()), i));
-       }
+       append_bytes(bytes, member_bits(s.get<Table>(), s.get<RecordField>()), 16);
        return fmt::format("{:#x}", fmt::join(bytes, ", "));
      }},
     {"record_field", "remark", field_remark},
@@ -328,7 +313,7 @@ const Placeholder kPlaceholders[] = {
     {"param", "width", text<&Param::width>},
     {"param", "bytes", text<&Param::bytes>},
     {"param", "digits", [](S s) { return text_of(digit_count(s.get<Param>().width)); }},
-    {"param", "bits", [](S s) { return hex32(static_cast<std::uint32_t>(low_bits(s.get<Param>().width).lower)); }},
+    {"param", "bits", [](S s) { return low_hex(low_bits(s.get<Param>().width)); }},
     {"param", "remark", param_remark},
     {"profile", "profile", text<&Profile::name>},
     {"profile", "action_data", hex<&Profile::action_data_handle>},
@@ -394,8 +379,8 @@ const Placeholder kPlaceholders[] = {
     {"tool_field", "notation", text<&ToolField::notation>},
     {"tool_field", "match", name_of<&ToolField::match>},
     {"tool_field", "width", text<&ToolField::width>},
-    {"tool_field", "upper_bits", [](S s) { return fmt::format("{:#018x}", s.get<ToolField>().key_bits.upper); }},
-    {"tool_field", "lower_bits", [](S s) { return fmt::format("{:#018x}", s.get<ToolField>().key_bits.lower); }},
+    {"tool_field", "upper_bits", [](S s) { return hex64(s.get<ToolField>().key_bits.upper); }},
+    {"tool_field", "lower_bits", [](S s) { return hex64(s.get<ToolField>().key_bits.lower); }},
     {"part", "part", [](S s) { return text_of(s.get<std::size_t>()); }},
     {"cell", "cell", [](S s) { return s.get<Text>(); }},
     {"include", "include", [](S s) { return s.get<Text>(); }},
@@ -445,7 +430,7 @@ const Condition kConditions[] = {
     {"table", "keyed", is_keyed},
     {"table", "prioritized", [](S s) { return s.get<Table>().has_priority(); }},
     {"table", "ageing", flag<&Table::idle_time>},
-    {"table", "indirect", [](S s) { return s.get<Table>().indirect(); }},
+    {"table", "indirect", is_indirect},
     {"table", "partial", is_partial},
     {"table", "first_of_key", [](S s) { return s.get<Table>().first_of_key == s.find<Table>(); }},
     {"record_field", "wide", [](S s) { return s.get<RecordField>().storage_bytes == 16; }},
@@ -460,7 +445,7 @@ const Condition kConditions[] = {
     {"layout", "padded", [](S s) { return padding(s, s.get<SnapshotLayout>().fields) != 0; }},
     {"packet_field", "many", [](S s) { return s.get<PacketField>().bytes > 1; }},
     {"label_item", "number", [](S s) { return s.get<LabelItem>().kind == LabelKind::kNumber; }},
-    {"label_item", "any_number", [](S s) { return is_number(s.get<LabelItem>()); }},
+    {"label_item", "any_number", [](S s) { return s.get<LabelItem>().is_number(); }},
     {"label_item", "bits",
      [](S s) {
        const LabelItem &item = s.get<LabelItem>();

@@ -182,7 +182,6 @@ void read_item(RowReader &row, const Ref<Table> &table, LabelItem &item) {
       return table ? RowReader::rows_of(table->key)() : std::vector<Candidate>{};
     });
   };
-  const bool is_number = item.kind == LabelKind::kNumber || item.kind == LabelKind::kExact;
   if (item.kind == LabelKind::kMac) {
     read_field("oui", item.oui);
     read_field("station", item.station);
@@ -194,7 +193,7 @@ void read_item(RowReader &row, const Ref<Table> &table, LabelItem &item) {
     row.number("after", item.after, 1, kMostBlanks, kOptional);
   }
   if (item.kind == LabelKind::kNumber) read_number_texts(row, item);
-  if (is_number) {
+  if (item.is_number()) {
     row.text("format", item.format);
     row.number("digits", item.digits, 1, kMostDigits);
   } else if (item.kind != LabelKind::kSilent) {
