@@ -6,7 +6,6 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <iterator>
 #include <map>
 #include <ranges>
 #include <sstream>
@@ -24,7 +23,7 @@ namespace {
 constexpr std::string_view kHelp =
     R"(usage: pdgen --catalogue DIR --check
        pdgen --catalogue DIR [--build DIR] [--header FILE] [--exports FILE]
-             [--handles FILE] [--soname N] [--families DIR]
+             [--handles FILE] [--soname N]
 
 Reads the catalogue of a P4 program and writes the sources of its control-plane
 library. Files whose text does not change are left alone.
@@ -37,8 +36,6 @@ library. Files whose text does not change are left alone.
   --exports FILE   write the list of exported names
   --handles FILE   write the list of handles with their objects
   --soname N       version of the shared object (1)
-  --families DIR   the folder of the .family files that state the interface, if not
-                   those that pdgen was built with
   --help           show this
   --version        show the version
 
@@ -105,17 +102,6 @@ std::string fault_of(const Options &options) {
                   : "nothing to write: give --check, --build, --header, --exports or --handles";
 }
 
-pdgen::Families load_families(const Options &options, pdgen::Diagnostics &diagnostics) {
-  const auto directory = options.find("--families");
-  if (directory == options.end()) {
-    return pdgen::load_families(pdgen::embedded_families(), diagnostics);
-  }
-  auto files = pdgen::read_files(directory->second, ".family", diagnostics);
-  std::ranges::move(pdgen::read_files(directory->second + "/outputs", ".output", diagnostics),
-                    std::back_inserter(files));
-  return pdgen::load_families(files, diagnostics);
-}
-
 // The files of each option that is given. A file that is checked in has an option of its own, all
 // others are for the build folder.
 std::map<std::string, std::vector<pdgen::TextFile>> output_files(const pdgen::Api &api,
@@ -161,7 +147,7 @@ int run(const Options &options) {
   const auto loaded = pdgen::load_program(catalogue);
   if (report(loaded.diagnostics.text())) return 1;
   pdgen::Diagnostics diagnostics;
-  const pdgen::Families families = load_families(options, diagnostics);
+  const pdgen::Families families = pdgen::load_families(pdgen::embedded_families(), diagnostics);
   if (report(diagnostics.text())) return 1;
   pdgen::Api api = pdgen::build_api(*loaded.program, families);
   api.soname = soname(options);
