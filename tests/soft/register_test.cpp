@@ -132,13 +132,6 @@ TEST_P(Registers, AgreeAfterRandomCalls) {
       read(pipe);
     }
     if (what > 17) find();
-    if (step % 300 != 299) continue;
-    constexpr bf_device_id_t kOther = 9;  // goes on with a copy of the device
-    OK(soft_device_create(kOther, 2, &small_program(), false));
-    OK(soft_device_copy(kDevice, kOther));
-    OK(pipe_stful_table_reset(session, kDevice, kAll, reg, nullptr));
-    OK(soft_device_copy(kOther, kDevice));
-    OK(soft_device_remove(kOther));
   }
 }
 
