@@ -89,7 +89,7 @@ class RouteTable {
       }
     }
     add_.set("match_spec", key_.data()).set("action_spec", parameters_.data());
-    add_.set("ttl", uint64_t{0}).set("entry", &entry_);
+    add_.set_if_taken("ttl", uint64_t{0}).set("entry", &entry_);
     find_.set("match_spec", key_.data()).set("entry", &entry_);
   }
 
