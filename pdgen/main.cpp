@@ -155,7 +155,7 @@ int run(const Options &options) {
   pdgen::check_distinct(api.names, "C name", diagnostics);
   if (report(diagnostics.text())) return 1;
   if (options.contains("--check")) {
-    fmt::print("{} has no fault: {} tables, {} actions, {} functions\n", catalogue,
+    fmt::print("{} has no fault: tables={} actions={} functions={}\n", catalogue,
                api.program.tables.size(), api.program.actions.size(), api.functions.size());
     return 0;
   }

@@ -61,7 +61,7 @@ void read_key_field(RowReader &row, KeyField &field) {
     row.report("width", "{} bits of {} must be 1 to 32, or {}", field.width, row.what(), kWide);
     field.width = 0;
   }
-  row.choice("match", field.match, kOptional, 1);
+  row.choice("match", field.match, kOptional);
   read_sizes(row, field.width, field.storage_bytes, field.bytes);
   read_key_bits(row, field);
   const std::string header = validity_header(field.name);
