@@ -9,7 +9,7 @@
 '...' stands for any text. In a Markdown page the blocks of code with commands are run, in one
 folder, and need not print exit codes; "cat FILE" makes a file that is not there. An HTML comment
 before a block says otherwise: "not run" skips it, "file NAME" makes it the contents of a file, as
-do further lines of the comment; "run" and lines are commands of their own.
+do further lines of the comment, "add NAME" the end of one; "run" and lines are commands of their own.
 
     transcript.py TOOL [--write] FILE...      --write puts what came in the place of what differs
     transcript.py TOOL --json SCHEMA FILE...  kept tools print JSON, which must say the same
@@ -51,7 +51,7 @@ class Process:
     def run(self, command):
         self.process.stdin.write(f"{command}\n{self.mark}\n".encode())
         self.process.stdin.flush()
-        answer = self.read_until(self.end, 60)
+        answer = self.read_until(self.end, 600)
         if answer is None:
             sys.exit(f"no end of: {command}\n{self.unread}")
         return answer
@@ -100,8 +100,9 @@ class Section:
     def path(self, name):
         return os.path.join(self.folder.name, name)
 
-    def write(self, name, text):
-        with open(self.path(name), "w") as file:
+    def write(self, name, text, mode="w"):
+        os.makedirs(os.path.dirname(self.path(name)), exist_ok=True)
+        with open(self.path(name), mode) as file:
             file.write(text)
 
     def close(self):
@@ -168,6 +169,8 @@ class Transcript:
                     self.section.write(note[5:], "\n".join(lines) + "\n")
             elif part.startswith("```"):
                 head, *lines, tail = part.split("\n")
+                if note.startswith("add "):
+                    self.section.write(note[4:], "\n".join(lines) + "\n", "a")
                 if note != "not run" and any(line.startswith("$ ") for line in lines):
                     part = f"{head}\n{self.run_block(lines)}{tail}"
                 note = ""
