@@ -1,13 +1,13 @@
 # pd_add_program(<program> CATALOGUE <dir> [HEADER_DIR <dir>] [VERSION <v>] [SONAME <n>] [NO_INSTALL])
 #
-# Builds what there is of a P4 program from its catalogue, whose name it has:
+# Builds what there is of a P4 program from its catalogue, which has the program's name:
 #   pd_<program>            libp4_pd_<program>.so, the control-plane library
 # and, where there is a soft SDK,
 #   soft_program_<program>  libsoft_program_<program>.so, its description for that: one constant
 #   pd_<program>_binding    its exports as data (bindings/export_table.hpp), and that description
 #   pd_<program>_module     <program>.so, the same as tesselctl loads it
 # The library compiles against the header p4_pd_<program>.h in HEADER_DIR, which pdgen writes with
-# --header (scripts/generate); without HEADER_DIR the header is made in the build folder.
+# --header (scripts/generate); where there is none, it is made in the build folder.
 # VERSION (1.0.0) and SONAME (its first number) are the library's. All is installed unless NO_INSTALL
 # says otherwise, as a package of the program's name for CMake and pkg-config.
 #
@@ -33,6 +33,10 @@ function(pd_add_program program)
   find_path(CJSON_INCLUDE_DIR cjson/cJSON.h REQUIRED)
   find_library(CJSON_LIBRARY cjson REQUIRED)
   cmake_path(ABSOLUTE_PATH arg_CATALOGUE BASE_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR} NORMALIZE)
+  pd_program_name(${arg_CATALOGUE} name)
+  if(NOT program STREQUAL name)
+    message(FATAL_ERROR "The program of ${arg_CATALOGUE} is ${name}, not ${program}")
+  endif()
   cmake_path(GET CMAKE_CURRENT_FUNCTION_LIST_DIR PARENT_PATH root)
   set(dir ${CMAKE_CURRENT_BINARY_DIR}/generated/${program})
   pd_generate()
@@ -44,6 +48,19 @@ function(pd_add_program program)
   if(NOT arg_NO_INSTALL)
     pd_install_program()
   endif()
+endfunction()
+
+# The name of a catalogue's program, as its program.toml says.
+function(pd_program_name catalogue name)
+  set(lines "")
+  if(EXISTS ${catalogue}/program.toml)
+    file(STRINGS ${catalogue}/program.toml lines REGEX "^[ \t]*name[ \t]*=")
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${catalogue}/program.toml)
+  endif()
+  if(NOT lines MATCHES "=[ \t]*[\"']([A-Za-z0-9_]+)[\"']")
+    message(FATAL_ERROR "${catalogue}/program.toml should name the program: name = \"NAME\"")
+  endif()
+  set(${name} ${CMAKE_MATCH_1} PARENT_SCOPE)
 endfunction()
 
 # pd_add_sweeps(<program>): the test sweeps_<program>, every sweep over a program that pd_add_program
@@ -67,7 +84,8 @@ macro(pd_generate)
   if(arg_HEADER_DIR)
     cmake_path(ABSOLUTE_PATH arg_HEADER_DIR BASE_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR} NORMALIZE)
     set(header ${arg_HEADER_DIR}/p4_pd_${program}.h)
-  else()
+  endif()
+  if(NOT arg_HEADER_DIR OR NOT EXISTS ${header})
     set(arg_HEADER_DIR ${dir})
     set(header ${arg_HEADER_DIR}/p4_pd_${program}.h)
     set(header_option --header ${header})
