@@ -1,6 +1,8 @@
 // Placement data: entries and members as objects of bytes.
 #pragma once
 
+#include <cstddef>
+
 #include "pipe_mgr_types.h"
 
 // A header in front of `length` bytes of contents, all in one block of memory.
@@ -19,19 +21,29 @@ namespace soft {
 
 enum class PlacedKind : uint32_t { kEntry, kMember };
 
-// The contents begin with this. Data, value and mask follow without gaps and take the room that the
-// table needs, also where the action has less data or there is no key; the specs hold no pointers.
+// The contents begin with this, up to the resources. Data, value, mask and resources follow without
+// gaps; the first three take the room that the table needs, also where the action has less data or
+// there is no key. The specs hold no pointers.
 struct PlacedHead {
   PlacedKind kind;
   uint32_t has_key;
   uint16_t data_room;
   uint16_t key_room;
   pipe_object_handle_t action;
+  uint32_t resource_count;
   pipe_mgr_match_spec_t match;
   pipe_mgr_action_spec_t spec;  // of a member the data alone
 
-  size_t length() const { return sizeof(PlacedHead) + data_room + 2 * size_t{key_room}; }
+  size_t length() const;
+  size_t resource_bytes() const { return resource_count * sizeof(pipe_mgr_resource_t); }
 };
+
+inline constexpr size_t kPlacedHeadBytes =
+    offsetof(PlacedHead, spec) + offsetof(pipe_mgr_action_spec_t, resources);
+
+inline size_t PlacedHead::length() const {
+  return kPlacedHeadBytes + data_room + 2 * size_t{key_room} + resource_bytes();
+}
 
 // Placement data being made, in the object that the caller has from before or in a new one. The
 // caller's object and pointer change when it is complete.
@@ -45,7 +57,7 @@ class PlacementDraft {
 
   // To be filled, by a reader that writes nothing if it fails: they may be those of the caller's
   // object.
-  uint8_t *data() { return object_->contents() + sizeof(PlacedHead); }
+  uint8_t *data() { return object_->contents() + kPlacedHeadBytes; }
   uint8_t *value() { return data() + head_.data_room; }
   uint8_t *mask() { return value() + head_.key_room; }
 
@@ -64,10 +76,10 @@ class PlacementDraft {
 
 // Placement data to be read.
 struct Placed {
-  PlacedHead head;
-  const uint8_t *contents;
+  PlacedHead head{};
+  const uint8_t *contents = nullptr;
 
-  const uint8_t *data() const { return contents + sizeof(PlacedHead); }
+  const uint8_t *data() const { return contents + kPlacedHeadBytes; }
   const uint8_t *value() const { return data() + head.data_room; }
   const uint8_t *mask() const { return value() + head.key_room; }
 };
