@@ -23,10 +23,15 @@ class Call {
 
   // An integer, or the address of an object: for a pointer, or for a record that is passed by
   // value, which must live until run. Throws std::logic_error when there is no such parameter.
-  Call &set(std::string_view parameter, uint64_t value);
+  Call &set(std::string_view parameter, uint64_t value) {
+    word(parameter) = value;
+    return *this;
+  }
   Call &set(std::string_view parameter, const void *object) {
     return set(parameter, static_cast<uint64_t>(reinterpret_cast<uintptr_t>(object)));
   }
+  // Where the value of a parameter stands, which is to be set before each of many runs.
+  uint64_t &word(std::string_view parameter);
   template <class T>
   Call &set_if_taken(std::string_view parameter, T value) {
     if (takes(parameter)) set(parameter, value);

@@ -9,6 +9,28 @@ namespace tesselctl {
 
 namespace {
 
+// Whether an entry of a device is what placement data describe.
+class Equality {
+ public:
+  Equality(const Device &device, const TableInfo &table)
+      : call_(device.prepare("plcmt_data_eq_to_hw", table.name())) {
+    call_.set("table_handle", uint64_t{table.description->handle});
+  }
+  Equality(const Equality &) = delete;
+  Equality &operator=(const Equality &) = delete;
+
+  bool holds(uint32_t entry, const pipe_mgr_placement_t *placement) const {
+    entry_ = entry;
+    placement_ = reinterpret_cast<uintptr_t>(placement);
+    return call_.run() == 1;
+  }
+
+ private:
+  Call call_;
+  uint64_t &entry_ = call_.word("entry");
+  uint64_t &placement_ = call_.word("placement");
+};
+
 class TableCheck {
  public:
   TableCheck(Verification &run, const TableInfo &table)
@@ -19,10 +41,8 @@ class TableCheck {
         word_{table.name(), 1},
         old_reader_(old_, table, EntryReader::Resources::none),
         new_reader_(new_, table, EntryReader::Resources::none),
-        old_equals_(old_.prepare("plcmt_data_eq_to_hw", table.name())),
-        new_equals_(new_.prepare("plcmt_data_eq_to_hw", table.name())) {
-    for (Call *call : {&old_equals_, &new_equals_}) call->set("table_handle", handle());
-  }
+        old_equality_(old_, table),
+        new_equality_(new_, table) {}
 
   void run() {
     check_defaults();
@@ -35,12 +55,9 @@ class TableCheck {
   }
 
  private:
-  uint64_t handle() const { return table_.description->handle; }
-
   bool equals(const Device &device, uint32_t entry, const pipe_mgr_placement_t *placement) {
     const TraceScope quiet(nullptr);
-    Call &call = &device == &old_ ? old_equals_ : new_equals_;
-    return call.set("entry", uint64_t{entry}).set("placement", placement).run() == 1;
+    return (&device == &old_ ? old_equality_ : new_equality_).holds(entry, placement);
   }
 
   // The same for the entry under a handle of the other device. Placement data are without the
@@ -133,8 +150,8 @@ class TableCheck {
   Word word_;
   EntryReader old_reader_;
   EntryReader new_reader_;
-  Call old_equals_;
-  Call new_equals_;
+  Equality old_equality_;
+  Equality new_equality_;
   Placement placement_;
   ItemBytes item_;
 };
