@@ -14,10 +14,12 @@ namespace {
 
 constexpr unsigned kHalf = 24;
 
-// What commands take beside the fields of a record: a field of that name could not be given.
-constexpr std::string_view kCommandWords[] = {"action", "as",      "bytes", "direction", "entry",
-                                              "first",  "group",   "hash",  "last",      "member",
-                                              "meter",  "packets", "pipe",  "snapshot"};
+using Words = std::vector<std::string_view>;
+
+// Of entries and packets.
+const Words kEntryWords = {"action", "as",    "bytes",   "entry", "group",
+                           "hash",   "meter", "packets", "pipe",  "member"};
+const Words kPacketWords = {"direction", "first", "last", "pipe", "snapshot"};
 
 std::string notation_of(Hint hint, unsigned width) {
   if (hint == Hint::kV4Addr && width == 32) return "ipv4";
@@ -63,10 +65,10 @@ class RecordBuilder {
     record_.members.push_back(member);
   }
 
-  // Commands have no words of their own behind the name of an action.
-  ToolRecord take(std::string name, std::string number, std::string size, bool is_action = false) {
+  // `words` stand in commands beside the fields, so none of them can be a field's name.
+  ToolRecord take(std::string name, std::string number, std::string size, const Words &words) {
     join_halves();
-    if (!is_action) name_apart_from_words();
+    name_apart_from(words);
     name_apart();
     record_.name = std::move(name);
     record_.number = std::move(number);
@@ -132,9 +134,9 @@ class RecordBuilder {
     }
   }
 
-  void name_apart_from_words() {
-    const auto is_word = [](const ToolField &field) {
-      return std::ranges::find(kCommandWords, field.label) != std::end(kCommandWords);
+  void name_apart_from(const Words &words) {
+    const auto is_word = [&](const ToolField &field) {
+      return std::ranges::find(words, field.label) != words.end();
     };
     for (ToolField &field : record_.fields) {
       if (is_word(field)) field.label = long_name(field.name);
@@ -188,7 +190,8 @@ ToolRecord packet_record(const Program &program, const std::string &name, std::s
     member.offset = std::to_string(size + field.offset);
     builder.add_companion(member);
   }
-  return builder.take(name, std::move(number), std::to_string(has_masks ? 2 * size : size));
+  return builder.take(name, std::move(number), std::to_string(has_masks ? 2 * size : size),
+                      kPacketWords);
 }
 
 ToolRecord tool_record(const Program &program, const Table &table) {
@@ -207,8 +210,11 @@ ToolRecord tool_record(const Program &program, const Table &table) {
       builder.add_companion(member);
     }
   }
-  return builder.take(table.name, hex32(table.handle),
-                      table.keyed() ? "sizeof(" + type + ")" : "0");
+  Words words = kEntryWords;
+  if (table.has_priority()) words.push_back("priority");
+  if (table.idle_time) words.push_back("ttl");
+  return builder.take(table.name, hex32(table.handle), table.keyed() ? "sizeof(" + type + ")" : "0",
+                      words);
 }
 
 ToolRecord tool_record(const Program &program, const Action &action) {
@@ -224,7 +230,7 @@ ToolRecord tool_record(const Program &program, const Action &action) {
                 param.hint, param.name, low_bits(param.width), std::move(cells));
   }
   return builder.take(action.name, std::to_string(action.value),
-                      action.has_params() ? "sizeof(" + type + ")" : "0", true);
+                      action.has_params() ? "sizeof(" + type + ")" : "0", {});
 }
 
 ToolRecord tool_record(const Program &program, const Digest &digest) {
