@@ -260,6 +260,8 @@ struct Profile {
   Place place;
   std::uint32_t action_data_handle = 0;
   std::uint32_t selector_handle = 0;
+  unsigned most_members = 0;  // 0: unlimited
+  unsigned most_groups = 0;
   std::vector<ProfileAction> actions;
 };
 

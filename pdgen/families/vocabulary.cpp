@@ -318,6 +318,8 @@ const Placeholder kPlaceholders[] = {
     {"profile", "profile", text<&Profile::name>},
     {"profile", "action_data", hex<&Profile::action_data_handle>},
     {"profile", "selector", hex<&Profile::selector_handle>},
+    {"profile", "most_members", text<&Profile::most_members>},
+    {"profile", "most_groups", text<&Profile::most_groups>},
     {"profile", "index",
      [](S s) { return text_of(index_of<&Program::profiles>(s, s.get<Profile>())); }},
     {"profile", "schema", [](S s) { return c_literal(profile_schema(s.get<Profile>())); }},

@@ -46,6 +46,8 @@ void read_profile(RowReader &row, Profile &profile) {
              "action data of " + row.what());
   row.handle("selector_handle", profile.selector_handle, HandleKind::kSelector,
              "selector of " + row.what());
+  row.number("members", profile.most_members, 1, kAnyNumber, kOptional);
+  row.number("groups", profile.most_groups, 1, kAnyNumber, kOptional);
   row.rows("actions", "action", "action", profile.actions, read_profile_action);
 }
 

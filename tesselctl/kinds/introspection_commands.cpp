@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "soft_sdk.h"
+#include "soft_traffic.h"
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/device/entry_texts.hpp"
 #include "tesselctl/device/entry_value.hpp"
@@ -214,6 +214,14 @@ void describe_action(Context &context, std::string_view name) {
   }
 }
 
+void print_limit(Context &context, uint32_t table, const char *of) {
+  uint32_t capacity = 0;
+  soft_profile_capacity_get(context.device.id(), table, &capacity);
+  if (capacity == 0) return;
+  print(context, Row().number(fmt::format("most_{}", of), capacity),
+        fmt::format("at most {} {}", grouped(capacity), of));
+}
+
 void describe_profile(Context &context, std::string_view name) {
   const soft_profile_t &profile = *find_object<soft_profile_t>(name);
   const std::string members = fmt::format("{:#010x}", profile.action_data_table);
@@ -222,6 +230,8 @@ void describe_profile(Context &context, std::string_view name) {
         Row().object("profile", name).text("member_handle", members).text("group_handle", groups),
         fmt::format("{}: action profile, handles {} of members and {} of groups", name, members,
                     groups));
+  print_limit(context, profile.action_data_table, "members");
+  print_limit(context, profile.selector, "groups");
   std::vector<Row> rows;
   for (const bindings::Record *action : sorted_actions(profile)) {
     rows.push_back(

@@ -13,6 +13,8 @@ ModelDevice::ModelDevice() {
     table.defaults[0] = table.declared_default();
     table.capacity = description.size;
   }
+  capacity[kMembers] = program.profiles[0].most_members;
+  capacity[kSelector] = program.profiles[0].most_groups;
   tables[kHost].counter = kHostCount;
   tables[kAcl].counter = kRuleCount;
   tables[kAcl].meter = kAclMeter;

@@ -118,8 +118,8 @@ inline const soft_program_t &small_program() {
       {"tunnel", kTunnel, SOFT_TERNARY, 80, 10, wide_key, 1, acl_actions, 2, 0, false, kCompared,
        nullptr, 0},
   };
-  static const soft_profile_t profiles[] = {{"lag", kMembers, kSelector, lag_actions, 2},
-                                            {"port", kPorts, 0, lag_actions, 2}};
+  static const soft_profile_t profiles[] = {{"lag", kMembers, kSelector, lag_actions, 2, 60, 30},
+                                            {"port", kPorts, 0, lag_actions, 2, 0, 0}};
   static const soft_counter_t counters[] = {
       {"host", kHostCount, kHost}, {"acl", kAclCount, 0}, {"rule", kRuleCount, kAcl}};
   static const soft_meter_t meters[] = {{"acl", kAclMeter, kAcl, PIPE_RATE_BYTES},

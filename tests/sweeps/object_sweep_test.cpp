@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "oracle.hpp"
+#include "soft_traffic.h"
 #include "texts.hpp"
 
 namespace pd_test {
@@ -344,8 +345,15 @@ TEST_F(ObjectSweep, DefaultEntriesOfEveryAction) {
   EXPECT_EQ(pairs, exports_of("set_default_action").size());
 }
 
-// Tables have the size and the default entry of the catalogue, and get the latter back.
+// Tables and profiles have the sizes and default entries of the catalogue, and get the latter back.
 TEST_F(ObjectSweep, TablesOfAFreshDevice) {
+  for (const pdgen::Profile &profile : program().profiles) {
+    uint32_t members = 0, groups = 0;
+    EXPECT_EQ(soft_profile_capacity_get(kDevice, profile.action_data_handle, &members), BF_SUCCESS);
+    EXPECT_EQ(soft_profile_capacity_get(kDevice, profile.selector_handle, &groups), BF_SUCCESS);
+    EXPECT_EQ(members, profile.most_members);
+    EXPECT_EQ(groups, profile.most_groups);
+  }
   for (const pdgen::Table &table : program().tables) {
     SCOPED_TRACE(table.name);
     uint32_t capacity = 0;

@@ -74,6 +74,8 @@ typedef struct soft_profile {
   uint32_t selector;
   const soft_action_t *actions;
   uint32_t action_count;
+  uint32_t most_members; /* capacities of a fresh device; 0: unlimited */
+  uint32_t most_groups;
 } soft_profile_t;
 
 /* Counter: a cell per entry of table, or an array of cells when table is 0. */

@@ -14,7 +14,9 @@ bf_status_t check_data(const pipe_mgr_action_data_t &data, const soft_action_t &
 ActionDataTable::ActionDataTable(const Device &device, const soft_profile_t &profile)
     : Engine(profile.action_data_table, device.id(),
              kData + longest_data(described(profile.actions, profile.action_count))),
-      actions_(described(profile.actions, profile.action_count)) {}
+      actions_(described(profile.actions, profile.action_count)) {
+  capacity_ = profile.most_members;
+}
 
 const soft_action_t *ActionDataTable::action(pipe_object_handle_t handle) const {
   return described_as(actions_, handle);

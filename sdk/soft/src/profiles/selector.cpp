@@ -27,7 +27,9 @@ const EngineSet profiles{EngineOrder::kSelectors, add_profiles};
 Selector::Selector(const Device &device, const soft_profile_t &profile, ActionDataTable &members)
     : Engine(profile.selector, device.id(), kPointer + sizeof(Group *)),
       members_(members),
-      slots_(&memory_) {}
+      slots_(&memory_) {
+  capacity_ = profile.most_groups;
+}
 
 Selector::~Selector() {
   records_.each_live([this](uint32_t slot) { drop(slot); });
