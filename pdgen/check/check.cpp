@@ -15,8 +15,9 @@ namespace pdgen {
 namespace {
 
 bool has_action(const Table &table, const Action &action) {
-  return std::ranges::any_of(table.pairs,
-                             [&](const Pair &pair) { return pair.action.target == &action; });
+  return std::ranges::any_of(table.pairs, [&](const Pair &pair) {
+    return pair.in_entries && pair.action.target == &action;
+  });
 }
 
 // Routes are a prefix and a next hop: what a tool can load must have no more.
