@@ -65,9 +65,6 @@ TEST_F(Journal, ListsACallBeforeThoseFromItsCallback) {
   ASSERT_EQ(journal::calls().size(), 3u);
   EXPECT_EQ(journal::calls()[1].function, "pipe_mgr_mat_ent_add");
   EXPECT_EQ(journal::calls()[2].number, 3u);
-  journal::stop();
-  OK(add_host(2, &entry));
-  EXPECT_EQ(journal::calls().size(), 3u) << "stopped, but kept";
   OK(pipe_register_mat_update_cb(session, kDevice, kHost, stop_listening, &entry));
   journal::start();  // so that both calls have number 1
   OK(add_host(3, &entry));

@@ -122,11 +122,6 @@ struct ModelTable {
     return nullptr;
   }
   ModelEntry *look_up(const Bytes &key, uint32_t pipe);
-  size_t count(uint32_t pipe) const {
-    const uint32_t in = stored_pipe(pipe);
-    return static_cast<size_t>(
-        std::ranges::count_if(entries, [&](const ModelEntry &e) { return e.is_in(in); }));
-  }
   // What the call for a time to live makes of it.
   bf_status_t admit(uint32_t *ttl) const;
   // Applies the resources of a call to an entry that keeps some already.
