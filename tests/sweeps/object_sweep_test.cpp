@@ -382,6 +382,7 @@ TEST_F(ObjectSweep, TablesOfAFreshDevice) {
 
 TEST_F(ObjectSweep, EntriesThatPointAtMembersAndGroups) {
   size_t tables = 0;
+  for (const bf_device_id_t device : {kOld.device_id, kNew.device_id}) lift_limits(device);
   for (const pdgen::Profile &profile : program().profiles) {
     std::vector<Pointee> pointees;
     for (int round = 0; round < 2; ++round) {
@@ -424,6 +425,7 @@ TEST_F(ObjectSweep, EntriesThatPointAtMembersAndGroups) {
 
 TEST_F(ObjectSweep, MembersOfEveryAction) {
   size_t actions = 0;
+  lift_limits(kOld.device_id);
   for (const pdgen::Profile &profile : program().profiles) {
     for (const pdgen::ProfileAction &pair : profile.actions) {
       SCOPED_TRACE(profile.name + " " + pair.action->name);

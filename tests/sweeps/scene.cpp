@@ -295,6 +295,7 @@ Scene::Scene(const Export &exported, std::string_view variation)
       priority_(static_cast<uint32_t>(random_())) {
   if (table_ != nullptr) match_spec_ = random_record(record_of(*table_), random_);
   client();
+  lift_limits(kDevice);
   set_up(needs_of(exported, subject_));
   if (const auto *action = pdgen::find_row(program().actions, exported.action)) {
     action_spec_ = random_record(record_of(*action), random_);
@@ -366,7 +367,6 @@ void Scene::add_entry() {
 // A key of few bits may come up twice.
 void Scene::add_second_entry() {
   if (!holds_entries(*table_)) return;
-  soft_table_capacity_set(kDevice, table_->handle, 0);
   uint32_t entry = 0;
   p4_pd_status_t status = BF_ALREADY_EXISTS;
   while (status == BF_ALREADY_EXISTS) {

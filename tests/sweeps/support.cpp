@@ -170,6 +170,16 @@ Device::Device(bf_device_id_t id, bool is_virtual) : id_(id) {
 
 Device::~Device() { EXPECT_EQ(soft_device_remove(id_), BF_SUCCESS); }
 
+void lift_limits(bf_device_id_t device) {
+  for (const pdgen::Table &table : program().tables) {
+    EXPECT_EQ(soft_table_capacity_set(device, table.handle, 0), BF_SUCCESS);
+  }
+  for (const pdgen::Profile &profile : program().profiles) {
+    EXPECT_EQ(soft_profile_capacity_set(device, profile.action_data_handle, 0), BF_SUCCESS);
+    EXPECT_EQ(soft_profile_capacity_set(device, profile.selector_handle, 0), BF_SUCCESS);
+  }
+}
+
 LibraryTest::LibraryTest() : allocations_before_(soft_allocations_live()) {
   soft::faults::clear();
   soft::journal::clear();

@@ -95,6 +95,9 @@ class Device {
   bf_device_id_t id_;
 };
 
+// Tables and profiles of the device take any number of objects from now on.
+void lift_limits(bf_device_id_t device);
+
 // A test with a device, an empty journal and an empty fault plan. Nothing that the library has
 // allocated may be left in the end.
 class LibraryTest : public testing::Test {
