@@ -123,7 +123,7 @@ struct Sizes {
 };
 
 // Changes with whatever is declared here and in soft_program.h.
-inline constexpr uint32_t kBindingVersion = 1;
+inline constexpr uint32_t kBindingVersion = 2;
 
 struct Binding {
   uint32_t version;  // kBindingVersion of the compilation; the first member in every version
