@@ -89,16 +89,6 @@ TEST_F(Hashes, SetAndGetAttributesWordForWord) {
 
 // ---- By name ----
 
-TEST_F(Hashes, AreFoundByTheirNames) {
-  for (const pdgen::Hash &hash : program().hashes) {
-    const Call call = only_call([&] {
-      EXPECT_EQ(PD(hash_calc_input_set)(session(), kDevice, hash.name.c_str()), BF_SUCCESS);
-    });
-    EXPECT_EQ(call.scalar("calculation"), hash.handle);
-    EXPECT_EQ(call.scalar("field_list"), hash.field_list_handle);
-  }
-}
-
 TEST(HashNames, MustBeExact) {
   for (const char *name : {"", "hashOuterIpv4Hdr ", "HashOuterIpv4Hdr", "hashOuterIpv4Hd"}) {
     for (const Export *exported : all_exports()) {
@@ -125,19 +115,6 @@ TEST_F(Hashes, SetAttributesByName) {
                 EXPECT_EQ(set_by_name(session(), kDevice, kName, 2, unknown),
                           P4_PD_UNKNOWN_SELECTION);
               }).empty());
-}
-
-// Fields go by their own numbers in every calculation.
-TEST_F(Hashes, MapTheFieldsThatThereAre) {
-  for (const pdgen::Hash &hash : program().hashes) {
-    for (const char *family : {"p4_field_enum", "cmn_field_enum"}) {
-      const Export &map = *find_export(family, hash.name);
-      for (uint64_t field = 0; field <= hash.field_count; ++field) {
-        const bool known = field < hash.field_count;
-        EXPECT_EQ(static_cast<uint32_t>(map.call(&field)), known ? field : 0xffffffff);
-      }
-    }
-  }
 }
 
 // ---- Streams ----

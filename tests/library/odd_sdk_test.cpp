@@ -266,34 +266,6 @@ TEST_F(OddSdk, RangesReportTheIndexesThatThereWere) {
 
 constexpr size_t kRecord = sizeof(PD(snapshot_capture_t));
 
-// The bytes of a trigger as the device gets them: every field of its layout in network order.
-TEST_F(OddSdk, TriggersReachTheDeviceInNetworkOrder) {
-  for (const uint32_t direction : {0u, 1u}) {
-    Bytes value(kRecord);
-    for (size_t i = 0; i < kRecord; ++i) value[i] = static_cast<uint8_t>(i % 251);
-    Bytes mask(value.rbegin(), value.rend());
-    const Bytes given = value;
-    Bytes wanted = value, wanted_mask = mask, sent(kRecord), sent_mask(kRecord);
-    size_t fields[5] = {};
-    const auto &layout = program().snapshots->layouts[direction];
-    for (const pdgen::PacketField &field : layout.fields) {
-      ++fields[field.bytes];
-      for (Bytes *record : {&wanted, &wanted_mask}) {
-        std::reverse(record->begin() + field.offset, record->begin() + field.offset + field.bytes);
-      }
-    }
-    EXPECT_EQ(fields[2], direction == 0 ? 74u : 49u);
-    EXPECT_EQ(fields[4], direction == 0 ? 40u : 32u);
-    uint32_t snapshot = 0;
-    EXPECT_EQ(PD(snapshot_create)(kDevice, 1, 0, 3, direction, &snapshot), BF_SUCCESS);
-    ASSERT_EQ(PD(snapshot_capture_trigger_set)(snapshot, value.data(), mask.data()), BF_SUCCESS);
-    ASSERT_EQ(soft_snapshot_trigger_get(snapshot, sent.data(), sent_mask.data()), BF_SUCCESS);
-    EXPECT_EQ(sent, wanted);
-    EXPECT_EQ(sent_mask, wanted_mask);
-    EXPECT_EQ(value, given);
-  }
-}
-
 // Room is for 20 records; nothing behind those that there are is touched.
 TEST_F(OddSdk, StagesOfOddSizes) {
   for (const auto &[total, stage, records] : {std::tuple{1000u, 0u, 0u},

@@ -184,23 +184,6 @@ TEST_F(Stateful, RegistersByHandleTakeTheDevicesRecords) {
 
 // ---- Digests ----
 
-// In the order of the entry: each field begins where the one before it ends.
-TEST_F(Stateful, FieldsOfDigestsFillTheEntry) {
-  const uint8_t entry[64] = {};
-  for (const pdgen::Digest &digest : program().digests) {
-    const uint8_t *next = entry;
-    for (const pdgen::PacketField &field : digest.fields) {
-      uint32_t size = 99;
-      EXPECT_EQ(PD(get_digest_entry_field)(entry, digest.name.c_str(), field.name.c_str(), &size),
-                next)
-          << field.name;
-      EXPECT_EQ(size, field.bytes);
-      next += size;
-    }
-    EXPECT_EQ(PD(get_digest_entry_size)(digest.name.c_str()), next - entry);
-  }
-}
-
 TEST_F(Stateful, UnknownNamesOfDigestsLeadNowhere) {
   for (const char *name : {"", "MacLearningDigest", "macLearningDigest ", "macLearning"}) {
     EXPECT_EQ(PD(get_digest_entry_size)(name), 0u) << name;
