@@ -139,24 +139,6 @@ TEST_F(Stateful, RegistersAreReadByIndexAndThenByPipe) {
   EXPECT_EQ(read_one(0xffffffff), 0x80000102u);
 }
 
-TEST_F(Stateful, RegistersStoreValuesInTheirWidth) {
-  const uint32_t five = 5;  // read as a byte by the registers of 1 bit
-  const auto *byte = reinterpret_cast<const uint8_t *>(&five);
-  const auto calls = recorded([&] {
-    PD(register_write_flowStateRegisterFirst)(session(), kAllPipes, 1, byte);
-    PD(register_write_all_egrStpCheckData)(session(), kAllPipes, byte);
-    PD(register_write_flowDigestCountReg)(session(), kAllPipes, 1, &five);
-    PD(register_write_all_flowDigestCountReg)(session(), kAllPipes, &five);
-  });
-  const uint8_t wanted[] = {1, 1, 5, 5};
-  for (size_t i = 0; i < 4; ++i) {
-    Bytes cell(sizeof(pipe_stful_cell_t));
-    cell[0] = wanted[i];
-    const auto &sent = calls.at(i).get<std::vector<pipe_stful_cell_t>>("cell").at(0);
-    EXPECT_EQ(std::memcmp(&sent, cell.data(), cell.size()), 0) << i;
-  }
-}
-
 TEST_F(Stateful, RegistersByHandleTakeTheDevicesRecords) {
   pipe_stful_cell_t cell = {}, read = {};
   for (uint8_t i = 0; i < sizeof cell.bytes; ++i) cell.bytes[i] = static_cast<uint8_t>(0xa0 + i);

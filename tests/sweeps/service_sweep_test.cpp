@@ -19,12 +19,15 @@ TEST_F(ServiceSweep, RegistersKeepAsManyBitsAsTheyHave) {
     Bytes read(wanted.size(), 0xee);
     if (reg.width == 1) wanted[0] = 1;  // for any value but 0
     std::fill(wanted.begin() + std::max(1u, reg.width / 8), wanted.end(), uint8_t{0xee});
-    EXPECT_EQ(run("register_write", reg.name, with("index", 5, "value", &given)), BF_SUCCESS);
-    EXPECT_EQ(run("register_read", reg.name,
-                  with("index", 5, "flags", 0, "values", read.data(), "value_count", &count)),
-              BF_SUCCESS);
-    EXPECT_EQ(count, 1u);
-    EXPECT_EQ(hex(read), hex(wanted));
+    for (const char *write : {"register_write", "register_write_all"}) {
+      EXPECT_EQ(run(write, reg.name, with("index", 5, "value", &given)), BF_SUCCESS);
+      EXPECT_EQ(run("register_read", reg.name,
+                    with("index", 5, "flags", 0, "values", read.data(), "value_count", &count)),
+                BF_SUCCESS);
+      EXPECT_EQ(count, 1u);
+      EXPECT_EQ(hex(read), hex(wanted));
+      EXPECT_EQ(run("register_reset_all", reg.name, {}), BF_SUCCESS);
+    }
   }
 }
 
