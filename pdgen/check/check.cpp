@@ -136,6 +136,9 @@ const ResourceRow *find_item(const Table &table, const Resource &resource) {
 
 // What is wrong with the index of an item of a pair, "" if nothing is.
 std::string index_fault(const ResourceRow &row, const Pair &pair) {
+  if (row.resource->kind == ResourceKind::kRegister) {
+    return "a register goes with cell 0, without index";
+  }
   const std::vector<Param> &params = pair.action->params;
   const Param *param = find_row(params, row.index);
   if (param == nullptr) {
