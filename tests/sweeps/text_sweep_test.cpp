@@ -89,7 +89,7 @@ TEST(TextSweep, Schemas) {
     EXPECT_EQ(schema("profile_schema", profile.name), schemas_of(profile.actions));
     EXPECT_EQ(cli_schema(profile.action_data_handle), schemas_of(profile.actions));
   }
-  for (const uint32_t of_none : {0u, 0x01000000u, 0xffffffffu}) {
+  for (const uint32_t of_none : {0u, 0x00ffffffu, 0xffffffffu}) {
     EXPECT_EQ(cli_schema(of_none), "()");
   }
 }
