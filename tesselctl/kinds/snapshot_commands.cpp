@@ -12,7 +12,7 @@ namespace {
 
 const char *direction_name(uint32_t direction) { return direction == 0 ? "ingress" : "egress"; }
 
-// The record of that name; the program has snapshots where a device has made one.
+// The record of that name; a program with snapshots may have those of one direction alone.
 const bindings::Record &record_in(const bindings::RecordList &records, const char *name,
                                   Word word) {
   if (const bindings::Record *found = find_record(records.list(), name)) return *found;
@@ -150,8 +150,11 @@ constexpr Command kCommands[] = {
     {"snapshot delete", "snapshot=HANDLE", "deletes a snapshot", remove},
 };
 
+bool has_snapshots() { return !has_program() || !binding().captures.list().empty(); }
+
 }  // namespace
 
-extern const Topic kSnapshotTopic = {"Snapshots", kCommands};
+extern const Topic kSnapshotTopic = {
+    .title = "Snapshots", .commands = kCommands, .is_there = has_snapshots};
 
 }  // namespace tesselctl
