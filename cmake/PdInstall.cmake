@@ -8,7 +8,7 @@ if(TARGET soft_sdk)
   pd_install_pkg_config(soft_sdk "In-memory device behind the SDK contract" VERSION ${PROJECT_VERSION}
     LIBRARIES soft_sdk REQUIRES pdgen)
 endif()
-if(TARGET pd_sweeps)
+if(TARGET pd_sweeps AND PD_TESTS)
   list(APPEND installed pd_sweeps)
 endif()
 pd_install_pkg_config(pdgen "Headers of the SDK contract" VERSION ${PROJECT_VERSION})

@@ -64,12 +64,16 @@ function(pd_program_name catalogue name)
 endfunction()
 
 # pd_add_sweeps(<program>): the test sweeps_<program>, every sweep over a program that pd_add_program
-# has added, and a target of that name that builds what the test needs.
+# has added, and a target of that name, part of all, that builds what the test needs.
 function(pd_add_sweeps program)
+  if(NOT TARGET pdgen::pd_sweeps)
+    message(FATAL_ERROR "pd_add_sweeps(${program}): there is no pd_sweeps, which needs the library gtest, "
+      "and is installed with pdgen where that was built with PD_TESTS")
+  endif()
   get_target_property(catalogue pd_${program}_module PD_CATALOGUE)
   add_test(NAME sweeps_${program}
     COMMAND $<TARGET_FILE:pdgen::pd_sweeps> $<TARGET_FILE:pd_${program}_module> ${catalogue})
-  add_custom_target(sweeps_${program} DEPENDS pd_${program}_module)
+  add_custom_target(sweeps_${program} ALL DEPENDS pd_${program}_module)
   if(TARGET pd_sweeps)
     add_dependencies(sweeps_${program} pd_sweeps)
   endif()
