@@ -122,11 +122,8 @@ struct Sizes {
   size_t action_spec;   // where the parameters begin in it
 };
 
-// Changes with whatever is declared here and in soft_program.h.
-inline constexpr uint32_t kBindingVersion = 2;
-
 struct Binding {
-  uint32_t version;  // kBindingVersion of the compilation; the first member in every version
+  uint32_t layout;  // kLayout of the compilation; the first member in every layout
   const char *program;
   const char *library_version;        // "1.0.0"
   const soft_program_t *description;  // for the soft SDK
@@ -146,6 +143,21 @@ struct Binding {
   size_t capture_limit;  // records that a caller has room for
   Routes routes;
 };
+
+// A number of the sizes of all records that a module hands over: one that was built with others has
+// another number. A change that keeps every size adds to the first number.
+template <class... Records>
+constexpr uint32_t layout_of() {
+  uint32_t layout = 1;
+  ((layout = layout * 31 + static_cast<uint32_t>(sizeof(Records))), ...);
+  return layout;
+}
+inline constexpr uint32_t kLayout =
+    layout_of<Parameter, Export, ExportList, Member, Field, Record, RecordList, Routes, Sizes,
+              Binding, soft_key_field_t, soft_action_t, soft_cell_t, soft_default_t, soft_table_t,
+              soft_profile_t, soft_counter_t, soft_meter_t, soft_register_t, soft_hash_t,
+              soft_digest_field_t, soft_digest_t, soft_value_set_t, soft_snapshot_field_t,
+              soft_snapshot_layout_t, soft_program_t>();
 
 // The only symbol of a module.
 extern "C" {

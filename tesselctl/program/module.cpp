@@ -105,11 +105,10 @@ const bindings::Binding &open_module(const fs::path &path) {
   }
   const auto *found = static_cast<const bindings::Binding *>(dlsym(module, "pd_binding"));
   if (found == nullptr) throw Fault(path.string() + " is no module of a program");
-  if (found->version == bindings::kBindingVersion) return *found;
-  throw Fault(
-      fmt::format("{} is a module of version {}, and this tool takes version {}: build the "
-                  "program again",
-                  path.string(), found->version, bindings::kBindingVersion));
+  if (found->layout == bindings::kLayout) return *found;
+  throw Fault(path.string() +
+              " was built with another version of the generator than this tool: build the program "
+              "again");
 }
 
 }  // namespace

@@ -70,8 +70,8 @@ def check_module_version(prefix, folder, compiler):
     tool = prefix / "bin/tesselctl"
     (folder / "old.c").write_text("const unsigned pd_binding = 0;")
     run(*compiler, "-shared", folder / "old.c", "-o", folder / "old.so")
-    check("module of another version", f"tesselctl: {folder}/old.so is a module of version 0, and "
-          "this tool takes version 2: build the program again\n",
+    check("module of another version", f"tesselctl: {folder}/old.so was built with another "
+          "version of the generator than this tool: build the program again\n",
           run("sh", "-c", f"{tool} --program {folder}/old.so count 2>&1; exit $(($? - 1))"))
 
 

@@ -20,9 +20,8 @@ const bindings::Binding *load(const char *file) {
     return nullptr;
   }
   const auto *binding = static_cast<const bindings::Binding *>(symbol);
-  if (binding->version == bindings::kBindingVersion) return binding;
-  std::fprintf(stderr, "pd_sweeps: %s: the module has version %u of the binding, these sweeps %u\n",
-               file, binding->version, bindings::kBindingVersion);
+  if (binding->layout == bindings::kLayout) return binding;
+  std::fprintf(stderr, "pd_sweeps: %s was built with another version of the generator\n", file);
   return nullptr;
 }
 

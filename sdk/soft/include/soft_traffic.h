@@ -80,7 +80,8 @@ bf_status_t soft_next_wred_cell(bf_device_id_t device, bf_pipe_id_t pipe,
 /* ---- Profiles ---- */
 
 /* Greatest number of members of an action-data table or of groups of a selector, 0 unlimited, at
- * first as the program states. A capacity below the number of those that are there keeps them and refuses new ones. */
+ * first as the program states. A capacity below the number of those that are there keeps them and
+ * refuses new ones. */
 bf_status_t soft_profile_capacity_set(bf_device_id_t device, pipe_object_handle_t table,
                                       uint32_t capacity);
 bf_status_t soft_profile_capacity_get(bf_device_id_t device, pipe_object_handle_t table,
