@@ -220,24 +220,44 @@ void check_count(const Table &table, Diagnostics &diagnostics) {
   }
 }
 
-// A cell index that no row of the table picks up would be lost.
-void check_lost_index(const Table &table, const Pair &pair, const Param &param,
-                      const Ref<Resource> &resource, Diagnostics &diagnostics) {
-  const ResourceRow *unindexed = nullptr;
+// A parameter whose cell index no row of the table picks up, and the pairs that have it.
+struct LostIndex {
+  const Param *param;
+  const Resource *resource;
+  const ResourceRow *unindexed;  // a row that lacks no more than the index
+  std::vector<const Pair *> pairs;
+};
+
+void note_lost_index(const Table &table, const Pair &pair, LostIndex lost,
+                     std::vector<LostIndex> &found) {
   for (const ResourceRow &row : table.resources) {
-    if (row.resource.target != resource.target || !applies_to(row, pair)) continue;
+    if (row.resource.target != lost.resource || !applies_to(row, pair)) continue;
     if (!row.index.empty()) return;
-    unindexed = &row;
+    lost.unindexed = &row;
   }
-  const std::string index = fmt::format("index = \"{}\"", param.name);
+  auto same = std::ranges::find_if(found, [&](const LostIndex &one) {
+    return one.resource == lost.resource && one.unindexed == lost.unindexed &&
+           one.param->name == lost.param->name;
+  });
+  if (same == found.end()) same = found.insert(same, lost);
+  same->pairs.push_back(&pair);
+}
+
+void report_lost_index(const Table &table, const LostIndex &lost, Diagnostics &diagnostics) {
+  const auto actions = lost.pairs | std::views::transform([](const Pair *pair) {
+                         return std::string_view(pair->action->name);
+                       });
+  const std::string index = fmt::format("index = \"{}\"", lost.param->name);
   diagnostics.report(
-      unindexed == nullptr ? pair.place : unindexed->place, "table.resources",
-      "parameter {} of action {} names a cell of {}, which table {} does not hand over; {}",
-      param.name, pair.action.name, resource.name, table.name,
-      unindexed != nullptr
-          ? "add " + index
-          : row_to_add(table, resource.name,
-                       fmt::format("actions = [\"{}\"], {}, ", pair.action.name, index)));
+      lost.unindexed == nullptr ? lost.pairs.front()->place : lost.unindexed->place,
+      "table.resources",
+      "parameter {} of {} {} names a cell of {}, which table {} does not hand over; {}",
+      lost.param->name, actions.size() == 1 ? "action" : "actions", fmt::join(actions, ", "),
+      lost.resource->name, table.name,
+      lost.unindexed != nullptr ? "add " + index
+                                : row_to_add(table, lost.resource->name,
+                                             fmt::format("actions = [\"{}\"], {}, ",
+                                                         fmt::join(actions, "\", \""), index)));
 }
 
 // A resource of a table's entries is listed there.
@@ -305,13 +325,15 @@ bool applies_to(const ResourceRow &row, const Pair &pair) {
 void check_resources(const Program &program, Diagnostics &diagnostics) {
   for (const Table &table : program.tables) {
     for (const ResourceRow &row : table.resources) check_row(table, row, diagnostics);
+    std::vector<LostIndex> lost;
     for (const Pair &pair : table.pairs) {
       for (const Param &param : pair.action->params) {
         for (const auto &resource : param.index_of) {
-          check_lost_index(table, pair, param, resource, diagnostics);
+          note_lost_index(table, pair, {&param, resource.target, nullptr, {}}, lost);
         }
       }
     }
+    for (const LostIndex &one : lost) report_lost_index(table, one, diagnostics);
     check_count(table, diagnostics);
   }
   check_direct(program, program.counters, "counters.table", diagnostics);
