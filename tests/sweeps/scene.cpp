@@ -388,7 +388,8 @@ void Scene::set_default_entry() {
 
 uint32_t Scene::add_member(std::string_view action) {
   const pdgen::ProfileAction *pair = pair_of(*profile_, action);
-  if (pair == nullptr) pair = &profile_->actions[random_() % profile_->actions.size()];
+  if (pair == nullptr)
+    pair = &profile_->actions[static_cast<size_t>(random_()) % profile_->actions.size()];
   member_action_ = pair->handle;
   member_has_params_ = pair->action->has_params();
   const Bytes spec = random_record(record_of(*pair->action), random_);
