@@ -87,6 +87,7 @@ constexpr Flag kFlags[] = {
     {"--sort", FlagOf::listings, set_sort, "sorts the rows by a value", "NAME"},
     {"--raw", FlagOf::named, turn_on<&Settings::raw>, "shows values as numbers"},
     {"--atomic", FlagOf::named, turn_on<&Settings::atomic>, "changes all or nothing"},
+    {"--replace", FlagOf::named, turn_on<&Settings::replace>, "modifies what is there already"},
     {"--keep-going",
      FlagOf::named,
      turn_on<&Settings::keep_going>,

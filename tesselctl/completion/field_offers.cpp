@@ -98,7 +98,7 @@ void offer_parameters(Offers &offers, const bindings::Record &record,
 
 void offer_actions(Offers &offers, const Subject &subject, std::string_view command) {
   const bool of_default = subject.table && command.starts_with("default");
-  const bool of_entry = subject.table && (command == "add" || command == "modify");
+  const bool of_entry = subject.table && !of_default;
   for (const soft_action_t &action : subject.actions()) {
     if (of_default && !action.may_be_default) continue;
     if (of_entry && action.default_only) continue;

@@ -121,34 +121,40 @@ bool EntryLine::need_outcome() const {
   return true;
 }
 
-void EntryLine::fill(Call &call, bool meter_is_needed) {
+void EntryLine::fill(Call &call, bool meter_is_needed) const {
+  check_words(call, meter_is_needed);
+  give(call);
+}
+
+void EntryLine::check_words(const Call &call, bool meter_is_needed) const {
   const std::string name = table_.name();
-  if (call.takes("match_spec")) call.set("match_spec", key_.data());
-  if (call.takes("priority")) {
-    if (!priority_) throw Fault(table_word_, name + " is a ternary table, so it needs priority=N");
-    call.set("priority", uint64_t{priority_->value});
-  } else if (priority_) {
+  if (call.takes("priority") && !priority_) {
+    throw Fault(table_word_, name + " is a ternary table, so it needs priority=N");
+  }
+  if (priority_ && !call.takes("priority")) {
     throw Fault(priority_->word, call.takes("match_spec") ? name + " has no priorities"
                                                           : "the command takes no priority");
   }
-  if (call.takes("ttl")) {
-    call.set("ttl", uint64_t{ttl_ ? ttl_->value : 0});
-  } else if (ttl_) {
+  if (ttl_ && !call.takes("ttl")) {
     throw Fault(ttl_->word,
                 table_.ages() ? "the command takes no ttl" : name + " does not age its entries");
   }
-  if (call.takes("meter_spec")) {
-    if (!meter_ && meter_is_needed) {
-      throw Fault(table_word_,
-                  name + " has a meter for each entry, so it needs meter=" + "CIR,CBS,PIR,PBS");
-    }
-    call.set("meter_spec", static_cast<const void *>(meter_ ? &meter_->value : nullptr));
-  } else if (meter_) {
+  if (meter_is_needed && !meter_ && call.takes("meter_spec")) {
+    throw Fault(table_word_,
+                name + " has a meter for each entry, so it needs meter=" + "CIR,CBS,PIR,PBS");
+  }
+  if (meter_ && !call.takes("meter_spec")) {
     throw Fault(meter_->word, name + " has no meter for its entries");
   }
-  if (call.takes("action_spec")) {
-    call.set("action_spec", static_cast<const void *>(action_->data()));
-  }
+}
+
+void EntryLine::give(Call &call) const {
+  const auto address = [](const auto *object) { return static_cast<const void *>(object); };
+  call.set_if_taken("match_spec", address(key_.data()));
+  call.set_if_taken("priority", uint64_t{priority_ ? priority_->value : 0});
+  call.set_if_taken("ttl", uint64_t{ttl()});
+  call.set_if_taken("meter_spec", address(meter_ ? &meter_->value : nullptr));
+  if (action_) call.set_if_taken("action_spec", address(action_->data()));
   if (member_) call.set_if_taken("member", uint64_t{member_->value});
   if (group_) call.set_if_taken("group", uint64_t{group_->value});
 }

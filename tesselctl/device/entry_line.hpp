@@ -42,6 +42,8 @@ class EntryLine {
   void remember(Context &context, uint32_t entry) const {
     if (label_) tesselctl::remember(context, *label_, entry);
   }
+  // 0 without ttl=.
+  uint32_t ttl() const { return ttl_ ? ttl_->value : 0; }
   bool has_action() const { return action_.has_value(); }
   // Name of the action; empty without action=.
   std::string_view action() const { return action_ ? action_->record().name : std::string_view(); }
@@ -61,9 +63,12 @@ class EntryLine {
   // meter_spec, member, group. A missing meter is passed as null unless it is needed. Throws Fault
   // for what the function needs and the line lacks, and for what the line has and the function
   // does not take.
-  void fill(Call &call, bool meter_is_needed);
+  void fill(Call &call, bool meter_is_needed) const;
+  // The same of what the line has and the function takes, without a look at the rest.
+  void give(Call &call) const;
 
  private:
+  void check_words(const Call &call, bool meter_is_needed) const;
   static void refuse(const std::optional<Given> &given) {
     if (given) throw Fault(given->word, "the command does not take this");
   }

@@ -121,6 +121,56 @@ void add(Context &context, const Invocation &invocation) {
   context.results.done(table_row(line.table()).number("entry", entry), "added");
 }
 
+// Gives an entry another ttl, where the table ages its entries. The former one.
+uint32_t exchange_ttl(const Device &device, const EntryLine &line, p4_pd_entry_handle_t entry,
+                      uint32_t ttl) {
+  if (!line.table().ages()) return 0;
+  const auto run = [&](const char *family, auto value) {
+    Call call = device.prepare(family, line.table().name());
+    check(call.set("entry", uint64_t{entry}).set("ttl", value).run(), line.table_word());
+  };
+  uint32_t before = 0;
+  run("get_ttl", static_cast<const void *>(&before));
+  run("set_ttl", uint64_t{ttl});
+  return before;
+}
+
+// Makes the entry one that add would have added.
+void make_as_added(Context &context, const EntryLine &line, p4_pd_entry_handle_t entry) {
+  Call call = context.device.prepare(
+      outcome_export(line, "table_modify", "modify_entry", "modify_entry_with_selector"));
+  line.give(call.set("entry", uint64_t{entry}));
+  const uint32_t ttl = exchange_ttl(context.device, line, entry, line.ttl());
+  try {
+    check_outcome(call.run(), context.device, line, line.table_word());
+  } catch (const Fault &) {
+    exchange_ttl(context.device, line, entry, ttl);
+    throw;
+  }
+}
+
+void replace(Context &context, const Invocation &invocation) {
+  EntryLine line(context, invocation);
+  line.need_key();
+  Call add = context.device.prepare(
+      outcome_export(line, "table_add", "add_entry", "add_entry_with_selector"));
+  Call find = context.device.prepare("match_spec_to_entry_hdl", line.table().name());
+  p4_pd_entry_handle_t entry = 0;
+  line.fill(add.set("entry", &entry), true);
+  line.give(find.set("entry", &entry));
+  const uint64_t found = find.run();
+  const bool is_new = found == BF_OBJECT_NOT_FOUND;
+  if (is_new) {
+    check_outcome(add.run(), context.device, line, line.table_word());
+  } else {
+    check(found, line.table_word());
+    make_as_added(context, line, entry);
+  }
+  line.remember(context, entry);
+  context.results.done(table_row(line.table()).number("entry", entry),
+                       is_new ? "added" : "modified");
+}
+
 // Fills a call that takes an entry by its handle or by its key. The word to blame.
 Word fill_call(Call &call, EntryLine &line) {
   if (line.entry()) call.set("entry", uint64_t{line.entry()->value});
@@ -234,6 +284,9 @@ constexpr Command kCommands[] = {
      "adds an entry", add, Kind::changes},
     {"modify", "TABLE entry=HANDLE|FIELD=VALUE... [priority=N] [meter=CIR,CBS,PIR,PBS] OUTCOME",
      "gives an entry another action, member or group", modify, Kind::changes},
+    {"replace",
+     "TABLE FIELD=VALUE... [priority=N] [ttl=MS] [meter=CIR,CBS,PIR,PBS] [as=NAME] OUTCOME",
+     "adds an entry, or modifies the one with this key and priority", replace, Kind::changes},
     {"delete", "TABLE entry=HANDLE|FIELD=VALUE... [priority=N]", "deletes an entry", remove,
      Kind::changes},
     {"find", "TABLE FIELD=VALUE... [priority=N] [as=NAME]", "prints the handle of an entry", find},

@@ -34,22 +34,23 @@ std::vector<uint64_t> numbers_of(const GroupValue &group, bool with_active) {
   return numbers;
 }
 
-// The members of "1,2,3" and those of them that are inactive.
-void parse_members(Word members, const Word *inactive, GroupValue &group) {
-  for (const uint64_t number : number_list(members)) {
+// The members of "1,2,3" and those of them that are inactive; list reads such a word.
+template <class List>
+void parse_members(Word members, const Word *inactive, GroupValue &group, List list) {
+  for (const uint64_t number : list(members)) {
     group.members.push_back({static_cast<uint32_t>(number), 1});
   }
   std::ranges::sort(group.members);
   const auto twice = std::ranges::adjacent_find(group.members);
   if (twice != group.members.end()) {
-    throw Fault(members, fmt::format("member #{} is there twice", twice->member));
+    throw Fault(members, fmt::format("member {} is there twice", twice->member));
   }
   if (inactive == nullptr) return;
-  for (const uint64_t number : number_list(*inactive)) {
+  for (const uint64_t number : list(*inactive)) {
     const Membership wanted = {static_cast<uint32_t>(number), 1};
     const auto found = std::ranges::lower_bound(group.members, wanted);
     if (found == group.members.end() || *found != wanted) {
-      throw Fault(*inactive, fmt::format("member #{} is no active member of the group", number));
+      throw Fault(*inactive, fmt::format("member {} is no active member of the group", number));
     }
     found->is_active = 0;
   }
@@ -66,7 +67,8 @@ class Groups : public ObjectItems {
     const LineWords words(line, {"size", "members", "inactive"});
     GroupValue group;
     group.size = words.number32("size");
-    parse_members(words.need("members"), words.find("inactive"), group);
+    parse_members(words.need("members"), words.find("inactive"), group,
+                  [](Word word) { return number_list(word); });
     group.store(item.value);
   }
   void print(std::string &text, const ItemView &item) const override {
@@ -196,6 +198,51 @@ void add(Context &context, const Invocation &invocation) {
   line.done(line.row().number("group", group), "added");
 }
 
+// "1,$a,3": members of the profile.
+std::vector<uint32_t> member_list(const ProfileLine &line, Word word) {
+  std::vector<uint32_t> members;
+  while (!word.text.empty()) {
+    const Word one = take_until(word, ',');
+    members.push_back(parse_handle(line.context, one, "member"));
+    if (has_handle(line.context.device, line.object.name, "member", members.back())) continue;
+    check(BF_OBJECT_NOT_FOUND, one);
+  }
+  return members;
+}
+
+GroupValue wanted_group(const ProfileLine &line) {
+  GroupValue group;
+  group.size = static_cast<uint32_t>(line.options.number("size", kMostMembers, 1));
+  const Word members = line.options.need("members");
+  parse_members(members, line.options.find("inactive"), group,
+                [&](Word word) { return member_list(line, word); });
+  if (group.members.size() <= group.size) return group;
+  throw Fault(members, fmt::format("the group is for at most {} members", group.size));
+}
+
+void replace(Context &context, const Invocation &invocation) {
+  const ProfileLine line(context, invocation, {"group", "size", "members", "inactive", "as"});
+  std::string value;
+  const GroupValue wanted = wanted_group(line);
+  GroupValue(wanted).store(value);
+  std::optional<ItemBytes> before = find_item(line, kKinds[0], value);
+  p4_pd_group_handle_t group = before ? read_bytes<uint32_t>(before->identity) : 0;
+  if (!before) {
+    line.run(line.call("create_group").set("max_size", uint64_t{wanted.size}).set("group", &group));
+  } else if (const uint32_t size = GroupValue(before->value).size; size != wanted.size) {
+    throw Fault(line.options.need("size"),
+                fmt::format("group {} is for at most {} members, and stays so", group, size));
+  }
+  if (!before || before->value != value) {
+    ItemBytes item = {{}, value};
+    append_bytes(item.identity, group);
+    Numbering numbering = Numbering::by_handle();
+    Target to = {context.device, numbering};
+    Groups(line.object).write(to, Edit::modify, item.view(), line.word);
+  }
+  done_replacing(line, kKinds[0], group, before, value);
+}
+
 void remove(Context &context, const Invocation &invocation) {
   run_on_handles(context, invocation, "del_group", {"group"}, "deleted");
 }
@@ -237,6 +284,9 @@ void show(Context &context, const Invocation &invocation) {
 
 constexpr Command kCommands[] = {
     {"group add", "PROFILE size=N [as=NAME]", "adds a group for at most N members", add,
+     Kind::changes},
+    {"group replace", "PROFILE [group=HANDLE] size=N members=HANDLES [inactive=HANDLES] [as=NAME]",
+     "gives this group those members, keeps one that has them, or adds one", replace,
      Kind::changes},
     {"group delete", "PROFILE group=HANDLE", "deletes a group", remove, Kind::changes},
     {"group join", "PROFILE group=HANDLE member=HANDLE", "puts a member into a group", join,

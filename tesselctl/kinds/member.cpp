@@ -37,6 +37,29 @@ void print_items(const ProfileLine &line, const ItemKind &kind, const char *opti
   if (!found) check(BF_OBJECT_NOT_FOUND, line.options.need(option));
 }
 
+std::optional<ItemBytes> find_item(const ProfileLine &line, const ItemKind &kind,
+                                   std::string_view value) {
+  const uint32_t wanted =
+      line.options.has(kind.keyword) ? line.options.handle(line.context, kind.keyword) : 0;
+  std::optional<ItemBytes> by_handle, by_value;
+  Numbering numbering = Numbering::by_handle();
+  Source from = {line.context.device, numbering};
+  kind.open(line.object.name)->read(from, [&](const ItemView &item) {
+    const ItemBytes bytes = {std::string(item.identity), std::string(item.value)};
+    if (read_bytes<uint32_t>(item.identity) == wanted) by_handle = bytes;
+    if (!by_value && item.value == value) by_value = bytes;
+  });
+  return by_handle ? by_handle : by_value;
+}
+
+void done_replacing(const ProfileLine &line, const ItemKind &kind, uint32_t handle,
+                    const std::optional<ItemBytes> &before, std::string_view value) {
+  line.remember(handle);
+  line.done(line.row().number(kind.keyword, handle), !before                  ? "added"
+                                                     : before->value == value ? "kept"
+                                                                              : "modified");
+}
+
 void run_on_handles(Context &context, const Invocation &invocation, const char *family,
                     std::initializer_list<std::string_view> names, const char *done,
                     const uint32_t *state) {
@@ -155,17 +178,29 @@ constexpr ItemKind kKinds[] = {{kObjectKind<soft_profile_t>, "member", 10, kStep
 
 // "PROFILE [NAME=VALUE...] action=NAME [PARAM=VALUE...]"
 struct MemberLine {
-  MemberLine(Context &context, const Invocation &invocation, std::string_view option)
+  MemberLine(Context &context, const Invocation &invocation,
+             std::initializer_list<std::string_view> options)
       : words(invocation.arguments),
         action_at(static_cast<size_t>(std::ranges::find_if(words, is_action) - words.begin())),
         line(context, {invocation.command, words.first(has_action() ? action_at : object_words())},
-             {option}),
+             options),
         action(read_action()) {}
 
   // Sets the parameters, as far as the action has any.
   Call call(std::string_view family) const {
     Call call = line.context.device.prepare(family, line.object.name, action.record().name);
     return call.set_if_taken("action_spec", static_cast<const void *>(action.data()));
+  }
+
+  // As the value of an item.
+  std::string value() const {
+    EntryHead head;
+    head.outcome = EntryHead::kAction;
+    head.number = action.record().number;
+    std::string bytes;
+    append_bytes(bytes, head);
+    append_action_bytes(bytes, action.record(), action.data());
+    return bytes;
   }
 
   Words words;
@@ -188,15 +223,29 @@ struct MemberLine {
 };
 
 void add(Context &context, const Invocation &invocation) {
-  const MemberLine words(context, invocation, "as");
+  const MemberLine words(context, invocation, {"as"});
   p4_pd_member_handle_t member = 0;
   words.line.run(words.call("add_member").set("member", &member));
   words.line.remember(member);
   words.line.done(words.line.row().number("member", member), "added");
 }
 
+void replace(Context &context, const Invocation &invocation) {
+  const MemberLine words(context, invocation, {"member", "as"});
+  const ProfileLine &line = words.line;
+  const std::string value = words.value();
+  const std::optional<ItemBytes> before = find_item(line, kKinds[0], value);
+  p4_pd_member_handle_t member = before ? read_bytes<uint32_t>(before->identity) : 0;
+  if (!before) {
+    line.run(words.call("add_member").set("member", &member));
+  } else if (before->value != value) {
+    line.run(words.call("modify_member").set("member", uint64_t{member}));
+  }
+  done_replacing(line, kKinds[0], member, before, value);
+}
+
 void modify(Context &context, const Invocation &invocation) {
-  const MemberLine words(context, invocation, "member");
+  const MemberLine words(context, invocation, {"member"});
   const ProfileLine &line = words.line;
   const uint32_t member = line.options.handle(context, "member");
   check_handles(words.call("modify_member").set("member", uint64_t{member}).run(), context.device,
@@ -224,6 +273,8 @@ constexpr Command kCommands[] = {
      Kind::changes},
     {"member modify", "PROFILE member=HANDLE action=NAME [PARAM=VALUE...]",
      "changes the parameters of a member", modify, Kind::changes},
+    {"member replace", "PROFILE [member=HANDLE] [as=NAME] action=NAME [PARAM=VALUE...]",
+     "modifies this member, keeps one that does the same, or adds one", replace, Kind::changes},
     {"member delete", "PROFILE member=HANDLE", "deletes a member", remove, Kind::changes},
     {"member show", "PROFILE [member=HANDLE]", "prints members", show, Kind::lists},
 };

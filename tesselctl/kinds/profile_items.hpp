@@ -1,6 +1,8 @@
 // What the kinds of profiles have in common.
 #pragma once
 
+#include <optional>
+
 #include "tesselctl/command/options.hpp"
 #include "tesselctl/state/kind.hpp"
 
@@ -13,6 +15,14 @@ uint32_t need_handle(const NumberMap &numbers, const char *what, uint32_t number
 
 // Prints the items of a profile, or the one whose handle the option of that name gives.
 void print_items(const ProfileLine &line, const ItemKind &kind, const char *option);
+
+// What a command that replaces finds: the item whose handle the option of the kind's name gives, as
+// long as the profile has it, or else one that holds the value already. Goes by handles.
+std::optional<ItemBytes> find_item(const ProfileLine &line, const ItemKind &kind,
+                                   std::string_view value);
+// Ends such a command, whose item has that handle now.
+void done_replacing(const ProfileLine &line, const ItemKind &kind, uint32_t handle,
+                    const std::optional<ItemBytes> &before, std::string_view value);
 
 // A command that takes handles and does nothing but call a function that answers with a status.
 void run_on_handles(Context &context, const Invocation &invocation, const char *family,

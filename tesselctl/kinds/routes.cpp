@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
 
 #include "soft_sdk.h"
 #include "tesselctl/command/options.hpp"
@@ -20,9 +21,14 @@ namespace tesselctl {
 namespace {
 
 struct RoutesOptions {
-  std::vector<std::string> files;
+  struct File {
+    std::string name;  // as it was given
+    std::string path;
+  };
+  std::vector<File> files;
   uint64_t vrf = 0;       // of the fields beside the prefix
   uint16_t nexthop = 1;   // of lines without one
+  bool replace = false;   // modify the entries that are there
   bool progress = false;  // show it on standard error
 };
 
@@ -72,33 +78,39 @@ const bindings::Record &route_action() { return action_record(binding().routes.a
 // the members of the records change.
 class RouteTable {
  public:
-  RouteTable(const Device &device, const char *table, uint64_t vrf)
+  RouteTable(const Device &device, const char *table, const RoutesOptions &options)
       : device_(device),
         info_(resolve_table({table, 0})),
         key_(info_.record->size),
         parameters_(route_action().size),
         nexthop_(route_action().shown().front()),
         add_(device.prepare("table_add", table, route_action().name)),
-        find_(device.prepare("match_spec_to_entry_hdl", table)) {
+        find_(device.prepare("match_spec_to_entry_hdl", table)),
+        modify_(device.prepare("table_modify", table, route_action().name)),
+        replace_(options.replace) {
     for (const Field &field : info_.record->shown()) {
       if (field.match == Match::lpm) {
         address_ = field.parts[0]->offset;
         length_ = field.parts[0][1].offset;
       } else {
-        store_value(field, {vrf, low_ones(field.width)}, key_.data());
+        store_value(field, {options.vrf, low_ones(field.width)}, key_.data());
       }
     }
     add_.set("match_spec", key_.data()).set("action_spec", parameters_.data());
     add_.set_if_taken("ttl", uint64_t{0}).set("entry", &entry_);
     find_.set("match_spec", key_.data()).set("entry", &entry_);
+    modify_.set("action_spec", parameters_.data());
+    if (info_.ages()) set_ttl_.emplace(device.prepare("set_ttl", table)).set("ttl", uint64_t{0});
   }
 
-  // The status; the handle is entry() then.
+  // The status; the handle is entry() then. was_there: whether the entry is one that was modified.
   template <class Route>
-  uint32_t add(const Route &route) {
+  uint32_t add(const Route &route, bool &was_there) {
     write_key(route);
     store_value(nexthop_, {route.nexthop, low_ones(nexthop_.width)}, parameters_.data());
-    return static_cast<uint32_t>(add_.run());
+    const auto status = static_cast<uint32_t>(add_.run());
+    was_there = status == BF_ALREADY_EXISTS;
+    return was_there && replace_ ? modify() : status;
   }
   template <class Route>
   uint32_t find(const Route &route) {
@@ -114,6 +126,14 @@ class RouteTable {
   }
 
  private:
+  // The entry of the key, as add makes it.
+  uint32_t modify() {
+    uint64_t status = find_.run();
+    if (status == BF_SUCCESS) status = modify_.set("entry", uint64_t{entry_}).run();
+    if (status == BF_SUCCESS && set_ttl_) status = set_ttl_->set("entry", uint64_t{entry_}).run();
+    return static_cast<uint32_t>(status);
+  }
+
   template <class Route>
   void write_key(const Route &route) {
     memcpy(key_.data() + address_, &route.address, sizeof route.address);
@@ -130,6 +150,9 @@ class RouteTable {
   size_t length_ = 0;
   Call add_;
   Call find_;
+  Call modify_;
+  std::optional<Call> set_ttl_;
+  bool replace_;
   p4_pd_entry_handle_t entry_ = 0;
 };
 
@@ -140,7 +163,8 @@ class RouteLoad {
   RouteLoad(const Device &device, const char *table, const RoutesOptions &options,
             std::vector<Route> RouteFile::*routes, const std::vector<LoadedFile> &files,
             FaultReport &faults)
-      : table_(device, table, options.vrf),
+      : table_(device, table, options),
+        replace_(options.replace),
         progress_(options.progress),
         routes_(routes),
         files_(files),
@@ -154,11 +178,13 @@ class RouteLoad {
     Progress progress(std::string("adding to ") + table_.name(), total_, progress_);
     const StopWatch watch;
     for_each(progress, [&](const LoadedFile &file, const Route &route, size_t at) {
-      const uint32_t status = table_.add(route);
+      bool was_there = false;
+      const uint32_t status = table_.add(route, was_there);
       if (status == BF_SUCCESS) {
         handles_[at] = table_.entry();
         ++by_length_[route.length];
         ++added_;
+        if (was_there) ++modified_;
       } else {
         faults_.add(file.name, route.line, 0, status_text(status));
       }
@@ -185,7 +211,8 @@ class RouteLoad {
 
   void print(Output &out) const {
     out.line("{}", out.styled(Style::heading, table_.name()));
-    print_step(out, "added", added_, add_time_);
+    print_step(out, replace_ ? "replaced" : "added", added_, add_time_);
+    if (replace_) out.line("  modified  {:>10} of them, added the others", grouped(modified_));
     print_step(out, "verified", found_, verify_time_);
     const double each = added_ == 0 ? 0 : static_cast<double>(bytes_) / static_cast<double>(added_);
     out.line("  memory    {:>10} bytes, {:.1f} an entry", grouped(bytes_), each);
@@ -219,6 +246,7 @@ class RouteLoad {
   }
 
   RouteTable table_;
+  bool replace_;
   bool progress_;
   std::vector<Route> RouteFile::*routes_;
   const std::vector<LoadedFile> &files_;
@@ -226,6 +254,7 @@ class RouteLoad {
   std::vector<p4_pd_entry_handle_t> handles_;
   size_t total_ = 0;
   uint64_t added_ = 0;
+  uint64_t modified_ = 0;  // of them
   uint64_t found_ = 0;
   uint64_t bytes_ = 0;
   uint64_t by_length_[129] = {};
@@ -282,9 +311,9 @@ bool load_routes(const Device &device, const RoutesOptions &options, Output &out
   FaultReport faults(errors);
   const uint16_t limit = route_limits().nexthop;
   std::vector<LoadedFile> files;
-  for (const std::string &name : options.files) {
+  for (const auto &[name, path] : options.files) {
     const Clock::time_point start = Clock::now();
-    FileLines lines(name);
+    FileLines lines(path);
     files.push_back(
         {name, parse_routes(lines.source(), options.nexthop, limit, [&](const RouteFault &fault) {
            parse_faults.add(name, fault.line, fault.column, fault.message);
@@ -309,7 +338,7 @@ void routes(Context &context, const Invocation &invocation) {
   size_t files = 0;
   for (const Word &word : invocation.arguments) {
     if (word.text.find('=') != std::string_view::npos) break;
-    options.files.push_back(context.path(word));
+    options.files.push_back({std::string(word.text), context.path(word)});
     ++files;
   }
   need_argument(invocation, 0, "the name of a file");
@@ -318,6 +347,7 @@ void routes(Context &context, const Invocation &invocation) {
   const RouteLimits limits = route_limits();
   options.vrf = words.number_or("vrf", limits.vrf, 0);
   options.nexthop = static_cast<uint16_t>(words.number_or("nexthop", limits.nexthop, 1));
+  options.replace = context.settings.replace;
   options.progress = context.out.is_stream() && isatty(STDERR_FILENO) != 0;
   Output report;
   Output errors;
@@ -330,7 +360,7 @@ void routes(Context &context, const Invocation &invocation) {
 constexpr Command kCommands[] = {
     {"routes", "FILE... [vrf=N] [nexthop=N]",
      "loads files of lines 'prefix[ nexthop]', plain or .xz, and finds every route again", routes,
-     Kind::changes},
+     Kind::changes, "--replace"},
 };
 
 // A process without a program lists all commands.

@@ -28,6 +28,7 @@ struct Settings {
   bool count = false;
   bool raw = false;
   bool atomic = false;
+  bool replace = false;
   bool keep_going = false;  // of a script: behind a line with a fault
   bool help = false;
   std::vector<Filter> filters = {};

@@ -40,7 +40,7 @@ TEST_F(CompletionTest, OffersWhatCanStandAtThePoint) {
     std::string offers;
   } cases[] = {
       {"  me", "2: member meter"},
-      {"group ", "6: add delete join leave enable disable choose show"},
+      {"group ", "6: add replace delete join leave enable disable choose show"},
       {"help valueset d", "14: delete"},
       {"nosuch ", "7:"},
       {"count # ", "8:"},
