@@ -1,4 +1,6 @@
 // Images and devices against one another: diff, apply and verify.
+#include <fmt/format.h>
+
 #include <algorithm>
 
 #include "soft_sdk.h"
@@ -18,10 +20,19 @@ DeviceState state_of(const Context &context, Word word) {
 }
 
 void print_changes(Context &context, const std::vector<Change> &changes) {
+  uint64_t added = 0, removed = 0, modified = 0;
   for (const Change &change : changes) {
+    const uint64_t passed = context.results.passed();
     if (change.before) context.results.row(change_row("-", *change.part, *change.before));
     if (change.after) context.results.row(change_row("+", *change.part, *change.after));
+    if (context.results.passed() == passed) continue;
+    const Edit edit = change.edit();
+    ++(edit == Edit::add ? added : edit == Edit::remove ? removed : modified);
   }
+  if (added + removed + modified == 0 && !context.settings.count) return;
+  Row row;
+  row.number("added", added).number("removed", removed).number("modified", modified);
+  context.results.summary(row, fmt::format("+{} -{} ~{}", added, removed, modified));
 }
 
 // One or two files; without the second the device stands in for it.
@@ -105,7 +116,7 @@ constexpr Command kCommands[] = {
     {"diff", "FILE [FILE]", "compares an image with another one, or with the device", diff,
      Kind::asks, "--count --filter --sort"},
     {"apply", "FILE", "makes the device what an image says, by the smallest change", apply,
-     Kind::changes, "--atomic"},
+     Kind::changes, "--atomic --count"},
     {"verify", "FILE [FILE]",
      "compares the placement data of an image with the device, or with another image",
      verify_image},

@@ -53,6 +53,7 @@ void Results::begin(const Settings &settings, std::string_view command, bool lis
   listing_ = listing;
   json_started_ = false;
   count_ = 0;
+  summary_.reset();
   names_.clear();
   filter_states_.assign(settings.filters.size(), {});
   sort_was_known_ = false;
@@ -233,15 +234,21 @@ void Results::end() {
     std::stable_sort(held_.begin(), held_.end(),
                      [&](const Row &a, const Row &b) { return sorts_before(value(a), value(b)); });
   }
-  if (settings_.count && !settings_.json) return out_->line("{}", count_);
+  if (settings_.count && !settings_.json) {
+    return out_->line("{}", summary_ ? summary_->text : std::to_string(count_));
+  }
   if (!held_.empty() && listing_ && !settings_.terse && !settings_.json) {
     print_columns();
   } else {
     for (const Row &row : held_) print(row);
   }
   held_.clear();
+  if (summary_ && !settings_.json) out_->line("{}", summary_->text);
   if (!settings_.json) return;
-  if (settings_.count) print(Row().number("count", count_));
+  Row last;
+  if (settings_.count) last.number("count", count_);
+  if (summary_) last.append(summary_->row);
+  if (!last.items().empty()) print(last);
   start_json();
   out_->write("]}\n");
 }

@@ -57,6 +57,10 @@ class Results {
   void done(const Row &row, std::string_view what);
   // A text that is no row. In JSON a row with a "text".
   void text(std::string_view text);
+  // Behind all rows, and in place of their number: the text for people, the row in JSON.
+  void summary(const Row &row, const std::string &text) { summary_ = {row, text}; }
+  // How many rows the filters let pass so far.
+  uint64_t passed() const { return count_; }
   // An item that rows may have, with a value of its kind: what filters and sort may name even where
   // no row has it.
   void expect(const Row &row);
@@ -84,6 +88,11 @@ class Results {
   bool listing_ = false;
   bool json_started_ = false;
   uint64_t count_ = 0;
+  struct Summary {
+    Row row;
+    std::string text;
+  };
+  std::optional<Summary> summary_;
   std::vector<std::string> names_;  // of the rows seen, for the fault of a wrong name
   // What is known of a filter: whether rows have its name, and its value is one of theirs.
   struct FilterState {

@@ -90,6 +90,11 @@ class Row {
   // Of a field that matches anything: found, but neither printed nor one of the items.
   Row &anything(std::string_view name, ValueKind of);
 
+  Row &append(const Row &other) {
+    items_.insert(items_.end(), other.items_.begin(), other.items_.end());
+    return *this;
+  }
+
   const std::vector<Item> &items() const { return items_; }
   // The item of that name, or else of the field of that name.
   const Item *find(std::string_view name) const;
