@@ -94,8 +94,8 @@ ImageOptions image_of(const ToolSettings &settings) {
 // What runs command lines: a server, or a device that lives as long as this, or in an image.
 class Session {
  public:
-  // use: of the image, by all that will be run.
-  Session(const ToolSettings &settings, Streams &streams, ImageUse use) {
+  // use: of the image, by all that will be run. goes_on: lines are typed as long as it lives.
+  Session(const ToolSettings &settings, Streams &streams, ImageUse use, bool goes_on = false) {
     if (settings.socket.empty()) {
       load_program_of(settings);
       home_.emplace(settings.device, image_of(settings), use, streams.errors);
@@ -107,7 +107,8 @@ class Session {
       runner_ = std::make_unique<RemoteRunner>(settings.socket, streams.out, streams.errors,
                                                settings.lines);
     }
-    tool_.emplace(*runner_, streams.out, streams.errors, redrawn_terminal());
+    const bool device_stays = goes_on || !settings.socket.empty() || !settings.image.empty();
+    tool_.emplace(*runner_, streams.out, streams.errors, redrawn_terminal(), device_stays);
     if (home_ && home_->may_be_old()) tool_->before_each([this] { home_->read_again(); });
     if (home_ && !settings.image.empty() && use == ImageUse::changes) {
       signals_.emplace({SIGINT, SIGTERM, SIGHUP, SIGPIPE}, take_signal);
@@ -158,13 +159,8 @@ int run_serve(const ToolSettings &settings) {
 std::string line_of(Words words) {
   std::string line;
   for (const Word &word : words) {
-    const std::string text(word.text);
     if (!line.empty()) line += ' ';
-    const bool plain = !text.empty() && text.find_first_of(" \t\r\v\f#") == std::string::npos;
-    if (!plain && text.find('"') != std::string::npos) {
-      throw Fault(word, "a word with blanks cannot hold quotes");
-    }
-    line += plain ? text : '"' + text + '"';
+    line += written(word);
   }
   return line;
 }
@@ -182,7 +178,7 @@ int run_command(const ToolSettings &settings, const std::string &line,
 
 int run_terminal(const ToolSettings &settings) {
   Streams streams(settings);
-  Session session(settings, streams, ImageUse::changes);
+  Session session(settings, streams, ImageUse::changes, true);
   session.run([&](Runner &runner) {
     run_shell(runner, streams.out, {.history = settings.history.value_or(default_history_path())});
   });

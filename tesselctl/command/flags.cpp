@@ -1,5 +1,7 @@
 #include "tesselctl/command/flags.hpp"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 
 #include "common/nearest.hpp"
@@ -48,6 +50,10 @@ void set_pipes(ToolSettings &settings, Word value) {
   settings.pipes_are_given = true;
 }
 
+void set_from(ToolSettings &settings, Word value) {
+  settings.lines.from = parse_limited(value, 0xffffffffu, "the number of a line", 1);
+}
+
 void set_filter(ToolSettings &settings, Word value) {
   const Assignment words = split_assignment(value);
   settings.lines.filters.push_back({std::string(words.name.text), std::string(words.value.text)});
@@ -87,6 +93,7 @@ constexpr Flag kFlags[] = {
     {"--sort", FlagOf::listings, set_sort, "sorts the rows by a value", "NAME"},
     {"--raw", FlagOf::named, turn_on<&Settings::raw>, "shows values as numbers"},
     {"--atomic", FlagOf::named, turn_on<&Settings::atomic>, "changes all or nothing"},
+    {"--from", FlagOf::named, set_from, "goes on at that line of the script", "LINE"},
     {"--replace", FlagOf::named, turn_on<&Settings::replace>, "modifies what is there already"},
     {"--keep-going",
      FlagOf::named,
@@ -219,6 +226,7 @@ std::string words_of(const Settings &settings) {
   for (const Settings::Filter &filter : settings.filters) {
     words += "--filter \"" + filter.name + "=" + filter.pattern + "\" ";
   }
+  if (settings.from != 1) words += fmt::format("--from {} ", settings.from);
   if (!settings.sort.empty()) words += "--sort \"" + settings.sort + "\" ";
   return words;
 }

@@ -5,16 +5,6 @@
 
 namespace tesselctl {
 
-namespace {
-
-// What every line of a script takes from the settings of its run.
-Settings settings_of_lines(Settings settings) {
-  settings.atomic = settings.dry_run = settings.keep_going = false;
-  return settings;
-}
-
-}  // namespace
-
 std::string LocalRunner::ask(std::string_view line) {
   Output answer;
   Context context = {.device = context_.device,
@@ -57,7 +47,7 @@ LineOutcome LocalRunner::try_whole(const WholeScript &script) {
   trial.context_.directory = context_.directory;
   trial.context_.is_trial = true;
   const ScriptResult result =
-      run_script(trial, script.name, script.text, {.keep_going = script.settings.keep_going});
+      run_script(trial, script.name, script.text, ScriptOptions::of(script.settings));
   if (!script.settings.json) {
     print_summary(context_.out, script.name, result, "on a copy of the device, nothing is changed");
   }
@@ -71,8 +61,7 @@ LineOutcome LocalRunner::run_all_or_nothing(const WholeScript &script) {
   lines.context_.directory = context_.directory;
   ScriptResult result;
   try {
-    result =
-        run_script(lines, script.name, script.text, {.keep_going = script.settings.keep_going});
+    result = run_script(lines, script.name, script.text, ScriptOptions::of(script.settings));
   } catch (...) {
     copy_back(*before, context_.device);
     throw;

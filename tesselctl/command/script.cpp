@@ -1,5 +1,7 @@
 #include "tesselctl/command/script.hpp"
 
+#include <fmt/format.h>
+
 #include "tesselctl/text/interrupt.hpp"
 
 namespace tesselctl {
@@ -14,7 +16,7 @@ ScriptResult run_script(Runner &runner, std::string_view file, const LineSource 
   ScriptResult result;
   for (std::string_view line; next(line);) {
     check_interrupt();
-    ++result.lines;
+    if (++result.lines < options.from) continue;
     const LineOutcome outcome = runner.run({file, result.lines, line});
     if (outcome == LineOutcome::blank) continue;
     ++result.commands;
@@ -23,7 +25,8 @@ ScriptResult run_script(Runner &runner, std::string_view file, const LineSource 
     ++result.faults;
     if (!options.keep_going) break;
   }
-  return result;
+  if (result.lines >= options.from) return result;
+  throw Fault(fmt::format("the script has no line {}, only {}", options.from, result.lines));
 }
 
 void print_summary(Output &out, std::string_view file, const ScriptResult &result,

@@ -10,7 +10,17 @@ namespace tesselctl {
 
 struct ScriptOptions {
   bool keep_going = false;  // go on behind a line with a fault
+  uint64_t from = 1;        // the first line that is run
+
+  static ScriptOptions of(const Settings &settings) { return {settings.keep_going, settings.from}; }
 };
+
+// What the lines of a script take from the settings of its run.
+inline Settings settings_of_lines(Settings settings) {
+  settings.atomic = settings.dry_run = settings.keep_going = false;
+  settings.from = 1;
+  return settings;
+}
 
 struct ScriptResult {
   uint64_t lines = 0;

@@ -1,5 +1,7 @@
 #include "tesselctl/shell/tool_runner.hpp"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 
 #include "tesselctl/command/flags.hpp"
@@ -18,10 +20,10 @@ constexpr unsigned kDeepest = 16;
 // While it lives, the lines of a script run, with settings of their own.
 class ScriptScope {
  public:
-  ScriptScope(Settings &settings, const Settings &of_lines, std::vector<std::string> &running,
-              const std::string &path)
+  ScriptScope(Settings &settings, const Settings &of_lines, std::vector<RunningScript> &running,
+              const RunningScript &script)
       : settings_(settings), before_(std::exchange(settings, of_lines)), running_(running) {
-    running_.push_back(path);
+    running_.push_back(script);
   }
   ~ScriptScope() {
     settings_ = std::move(before_);
@@ -33,7 +35,7 @@ class ScriptScope {
  private:
   Settings &settings_;
   Settings before_;
-  std::vector<std::string> &running_;
+  std::vector<RunningScript> &running_;
 };
 
 // The command of the line in its place, with blanks for the words of watch before it, so that the
@@ -87,7 +89,7 @@ LineOutcome ToolRunner::run(const SourceLine &source) {
 
 LineOutcome ToolRunner::run_file(Word file, const Settings &settings) {
   const std::string path(file.text);
-  if (std::find(running_.begin(), running_.end(), path) != running_.end()) {
+  if (std::ranges::find(running_, path, &RunningScript::path) != running_.end()) {
     throw Fault(file, "the script is running already");
   }
   if (running_.size() == kDeepest) {
@@ -97,18 +99,27 @@ LineOutcome ToolRunner::run_file(Word file, const Settings &settings) {
   if (settings.atomic || settings.dry_run) {
     return runner_->run_whole({name, read_input(path), settings});
   }
-  Settings of_lines = settings;
-  of_lines.keep_going = false;
-  const ScriptScope scope(runner_->defaults(), of_lines, running_, path);
+  hint_is_given_ = false;
+  const ScriptScope scope(runner_->defaults(), settings_of_lines(settings), running_,
+                          {path, settings.keep_going});
   FileLines lines(path);
   const auto next = [&](std::string_view &line) {
     // Whoever writes the lines may wait for the answer to the one before.
     if (path == "-") out_->flush();
     return lines.next(line);
   };
-  const ScriptResult result = run_script(*this, name, next, {.keep_going = settings.keep_going});
-  if (!settings.json) print_summary(*out_, name, result);
+  const ScriptResult result = run_script(*this, name, next, ScriptOptions::of(settings));
+  if (!settings.json) print_summary(*out_, name, result, hint(file, result));
   return result.outcome();
+}
+
+// Of a script that ended in its middle, on a device that is still there.
+std::string ToolRunner::hint(Word file, const ScriptResult &result) {
+  const bool stays = device_stays_ || std::ranges::any_of(running_, &RunningScript::goes_on);
+  const bool in_middle = result.faults != 0 && result.commands > 1 && !running_.back().goes_on;
+  if (!stays || !in_middle || hint_is_given_ || file.text == "-") return {};
+  hint_is_given_ = true;
+  return fmt::format("go on with 'run --from {} {}'", result.lines, written(file));
 }
 
 }  // namespace tesselctl

@@ -8,15 +8,25 @@
 #include <vector>
 
 #include "tesselctl/command/runner.hpp"
+#include "tesselctl/command/script.hpp"
 
 namespace tesselctl {
+
+struct RunningScript {
+  std::string path;
+  bool goes_on;  // behind a fault
+};
 
 class ToolRunner : public Runner {
  public:
   // The outputs are those that runner answers and reports to. terminal: the window that out is, -1
-  // for none.
-  ToolRunner(Runner &runner, Output &out, Output &errors, int terminal)
-      : runner_(&runner), out_(&out), errors_(&errors), terminal_(terminal) {}
+  // for none. device_stays: what is done is still there for a line that the user types next.
+  ToolRunner(Runner &runner, Output &out, Output &errors, int terminal, bool device_stays)
+      : runner_(&runner),
+        out_(&out),
+        errors_(&errors),
+        terminal_(terminal),
+        device_stays_(device_stays) {}
 
   // What watch does before each round but the first; may throw Fault.
   void before_each(std::function<void()> prepare) { prepare_ = std::move(prepare); }
@@ -27,13 +37,16 @@ class ToolRunner : public Runner {
 
  private:
   LineOutcome run_file(Word file, const Settings &settings);
+  std::string hint(Word file, const ScriptResult &result);
 
   Runner *runner_;
   Output *out_;
   Output *errors_;
   int terminal_;
   std::function<void()> prepare_ = {};
-  std::vector<std::string> running_ = {};  // scripts that run one another, by path
+  bool device_stays_;
+  std::vector<RunningScript> running_ = {};  // scripts that run one another
+  bool hint_is_given_ = false;               // since the last script began
 };
 
 }  // namespace tesselctl

@@ -31,6 +31,7 @@ struct Settings {
   bool replace = false;
   bool keep_going = false;  // of a script: behind a line with a fault
   bool help = false;
+  uint64_t from = 1;  // the line of a script that is run first
   std::vector<Filter> filters = {};
   std::string sort = {};
 

@@ -10,6 +10,14 @@ bool is_space(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\v' |
 
 }  // namespace
 
+std::string written(Word word) {
+  const std::string text(word.text);
+  const bool plain = !text.empty() && text.find_first_of(" \t\r\v\f#") == std::string::npos;
+  if (plain) return text;
+  if (text.find('"') == std::string::npos) return '"' + text + '"';
+  throw Fault(word, "a word with blanks cannot hold quotes");
+}
+
 Word take_until(Word &text, char end) {
   const size_t size = std::min(text.text.find(end), text.text.size());
   const Word taken = text.first(size);

@@ -16,6 +16,9 @@ using Words = std::span<const Word>;
 // for a quote that does not end.
 void split_words(std::string_view line, std::vector<Word> &words);
 
+// The word as it stands in a line, in quotes where it needs them. Throws Fault where it cannot.
+std::string written(Word word);
+
 // Takes the text up to a character off its front, and that character with it; all without one.
 Word take_until(Word &text, char end);
 std::string_view take_until(std::string_view &text, char end);
