@@ -168,8 +168,7 @@ std::string line_of(Words words) {
 int run_command(const ToolSettings &settings, const std::string &line,
                 const std::vector<Word> &words) {
   Streams streams(settings);
-  Session session(settings, streams,
-                  may_change_device(words) ? ImageUse::changes : ImageUse::reads);
+  Session session(settings, streams, image_use(words));
   LineOutcome outcome = LineOutcome::done;
   session.run([&](Runner &runner) { outcome = runner.run({{}, 0, line}); });
   streams.out.flush();

@@ -5,7 +5,23 @@
 
 namespace tesselctl {
 
+void LocalRunner::begin_trial() {
+  if (trial_) return trial_->begin_trial();
+  copy_ = copy_of(context_.device);
+  trial_ = std::make_unique<LocalRunner>(*copy_, context_.out, *errors_, context_.defaults);
+  trial_->context_.labels = context_.labels;
+  trial_->context_.directory = context_.directory;
+  trial_->context_.is_trial = true;
+}
+
+void LocalRunner::end_trial() {
+  if (trial_->trial_) return trial_->end_trial();
+  trial_.reset();
+  copy_.reset();
+}
+
 std::string LocalRunner::ask(std::string_view line) {
+  if (trial_) return trial_->ask(line);
   Output answer;
   Context context = {.device = context_.device,
                      .out = answer,
@@ -21,6 +37,7 @@ std::string LocalRunner::ask(std::string_view line) {
 }
 
 LineOutcome LocalRunner::run(const SourceLine &source) {
+  if (trial_) return trial_->run(source);
   try {
     if (!run_line(context_, source.text)) return LineOutcome::blank;
     return context_.differs ? LineOutcome::differs : LineOutcome::done;
@@ -31,8 +48,9 @@ LineOutcome LocalRunner::run(const SourceLine &source) {
 }
 
 LineOutcome LocalRunner::run_whole(const WholeScript &script) {
+  if (trial_) return trial_->run_whole(script);
   try {
-    return script.settings.dry_run ? try_whole(script) : run_all_or_nothing(script);
+    return run_all_or_nothing(script);
   } catch (const Fault &fault) {
     const SourceLine source = {script.name, 0, {}};
     report_fault(fault, source, context_.results, script.settings.json, context_.out, *errors_);
@@ -40,25 +58,12 @@ LineOutcome LocalRunner::run_whole(const WholeScript &script) {
   }
 }
 
-LineOutcome LocalRunner::try_whole(const WholeScript &script) {
-  const std::unique_ptr<Device> copy = copy_of(context_.device);
-  LocalRunner trial(*copy, context_.out, *errors_, settings_of_lines(script.settings));
-  trial.context_.labels = context_.labels;
-  trial.context_.directory = context_.directory;
-  trial.context_.is_trial = true;
-  const ScriptResult result =
-      run_script(trial, script.name, script.text, ScriptOptions::of(script.settings));
-  if (!script.settings.json) {
-    print_summary(context_.out, script.name, result, "on a copy of the device, nothing is changed");
-  }
-  return result.outcome();
-}
-
 LineOutcome LocalRunner::run_all_or_nothing(const WholeScript &script) {
   const std::unique_ptr<Device> before = copy_of(context_.device);
   LocalRunner lines(context_.device, context_.out, *errors_, settings_of_lines(script.settings));
   lines.context_.labels = context_.labels;
   lines.context_.directory = context_.directory;
+  lines.context_.is_trial = context_.is_trial;
   ScriptResult result;
   try {
     result = run_script(lines, script.name, script.text, ScriptOptions::of(script.settings));
@@ -74,7 +79,9 @@ LineOutcome LocalRunner::run_all_or_nothing(const WholeScript &script) {
   }
   if (!script.settings.json) {
     print_summary(context_.out, script.name, result,
-                  result.faults != 0 ? "the device is as it was" : "");
+                  result.faults != 0  ? "the device is as it was"
+                  : context_.is_trial ? kTriedNote
+                                      : "");
   }
   return result.outcome();
 }

@@ -1,6 +1,8 @@
 // Runs command lines on a device of this process.
 #pragma once
 
+#include <memory>
+
 #include "tesselctl/command/run_line.hpp"
 #include "tesselctl/command/runner.hpp"
 
@@ -13,18 +15,22 @@ class LocalRunner : public Runner {
 
   LineOutcome run(const SourceLine &source) override;
   LineOutcome run_whole(const WholeScript &script) override;
+  void begin_trial() override;
+  void end_trial() override;
   std::string ask(std::string_view line) override;
-  Settings &defaults() override { return context_.defaults; }
-  Context &context() { return context_; }
-  // Since the runner was made.
+  Settings &defaults() override { return context().defaults; }
+  // Of the innermost trial, if there is one.
+  Context &context() { return trial_ ? trial_->context() : context_; }
+  // Since the runner was made, without trials.
   Changed changed() const { return context_.changed; }
 
  private:
-  LineOutcome try_whole(const WholeScript &script);
   LineOutcome run_all_or_nothing(const WholeScript &script);
 
   Output *errors_;
   Context context_;
+  std::unique_ptr<Device> copy_ = {};  // what a trial works on
+  std::unique_ptr<LocalRunner> trial_ = {};
 };
 
 }  // namespace tesselctl

@@ -77,18 +77,20 @@ bool run_line(Context &context, std::string_view line) {
   return true;
 }
 
-bool may_change_device(std::vector<Word> words) {
+ImageUse image_use(std::vector<Word> words) {
   Settings settings;
   try {
     take_flags(words, settings);
-    if (words.empty()) return true;
-    if (settings.dry_run || settings.help) return false;
+    if (words.empty()) return ImageUse::changes;
+    if (settings.help) return ImageUse::reads;
     Invocation invocation;
     const Command *command = &find_command(words, invocation);
     if (command->name == "watch") command = &find_watched(words);
-    return command->kind == Kind::changes || command->where == Where::command_line;
+    const bool changes = command->kind == Kind::changes || command->where == Where::command_line;
+    if (!changes) return ImageUse::reads;
+    return settings.dry_run ? ImageUse::tries : ImageUse::changes;
   } catch (const Fault &) {
-    return false;
+    return ImageUse::reads;
   }
 }
 

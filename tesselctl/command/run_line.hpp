@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tesselctl/command/command.hpp"
+#include "tesselctl/state/image_file.hpp"
 
 namespace tesselctl {
 
@@ -10,9 +11,9 @@ namespace tesselctl {
 // context.results waits for fail.
 bool run_line(Context &context, std::string_view line);
 
-// Whether a command of those words, options among them, may change what an image holds: with
-// --dry-run and in a command that is not understood nothing does. run and serve may, and so may a
-// shell or script, for which there are no words. Needs no device.
-bool may_change_device(std::vector<Word> words);
+// What a command of those words, options among them, does with an image: one that is not understood
+// reads, at most. run and serve may change it, and so may a shell or script, for which there are no
+// words. Needs no device.
+ImageUse image_use(std::vector<Word> words);
 
 }  // namespace tesselctl

@@ -26,10 +26,13 @@ class Runner {
   // with the line and a mark below it; in JSON within the answer. Throws Fault when the line cannot
   // be run at all: the output or the server is gone.
   virtual LineOutcome run(const SourceLine &source) = 0;
-  // Runs a script as one transaction: no line of others comes between its lines. With
-  // settings.dry_run it runs on a copy of the device. With settings.atomic the device is as it was
-  // when a line has a fault. Throws Fault like run.
+  // Runs a script as one transaction: no line of others comes between its lines, and the device is
+  // as it was when a line has a fault. Throws Fault like run.
   virtual LineOutcome run_whole(const WholeScript &script) = 0;
+  // Until the trial ends, lines run on a copy of the device as it is now, and nothing that they do
+  // stays. A trial may begin within another one. Both throw Fault.
+  virtual void begin_trial() = 0;
+  virtual void end_trial() = 0;
   // What a line answers, for the tool itself; nothing after a fault.
   virtual std::string ask(std::string_view line) = 0;
   // Of every line that does not say otherwise.

@@ -41,6 +41,8 @@ ScriptResult run_script(Runner &runner, std::string_view file, std::string_view 
 ScriptResult run_script(Runner &runner, std::string_view file, const LineSource &next,
                         const ScriptOptions &options);
 
+inline constexpr std::string_view kTriedNote = "on a copy of the device, nothing is changed";
+
 // "x.tessel: 3 commands, 1 fault", and a note behind it.
 void print_summary(Output &out, std::string_view file, const ScriptResult &result,
                    std::string_view note = {});

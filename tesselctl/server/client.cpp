@@ -69,6 +69,25 @@ LineOutcome RemoteRunner::run_whole(const WholeScript &script) {
   return exchange(std::move(bytes), *out_, *errors_);
 }
 
+void RemoteRunner::change_trial(bool Request::*what) {
+  Request request = request_of({});
+  request.*what = true;
+  Output answer;
+  Output nothing;
+  if (exchange(encode_request(request), answer, nothing) == LineOutcome::done) return;
+  throw Fault(answer.take());
+}
+
+void RemoteRunner::begin_trial() {
+  change_trial(&Request::begin_trial);
+  ++trials_;
+}
+
+void RemoteRunner::end_trial() {
+  --trials_;
+  if (socket_.is_open()) change_trial(&Request::end_trial);
+}
+
 std::string RemoteRunner::ask(std::string_view line) {
   Request request = request_of({{}, 0, line});
   request.ask = true;
@@ -79,6 +98,7 @@ std::string RemoteRunner::ask(std::string_view line) {
 }
 
 LineOutcome RemoteRunner::exchange(std::string requests, Output &out, Output &errors) {
+  if (!socket_.is_open() && trials_ != 0) give_up("the copy of the device is gone");
   if (!socket_.is_open()) socket_ = connect_to(path_);
   to_send_ = std::move(requests);
   sent_ = 0;

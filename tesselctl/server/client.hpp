@@ -18,11 +18,14 @@ class RemoteRunner : public Runner {
 
   LineOutcome run(const SourceLine &source) override;
   LineOutcome run_whole(const WholeScript &script) override;
+  void begin_trial() override;
+  void end_trial() override;
   std::string ask(std::string_view line) override;
   Settings &defaults() override { return defaults_; }
 
  private:
   Request request_of(const SourceLine &source) const;
+  void change_trial(bool Request::*what);
   // Sends encoded requests and gives the answer, as it comes, to the outputs.
   LineOutcome exchange(std::string requests, Output &out, Output &errors);
   LineOutcome follow_answer(Output &out, Output &errors);
@@ -41,6 +44,7 @@ class RemoteRunner : public Runner {
   std::string to_send_;
   size_t sent_ = 0;  // of that
   bool interrupt_sent_ = false;
+  size_t trials_ = 0;  // that have begun; the server forgets them with the connection
 };
 
 }  // namespace tesselctl

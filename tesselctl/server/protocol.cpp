@@ -7,8 +7,9 @@ namespace tesselctl {
 namespace {
 
 // What a request has, in the order of its bits and of its texts.
-constexpr bool Request::*kFlags[] = {&Request::ask, &Request::colour_output,
-                                     &Request::colour_errors, &Request::script, &Request::more};
+constexpr bool Request::*kFlags[] = {
+    &Request::ask,  &Request::colour_output, &Request::colour_errors, &Request::script,
+    &Request::more, &Request::begin_trial,   &Request::end_trial};
 constexpr std::string Request::*kTexts[] = {&Request::directory, &Request::settings, &Request::file,
                                             &Request::text};
 

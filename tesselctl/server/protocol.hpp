@@ -43,6 +43,9 @@ struct Request {
   bool ask = false;     // answered with what Runner::ask gives
   bool script = false;  // answered with what Runner::run_whole prints
   bool more = false;    // the text of the script goes on in the next request
+  // These have no text. What keeps a trial from beginning is answered as output.
+  bool begin_trial = false;
+  bool end_trial = false;
   bool colour_output = false;
   bool colour_errors = false;
   std::string directory = {};  // absolute; what file names are relative to

@@ -144,6 +144,7 @@ void ServedClient::collect(std::string_view text) {
 
 LineOutcome ServedClient::run(const Request &request) {
   try {
+    if (request.begin_trial || request.end_trial) return change_trial(request.begin_trial);
     std::string script = std::exchange(script_, {});
     if (request.script) {
       script += request.text;
@@ -156,6 +157,22 @@ LineOutcome ServedClient::run(const Request &request) {
     throw;  // the output is gone
   } catch (const std::exception &error) {
     errors_.line("tesselctl: {}", error.what());
+    return LineOutcome::fault;
+  }
+}
+
+LineOutcome ServedClient::change_trial(bool begin) {
+  try {
+    if (begin) {
+      runner_.begin_trial();
+      ++trials_;
+    } else if (trials_ != 0) {
+      runner_.end_trial();
+      --trials_;
+    }
+    return LineOutcome::done;
+  } catch (const std::exception &error) {
+    out_.write(error.what());
     return LineOutcome::fault;
   }
 }

@@ -45,6 +45,7 @@ class ServedClient {
   void look_at(const Message &message);
   void prepare(const Request &request);
   LineOutcome run(const Request &request);
+  LineOutcome change_trial(bool begin);
   void collect(std::string_view text);
   bool is_interrupted();
 
@@ -58,6 +59,7 @@ class ServedClient {
   Output out_;
   Output errors_;
   LocalRunner runner_;
+  size_t trials_ = 0;
   std::string script_;  // what came of it so far
 };
 

@@ -38,6 +38,29 @@ class ScriptScope {
   std::vector<RunningScript> &running_;
 };
 
+// While it lives, the runner tries lines on a copy of the device.
+class TrialScope {
+ public:
+  TrialScope(Runner &runner, size_t &trials) : runner_(runner), trials_(trials) {
+    runner_.begin_trial();
+    ++trials_;
+  }
+  ~TrialScope() {
+    --trials_;
+    try {
+      runner_.end_trial();
+    } catch (const Fault &) {
+      // The server that had the copy is gone.
+    }
+  }
+  TrialScope(const TrialScope &) = delete;
+  TrialScope &operator=(const TrialScope &) = delete;
+
+ private:
+  Runner &runner_;
+  size_t &trials_;
+};
+
 // The command of the line in its place, with blanks for the words of watch before it, so that the
 // columns of faults stay true.
 std::string watched_line(std::string_view line, Words words, const Watch &watch) {
@@ -96,7 +119,13 @@ LineOutcome ToolRunner::run_file(Word file, const Settings &settings) {
     throw Fault(file, "the scripts that run one another are too many");
   }
   const std::string name = path == "-" ? "standard input" : path;
-  if (settings.atomic || settings.dry_run) {
+  if (settings.dry_run) {
+    const TrialScope trial(*runner_, trials_);
+    Settings as_real = settings;
+    as_real.dry_run = false;
+    return run_file(file, as_real);
+  }
+  if (settings.atomic) {
     return runner_->run_whole({name, read_input(path), settings});
   }
   hint_is_given_ = false;
@@ -109,12 +138,12 @@ LineOutcome ToolRunner::run_file(Word file, const Settings &settings) {
     return lines.next(line);
   };
   const ScriptResult result = run_script(*this, name, next, ScriptOptions::of(settings));
-  if (!settings.json) print_summary(*out_, name, result, hint(file, result));
+  if (!settings.json) print_summary(*out_, name, result, note(file, result));
   return result.outcome();
 }
 
-// Of a script that ended in its middle, on a device that is still there.
-std::string ToolRunner::hint(Word file, const ScriptResult &result) {
+std::string ToolRunner::note(Word file, const ScriptResult &result) {
+  if (trials_ != 0) return std::string(kTriedNote);
   const bool stays = device_stays_ || std::ranges::any_of(running_, &RunningScript::goes_on);
   const bool in_middle = result.faults != 0 && result.commands > 1 && !running_.back().goes_on;
   if (!stays || !in_middle || hint_is_given_ || file.text == "-") return {};

@@ -32,12 +32,16 @@ class ToolRunner : public Runner {
   void before_each(std::function<void()> prepare) { prepare_ = std::move(prepare); }
   LineOutcome run(const SourceLine &source) override;
   LineOutcome run_whole(const WholeScript &script) override { return runner_->run_whole(script); }
+  void begin_trial() override { runner_->begin_trial(); }
+  void end_trial() override { runner_->end_trial(); }
   std::string ask(std::string_view line) override { return runner_->ask(line); }
   Settings &defaults() override { return runner_->defaults(); }
 
  private:
   LineOutcome run_file(Word file, const Settings &settings);
-  std::string hint(Word file, const ScriptResult &result);
+  // Behind the summary: where a script that ended in its middle goes on, if the device is still
+  // there.
+  std::string note(Word file, const ScriptResult &result);
 
   Runner *runner_;
   Output *out_;
@@ -46,6 +50,7 @@ class ToolRunner : public Runner {
   std::function<void()> prepare_ = {};
   bool device_stays_;
   std::vector<RunningScript> running_ = {};  // scripts that run one another
+  size_t trials_ = 0;                        // that run within one another
   bool hint_is_given_ = false;               // since the last script began
 };
 

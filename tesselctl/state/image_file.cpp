@@ -17,9 +17,9 @@ DeviceOfImage::DeviceOfImage(const DeviceOptions &device, const ImageOptions &im
     device_.emplace(options_);
     return;
   }
-  if (use_ == ImageUse::changes) {
+  if (use_ != ImageUse::reads) {
     place_ = FilePlace::of_file(image_.path);
-    if (place_.folder.is_open()) lock_.emplace(place_);
+    if (place_.folder.is_open() && use_ == ImageUse::changes) lock_.emplace(place_);
     if (place_.exists && is_compressed(image_.path)) {
       throw Fault(image_.path +
                   ": a compressed image can be read only; decompress it with xz -d first");
@@ -27,7 +27,7 @@ DeviceOfImage::DeviceOfImage(const DeviceOptions &device, const ImageOptions &im
     if (place_.folder.is_open()) refuse_compressed_name(image_.path);
   }
   // Only now: whoever had the lock may have made the image.
-  is_new_ = use_ == ImageUse::changes && access(image_.path.c_str(), F_OK) != 0;
+  is_new_ = use_ != ImageUse::reads && access(image_.path.c_str(), F_OK) != 0;
   if (is_new_) {
     device_.emplace(options_);
   } else {

@@ -16,8 +16,9 @@ namespace tesselctl {
 LoadCounts load_image_file(const Device &device, const std::string &path, std::string_view shown);
 
 // What a process does with its image: one that may change the device keeps the lock of the file
-// for its life, one that reads sees a whole image and takes no lock.
-enum class ImageUse : uint8_t { reads, changes };
+// for its life, one that reads sees a whole image and takes no lock. One that tries changes, which
+// do not stay, takes no lock either, but wants an image that could be changed.
+enum class ImageUse : uint8_t { reads, tries, changes };
 
 struct ImageOptions {
   std::string path = {};    // empty for a device that comes from nowhere
