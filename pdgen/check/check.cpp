@@ -281,6 +281,19 @@ void check_direct(const Program &program, const std::vector<Resource> &resources
   }
 }
 
+// Members hand over no resources.
+void check_members(const Profile &profile, Diagnostics &diagnostics) {
+  for (const ProfileAction &pair : profile.actions) {
+    for (const Param &param : pair.action->params) {
+      if (param.index_of.empty()) continue;
+      diagnostics.report(pair.place, "profile.actions.action",
+                         "parameter {} of action {} names a cell of {}, which profile {} cannot "
+                         "hand over; only entries have counters and meters",
+                         param.name, pair.action.name, param.index_of.front().name, profile.name);
+    }
+  }
+}
+
 // The value of an action is its index.
 void check_values(const Program &program, Diagnostics &diagnostics) {
   const std::vector<Action> &actions = program.actions;  // by value
@@ -336,6 +349,7 @@ void check_resources(const Program &program, Diagnostics &diagnostics) {
     for (const LostIndex &one : lost) report_lost_index(table, one, diagnostics);
     check_count(table, diagnostics);
   }
+  for (const Profile &profile : program.profiles) check_members(profile, diagnostics);
   check_direct(program, program.counters, "counters.table", diagnostics);
   check_direct(program, program.meters, "meters.table", diagnostics);
 }
