@@ -311,9 +311,10 @@ bool load_routes(const Device &device, const RoutesOptions &options, Output &out
   FaultReport faults(errors);
   const uint16_t limit = route_limits().nexthop;
   std::vector<LoadedFile> files;
-  for (const auto &[name, path] : options.files) {
+  for (const RoutesOptions::File &file : options.files) {
+    const std::string &name = file.name;
     const Clock::time_point start = Clock::now();
-    FileLines lines(path);
+    FileLines lines(file.path);
     files.push_back(
         {name, parse_routes(lines.source(), options.nexthop, limit, [&](const RouteFault &fault) {
            parse_faults.add(name, fault.line, fault.column, fault.message);
