@@ -45,9 +45,11 @@ std::optional<ItemBytes> find_item(const ProfileLine &line, const ItemKind &kind
   Numbering numbering = Numbering::by_handle();
   Source from = {line.context.device, numbering};
   kind.open(line.object.name)->read(from, [&](const ItemView &item) {
-    const ItemBytes bytes = {std::string(item.identity), std::string(item.value)};
-    if (read_bytes<uint32_t>(item.identity) == wanted) by_handle = bytes;
-    if (!by_value && item.value == value) by_value = bytes;
+    const auto keep = [&](std::optional<ItemBytes> &as) {
+      as = {std::string(item.identity), std::string(item.value)};
+    };
+    if (read_bytes<uint32_t>(item.identity) == wanted) keep(by_handle);
+    if (!by_value && item.value == value) keep(by_value);
   });
   return by_handle ? by_handle : by_value;
 }
