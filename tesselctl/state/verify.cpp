@@ -32,7 +32,8 @@ std::string value_of(const bindings::Export &function, const pipe_mgr_placement_
   const TraceScope quiet(nullptr);
   std::string text(binding().sizes.value, '\0');
   Call call(function);
-  text.resize(call.set("placement", placement).set("buffer", text.data()).run());
+  text.resize(
+      static_cast<size_t>(call.set("placement", placement).set("buffer", text.data()).run()));
   return text;
 }
 
