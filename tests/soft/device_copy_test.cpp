@@ -41,49 +41,6 @@ TEST_F(DeviceCopy, IsTheSameInEverythingAndLivesOnByItself) {
   EXPECT_EQ(entry & 0xff000003, kDevice << 24 | 1) << "of ingress";
 }
 
-// As a host that tries something and takes it back sees it.
-TEST_F(DeviceCopy, KeepsMessagesThatAListenerHolds) {
-  std::vector<pipe_mgr_digest_message_t *> heard;
-  const auto hear = [](pipe_session_handle_t, pipe_mgr_digest_message_t *message,
-                       void *cookie) -> bf_status_t {
-    static_cast<decltype(heard) *>(cookie)->push_back(message);
-    return BF_SUCCESS;
-  };
-  OK(pipe_mgr_flow_lrn_set_timeout(session, kDevice, 1000));
-  OK(pipe_mgr_lrn_digest_notification_register(session, kDevice, kMacDigest, hear, &heard));
-  const uint8_t entries[] = {1, 1, 1, 2, 2, 2, 3, 3, 3};
-  OK(soft_digest_inject(kDevice, 0, kMacDigest, entries, 1, 3, nullptr));
-  soft_clock_advance(1);
-  OK(soft_digest_inject(kDevice, 0, kMacDigest, entries + 3, 2, 6, nullptr));
-  OK(soft_device_copy(kDevice, kOther));
-  uint32_t collected = 9, held = 9, learnt = 9;
-  OK(soft_digest_pending(kOther, kMacDigest, &collected, &held));
-  EXPECT_EQ(collected, 2u);
-  EXPECT_EQ(held, 0u);
-  soft_clock_advance(1);  // the copy has no listener: its message waits
-  ASSERT_EQ(heard.size(), 2u);
-
-  OK(soft_device_copy(kOther, kDevice));
-  OK(soft_digest_pending(kDevice, kMacDigest, &collected, &held));
-  EXPECT_EQ(collected, 2u);
-  EXPECT_EQ(held, 2u);
-  EXPECT_EQ(heard[0]->entries[0], 1);
-  for (pipe_mgr_digest_message_t *message : {heard[0], heard[1]}) {
-    OK(pipe_mgr_flow_lrn_notify_ack(session, kMacDigest, message));
-  }
-  OK(soft_digest_inject(kDevice, 1, kMacDigest, entries, 3, 9, &learnt));
-  EXPECT_EQ(learnt, 1u) << "two of them wait";
-  ASSERT_EQ(heard.size(), 3u) << "the injection is an occasion to send";
-  EXPECT_EQ(heard[2]->device, kDevice);
-  EXPECT_EQ(Bytes(heard[2]->entries, heard[2]->entries + 6), Bytes(entries + 3, entries + 9));
-  OK(soft_device_copy(kDevice, kOther));
-  OK(pipe_mgr_lrn_digest_notification_register(session, kOther, kMacDigest, hear, &heard));
-  soft_clock_advance(1);
-  ASSERT_EQ(heard.size(), 5u) << "one from each device";
-  EXPECT_EQ(heard[4]->device, kOther);
-  EXPECT_EQ(heard[4]->entries[0], 1);
-}
-
 TEST_F(DeviceCopy, RefusesDevicesThatCannotBeTheSame) {
   uint32_t entry = 0;
   constexpr bf_device_id_t kUnlike = 10;

@@ -5,6 +5,8 @@ namespace {
 
 using namespace soft_test;
 
+using Counts = std::pair<uint32_t, uint32_t>;
+
 // What a callback saw, and what it is to do.
 struct Ear {
   struct Heard {
@@ -49,9 +51,9 @@ class Digests : public SoftTest {
   bf_status_t timeout(uint32_t microseconds) {
     return pipe_mgr_flow_lrn_set_timeout(session, kDevice, microseconds);
   }
-  std::pair<uint32_t, uint32_t> pending() {
+  static Counts pending(bf_device_id_t device = kDevice) {
     uint32_t collected = kNowhere, unacknowledged = kNowhere;
-    OK(soft_digest_pending(kDevice, kMacDigest, &collected, &unacknowledged));
+    OK(soft_digest_pending(device, kMacDigest, &collected, &unacknowledged));
     return {collected, unacknowledged};
   }
   // Entry number n: three bytes.
@@ -59,8 +61,6 @@ class Digests : public SoftTest {
 
   Ear ear;
 };
-
-using Counts = std::pair<uint32_t, uint32_t>;
 
 TEST_F(Digests, AnEntryIsLearntAnewOnlyAfterItsMessageWasAcknowledged) {
   OK(listen());
@@ -100,6 +100,35 @@ TEST_F(Digests, MessagesStayUntilTheyAreAcknowledged) {
   EXPECT_EQ(acknowledge(message, kFlowDigest), BF_OBJECT_NOT_FOUND);
   for (const Ear::Heard &heard : ear.heard) OK(acknowledge(heard.message));
   EXPECT_EQ(acknowledge(message), BF_OBJECT_NOT_FOUND);
+  OK(soft_device_remove(kOther));
+}
+
+// As a host that tries something and takes it back sees it.
+TEST_F(Digests, StayWithTheListenerOfACopy) {
+  constexpr bf_device_id_t kOther = 9;
+  OK(soft_device_create(kOther, 2, &small_program(), false));
+  OK(timeout(1000));
+  OK(listen());
+  inject(entry(1));
+  soft_clock_advance(1);
+  inject({0x0a, 0x0b, 2, 0x0a, 0x0b, 3});
+  OK(soft_device_copy(kDevice, kOther));
+  EXPECT_EQ(pending(kOther), Counts(2, 0));
+  soft_clock_advance(1);
+  ASSERT_EQ(ear.heard.size(), 2u) << "the copy has no listener: its message waits";
+  OK(soft_device_copy(kOther, kDevice));
+  EXPECT_EQ(pending(), Counts(2, 2));
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_EQ(ear.heard[i].message->entries[2], i + 1);
+    OK(acknowledge(ear.heard[i].message));
+  }
+  EXPECT_EQ(inject({0x0a, 0x0b, 1, 0x0a, 0x0b, 2, 0x0a, 0x0b, 3}, 1), 1u) << "two of them wait";
+  ASSERT_EQ(ear.heard.size(), 3u) << "the injection is an occasion to send";
+  EXPECT_EQ(ear.heard[2].entries, (Bytes{0x0a, 0x0b, 2, 0x0a, 0x0b, 3}));
+  OK(pipe_mgr_lrn_digest_notification_register(session, kOther, kMacDigest, Ear::hear, &ear));
+  soft_clock_advance(1);
+  ASSERT_EQ(ear.heard.size(), 5u) << "one from each device";
+  EXPECT_EQ(ear.heard[4].head.device, kOther);
   OK(soft_device_remove(kOther));
 }
 

@@ -89,24 +89,9 @@ bf_status_t second_removed(bf_device_id_t device) {
   told.push_back("second " + std::to_string(device));
   return BF_SUCCESS;
 }
-bf_status_t second_log(uint8_t device, cJSON *document) {
-  cJSON_AddNumberToObject(document, "device", device);
-  return BF_SUCCESS;
-}
-bf_status_t second_restore(uint8_t device, cJSON *document) {
-  const cJSON *saved = cJSON_GetObjectItem(document, "device");
-  told.push_back("restore " + std::to_string(device) + " from " + std::to_string(saved->valueint));
-  return BF_SUCCESS;
-}
+bf_status_t never_restored(uint8_t, cJSON *) { return BF_HARDWARE_FAULT; }
 
-bf_status_t restore(bf_device_id_t device, const char *text) {
-  cJSON *document = cJSON_Parse(text);
-  const bf_status_t status = soft_device_restore(device, document);
-  cJSON_Delete(document);
-  return status;
-}
-
-TEST(Clients, LogRestoreAndHearOfRemovalByPriority) {
+TEST(Clients, HearOfRemovalByPriority) {
   uint32_t first = 0, second = 0, third = 0;
   OK(soft_device_create(8, 1, &small_program(), false));
   OK(bf_drv_register("second", &second));
@@ -115,29 +100,19 @@ TEST(Clients, LogRestoreAndHearOfRemovalByPriority) {
   bf_drv_client_callbacks_t callbacks{};
   EXPECT_EQ(bf_drv_client_register_callbacks(third, &callbacks, 1), BF_OBJECT_NOT_FOUND);
   callbacks.device_remove = second_removed;
-  callbacks.device_log = second_log;
-  callbacks.device_restore = second_restore;
+  callbacks.device_restore = never_restored;
   OK(bf_drv_client_register_callbacks(second, &callbacks, 2));
   callbacks = {};
   callbacks.device_remove = first_removed;
   OK(bf_drv_client_register_callbacks(first, &callbacks, 1));
-
-  constexpr char kState[] = R"({"clients":[{"client":"second","state":{"device":8}}]})";
-  cJSON *document = cJSON_CreateObject();
-  EXPECT_EQ(soft_device_log(9, document), BF_INVALID_DEVICE);
   EXPECT_EQ(soft_device_log(8, nullptr), BF_CORRUPT_DATA);
-  OK(soft_device_log(8, document));
-  char *text = cJSON_PrintUnformatted(document);
-  EXPECT_STREQ(text, kState);
-  cJSON_free(text);
+  cJSON *document = cJSON_Parse(R"({"clients":[{"client":"secon","state":{"device":7}},{}]})");
+  EXPECT_EQ(soft_device_restore(9, document), BF_INVALID_DEVICE);
+  OK(soft_device_restore(8, document)) << "none for it";
   cJSON_Delete(document);
-  OK(restore(8, kState));
-  EXPECT_EQ(restore(9, kState), BF_INVALID_DEVICE);
-  OK(restore(8, R"({"clients":[{"client":"secon","state":{"device":7}},{}]})")) << "none for it";
-  EXPECT_EQ(restore(8, R"({"clients":7})"), BF_CORRUPT_DATA);
 
   OK(soft_device_remove(8)) << "their statuses are not looked at";
-  EXPECT_EQ(told, (std::vector<std::string>{"restore 8 from 8", "first alive", "second 8"}));
+  EXPECT_EQ(told, (std::vector<std::string>{"first alive", "second 8"}));
   OK(bf_drv_deregister(second));
   OK(bf_drv_deregister(first));
   EXPECT_EQ(bf_drv_deregister(first), BF_OBJECT_NOT_FOUND);

@@ -21,17 +21,6 @@ class Hashes : public SoftTest {
 
 const Bytes kDigits{'1', '2', '3', '4', '5', '6', '7', '8', '9'};
 
-TEST_F(Hashes, OfKnownStreams) {
-  EXPECT_EQ(hash(kDigits, 17), (Bytes{0x62, 0xec, 0x59, 0xe3, 0xf1, 0xa4, 0xf0, 0x0a, 0xa7, 0xcb,
-                                      0xd4, 0x01, 0x5b, 0xe4, 0xce, 0xbc, 0x60}));
-  const Bytes longest = hash(kDigits, 64);
-  EXPECT_EQ(Bytes(longest.end() - 8, longest.end()),
-            (Bytes{0x6b, 0x19, 0x71, 0x93, 0x06, 0x72, 0x4f, 0x45}));
-  EXPECT_EQ(hash({0x01, 0x42, 0x47, 0xff}, 8),
-            (Bytes{0x51, 0xd2, 0xc6, 0x6c, 0xd6, 0xb5, 0x53, 0xac}));
-  EXPECT_EQ(hash({}, 3), (Bytes{0, 0, 0}));
-}
-
 TEST_F(Hashes, SeedIsTheInitialValueOfTheOneCalculation) {
   uint64_t read = 1;
   OK(pipe_mgr_hash_calc_seed_get(session, kDevice, kIpHash, &read));

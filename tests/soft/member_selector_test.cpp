@@ -93,10 +93,9 @@ bf_status_t visit(uint8_t device, uint32_t member, uint32_t group, void *cookie)
 
 TEST(MemberSelector, VisitsEveryGroupOfAMember) {
   Shadow shadow;
-  for (uint32_t member : {7u, 8u}) OK(shadow.add(member));
-  for (uint32_t group : {9u, 1u, 4u, 2u}) OK(shadow.add_group(group));
-  for (uint32_t group : {9u, 4u, 1u}) OK(shadow.join(7, group));
-  OK(shadow.join(8, 2));
+  OK(shadow.restore(R"({"members":[{"handle":7},{"handle":8}],"groups":[)"
+                    R"({"handle":9,"members":[7]},{"handle":1,"members":[7]},)"
+                    R"({"handle":4,"members":[7]},{"handle":2,"members":[8]}]})"));
   Visits visits{{}, shadow.state};
   EXPECT_EQ(p4_pd_ms_mbr_apply_to_grps(shadow.state, 2, 7, visit, &visits), BF_TABLE_FULL);
   EXPECT_EQ(visits.groups, (std::vector<uint32_t>{1, 4, 9}));
