@@ -40,14 +40,6 @@ TEST_F(EntryText, PlacementDataThatCannotBeDecoded) {
             }),
             "cannot decode plcmt_data for "
             "p4_pd_tessel_switch_ecmpMemberActionProfile_adt_plcmt_data_print\n");
-  // A line longer than an int can say is not begun.
-  const Placement decap = Placement::of_entry(
-      kDevice, 0x01000050, make("table_get_default_entry_handle", "vlanDecap", "", {}));
-  EXPECT_EQ(printed([&](int file) {
-              PD(vlanDecap_plcmt_data_print)
-              (file, INT_MAX, decap.object);
-            }),
-            "");
 }
 
 // ---- By handle ----
@@ -133,21 +125,6 @@ TEST_F(EntryText, LabelsByHandleGoToTheirTables) {
     for (const Call &call : made) EXPECT_EQ(call.scalar("table"), handle);
   }
   EXPECT_TRUE(buffer.is_untouched());
-}
-
-// ---- To the letter ----
-
-TEST(Schemas, ToTheLetter) {
-  const auto schema = [](uint32_t handle) {
-    return written(*find_export("cli_schema"), with("handle", handle), binding().sizes.schema);
-  };
-  EXPECT_EQ(schema(table_named("cpuEncapFields").handle),
-            "( ('cpuEncapFields','mat',(False,)),(( 'egressPort','eg_intr_md_egress_port',9,0x1ff,"
-            "None,None,None),( 'switchPort','phase0_switchPort',1,0x1,None,None,None),( "
-            "'ingressTagged','egrMd_ingressTagged',1,0x1,None,None,None),( 'decapType',"
-            "'egrMd_decapType',3,0x7,None,None,None),),(( ('encapPktToCpu'),(('tagType',None,2,"
-            "None),)),( ('onMiss'),()),))");
-  EXPECT_EQ(schema(kEcmpMembers), "(( ('setEcmpNextHop'),(('nextHop',None,14,None),)),)");
 }
 
 }  // namespace

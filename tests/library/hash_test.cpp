@@ -203,14 +203,5 @@ TEST_F(Hashes, StreamsAreRefusedWithoutACall) {
   EXPECT_EQ(hash[0], 0xa5);
 }
 
-// The device's answer comes through unchanged: 1 to 8 bytes of the CRC of the stream.
-TEST_F(Hashes, LeadToTheHashOfTheDevice) {
-  const p4_pd_hash_calc_attr_t values[3] = {{0, 0, 0x0a}, {1, 0, 0x123}, {2, 0, 0x1ff}};
-  const uint32_t sizes[3] = {4, 12, 9};
-  Bytes hash(4, 0xa5);
-  EXPECT_EQ(kCalculate(session(), kDevice, 3, values, sizes, hash.data(), 3), BF_SUCCESS);
-  EXPECT_EQ(hash, (Bytes{0x51, 0xd2, 0xc6, 0xa5}));
-}
-
 }  // namespace
 }  // namespace pd_test

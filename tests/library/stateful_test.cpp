@@ -1,5 +1,4 @@
-// Counters, meters, registers and digests: the order and the size of what is exchanged, the units
-// and types of meters, and where the fields of an entry lie.
+// Meters, registers, counters and digests: units and types, flags, records by handle and names.
 #include "pipe_stful.h"
 #include "scene.hpp"
 #include "soft_learning.h"
@@ -10,48 +9,7 @@
 namespace pd_test {
 namespace {
 
-constexpr p4_pd_device_target_t kAllPipes = {kDevice, BF_ALL_PIPES};
-
 class Stateful : public LibraryTest {};
-
-// ---- Counters ----
-
-// The first count of the caller's record is the second one of the device's, and the other way
-// round, in the memory of either.
-TEST_F(Stateful, CountersExchangeTheirTwoCounts) {
-  const uint64_t given[2] = {0x1111222233334444, 0x5555666677778888};
-  p4_pd_counter_values_t values, read = {};
-  std::memcpy(&values, given, sizeof values);
-  const PD(l2DmacClassify_match_spec_t) key = {};
-  const uint32_t entry =
-      make("table_add", "l2DmacClassify", "setUcast", with("match_spec", &key, "priority", 1));
-  const auto expect_exchanged = [&](const Call &call, const char *name) {
-    uint64_t seen[2];
-    std::memcpy(seen, &call.get<pipe_mgr_counter_t>(name), sizeof seen);
-    EXPECT_TRUE(seen[0] == given[1] && seen[1] == given[0]);
-    EXPECT_EQ(std::memcmp(&read, given, sizeof read), 0);
-  };
-  const Call of_entry = only_call([&] {
-    PD(counter_write_l2DmacClassifyCount)(session(), kAllPipes, entry, values);
-  });
-  PD(counter_read_l2DmacClassifyCount)(session(), kAllPipes, entry, 0, &read);
-  expect_exchanged(of_entry, "counter");
-  EXPECT_EQ(of_entry.scalar("table"), 0x01000002u);
-  read = {};
-  const Call of_cell = only_call([&] {
-    PD(counter_write_pdpClassCount)
-    (session(), kTarget, 9, values);
-  });
-  PD(counter_read_pdpClassCount)(session(), kTarget, 9, 0, &read);
-  expect_exchanged(of_cell, "value");
-
-  // The device is asked for what it counted by one flag alone.
-  const Call plain = only_call([&] {
-    PD(counter_read_pdpClassCount)
-    (session(), kTarget, 9, ~P4_PD_READ_FROM_HARDWARE, &read);
-  });
-  EXPECT_EQ(plain.function, "pipe_mgr_stat_ent_query");
-}
 
 // ---- Meters ----
 
@@ -105,38 +63,21 @@ TEST_F(Stateful, MetersReadTheirLowHalves) {
 // ---- Registers ----
 
 constexpr uint32_t kWide = 0x06000005;  // the one of 32 bits
-constexpr uint32_t kBit = 0x06000001;
 
-// What the data plane keeps in a cell: another number in each pipe.
-void count_in_pipes(uint32_t reg, uint32_t index, std::initializer_list<uint32_t> values) {
-  bf_pipe_id_t pipe = 0;
-  for (const uint32_t value : values) {
-    EXPECT_EQ(soft_register_write(kDevice, pipe++, reg, index, value), BF_SUCCESS);
+TEST_F(Stateful, OneFlagAsksTheHardware) {
+  EXPECT_EQ(soft_register_write(kDevice, kPipe, kWide, 22, 0x80000102), BF_SUCCESS);
+  for (const uint32_t wanted : {0u, 0x80000102u}) {
+    const uint32_t flags = wanted == 0 ? ~P4_PD_READ_FROM_HARDWARE : 0xffffffff;
+    uint32_t word = 7, count = 0;
+    PD(register_read_flowDigestCountReg)(session(), kTarget, 22, flags, &word, &count);
+    EXPECT_EQ(word, wanted);
   }
-}
-
-TEST_F(Stateful, RegistersAreReadByIndexAndThenByPipe) {
-  std::vector<uint32_t> words(2);
-  uint32_t indexes = 99, count = 99;
-  count_in_pipes(kBit, 20, {1, 0, 0, 1});
-  count_in_pipes(kBit, 21, {0, 0, 1, 0});
-  Bytes bits(9, 7);
-  ASSERT_EQ(PD(register_range_read_flowStateRegisterFirst)(session(), kAllPipes, 20, 2, 1, &indexes,
-                                                           bits.data(), &count),
-            BF_SUCCESS);
-  EXPECT_EQ(bits, (Bytes{1, 0, 0, 1, 0, 0, 1, 0, 7}));
-  // One pipe yields one value, and only bit 0 of the flags reaches the device.
-  count_in_pipes(kWide, 22, {1, 2, 0x80000102, 4});
-  const auto read_one = [&](uint32_t flags) {
-    words[1] = 7;
-    EXPECT_EQ(
-        PD(register_read_flowDigestCountReg)(session(), kTarget, 22, flags, words.data(), &count),
-        BF_SUCCESS);
-    EXPECT_TRUE(count == 1 && words[1] == 7);
-    return words[0];
-  };
-  EXPECT_EQ(read_one(0xfffffffe), 0u);
-  EXPECT_EQ(read_one(0xffffffff), 0x80000102u);
+  p4_pd_counter_values_t counted;
+  const Call plain = only_call([&] {
+    PD(counter_read_pdpClassCount)
+    (session(), kTarget, 9, ~P4_PD_READ_FROM_HARDWARE, &counted);
+  });
+  EXPECT_EQ(plain.function, "pipe_mgr_stat_ent_query");
 }
 
 TEST_F(Stateful, RegistersByHandleTakeTheDevicesRecords) {
