@@ -149,18 +149,22 @@ class Wanted {
 
   // What read-back offers to be filled: the key of the table, bytes for any action, or nothing.
   Value buffer(const std::string &wanted) const {
-    const ActionData data = {0, greatest_action_data(), Bytes()};
-    if (wanted == "member_buffer") return data;
-    if (wanted == "key_buffer") {
+    const bool placed = wanted.starts_with("placed_");
+    const auto unless_placed = [&](unsigned count) {
+      return static_cast<uint16_t>(placed ? 0 : count);
+    };
+    const ActionData data = {0, unless_placed(greatest_action_data()), Bytes()};
+    if (wanted.ends_with("member_buffer")) return data;
+    if (wanted.ends_with("key_buffer")) {
       const pdgen::Table &table = *scene_.table();
       MatchSpec match;
-      match.valid_bit_count = static_cast<uint16_t>(table.key_bits);
-      match.byte_count = static_cast<uint16_t>(table.key_bytes);
+      match.valid_bit_count = unless_placed(table.key_bits);
+      match.byte_count = unless_placed(table.key_bytes);
       if (table.keyed()) match.value = match.mask = Bytes();
       return match;
     }
     ActionSpec spec;
-    if (wanted == "data_buffer" && !scene_.table()->indirect()) spec.data = data;
+    if (placed || (wanted == "data_buffer" && !scene_.table()->indirect())) spec.data = data;
     return spec;
   }
 

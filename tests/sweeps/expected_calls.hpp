@@ -33,7 +33,8 @@ namespace pd_test {
 //   state              the member-selector state of the profile
 //   got x              what the out-parameter x holds after the call
 //   key_buffer, data_buffer, no_buffer
-//                      a match or action spec to be filled
+//                      a match or action spec to be filled; placed_..., with counts of 0, from
+//                      placement data
 //   meter, resources, ageing, wred, hash
 //                      the records that the scene gives
 // Empty for a family that is not in the list.
