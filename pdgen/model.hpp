@@ -306,7 +306,6 @@ struct SnapshotLayout {
 };
 
 struct Snapshots {
-  Place place;
   unsigned record_bytes = 0;
   unsigned capture_limit = 0;
   std::vector<SnapshotLayout> layouts;

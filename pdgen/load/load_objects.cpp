@@ -292,7 +292,6 @@ void read_labels(RowReader &file) {
 
 void read_snapshots(RowReader &file) {
   Snapshots &snapshots = file.program().snapshots.emplace();
-  snapshots.place = file.place("record_bytes");
   file.number("record_bytes", snapshots.record_bytes, 1, 0xffff);
   file.number("capture_limit", snapshots.capture_limit, 1, 0xffff);
   file.rows("layout", "layout", "name", snapshots.layouts, read_layout);

@@ -254,7 +254,7 @@ std::vector<ToolRecords> tool_records(const Program &program) {
                                     {"packet", {}},
                                     {"capture", {}}};
   if (!program.snapshots) return lists;
-  const auto &[place, size, limit, layouts, capture] = *program.snapshots;
+  const auto &[size, limit, layouts, capture] = *program.snapshots;
   for (const auto &[name, where, fields] : layouts) {
     lists[3].records.push_back(packet_record(program, name, "0", size, fields, true));
     lists[4].records.push_back(packet_record(program, name, "0", size, fields));
