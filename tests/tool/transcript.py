@@ -135,6 +135,8 @@ class Transcript:
             return expected
         self.faults += 1
         print(f"{self.path}: {line}\nexpected:\n{expected}printed:\n{text}")
+        if os.environ.get("FAIL_FAST"):
+            sys.exit(1)
         return text
 
     def run_block(self, lines):
