@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <unordered_map>
 
 #include "common/nearest.hpp"
 
@@ -83,13 +84,19 @@ std::span<const bindings::Record> actions() { return binding().actions.list(); }
 const bindings::Record *find_record(std::span<const bindings::Record> records,
                                     std::string_view name) {
   for (const bindings::Record &record : records) {
-    if (name == record.name) return &record;
+    if (is_name(record.name, name)) return &record;
   }
   return nullptr;
 }
 
 const bindings::Record &action_record(std::string_view name) {
-  if (const bindings::Record *found = find_record(actions(), name)) return *found;
+  static const auto by_name = [] {
+    std::unordered_map<std::string_view, const bindings::Record *> known;
+    for (const bindings::Record &action : actions()) known.emplace(action.name, &action);
+    return known;
+  }();
+  const auto found = by_name.find(name);
+  if (found != by_name.end()) return *found->second;
   throw std::logic_error("the binding has no action " + std::string(name));
 }
 

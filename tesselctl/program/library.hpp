@@ -22,6 +22,14 @@ bool has_program();
 // Once, before anything else here.
 void use_program(const bindings::Binding &binding);
 
+// Whether a name is the text: most differ in the first characters, while a length takes all.
+inline bool is_name(const char *name, std::string_view text) {
+  for (const char c : text) {
+    if (c == '\0' || *name++ != c) return false;
+  }
+  return *name == '\0';
+}
+
 // The export of that family, object and action, or null. Object and action may be empty.
 const bindings::Export *find_export(std::string_view family, std::string_view object,
                                     std::string_view action = {});
@@ -97,11 +105,11 @@ const Row &resolve(Word word, std::span<const Row> rows, std::string_view kind);
 
 template <class Row>
 const Row &resolve(Word word, std::span<const Row> rows, std::string_view kind) {
-  std::vector<std::string_view> names;
   for (const Row &row : rows) {
-    if (word.text == row.name) return row;
-    names.push_back(row.name);
+    if (is_name(row.name, word.text)) return row;
   }
+  std::vector<std::string_view> names;
+  for (const Row &row : rows) names.push_back(row.name);
   throw_unknown(word, kind, names);
 }
 
@@ -122,8 +130,8 @@ std::vector<const bindings::Record *> actions_of(const Object &object) {
 // The one of that name, or null.
 template <class Object>
 const bindings::Record *find_action(const Object &object, std::string_view name) {
-  for (const bindings::Record *action : actions_of(object)) {
-    if (name == action->name) return action;
+  for (const soft_action_t &action : std::span(object.actions, object.action_count)) {
+    if (is_name(action.name, name)) return &action_record(name);
   }
   return nullptr;
 }
