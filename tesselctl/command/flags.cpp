@@ -92,6 +92,7 @@ constexpr Flag kFlags[] = {
      "NAME=PATTERN"},
     {"--sort", FlagOf::listings, set_sort, "sorts the rows by a value", "NAME"},
     {"--raw", FlagOf::named, turn_on<&Settings::raw>, "shows values as numbers"},
+    {"--script", FlagOf::named, turn_on<&Settings::script>, "prints commands instead"},
     {"--atomic", FlagOf::named, turn_on<&Settings::atomic>, "changes all or nothing"},
     {"--from", FlagOf::named, set_from, "goes on at that line of the script", "LINE"},
     {"--replace", FlagOf::named, turn_on<&Settings::replace>, "modifies what is there already"},

@@ -84,6 +84,7 @@ bool is_placeholder(std::string_view word) {
 std::string_view meaning_of_value(std::string_view placeholder) {
   static constexpr Meaning kMeanings[] = {
       {"N", "a number"},
+      {"N,N", "numbers with commas between them, one a pipe"},
       {"MS", "milliseconds"},
       {"SECONDS", "seconds from one round to the next, 0.1 to 86400"},
       {"CELLS", "cells of a queue: drops begin at min=, and are most probable at max="},
@@ -128,6 +129,8 @@ std::string_view meaning_of_name(std::string_view name) {
       {"mask", "the bits of the value that count"},
       {"packets", "the number of packets"},
       {"bytes", "the number of bytes"},
+      {"mode", "1, as without it: entries expire; 0: their hit states are read"},
+      {"values", "the values of a cell, one a pipe"},
       {"message", "the number of a message"},
       {"hash", "the hash that a packet has"},
       {"input", "the number of a set of input fields"},

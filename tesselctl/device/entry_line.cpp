@@ -1,5 +1,7 @@
 #include "tesselctl/device/entry_line.hpp"
 
+#include <algorithm>
+
 #include "tesselctl/device/handles.hpp"
 
 namespace tesselctl {
@@ -22,6 +24,12 @@ void set_once(std::optional<T> &slot, const Assignment &word, T value) {
 }
 
 }  // namespace
+
+bool is_entry_word(std::string_view name) {
+  constexpr std::string_view kWords[] = {"priority", "ttl",   "meter", "entry",
+                                         "member",   "group", "as",    "action"};
+  return std::ranges::find(kWords, name) != std::end(kWords);
+}
 
 EntryLine::EntryLine(const Context &context, const Invocation &invocation)
     : table_word_(need_argument(invocation, 0, "the name of a table")),

@@ -27,6 +27,9 @@ struct GivenMeter {
   Word word;
 };
 
+// Whether a word of that name says something else than a field of the key.
+bool is_entry_word(std::string_view name);
+
 class EntryLine {
  public:
   // Reads the words of the invocation from TABLE on. Throws Fault.

@@ -59,12 +59,13 @@ void note_expired(bf_device_id_t, pipe_object_handle_t table, pipe_entry_handle_
 }
 
 void enable(Context &context, const Invocation &invocation) {
-  const TableLine line = ageing_line(context, invocation, {"sweep", "min", "max", "ttl"});
+  const TableLine line = ageing_line(context, invocation, {"mode", "sweep", "min", "max", "ttl"});
   const auto milliseconds = [&](const char *name, uint64_t otherwise) {
     return static_cast<uint32_t>(line.options.number_or(name, 0xffffffffu, otherwise));
   };
   Params params = {};
-  params.mode = PIPE_IDLE_NOTIFY;
+  params.mode =
+      static_cast<uint32_t>(line.options.number_or("mode", PIPE_IDLE_NOTIFY, PIPE_IDLE_NOTIFY));
   params.sweep_interval_ms = milliseconds("sweep", 1000);
   params.min_ttl_ms = milliseconds("min", 0);
   params.max_ttl_ms = milliseconds("max", 0);
@@ -103,7 +104,7 @@ void advance(Context &context, const Invocation &invocation) {
 }
 
 constexpr Command kCommands[] = {
-    {"age enable", "TABLE [sweep=MS] [ttl=MS] [min=MS] [max=MS]",
+    {"age enable", "TABLE [sweep=MS] [ttl=MS] [min=MS] [max=MS] [mode=N]",
      "starts ageing; ttl is that of entries added without one", enable, Kind::changes},
     {"age disable", "TABLE", "ends ageing", disable, Kind::changes},
     {.name = "age advance",
@@ -119,8 +120,12 @@ constexpr Step kSteps[] = {{Phase::ageing_off, Edit::remove},
                            {Phase::ageing, Edit::modify},
                            {Phase::ageing, Edit::add}};
 
-constexpr ItemKind kKinds[] = {
-    {kObjectKind<soft_table_t>, "ageing", 22, kSteps, open_items<Ageing, soft_table_t>}};
+constexpr ItemKind kKinds[] = {{kObjectKind<soft_table_t>,
+                                "ageing",
+                                22,
+                                kSteps,
+                                {"age enable", {}, "age disable"},
+                                open_items<Ageing, soft_table_t>}};
 
 }  // namespace
 

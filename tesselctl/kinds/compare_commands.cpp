@@ -8,7 +8,7 @@
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/device/device_copy.hpp"
 #include "tesselctl/device/read_back.hpp"
-#include "tesselctl/state/changes.hpp"
+#include "tesselctl/state/script.hpp"
 #include "tesselctl/state/verify.hpp"
 
 namespace tesselctl {
@@ -39,13 +39,21 @@ void print_changes(Context &context, const std::vector<Change> &changes) {
 void diff(Context &context, const Invocation &invocation) {
   const Word first = need_argument(invocation, 0, "the name of an image");
   refuse_arguments_from(invocation, 2);
+  if (context.settings.script && context.results.asks_for_names()) {
+    throw Fault(invocation.command,
+                "a script is whole, so --script goes without --filter and --sort");
+  }
   expect_changes(context.results);
   const DeviceState before = state_of(context, first);
   DeviceState after = invocation.arguments.size() > 1 ? state_of(context, invocation.arguments[1])
                                                       : DeviceState::of_device(context.device);
   after.number_like(before);
   const std::vector<Change> changes = changes_between(before, after);
-  print_changes(context, changes);
+  if (context.settings.script) {
+    print_script(before, after, changes, context.results);
+  } else {
+    print_changes(context, changes);
+  }
   context.differs = !changes.empty();
 }
 
@@ -89,8 +97,11 @@ void verify_image(Context &context, const Invocation &invocation) {
   refuse_arguments_from(invocation, 2);
   const bool live =
       invocation.arguments.size() == 1 && Numbering::of_device(context.device).is_identity();
+  const auto is_profile = [](const ObjectKind &kind, const char *) {
+    return &kind == &kObjectKind<soft_profile_t>;
+  };
   DeviceState before = state_of(context, first);
-  const DeviceState after = live ? DeviceState::of_device(context.device, "profile")
+  const DeviceState after = live ? DeviceState::of_device(context.device, is_profile)
                             : invocation.arguments.size() > 1
                                 ? state_of(context, invocation.arguments[1])
                                 : DeviceState::of_device(context.device);
@@ -114,7 +125,7 @@ void verify_image(Context &context, const Invocation &invocation) {
 
 constexpr Command kCommands[] = {
     {"diff", "FILE [FILE]", "compares an image with another one, or with the device", diff,
-     Kind::asks, "--count --filter --sort"},
+     Kind::asks, "--count --filter --sort --script"},
     {"apply", "FILE", "makes the device what an image says, by the smallest change", apply,
      Kind::changes, "--atomic --count"},
     {"verify", "FILE [FILE]",

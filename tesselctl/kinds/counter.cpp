@@ -191,11 +191,11 @@ void list(Context &context, const Invocation &invocation) {
 }
 
 void write(Context &context, const Invocation &invocation) {
-  const CounterLine line(context, invocation, {"index", "packets", "bytes"});
+  const CounterLine line(context, invocation, {"index", "packets", "bytes", "pipe"});
   const Values values = {line.options.number("packets", ~uint64_t{0}),
                          line.options.number("bytes", ~uint64_t{0})};
-  write_cell(context.device, line.object, line.cell(kLastCell), context.device.target(), values,
-             line.word);
+  const auto target = context.device.target_of(pipe_of(context, line.options, BF_ALL_PIPES));
+  write_cell(context.device, line.object, line.cell(kLastCell), target, values, line.word);
   line.done("written");
 }
 
@@ -207,13 +207,17 @@ constexpr Command kCommands[] = {
      "prints the packets and bytes of a counter cell", read},
     {"counter list", "[COUNTER] [source=hardware|software]",
      "prints counted entries, cells that have counted, and what they count", list, Kind::lists},
-    {"counter write", "COUNTER index=N|entry=HANDLE packets=N bytes=N",
+    {"counter write", "COUNTER index=N|entry=HANDLE packets=N bytes=N [pipe=N]",
      "sets the packets and bytes of a counter cell", write, Kind::changes},
     {"counter sync", "COUNTER", "brings the software copy of a counter up to date",
      synchronise<soft_counter_t>, Kind::changes},
 };
 
-constexpr ItemKind kKinds[] = {{kObjectKind<soft_counter_t>, "cell", 30, kCellSteps,
+constexpr ItemKind kKinds[] = {{kObjectKind<soft_counter_t>,
+                                "cell",
+                                30,
+                                kCellSteps,
+                                {"counter write"},
                                 open_items<CounterCells, soft_counter_t>}};
 
 }  // namespace

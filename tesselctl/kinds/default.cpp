@@ -67,8 +67,12 @@ class DefaultEntry : public TableItems {
 constexpr Step kSteps[] = {
     {Phase::entries, Edit::modify}, {Phase::entries, Edit::add}, {Phase::entries, Edit::remove}};
 
-constexpr ItemKind kKinds[] = {
-    {kObjectKind<soft_table_t>, "default", 20, kSteps, open_items<DefaultEntry, soft_table_t>}};
+constexpr ItemKind kKinds[] = {{kObjectKind<soft_table_t>,
+                                "default",
+                                20,
+                                kSteps,
+                                {"default set", {}, "default reset"},
+                                open_items<DefaultEntry, soft_table_t>}};
 
 // ---- Commands ----
 

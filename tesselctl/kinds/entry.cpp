@@ -296,8 +296,12 @@ constexpr Command kCommands[] = {
      Kind::lists, "--raw"},
 };
 
-constexpr ItemKind kKinds[] = {
-    {kObjectKind<soft_table_t>, "entry", 21, kSteps, open_items<Entries, soft_table_t>}};
+constexpr ItemKind kKinds[] = {{kObjectKind<soft_table_t>,
+                                "entry",
+                                21,
+                                kSteps,
+                                {"add", "replace", "delete"},
+                                open_items<Entries, soft_table_t>}};
 
 }  // namespace
 

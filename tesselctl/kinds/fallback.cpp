@@ -63,8 +63,12 @@ constexpr Step kSteps[] = {{Phase::fallback, Edit::add},
                            {Phase::fallback, Edit::modify},
                            {Phase::fallback_leaves, Edit::remove}};
 
-constexpr ItemKind kKinds[] = {
-    {kObjectKind<soft_profile_t>, "fallback", 12, kSteps, open_items<Fallback, soft_profile_t>}};
+constexpr ItemKind kKinds[] = {{kObjectKind<soft_profile_t>,
+                                "fallback",
+                                12,
+                                kSteps,
+                                {"fallback set", {}, "fallback reset"},
+                                open_items<Fallback, soft_profile_t>}};
 
 }  // namespace
 

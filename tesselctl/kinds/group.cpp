@@ -8,6 +8,7 @@
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/kinds/profile_items.hpp"
 #include "tesselctl/state/line_words.hpp"
+#include "tesselctl/state/script.hpp"
 
 namespace tesselctl {
 
@@ -53,6 +54,41 @@ void parse_members(Word members, const Word *inactive, GroupValue &group, List l
       throw Fault(*inactive, fmt::format("member {} is no active member of the group", number));
     }
     found->is_active = 0;
+  }
+}
+
+// What is done to a member of a group: by which function and by which command.
+struct MemberStep {
+  const char *family;
+  std::string_view command;
+  uint64_t state = 0;
+};
+constexpr MemberStep kLeave = {"del_member_from_group", "group leave"};
+constexpr MemberStep kJoin = {"add_member_to_group", "group join"};
+constexpr MemberStep kEnable = {"group_member_state_set", "group enable",
+                                P4_PD_GRP_MBR_STATE_ACTIVE};
+constexpr MemberStep kDisable = {"group_member_state_set", "group disable",
+                                 P4_PD_GRP_MBR_STATE_INACTIVE};
+
+using States = std::map<uint32_t, bool>;  // members, and whether they are active
+
+States states_of(const GroupValue &group) {
+  States states;
+  for (const Membership &member : group.members) states[member.member] = member.is_active != 0;
+  return states;
+}
+
+// Visits what makes a group that has the ones have the others.
+template <class Visit>
+void for_each_step(const States &has, const States &wanted, Visit visit) {
+  for (const auto &[member, active] : has) {
+    if (!wanted.contains(member)) visit(kLeave, member);
+  }
+  for (const auto &[member, active] : wanted) {
+    const auto found = has.find(member);
+    if (found == has.end()) visit(kJoin, member);
+    if (active == (found == has.end() || found->second)) continue;
+    visit(active ? kEnable : kDisable, member);
   }
 }
 
@@ -124,6 +160,22 @@ class Groups : public ObjectItems {
     change_members(to, handle, group, word);
   }
 
+  void print_commands(Script &script, const ItemEdit &edit) const override {
+    const auto number = read_bytes<uint32_t>(edit.item.identity);
+    const GroupValue group(edit.item.value);
+    if (edit.edit == Edit::add) {
+      script.begin(edit).number("size", group.size);
+      script.name(Numbered::groups, edit, profile(), number).end();
+    } else if (edit.edit == Edit::remove) {
+      return script.begin(edit).reference(Numbered::groups, profile(), number).end();
+    }
+    const auto had = edit.before ? states_of(GroupValue(edit.before->value)) : States();
+    for_each_step(had, states_of(group), [&](const MemberStep &step, uint32_t member) {
+      script.begin(edit, step.command).reference(Numbered::groups, profile(), number);
+      script.reference(Numbered::members, profile(), member).end();
+    });
+  }
+
   uint32_t profile() const override { return profile_.action_data_table; }
   void renumber(std::span<char> identity, std::span<char> value,
                 const Renumbering &numbers) const override {
@@ -152,27 +204,18 @@ class Groups : public ObjectItems {
 
   void change_members(Target &to, uint32_t handle, const GroupValue &group, Word word) const {
     const NumberMap &members = to.numbering.of(profile_.action_data_table).members;
-    std::map<uint32_t, bool> wanted;
-    for (const Membership &member : group.members) {
-      wanted[need_handle(members, "member", member.member, word)] = member.is_active != 0;
+    States wanted;
+    for (const auto &[number, active] : states_of(group)) {
+      wanted[need_handle(members, "member", number, word)] = active;
     }
-    std::map<uint32_t, bool> has;
+    States has;
     for_each_group_member(to.device, profile_.name, handle, word,
                           [&](uint32_t member, bool active) { has[member] = active; });
-    const auto call = [&](const char *family, uint32_t member) {
-      Call prepared = to.device.prepare(family, profile_.name);
-      return prepared.set("group", uint64_t{handle}).set("member", uint64_t{member});
-    };
-    for (const auto &[member, active] : has) {
-      if (!wanted.contains(member)) check(call("del_member_from_group", member).run(), word);
-    }
-    for (const auto &[member, active] : wanted) {
-      const auto found = has.find(member);
-      if (found == has.end()) check(call("add_member_to_group", member).run(), word);
-      if (active == (found == has.end() || found->second)) continue;
-      const uint64_t state = active ? P4_PD_GRP_MBR_STATE_ACTIVE : P4_PD_GRP_MBR_STATE_INACTIVE;
-      check(call("group_member_state_set", member).set("state", state).run(), word);
-    }
+    for_each_step(has, wanted, [&](const MemberStep &step, uint32_t member) {
+      Call call = to.device.prepare(step.family, profile_.name);
+      call.set("group", uint64_t{handle}).set("member", uint64_t{member});
+      check(call.set_if_taken("state", step.state).run(), word);
+    });
   }
 
   const soft_profile_t &profile_;
@@ -181,8 +224,13 @@ class Groups : public ObjectItems {
 constexpr Step kSteps[] = {
     {Phase::groups, Edit::add}, {Phase::groups, Edit::modify}, {Phase::groups_leave, Edit::remove}};
 
-constexpr ItemKind kKinds[] = {{kObjectKind<soft_profile_t>, "group", 11, kSteps,
-                                open_items<Groups, soft_profile_t>, Numbered::groups}};
+constexpr ItemKind kKinds[] = {{kObjectKind<soft_profile_t>,
+                                "group",
+                                11,
+                                kSteps,
+                                {"group add", {}, "group delete"},
+                                open_items<Groups, soft_profile_t>,
+                                Numbered::groups}};
 
 // ---- Commands ----
 

@@ -143,8 +143,12 @@ constexpr Command kCommands[] = {
      "computes the hash of values, in the order of the fields", compute},
 };
 
-constexpr ItemKind kKinds[] = {
-    {kObjectKind<soft_hash_t>, "seed", 60, kCellSteps, open_items<HashSeed, soft_hash_t>}};
+constexpr ItemKind kKinds[] = {{kObjectKind<soft_hash_t>,
+                                "seed",
+                                60,
+                                kCellSteps,
+                                {"hash set"},
+                                open_items<HashSeed, soft_hash_t>}};
 
 }  // namespace
 

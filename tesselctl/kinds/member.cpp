@@ -8,6 +8,7 @@
 #include "tesselctl/kinds/profile_items.hpp"
 #include "tesselctl/program/record.hpp"
 #include "tesselctl/state/line_words.hpp"
+#include "tesselctl/state/script.hpp"
 
 namespace tesselctl {
 
@@ -136,6 +137,19 @@ class Members : public ObjectItems {
     check(call.set("member", member).run(), word);
   }
 
+  void print_commands(Script &script, const ItemEdit &edit) const override {
+    const auto number = read_bytes<uint32_t>(edit.item.identity);
+    script.begin(edit);
+    if (edit.edit == Edit::add) {
+      script.name(Numbered::members, edit, profile(), number);
+    } else {
+      script.reference(Numbered::members, profile(), number);
+    }
+    Row row;
+    if (edit.edit != Edit::remove) add_action(row, edit.item.value);
+    script.words(row).end();
+  }
+
   uint32_t profile() const override { return profile_.action_data_table; }
   void renumber(std::span<char> identity, std::span<char>,
                 const Renumbering &numbers) const override {
@@ -173,8 +187,13 @@ constexpr Step kSteps[] = {{Phase::members, Edit::add},
                            {Phase::members, Edit::modify},
                            {Phase::members_leave, Edit::remove}};
 
-constexpr ItemKind kKinds[] = {{kObjectKind<soft_profile_t>, "member", 10, kSteps,
-                                open_items<Members, soft_profile_t>, Numbered::members}};
+constexpr ItemKind kKinds[] = {{kObjectKind<soft_profile_t>,
+                                "member",
+                                10,
+                                kSteps,
+                                {"member add", "member modify", "member delete"},
+                                open_items<Members, soft_profile_t>,
+                                Numbered::members}};
 
 // ---- Commands ----
 

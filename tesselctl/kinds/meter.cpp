@@ -109,8 +109,12 @@ constexpr Command kCommands[] = {
     {"meter get", "METER index=N|entry=HANDLE", "prints the rates and bursts of a meter cell", get},
 };
 
-constexpr ItemKind kKinds[] = {
-    {kObjectKind<soft_meter_t>, "cell", 40, kCellSteps, open_items<MeterCells, soft_meter_t>}};
+constexpr ItemKind kKinds[] = {{kObjectKind<soft_meter_t>,
+                                "cell",
+                                40,
+                                kCellSteps,
+                                {"meter set"},
+                                open_items<MeterCells, soft_meter_t>}};
 
 }  // namespace
 

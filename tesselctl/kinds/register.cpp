@@ -3,6 +3,8 @@
 #include "soft_state.h"
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/kinds/synchronise.hpp"
+#include "tesselctl/program/value.hpp"
+#include "tesselctl/state/script.hpp"
 #include "tesselctl/text/number.hpp"
 
 namespace tesselctl {
@@ -11,6 +13,10 @@ namespace {
 
 using RegisterLine = ObjectLine<soft_register_t>;
 using Numbers = NumberItems::Numbers;
+
+// Kinds of items.
+constexpr std::string_view kAll = "all";
+constexpr std::string_view kCell = "cell";
 
 constexpr uint32_t kRangeLimit = 4096;
 constexpr uint32_t kLastCell = SOFT_REGISTER_CELLS - 1;
@@ -57,6 +63,17 @@ void write_value(const Device &device, const p4_pd_device_target_t &target,
   check(call.set("target", &target).set("value", &value).run(), word);
 }
 
+// One value a pipe.
+void write_values(const Device &device, const soft_register_t &reg, const uint64_t *index,
+                  std::span<const uint64_t> values, Word word) {
+  if (values.size() != device.pipes()) {
+    throw Fault(word, fmt::format("there should be {} values, one a pipe", device.pipes()));
+  }
+  for (uint32_t pipe = 0; pipe < values.size(); ++pipe) {
+    write_value(device, device.target_of(pipe), reg, index, values[pipe], word);
+  }
+}
+
 // ---- Items ----
 
 // "all 1,1,1,1" and "cell 8 0,0,0,0": one value a pipe.
@@ -73,15 +90,6 @@ class RegisterItems : public NumberItems {
   Numbers read_values(const Device &device, uint64_t index) const {
     return read_cell(device, reg_, index, P4_PD_READ_FROM_HARDWARE, {});
   }
-  void write_values(const Device &device, const uint64_t *index, std::span<const uint64_t> values,
-                    Word word) const {
-    if (values.size() != device.pipes()) {
-      throw Fault(word, fmt::format("there should be {} values, one a pipe", device.pipes()));
-    }
-    for (uint32_t pipe = 0; pipe < values.size(); ++pipe) {
-      write_value(device, device.target_of(pipe), reg_, index, values[pipe], word);
-    }
-  }
 
   const soft_register_t &reg_;
 };
@@ -90,8 +98,10 @@ class RegisterItems : public NumberItems {
 class CommonValues : public RegisterItems {
  public:
   explicit CommonValues(const soft_register_t &reg)
-      : RegisterItems(reg,
-                      {.columns = {values(reg)}, .identity = 0, .nameless = 1, .what = "all"}) {}
+      : RegisterItems(reg, {.columns = {values(reg)}, .identity = 0, .nameless = 1, .what = kAll}) {
+  }
+
+  void print_commands(Script &script, const ItemEdit &edit) const override;
 
  protected:
   void read_numbers(Source &from, const NumbersVisitor &visit) const override {
@@ -105,8 +115,8 @@ class CommonValues : public RegisterItems {
       others.emplace_back(index, read_values(to.device, index));
     });
     const Numbers zeros(to.device.pipes());
-    write_values(to.device, nullptr, edit == Edit::remove ? zeros : values, word);
-    for (const auto &[index, kept] : others) write_values(to.device, &index, kept, word);
+    write_values(to.device, reg_, nullptr, edit == Edit::remove ? zeros : values, word);
+    for (const auto &[index, kept] : others) write_values(to.device, reg_, &index, kept, word);
   }
 };
 
@@ -116,6 +126,18 @@ class RegisterCells : public RegisterItems {
   explicit RegisterCells(const soft_register_t &reg)
       : RegisterItems(
             reg, {.columns = {{.name = "index"}, values(reg)}, .identity = 1, .nameless = 2}) {}
+
+  void print_commands(Script &script, const ItemEdit &edit) const override {
+    if (script.differ(edit, kAll)) return;  // its command has the cells behind it
+    if (edit.edit != Edit::remove) return NumberItems::print_commands(script, edit);
+    const auto all = script.after(edit, kAll);
+    const std::string zeros(edit.item.value.size(), '\0');
+    const std::string_view value = all.empty() ? zeros : all.front().view().value;
+    NumberItems::print_commands(script, {.kind = edit.kind,
+                                         .object = edit.object,
+                                         .edit = Edit::modify,
+                                         .item = {edit.item.identity, value}});
+  }
 
  protected:
   void read_numbers(Source &from, const NumbersVisitor &visit) const override {
@@ -127,10 +149,20 @@ class RegisterCells : public RegisterItems {
   }
   void write_numbers(Target &to, Edit edit, const Numbers &cell, Word word) const override {
     const Numbers all = edit == Edit::remove ? common(to.device) : Numbers();
-    write_values(to.device, cell.data(), edit == Edit::remove ? all : std::span(cell).subspan(1),
-                 word);
+    write_values(to.device, reg_, cell.data(),
+                 edit == Edit::remove ? all : std::span(cell).subspan(1), word);
   }
 };
+
+// The command writes all cells, so those that have another value follow.
+void CommonValues::print_commands(Script &script, const ItemEdit &edit) const {
+  NumberItems::print_commands(script, edit);
+  const RegisterCells cells(reg_);
+  for (const ItemStore::Item &cell : script.after(edit, kCell)) {
+    cells.NumberItems::print_commands(
+        script, {.kind = edit.kind, .object = edit.object, .edit = Edit::add, .item = cell.view()});
+  }
+}
 
 // ---- Commands ----
 
@@ -170,11 +202,18 @@ void read_range(Context &context, const Invocation &invocation) {
 }
 
 void write(Context &context, const Invocation &invocation) {
-  const RegisterLine line(context, invocation, {"index", "value"});
-  const uint64_t value = line.options.number("value", low_ones(line.object.width).low);
-  const uint64_t index = line.options.number_or("index", kLastCell, 0);
-  write_value(context.device, context.device.target(), line.object,
-              line.options.has("index") ? &index : nullptr, value, line.word);
+  const RegisterLine line(context, invocation, {"index", "value", "values"});
+  const Device &device = context.device;
+  const uint64_t limit = low_ones(line.object.width).low;
+  const uint64_t cell = line.options.number_or("index", kLastCell, 0);
+  const uint64_t *const index = line.options.has("index") ? &cell : nullptr;
+  if (const Word *values = line.options.find("values")) {
+    if (line.options.has("value")) throw Fault(*values, "give value= or values=, not both");
+    write_values(device, line.object, index, number_list(*values, limit), *values);
+  } else {
+    write_value(device, device.target(), line.object, index, line.options.number("value", limit),
+                line.word);
+  }
   line.done("written");
 }
 
@@ -199,17 +238,25 @@ constexpr Command kCommands[] = {
      "prints a register cell, one value a pipe", read},
     {"register range", "REGISTER first=N count=N [source=hardware|software]",
      "prints several cells", read_range, Kind::lists},
-    {"register write", "REGISTER [index=N] value=N", "writes a register cell, or all of them",
-     write, Kind::changes},
+    {"register write", "REGISTER [index=N] value=N|values=N,N",
+     "writes a register cell, or all of them; values are one a pipe", write, Kind::changes},
     {"register reset", "REGISTER [first=N count=N]", "clears a register, or cells of it", reset,
      Kind::changes},
     {"register sync", "REGISTER", "brings the software copy of a register up to date",
      synchronise<soft_register_t>, Kind::changes},
 };
 
-constexpr ItemKind kKinds[] = {{kObjectKind<soft_register_t>, "all", 50, kCellSteps,
+constexpr ItemKind kKinds[] = {{kObjectKind<soft_register_t>,
+                                kAll,
+                                50,
+                                kCellSteps,
+                                {"register write"},
                                 open_items<CommonValues, soft_register_t>},
-                               {kObjectKind<soft_register_t>, "cell", 51, kCellSteps,
+                               {kObjectKind<soft_register_t>,
+                                kCell,
+                                51,
+                                kCellSteps,
+                                {"register write"},
                                 open_items<RegisterCells, soft_register_t>}};
 
 }  // namespace

@@ -42,7 +42,9 @@ class Capacity : public NumberItems {
  public:
   static bool exist(const soft_table_t &table) { return table.field_count != 0; }
   explicit Capacity(const soft_table_t &table)
-      : NumberItems({.columns = {{"capacity"}}, .identity = 0, .nameless = 1}),
+      : NumberItems({.columns = {{.name = "capacity", .otherwise = table.size}},
+                     .identity = 0,
+                     .nameless = 1}),
         table_(resolve_table({table.name, 0})) {}
 
  protected:
@@ -105,8 +107,12 @@ constexpr Step kSteps[] = {{Phase::entries_leave, Edit::remove},
                            {Phase::entries_leave, Edit::modify},
                            {Phase::entries_leave, Edit::add}};
 
-constexpr ItemKind kKinds[] = {
-    {kObjectKind<soft_table_t>, "capacity", 19, kSteps, open_items<Capacity, soft_table_t>}};
+constexpr ItemKind kKinds[] = {{kObjectKind<soft_table_t>,
+                                "capacity",
+                                19,
+                                kSteps,
+                                {"table set"},
+                                open_items<Capacity, soft_table_t>}};
 
 }  // namespace
 

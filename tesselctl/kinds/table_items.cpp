@@ -3,7 +3,9 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <utility>
 
+#include "tesselctl/state/script.hpp"
 #include "tesselctl/text/number.hpp"
 
 namespace tesselctl {
@@ -74,6 +76,28 @@ void TableItems::print(std::string &text, const ItemView &item) const {
   if ((head.counter.packets | head.counter.bytes) == 0) return;
   append_number(text, " packets=", head.counter.packets);
   append_number(text, " bytes=", head.counter.bytes);
+}
+
+// Counters have a command of their own.
+void TableItems::print_commands(Script &script, const ItemEdit &edit) const {
+  EntryHead head = head_of(edit.item.value);
+  Row row;
+  if (edit.edit == Edit::remove || head.outcome == EntryHead::kNothing) {
+    add_key(row, table_, edit.item);
+    return script.begin(edit, edit.kind.verbs.removes).words(row).end();
+  }
+  script.begin(edit);
+  const auto counter = std::exchange(head.counter, {});
+  const auto before = edit.before ? head_of(edit.before->value).counter : EntryHead().counter;
+  const bool counts = counter.packets != before.packets || counter.bytes != before.bytes;
+  if (counts) script.word("as", "counted");
+  std::string value(edit.item.value);
+  store_head(value, head);
+  add_entry(row, table_, {edit.item.identity, value}, Naming::numbers);
+  script.words(row, profile()).end();
+  if (!counts) return;
+  script.begin("counter write", counter_->name).word("entry", "$counted");
+  script.number("packets", counter.packets).number("bytes", counter.bytes).end();
 }
 
 void TableItems::renumber(std::span<char>, std::span<char> value,

@@ -40,6 +40,7 @@ class TableItems : public ObjectItems {
     add_entry(row, table_, item, naming);
   }
   void add_samples_to(Row &row, Naming) const override { add_entry_samples(row, table_); }
+  void print_commands(Script &script, const ItemEdit &edit) const override;
   uint32_t profile() const override { return table_.description->action_data_table; }
   void renumber(std::span<char> identity, std::span<char> value,
                 const Renumbering &numbers) const override;

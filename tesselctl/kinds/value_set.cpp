@@ -48,6 +48,15 @@ uint32_t add_value(const Device &device, const soft_value_set_t &set,
   return entry;
 }
 
+uint32_t find_value(const Device &device, const soft_value_set_t &set,
+                    const p4_pd_parser_target_t &target, uint64_t value, uint64_t mask, Word word) {
+  p4_pd_entry_handle_t entry = 0;
+  Call call = device.prepare("pvs_entry_handle_get", set.name);
+  call.set("target", &target).set("value", value).set("mask", mask).set("entry", &entry);
+  check(call.run(), word);
+  return entry;
+}
+
 void delete_value(const Device &device, const soft_value_set_t &set, uint64_t entry, Word word) {
   check(device.prepare("pvs_entry_delete", set.name).set("entry", entry).run(), word);
 }
@@ -94,11 +103,8 @@ class SetValues : public NumberItems {
       add_value(to.device, set_, target, value[0], value[1], word);
       return;
     }
-    p4_pd_entry_handle_t entry = 0;
-    Call call = to.device.prepare("pvs_entry_handle_get", set_.name);
-    call.set("target", &target).set("value", value[0]).set("mask", value[1]);
-    check(call.set("entry", &entry).run(), word);
-    delete_value(to.device, set_, entry, word);
+    delete_value(to.device, set_, find_value(to.device, set_, target, value[0], value[1], word),
+                 word);
   }
 
  private:
@@ -139,8 +145,17 @@ void modify(Context &context, const Invocation &invocation) {
 }
 
 void remove(Context &context, const Invocation &invocation) {
-  const SetLine line(context, invocation, {"entry"});
-  delete_value(context.device, line.object, line.options.handle(context, "entry"), line.word);
+  const SetLine line(context, invocation,
+                     {"entry", "value", "mask", "direction", "pipe", "parser"});
+  if (line.options.has("entry") && line.options.has("value")) {
+    throw Fault(line.options.need("value"), "give entry= or value=, not both");
+  }
+  const uint32_t entry =
+      line.options.has("entry")
+          ? line.options.handle(context, "entry")
+          : find_value(context.device, line.object, parsers_of(line),
+                       line.options.number("value", 0xffffffffu), mask_of(line), line.word);
+  delete_value(context.device, line.object, entry, line.word);
   line.done("deleted");
 }
 
@@ -176,12 +191,18 @@ constexpr Command kCommands[] = {
      "adds a value to parsers, without pipe= and parser= to all of them", add, Kind::changes},
     {"valueset modify", "SET entry=HANDLE value=N [mask=N]", "changes a value", modify,
      Kind::changes},
-    {"valueset delete", "SET entry=HANDLE", "deletes a value", remove, Kind::changes},
+    {"valueset delete",
+     "SET entry=HANDLE|value=N [mask=N] [direction=ingress|egress] [pipe=N] [parser=N]",
+     "deletes a value of just those parsers", remove, Kind::changes},
     {"valueset show", "SET [direction=ingress|egress] [pipe=N] [parser=N]", "prints values", show,
      Kind::lists},
 };
 
-constexpr ItemKind kKinds[] = {{kObjectKind<soft_value_set_t>, "value", 70, kCellSteps,
+constexpr ItemKind kKinds[] = {{kObjectKind<soft_value_set_t>,
+                                "value",
+                                70,
+                                kCellSteps,
+                                {"valueset add", {}, "valueset delete"},
                                 open_items<SetValues, soft_value_set_t>}};
 
 }  // namespace

@@ -122,11 +122,15 @@ constexpr Command kCommands[] = {
      Kind::lists},
 };
 
-constexpr ObjectKind kWredObjects = {"wred", "WRED table",
-                                     [](size_t at) { return at == 0 ? "profiles" : nullptr; }};
+constexpr ObjectKind kWredObjects = {
+    "wred", "WRED table", [](size_t at) { return at == 0 ? "profiles" : nullptr; }, false};
 
 constexpr ItemKind kKinds[] = {
-    {kWredObjects, "cell", 80, kCellSteps,
+    {kWredObjects,
+     "cell",
+     80,
+     kCellSteps,
+     {"wred set"},
      [](const char *) -> std::unique_ptr<ObjectItems> { return std::make_unique<WredCells>(); }}};
 
 }  // namespace

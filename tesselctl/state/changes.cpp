@@ -88,24 +88,25 @@ std::vector<Change> changes_between(const DeviceState &before, const DeviceState
   return changes;
 }
 
-void apply_changes(const Device &device, const std::vector<Change> &changes) {
-  struct Work {
-    Step step;
-    const Change *change;
-  };
-  std::vector<Work> work;
+std::vector<ChangeStep> steps_of(const std::vector<Change> &changes) {
+  std::vector<ChangeStep> steps;
+  steps.reserve(changes.size());
   for (const Change &change : changes) {
     for (const Step &step : change.part->kind->steps) {
-      if (step.difference == change.edit()) work.push_back({step, &change});
+      if (step.difference == change.edit()) steps.push_back({step, &change});
     }
   }
-  std::ranges::stable_sort(work, {}, [](const Work &one) { return one.step.phase; });
+  std::ranges::stable_sort(steps, {}, [](const ChangeStep &one) { return one.step.phase; });
+  return steps;
+}
+
+void apply_changes(const Device &device, const std::vector<Change> &changes) {
   Numbering numbering = Numbering::of_device(device);
   Target to = {device, numbering};
-  for (const auto &[step, change] : work) {
+  for (const auto &[step, change] : steps_of(changes)) {
     check_interrupt();
     const DeviceState::Part &part = *change->part;
-    const ItemStore::Item &item = *(change->after != nullptr ? change->after : change->before);
+    const ItemStore::Item &item = change->item();
     try {
       part.access->write(to, step.edit, item.view(), {part.kind->keyword, 1});
     } catch (const Fault &fault) {

@@ -17,11 +17,20 @@ struct Change {
     if (before == nullptr) return Edit::add;
     return after == nullptr ? Edit::remove : Edit::modify;
   }
+  const ItemStore::Item &item() const { return *(after != nullptr ? after : before); }
 };
 
 // The changes that lead from one state to the other, in the order of images. after must have been
 // numbered like before. Throws Fault for a state that has an item twice.
 std::vector<Change> changes_between(const DeviceState &before, const DeviceState &after);
+
+// What is done for a change in a phase.
+struct ChangeStep {
+  Step step;
+  const Change *change;
+};
+// In the order of phases. The changes outlive them.
+std::vector<ChangeStep> steps_of(const std::vector<Change> &changes);
 
 // Carries them out on a device that is as before, in the order of phases. Throws Fault at the first
 // change that the device refuses.

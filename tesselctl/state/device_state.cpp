@@ -73,12 +73,12 @@ DeviceState DeviceState::of_file(const std::string &path, std::string_view shown
   return state;
 }
 
-DeviceState DeviceState::of_device(const Device &device, std::string_view only) {
+DeviceState DeviceState::of_device(const Device &device, const Wanted &is_wanted) {
   DeviceState state;
   Numbering numbering = Numbering::of_device(device);
   Source from = {device, numbering};
   for_each_object([&](const Place &place, const ItemKind &kind, const char *name) {
-    if (!only.empty() && kind.object.keyword != only) return;
+    if (is_wanted && !is_wanted(kind.object, name)) return;
     check_interrupt();
     Part part = {&kind, name, kind.open(name), {}};
     if (!part.access) return;

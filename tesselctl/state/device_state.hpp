@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -50,8 +51,9 @@ class DeviceState {
 
   // Both throw Fault; that of a file names file, line and column.
   static DeviceState of_file(const std::string &path, std::string_view shown);
-  // All of the device, or the objects of that keyword alone.
-  static DeviceState of_device(const Device &device, std::string_view only = {});
+  // All of the device, or the objects alone that are wanted.
+  using Wanted = std::function<bool(const ObjectKind &, const char *object)>;
+  static DeviceState of_device(const Device &device, const Wanted &is_wanted = {});
 
   const std::map<Place, Part> &parts() const { return parts_; }
   const Part *find(const Place &place) const;

@@ -6,6 +6,7 @@
 
 #include "tesselctl/program/value.hpp"
 #include "tesselctl/state/line_words.hpp"
+#include "tesselctl/state/script.hpp"
 #include "tesselctl/text/number.hpp"
 
 namespace tesselctl {
@@ -78,6 +79,16 @@ void for_each_column(const NumberItems::Layout &layout, const Numbers &numbers, 
   }
 }
 
+// Makes the numbers behind those of the identity what they are in a new device.
+void clear_values(const NumberItems::Layout &layout, Numbers &numbers) {
+  auto values = std::span(numbers).subspan(layout.identity);
+  for (const Column &column : std::span(layout.columns).subspan(layout.identity)) {
+    const size_t count = column.count == 0 ? values.size() : column.count;
+    std::ranges::fill(values.first(count), column.otherwise);
+    values = values.subspan(count);
+  }
+}
+
 }  // namespace
 
 void NumberItems::parse(ValueScanner &line, ItemBytes &item) {
@@ -121,6 +132,8 @@ void NumberItems::add_numbers(Row &row, const Numbers &all) const {
   for_each_column(layout_, all, [&](const Column &column, auto numbers) {
     if (column.notation == Notation::real) {
       row.real(column.name, real_of(numbers.front()));
+    } else if (column.notation == Notation::hexadecimal && column.limit > 0xffffffffu) {
+      row.hexadecimal(column.name, numbers.front());
     } else if (column.notation == Notation::hexadecimal) {
       row.hexadecimal(column.name, static_cast<uint32_t>(numbers.front()));
     } else if (column.count == 1 && column.limit <= 0xffffffffu) {
@@ -138,6 +151,20 @@ void NumberItems::add_samples_to(Row &row, Naming) const {
   for (const Column &column : layout_.columns) count += column.count;
   // Numbers that stand for words are 0 and 1.
   for (const uint64_t number : {0u, 1u}) add_numbers(row, Numbers(count, number));
+}
+
+void NumberItems::print_commands(Script &script, const ItemEdit &edit) const {
+  Numbers numbers = unpacked(edit.item);
+  const bool removes = edit.edit == Edit::remove;
+  if (removes) clear_values(layout_, numbers);
+  script.begin(edit);
+  // What is one of its kind goes by its object alone.
+  if (!removes || edit.kind.verbs.removes.empty() || layout_.identity != 0) {
+    Row row;
+    add_numbers(row, numbers);
+    script.words(row, profile());
+  }
+  script.end();
 }
 
 void NumberItems::read(Source &from, const ItemVisitor &visit) {

@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <span>
 
 #include "tesselctl/device/read_back.hpp"
@@ -50,6 +51,18 @@ struct Renumbering {
 
 using ItemVisitor = std::function<void(const ItemView &)>;
 
+class Script;
+struct ItemKind;
+
+// What becomes of an item of an object, as commands have it.
+struct ItemEdit {
+  const ItemKind &kind;
+  const char *object;
+  Edit edit;
+  std::optional<ItemView> before = {};  // nothing of a new one
+  ItemView item;                        // as it is to be, or as it was
+};
+
 // The items of one kind in one object: the entries of a table.
 class ObjectItems {
  public:
@@ -67,6 +80,8 @@ class ObjectItems {
   virtual void read(Source &from, const ItemVisitor &visit) = 0;
   // Throws Fault at the word when the device refuses.
   virtual void write(Target &to, Edit edit, const ItemView &item, Word word) = 0;
+  // Prints the commands that do the same.
+  virtual void print_commands(Script &script, const ItemEdit &edit) const = 0;
 
   // The action-data table of the profile whose members or groups the items are or name, or 0.
   virtual uint32_t profile() const { return 0; }
@@ -105,6 +120,20 @@ struct ObjectKind {
   std::string_view keyword;     // of the line that opens one in images: "valueset"
   std::string_view noun;        // "value set"
   const char *(*name)(size_t);  // one after the other; null behind the last
+  bool in_commands = true;      // whether commands name the object
+};
+
+// The commands that edit items. One that adds them modifies them too, unless another one does, and
+// so it removes them, by the values that they have in a new device.
+struct Verbs {
+  std::string_view adds;
+  std::string_view modifies = {};
+  std::string_view removes = {};
+
+  std::string_view of(Edit edit) const {
+    const std::string_view other = edit == Edit::remove ? removes : modifies;
+    return edit == Edit::add || other.empty() ? adds : other;
+  }
 };
 
 struct ItemKind {
@@ -112,6 +141,7 @@ struct ItemKind {
   std::string_view keyword;  // of its lines: "entry"
   uint32_t order;            // in images; kinds of the same objects follow one another
   std::span<const Step> steps;
+  Verbs verbs;
   // Null when the object has no such items at all.
   std::unique_ptr<ObjectItems> (*open)(const char *object);
   Numbered numbered = Numbered::no;  // if so, the identity of an item is its number
@@ -159,7 +189,7 @@ class NumberItems : public ObjectItems {
     std::string_view name;
     uint64_t least = 0;
     uint64_t limit = 0xffffffffu;
-    uint64_t otherwise = 0;  // where a line of an image does not have it
+    uint64_t otherwise = 0;  // in a new device, and where a line of an image does not have it
     size_t count = 1;        // 0 for all that follow
     Notation notation = Notation::decimal;
   };
@@ -185,6 +215,7 @@ class NumberItems : public ObjectItems {
   void write(Target &to, Edit edit, const ItemView &item, Word word) final {
     write_numbers(to, edit, unpacked(item), word);
   }
+  void print_commands(Script &script, const ItemEdit &edit) const override;
 
  protected:
   explicit NumberItems(Layout layout) : layout_(std::move(layout)) {}

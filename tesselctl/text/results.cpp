@@ -129,6 +129,12 @@ void Results::row(const Row &row, const std::string &text) {
   out_->line("{}", text);
 }
 
+void Results::command(std::string_view line) {
+  if (settings_.json || settings_.count) return row(Row().text("command", line));
+  out_->write(line);
+  out_->write("\n");
+}
+
 void Results::done(const Row &row, std::string_view what) {
   Row with_what = row;
   with_what.object("done", what);

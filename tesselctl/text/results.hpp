@@ -27,6 +27,7 @@ struct Settings {
   bool dry_run = false;
   bool count = false;
   bool raw = false;
+  bool script = false;
   bool atomic = false;
   bool replace = false;
   bool keep_going = false;  // of a script: behind a line with a fault
@@ -54,6 +55,8 @@ class Results {
   void row(const Row &row);
   // Rows for people to read as they stand: the text is what it says in words, the row in JSON.
   void row(const Row &row, const std::string &text);
+  // A line of a script. In JSON a row with a "command".
+  void command(std::string_view line);
   // Of a change: printed with --verbose, --json and --dry-run.
   void done(const Row &row, std::string_view what);
   // A text that is no row. In JSON a row with a "text".

@@ -146,8 +146,7 @@ Row &Row::list(std::string_view name, const std::vector<uint64_t> &values) {
   return add({Item::Kind::list, {}, std::string(name), text, {}, {matches_numbers}});
 }
 
-Row &Row::hexadecimal(std::string_view name, uint32_t value) {
-  const ValueKind of = {matches_number, &kMost<uint32_t>};
+Row &Row::hexadecimal(std::string_view name, uint64_t value, ValueKind of) {
   return add({Item::Kind::text, {}, std::string(name), tesselctl::hexadecimal(value), {}, of});
 }
 

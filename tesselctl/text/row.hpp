@@ -82,7 +82,10 @@ class Row {
     return add({Item::Kind::number, {}, std::string(name), std::to_string(value), unit, of});
   }
   // A string in JSON.
-  Row &hexadecimal(std::string_view name, uint32_t value);
+  template <std::unsigned_integral T>
+  Row &hexadecimal(std::string_view name, T value) {
+    return hexadecimal(name, value, {matches_number, &kMost<T>});
+  }
   Row &real(std::string_view name, float value);
   Row &list(std::string_view name, const std::vector<uint64_t> &values);
   // A value with a notation of its own; a number in JSON where it is written as one.
@@ -103,6 +106,7 @@ class Row {
   std::string json() const;
 
  private:
+  Row &hexadecimal(std::string_view name, uint64_t value, ValueKind of);
   Row &add(Item item) {
     items_.push_back(std::move(item));
     return *this;
