@@ -7,8 +7,10 @@
 #include "soft_traffic.h"
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/kinds/profile_items.hpp"
+#include "tesselctl/kinds/table_items.hpp"
 #include "tesselctl/state/line_words.hpp"
 #include "tesselctl/state/script.hpp"
+#include "tesselctl/text/number.hpp"
 
 namespace tesselctl {
 
@@ -164,7 +166,8 @@ class Groups : public ObjectItems {
     const auto number = read_bytes<uint32_t>(edit.item.identity);
     const GroupValue group(edit.item.value);
     if (edit.edit == Edit::add) {
-      script.begin(edit).number("size", group.size);
+      script.begin(edit).word("size",
+                              group.size == 0 ? std::string(kUnlimited) : decimal(group.size));
       script.name(Numbered::groups, edit, profile(), number).end();
     } else if (edit.edit == Edit::remove) {
       return script.begin(edit).reference(Numbered::groups, profile(), number).end();
@@ -237,9 +240,14 @@ constexpr ItemKind kKinds[] = {{kObjectKind<soft_profile_t>,
 // Of a group: as many as a device has cells of counters and registers.
 constexpr uint64_t kMostMembers = SOFT_COUNTER_CELLS;
 
+uint32_t size_of(const ProfileLine &line) {
+  if (line.options.need("size").text == kUnlimited) return 0;
+  return static_cast<uint32_t>(line.options.number("size", kMostMembers, 1));
+}
+
 void add(Context &context, const Invocation &invocation) {
   const ProfileLine line(context, invocation, {"size", "as"});
-  const uint64_t size = line.options.number("size", kMostMembers, 1);
+  const uint64_t size = size_of(line);
   p4_pd_group_handle_t group = 0;
   line.run(line.call("create_group").set("max_size", size).set("group", &group));
   line.remember(group);
@@ -260,11 +268,11 @@ std::vector<uint32_t> member_list(const ProfileLine &line, Word word) {
 
 GroupValue wanted_group(const ProfileLine &line) {
   GroupValue group;
-  group.size = static_cast<uint32_t>(line.options.number("size", kMostMembers, 1));
+  group.size = size_of(line);
   const Word members = line.options.need("members");
   parse_members(members, line.options.find("inactive"), group,
                 [&](Word word) { return member_list(line, word); });
-  if (group.members.size() <= group.size) return group;
+  if (group.size == 0 || group.members.size() <= group.size) return group;
   throw Fault(members, fmt::format("the group is for at most {} members", group.size));
 }
 
@@ -331,9 +339,10 @@ void show(Context &context, const Invocation &invocation) {
 }
 
 constexpr Command kCommands[] = {
-    {"group add", "PROFILE size=N [as=NAME]", "adds a group for at most N members", add,
+    {"group add", "PROFILE size=N|unlimited [as=NAME]", "adds a group for at most N members", add,
      Kind::changes},
-    {"group replace", "PROFILE [group=HANDLE] size=N members=HANDLES [inactive=HANDLES] [as=NAME]",
+    {"group replace",
+     "PROFILE [group=HANDLE] size=N|unlimited members=HANDLES [inactive=HANDLES] [as=NAME]",
      "gives this group those members, keeps one that has them, or adds one", replace,
      Kind::changes},
     {"group delete", "PROFILE group=HANDLE", "deletes a group", remove, Kind::changes},
