@@ -135,8 +135,6 @@ TEST(MemberSelector, RestoresWhatIsValidOfADocument) {
       R"({"handle":5,"resources":[[8,0],[9,4294967295]],"members":[]}]})";
   const Case cases[] = {
       {kState, kState},
-      {R"({"members":[],"groups":17})", kEmpty},
-      {R"({"members":{"handle":7},"groups":[]})", kEmpty},
       {R"({"members":[7,"7",null,true,[],[[7]],{},{"Handle":7},{"handle":"7"}],"groups":[]})",
        kEmpty},
       {R"({"members":[{"handle":-1},{"handle":4294967296},{"handle":1.5},{"handle":1e300}]})",
