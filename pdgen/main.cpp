@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <map>
-#include <ranges>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -73,9 +72,11 @@ std::string parse(const std::vector<std::string> &arguments, Options &options) {
     value.erase(0, name.size());
     const auto option = known.find(name);
     if (option == known.end()) {
-      return fmt::format("{} is no option{}", name,
-                         name.starts_with("-") ? pdgen::did_you_mean(name, known | std::views::keys)
-                                               : "; did you mean --catalogue " + name + "?");
+      return fmt::format(
+          "{} is no option{}", name,
+          name.starts_with("-")
+              ? pdgen::did_you_mean(name, pdgen::projected(known, &Options::value_type::first))
+              : "; did you mean --catalogue " + name + "?");
     }
     const bool takes_value = !option->second.empty();
     if (!value.empty() && !takes_value) return name + " takes no value";

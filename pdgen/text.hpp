@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -28,6 +29,15 @@ std::string in_capitals(std::string_view text);
 
 // A string literal of C with that contents.
 std::string c_literal(std::string_view text);
+
+// What a projection gives of each; std::views need later compilers than those that build this.
+template <class Range, class Projection>
+auto projected(const Range &range, Projection projection) {
+  using Value = decltype(std::invoke(projection, *range.begin()));
+  std::vector<std::decay_t<Value>> values;
+  for (const auto &element : range) values.push_back(std::invoke(projection, element));
+  return values;
+}
 
 // A text and the path of its file.
 struct TextFile {

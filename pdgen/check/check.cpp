@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <bit>
 #include <optional>
-#include <ranges>
 
 #include "pdgen/check/check.hpp"
 #include "pdgen/load/load_row.hpp"
+#include "pdgen/text.hpp"
 
 namespace pdgen {
 
@@ -143,9 +143,9 @@ std::string index_fault(const ResourceRow &row, const Pair &pair) {
   const Param *param = find_row(params, row.index);
   if (param == nullptr) {
     return fmt::format("action {} has no parameter {}{}", pair.action.name, row.index,
-                       did_you_mean(row.index, params | std::views::transform(&Param::name)));
+                       did_you_mean(row.index, projected(params, &Param::name)));
   }
-  const auto named = param->index_of | std::views::transform(&Ref<Resource>::name);
+  const auto named = projected(param->index_of, &Ref<Resource>::name);
   if (std::ranges::find(named, row.resource.name) != named.end()) return "";
   return fmt::format("parameter {} of action {} does not list it in index_of", row.index,
                      pair.action.name);
@@ -158,7 +158,8 @@ std::string twice_fault(const Table &table, const ResourceRow &row, const Pair &
     if (other->resource.target != row.resource.target || !applies_to(*other, pair) || both == 0) {
       continue;
     }
-    return fmt::format("{} of action {}", kNamesOf<Operation>[std::countr_zero(both)],
+    return fmt::format("{} of action {}",
+                       kNamesOf<Operation>[static_cast<std::size_t>(std::countr_zero(both))],
                        pair.action.name);
   }
   return "";
@@ -244,9 +245,8 @@ void note_lost_index(const Table &table, const Pair &pair, LostIndex lost,
 }
 
 void report_lost_index(const Table &table, const LostIndex &lost, Diagnostics &diagnostics) {
-  const auto actions = lost.pairs | std::views::transform([](const Pair *pair) {
-                         return std::string_view(pair->action->name);
-                       });
+  const auto actions =
+      projected(lost.pairs, [](const Pair *pair) { return std::string_view(pair->action->name); });
   const std::string index = fmt::format("index = \"{}\"", lost.param->name);
   diagnostics.report(
       lost.unindexed == nullptr ? lost.pairs.front()->place : lost.unindexed->place,

@@ -2,10 +2,10 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <ranges>
 
 #include "pdgen/families/members.hpp"
 #include "pdgen/names.hpp"
+#include "pdgen/text.hpp"
 #include "pdgen/texts/texts.hpp"
 
 namespace pdgen {
@@ -153,7 +153,7 @@ Text field_remark(S s) {
 Text param_remark(S s) {
   const Param &param = s.get<Param>();
   std::string remark = bit_count(param.width);
-  const auto cells = param.index_of | std::views::transform(&Ref<Resource>::name);
+  const auto cells = projected(param.index_of, &Ref<Resource>::name);
   if (param.is_index()) remark += fmt::format(", cell of {}", fmt::join(cells, " and "));
   if (param.hint == Hint::kMac) remark += ", half of a MAC address";
   if (param.hint == Hint::kV4Addr) remark += ", IPv4 address";

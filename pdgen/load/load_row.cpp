@@ -1,7 +1,6 @@
 #include "pdgen/load/load_row.hpp"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 #include "pdgen/text.hpp"
@@ -296,10 +295,9 @@ bool is_of_one(const Reference &reference) {
 // The row that was probably meant, rather one that nothing names.
 std::optional<Candidate> meant(const Reference &reference, const std::set<const void *> &named) {
   std::vector<Candidate> rows = reference.candidates();
-  std::ranges::stable_partition(
-      rows, [&](const Candidate &candidate) { return !named.contains(candidate.row); });
-  const std::string near =
-      common::nearest(reference.name, rows | std::views::transform(&Candidate::name));
+  std::stable_partition(rows.begin(), rows.end(),
+                        [&](const Candidate &candidate) { return !named.contains(candidate.row); });
+  const std::string near = common::nearest(reference.name, projected(rows, &Candidate::name));
   const auto row = std::ranges::find(rows, near, &Candidate::name);
   return near.empty() ? std::nullopt : std::optional(*row);
 }
