@@ -68,8 +68,10 @@ TEST_F(Snapshots, CaptureTheFirstPacketThatTheTriggerMatches) {
 
   OK(trigger(snapshot, 0x78));
   EXPECT_EQ(read(snapshot, 3).status, BF_NOT_READY) << "a new trigger drops the capture";
-  EXPECT_EQ(packet(4, {0x78, 4, 4, 4}), 1u);
-  EXPECT_EQ(read(snapshot, 3).fields, (Bytes{0, 0, 0, 0, 0, 0, 0, 0, 0x78, 4, 4, 4}));
+  EXPECT_EQ(packet(3, {0x78, 3, 3, 3, 0x10, 4, 4, 4}), 1u);
+  const Read anew = read(snapshot, 3);
+  EXPECT_EQ(anew.fields, (Bytes{0, 0, 0, 0, 0x78, 3, 3, 3, 0x10, 4, 4, 4}));
+  EXPECT_TRUE(anew.control[1].triggered && !anew.control[2].triggered);
 }
 
 TEST_F(Snapshots, OfAllPipesHoldACaptureOfEach) {
