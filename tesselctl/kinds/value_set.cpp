@@ -39,19 +39,12 @@ MaskedValue read_value(const Device &device, const soft_value_set_t &set, uint32
   return found;
 }
 
-uint32_t add_value(const Device &device, const soft_value_set_t &set,
-                   const p4_pd_parser_target_t &target, uint64_t value, uint64_t mask, Word word) {
+// family is pvs_entry_add or pvs_entry_handle_get.
+uint32_t entry_of_value(const Device &device, std::string_view family, const soft_value_set_t &set,
+                        const p4_pd_parser_target_t &target, uint64_t value, uint64_t mask,
+                        Word word) {
   p4_pd_entry_handle_t entry = 0;
-  Call call = device.prepare("pvs_entry_add", set.name);
-  call.set("target", &target).set("value", value).set("mask", mask).set("entry", &entry);
-  check(call.run(), word);
-  return entry;
-}
-
-uint32_t find_value(const Device &device, const soft_value_set_t &set,
-                    const p4_pd_parser_target_t &target, uint64_t value, uint64_t mask, Word word) {
-  p4_pd_entry_handle_t entry = 0;
-  Call call = device.prepare("pvs_entry_handle_get", set.name);
+  Call call = device.prepare(family, set.name);
   call.set("target", &target).set("value", value).set("mask", mask).set("entry", &entry);
   check(call.run(), word);
   return entry;
@@ -100,11 +93,13 @@ class SetValues : public NumberItems {
   void write_numbers(Target &to, Edit edit, const Numbers &value, Word word) const override {
     const p4_pd_parser_target_t target = parsers_of(to.device, value[2], value[3], value[4]);
     if (edit != Edit::remove) {
-      add_value(to.device, set_, target, value[0], value[1], word);
+      entry_of_value(to.device, "pvs_entry_add", set_, target, value[0], value[1], word);
       return;
     }
-    delete_value(to.device, set_, find_value(to.device, set_, target, value[0], value[1], word),
-                 word);
+    delete_value(
+        to.device, set_,
+        entry_of_value(to.device, "pvs_entry_handle_get", set_, target, value[0], value[1], word),
+        word);
   }
 
  private:
@@ -129,8 +124,8 @@ void add(Context &context, const Invocation &invocation) {
   const SetLine line(context, invocation, {"value", "mask", "direction", "pipe", "parser", "as"});
   const p4_pd_parser_target_t target = parsers_of(line);
   const uint32_t entry =
-      add_value(context.device, line.object, target, line.options.number("value", 0xffffffffu),
-                mask_of(line), line.word);
+      entry_of_value(context.device, "pvs_entry_add", line.object, target,
+                     line.options.number("value", 0xffffffffu), mask_of(line), line.word);
   line.remember(entry);
   line.done(line.row().number("entry", entry), "added");
 }
@@ -153,8 +148,8 @@ void remove(Context &context, const Invocation &invocation) {
   const uint32_t entry =
       line.options.has("entry")
           ? line.options.handle(context, "entry")
-          : find_value(context.device, line.object, parsers_of(line),
-                       line.options.number("value", 0xffffffffu), mask_of(line), line.word);
+          : entry_of_value(context.device, "pvs_entry_handle_get", line.object, parsers_of(line),
+                           line.options.number("value", 0xffffffffu), mask_of(line), line.word);
   delete_value(context.device, line.object, entry, line.word);
   line.done("deleted");
 }
