@@ -15,7 +15,7 @@ struct ObjectWord {
   void (*choose)(Subject &subject, std::string_view name) = nullptr;
 };
 
-// What a file of tesselctl/kinds adds to the tool. Topics of one title follow one another.
+// What a file of tesselctl/kinds or tesselctl/topics adds to the tool. Topics of one title follow one another.
 struct Topic {
   std::string_view title;
   std::span<const Command> commands;

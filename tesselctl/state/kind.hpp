@@ -1,6 +1,6 @@
 // Kinds of items that a device holds: how those of one object are read from a device and written to
-// one, and how they stand in images and answers. One file of tesselctl/kinds is one kind; kinds.cpp
-// has the list.
+// one, and how they stand in images and answers. One file of tesselctl/kinds is one kind;
+// topics.cpp has the list.
 #pragma once
 
 #include <bit>

@@ -1,4 +1,4 @@
-// The list of topics: a row for each file of this room that has commands or kinds of items. Help,
+// The list of topics: a row for each file of this room and of kinds/ that has commands. Help,
 // the manual page and completion have the commands in this order.
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/state/kind.hpp"

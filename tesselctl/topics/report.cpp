@@ -1,10 +1,10 @@
 // The command that writes a report.
+#include "tesselctl/report/report.hpp"
 #include "tesselctl/command/command.hpp"
 #include "tesselctl/command/options.hpp"
 #include "tesselctl/command/output_file.hpp"
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/device/device_copy.hpp"
-#include "tesselctl/report/report.hpp"
 #include "tesselctl/state/changes.hpp"
 #include "tesselctl/state/image.hpp"
 
