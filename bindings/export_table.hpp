@@ -71,6 +71,10 @@ struct Field {
   const Member *parts[2];  // values; the second is null but for a pair
   // The counters and meters whose cell the value of a parameter names.
   std::span<const char *const> cells;
+  // The key field that the value of a parameter is written into, if any, and the tables that are to
+  // have an entry for each such value.
+  std::string_view joined_field;
+  std::span<const char *const> joined_tables;
 
   bool is_pair() const { return parts[1] != nullptr; }
   size_t part_count() const { return is_pair() ? 2 : 1; }

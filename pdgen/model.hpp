@@ -362,11 +362,21 @@ struct FieldHint {
   unsigned width = 0;  // 0: no width
 };
 
+// What actions write into a field of later keys, as a next hop that tables look up.
+struct Join {
+  Place place;
+  Ref<KeyField> field;  // of any table that has one of this name
+  std::vector<std::string> params;
+  std::vector<Ref<Action>> actions;  // that write it; empty: all with such a parameter
+  std::vector<Ref<Table>> tables;    // that are to have an entry for each value
+};
+
 struct FieldFacts {
   std::vector<std::string> instance_prefixes;
   std::vector<FieldHint> hints;  // the first that fits decides
   // Fields and parameters that hold IPv4 addresses without a hint of their schema.
   std::vector<std::string> v4_addresses;
+  std::vector<Join> joins;
 };
 
 // --- Routes ---------------------------------------------------------------------------------
@@ -406,6 +416,8 @@ struct ToolField {
   Bits key_bits;
   std::vector<std::size_t> parts;  // members: one, or the upper and the lower half of an address
   std::vector<std::string> cells;  // counters and meters whose cell the value names
+  std::string joined_field;        // of later keys, that a parameter is written into
+  std::vector<std::string> joined_tables;
 };
 
 struct ToolRecord {

@@ -1,4 +1,4 @@
-// Rules between rows: of labels, hints and routes, and of the counters, meters and registers that
+// Rules between rows: of labels, joins and routes, and of the counters, meters and registers that
 // entries hand over with their actions.
 #include <fmt/format.h>
 
@@ -35,6 +35,38 @@ void check_routes(const Program &program, Diagnostics &diagnostics) {
                        "{} must be a longest-prefix table with the action {}", table.name,
                        action.name);
   }
+}
+
+void check_joined_tables(const Join &join, Diagnostics &diagnostics) {
+  for (const Ref<Table> &table : join.tables) {
+    if (find_row(table->key, join.field.name) != nullptr) continue;
+    diagnostics.report(table.place, "joins.tables", "table {} has no key field {}", table.name,
+                       join.field.name);
+  }
+}
+
+void check_joined_action(const Join &join, const Ref<Action> &action, Diagnostics &diagnostics) {
+  const auto is_joined = [&](const Param &param) { return writes(join, *action, param); };
+  if (std::ranges::any_of(action->params, is_joined)) return;
+  diagnostics.report(action.place, "joins.actions", "action {} has no parameter {}", action.name,
+                     fmt::join(join.params, ", "));
+}
+
+// A parameter that goes into the field fits into it, and goes into no other one.
+void check_joined(const Program &program, const Join &join, const Action &action,
+                  const Param &param, Diagnostics &diagnostics) {
+  if (!writes(join, action, param)) return;
+  if (param.width > join.field->width) {
+    diagnostics.report(join.place, "joins.params",
+                       "parameter {} of action {} has {} bits, but field {} {}", param.name,
+                       action.name, param.width, join.field.name, join.field->width);
+  }
+  const auto first = std::ranges::find_if(
+      program.field_facts.joins, [&](const Join &other) { return writes(other, action, param); });
+  if (&*first == &join) return;
+  diagnostics.report(join.place, "joins.params",
+                     "parameter {} of action {} goes into field {} at {} already", param.name,
+                     action.name, first->field.name, place_text(first->place));
 }
 
 // Labels name what entries of a table count.
@@ -323,10 +355,28 @@ void check_labels(const Program &program, Diagnostics &diagnostics) {
 void check_program(const Program &program, Diagnostics &diagnostics) {
   check_resources(program, diagnostics);
   check_labels(program, diagnostics);
+  check_joins(program, diagnostics);
   check_values(program, diagnostics);
   check_limits(program, diagnostics);
   check_routes(program, diagnostics);
   check_names(program, diagnostics);
+}
+
+bool writes(const Join &join, const Action &action, const Param &param) {
+  return std::ranges::find(join.params, param.name) != join.params.end() &&
+         (join.actions.empty() ||
+          std::ranges::find(join.actions, &action, &Ref<Action>::target) != join.actions.end());
+}
+
+void check_joins(const Program &program, Diagnostics &diagnostics) {
+  for (const Join &join : program.field_facts.joins) {
+    check_joined_tables(join, diagnostics);
+    for (const Ref<Action> &action : join.actions) check_joined_action(join, action, diagnostics);
+    for (const Action &action : program.actions) {
+      for (const Param &param : action.params)
+        check_joined(program, join, action, param, diagnostics);
+    }
+  }
 }
 
 bool applies_to(const ResourceRow &row, const Pair &pair) {

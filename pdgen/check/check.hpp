@@ -16,12 +16,16 @@ void check_program(const Program &program, Diagnostics &diagnostics);
 
 // Parts of check_program.
 void check_resources(const Program &program, Diagnostics &diagnostics);
+void check_joins(const Program &program, Diagnostics &diagnostics);
 void check_labels(const Program &program, Diagnostics &diagnostics);
 void check_limits(const Program &program, Diagnostics &diagnostics);
 void check_names(const Program &program, Diagnostics &diagnostics);
 
 // Whether a resource row of a table goes with one of its pairs.
 bool applies_to(const ResourceRow &row, const Pair &pair);
+
+// Whether the join is that of a parameter of the action.
+bool writes(const Join &join, const Action &action, const Param &param);
 
 // A name and the row that it is made from.
 struct MadeName {

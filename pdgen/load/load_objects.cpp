@@ -124,11 +124,18 @@ RowReader::Candidates key_fields(const Program &program) {
   };
 }
 
+RowReader::Candidates parameters(const Program &program) {
+  return [&program] {
+    std::vector<Candidate> params;
+    for (const Action &action : program.actions) add_rows(params, action.params);
+    return params;
+  };
+}
+
 // What may hold an address though no schema says so.
 RowReader::Candidates bare_fields(const Program &program) {
   return [&program] {
-    std::vector<Candidate> fields;
-    for (const Action &action : program.actions) add_rows(fields, action.params);
+    std::vector<Candidate> fields = parameters(program)();
     for (const Digest &digest : program.digests) add_rows(fields, digest.fields);
     if (program.snapshots) {
       for (const SnapshotLayout &layout : program.snapshots->layouts)
@@ -154,6 +161,18 @@ void read_hint(RowReader &row, FieldHint &hint) {
                "{} needs two suffixes, of the upper and of the lower half of an address",
                row.what());
   }
+}
+
+// --- Joins ----------------------------------------------------------------------------------
+
+void read_join(RowReader &row, Join &join) {
+  const Program &program = row.program();
+  row.reference("field", join.field, "key field of any table", key_fields(program));
+  join.place = join.field.place;
+  row.names("params", join.params, "parameter of any action", parameters(program), Reference().fits,
+            kRequired);
+  row.references("actions", join.actions, "action", row.rows_of(program.actions), kOptional);
+  row.references("tables", join.tables, "table", row.rows_of(program.tables), kOptional);
 }
 
 // --- Labels ---------------------------------------------------------------------------------
@@ -284,6 +303,7 @@ void read_fields(RowReader &file) {
              "parameter of an action or field of a digest or snapshot",
              bare_fields(file.program()));
   file.rows("hints", "hint", "hint", facts.hints, read_hint, kOptional);
+  file.rows("joins", "join", "field", facts.joins, read_join, kOptional);
 }
 
 void read_labels(RowReader &file) {

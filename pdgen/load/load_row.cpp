@@ -260,8 +260,8 @@ std::vector<RowReader::Word> RowReader::words(std::string_view key, Need need) {
 }
 
 void RowReader::names(std::string_view key, std::vector<std::string> &names,
-                      std::string_view wanted, const Candidates &rows, Fits fits) {
-  const std::vector<Word> given = words(key, kOptional);
+                      std::string_view wanted, const Candidates &rows, Fits fits, Need need) {
+  const std::vector<Word> given = words(key, need);
   for (const auto &[word, place] : given) names.push_back(word);
   for (std::size_t i = 0; i < given.size(); ++i) {
     reading_.references.push_back(

@@ -190,7 +190,7 @@ class RowReader {
   }
   // Words that go with rows of other lists.
   void names(std::string_view key, std::vector<std::string> &names, std::string_view wanted,
-             const Candidates &rows, Fits fits = Reference().fits);
+             const Candidates &rows, Fits fits = Reference().fits, Need need = kOptional);
   // The rows of lists of the program.
   template <typename... Lists>
   static Candidates rows_of(const Lists &...lists) {

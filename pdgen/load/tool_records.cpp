@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "pdgen/check/check.hpp"
 #include "pdgen/load/load_sections.hpp"
 #include "pdgen/names.hpp"
 #include "pdgen/text.hpp"
@@ -58,6 +59,11 @@ class RecordBuilder {
     field.cells = std::move(cells);
     if (hint == Hint::kMac && member.width == kHalf) name_half(field);
     record_.members.push_back(member);
+  }
+  // The value before goes into a key.
+  void add_join(const Join &join) {
+    own_.back().joined_field = join.field.name;
+    own_.back().joined_tables = projected(join.tables, &Ref<Table>::name);
   }
   // The mask or prefix length of the value before.
   void add_companion(const ToolMember &member) {
@@ -117,7 +123,9 @@ class RecordBuilder {
             .width = 2 * kHalf,
             .key_bits = {0, upper.key_bits.lower << kHalf | lower.key_bits.lower},
             .parts = {upper.parts[0], lower.parts[0]},
-            .cells = {}};
+            .cells = {},
+            .joined_field = {},
+            .joined_tables = {}};
   }
 
   // Fields that share a name take all their words, until no two do.
@@ -228,6 +236,9 @@ ToolRecord tool_record(const Program &program, const Action &action) {
                  .storage = param.storage_bytes,
                  .width = param.width},
                 param.hint, param.name, low_bits(param.width), std::move(cells));
+    for (const Join &join : program.field_facts.joins) {
+      if (writes(join, action, param)) builder.add_join(join);
+    }
   }
   return builder.take(action.name, std::to_string(action.value),
                       action.has_params() ? "sizeof(" + type + ")" : "0", {});
