@@ -49,26 +49,25 @@ EntryReader::EntryReader(const Device &device, const TableInfo &table, Resources
     : device_(device),
       table_(table),
       key_(table.record->size),
-      entry_call_(prepare("get_entry", "get_indirect_entry")) {
-  entry_call_.set("read_from_hardware", uint64_t{0});
+      entry_call_(
+          prepare("get_entry", "get_indirect_entry").set("read_from_hardware", uint64_t{0})) {
   if (resources == Resources::none) return;
   if (table.ages()) {
-    ttl_call_ = device.prepare("get_ttl", table.name());
-    ttl_call_->set("ttl", &head_.ttl);
+    ttl_call_.emplace(device.prepare("get_ttl", table.name()).set("ttl", &head_.ttl));
   }
   if (const auto *meter = resource_of<soft_meter_t>(table)) {
-    meter_call_ = device.prepare("meter_read", meter->name);
-    meter_call_->set("meter_spec", &meter_);
+    meter_call_.emplace(device.prepare("meter_read", meter->name).set("meter_spec", &meter_));
   }
   const auto *counter = resource_of<soft_counter_t>(table);
   if (resources != Resources::all || counter == nullptr) return;
-  counter_call_ = device.prepare("counter_read", counter->name);
-  counter_call_->set("flags", uint64_t{P4_PD_READ_FROM_HARDWARE}).set("values", &head_.counter);
+  counter_call_.emplace(device.prepare("counter_read", counter->name)
+                            .set("flags", uint64_t{P4_PD_READ_FROM_HARDWARE})
+                            .set("values", &head_.counter));
 }
 
 uint64_t EntryReader::read(p4_pd_entry_handle_t entry, ItemBytes &item) {
   has_member_ = has_group_ = false;
-  const uint64_t status = entry_call_.set("entry", uint64_t{entry}).run();
+  const uint64_t status = entry_call_.run(entry);
   if (status != BF_SUCCESS) return status;
   head_ = {};
   read_resources(entry);
@@ -90,8 +89,8 @@ uint64_t EntryReader::decode(const pipe_mgr_placement_t *placement, ItemBytes &i
 
 // Default entries have no ttl, and may be without a meter and a counter.
 void EntryReader::read_resources(p4_pd_entry_handle_t entry) {
-  const auto read = [&](std::optional<Call> &call) {
-    return call && call->set("entry", uint64_t{entry}).run() == BF_SUCCESS;
+  const auto read = [&](std::optional<EntryCall> &call) {
+    return call && call->run(entry) == BF_SUCCESS;
   };
   if (!no_key_) head_.has_ttl = read(ttl_call_) ? 1 : 0;
   if (read(meter_call_)) {

@@ -42,6 +42,23 @@ const bindings::Record &action_of_number(uint32_t number);
 void append_action_bytes(std::string &bytes, const bindings::Record &action,
                          const uint8_t *parameters);
 
+// A call that is made for one entry after the other.
+class EntryCall {
+ public:
+  explicit EntryCall(const Call &call) : call_(call), entry_(&call_.word("entry")) {}
+  EntryCall(const EntryCall &) = delete;
+  EntryCall &operator=(const EntryCall &) = delete;
+
+  uint64_t run(p4_pd_entry_handle_t entry) {
+    *entry_ = entry;
+    return call_.run();
+  }
+
+ private:
+  Call call_;
+  uint64_t *entry_;
+};
+
 // Reads the entries and default entries of one table, whose members and groups go by their handles.
 class EntryReader {
  public:
@@ -81,8 +98,9 @@ class EntryReader {
   ActionSpecs specs_;
   EntryHead head_;
   p4_pd_bytes_meter_spec_t meter_ = {};
-  Call entry_call_;
-  std::optional<Call> placement_call_, ttl_call_, meter_call_, counter_call_;
+  EntryCall entry_call_;
+  std::optional<EntryCall> ttl_call_, meter_call_, counter_call_;
+  std::optional<Call> placement_call_;
 };
 
 // The action and parameters of members, as the value of their items.

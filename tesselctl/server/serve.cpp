@@ -1,5 +1,7 @@
 #include "tesselctl/server/serve.hpp"
 
+#include <malloc.h>
+
 #include "tesselctl/server/server.hpp"
 #include "tesselctl/text/interrupt.hpp"
 
@@ -20,9 +22,19 @@ struct ServedScope {
   ServedScope &operator=(const ServedScope &) = delete;
 };
 
+// Keeps the memory of one answer for the next one: states of a million entries would else be mapped
+// and cleared page by page each time.
+void keep_memory() {
+#ifdef __GLIBC__
+  mallopt(M_MMAP_THRESHOLD, 32 << 20);
+  mallopt(M_TRIM_THRESHOLD, 256 << 20);
+#endif
+}
+
 }  // namespace
 
 void serve(const ServeOptions &options, Output &out, Output &errors) {
+  keep_memory();
   // First of all the socket, so that a second server is refused by the first one's.
   ListeningSocket listening(options.socket);
   DeviceOfImage home(options.device, options.image, ImageUse::changes, errors);

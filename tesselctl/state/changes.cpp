@@ -20,56 +20,97 @@ std::string line_of(const DeviceState::Part &part, const ItemStore::Item &item) 
   return text;
 }
 
-// The changes of the items of one part, of which either may be null.
+// The changes of the items of one part, of which either may be null. States that are much alike
+// have most items in the same order: those are paired as they stand, and only what is left needs a
+// map.
 class PartComparison {
  public:
   PartComparison(const DeviceState::Part *before, const DeviceState::Part *after,
                  std::vector<Change> &changes)
       : part_(before != nullptr ? *before : *after), changes_(changes) {
     if (before != nullptr) before_ = before->items;
-    if (after != nullptr) after_ = after->items;
+    if (after != nullptr) after_ = all_after_ = after->items;
   }
 
   void run() {
-    skip_same_order();
-    std::unordered_map<std::string_view, const ItemStore::Item *> wanted;
-    wanted.reserve(after_.size());
-    for (const ItemStore::Item &item : after_) {
-      if (wanted.emplace(item.view().identity, &item).second) continue;
-      throw Fault(line_of(part_, item) + ": this is there twice");
-    }
-    for (const ItemStore::Item &item : before_) {
-      const auto found = wanted.find(item.view().identity);
-      const ItemStore::Item *const now = found == wanted.end() ? nullptr : found->second;
-      if (now == nullptr || now->view() != item.view()) add(&item, now);
-      if (now != nullptr) wanted.erase(found);
-    }
-    for (const ItemStore::Item &item : after_) {
-      const auto found = wanted.find(item.view().identity);
-      if (found != wanted.end() && found->second == &item) add(nullptr, &item);
+    const auto first = static_cast<ptrdiff_t>(changes_.size());
+    pair_same_order();
+    pair_others();
+    std::ranges::sort(changes_.begin() + first, changes_.end(), {}, &Change::before);
+    for (const Item *item : others_after_) {
+      if (unpaired_.contains(item->view().identity)) add(nullptr, item);
     }
   }
 
  private:
-  void add(const ItemStore::Item *before, const ItemStore::Item *after) {
-    changes_.push_back({&part_, before, after});
+  using Item = ItemStore::Item;
+  // How many items in a row one state may lack before the order counts as another one.
+  static constexpr size_t kAhead = 32;
+
+  static std::string_view identity(const Item &item) { return item.view().identity; }
+  void add(const Item *before, const Item *after) { changes_.push_back({&part_, before, after}); }
+  void pair(const Item &before, const Item &after) {
+    if (before.view().value != after.view().value) add(&before, &after);
   }
-  // States that are much alike have most items in the same order: at both ends no map is needed.
-  void skip_same_order() {
-    size_t same = 0;
-    const size_t most = std::min(before_.size(), after_.size());
-    while (same < most && before_[same].view() == after_[same].view()) ++same;
-    before_ = before_.subspan(same);
-    after_ = after_.subspan(same);
-    while (!before_.empty() && !after_.empty() && before_.back().view() == after_.back().view()) {
-      before_ = before_.first(before_.size() - 1);
-      after_ = after_.first(after_.size() - 1);
+  static size_t distance_to(const Item &wanted, Items items) {
+    items = items.first(std::min(items.size(), kAhead));
+    const auto found = std::ranges::find(items, identity(wanted), identity);
+    return found == items.end() ? kAhead : static_cast<size_t>(found - items.begin());
+  }
+  static void leave(Items &items, size_t count, std::vector<const Item *> &others) {
+    for (const Item &item : items.first(count)) others.push_back(&item);
+    items = items.subspan(count);
+  }
+
+  void pair_same_order() {
+    while (!before_.empty() && !after_.empty()) {
+      if (identity(before_.front()) == identity(after_.front())) {
+        pair(before_.front(), after_.front());
+        before_ = before_.subspan(1);
+        after_ = after_.subspan(1);
+        continue;
+      }
+      const size_t gone = distance_to(after_.front(), before_);
+      const size_t came = distance_to(before_.front(), after_);
+      const bool found = gone != kAhead || came != kAhead;
+      if (!found || gone <= came) leave(before_, found ? gone : 1, others_before_);
+      if (!found || came < gone) leave(after_, found ? came : 1, others_after_);
     }
+    leave(before_, before_.size(), others_before_);
+    leave(after_, after_.size(), others_after_);
+  }
+
+  void pair_others() {
+    unpaired_.reserve(others_after_.size());
+    for (const Item *item : others_after_) {
+      if (!unpaired_.emplace(identity(*item), item).second) refuse_twice(*item);
+    }
+    for (const Item *item : others_before_) {
+      const auto found = unpaired_.find(identity(*item));
+      if (found == unpaired_.end()) {
+        add(item, nullptr);
+      } else {
+        pair(*item, *found->second);
+        unpaired_.erase(found);
+      }
+    }
+    if (others_after_.size() == all_after_.size() || unpaired_.empty()) return;
+    for (const Item &item : all_after_) {
+      const auto found = unpaired_.find(identity(item));
+      if (found != unpaired_.end() && found->second != &item) refuse_twice(item);
+    }
+  }
+  [[noreturn]] void refuse_twice(const Item &item) const {
+    throw Fault(line_of(part_, item) + ": this is there twice");
   }
 
   const DeviceState::Part &part_;
   Items before_;
   Items after_;
+  Items all_after_;
+  std::vector<const Item *> others_before_;
+  std::vector<const Item *> others_after_;
+  std::unordered_map<std::string_view, const Item *> unpaired_;
   std::vector<Change> &changes_;
 };
 

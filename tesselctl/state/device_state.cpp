@@ -12,7 +12,7 @@ ItemStore::Item ItemStore::add(const ItemView &item) {
   const size_t size = rounded(item.identity.size()) + rounded(item.value.size());
   if (size > left_) {
     left_ = std::max(size, kChunk);
-    next_ = chunks_.emplace_back(std::make_unique<char[]>(left_)).get();
+    next_ = chunks_.emplace_back(std::make_unique_for_overwrite<char[]>(left_)).get();
   }
   const Item added = {next_, static_cast<uint32_t>(item.identity.size()),
                       static_cast<uint32_t>(item.value.size())};
