@@ -92,6 +92,8 @@ constexpr Flag kFlags[] = {
      "NAME=PATTERN"},
     {"--sort", FlagOf::listings, set_sort, "sorts the rows by a value", "NAME"},
     {"--raw", FlagOf::named, turn_on<&Settings::raw>, "shows values as numbers"},
+    {"--openmetrics", FlagOf::named, turn_on<&Settings::openmetrics>,
+     "prints OpenMetrics, for monitoring systems"},
     {"--script", FlagOf::named, turn_on<&Settings::script>, "prints commands instead"},
     {"--atomic", FlagOf::named, turn_on<&Settings::atomic>, "changes all or nothing"},
     {"--from", FlagOf::named, set_from, "goes on at that line of the script", "LINE"},

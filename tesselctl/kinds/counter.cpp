@@ -7,6 +7,7 @@
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/device/entry_texts.hpp"
 #include "tesselctl/kinds/synchronise.hpp"
+#include "tesselctl/metrics/device_metrics.hpp"
 
 namespace tesselctl {
 
@@ -178,16 +179,29 @@ void list_cells(Context &context, const soft_counter_t &counter, Word word, uint
   });
 }
 
+// Of the counter, or of all.
+void list_counters(Context &context, std::span<const soft_counter_t> counters, Word word,
+                   uint64_t flags) {
+  if (!context.settings.openmetrics) {
+    for (const soft_counter_t &counter : counters) list_cells(context, counter, word, flags);
+    return;
+  }
+  if (context.results.asks_for_names() || context.settings.count) {
+    throw Fault(word, "--openmetrics goes without --filter, --sort and --count");
+  }
+  MetricsText metrics = metrics_of(context.device, MetricsFormat::open_metrics);
+  add_counters(metrics, context.device, counters, flags, ~size_t{0});
+  context.results.text(metrics.take());
+}
+
 void list(Context &context, const Invocation &invocation) {
   const Words words = invocation.arguments;
   if (!words.empty() && words[0].text.find('=') == std::string_view::npos) {
     const CounterLine line(context, invocation, {"source"});
-    return list_cells(context, line.object, line.word, read_flags(line.options));
+    return list_counters(context, {&line.object, 1}, line.word, read_flags(line.options));
   }
-  const uint64_t flags = read_flags({invocation, 0, {"source"}});
-  for (const soft_counter_t &counter : program_rows<soft_counter_t>()) {
-    list_cells(context, counter, invocation.command, flags);
-  }
+  list_counters(context, program_rows<soft_counter_t>(), invocation.command,
+                read_flags({invocation, 0, {"source"}}));
 }
 
 void write(Context &context, const Invocation &invocation) {
@@ -206,7 +220,8 @@ constexpr Command kCommands[] = {
     {"counter read", "COUNTER index=N|entry=HANDLE [source=hardware|software]",
      "prints the packets and bytes of a counter cell", read},
     {"counter list", "[COUNTER] [source=hardware|software]",
-     "prints counted entries, cells that have counted, and what they count", list, Kind::lists},
+     "prints counted entries, cells that have counted, and what they count", list, Kind::lists,
+     "--openmetrics"},
     {"counter write", "COUNTER index=N|entry=HANDLE packets=N bytes=N [pipe=N]",
      "sets the packets and bytes of a counter cell", write, Kind::changes},
     {"counter sync", "COUNTER", "brings the software copy of a counter up to date",

@@ -8,6 +8,7 @@
 
 #include "p4_pd_types.h"
 #include "soft_contents.h"
+#include "tesselctl/device/cells.hpp"
 #include "tesselctl/device/entry_texts.hpp"
 #include "tesselctl/device/read_back.hpp"
 #include "tesselctl/kinds/profile_items.hpp"
@@ -224,16 +225,6 @@ class Collector {
 
   // ---- Cells ----
 
-  // Visits the cells of a counter or meter: the entries of its table with the default entry, or
-  // those cells that the device keeps something in.
-  template <class Resource>
-  void visit_cells(const Resource &resource, const std::function<void(uint32_t)> &visit) {
-    if (resource.table == 0) return for_each_cell(device_, resource.handle, visit);
-    EntryReader reader(device_, table_of_handle(resource.table), EntryReader::Resources::none);
-    if (reader.table().keyed()) for_each_entry(device_, reader.table(), {}, visit);
-    if (const auto entry = reader.default_entry()) visit(*entry);
-  }
-
   // What the library calls a counted entry, else its key.
   std::string label_of(uint32_t table_handle, uint32_t cell) {
     if (table_handle == 0) return fmt::format("cell {}", cell);
@@ -261,18 +252,12 @@ class Collector {
     report.name = counter.name;
     if (counter.table != 0) report.table = table_of_handle(counter.table).name();
     std::vector<Counted> cells;
-    p4_pd_counter_values_t values = {};
-    Call call = device_.prepare("counter_read", counter.name);
-    call.set("flags", uint64_t{P4_PD_READ_FROM_HARDWARE}).set("values", &values);
-    visit_cells(counter, [&](uint32_t cell) {
-      call.set(counter.table != 0 ? "entry" : "index", uint64_t{cell});
-      // Default entries may be without a cell.
-      if (call.run() != BF_SUCCESS) return;
-      if ((values.packets | values.bytes) == 0) return;
+    const auto note = [&](uint32_t cell, const p4_pd_counter_values_t &values) {
       cells.push_back({cell, values});
       report.packets += values.packets;
       report.bytes += values.bytes;
-    });
+    };
+    for_each_counted(device_, counter, P4_PD_READ_FROM_HARDWARE, note);
     report.cells = cells.size();
     std::stable_sort(cells.begin(), cells.end(), [](const Counted &a, const Counted &b) {
       return a.values.packets != b.values.packets ? a.values.packets > b.values.packets
@@ -291,12 +276,7 @@ class Collector {
     report.name = meter.name;
     report.counts_packets = meter.unit == PIPE_RATE_PACKETS;
     if (meter.table != 0) report.table = table_of_handle(meter.table).name();
-    p4_pd_bytes_meter_spec_t spec = {};
-    Call call = device_.prepare("meter_read", meter.name);
-    call.set("meter_spec", &spec);
-    visit_cells(meter, [&](uint32_t cell) {
-      call.set(meter.table != 0 ? "entry" : "index", uint64_t{cell});
-      if (call.run() != BF_SUCCESS) return;
+    for_each_set(device_, meter, [&](uint32_t cell, const p4_pd_bytes_meter_spec_t &spec) {
       ++report.cells;
       if (report.first.size() >= limit_) return;
       const std::string label =

@@ -27,6 +27,7 @@ struct Settings {
   bool dry_run = false;
   bool count = false;
   bool raw = false;
+  bool openmetrics = false;
   bool script = false;
   bool atomic = false;
   bool replace = false;
