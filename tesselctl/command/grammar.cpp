@@ -156,6 +156,7 @@ std::span<const NotationHelp> notations() {
       {"10.0.0.0/8", "prefix and ternary fields: the leading bits"},
       {"0x1f90&0xfff0", "ternary fields: the bits of the mask take part"},
       {"*", "prefix and ternary fields: anything"},
+      {"1000..2000", "fields of entries: from one value to the other"},
   };
   return kNotations;
 }

@@ -40,7 +40,8 @@ std::string field_help(const Field &field, bool of_key) {
     case Match::lpm:
       return bits + ", prefix, " + prefix_help(field);
     case Match::ternary:
-      return bits + ", ternary, " + notation_help(field) + ", VALUE&MASK; may be left out";
+      return bits + ", ternary, " + notation_help(field) +
+             ", VALUE&MASK, LOW..HIGH; may be left out";
     default:
       return bits + ", exact, " + notation_help(field);
   }

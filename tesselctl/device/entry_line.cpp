@@ -1,5 +1,7 @@
 #include "tesselctl/device/entry_line.hpp"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 
 #include "tesselctl/device/handles.hpp"
@@ -45,7 +47,7 @@ void EntryLine::read_word(const Context &context, const Assignment &word) {
   if (action_ && has_field_named(action_->record(), word.name.text)) return action_->set(word);
   if (read_option(context, word)) return;
   if (action_) return action_->set(word);
-  key_.set(word);
+  key_.set_values(word);
 }
 
 bool EntryLine::read_option(const Context &context, const Assignment &word) {
@@ -97,6 +99,13 @@ bool EntryLine::need_key_or_entry() {
 void EntryLine::need_key() {
   refuse(entry_);
   need_key_or_entry();
+  if (!label_ || count() == 1) return;
+  throw Fault(*label_, fmt::format("the name would stand for one of {} entries", count()));
+}
+
+Fault EntryLine::with_chosen(const Fault &fault, size_t at, std::string_view more) const {
+  if (count() == 1) return fault;
+  return fault.with(fmt::format(" ({}, entry {} of {}{})", key_.chosen(), at + 1, count(), more));
 }
 
 void EntryLine::refuse_key() const {

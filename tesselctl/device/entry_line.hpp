@@ -3,6 +3,8 @@
 //   TABLE [FIELD=VALUE...] [entry=HANDLE] [priority=N] [ttl=MS] [meter=CIR,CBS,PIR,PBS]
 //         [action=NAME [PARAM=VALUE...]] [member=HANDLE] [group=HANDLE] [as=NAME]
 //
+// With a range for a VALUE the line is about several entries, of which one is chosen.
+//
 // Behind action=, a parameter goes before a word of that name that this grammar has; before it, a
 // word of the grammar goes before a field of that name as far as the table takes it.
 #pragma once
@@ -38,6 +40,12 @@ class EntryLine {
   const TableInfo &table() const { return table_; }
   Word table_word() const { return table_word_; }
   bool has_key() const { return key_.any_given(); }
+  // How many entries the key is of.
+  size_t count() const { return key_.count(); }
+  // Has the calls that were filled mean that one of them.
+  void choose(size_t at) { key_.choose(at); }
+  // The fault with what it says of the chosen one.
+  Fault with_chosen(const Fault &fault, size_t at, std::string_view more) const;
   const std::optional<Given> &entry() const { return entry_; }
   const std::optional<Given> &member() const { return member_; }
   const std::optional<Given> &group() const { return group_; }

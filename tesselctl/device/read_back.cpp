@@ -214,13 +214,17 @@ void expect_entries(Results &results, const TableInfo &table) {
   results.expect(row);
 }
 
+Row entry_row(const TableInfo &table, p4_pd_entry_handle_t entry, const ItemView &item) {
+  Row row;
+  row.object("table", table.name()).number("entry", entry);
+  add_entry(row, table, item, Naming::handles);
+  return row;
+}
+
 Row entry_row(EntryReader &reader, p4_pd_entry_handle_t entry, Word word) {
   ItemBytes item;
   check(reader.read(entry, item), word);
-  Row row;
-  row.object("table", reader.table().name()).number("entry", entry);
-  add_entry(row, reader.table(), item.view(), Naming::handles);
-  return row;
+  return entry_row(reader.table(), entry, item.view());
 }
 
 Row entry_row(const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry, Word word) {

@@ -136,8 +136,9 @@ void add_entry_samples(Row &row, const TableInfo &table);
 void add_member_samples(Row &row, const soft_profile_t &profile);
 void expect_entries(Results &results, const TableInfo &table);
 
-// All throw Fault at the word when the device cannot be read. With the name of the table and the
-// handle before it:
+// With the name of the table and the handle before it. All throw Fault at the word when the device
+// cannot be read.
+Row entry_row(const TableInfo &table, p4_pd_entry_handle_t entry, const ItemView &item);
 Row entry_row(EntryReader &reader, p4_pd_entry_handle_t entry, Word word);
 Row entry_row(const Device &device, const TableInfo &table, p4_pd_entry_handle_t entry, Word word);
 // With the word "default" in place of the handle.

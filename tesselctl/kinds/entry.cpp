@@ -2,8 +2,9 @@
 #include <fmt/format.h>
 
 #include "tesselctl/command/topic.hpp"
-#include "tesselctl/device/entry_line.hpp"
+#include "tesselctl/device/entry_adder.hpp"
 #include "tesselctl/device/entry_texts.hpp"
+#include "tesselctl/device/range_rows.hpp"
 #include "tesselctl/kinds/table_items.hpp"
 
 namespace tesselctl {
@@ -85,97 +86,68 @@ constexpr Step kSteps[] = {{Phase::entries_leave, Edit::remove},
 
 // ---- Commands ----
 
-// The function of the table for what the line says: one per action, or one for members and one for
-// groups.
-const bindings::Export &outcome_export(const EntryLine &line, std::string_view direct,
-                                       std::string_view member, std::string_view group) {
-  const char *table = line.table().name();
-  if (line.need_outcome()) {
-    const bindings::Export *found = find_export(direct, table, line.action());
-    if (found != nullptr) return *found;
-    throw Fault(line.table_word(),
-                fmt::format("{} may only be the default action of {}", line.action(), table));
-  }
-  return need_export(line.member() ? member : group, table);
-}
-
 Row table_row(const TableInfo &table) {
   Row row;
   row.object("table", table.name());
   return row;
 }
 
-Row count_row(const TableInfo &table, uint32_t entries) {
+template <class T>
+Row count_row(const TableInfo &table, T entries) {
   return table_row(table).number("entries", entries);
 }
 
+void add_entries(Context &context, const Invocation &invocation, bool replaces) {
+  EntryLine line(context, invocation);
+  line.need_key();
+  EntryAdder adder(context.device, line, replaces);
+  for (const AddedEntry &entry : adder.run()) {
+    line.remember(context, entry.handle);
+    context.results.done(table_row(line.table()).number("entry", entry.handle),
+                         entry.is_new ? "added" : "modified");
+  }
+}
+
 void add(Context &context, const Invocation &invocation) {
-  EntryLine line(context, invocation);
-  line.need_key();
-  Call call = context.device.prepare(
-      outcome_export(line, "table_add", "add_entry", "add_entry_with_selector"));
-  p4_pd_entry_handle_t entry = 0;
-  line.fill(call, true);
-  check_outcome(call.set("entry", &entry).run(), context.device, line, line.table_word());
-  line.remember(context, entry);
-  context.results.done(table_row(line.table()).number("entry", entry), "added");
+  add_entries(context, invocation, false);
 }
-
-// Gives an entry another ttl, where the table ages its entries. The former one.
-uint32_t exchange_ttl(const Device &device, const EntryLine &line, p4_pd_entry_handle_t entry,
-                      uint32_t ttl) {
-  if (!line.table().ages()) return 0;
-  const auto run = [&](const char *family, auto value) {
-    Call call = device.prepare(family, line.table().name());
-    check(call.set("entry", uint64_t{entry}).set("ttl", value).run(), line.table_word());
-  };
-  uint32_t before = 0;
-  run("get_ttl", static_cast<const void *>(&before));
-  run("set_ttl", uint64_t{ttl});
-  return before;
-}
-
-// Makes the entry one that add would have added.
-void make_as_added(Context &context, const EntryLine &line, p4_pd_entry_handle_t entry) {
-  Call call = context.device.prepare(
-      outcome_export(line, "table_modify", "modify_entry", "modify_entry_with_selector"));
-  line.give(call.set("entry", uint64_t{entry}));
-  const uint32_t ttl = exchange_ttl(context.device, line, entry, line.ttl());
-  try {
-    check_outcome(call.run(), context.device, line, line.table_word());
-  } catch (const Fault &) {
-    exchange_ttl(context.device, line, entry, ttl);
-    throw;
-  }
-}
-
 void replace(Context &context, const Invocation &invocation) {
-  EntryLine line(context, invocation);
-  line.need_key();
-  Call add = context.device.prepare(
-      outcome_export(line, "table_add", "add_entry", "add_entry_with_selector"));
-  Call find = context.device.prepare("match_spec_to_entry_hdl", line.table().name());
-  p4_pd_entry_handle_t entry = 0;
-  line.fill(add.set("entry", &entry), true);
-  line.give(find.set("entry", &entry));
-  const uint64_t found = find.run();
-  const bool is_new = found == BF_OBJECT_NOT_FOUND;
-  if (is_new) {
-    check_outcome(add.run(), context.device, line, line.table_word());
-  } else {
-    check(found, line.table_word());
-    make_as_added(context, line, entry);
-  }
-  line.remember(context, entry);
-  context.results.done(table_row(line.table()).number("entry", entry),
-                       is_new ? "added" : "modified");
+  add_entries(context, invocation, true);
 }
 
-// Fills a call that takes an entry by its handle or by its key. The word to blame.
-Word fill_call(Call &call, EntryLine &line) {
+// The handles of all entries of the key.
+std::vector<p4_pd_entry_handle_t> find_entries(const Device &device, EntryLine &line) {
+  p4_pd_entry_handle_t entry = 0;
+  Call call = device.prepare("match_spec_to_entry_hdl", line.table().name());
+  line.give(call.set("entry", &entry));
+  std::vector<p4_pd_entry_handle_t> entries(line.count());
+  for (size_t i = 0; i < entries.size(); ++i) {
+    line.choose(i);
+    try {
+      check(call.run(), line.table_word());
+    } catch (const Fault &fault) {
+      throw line.with_chosen(fault, i, "");
+    }
+    entries[i] = entry;
+  }
+  return entries;
+}
+
+// Runs a call that takes an entry by its handle or by its key. Of several, all are there, and what
+// the device takes for the first it takes for the others.
+template <class Check>
+void run_on_entries(const Device &device, Call &call, EntryLine &line, Check check_status) {
   if (line.entry()) call.set("entry", uint64_t{line.entry()->value});
   line.fill(call, false);
-  return line.entry() ? line.entry()->word : line.table_word();
+  if (line.count() > 1) find_entries(device, line);
+  for (size_t i = 0; i < line.count(); ++i) {
+    line.choose(i);
+    check_status(call.run(), line.entry() ? line.entry()->word : line.table_word());
+  }
+}
+
+Row changed_row(const EntryLine &line) {
+  return line.count() == 1 ? table_row(line.table()) : count_row(line.table(), line.count());
 }
 
 void modify(Context &context, const Invocation &invocation) {
@@ -186,9 +158,10 @@ void modify(Context &context, const Invocation &invocation) {
           ? outcome_export(line, "table_modify", "modify_entry", "modify_entry_with_selector")
           : outcome_export(line, "table_modify_by_match_spec", "modify_entry_by_match_spec",
                            "modify_entry_with_selector_by_match_spec"));
-  const Word word = fill_call(call, line);
-  check_outcome(call.run(), context.device, line, word);
-  context.results.done(table_row(line.table()), "modified");
+  run_on_entries(context.device, call, line, [&](uint64_t status, Word word) {
+    check_outcome(status, context.device, line, word);
+  });
+  context.results.done(changed_row(line), "modified");
 }
 
 void remove(Context &context, const Invocation &invocation) {
@@ -198,9 +171,8 @@ void remove(Context &context, const Invocation &invocation) {
   Call call = context.device.prepare(
       line.need_key_or_entry() ? "table_delete" : "table_delete_by_match_spec",
       line.table().name());
-  const Word word = fill_call(call, line);
-  check(call.run(), word);
-  context.results.done(table_row(line.table()), "deleted");
+  run_on_entries(context.device, call, line, check);
+  context.results.done(changed_row(line), "deleted");
 }
 
 void find(Context &context, const Invocation &invocation) {
@@ -208,11 +180,11 @@ void find(Context &context, const Invocation &invocation) {
   line.refuse_outcome();
   line.need_key();
   Call call = context.device.prepare("match_spec_to_entry_hdl", line.table().name());
-  p4_pd_entry_handle_t entry = 0;
   line.fill(call, false);
-  check(call.set("entry", &entry).run(), line.table_word());
-  line.remember(context, entry);
-  context.results.row(table_row(line.table()).number("entry", entry));
+  for (const p4_pd_entry_handle_t entry : find_entries(context.device, line)) {
+    line.remember(context, entry);
+    context.results.row(table_row(line.table()).number("entry", entry));
+  }
 }
 
 void count(Context &context, const Invocation &invocation) {
@@ -235,11 +207,30 @@ void count(Context &context, const Invocation &invocation) {
   }
 }
 
+// Columns that nothing is picked from are for people, who read ranges; all else is about entries.
+bool joins_ranges(const Context &context, const TableLine &line) {
+  const Settings &settings = context.settings;
+  return line.table.has_priority() && !settings.json && !settings.terse && !settings.count &&
+         !context.results.asks_for_names() && !line.options.has("entry");
+}
+
+void show_ranges(Context &context, const TableLine &line) {
+  RangeRows rows(line.table, [&](const Row &row) { context.results.row(row); });
+  EntryReader reader(context.device, line.table, EntryReader::Resources::settings);
+  ItemBytes item;
+  line.for_each_entry([&](p4_pd_entry_handle_t entry) {
+    check(reader.read(entry, item), line.word);
+    rows.add(entry, item);
+  });
+  rows.finish();
+}
+
 void show(Context &context, const Invocation &invocation) {
   const TableLine line(context, invocation, {"entry"});
   const bool raw = context.settings.raw;
   if (!raw) expect_entries(context.results, line.table);
   if (raw && !line.options.has("entry")) return dump_values(context, line.table, line.word);
+  if (!raw && joins_ranges(context, line)) return show_ranges(context, line);
   EntryReader reader(context.device, line.table, EntryReader::Resources::settings);
   line.for_each_entry([&](p4_pd_entry_handle_t entry) {
     if (raw) return dump_value(context, line.table, entry, line.word);

@@ -5,18 +5,61 @@
 #include <algorithm>
 
 #include "tesselctl/program/library.hpp"
+#include "tesselctl/program/value_range.hpp"
 
 namespace tesselctl {
 
-void RecordWriter::set(const Assignment &word) {
-  const Field &field = find_field(*record_, word.name, what_);
+namespace {
+
+constexpr size_t kMostRecords = 65536;
+
+}  // namespace
+
+const Field &RecordWriter::take_field(Word name) {
+  const Field &field = find_field(*record_, name, what_);
   for (size_t i = 0; i < field.part_count(); ++i) {
     if (given_[place_of(field.parts[i])]) {
-      throw Fault(word.name, fmt::format("{} is given twice", field.label));
+      throw Fault(name, fmt::format("{} is given twice", field.label));
     }
   }
-  store_value(field, parse_value(field, word.value), bytes_.data());
   for (size_t i = 0; i < field.part_count(); ++i) given_[place_of(field.parts[i])] = true;
+  return field;
+}
+
+void RecordWriter::set(const Assignment &word) {
+  const Field &field = take_field(word.name);
+  store(field, parse_value(field, word.value));
+}
+
+void RecordWriter::set_values(const Assignment &word) {
+  if (!is_range(word.value.text)) return set(word);
+  const Field &field = take_field(word.name);
+  std::vector<FieldValue> values = parse_range(field, word.value);
+  const uint64_t count = uint64_t{count_} * values.size();
+  if (count > kMostRecords) {
+    throw Fault(word.value, fmt::format("the ranges are {} entries, and a command takes {} at most",
+                                        count, kMostRecords));
+  }
+  count_ = static_cast<size_t>(count);
+  store(field, values.front());
+  if (values.size() > 1) spreads_.push_back({&field, std::move(values)});
+}
+
+void RecordWriter::choose(size_t at) {
+  for (size_t i = spreads_.size(); i-- > 0;) {
+    const auto &[field, values] = spreads_[i];
+    store(*field, values[at % values.size()]);
+    at /= values.size();
+  }
+}
+
+std::string RecordWriter::chosen() const {
+  std::string text;
+  for (const auto &[field, values] : spreads_) {
+    text += fmt::format("{}{}={}", text.empty() ? "" : " ", field->label,
+                        format_value(*field, load_value(*field, bytes_.data())));
+  }
+  return text;
 }
 
 bool RecordWriter::any_given() const {

@@ -24,6 +24,13 @@ class RecordWriter {
   const bindings::Record &record() const { return *record_; }
   // Throws Fault: unknown name, value that does not fit, field given before.
   void set(const Assignment &word);
+  // The same, but LOW..HIGH is several values, so that there are several records.
+  void set_values(const Assignment &word);
+  // How many there are, and the one that data() is: those of the field set last come first.
+  size_t count() const { return count_; }
+  void choose(size_t at);
+  // "port=0x3f0&0xfff0": the value of each field that has several, in the chosen record.
+  std::string chosen() const;
   bool any_given() const;
   // Fields that were not given stay 0; ternary ones match anything. Throws Fault at the word when
   // another one is missing.
@@ -35,10 +42,23 @@ class RecordWriter {
     return static_cast<size_t>(member - record_->members);
   }
 
+  // The field that the name means, if it is not given yet.
+  const Field &take_field(Word name);
+  void store(const Field &field, const FieldValue &value) {
+    store_value(field, value, bytes_.data());
+  }
+
+  struct Spread {
+    const Field *field;
+    std::vector<FieldValue> values;
+  };
+
   const bindings::Record *record_;
   std::string what_;
   std::vector<uint8_t> bytes_;
   std::vector<bool> given_;  // by member
+  std::vector<Spread> spreads_;
+  size_t count_ = 1;
 };
 
 // What is left out of a row, besides ternary fields that match anything.

@@ -28,8 +28,9 @@ Number check_width(const Field &field, Word text, Number value) {
                                 field.width == 1 ? "" : "s", limit_text(field.width)));
 }
 
-// One value in the notations that fit the width of the field.
-Number parse_plain(const Field &field, Word text) {
+}  // namespace
+
+Number parse_single(const Field &field, Word text) {
   const bool colon = has(text.text, ':');
   const bool dot = has(text.text, '.');
   if (field.width == 48 && (colon || dot || has(text.text, '-'))) {
@@ -57,6 +58,8 @@ Number parse_plain(const Field &field, Word text) {
   return check_width(field, text, *number);
 }
 
+namespace {
+
 void check_maskable(const Field &field, Word text) {
   if (field.match == Match::exact) {
     throw Fault(text, fmt::format("{} is matched exactly, so it takes one value", field.label));
@@ -65,7 +68,7 @@ void check_maskable(const Field &field, Word text) {
 
 FieldValue parse_prefix(const Field &field, Word text, size_t slash) {
   check_maskable(field, text);
-  const Number value = parse_plain(field, text.first(slash));
+  const Number value = parse_single(field, text.first(slash));
   const Word length_word = text.from(slash + 1);
   const auto length = parse_number(length_word.text);
   if (!length) throw_not_a(length_word, "a prefix length");
@@ -87,14 +90,16 @@ FieldValue parse_masked(const Field &field, Word text, size_t ampersand) {
   if (field.match == Match::lpm) {
     throw Fault(text, fmt::format("{} takes a prefix (VALUE/LENGTH), not a mask", field.label));
   }
-  const FieldValue parsed = {parse_plain(field, text.first(ampersand)),
-                             parse_plain(field, text.from(ampersand + 1))};
+  const FieldValue parsed = {parse_single(field, text.first(ampersand)),
+                             parse_single(field, text.from(ampersand + 1))};
   if ((parsed.value & ~parsed.mask).is_zero()) return parsed;
   throw Fault(text, "the value has bits that its mask leaves out",
               format_value(field, {parsed.value & parsed.mask, parsed.mask}));
 }
 
-std::string plain_text(const Field &field, Number value) {
+}  // namespace
+
+std::string format_single(const Field &field, Number value) {
   switch (field.notation) {
     case Notation::ipv4:
       return ipv4_text(static_cast<uint32_t>(value.low));
@@ -108,8 +113,6 @@ std::string plain_text(const Field &field, Number value) {
   return value.high == 0 ? decimal(value.low) : hexadecimal(value);
 }
 
-}  // namespace
-
 FieldValue parse_value(const Field &field, Word text) {
   if (text.text.empty()) throw Fault(text, fmt::format("{} needs a value", field.label));
   if (text.text == "*") {
@@ -122,7 +125,10 @@ FieldValue parse_value(const Field &field, Word text) {
   if (const size_t at = text.text.find('/'); at != std::string_view::npos) {
     return parse_prefix(field, text, at);
   }
-  const Number value = parse_plain(field, text);
+  if (text.text.find(kRange) != std::string_view::npos) {
+    throw Fault(text, fmt::format("{} takes one value here, not a range", field.label));
+  }
+  const Number value = parse_single(field, text);
   return {value, field.match == Match::ternary ? key_bits(field) : low_ones(field.width)};
 }
 
@@ -151,19 +157,19 @@ float parse_real(Word text, std::string_view what, float limit) {
 }
 
 std::string format_value(const Field &field, const FieldValue &value) {
-  if (field.match == Match::exact) return plain_text(field, value.value);
+  if (field.match == Match::exact) return format_single(field, value.value);
   const auto length = prefix_length_of(value.mask, field.width);
   if (field.match == Match::lpm) {
-    return fmt::format("{}/{}", plain_text(field, value.value), length.value_or(field.width));
+    return fmt::format("{}/{}", format_single(field, value.value), length.value_or(field.width));
   }
   if (value.mask.is_zero()) return "*";
-  if (value.mask == key_bits(field)) return plain_text(field, value.value);
+  if (value.mask == key_bits(field)) return format_single(field, value.value);
   const bool address = field.notation == Notation::ipv4 || field.notation == Notation::ipv6;
-  if (address && length) return fmt::format("{}/{}", plain_text(field, value.value), *length);
+  if (address && length) return fmt::format("{}/{}", format_single(field, value.value), *length);
   if (!address && field.notation != Notation::mac) {
     return hexadecimal(value.value) + "&" + hexadecimal(value.mask);
   }
-  return plain_text(field, value.value) + "&" + plain_text(field, value.mask);
+  return format_single(field, value.value) + "&" + format_single(field, value.mask);
 }
 
 namespace {

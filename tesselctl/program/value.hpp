@@ -8,6 +8,8 @@
 //   VALUE&M   for ternary fields: the bits that are set in M take part
 //   *         anything, for lpm and ternary fields
 //
+// LOW..HIGH is several values (value_range.hpp).
+//
 // A plain value of a ternary field stands under the bits that the key takes of the field.
 #pragma once
 
@@ -20,12 +22,18 @@
 
 namespace tesselctl {
 
+inline constexpr std::string_view kRange = "..";
+
 struct FieldValue {
   Number value;
   Number mask;  // of a ternary field; the ones of the prefix of an lpm field; all ones otherwise
 
   friend bool operator==(const FieldValue &, const FieldValue &) = default;
 };
+
+// One value in the notations that fit the width of the field. Throws Fault.
+Number parse_single(const Field &field, Word text);
+std::string format_single(const Field &field, Number value);
 
 // Throws Fault: no such notation, wider than the field, a mask where none can be, a value with bits
 // that its mask or prefix leaves out. A plain value may have bits beyond those of the key.

@@ -33,6 +33,13 @@ class Fault : public std::exception {
     if (token_.size() < token_bytes_) token_ += "...";
   }
 
+  // The same fault, of which more is known.
+  Fault with(const std::string &more) const {
+    Fault fault = *this;
+    fault.message_ += more;
+    return fault;
+  }
+
   const char *what() const noexcept override { return message_.c_str(); }
   const std::string &message() const { return message_; }
   // The word, or the beginning of a long one with "..." behind it.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <compare>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -19,6 +20,12 @@ struct Number {
   constexpr Number(uint64_t upper, uint64_t lower) : high(upper), low(lower) {}
 
   friend constexpr bool operator==(Number, Number) = default;
+  friend constexpr auto operator<=>(Number, Number) = default;
+  // Without what is beyond 128 bits.
+  friend constexpr Number operator+(Number a, Number b) {
+    return {a.high + b.high + (a.low + b.low < a.low ? 1 : 0), a.low + b.low};
+  }
+  friend constexpr Number operator-(Number a, Number b) { return a + ~b + Number(1); }
   friend constexpr Number operator&(Number a, Number b) { return {a.high & b.high, a.low & b.low}; }
   friend constexpr Number operator|(Number a, Number b) { return {a.high | b.high, a.low | b.low}; }
   friend constexpr Number operator~(Number a) { return {~a.high, ~a.low}; }

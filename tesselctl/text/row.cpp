@@ -166,6 +166,10 @@ Row &Row::anything(std::string_view name, ValueKind of) {
   return *this;
 }
 
+void Row::change(std::string_view name, std::string value) {
+  std::ranges::find(items_, name, &Item::name)->value = std::move(value);
+}
+
 const Item *Row::find(std::string_view name) const {
   const Item *found = nullptr;
   for (const auto *items : {&items_, &unshown_}) {

@@ -99,6 +99,8 @@ class Row {
   }
 
   const std::vector<Item> &items() const { return items_; }
+  // Gives the item of that name another text.
+  void change(std::string_view name, std::string value);
   // The item of that name, or else of the field of that name.
   const Item *find(std::string_view name) const;
 
