@@ -167,7 +167,7 @@ Row object_row(std::string_view sign, const ItemKind &kind, const char *object) 
 Row change_row(std::string_view sign, const DeviceState::Part &part, const ItemStore::Item &item) {
   Row row = object_row(sign, *part.kind, part.object);
   part.access->add_to(row, item.view(), Naming::numbers);
-  return row;
+  return row.in_style(sign == "-" ? Style::removed : Style::good);
 }
 
 void expect_changes(Results &results) {

@@ -36,7 +36,7 @@ void Output::flush() {
 }
 
 std::string Output::styled(Style style, std::string_view text) const {
-  const char *codes[] = {"", "\033[1m", "\033[32m", "\033[1;31m", "\033[2m", "\033[7m"};
+  const char *codes[] = {"", "\033[1m", "\033[32m", "\033[1;31m", "\033[2m", "\033[7m", "\033[31m"};
   if (!colour_ || style == Style::plain) return std::string(text);
   return codes[static_cast<int>(style)] + std::string(text) + "\033[0m";
 }

@@ -12,7 +12,7 @@
 
 namespace tesselctl {
 
-enum class Style { plain, heading, good, bad, faint, changed };
+enum class Style { plain, heading, good, bad, faint, changed, removed };
 
 class Output {
  public:

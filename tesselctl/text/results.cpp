@@ -161,8 +161,8 @@ void Results::print(const Row &row) {
     out_->write(row.json());
     return;
   }
-  if (columns_.empty()) return out_->line("{}", row.words());
-  out_->line("{}", aligned(columns_, cells(row)));
+  const std::string text = columns_.empty() ? row.words() : aligned(columns_, cells(row));
+  out_->line("{}", out_->styled(row.style(), text));
 }
 
 void Results::choose_columns() {

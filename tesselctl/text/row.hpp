@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "tesselctl/text/fault.hpp"
+#include "tesselctl/text/output.hpp"
 
 namespace tesselctl {
 
@@ -98,6 +99,13 @@ class Row {
     return *this;
   }
 
+  // How its words look on a terminal.
+  Row &in_style(Style style) {
+    style_ = style;
+    return *this;
+  }
+  Style style() const { return style_; }
+
   const std::vector<Item> &items() const { return items_; }
   // Gives the item of that name another text.
   void change(std::string_view name, std::string value);
@@ -115,6 +123,7 @@ class Row {
   }
   std::vector<Item> items_;
   std::vector<Item> unshown_;
+  Style style_ = Style::plain;
 };
 
 // Names as people write them: '_' and upper and lower case make no difference.
