@@ -21,6 +21,7 @@
 #include "tesselctl/server/client.hpp"
 #include "tesselctl/server/serve.hpp"
 #include "tesselctl/shell/history.hpp"
+#include "tesselctl/shell/pager.hpp"
 #include "tesselctl/shell/shell.hpp"
 #include "tesselctl/shell/tool_completion.hpp"
 #include "tesselctl/shell/tool_runner.hpp"
@@ -109,6 +110,7 @@ class Session {
     }
     const bool device_stays = goes_on || !settings.socket.empty() || !settings.image.empty();
     tool_.emplace(*runner_, streams.out, streams.errors, redrawn_terminal(), device_stays);
+    if (!settings.no_pager) tool_->page_answers(pager_command());
     if (home_ && home_->may_be_old()) tool_->before_each([this] { home_->read_again(); });
     if (home_ && !settings.image.empty() && use == ImageUse::changes) {
       signals_.emplace({SIGINT, SIGTERM, SIGHUP, SIGPIPE}, take_signal);

@@ -78,6 +78,8 @@ constexpr Flag kFlags[] = {
      {},
      true},
     {"--no-color", FlagOf::tool, turn_on<&ToolSettings::no_colour>, "never prints in colour"},
+    {"--no-pager", FlagOf::tool, turn_on<&ToolSettings::no_pager>,
+     "never shows long answers by a pager"},
     {"--version", FlagOf::tool, turn_on<&ToolSettings::version>,
      "prints the versions of the tool, the library and its contracts"},
     {"--json", FlagOf::all, turn_on<&Settings::json>, "answers in JSON, one line a command"},

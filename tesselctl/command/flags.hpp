@@ -19,6 +19,7 @@ struct ToolSettings {
   bool pipes_are_given = false;
   std::optional<std::string> history = {};
   bool no_colour = false;
+  bool no_pager = false;
   bool version = false;
   Settings lines = {};  // of every line that does not say otherwise
 };

@@ -1,6 +1,5 @@
 // Lines edited with libedit: history, completion on TAB and help on '?'.
 #include <histedit.h>
-#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -10,6 +9,7 @@
 
 #include "tesselctl/shell/line_editor.hpp"
 #include "tesselctl/shell/line_input.hpp"
+#include "tesselctl/shell/window.hpp"
 #include "tesselctl/text/utf8.hpp"
 
 namespace tesselctl {
@@ -21,12 +21,6 @@ constexpr size_t kMostWithHelp = 24;
 constexpr char kEndOfInput = 4;
 // In a prompt, what stands between two of these takes no room.
 constexpr char kNoWidth = '\1';
-
-size_t terminal_width() {
-  winsize size = {};
-  if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0) return 80;
-  return size.ws_col;
-}
 
 class EditedLines : public LineEditor {
  public:
@@ -175,7 +169,7 @@ void EditedLines::list_with_help(const Completion &completion) const {
 void EditedLines::list_in_columns(const std::vector<Candidate> &candidates) const {
   size_t width = 0;
   for (const Candidate &candidate : candidates) width = std::max(width, candidate.word.size() + 2);
-  const size_t columns = std::max<size_t>(1, terminal_width() / width);
+  const size_t columns = std::max<size_t>(1, window_of(STDOUT_FILENO).columns / width);
   const size_t rows = (candidates.size() + columns - 1) / columns;
   std::string text = "\r\n";
   for (size_t row = 0; row < rows; ++row) {

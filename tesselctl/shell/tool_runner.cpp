@@ -8,6 +8,7 @@
 #include "tesselctl/command/script.hpp"
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/command/watch_line.hpp"
+#include "tesselctl/shell/pager.hpp"
 #include "tesselctl/shell/watch.hpp"
 #include "tesselctl/text/files.hpp"
 
@@ -82,7 +83,9 @@ LineOutcome ToolRunner::run(const SourceLine &source) {
     split_words(source.text, words);
     const TakenFlags flags = take_flags(words, settings);
     const std::string_view first = words.empty() || settings.help ? "" : words[0].text;
-    if (first != "watch" && first != "run") return runner_->run(source);
+    if (first != "watch" && first != "run") {
+      return is_paged(words) ? run_paged(source) : runner_->run(source);
+    }
     if (first == "watch") {
       watch = read_watch(words);
       line = watched_line(source.text, words, watch);
@@ -108,6 +111,27 @@ LineOutcome ToolRunner::run(const SourceLine &source) {
     report_fault(fault, source, results, settings.json, *out_, *errors_);
     return LineOutcome::fault;
   }
+}
+
+// What changes the device is not: one who leaves the pager ends the command.
+bool ToolRunner::is_paged(Words words) const {
+  if (pager_.empty() || terminal_ < 0 || words.empty() || !running_.empty()) return false;
+  Invocation invocation;
+  return find_command(words, invocation).kind != Kind::changes;
+}
+
+LineOutcome ToolRunner::run_paged(const SourceLine &source) {
+  PagedAnswer answer(pager_, terminal_, *out_, *errors_);
+  LineOutcome outcome = LineOutcome::fault;
+  try {
+    outcome = runner_->run(source);
+  } catch (...) {
+    answer.finish();
+    throw;
+  }
+  const PagedAnswer::End end = answer.finish();
+  if (end == PagedAnswer::End::no_pager) return LineOutcome::fault;
+  return end == PagedAnswer::End::left_early ? LineOutcome::done : outcome;
 }
 
 LineOutcome ToolRunner::run_file(Word file, const Settings &settings) {

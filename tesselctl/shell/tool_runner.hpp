@@ -1,6 +1,6 @@
-// What the tool does with lines itself, for the one who typed them: it repeats commands (watch) and
-// runs scripts (run). All other lines go to another runner, as does every round and every line of a
-// script, so that a server is free between two of them.
+// What the tool does with lines itself, for the one who typed them: it repeats commands (watch),
+// runs scripts (run), and has long answers paged. All other lines go to another runner, as does
+// every round and every line of a script, so that a server is free between two of them.
 #pragma once
 
 #include <functional>
@@ -9,6 +9,7 @@
 
 #include "tesselctl/command/runner.hpp"
 #include "tesselctl/command/script.hpp"
+#include "tesselctl/text/words.hpp"
 
 namespace tesselctl {
 
@@ -28,6 +29,8 @@ class ToolRunner : public Runner {
         terminal_(terminal),
         device_stays_(device_stays) {}
 
+  // Long answers go through that pager; without one, through none.
+  void page_answers(std::string pager) { pager_ = std::move(pager); }
   // What watch does before each round but the first; may throw Fault.
   void before_each(std::function<void()> prepare) { prepare_ = std::move(prepare); }
   LineOutcome run(const SourceLine &source) override;
@@ -38,6 +41,8 @@ class ToolRunner : public Runner {
   Settings &defaults() override { return runner_->defaults(); }
 
  private:
+  bool is_paged(Words words) const;
+  LineOutcome run_paged(const SourceLine &source);
   LineOutcome run_file(Word file, const Settings &settings);
   // Behind the summary: where a script that ended in its middle goes on, if the device is still
   // there.
@@ -47,6 +52,7 @@ class ToolRunner : public Runner {
   Output *out_;
   Output *errors_;
   int terminal_;
+  std::string pager_ = {};
   std::function<void()> prepare_ = {};
   bool device_stays_;
   std::vector<RunningScript> running_ = {};  // scripts that run one another

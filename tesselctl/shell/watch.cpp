@@ -1,11 +1,10 @@
 #include "tesselctl/shell/watch.hpp"
 
-#include <sys/ioctl.h>
-
 #include <algorithm>
 #include <ctime>
 #include <thread>
 
+#include "tesselctl/shell/window.hpp"
 #include "tesselctl/text/interrupt.hpp"
 
 namespace tesselctl {
@@ -38,12 +37,6 @@ std::string time_text() {
   localtime_r(&now, &parts);
   char text[32];
   return {text, strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &parts)};
-}
-
-size_t window_rows(int terminal) {
-  winsize size = {};
-  const bool known = ioctl(terminal, TIOCGWINSZ, &size) == 0 && size.ws_row != 0;
-  return known ? size.ws_row : 24;
 }
 
 }  // namespace
@@ -81,7 +74,7 @@ LineOutcome WatchRounds::draw_round(WatchScreen &screen, const SourceLine &sourc
   if (outcome == LineOutcome::fault) {
     out_->write(text);
   } else {
-    screen.draw(time_text(), text, window_rows(terminal_));
+    screen.draw(time_text(), text, window_of(terminal_).rows);
   }
   return outcome;
 }

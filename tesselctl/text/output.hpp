@@ -55,6 +55,21 @@ class Output {
     Output *out_;
   };
 
+  // While it lives, the sink gets what was to go to the stream. What was not flushed when it is
+  // destroyed goes to the stream.
+  class Detour {
+   public:
+    Detour(Output &out, std::function<void(std::string_view)> sink) : out_(&out) {
+      out_->sink_ = std::move(sink);
+    }
+    ~Detour() { out_->sink_ = nullptr; }
+    Detour(const Detour &) = delete;
+    Detour &operator=(const Detour &) = delete;
+
+   private:
+    Output *out_;
+  };
+
  private:
   bool try_flush() noexcept;
 

@@ -27,6 +27,7 @@ class Session {
     if (child_ != 0) return;
     setenv("TERM", "xterm", 1);
     setenv("NO_COLOR", "1", 1);
+    setenv("TESSELCTL_PAGER", "cat", 1);
     setenv("TESSELCTL_HISTORY", history.c_str(), 1);
     execl(TOOL, "tesselctl", image == nullptr ? nullptr : "--image", image, nullptr);
     _exit(127);
