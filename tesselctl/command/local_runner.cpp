@@ -2,6 +2,7 @@
 
 #include "tesselctl/command/script.hpp"
 #include "tesselctl/device/device_copy.hpp"
+#include "tesselctl/state/save_point.hpp"
 
 namespace tesselctl {
 
@@ -59,7 +60,7 @@ LineOutcome LocalRunner::run_whole(const WholeScript &script) {
 }
 
 LineOutcome LocalRunner::run_all_or_nothing(const WholeScript &script) {
-  const std::unique_ptr<Device> before = copy_of(context_.device);
+  const SavePoint before(context_.device);
   LocalRunner lines(context_.device, context_.out, *errors_, settings_of_lines(script.settings));
   lines.context_.labels = context_.labels;
   lines.context_.directory = context_.directory;
@@ -68,11 +69,11 @@ LineOutcome LocalRunner::run_all_or_nothing(const WholeScript &script) {
   try {
     result = run_script(lines, script.name, script.text, ScriptOptions::of(script.settings));
   } catch (...) {
-    copy_back(*before, context_.device);
+    before.go_back();
     throw;
   }
   if (result.faults != 0) {
-    copy_back(*before, context_.device);
+    before.go_back();
   } else {
     context_.labels = std::move(lines.context_.labels);
     context_.changed = std::max(context_.changed, lines.changed());

@@ -46,7 +46,7 @@ Device::~Device() {
 }
 
 Call Device::prepare(const bindings::Export &target) const {
-  Call call(target);
+  Call call(target, listener_);
   call.set_if_taken("session", uint64_t{session_});
   call.set_if_taken("device", uint64_t{target_.device_id});
   call.set_if_taken("target", static_cast<const void *>(&target_));

@@ -46,6 +46,10 @@ class Device {
 
   Events &events() { return events_; }
 
+  // Who hears of the calls that are prepared from now on; null for nobody.
+  CallListener *listener() const { return listener_; }
+  void set_listener(CallListener *listener) { listener_ = listener; }
+
   // A call whose session, device and target are set, as far as the function takes them.
   Call prepare(const bindings::Export &target) const;
   // The same by name; throws std::logic_error when the library has no such function.
@@ -59,6 +63,7 @@ class Device {
   Events events_;  // the device writes here as long as it exists
   p4_pd_device_target_t target_{};
   uint32_t pipes_;
+  CallListener *listener_ = nullptr;
   p4_pd_session_handle_t session_ = 0;
 };
 

@@ -118,9 +118,10 @@ void check_handles(uint64_t status, const Device &device, const char *profile,
 }
 
 void for_each_cell(const Device &device, uint32_t handle,
-                   const std::function<void(uint32_t)> &visit) {
-  uint32_t cell = 0;
+                   const std::function<void(uint32_t)> &visit, std::optional<uint32_t> only) {
+  uint32_t cell = only.value_or(0);
   while (soft_next_cell(device.id(), handle, cell, &cell) == BF_SUCCESS) {
+    if (only && cell != *only) return;
     check_interrupt();
     visit(cell);
     if (++cell == 0) return;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "tesselctl/device/device.hpp"
 #include "tesselctl/device/table_info.hpp"
@@ -58,8 +59,8 @@ bool has_handle(const Device &device, const char *profile, std::string_view kind
 void check_handles(uint64_t status, const Device &device, const char *profile,
                    const std::vector<WrittenHandle> &handles, Word otherwise);
 
-// The cells of a counter, meter or register that are not as most are.
+// The cells of a counter, meter or register that are not as most are, or one of them alone.
 void for_each_cell(const Device &device, uint32_t handle,
-                   const std::function<void(uint32_t)> &visit);
+                   const std::function<void(uint32_t)> &visit, std::optional<uint32_t> only = {});
 
 }  // namespace tesselctl

@@ -58,13 +58,17 @@ class CounterCells : public NumberItems {
 
  protected:
   void read_numbers(Source &from, const NumbersVisitor &visit) const override {
-    for_each_cell(from.device, counter_.handle, [&](uint32_t cell) {
-      for (uint32_t pipe = 0; pipe < from.device.pipes(); ++pipe) {
-        const Values values = read_cell(from.device, counter_, cell, from.device.target_of(pipe),
-                                        P4_PD_READ_FROM_HARDWARE, {});
-        if (has_counted(values)) visit({cell, pipe, values.packets, values.bytes});
-      }
-    });
+    for_each_cell(
+        from.device, counter_.handle,
+        [&](uint32_t cell) {
+          for (uint32_t pipe = 0; pipe < from.device.pipes(); ++pipe) {
+            const Values values =
+                read_cell(from.device, counter_, cell, from.device.target_of(pipe),
+                          P4_PD_READ_FROM_HARDWARE, {});
+            if (has_counted(values)) visit({cell, pipe, values.packets, values.bytes});
+          }
+        },
+        from.only);
   }
   void write_numbers(Target &to, Edit edit, const Numbers &cell, Word word) const override {
     if (cell[1] >= to.device.pipes()) throw Fault(word, "the device has no such pipe");

@@ -20,12 +20,16 @@ class Entries : public TableItems {
       : TableItems(table, true, {"table_add", "table_modify_by_match_spec"}) {}
 
   void read(Source &from, const ItemVisitor &visit) override {
-    EntryReader reader(from.device, table(), EntryReader::Resources::all);
-    ItemBytes item;
-    for_each_entry(from.device, table(), {}, [&](p4_pd_entry_handle_t entry) {
-      read_entry(from, reader, entry, item);
-      visit(item.view());
-    });
+    if (reading_ != &from.device)
+      reader_.emplace(from.device, table(), EntryReader::Resources::all);
+    reading_ = &from.device;
+    const auto read_one = [&](p4_pd_entry_handle_t entry) {
+      if (!read_entry(from, *reader_, entry, item_)) return;
+      // The default entry has a handle, too.
+      if (!item_.identity.empty()) visit(item_.view());
+    };
+    if (from.only) return read_one(*from.only);
+    for_each_entry(from.device, table(), {}, read_one);
   }
 
   void write(Target &to, Edit edit, const ItemView &item, Word word) override {
@@ -78,6 +82,11 @@ class Entries : public TableItems {
     }
     return prepare(add ? "add_entry" : "modify_entry_by_match_spec").set("member", target);
   }
+
+  // Of the device that was read last.
+  const Device *reading_ = nullptr;
+  std::optional<EntryReader> reader_;
+  ItemBytes item_;
 };
 
 constexpr Step kSteps[] = {{Phase::entries_leave, Edit::remove},

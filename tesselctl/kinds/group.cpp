@@ -134,18 +134,23 @@ class Groups : public ObjectItems {
   void read(Source &from, const ItemVisitor &visit) override {
     const ProfileNumbers &numbers = from.numbering.of(profile_.action_data_table);
     ItemBytes item;
-    for_each_group(from.device, profile_.name, {}, [&](p4_pd_group_handle_t handle) {
+    const auto read_one = [&](p4_pd_group_handle_t handle) {
       GroupValue group;
+      const uint64_t status =
+          soft_group_max_size(from.device.id(), profile_.selector, handle, &group.size);
+      if (status == BF_OBJECT_NOT_FOUND) return;
+      check(status, {});
       for_each_group_member(
           from.device, profile_.name, handle, {}, [&](uint32_t member, bool active) {
             group.members.push_back({numbers.members.number_of(member), active ? 1u : 0u});
           });
-      check(soft_group_max_size(from.device.id(), profile_.selector, handle, &group.size), {});
       item.clear();
       append_bytes(item.identity, numbers.groups.number_of(handle));
       group.store(item.value);
       visit(item.view());
-    });
+    };
+    if (from.only) return read_one(*from.only);
+    for_each_group(from.device, profile_.name, {}, read_one);
   }
 
   void write(Target &to, Edit edit, const ItemView &item, Word word) override {

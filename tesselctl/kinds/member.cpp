@@ -19,17 +19,15 @@ uint32_t need_handle(const NumberMap &numbers, const char *what, uint32_t number
 }
 
 void print_items(const ProfileLine &line, const ItemKind &kind, const char *option) {
-  const bool one = line.options.has(option);
-  const uint32_t wanted = one ? line.options.handle(line.context, option) : 0;
-  bool found = !one;
   Numbering numbering = Numbering::by_handle();
   Source from = {line.context.device, numbering};
+  if (line.options.has(option)) from.only = line.options.handle(line.context, option);
+  bool found = !from.only;
   const auto items = kind.open(line.object.name);
   Row sample = line.row();
   items->add_samples_to(sample, Naming::handles);
   line.context.results.expect(sample);
   items->read(from, [&](const ItemView &item) {
-    if (one && read_bytes<uint32_t>(item.identity) != wanted) return;
     found = true;
     Row row = line.row();
     items->add_to(row, item, Naming::handles);
@@ -115,12 +113,16 @@ class Members : public ObjectItems {
     MemberReader reader(from.device, profile_.name);
     const NumberMap &numbers = from.numbering.of(profile_.action_data_table).members;
     ItemBytes item;
-    for_each_member(from.device, profile_.name, {}, [&](p4_pd_member_handle_t member) {
+    const auto read_one = [&](p4_pd_member_handle_t member) {
       item.clear();
       append_bytes(item.identity, numbers.number_of(member));
-      check(reader.read(member, item.value), {});
+      const uint64_t status = reader.read(member, item.value);
+      if (status == BF_OBJECT_NOT_FOUND) return;
+      check(status, {});
       visit(item.view());
-    });
+    };
+    if (from.only) return read_one(*from.only);
+    for_each_member(from.device, profile_.name, {}, read_one);
   }
 
   void write(Target &to, Edit edit, const ItemView &item, Word word) override {

@@ -43,15 +43,18 @@ class MeterCells : public NumberItems {
     add_spec(row.number("index", cell[0]), meter_, spec_of(cell));
   }
   void read_numbers(Source &from, const NumbersVisitor &visit) const override {
-    for_each_cell(from.device, meter_.handle, [&](uint32_t index) {
-      p4_pd_bytes_meter_spec_t spec = {};
-      Call call = from.device.prepare("meter_read", meter_.name);
-      check(call.set("index", uint64_t{index}).set("meter_spec", &spec).run(), {});
-      const MeterNumbers numbers = numbers_of(spec);
-      // One of zeros is as one that was never set.
-      if (numbers == MeterNumbers{}) return;
-      visit({index, numbers[0], numbers[1], numbers[2], numbers[3], spec.meter_type});
-    });
+    for_each_cell(
+        from.device, meter_.handle,
+        [&](uint32_t index) {
+          p4_pd_bytes_meter_spec_t spec = {};
+          Call call = from.device.prepare("meter_read", meter_.name);
+          check(call.set("index", uint64_t{index}).set("meter_spec", &spec).run(), {});
+          const MeterNumbers numbers = numbers_of(spec);
+          // One of zeros is as one that was never set.
+          if (numbers == MeterNumbers{}) return;
+          visit({index, numbers[0], numbers[1], numbers[2], numbers[3], spec.meter_type});
+        },
+        from.only);
   }
   void write_numbers(Target &to, Edit edit, const Numbers &cell, Word word) const override {
     const p4_pd_bytes_meter_spec_t spec = edit == Edit::remove ? meter_spec({}) : spec_of(cell);

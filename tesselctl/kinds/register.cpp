@@ -141,11 +141,16 @@ class RegisterCells : public RegisterItems {
 
  protected:
   void read_numbers(Source &from, const NumbersVisitor &visit) const override {
-    for_each_cell(from.device, reg_.handle, [&](uint64_t index) {
-      Numbers numbers = read_values(from.device, index);
-      numbers.insert(numbers.begin(), index);
-      visit(numbers);
-    });
+    // With the last cell the value that most have changes, and so which cells have another one.
+    const auto only = from.only == kLastCell ? std::nullopt : from.only;
+    for_each_cell(
+        from.device, reg_.handle,
+        [&](uint64_t index) {
+          Numbers numbers = read_values(from.device, index);
+          numbers.insert(numbers.begin(), index);
+          visit(numbers);
+        },
+        only);
   }
   void write_numbers(Target &to, Edit edit, const Numbers &cell, Word word) const override {
     const Numbers all = edit == Edit::remove ? common(to.device) : Numbers();

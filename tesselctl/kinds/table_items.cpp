@@ -110,15 +110,18 @@ void TableItems::renumber(std::span<char>, std::span<char> value,
 
 // ---- Devices ----
 
-void TableItems::read_entry(Source &from, EntryReader &reader, p4_pd_entry_handle_t entry,
+bool TableItems::read_entry(Source &from, EntryReader &reader, p4_pd_entry_handle_t entry,
                             ItemBytes &item) {
-  check(reader.read(entry, item), {});
-  if (!table_.indirect()) return;
+  const uint64_t status = reader.read(entry, item);
+  if (status == BF_OBJECT_NOT_FOUND) return false;
+  check(status, {});
+  if (!table_.indirect()) return true;
   EntryHead head = take_head(item.value);
   ProfileNumbers &numbers = from.numbering.of(table_.description->action_data_table);
   head.number =
       (head.outcome == EntryHead::kGroup ? numbers.groups : numbers.members).number_of(head.number);
   store_head(item.value, head);
+  return true;
 }
 
 TableItems::ActionCalls &TableItems::calls_of(const bindings::Record &action) {

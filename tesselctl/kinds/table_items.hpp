@@ -65,8 +65,8 @@ class TableItems : public ObjectItems {
   TableItems(const soft_table_t &table, bool keyed, Families families);
 
   const TableInfo &table() const { return table_; }
-  // Reads the entry with numbers for handles. Throws Fault.
-  void read_entry(Source &from, EntryReader &reader, p4_pd_entry_handle_t entry, ItemBytes &item);
+  // Reads the entry with numbers for handles. False when there is none. Throws Fault.
+  bool read_entry(Source &from, EntryReader &reader, p4_pd_entry_handle_t entry, ItemBytes &item);
   // The call that gives an entry the action of the value.
   Call &action_call(const Target &to, std::string_view value, Edit edit);
   // The handle of the member or group of the value. Throws Fault at the word.

@@ -41,8 +41,10 @@ uint64_t Call::run() const {
     throw std::logic_error(std::string(target_->name) + ": " + target_->parameters[unset].name +
                            " is not set");
   }
+  if (listener_ != nullptr) listener_->before(*this);
   const uint64_t result = target_->call(words_.data());
   trace_call(*target_, words_.data(), result);
+  if (listener_ != nullptr) listener_->after(*this, result);
   return result;
 }
 

@@ -14,11 +14,25 @@ namespace tesselctl {
 const bindings::Export &need_export(std::string_view family, std::string_view object,
                                     std::string_view action = {});
 
+class Call;
+
+// Hears of the calls on a device.
+class CallListener {
+ public:
+  virtual ~CallListener() = default;
+  virtual void before(const Call &call) = 0;
+  virtual void after(const Call &call, uint64_t result) = 0;
+};
+
 class Call {
  public:
-  explicit Call(const bindings::Export &target) : target_(&target) {}
+  // The listener, null for none, outlives the call.
+  explicit Call(const bindings::Export &target, CallListener *listener = nullptr)
+      : target_(&target), listener_(listener) {}
 
   const bindings::Export &target() const { return *target_; }
+  // In the order of the parameters.
+  const uint64_t *words() const { return words_.data(); }
   bool takes(std::string_view parameter) const { return position(parameter) != kNone; }
 
   // An integer, or the address of an object: for a pointer, or for a record that is passed by
@@ -47,6 +61,7 @@ class Call {
   size_t position(std::string_view parameter) const;
 
   const bindings::Export *target_;
+  CallListener *listener_;
   std::array<uint64_t, kMostParameters> words_{};
   uint32_t set_ = 0;  // a bit for each parameter
 };

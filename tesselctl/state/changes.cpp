@@ -20,19 +20,16 @@ std::string line_of(const DeviceState::Part &part, const ItemStore::Item &item) 
   return text;
 }
 
-// The changes of the items of one part, of which either may be null. States that are much alike
-// have most items in the same order: those are paired as they stand, and only what is left needs a
-// map.
+// The changes of the items of one part. States that are much alike have most items in the same
+// order: those are paired as they stand, and only what is left needs a map.
 class PartComparison {
  public:
-  PartComparison(const DeviceState::Part *before, const DeviceState::Part *after,
+  PartComparison(const DeviceState::Part &part, Items before, Items after,
                  std::vector<Change> &changes)
-      : part_(before != nullptr ? *before : *after), changes_(changes) {
-    if (before != nullptr) before_ = before->items;
-    if (after != nullptr) after_ = all_after_ = after->items;
-  }
+      : part_(part), before_(before), after_(after), all_after_(after), changes_(changes) {}
 
   void run() {
+    if (before_.empty() && after_.size() == 1) return add(nullptr, &after_.front());
     const auto first = static_cast<ptrdiff_t>(changes_.size());
     pair_same_order();
     pair_others();
@@ -124,9 +121,19 @@ std::vector<Change> changes_between(const DeviceState &before, const DeviceState
   std::vector<Change> changes;
   for (const auto &[place, present] : places) {
     check_interrupt();
-    PartComparison(before.find(place), after.find(place), changes).run();
+    const DeviceState::Part *const was = before.find(place);
+    const DeviceState::Part *const is = after.find(place);
+    const auto items_of = [](const DeviceState::Part *part) {
+      return part != nullptr ? Items(part->items) : Items();
+    };
+    compare_items(was != nullptr ? *was : *is, items_of(was), items_of(is), changes);
   }
   return changes;
+}
+
+void compare_items(const DeviceState::Part &part, Items before, Items after,
+                   std::vector<Change> &changes) {
+  PartComparison(part, before, after, changes).run();
 }
 
 std::vector<ChangeStep> steps_of(const std::vector<Change> &changes) {
@@ -141,9 +148,7 @@ std::vector<ChangeStep> steps_of(const std::vector<Change> &changes) {
   return steps;
 }
 
-void apply_changes(const Device &device, const std::vector<Change> &changes) {
-  Numbering numbering = Numbering::of_device(device);
-  Target to = {device, numbering};
+void apply_changes(Target &to, const std::vector<Change> &changes) {
   for (const auto &[step, change] : steps_of(changes)) {
     check_interrupt();
     const DeviceState::Part &part = *change->part;

@@ -18,11 +18,15 @@ struct Change {
     return after == nullptr ? Edit::remove : Edit::modify;
   }
   const ItemStore::Item &item() const { return *(after != nullptr ? after : before); }
+  Change inverse() const { return {part, after, before}; }
 };
 
 // The changes that lead from one state to the other, in the order of images. after must have been
 // numbered like before. Throws Fault for a state that has an item twice.
 std::vector<Change> changes_between(const DeviceState &before, const DeviceState &after);
+// Adds those of the items of one part, to which the changes point.
+void compare_items(const DeviceState::Part &part, std::span<const ItemStore::Item> before,
+                   std::span<const ItemStore::Item> after, std::vector<Change> &changes);
 
 // What is done for a change in a phase.
 struct ChangeStep {
@@ -34,7 +38,7 @@ std::vector<ChangeStep> steps_of(const std::vector<Change> &changes);
 
 // Carries them out on a device that is as before, in the order of phases. Throws Fault at the first
 // change that the device refuses.
-void apply_changes(const Device &device, const std::vector<Change> &changes);
+void apply_changes(Target &to, const std::vector<Change> &changes);
 
 // An item in the words of commands: "-" or "+", the object, and what it holds.
 Row change_row(std::string_view sign, const DeviceState::Part &part, const ItemStore::Item &item);

@@ -23,6 +23,12 @@ ItemStore::Item ItemStore::add(const ItemView &item) {
   return added;
 }
 
+void ItemStore::clear() {
+  if (chunks_.size() > 1) chunks_.clear();
+  left_ = chunks_.empty() ? 0 : kChunk;
+  next_ = chunks_.empty() ? nullptr : chunks_.front().get();
+}
+
 namespace {
 
 // Visits every object with the kinds that it may have items of.

@@ -27,6 +27,8 @@ class ItemStore {
   };
 
   Item add(const ItemView &item);
+  // Forgets them all, and keeps room for some.
+  void clear();
 
  private:
   static constexpr size_t kChunk = 1u << 20;

@@ -47,6 +47,8 @@ using TextSink = std::function<void(std::string_view)>;
 
 // Writes the image in pieces of some size. Throws Fault. Counters are brought up to date first.
 void save_image(const Device &device, const TextSink &sink);
+// The same with these numbers of members and groups.
+void save_image(Source from, const TextSink &sink);
 
 // Adds what the image holds to the device. Throws Fault "FILE:LINE:COLUMN: ..." for the first line
 // that is no image or that the device refuses; the lines before it stay loaded.

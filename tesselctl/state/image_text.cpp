@@ -74,10 +74,13 @@ void print_object(ImagePrinter &printer, Source &from, std::span<const ItemKind 
 
 void save_image(const Device &device, const TextSink &sink) {
   Numbering numbering = Numbering::of_device(device);
-  Source from = {device, numbering};
+  save_image(Source{device, numbering}, sink);
+}
+
+void save_image(Source from, const TextSink &sink) {
   ImagePrinter printer(sink);
   printer.line(fmt::format("{}{} {}", kFirst, kImageVersion, program().name));
-  printer.line(fmt::format("pipes {}", device.pipes()));
+  printer.line(fmt::format("pipes {}", from.device.pipes()));
   for (size_t at = 0; at < kinds().size();) {
     const auto of_object = kinds_of_same_objects(at);
     at += of_object.size();

@@ -30,15 +30,15 @@ struct LoadCounts {
 struct Source {
   const Device &device;
   Numbering &numbering;
+  // The handle of the one item that is wanted, or the index of its cell. Kinds whose items have
+  // neither give all.
+  std::optional<uint32_t> only = {};
 };
 struct Target {
   const Device &device;
   Numbering &numbering;
   LoadCounts counts = {};  // of what was added
 };
-
-// What the numbers of items are: those of members or groups, or they have none.
-enum class Numbered : uint8_t { no, members, groups };
 
 // New numbers of the members or the groups of one profile; those that are missing stay.
 struct Renumbering {
@@ -76,7 +76,8 @@ class ObjectItems {
   // All that rows of such items may have, for Results::expect.
   virtual void add_samples_to(Row &row, Naming naming) const = 0;
 
-  // Visits what the device holds, in the order of images. Throws Fault.
+  // Visits what the device holds, in the order of images; with only the one item, as long as it is
+  // there. Throws Fault.
   virtual void read(Source &from, const ItemVisitor &visit) = 0;
   // Throws Fault at the word when the device refuses.
   virtual void write(Target &to, Edit edit, const ItemView &item, Word word) = 0;

@@ -22,9 +22,13 @@ class NumberMap {
     numbers_[handle] = number;
   }
   void add_next(uint32_t handle) { add(static_cast<uint32_t>(handles_.size() + 1), handle); }
+  // A number that the handle keeps: the handle itself where that is free and small enough to count
+  // up to, else the smallest that is free.
+  void add_lasting(uint32_t handle);
   void erase(uint32_t number) {
     numbers_.erase(handle_of(number));
     handles_.erase(number);
+    if (number < free_) free_ = number;
   }
   size_t size() const { return handles_.size(); }
   // 0 for an unknown one.
@@ -46,20 +50,32 @@ class NumberMap {
     return found == map.end() ? 0 : found->second;
   }
   bool by_handle_ = false;
+  uint32_t free_ = 1;  // numbers below are taken
   Map handles_;
   Map numbers_;
 };
 
+// What the numbers of items are: those of members or groups, or they have none.
+enum class Numbered : uint8_t { no, members, groups };
+
 struct ProfileNumbers {
   NumberMap members;
   NumberMap groups;
+
+  NumberMap &of(Numbered what) { return what == Numbered::groups ? groups : members; }
 };
 
 // Those of all profiles, by the handle of the action-data table.
 class Numbering {
  public:
   // As an image of the device numbers them. Throws Fault.
-  static Numbering of_device(const Device &device);
+  static Numbering of_device(const Device &device) {
+    return of_device(device, &NumberMap::add_next);
+  }
+  // With numbers that stay when members and groups come and go. Throws Fault.
+  static Numbering lasting(const Device &device) {
+    return of_device(device, &NumberMap::add_lasting);
+  }
 
   // With handles for numbers, as commands name what a device holds.
   static Numbering by_handle() {
@@ -76,6 +92,8 @@ class Numbering {
   bool is_identity() const;
 
  private:
+  static Numbering of_device(const Device &device, void (NumberMap::*add)(uint32_t handle));
+
   bool by_handle_ = false;
   std::map<uint32_t, ProfileNumbers> profiles_;
 };

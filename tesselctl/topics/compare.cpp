@@ -8,6 +8,7 @@
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/device/device_copy.hpp"
 #include "tesselctl/device/read_back.hpp"
+#include "tesselctl/state/save_point.hpp"
 #include "tesselctl/state/script.hpp"
 #include "tesselctl/state/verify.hpp"
 
@@ -64,11 +65,14 @@ void apply(Context &context, const Invocation &invocation) {
   DeviceState after = state_of(context, word);
   after.number_like(before);
   const std::vector<Change> changes = changes_between(before, after);
-  const std::unique_ptr<Device> kept = context.settings.atomic ? copy_of(context.device) : nullptr;
+  std::optional<SavePoint> kept;
+  if (context.settings.atomic) kept.emplace(context.device);
   try {
-    apply_changes(context.device, changes);
+    Numbering numbering = Numbering::of_device(context.device);
+    Target to = {context.device, numbering};
+    apply_changes(to, changes);
   } catch (const Fault &) {
-    if (kept) copy_back(*kept, context.device);
+    if (kept) kept->go_back();
     throw;
   }
   print_changes(context, changes);

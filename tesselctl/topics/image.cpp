@@ -6,6 +6,7 @@
 #include "tesselctl/device/device_copy.hpp"
 #include "tesselctl/device/table_info.hpp"
 #include "tesselctl/state/image_file.hpp"
+#include "tesselctl/state/save_point.hpp"
 #include "tesselctl/state/script.hpp"
 
 namespace tesselctl {
@@ -31,11 +32,11 @@ LoadCounts load_file(const Context &context, Word word) {
 
 // With --atomic a load that fails takes the device back to how it was.
 LoadCounts load_atomically(const Context &context, Word word) {
-  const std::unique_ptr<Device> before = copy_of(context.device);
+  const SavePoint before(context.device);
   try {
     return load_file(context, word);
   } catch (const std::exception &) {
-    copy_back(*before, context.device);
+    before.go_back();
     throw;
   }
 }
