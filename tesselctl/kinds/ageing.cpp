@@ -58,6 +58,12 @@ void note_expired(bf_device_id_t, pipe_object_handle_t table, pipe_entry_handle_
   static_cast<Events *>(events)->expired.push_back({table, entry});
 }
 
+void listen(Device &device, const TableInfo &table, Word word) {
+  Call call = device.prepare("idle_register_tmo_cb", table.name());
+  call.set("callback", reinterpret_cast<const void *>(&note_expired));
+  check(call.set("client_data", &device.events()).run(), word);
+}
+
 void enable(Context &context, const Invocation &invocation) {
   const TableLine line = ageing_line(context, invocation, {"mode", "sweep", "min", "max", "ttl"});
   const auto milliseconds = [&](const char *name, uint64_t otherwise) {
@@ -70,9 +76,7 @@ void enable(Context &context, const Invocation &invocation) {
   params.min_ttl_ms = milliseconds("min", 0);
   params.max_ttl_ms = milliseconds("max", 0);
   params.default_ttl_ms = milliseconds("ttl", 0);
-  Call listen = line.call("idle_register_tmo_cb");
-  listen.set("callback", reinterpret_cast<const void *>(&note_expired));
-  line.run(listen.set("client_data", &context.device.events()));
+  listen(context.device, line.table, line.word);
   line.run(line.call("idle_tmo_enable").set("params", &params));
   line.done("ages its entries");
 }
@@ -89,7 +93,13 @@ void advance(Context &context, const Invocation &invocation) {
   constexpr uint64_t kYear = 366ull * 24 * 3600 * 1000;
   std::vector<ExpiredEntry> &all_expired = context.device.events().expired;
   all_expired.clear();
-  soft_clock_advance(parse_limited(word, kYear, "the time"));
+  if (context.is_trial) {  // copies of devices have no listeners
+    for (const TableInfo &table : all_tables()) {
+      if (table.ages()) listen(context.device, table, word);
+    }
+  }
+  check(soft_device_clock_advance(context.device.id(), parse_limited(word, kYear, "the time")),
+        word);
   for (const ExpiredEntry &expired : all_expired) {
     const TableInfo table = table_of_handle(expired.table);
     EntryReader reader(context.device, table, EntryReader::Resources::settings);

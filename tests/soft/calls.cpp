@@ -110,6 +110,8 @@ Calls ageing_calls(uint32_t t) {
       CHANGE(pipe_mgr_idle_time_update_hit_state(ON(t), h.entry(), h.few() % 2)),
       READ(pipe_mgr_idle_time_get_hit_state(ON(t), h.entry(), h.word())),
       CHANGE(soft_clock_advance(10), BF_SUCCESS),
+      CHANGE(soft_device_clock_advance(h.d(), 10)),
+      READ(soft_device_clock_now(h.d(), h.x(&h.room.number))),
       END(pipe_mgr_idle_tmo_disable(ON(t))),
   };
 }

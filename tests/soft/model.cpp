@@ -141,7 +141,7 @@ soft_hit_t ModelDevice::pass(ModelTable &table, uint32_t pipe, const Bytes &key,
   soft_hit_t hit{};
   hit.is_default = entry == nullptr;
   if (entry == nullptr) entry = table.default_in(pipe);
-  const uint64_t now = soft_clock_now();
+  const uint64_t now = this->now();
   entry->hit(now);
   hit.entry = entry->handle;
   for (const auto &[handle, index] : entry->resources) {

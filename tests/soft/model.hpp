@@ -151,8 +151,10 @@ struct ModelDevice {
   std::map<std::pair<uint32_t, uint32_t>, CounterCell> counters;  // by pipe and index
   std::map<std::array<uint32_t, 3>, MeterCell> meters;            // by meter, pipe and index
   std::map<uint32_t, int32_t> adjustments;                        // of meters
+  uint64_t lead_ms = 0;
 
   ModelDevice();
+  uint64_t now() const { return soft_clock_now() + lead_ms; }
   uint64_t cost(uint32_t meter, const Count &traffic) const;
   // Entries, memberships and the fallback that refer to a member; entries that refer to a group.
   size_t uses(uint32_t type, uint32_t action_data_table, uint32_t reference) const;

@@ -172,7 +172,7 @@ void Beside::add_entry() {
   expect_update(expected, {handle, PIPE_UPDATE_ADD, entry.handle, 0});
   if (expected != BF_SUCCESS) return;
   ASSERT_EQ(table.by_handle(entry.handle), nullptr);
-  entry.hit_ms = soft_clock_now();
+  entry.hit_ms = model.now();
   if (!table.description->ages_entries) entry.ttl = 0;
   table.entries.push_back(entry);
 }

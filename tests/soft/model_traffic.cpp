@@ -98,12 +98,12 @@ void Beside::switch_ageing() {
             refused ? BF_INVALID_ARGUMENT : BF_SUCCESS);
   if (refused) return;
   table.ageing = params;
-  table.ageing_since_ms = soft_clock_now();
+  table.ageing_since_ms = model.now();
   for (ModelEntry &entry : table.entries) {
     if (notifies) {
       entry.ttl = entry.ttl == 0 ? preset : std::clamp(entry.ttl, params.min_ttl_ms, greatest);
     }
-    entry.hit(soft_clock_now());
+    entry.hit(model.now());
   }
 }
 
@@ -126,7 +126,7 @@ void Beside::change_age() {
                                                     : BF_SUCCESS;
     ASSERT_EQ(pipe_mgr_idle_time_update_hit_state(session, device, kRoute, entry, state), expected);
     if (expected != BF_SUCCESS) return;
-    if (state == PIPE_ENTRY_ACTIVE) found->hit(soft_clock_now());
+    if (state == PIPE_ENTRY_ACTIVE) found->hit(model.now());
     if (state == PIPE_ENTRY_IDLE) found->idle = true;
     return;
   }
@@ -138,7 +138,7 @@ void Beside::change_age() {
             expected);
   if (expected == BF_SUCCESS) {
     if (restart == 0) found->ttl = ttl;
-    found->hit(soft_clock_now());
+    found->hit(model.now());
   }
   if (found == nullptr) return;
   OK(pipe_mgr_mat_ent_get_idle_ttl(session, device, kRoute, entry, &read));
@@ -149,10 +149,19 @@ void Beside::change_age() {
 void Beside::advance_clock() {
   ModelTable &table = model.tables[kRoute];
   expired.clear();
-  soft_clock_advance(random.one_in(9) ? random() >> random.below(32) : random.below(40));
+  const uint64_t step = random.one_in(9) ? random() >> random.below(32) : random.below(40);
+  if (random.one_in(2)) {
+    soft_clock_advance(step);
+  } else {
+    OK(soft_device_clock_advance(device, step));
+    model.lead_ms += step;
+  }
+  uint64_t now = 0;
+  OK(soft_device_clock_now(device, &now));
+  ASSERT_EQ(now, model.now());
   std::vector<Expiry> expected;
   if (table.ageing && table.ageing->mode == PIPE_IDLE_NOTIFY) {
-    uint64_t looked = soft_clock_now();
+    uint64_t looked = model.now();
     const uint64_t interval = table.ageing->sweep_interval_ms;
     if (interval != 0) looked -= (looked - table.ageing_since_ms) % interval;
     for (ModelEntry &entry : table.entries) {
@@ -229,7 +238,7 @@ void Beside::change_meter_cell() {
     const auto cell = model.meters.find({meter, pipe, index});
     ASSERT_EQ(color, cell == model.meters.end()
                          ? uint8_t{SOFT_COLOR_GREEN}
-                         : cell->second.mark(model.cost(meter, traffic), soft_clock_now()));
+                         : cell->second.mark(model.cost(meter, traffic), model.now()));
   }
 }
 

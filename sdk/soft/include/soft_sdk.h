@@ -118,6 +118,12 @@ bf_status_t soft_packet(bf_device_id_t device, bf_pipe_id_t pipe, pipe_object_ha
 void soft_clock_advance(uint64_t milliseconds);
 uint64_t soft_clock_now(void);
 
+/* The same for one device alone: what it runs ahead of the process. A copy of a device, and
+ * what its state is replayed to, have its time. BF_INVALID_DEVICE means what it says,
+ * BF_INVALID_ARGUMENT: the out-parameter is null. */
+bf_status_t soft_device_clock_advance(bf_device_id_t device, uint64_t milliseconds);
+bf_status_t soft_device_clock_now(bf_device_id_t device, uint64_t *milliseconds);
+
 /* ---- Memory ---- */
 /* Bytes that an object of a device holds for its contents, or the whole device when handle is 0. */
 bf_status_t soft_memory_bytes(bf_device_id_t device, pipe_object_handle_t handle, uint64_t *bytes);

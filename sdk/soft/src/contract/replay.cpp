@@ -106,6 +106,7 @@ bf_status_t replay(Device &target, const Device &source, bf_pipe_id_t pipe,
   if (callback == nullptr) return BF_INVALID_ARGUMENT;
   copy_all<ActionDataTable>(target, source);
   copy_all<Selector>(target, source);
+  target.take_time_of(source);  // what entries age by
   copy_all<MatchEngine>(target, source);
   return report_all(target, Report(target, session, callback));
 }

@@ -2,6 +2,8 @@
 
 #include <bit>
 
+#include "soft_sdk.h"
+
 namespace soft {
 namespace {
 
@@ -42,7 +44,12 @@ bool Device::index_objects() {
   return true;
 }
 
+uint64_t Device::now_ms() const {
+  return soft_clock_now() + lead_ms_.load(std::memory_order_relaxed);
+}
+
 void Device::copy_from(const Device &other) {
+  take_time_of(other);
   for (const auto &object : objects_) object->copy_from(*other.find(object->handle()));
 }
 

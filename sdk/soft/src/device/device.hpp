@@ -11,6 +11,7 @@
 #pragma once
 
 #include <algorithm>
+#include <atomic>
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -87,7 +88,7 @@ class Object {
   // As soft_next_cell.
   virtual bf_status_t next_cell(uint32_t /*from*/, uint32_t *) { return BF_NOT_SUPPORTED; }
 
-  // The virtual clock shows a later time.
+  // The clock of the device shows a later time.
   virtual void clock_advanced(uint64_t /*now_ms*/) {}
 
   // Bytes held for contents, the object included.
@@ -105,9 +106,15 @@ class Object {
  protected:
   Object(pipe_object_handle_t handle, const void *type) : handle_(handle), type_(type) {}
 
+  // What the clock of the device shows.
+  uint64_t now_ms() const;
+
  private:
+  friend class Device;
+
   pipe_object_handle_t handle_;
   const void *type_;
+  const Device *device_ = nullptr;
 };
 
 template <class T, class Base = Object>
@@ -141,12 +148,27 @@ class Device {
   std::span<const std::unique_ptr<Object>> objects() const { return objects_; }
 
   // For engine sets, while the device is created.
-  void add(std::unique_ptr<Object> object) { objects_.push_back(std::move(object)); }
+  void add(std::unique_ptr<Object> object) {
+    object->device_ = this;
+    objects_.push_back(std::move(object));
+  }
 
   // Runs all engine sets. False when two objects have the same handle.
   bool create_objects();
 
-  // As the functions of Object, for all objects.
+  // The clock of the process, and how far that of the device was advanced beyond it.
+  uint64_t now_ms() const;
+  void advance(uint64_t milliseconds) {
+    lead_ms_.fetch_add(milliseconds, std::memory_order_relaxed);
+  }
+  void take_time_of(const Device &other) {
+    lead_ms_ = other.lead_ms_.load(std::memory_order_relaxed);
+  }
+  void announce_time() const {
+    for (const auto &object : objects_) object->clock_advanced(now_ms());
+  }
+
+  // As the functions of Object, for all objects; a copy has the clock of the other.
   void copy_from(const Device &other);
   void inherit(const Device &predecessor) noexcept;
 
@@ -165,7 +187,10 @@ class Device {
   std::vector<std::unique_ptr<Object>> objects_;
   std::vector<Place> places_;  // open addressing, at most half full
   uint32_t shift_ = 31;
+  std::atomic<uint64_t> lead_ms_{0};
 };
+
+inline uint64_t Object::now_ms() const { return device_->now_ms(); }
 
 // In which engines are created and in which they may call one another under lock.
 enum class EngineOrder { kTables, kSelectors, kProfiles, kStateful, kServices };

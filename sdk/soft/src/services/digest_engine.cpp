@@ -80,7 +80,7 @@ bool DigestEngine::collect(bf_pipe_id_t pipe, std::string_view entry) {
   if (message.head.entry_count == 0) {
     message.entries.reserve(size_t{SOFT_DIGEST_BATCH} * entry_bytes_);
     message.head = {device_, pipe, handle(), 0, entry_bytes_, message.entries.data()};
-    message.begun_ms = soft_clock_now();
+    message.begun_ms = now_ms();
   }
   if (known_.contains(entry)) return false;
   known_.emplace(entry);
@@ -121,7 +121,7 @@ void DigestEngine::set_timeout(uint32_t timeout_us) {
   {
     const std::lock_guard lock(mutex_);
     timeout_us_ = timeout_us;
-    close_due(soft_clock_now());
+    close_due(now_ms());
   }
   send_closed();
 }

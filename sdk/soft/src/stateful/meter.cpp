@@ -57,7 +57,7 @@ bf_status_t Meter::mark(bf_pipe_id_t pipe, uint32_t index, uint64_t packets, uin
   cells_.in(pipe, [&](Cells &cells) {
     MeterCell *cell = cells.find(index);
     if (cell == nullptr || !cell->set) return;
-    *color = mark_traffic(cell->spec, tokens, soft_clock_now(), &cell->buckets);
+    *color = mark_traffic(cell->spec, tokens, now_ms(), &cell->buckets);
   });
   return BF_SUCCESS;
 }

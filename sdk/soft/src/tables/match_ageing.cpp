@@ -22,7 +22,7 @@ bf_status_t MatchEngine::start_ageing(const pipe_mgr_idle_params_t &params) {
     return BF_INVALID_ARGUMENT;
   }
   const std::lock_guard lock(mutex_);
-  const uint64_t now = soft_clock_now();
+  const uint64_t now = now_ms();
   ageing_ = true;
   ageing_params_ = params;
   ageing_since_ms_ = swept_ms_ = std::max(now, swept_ms_);
@@ -81,7 +81,7 @@ bf_status_t MatchEngine::set_ttl(pipe_entry_handle_t entry, uint32_t ttl, bool r
   if (!entries_->contains(entry)) return BF_OBJECT_NOT_FOUND;
   if (!restart_only) {
     if (const bf_status_t status = admit_ttl(&ttl); status != BF_SUCCESS) return status;
-    entries_->set_ttl(entry, ttl, soft_clock_now());
+    entries_->set_ttl(entry, ttl, now_ms());
   }
   note_hit(entry);
   return BF_SUCCESS;
@@ -127,7 +127,7 @@ bool MatchEngine::is_idle(pipe_entry_handle_t entry, const EntryView &view) cons
 }
 
 void MatchEngine::note_hit(pipe_entry_handle_t entry) {
-  entries_->hit(entry, soft_clock_now());
+  entries_->hit(entry, now_ms());
   if (!marked_idle_.empty()) marked_idle_.erase(entry);
 }
 

@@ -79,7 +79,7 @@ bf_status_t MatchEngine::insert(const EntryKey &key, Checked &checked, uint32_t 
   const EntryAction &action = checked.action;
   bf_status_t status = acquire_reference(action);
   if (status != BF_SUCCESS) return status;
-  status = entries_->add(key, action, ttl, soft_clock_now(), entry);
+  status = entries_->add(key, action, ttl, now_ms(), entry);
   if (status != BF_SUCCESS) {
     release_reference(action.type, action.reference);
     return status;

@@ -107,7 +107,7 @@ uint8_t MatchEngine::note_traffic(bf_pipe_id_t pipe, const soft_traffic_t &traff
 
 uint8_t MatchEngine::mark_direct(pipe_entry_handle_t entry, const soft_traffic_t &traffic) {
   const uint64_t cost = device_.find<Meter>(direct_meter_)->cost(traffic.packets, traffic.bytes);
-  return mark_traffic(meter_of(entry), cost, soft_clock_now(), &buckets_[entry]);
+  return mark_traffic(meter_of(entry), cost, now_ms(), &buckets_[entry]);
 }
 
 // Fills action, group and member of the hit. The entry keeps what it refers to in being.
