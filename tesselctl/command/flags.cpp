@@ -97,6 +97,8 @@ constexpr Flag kFlags[] = {
     {"--openmetrics", FlagOf::named, turn_on<&Settings::openmetrics>,
      "prints OpenMetrics, for monitoring systems"},
     {"--script", FlagOf::named, turn_on<&Settings::script>, "prints commands instead"},
+    {"--delta", FlagOf::named, turn_on<&Settings::delta>,
+     "prints what numbers grow by a second, from one round to the next"},
     {"--atomic", FlagOf::named, turn_on<&Settings::atomic>, "changes all or nothing"},
     {"--from", FlagOf::named, set_from, "goes on at that line of the script", "LINE"},
     {"--replace", FlagOf::named, turn_on<&Settings::replace>, "modifies what is there already"},

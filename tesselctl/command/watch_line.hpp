@@ -11,6 +11,7 @@ struct Watch {
   std::chrono::milliseconds period{1000};
   uint64_t rounds = 0;  // 0 until an interrupt
   size_t first = 0;     // the word where the command begins
+  bool delta = false;   // rates are shown
 };
 
 // The words are those of the line, "watch" and behind. Throws Fault: no command, one that cannot be

@@ -87,7 +87,7 @@ Row cell_row(const soft_counter_t &counter, uint32_t cell, const Values &values,
              const std::string &label) {
   Row row;
   row.object("counter", counter.name).number(counter.table != 0 ? "entry" : "index", cell);
-  row.number("packets", values.packets).number("bytes", values.bytes);
+  row.amount("packets", values.packets).amount("bytes", values.bytes);
   return label.empty() ? row : row.text("label", label);
 }
 

@@ -103,7 +103,7 @@ Row table_row(const TableInfo &table) {
 
 template <class T>
 Row count_row(const TableInfo &table, T entries) {
-  return table_row(table).number("entries", entries);
+  return table_row(table).amount("entries", entries);
 }
 
 void add_entries(Context &context, const Invocation &invocation, bool replaces) {

@@ -172,7 +172,7 @@ void CommonValues::print_commands(Script &script, const ItemEdit &edit) const {
 // ---- Commands ----
 
 Row cell_row(const RegisterLine &line, uint64_t index, const Numbers &values) {
-  return line.row().number("index", index).list("values", values);
+  return line.row().number("index", index).amounts("values", values);
 }
 
 void read(Context &context, const Invocation &invocation) {

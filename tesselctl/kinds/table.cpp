@@ -25,7 +25,7 @@ Row &add_capacity(Row &row, std::string_view name, uint32_t capacity) {
 }
 
 Row &add_occupancy(Row &row, uint32_t entries, uint32_t capacity) {
-  row.number("entries", entries);
+  row.amount("entries", entries);
   return capacity == 0 ? row : row.number("percent", uint64_t{entries} * 100 / capacity);
 }
 

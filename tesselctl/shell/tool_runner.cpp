@@ -62,12 +62,17 @@ class TrialScope {
   size_t &trials_;
 };
 
-// The command of the line in its place, with blanks for the words of watch before it, so that the
-// columns of faults stay true.
-std::string watched_line(std::string_view line, Words words, const Watch &watch) {
+// The command of the line in its place, with blanks for the words of watch before it and its own
+// option, so that the columns of faults stay true.
+std::string watched_line(std::string_view line, Words words, const TakenFlags &flags,
+                         const Watch &watch) {
   std::string text(line);
-  for (const Word &word : words.first(watch.first)) {
+  const auto blank = [&](const Word &word) {
     text.replace(word.column - 1, word.text.size(), word.text.size(), ' ');
+  };
+  std::ranges::for_each(words.first(watch.first), blank);
+  for (const Word &word : flags.words) {
+    if (word.text == "--delta") blank(word);
   }
   return text;
 }
@@ -88,7 +93,8 @@ LineOutcome ToolRunner::run(const SourceLine &source) {
     }
     if (first == "watch") {
       watch = read_watch(words);
-      line = watched_line(source.text, words, watch);
+      watch.delta = settings.delta;
+      line = watched_line(source.text, words, flags, watch);
     } else {
       Invocation invocation;
       flags.check(find_command(words, invocation));

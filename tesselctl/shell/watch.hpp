@@ -23,7 +23,8 @@ class WatchRounds {
   LineOutcome run(const Watch &watch, const SourceLine &source, bool json);
 
  private:
-  LineOutcome draw_round(WatchScreen &screen, const SourceLine &source);
+  std::string run_held(const SourceLine &source, LineOutcome &outcome);
+  LineOutcome draw_round(WatchScreen &screen, const SourceLine &source, bool delta);
 
   Runner *runner_;
   Output *out_;

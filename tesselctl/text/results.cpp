@@ -2,10 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
+#include <cmath>
+#include <utility>
 
 #include "common/nearest.hpp"
 #include "tesselctl/text/number.hpp"
 #include "tesselctl/text/utf8.hpp"
+#include "tesselctl/text/words.hpp"
 
 namespace tesselctl {
 
@@ -16,7 +20,8 @@ constexpr size_t kMeasured = 1000;
 
 // Items that stand in a column of their own; the others follow as words.
 bool has_column(const Item &item) {
-  return item.group != Row::kParameters && item.kind != Item::Kind::list;
+  return item.group != Row::kParameters && item.group != Row::kAbout &&
+         item.kind != Item::Kind::list;
 }
 
 bool is_digit(char c) { return c >= '0' && c <= '9'; }
@@ -53,6 +58,7 @@ void Results::begin(const Settings &settings, std::string_view command, bool lis
   listing_ = listing;
   json_started_ = false;
   count_ = 0;
+  amounts_ = {std::chrono::steady_clock::now()};
   summary_.reset();
   names_.clear();
   filter_states_.assign(settings.filters.size(), {});
@@ -113,7 +119,35 @@ void Results::expect(const Row &row) {
   }
 }
 
+// Of one number, or of several with commas between them. New cells and tables begin with 0.
+std::string Results::rate_of(const std::string &amount, std::string_view now) {
+  const auto next = [](std::string_view &list) {
+    const std::string_view text = take_until(list, ',');
+    int64_t number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+  };
+  amounts_.values[amount] = now;
+  const auto found = amounts_before_.values.find(amount);
+  std::string_view before;
+  if (found != amounts_before_.values.end()) before = found->second;
+  const std::chrono::duration<double> passed = amounts_.when - amounts_before_.when;
+  std::string rates;
+  while (!now.empty()) {
+    const double rate = static_cast<double>(next(now) - next(before)) / passed.count();
+    // In tenths; the sum is no negative zero.
+    rates += fmt::format("{}{}", rates.empty() ? "" : ",", std::round(rate * 10) / 10 + 0.0);
+  }
+  return rates;
+}
+
 void Results::row(const Row &row) {
+  if (!settings_.delta) return show(row);
+  show(row.with_rates(
+      [this](const std::string &amount, std::string_view now) { return rate_of(amount, now); }));
+}
+
+void Results::show(const Row &row) {
   if (!passes(row)) return;
   ++count_;
   if (settings_.count) return;
@@ -231,6 +265,7 @@ void Results::check_names() const {
 }
 
 void Results::end() {
+  amounts_before_ = std::exchange(amounts_, {});
   check_names();
   if (!settings_.sort.empty()) {
     const auto value = [&](const Row &row) {

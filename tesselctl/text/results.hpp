@@ -1,10 +1,12 @@
 // What commands answer, in the form that was asked for.
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <set>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "tesselctl/text/fault.hpp"
@@ -31,6 +33,7 @@ struct Settings {
   bool script = false;
   bool atomic = false;
   bool replace = false;
+  bool delta = false;       // amounts as what they grow by a second
   bool keep_going = false;  // of a script: behind a line with a fault
   bool help = false;
   uint64_t from = 1;  // the line of a script that is run first
@@ -77,6 +80,8 @@ class Results {
   void fail(const Fault &fault, std::string_view file, uint64_t line);
 
  private:
+  void show(const Row &row);
+  std::string rate_of(const std::string &amount, std::string_view now);
   bool passes(const Row &row);
   bool passes(size_t filter, const Item &item);
   void note_names(const Row &row);
@@ -93,6 +98,13 @@ class Results {
   bool listing_ = false;
   bool json_started_ = false;
   uint64_t count_ = 0;
+  // The amounts of a command, and when it had them.
+  struct Amounts {
+    std::chrono::steady_clock::time_point when = {};
+    std::unordered_map<std::string, std::string> values = {};
+  };
+  Amounts amounts_;  // only for what they grow by
+  Amounts amounts_before_;
   struct Summary {
     Row row;
     std::string text;

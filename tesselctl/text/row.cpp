@@ -45,13 +45,6 @@ Number parse_wanted(std::string_view text) {
   throw Fault("this is not a number");
 }
 
-bool matches_real(const void *, std::string_view shown, Word wanted) {
-  if (is_pattern(wanted.text)) return matches_pattern(shown, wanted, "0123456789.e+-");
-  const std::optional<float> number = parse_float(wanted.text);
-  if (!number) throw Fault("this is not a number");
-  return number == parse_float(shown);
-}
-
 }  // namespace
 
 bool matches_pattern(std::string_view text, std::string_view pattern) {
@@ -100,6 +93,13 @@ bool matches_number(const void *most, std::string_view shown, Word wanted) {
     throw Fault(fmt::format("the number is at most {}", limit));
   }
   return parse_number(shown) == number;
+}
+
+bool matches_real(const void *, std::string_view shown, Word wanted) {
+  if (is_pattern(wanted.text)) return matches_pattern(shown, wanted, "0123456789.e+-");
+  const std::optional<float> number = parse_float(wanted.text);
+  if (!number) throw Fault("this is not a number");
+  return number == parse_float(shown);
 }
 
 bool matches_numbered(const void *, std::string_view shown, Word wanted) {
@@ -159,6 +159,22 @@ Row &Row::field(std::string_view group, std::string_view name, std::string value
   const bool is_number = value.find_first_not_of("0123456789") == std::string::npos;
   const Item::Kind kind = is_number ? Item::Kind::number : Item::Kind::text;
   return add({kind, group, std::string(name), std::move(value), {}, of});
+}
+
+Row Row::with_rates(const RateOf &rate_of) const {
+  Row row = *this;
+  std::string before;
+  for (Item &item : row.items_) {
+    if (!item.is_amount) {
+      before += item.value + " ";
+      continue;
+    }
+    item.value = rate_of(before + item.name, item.value);
+    item.group = kRates;
+    item.unit = "/s";
+    if (item.kind == Item::Kind::number) item.of = {matches_real};
+  }
+  return row;
 }
 
 Row &Row::anything(std::string_view name, ValueKind of) {

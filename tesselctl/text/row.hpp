@@ -11,6 +11,7 @@
 
 #include <concepts>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <string>
 #include <string_view>
@@ -43,6 +44,7 @@ bool matches_pattern(std::string_view shown, Word pattern, std::string_view char
 bool matches_text(const void *, std::string_view shown, Word wanted);
 bool matches_number(const void *most, std::string_view shown, Word wanted);
 bool matches_numbered(const void *, std::string_view shown, Word wanted);  // "#1"
+bool matches_real(const void *, std::string_view shown, Word wanted);
 bool matches_numbers(const void *, std::string_view shown, Word wanted);
 template <std::unsigned_integral T>
 inline constexpr uint64_t kMost = std::numeric_limits<T>::max();
@@ -60,12 +62,15 @@ struct Item {
   std::string value;
   std::string_view unit;  // "kbit/s": in words only; a constant
   ValueKind of = {};
+  bool is_amount = false;  // it grows and shrinks, as no key, handle or setting does
 };
 
 class Row {
  public:
   static constexpr std::string_view kKey = "key";
   static constexpr std::string_view kParameters = "parameters";
+  static constexpr std::string_view kRates = "rates";
+  static constexpr std::string_view kAbout = "about";
 
   Row &object(std::string_view name, std::string_view value) {
     return add({Item::Kind::object, {}, std::string(name), std::string(value), {}, {}});
@@ -89,6 +94,21 @@ class Row {
   }
   Row &real(std::string_view name, float value);
   Row &list(std::string_view name, const std::vector<uint64_t> &values);
+  template <std::unsigned_integral T>
+  Row &amount(std::string_view name, T value) {
+    number(name, value);
+    items_.back().is_amount = true;
+    return *this;
+  }
+  Row &amounts(std::string_view name, const std::vector<uint64_t> &values) {
+    list(name, values);
+    items_.back().is_amount = true;
+    return *this;
+  }
+  // The row with its amounts as what they grow by a second. An amount goes by its name and the
+  // values before it.
+  using RateOf = std::function<std::string(const std::string &amount, std::string_view now)>;
+  Row with_rates(const RateOf &rate_of) const;
   // A value with a notation of its own; a number in JSON where it is written as one.
   Row &field(std::string_view group, std::string_view name, std::string value, ValueKind of);
   // Of a field that matches anything: found, but neither printed nor one of the items.

@@ -43,7 +43,7 @@ constexpr Command kCommands[] = {
      .summary = "repeats a command that asks or lists, or age advance, every SECONDS (1)",
      .run = refuse_watch,
      .kind = Kind::lists,
-     .flags = "--raw",
+     .flags = "--raw --delta",
      .where = Where::tool},
 };
 
