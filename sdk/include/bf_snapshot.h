@@ -27,8 +27,9 @@ bf_status_t bf_snapshot_capture_trigger_set(uint32_t snapshot, const void *value
 /* Size in bytes of a whole capture and of one stage of it. */
 bf_status_t bf_snapshot_capture_phv_fields_dict_size(uint32_t snapshot, uint32_t *total_size,
                                                      uint32_t *stage_size);
-/* Copies the capture of a pipe, stage after stage. control receives one bf_snapshot_control_t a
- * stage and may be null; captures is the number of stages captured. */
+/* Copies the capture of a pipe, stage after stage, into fields, which has room for the total size.
+ * control receives one bf_snapshot_control_t a stage and may be null; captures is the number of
+ * stages captured. */
 bf_status_t bf_snapshot_capture_get(uint32_t snapshot, uint16_t pipe, void *fields,
                                     bf_snapshot_control_t *control, uint32_t *captures);
 

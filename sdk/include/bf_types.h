@@ -42,7 +42,7 @@ typedef uint32_t bf_device_id_t;
 typedef uint32_t bf_pipe_id_t;
 #define BF_ALL_PIPES 0xffffu
 
-/* Handles that the SDK issues at run time. */
+/* Handles that the SDK issues at run time; 0 and 0xffffffff are none. */
 typedef uint32_t pipe_session_handle_t;
 typedef uint32_t pipe_entry_handle_t;
 typedef uint32_t pipe_member_handle_t;

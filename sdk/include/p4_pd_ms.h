@@ -1,6 +1,8 @@
 /* Member-selector state: a shadow of the members and groups of an action profile, with the action
  * of each, per device. One state object per profile; the library that uses it creates it and the
- * helper owns it. */
+ * helper owns it. Any number of threads may use a state at once. A device of which a state knows
+ * nothing has no members and groups in it. BF_OBJECT_NOT_FOUND for a member or group that the state
+ * does not know, and for one that has no action yet. */
 #ifndef P4_PD_MS_H
 #define P4_PD_MS_H
 

@@ -25,7 +25,7 @@ bf_status_t pipe_mgr_hash_calc_seed_set(pipe_session_handle_t session, bf_device
                                         pipe_object_handle_t calculation, uint64_t seed);
 bf_status_t pipe_mgr_hash_calc_seed_get(pipe_session_handle_t session, bf_device_id_t device,
                                         pipe_object_handle_t calculation, uint64_t *seed);
-/* Attributes of the fields of a list. */
+/* Attributes of the fields of a list; null for none. */
 bf_status_t pipe_mgr_hash_calc_input_field_attribute_set(
     pipe_session_handle_t session, bf_device_id_t device, pipe_object_handle_t calculation,
     pipe_object_handle_t field_list, uint32_t count, const pipe_mgr_hash_attribute_t *attributes);
@@ -38,7 +38,7 @@ bf_status_t pipe_mgr_hash_calc_input_field_attribute_get(
     pipe_session_handle_t session, bf_device_id_t device, pipe_object_handle_t calculation,
     pipe_object_handle_t field_list, uint32_t max_count, pipe_mgr_hash_attribute_t *attributes,
     uint32_t *filled);
-/* The hash of a byte stream: hash_length bytes, most significant first. */
+/* The hash of a byte stream, null when it is empty: hash_length bytes, most significant first. */
 bf_status_t pipe_mgr_hash_calc_calculate_hash_value(pipe_session_handle_t session,
                                                     bf_device_id_t device,
                                                     pipe_object_handle_t calculation,

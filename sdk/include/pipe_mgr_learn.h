@@ -16,7 +16,7 @@ bf_status_t pipe_mgr_lrn_digest_notification_register(pipe_session_handle_t sess
 bf_status_t pipe_mgr_lrn_digest_notification_deregister(pipe_session_handle_t session,
                                                         bf_device_id_t device,
                                                         pipe_object_handle_t digest);
-/* Gives a message back; its entries may be learnt anew. */
+/* Gives a message back; its entries may be learnt anew. Allowed inside of the callback. */
 bf_status_t pipe_mgr_flow_lrn_notify_ack(pipe_session_handle_t session, pipe_object_handle_t digest,
                                          pipe_mgr_digest_message_t *message);
 /* How long the device collects entries before it sends a message, in microseconds. */

@@ -81,8 +81,9 @@ bf_status_t pipe_mgr_table_get_default_entry(pipe_session_handle_t session, bf_d
                                              pipe_mgr_action_spec_t *action_spec,
                                              pipe_object_handle_t *action, bool read_from_hardware);
 /* ---- Read-back and enumeration ---- */
-/* Fills match and action_spec, whose buffers belong to the caller. The value and mask pointers of
- * match become null when the entry has no key. */
+/* Fills match and action_spec, whose buffers belong to the caller: value and mask have room for
+ * byte_count bytes, or are null in a table without a key; the data bytes may be null, and are left
+ * out then. The value and mask pointers of match become null when the entry has no key. */
 bf_status_t pipe_mgr_get_entry(pipe_session_handle_t session, pipe_object_handle_t table,
                                bf_device_id_t device, pipe_entry_handle_t entry,
                                pipe_mgr_match_spec_t *match, pipe_mgr_action_spec_t *action_spec,

@@ -87,7 +87,8 @@ bf_status_t pipe_mgr_get_word_llp_active_members(pipe_session_handle_t session,
                                                  pipe_object_handle_t selector, uint32_t word,
                                                  uint32_t count, pipe_member_handle_t *members);
 /* ---- Callbacks ---- */
-/* Updates of the groups of a selector, for the owner of the profile; a null callback ends it. */
+/* Updates of the groups of a selector, for the owner of the profile; a null callback ends it.
+ * Session 0 stands for none. */
 bf_status_t pipe_mgr_sel_tbl_register_cb(pipe_session_handle_t session, bf_device_id_t device,
                                          pipe_object_handle_t selector,
                                          pipe_mgr_sel_update_cb_t callback, void *cookie);

@@ -172,7 +172,8 @@ enum { PIPE_MEMBER_ACTIVE = 0, PIPE_MEMBER_INACTIVE = 1 };
 /* A synchronisation is done; called once. */
 typedef void (*pipe_mgr_sync_cb_t)(bf_device_id_t device, void *cookie);
 
-/* Cells to fill: count is the capacity before the call and the number filled after it. */
+/* Cells to fill: count is the capacity before the call and the number filled after it. cells is
+ * null where the capacity is 0. */
 typedef struct pipe_stful_query {
   uint32_t count;
   pipe_stful_cell_t *cells;
