@@ -82,7 +82,9 @@ def check_pages(prefix, source, cmake, toolchain, compiler):
     if toolchain:
         env["CMAKE_TOOLCHAIN_FILE"] = toolchain
     run(sys.executable, source / "tests/tool/transcript.py", prefix / "bin/tesselctl",
-        source / "README.md", source / "docs/new-program.md", env=env)
+        source / "README.md",
+        *(source / f"docs/{page}.md" for page in ("new-program", "soft-sdk")),
+        env=env)
 
 
 def main():
