@@ -83,7 +83,7 @@ def check_pages(prefix, source, cmake, toolchain, compiler):
         env["CMAKE_TOOLCHAIN_FILE"] = toolchain
     run(sys.executable, source / "tests/tool/transcript.py", prefix / "bin/tesselctl",
         source / "README.md",
-        *(source / f"docs/{page}.md" for page in ("new-program", "soft-sdk", "statuses")),
+        *(source / f"docs/{page}.md" for page in ("new-program", "porting", "soft-sdk", "statuses")),
         env=env)
 
 
