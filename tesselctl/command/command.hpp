@@ -33,7 +33,7 @@ struct Context {
   // Handles that commands were asked to remember (as=NAME), for $NAME.
   std::map<std::string, uint32_t, std::less<>> labels = {};
   Changed changed = Changed::no;
-  // Set by commands that compare when they found a difference.
+  // Set by commands that compare when they found a difference, and by one that found a defect.
   bool differs = false;
   // What the names of files are relative to, when that is not where this process works.
   std::string directory = {};

@@ -79,9 +79,10 @@ DeviceState DeviceState::of_file(const std::string &path, std::string_view shown
   return state;
 }
 
-DeviceState DeviceState::of_device(const Device &device, const Wanted &is_wanted) {
+DeviceState DeviceState::of_device(const Device &device, const Wanted &is_wanted, Naming naming) {
   DeviceState state;
-  Numbering numbering = Numbering::of_device(device);
+  Numbering numbering =
+      naming == Naming::handles ? Numbering::by_handle() : Numbering::of_device(device);
   Source from = {device, numbering};
   for_each_object([&](const Place &place, const ItemKind &kind, const char *name) {
     if (is_wanted && !is_wanted(kind.object, name)) return;

@@ -55,7 +55,8 @@ class DeviceState {
   static DeviceState of_file(const std::string &path, std::string_view shown);
   // All of the device, or the objects alone that are wanted.
   using Wanted = std::function<bool(const ObjectKind &, const char *object)>;
-  static DeviceState of_device(const Device &device, const Wanted &is_wanted = {});
+  static DeviceState of_device(const Device &device, const Wanted &is_wanted = {},
+                               Naming naming = Naming::numbers);
 
   const std::map<Place, Part> &parts() const { return parts_; }
   const Part *find(const Place &place) const;

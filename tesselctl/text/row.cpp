@@ -186,6 +186,14 @@ void Row::change(std::string_view name, std::string value) {
   std::ranges::find(items_, name, &Item::name)->value = std::move(value);
 }
 
+Row &Row::append(std::string_view name, const Row &other) {
+  const size_t first = items_.size();
+  append(other);
+  for (size_t at = first; at < items_.size(); ++at) items_[at].group = name;
+  if (first < items_.size()) items_[first].before = name;
+  return *this;
+}
+
 const Item *Row::find(std::string_view name) const {
   const Item *found = nullptr;
   for (const auto *items : {&items_, &unshown_}) {
@@ -198,8 +206,10 @@ const Item *Row::find(std::string_view name) const {
 }
 
 std::string item_words(const Item &item) {
-  if (item.kind == Item::Kind::object) return item.value;
-  std::string text = item.name + "=" + item.value;
+  std::string text(item.before);
+  if (!text.empty()) text += ' ';
+  if (item.kind == Item::Kind::object) return text + item.value;
+  text += item.name + "=" + item.value;
   if (!item.unit.empty()) text += " " + std::string(item.unit);
   return text;
 }

@@ -63,6 +63,7 @@ struct Item {
   std::string_view unit;  // "kbit/s": in words only; a constant
   ValueKind of = {};
   bool is_amount = false;  // it grows and shrinks, as no key, handle or setting does
+  std::string_view before = {};  // a word in front of it, in words only; a constant
 };
 
 class Row {
@@ -125,6 +126,9 @@ class Row {
     return *this;
   }
   Style style() const { return style_; }
+
+  // What the row is about beside its own: in an object of that name, or behind it as a word.
+  Row &append(std::string_view name, const Row &other);
 
   const std::vector<Item> &items() const { return items_; }
   // Gives the item of that name another text.
