@@ -5,7 +5,6 @@
 #include <bit>
 #include <cstdlib>
 #include <random>
-#include <sstream>
 
 #include "tesselctl/program/value.hpp"
 #include "tesselctl/text/files.hpp"
@@ -105,14 +104,15 @@ class RealData : public ToolTest {
   void add_rules(const std::string &file) {
     FileLines lines(file);
     for (std::string_view line; lines.next(line);) {
-      if (line.starts_with('#')) continue;
-      std::istringstream words{std::string(line)};
-      const std::vector<std::string> word(std::istream_iterator<std::string>(words), {});
-      const std::string protocol = "0x" + word[8].substr(0, 2) + "&0x" + word[8].substr(3);
+      std::vector<Word> words;
+      split_words(line, words);
+      if (words.empty()) continue;
+      const auto word = [&](size_t at) { return words[at].text; };
       const std::string key =
-          fmt::format("priority={} sip={} dip={} srcPort={}..{} dstPort={}..{}", word[1], word[2],
-                      word[3], word[4], word[5], word[6], word[7]);
-      EXPECT_EQ(run("add firewallPolicy " + key + " protocol=" + protocol + kDrop), "");
+          fmt::format("priority={} sip={} dip={} srcPort={}..{} dstPort={}..{} protocol=0x{}&0x{}",
+                      word(1), word(2), word(3), word(4), word(5), word(6), word(7),
+                      word(8).substr(0, 2), word(8).substr(3));
+      EXPECT_EQ(run("add firewallPolicy " + key + kDrop), "");
     }
   }
 };
