@@ -122,7 +122,8 @@ class Lint {
     for (const Item &item : part.items) {
       const std::string_view value = item.view().value;
       if (what == "fallback") {
-        used_.emplace(Numbered::members, profile, read_bytes<uint64_t>(value));
+        used_.emplace(Numbered::members, profile,
+                      static_cast<uint32_t>(read_bytes<uint64_t>(value)));
       } else if (what == "group") {
         for (const Membership &one : GroupValue(value).members) {
           used_.emplace(Numbered::members, profile, one.member);
