@@ -55,8 +55,9 @@ struct Member {
 };
 
 enum class Match : uint8_t { exact, ternary, lpm };
-// How people write a value.
-enum class Notation : uint8_t { number, port, vport, ipv4, ipv6, mac };
+// How people write a value. A protocol is that of an IP header, a service a TCP or UDP port:
+// numbers that have names too.
+enum class Notation : uint8_t { number, port, vport, ipv4, ipv6, mac, protocol, service };
 
 // A value of a record as people name and write it: a member, or two that are the upper and the
 // lower half of a MAC address.
@@ -114,6 +115,13 @@ struct Routes {
   const char *action;  // null without such tables
 };
 
+// A ternary table for access rules, and the fields of its key that a rule is about: source and
+// destination address, source and destination port, protocol, and TCP flags or null.
+struct Acl {
+  const char *table;
+  const char *fields[6];  // names of members
+};
+
 // Bytes that callers make room for, the NUL of a text included. Constants of the header.
 struct Sizes {
   size_t action_name;
@@ -146,6 +154,7 @@ struct Binding {
   RecordList captures;
   size_t capture_limit;  // records that a caller has room for
   Routes routes;
+  std::span<const Acl> acls;
 };
 
 // A number of the sizes of all records that a module hands over: one that was built with others has
@@ -157,7 +166,7 @@ constexpr uint32_t layout_of() {
   return layout;
 }
 inline constexpr uint32_t kLayout =
-    layout_of<Parameter, Export, ExportList, Member, Field, Record, RecordList, Routes, Sizes,
+    layout_of<Parameter, Export, ExportList, Member, Field, Record, RecordList, Routes, Acl, Sizes,
               Binding, soft_key_field_t, soft_action_t, soft_cell_t, soft_default_t, soft_table_t,
               soft_profile_t, soft_counter_t, soft_meter_t, soft_register_t, soft_hash_t,
               soft_digest_field_t, soft_digest_t, soft_value_set_t, soft_snapshot_field_t,

@@ -376,6 +376,9 @@ struct FieldFacts {
   std::vector<FieldHint> hints;  // the first that fits decides
   // Fields and parameters that hold IPv4 addresses without a hint of their schema.
   std::vector<std::string> v4_addresses;
+  // Fields and parameters of which numbers have names.
+  std::vector<std::string> protocols;
+  std::vector<std::string> services;
   std::vector<Join> joins;
 };
 
@@ -387,6 +390,22 @@ struct Routes {
   Ref<Action> action;  // of its one parameter, the next hop
   std::vector<Ref<Table>> tables;
 };
+
+// --- Access rules ---------------------------------------------------------------------------
+
+// Where tools load access rules into.
+struct Acl {
+  Place place;
+  Ref<Table> table;
+  std::vector<Ref<KeyField>> fields;  // by kAclFields; flags may be missing
+};
+struct AclField {
+  std::string_view key;
+  unsigned width;  // bits that it must have; 0 for any
+};
+inline constexpr AclField kAclFields[] = {{"source", 32},      {"destination", 32},
+                                          {"source_port", 16}, {"destination_port", 16},
+                                          {"protocol", 8},     {"flags", 0}};
 
 // --- Handles --------------------------------------------------------------------------------
 
@@ -453,6 +472,7 @@ struct Program {
   std::vector<Label> labels;
   FieldFacts field_facts;
   std::optional<Routes> routes;
+  std::vector<Acl> acls;
   std::vector<Handle> handles;  // ascending
   std::vector<ToolRecords> tool_records;
 

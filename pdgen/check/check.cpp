@@ -69,6 +69,23 @@ void check_joined(const Program &program, const Join &join, const Action &action
                      action.name, first->field.name, place_text(first->place));
 }
 
+// Rules are of addresses, ports and a protocol that may each be left open.
+void check_acls(const Program &program, Diagnostics &diagnostics) {
+  for (const Acl &acl : program.acls) {
+    for (std::size_t i = 0; i < acl.fields.size(); ++i) {
+      const Ref<KeyField> &field = acl.fields[i];
+      const auto [key, width] = kAclFields[i];
+      if (!field) continue;
+      const bool fits = width == 0 ? field->width <= 32 : field->width == width;
+      if (field->match == Match::kTernary && fits && !field->partial) continue;
+      diagnostics.report(field.place, fmt::format("acl.{}", key),
+                         "field {} of table {} must be ternary, with {} that are all in the key",
+                         field.name, acl.table.name,
+                         width == 0 ? "at most 32 bits" : fmt::format("{} bits", width));
+    }
+  }
+}
+
 // Labels name what entries of a table count.
 void check_counted(const Program &program, const Label &label, Diagnostics &diagnostics) {
   const bool counted = std::ranges::any_of(program.counters, [&](const Resource &counter) {
@@ -359,6 +376,7 @@ void check_program(const Program &program, Diagnostics &diagnostics) {
   check_values(program, diagnostics);
   check_limits(program, diagnostics);
   check_routes(program, diagnostics);
+  check_acls(program, diagnostics);
   check_names(program, diagnostics);
 }
 

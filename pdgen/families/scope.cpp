@@ -58,6 +58,12 @@ std::vector<Scope> each_route_table(S scope) {
   return routes ? each_target(scope, routes->tables) : std::vector<Scope>{};
 }
 
+std::vector<Scope> each_acl_field(S scope) {
+  std::vector<Ref<KeyField>> fields = scope.get<Acl>().fields;
+  std::erase_if(fields, [](const Ref<KeyField> &field) { return !field; });
+  return each_target(scope, fields);
+}
+
 // The default entry of a fresh device, if it has one.
 std::vector<Scope> each_initial(S scope) {
   const auto &entry = scope.get<Table>().default_entry;
@@ -88,6 +94,8 @@ const Walk kWalks[] = {
     {"program", "handle", "handle", each<&Program::handles>},
     {"program", "direction", "layout", each_direction},
     {"program", "route_table", "table", each_route_table},
+    {"program", "acl", "table acl", each_with<&Program::acls, &Acl::table>},
+    {"acl", "acl_field", "field", each_acl_field},
     {"program", "record_list", "record_list", each<&Program::tool_records>},
     {"table", "pair", "action pair", each_pair},
     {"table", "default", "action default",

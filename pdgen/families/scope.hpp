@@ -47,7 +47,7 @@ class Scope {
              const RecordField *, const ResourceItem *, const Action *, const Param *,
              const Profile *, const ProfileAction *, const Resource *, const Hash *, const Digest *,
              const PacketField *, const ValueSet *, const SnapshotLayout *, const Handle *,
-             const Label *, const LabelItem *, const LabelText *, const ToolRecords *,
+             const Acl *, const Label *, const LabelItem *, const LabelText *, const ToolRecords *,
              const ToolRecord *, const ToolMember *, const ToolField *, const Api *, const Note *,
              const Group *, const Unit *, const ParameterList *, const Parameter *,
              const Function *, const std::string *, const std::size_t *>

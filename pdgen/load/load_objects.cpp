@@ -111,6 +111,18 @@ void read_routes(RowReader &row, Routes &routes) {
   routes.place = routes.action.place;
 }
 
+void read_acl(RowReader &row, Acl &acl) {
+  row.name(acl, acl.table, "table", row.program().tables);
+  acl.fields.resize(std::size(kAclFields));
+  for (std::size_t i = 0; i < acl.fields.size(); ++i) {
+    const auto keys = [&acl] {
+      return acl.table ? RowReader::rows_of(acl.table->key)() : std::vector<Candidate>{};
+    };
+    row.reference(kAclFields[i].key, acl.fields[i], "key field of the table", keys,
+                  kAclFields[i].key == "flags" ? kOptional : kRequired);
+  }
+}
+
 // --- Field hints ----------------------------------------------------------------------------
 
 bool begins(std::string_view field, std::string_view name) { return field.starts_with(name); }
@@ -142,6 +154,14 @@ RowReader::Candidates bare_fields(const Program &program) {
         add_rows(fields, layout.fields);
       add_rows(fields, program.snapshots->capture);
     }
+    return fields;
+  };
+}
+
+RowReader::Candidates all_fields(const Program &program) {
+  return [&program] {
+    std::vector<Candidate> fields = key_fields(program)();
+    std::ranges::move(bare_fields(program)(), std::back_inserter(fields));
     return fields;
   };
 }
@@ -261,6 +281,7 @@ void read_program(RowReader &file) {
   file.identifier("name", program.name);
   program.place = file.place("name");
   file.row("routes", program.routes, read_routes);
+  file.rows("acl", "rule table", "table", program.acls, read_acl, kOptional);
 }
 
 void read_actions(RowReader &file) {
@@ -302,6 +323,8 @@ void read_fields(RowReader &file) {
   file.names("v4_addresses", facts.v4_addresses,
              "parameter of an action or field of a digest or snapshot",
              bare_fields(file.program()));
+  file.names("protocols", facts.protocols, "field or parameter", all_fields(file.program()));
+  file.names("services", facts.services, "field or parameter", all_fields(file.program()));
   file.rows("hints", "hint", "hint", facts.hints, read_hint, kOptional);
   file.rows("joins", "join", "field", facts.joins, read_join, kOptional);
 }

@@ -47,12 +47,17 @@ class RecordBuilder {
   // A value with its short name.
   void add(const ToolMember &member, Hint hint, std::string short_name, const Bits &key_bits,
            std::vector<std::string> cells = {}) {
-    const bool is_v4 =
-        std::ranges::find(facts_.v4_addresses, member.name) != facts_.v4_addresses.end();
+    const auto is_one_of = [&](const std::vector<std::string> &names) {
+      return std::ranges::find(names, member.name) != names.end();
+    };
     OwnField &field = own_.emplace_back();
     field.label = std::move(short_name);
     field.name = member.name;
-    field.notation = notation_of(is_v4 ? Hint::kV4Addr : hint, member.width);
+    const bool is_v4 = is_one_of(facts_.v4_addresses);
+    field.notation = is_one_of(facts_.protocols) ? "protocol"
+                     : is_one_of(facts_.services)
+                         ? "service"
+                         : notation_of(is_v4 ? Hint::kV4Addr : hint, member.width);
     field.width = member.width;
     field.key_bits = key_bits;
     field.parts = {record_.members.size()};

@@ -75,7 +75,8 @@ Match match_of(const bindings::Record &record) {
 }
 
 const char *notation_name(Notation notation) {
-  constexpr const char *kNames[] = {"number", "port", "vport", "v4addr", "v6addr", "mac"};
+  constexpr const char *kNames[] = {"number", "port", "vport",  "v4addr",
+                                    "v6addr", "mac",  "number", "number"};
   return kNames[static_cast<size_t>(notation)];
 }
 

@@ -85,8 +85,8 @@ std::string parameters_text(const bindings::Record &action) {
   std::string text;
   for (const Field &field : action.shown()) {
     text += fmt::format("{}{}:{}", text.empty() ? "" : " ", field.label, field.width);
-    if (field.notation != Notation::number)
-      text += fmt::format("/{}", notation_name(field.notation));
+    const std::string_view notation = notation_name(field.notation);
+    if (notation != notation_name(Notation::number)) text += fmt::format("/{}", notation);
   }
   return text;
 }
