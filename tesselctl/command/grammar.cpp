@@ -85,7 +85,7 @@ std::string_view meaning_of_value(std::string_view placeholder) {
   static constexpr Meaning kMeanings[] = {
       {"N", "a number"},
       {"N,N", "numbers with commas between them, one a pipe"},
-      {"MS", "milliseconds"},
+      {"MS", "milliseconds, or a time like 30s"},
       {"SECONDS", "seconds from one round to the next, 0.1 to 86400"},
       {"CELLS", "cells of a queue: drops begin at min=, and are most probable at max="},
       {"COMMAND", "a command"},
@@ -150,6 +150,7 @@ std::string_view meaning_of_name(std::string_view name) {
 std::span<const NotationHelp> notations() {
   static constexpr NotationHelp kNotations[] = {
       {"4094, 0xffe, 65_536", "every field"},
+      {"tcp, https", "fields of protocols, and of TCP and UDP ports"},
       {"10.0.0.1", "fields of 32 bits"},
       {"2001:db8::1", "fields of 128 bits"},
       {"00:11:22:33:44:55", "MAC addresses; also 00-11-22-33-44-55 and 0011.2233.4455"},
@@ -157,6 +158,8 @@ std::span<const NotationHelp> notations() {
       {"0x1f90&0xfff0", "ternary fields: the bits of the mask take part"},
       {"*", "prefix and ternary fields: anything"},
       {"1000..2000", "fields of entries: from one value to the other"},
+      {"10M, 1.5k, 64Ki", "rates, bursts, packets and bytes"},
+      {"500ms, 30s, 5min, 1h", "times"},
   };
   return kNotations;
 }

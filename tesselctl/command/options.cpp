@@ -38,6 +38,10 @@ uint64_t Options::number(std::string_view name, uint64_t limit, uint64_t least) 
   return parse_limited(need(name), limit, std::string(name), least);
 }
 
+uint64_t Options::quantity(std::string_view name, const Unit &unit, uint64_t limit) const {
+  return parse_limited(need(name), limit, std::string(name), 0, &unit);
+}
+
 size_t Options::choice_or(std::string_view name, std::initializer_list<std::string_view> words,
                           size_t otherwise) const {
   const Word *value = find(name);

@@ -26,6 +26,12 @@ class Options {
   Word need(std::string_view name) const;
 
   uint64_t number(std::string_view name, uint64_t limit, uint64_t least = 0) const;
+  // A number, or so much of the unit.
+  uint64_t quantity(std::string_view name, const Unit &unit, uint64_t limit = 0xffffffffu) const;
+  uint64_t quantity_or(std::string_view name, const Unit &unit, uint64_t otherwise,
+                       uint64_t limit = 0xffffffffu) const {
+    return has(name) ? quantity(name, unit, limit) : otherwise;
+  }
   uint64_t number_or(std::string_view name, uint64_t limit, uint64_t otherwise) const {
     return has(name) ? number(name, limit) : otherwise;
   }

@@ -58,16 +58,15 @@ const ObjectWord *find_object_word(std::string_view placeholder) {
   return nullptr;
 }
 
-Subject find_subject(const std::vector<Argument> &grammar, Word word) {
-  Subject subject;
-  const auto first = std::find_if(grammar.begin(), grammar.end(),
-                                  [](const Argument &it) { return it.stands_alone(); });
-  if (first == grammar.end()) return subject;
-  for (const std::string_view value : alternatives_of(first->value)) {
+void add_subject(Subject &subject, const std::vector<Argument> &grammar, size_t at, Word word) {
+  const auto argument = std::find_if(grammar.begin(), grammar.end(), [&](const Argument &it) {
+    return it.stands_alone() && at-- == 0;
+  });
+  if (argument == grammar.end()) return;
+  for (const std::string_view value : alternatives_of(argument->value)) {
     const ObjectWord *kind = find_object_word(value);
     if (kind != nullptr && kind->choose != nullptr) kind->choose(subject, word.text);
   }
-  return subject;
 }
 
 }  // namespace tesselctl

@@ -15,7 +15,8 @@ struct ObjectWord {
   void (*choose)(Subject &subject, std::string_view name) = nullptr;
 };
 
-// What a file of tesselctl/kinds or tesselctl/topics adds to the tool. Topics of one title follow one another.
+// What a file of tesselctl/kinds or tesselctl/topics adds to the tool. Topics of one title follow
+// one another.
 struct Topic {
   std::string_view title;
   std::span<const Command> commands;
@@ -42,6 +43,7 @@ const Command &find_command(Words words, Invocation &invocation);
 // Null for a word that stands for something else.
 const ObjectWord *find_object_word(std::string_view placeholder);
 
-Subject find_subject(const std::vector<Argument> &grammar, Word word);
+// Adds what is known by the word, the one at that place of those that stand alone.
+void add_subject(Subject &subject, const std::vector<Argument> &grammar, size_t at, Word word);
 
 }  // namespace tesselctl

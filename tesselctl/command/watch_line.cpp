@@ -1,6 +1,7 @@
 #include "tesselctl/command/watch_line.hpp"
 
 #include <charconv>
+#include <optional>
 
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/program/value.hpp"
@@ -9,16 +10,27 @@ namespace tesselctl {
 
 namespace {
 
-// "0.5": from a tenth of a second to a day.
-std::chrono::milliseconds parse_period(Word word) {
+// Of "0.5" or "500ms"; nothing of what is no time.
+std::optional<double> seconds_of(Word word) {
   double seconds = 0;
   const char *end = word.text.data() + word.text.size();
   const auto [stop, error] =
       std::from_chars(word.text.data(), end, seconds, std::chars_format::fixed);
-  if (error != std::errc() || stop != end || !(seconds >= 0.1 && seconds <= 86400)) {
-    throw Fault(word, "this should be seconds, 0.1 to 86400");
+  if (error == std::errc() && stop == end) return seconds;
+  try {
+    return static_cast<double>(parse_quantity(word, kMilliseconds, "")) / 1000;
+  } catch (const Fault &) {
+    return std::nullopt;
   }
-  return std::chrono::milliseconds(static_cast<int64_t>(seconds * 1000 + 0.5));
+}
+
+// From a tenth of a second to a day.
+std::chrono::milliseconds parse_period(Word word) {
+  const std::optional<double> seconds = seconds_of(word);
+  if (!seconds || !(*seconds >= 0.1 && *seconds <= 86400)) {
+    throw Fault(word, "this should be seconds, 0.1 to 86400, or a time like 500ms");
+  }
+  return std::chrono::milliseconds(static_cast<int64_t>(*seconds * 1000 + 0.5));
 }
 
 }  // namespace

@@ -237,7 +237,7 @@ void Completer::read_arguments() {
   for (const Word &word : arguments_) {
     const size_t equals = word.text.find('=');
     if (equals == std::string_view::npos) {
-      if (alone_++ == 0) subject_ = find_subject(grammar_, word);
+      add_subject(subject_, grammar_, alone_++, word);
       continue;
     }
     note_given(word);
@@ -322,7 +322,7 @@ void Completer::offer_action_parameters() {
 void Completer::complete_value(std::string_view name) {
   if (const bindings::Record *action = subject_.action_of(action_)) {
     if (const Field *field = find_field(*action, name)) {
-      return offers_.hint(field_help(*field, false));
+      return offer_values(offers_, *field, false);
     }
   }
   if (name == "action") return offer_actions(offers_, subject_, command_->name);
@@ -333,7 +333,7 @@ void Completer::complete_value(std::string_view name) {
     }
   }
   if (const Field *field = subject_.field_of(name, grammar_)) {
-    offers_.hint(field_help(*field, true));
+    offer_values(offers_, *field, true);
   }
 }
 

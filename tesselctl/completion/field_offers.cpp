@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "tesselctl/program/known_numbers.hpp"
 #include "tesselctl/program/value.hpp"
 
 namespace tesselctl {
@@ -45,6 +46,13 @@ std::string field_help(const Field &field, bool of_key) {
     default:
       return bits + ", exact, " + notation_help(field);
   }
+}
+
+void offer_values(Offers &offers, const Field &field, bool of_key) {
+  for (const KnownNumber &known : known_numbers(field.notation)) {
+    offers.offer(known.name, decimal(known.number));
+  }
+  offers.hint(field_help(field, of_key));
 }
 
 namespace {

@@ -7,6 +7,8 @@ namespace tesselctl {
 
 // "32 bits, prefix, 10.0.0.0/8": of a key with its kind of match, or of a parameter.
 std::string field_help(const Field &field, bool of_key);
+// The names that values of the field have, and that help.
+void offer_values(Offers &offers, const Field &field, bool of_key);
 
 void offer_fields(Offers &offers, const Subject &subject, const std::vector<Argument> &grammar,
                   const std::vector<std::string_view> &given);

@@ -10,8 +10,8 @@ namespace tesselctl {
 
 namespace {
 
-Given parse_given(const Assignment &word) {
-  const auto value = parse_limited(word.value, 0xffffffffu, std::string(word.name.text));
+Given parse_given(const Assignment &word, const Unit *unit = nullptr) {
+  const auto value = parse_limited(word.value, 0xffffffffu, std::string(word.name.text), 0, unit);
   return {static_cast<uint32_t>(value), word.whole};
 }
 
@@ -56,9 +56,12 @@ bool EntryLine::read_option(const Context &context, const Assignment &word) {
   if (name == "priority" && (table_.has_priority() || !is_field)) {
     set_once(priority_, word, parse_given(word));
   } else if (name == "ttl" && (table_.ages() || !is_field)) {
-    set_once(ttl_, word, parse_given(word));
+    set_once(ttl_, word, parse_given(word, &kMilliseconds));
   } else if (name == "meter") {
-    set_once(meter_, word, GivenMeter{meter_spec(parse_meter(word.value)), word.whole});
+    const auto *meter = resource_of<soft_meter_t>(table_);
+    const MeterNumbers numbers =
+        parse_meter(word.value, meter != nullptr ? units_of(*meter) : MeterUnits{});
+    set_once(meter_, word, GivenMeter{meter_spec(numbers), word.whole});
   } else if (name == "entry") {
     set_once(entry_, word, parse_given_handle(context, word));
   } else if (name == "member") {

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "tesselctl/program/value.hpp"
+#include "tesselctl/text/words.hpp"
 
 namespace tesselctl {
 
@@ -22,14 +23,21 @@ p4_pd_bytes_meter_spec_t meter_spec(const MeterNumbers &numbers, uint32_t type) 
   return spec;
 }
 
-MeterNumbers parse_meter(Word text) {
-  const std::vector<uint64_t> list = number_list(text);
+const MeterUnits &units_of(const soft_meter_t &meter) {
+  static constexpr MeterUnits kUnits[] = {{&kKilobitRate, &kKilobits}, {&kPacketRate, &kPackets}};
+  return kUnits[meter.unit == PIPE_RATE_PACKETS ? 1 : 0];
+}
+
+MeterNumbers parse_meter(Word text, const MeterUnits &units) {
   MeterNumbers numbers = {};
-  if (list.size() != numbers.size()) {
+  if (std::ranges::count(text.text, ',') + 1 != static_cast<ptrdiff_t>(numbers.size())) {
     throw Fault(text, "a meter is four numbers: CIR,CBS,PIR,PBS");
   }
-  std::ranges::transform(list, numbers.begin(),
-                         [](uint64_t number) { return static_cast<uint32_t>(number); });
+  for (size_t i = 0; i < numbers.size(); ++i) {
+    const uint64_t number =
+        parse_limited(take_until(text, ','), 0xffffffffu, "a number", 0, units[i % 2]);
+    numbers[i] = static_cast<uint32_t>(number);
+  }
   return numbers;
 }
 

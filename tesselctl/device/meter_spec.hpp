@@ -6,7 +6,8 @@
 #include <string>
 
 #include "p4_pd_types.h"
-#include "tesselctl/text/fault.hpp"
+#include "soft_program.h"
+#include "tesselctl/text/quantity.hpp"
 #include "tesselctl/text/row.hpp"
 
 namespace tesselctl {
@@ -18,8 +19,12 @@ MeterNumbers numbers_of(const p4_pd_bytes_meter_spec_t &spec);
 p4_pd_bytes_meter_spec_t meter_spec(const MeterNumbers &numbers,
                                     uint32_t type = PD_METER_TYPE_COLOR_UNAWARE);
 
-// Throws Fault.
-MeterNumbers parse_meter(Word text);
+// The units of rates and of bursts.
+using MeterUnits = std::array<const Unit *, 2>;
+const MeterUnits &units_of(const soft_meter_t &meter);
+
+// Numbers, or so much of the units where they are known. Throws Fault.
+MeterNumbers parse_meter(Word text, const MeterUnits &units = {});
 void append_meter(std::string &text, const MeterNumbers &numbers);
 void add_meter(Row &row, const MeterNumbers &numbers);
 

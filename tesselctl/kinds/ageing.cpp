@@ -67,7 +67,7 @@ void listen(Device &device, const TableInfo &table, Word word) {
 void enable(Context &context, const Invocation &invocation) {
   const TableLine line = ageing_line(context, invocation, {"mode", "sweep", "min", "max", "ttl"});
   const auto milliseconds = [&](const char *name, uint64_t otherwise) {
-    return static_cast<uint32_t>(line.options.number_or(name, 0xffffffffu, otherwise));
+    return static_cast<uint32_t>(line.options.quantity_or(name, kMilliseconds, otherwise));
   };
   Params params = {};
   params.mode =
@@ -98,8 +98,8 @@ void advance(Context &context, const Invocation &invocation) {
       if (table.ages()) listen(context.device, table, word);
     }
   }
-  check(soft_device_clock_advance(context.device.id(), parse_limited(word, kYear, "the time")),
-        word);
+  const uint64_t time = parse_limited(word, kYear, "the time", 0, &kMilliseconds);
+  check(soft_device_clock_advance(context.device.id(), time), word);
   for (const ExpiredEntry &expired : all_expired) {
     const TableInfo table = table_of_handle(expired.table);
     EntryReader reader(context.device, table, EntryReader::Resources::settings);

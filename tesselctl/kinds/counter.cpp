@@ -210,8 +210,8 @@ void list(Context &context, const Invocation &invocation) {
 
 void write(Context &context, const Invocation &invocation) {
   const CounterLine line(context, invocation, {"index", "packets", "bytes", "pipe"});
-  const Values values = {line.options.number("packets", ~uint64_t{0}),
-                         line.options.number("bytes", ~uint64_t{0})};
+  const Values values = {line.options.quantity("packets", kPackets, ~uint64_t{0}),
+                         line.options.quantity("bytes", kBytes, ~uint64_t{0})};
   const auto target = context.device.target_of(pipe_of(context, line.options, BF_ALL_PIPES));
   write_cell(context.device, line.object, line.cell(kLastCell), target, values, line.word);
   line.done("written");

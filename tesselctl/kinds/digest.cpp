@@ -44,7 +44,7 @@ void listen(Context &context, const Invocation &invocation) {
   const DigestLine line(context, invocation, {"timeout"});
   if (line.options.has("timeout")) {
     Call timeout = context.device.prepare("set_learning_timeout", "");
-    line.run(timeout.set("timeout", line.options.number("timeout", 0xffffffffu)));
+    line.run(timeout.set("timeout", line.options.quantity("timeout", kMicroseconds)));
   }
   Call call = line.call("digest_register");
   call.set("callback", reinterpret_cast<const void *>(&hold));

@@ -16,10 +16,10 @@ using MeterLine = ObjectLine<soft_meter_t>;
 constexpr std::string_view kNames[] = {"cir", "cbs", "pir", "pbs"};
 
 void add_spec(Row &row, const soft_meter_t &meter, const p4_pd_bytes_meter_spec_t &spec) {
-  const char *const units[2][2] = {{"kbit/s", "kbit"}, {"packets/s", "packets"}};
+  const auto &units = units_of(meter);
   const MeterNumbers numbers = numbers_of(spec);
   for (size_t i = 0; i < numbers.size(); ++i) {
-    row.number(kNames[i], numbers[i], units[meter.unit == PIPE_RATE_PACKETS ? 1 : 0][i % 2]);
+    row.number(kNames[i], numbers[i], units[i % 2]->name);
   }
   row.choice("type", spec.meter_type == PD_METER_TYPE_COLOR_AWARE ? "aware" : "unaware");
 }
@@ -85,7 +85,8 @@ void set(Context &context, const Invocation &invocation) {
   const MeterLine line(context, invocation, {"index", "cir", "cbs", "pir", "pbs", "type"});
   MeterNumbers numbers = {};
   for (size_t i = 0; i < numbers.size(); ++i) {
-    numbers[i] = static_cast<uint32_t>(line.options.number(kNames[i], 0xffffffffu));
+    const Unit &unit = *units_of(line.object)[i % 2];
+    numbers[i] = static_cast<uint32_t>(line.options.quantity(kNames[i], unit));
   }
   const bool is_aware = line.options.choice_or("type", {"unaware", "aware"}, 0) != 0;
   p4_pd_bytes_meter_spec_t spec =

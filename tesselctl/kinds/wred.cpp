@@ -84,7 +84,7 @@ void set(Context &context, const Invocation &invocation) {
   params.min_threshold_cells = static_cast<uint32_t>(options.number("min", 0xffffffffu));
   params.max_threshold_cells = static_cast<uint32_t>(options.number("max", 0xffffffffu));
   params.max_probability = parse_real(options.need("probability"), "probability", 1);
-  params.time_constant_ns = parse_real(options.need("time"), "time");
+  params.time_constant_ns = parse_real(options.need("time"), "time", kNanoseconds);
   write_cell(context.device, target, handle, options.number("index", SOFT_WRED_CELLS - 1), params,
              options.need("handle"));
   context.results.done(Row().text("handle", fmt::format("{:#x}", handle)), "set");

@@ -3,8 +3,11 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cctype>
 #include <cstring>
 
+#include "common/nearest.hpp"
+#include "tesselctl/program/known_numbers.hpp"
 #include "tesselctl/text/row.hpp"
 #include "tesselctl/text/words.hpp"
 
@@ -16,6 +19,27 @@ bool has(std::string_view text, char c) { return text.find(c) != std::string_vie
 
 [[noreturn]] void throw_not_a(Word text, const char *what) {
   throw Fault(text, fmt::format("this is not {}", what));
+}
+
+[[noreturn]] void throw_no_value(const Field &field, Word text) {
+  switch (field.notation) {
+    case Notation::ipv4:
+      throw_not_a(text, "an IPv4 address");
+    case Notation::ipv6:
+      throw_not_a(text, "an IPv6 address");
+    case Notation::mac:
+      throw_not_a(text, "a MAC address");
+    default:
+      break;
+  }
+  const auto known = known_numbers(field.notation);
+  if (known.empty()) throw_not_a(text, "a number");
+  common::Nearest near(text.text);
+  for (const KnownNumber &one : known) near.consider(one.name);
+  throw Fault(text,
+              fmt::format("this is neither a number nor the name of a {}",
+                          field.notation == Notation::protocol ? "protocol" : "service"),
+              near.name());
 }
 
 std::string limit_text(unsigned width) {
@@ -50,10 +74,10 @@ Number parse_single(const Field &field, Word text) {
   }
   const auto number = parse_number(text.text);
   if (!number) {
-    if (field.notation == Notation::ipv4) throw_not_a(text, "an IPv4 address");
-    if (field.notation == Notation::ipv6) throw_not_a(text, "an IPv6 address");
-    if (field.notation == Notation::mac) throw_not_a(text, "a MAC address");
-    throw_not_a(text, "a number");
+    if (const KnownNumber *known = find_known_number(field.notation, text.text)) {
+      return check_width(field, text, known->number);
+    }
+    throw_no_value(field, text);
   }
   return check_width(field, text, *number);
 }
@@ -85,19 +109,19 @@ FieldValue parse_prefix(const Field &field, Word text, size_t slash) {
               format_value(field, {(meant ? *meant : value) & parsed.mask, parsed.mask}));
 }
 
-FieldValue parse_masked(const Field &field, Word text, size_t ampersand) {
+}  // namespace
+
+FieldValue parse_masked(const Field &field, Word text, size_t separator) {
   check_maskable(field, text);
   if (field.match == Match::lpm) {
     throw Fault(text, fmt::format("{} takes a prefix (VALUE/LENGTH), not a mask", field.label));
   }
-  const FieldValue parsed = {parse_single(field, text.first(ampersand)),
-                             parse_single(field, text.from(ampersand + 1))};
+  const FieldValue parsed = {parse_single(field, text.first(separator)),
+                             parse_single(field, text.from(separator + 1))};
   if ((parsed.value & ~parsed.mask).is_zero()) return parsed;
   throw Fault(text, "the value has bits that its mask leaves out",
               format_value(field, {parsed.value & parsed.mask, parsed.mask}));
 }
-
-}  // namespace
 
 std::string format_single(const Field &field, Number value) {
   switch (field.notation) {
@@ -132,9 +156,11 @@ FieldValue parse_value(const Field &field, Word text) {
   return {value, field.match == Match::ternary ? key_bits(field) : low_ones(field.width)};
 }
 
-uint64_t parse_limited(Word text, uint64_t limit, const std::string &what, uint64_t least) {
+uint64_t parse_limited(Word text, uint64_t limit, const std::string &what, uint64_t least,
+                       const Unit *unit) {
   if (text.text.empty()) throw Fault(text, what + " needs a value");
-  const auto number = parse_number(text.text);
+  auto number = parse_number(text.text);
+  if (!number && unit != nullptr) number = parse_quantity(text, *unit, what);
   if (!number) throw_not_a(text, "a number");
   if (number->high == 0 && number->low <= limit && number->low >= least) return number->low;
   throw Fault(text, least == 0 ? fmt::format("{} is at most {}", what, limit)
@@ -154,6 +180,11 @@ float parse_real(Word text, std::string_view what, float limit) {
   const auto number = parse_float(text.text);
   if (number && *number <= limit) return *number;
   throw Fault(text, fmt::format("{} is a number from 0 to {}, like 0.25", what, limit));
+}
+
+float parse_real(Word text, std::string_view what, const Unit &unit) {
+  const bool has_unit = !text.text.empty() && std::isalpha(text.text.back()) != 0;
+  return has_unit ? static_cast<float>(parse_quantity(text, unit, what)) : parse_real(text, what);
 }
 
 std::string format_value(const Field &field, const FieldValue &value) {

@@ -7,6 +7,7 @@
 //   VALUE/N   a prefix of N bits, for lpm and ternary fields
 //   VALUE&M   for ternary fields: the bits that are set in M take part
 //   *         anything, for lpm and ternary fields
+//   NAME      of a protocol or a service (known_numbers.hpp)
 //
 // LOW..HIGH is several values (value_range.hpp).
 //
@@ -19,6 +20,7 @@
 
 #include "tesselctl/program/field.hpp"
 #include "tesselctl/text/number.hpp"
+#include "tesselctl/text/quantity.hpp"
 
 namespace tesselctl {
 
@@ -39,14 +41,20 @@ std::string format_single(const Field &field, Number value);
 // that its mask or prefix leaves out. A plain value may have bits beyond those of the key.
 FieldValue parse_value(const Field &field, Word text);
 
-// A number from least to limit; what says whose it is in the message.
-uint64_t parse_limited(Word text, uint64_t limit, const std::string &what, uint64_t least = 0);
+// Value and mask, with any character between them there. Throws Fault.
+FieldValue parse_masked(const Field &field, Word text, size_t separator);
+
+// A number from least to limit, or so much of a unit; what says whose it is in the message.
+uint64_t parse_limited(Word text, uint64_t limit, const std::string &what, uint64_t least = 0,
+                       const Unit *unit = nullptr);
 
 // The numbers of "1,2,3", up to a limit; none of an empty word. Throws Fault.
 std::vector<uint64_t> number_list(Word word, uint64_t limit = 0xffffffffu);
 
 // A real number from 0 to limit, in decimal notation; what says whose it is in the message.
 float parse_real(Word text, std::string_view what, float limit = std::numeric_limits<float>::max());
+// A real number, or so much of the unit.
+float parse_real(Word text, std::string_view what, const Unit &unit);
 
 // The shortest text that parse_value reads as the same.
 std::string format_value(const Field &field, const FieldValue &value);

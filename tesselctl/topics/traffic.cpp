@@ -88,8 +88,8 @@ void traffic(Context &context, const Invocation &invocation) {
   packets.key_length = line.length();
   packets.hash = hash.data() + 12;
   packets.hash_length = 4;
-  packets.packets = options.number_or("packets", 1ull << 48, 1);
-  packets.bytes = options.number_or("bytes", 1ull << 56, 64 * packets.packets);
+  packets.packets = options.quantity_or("packets", kPackets, 1, 1ull << 48);
+  packets.bytes = options.quantity_or("bytes", kBytes, 64 * packets.packets, 1ull << 56);
   soft_hit_t hit = {};
   const bf_status_t status =
       soft_traffic_hit(context.device.id(), line.pipe, line.table().record->number, &packets, &hit);

@@ -52,6 +52,9 @@ TEST_F(CompletionTest, OffersWhatCanStandAtThePoint) {
       {"add ipv4ShortMaskLpm dip=", "25: | 32 bits, prefix, 10.0.0.0/8"},
       {"add ipv4ShortMaskLpm dip=1.2.3.4 action=setN", "40: setNextHop setNextHop2 setNextHop3"},
       {"add ipv4ShortMaskLpm action=setNextHop nextHop=", "47: | 14 bits, 0 to 16383"},
+      {"add pdpClassify protocol=ic",
+       "25: icmp icmpv6 | 8 bits, ternary, 0 to 255, "
+       "VALUE&MASK, LOW..HIGH; may be left out"},
       // Halves of an address for who asks for them.
       {"add l2LookupMiss dmac", "17: dmac="},
       {"add l2LookupMiss dmacO", "17: dmacOui="},
@@ -105,7 +108,8 @@ TEST_F(CompletionTest, TheCommandAnswersTheSame) {
   EXPECT_EQ(completion_request("-\"%\t", 2), "complete \"%2d%22%25%09\" cursor=2");
   EXPECT_EQ(decode_line("%2d%22%25%09%4%zz%"), "-\"%\t%4%zz%");
   EXPECT_EQ(run("complete \"counter read kf1Count source=\""), "29\thardware\t\n29\tsoftware\t\n");
-  EXPECT_EQ(run(completion_request("age advance ", 12)), "12\t\tmilliseconds\n");
+  EXPECT_EQ(run(completion_request("age advance ", 12)),
+            "12\t\tmilliseconds, or a time like 30s\n");
   const Completion answer = read_completion(run(completion_request("fallback r", 10)));
   ASSERT_EQ(answer.candidates.size(), 1u);
   EXPECT_EQ(answer.start, 9u);
