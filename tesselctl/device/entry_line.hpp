@@ -41,7 +41,10 @@ class EntryLine {
   Word table_word() const { return table_word_; }
   bool has_key() const { return key_.any_given(); }
   // How many entries the key is of.
-  size_t count() const { return key_.count(); }
+  size_t count() const { return static_cast<size_t>(key_.count()); }
+  RecordWriter &key() { return key_; }
+  const std::optional<Given> &priority() const { return priority_; }
+  void set_priority(uint32_t priority) { priority_ = {priority, table_word_}; }
   // Has the calls that were filled mean that one of them.
   void choose(size_t at) { key_.choose(at); }
   // The fault with what it says of the chosen one.

@@ -260,8 +260,14 @@ std::string table_help(const TableInfo &table) {
 
 void offer_tables(Offers &offers, const Command &command, Words given) {
   const bool only_ageing = command.first_word() == "age";
+  const bool only_acl = command.name == "acl";
+  const auto is_acl = [](const TableInfo &table) {
+    return std::ranges::any_of(binding().acls, [&](const bindings::Acl &acl) {
+      return table.name() == std::string_view(acl.table);
+    });
+  };
   for (const TableInfo &table : all_tables()) {
-    if (!offers.begins(table.name())) continue;
+    if (!offers.begins(table.name()) || (only_acl && !is_acl(table))) continue;
     const bool is_given = std::any_of(given.begin(), given.end(),
                                       [&](const Word &word) { return word.text == table.name(); });
     if (!is_given && (!only_ageing || table.ages())) offers.offer(table.name(), table_help(table));

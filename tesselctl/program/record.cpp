@@ -11,19 +11,20 @@ namespace tesselctl {
 
 namespace {
 
-constexpr size_t kMostRecords = 65536;
+constexpr uint64_t kMostRecords = 65536;
 
 }  // namespace
 
 const Field &RecordWriter::take_field(Word name) {
   const Field &field = find_field(*record_, name, what_);
-  for (size_t i = 0; i < field.part_count(); ++i) {
-    if (given_[place_of(field.parts[i])]) {
-      throw Fault(name, fmt::format("{} is given twice", field.label));
-    }
-  }
+  if (is_given(field)) throw Fault(name, fmt::format("{} is given twice", field.label));
   for (size_t i = 0; i < field.part_count(); ++i) given_[place_of(field.parts[i])] = true;
   return field;
+}
+
+bool RecordWriter::is_given(const Field &field) const {
+  return std::any_of(field.parts, field.parts + field.part_count(),
+                     [&](const bindings::Member *part) { return given_[place_of(part)]; });
 }
 
 void RecordWriter::set(const Assignment &word) {
@@ -34,21 +35,28 @@ void RecordWriter::set(const Assignment &word) {
 void RecordWriter::set_values(const Assignment &word) {
   if (!is_range(word.value.text)) return set(word);
   const Field &field = take_field(word.name);
-  std::vector<FieldValue> values = parse_range(field, word.value);
-  const uint64_t count = uint64_t{count_} * values.size();
-  if (count > kMostRecords) {
-    throw Fault(word.value, fmt::format("the ranges are {} entries, and a command takes {} at most",
-                                        count, kMostRecords));
-  }
-  count_ = static_cast<size_t>(count);
+  put(field, parse_range(field, word.value));
+  if (count() <= kMostRecords) return;
+  throw Fault(word.value, fmt::format("the ranges are {} entries, and a command takes {} at most",
+                                      count(), kMostRecords));
+}
+
+void RecordWriter::put(const Field &field, std::vector<FieldValue> values) {
   store(field, values.front());
+  std::erase_if(spreads_, [&](const Spread &spread) { return spread.field == &field; });
   if (values.size() > 1) spreads_.push_back({&field, std::move(values)});
 }
 
-void RecordWriter::choose(size_t at) {
+uint64_t RecordWriter::count() const {
+  uint64_t count = 1;
+  for (const Spread &spread : spreads_) count *= spread.values.size();
+  return count;
+}
+
+void RecordWriter::choose(uint64_t at) {
   for (size_t i = spreads_.size(); i-- > 0;) {
     const auto &[field, values] = spreads_[i];
-    store(*field, values[at % values.size()]);
+    store(*field, values[static_cast<size_t>(at % values.size())]);
     at /= values.size();
   }
 }

@@ -26,9 +26,12 @@ class RecordWriter {
   void set(const Assignment &word);
   // The same, but LOW..HIGH is several values, so that there are several records.
   void set_values(const Assignment &word);
+  // Gives a field other values.
+  void put(const Field &field, std::vector<FieldValue> values);
+  bool is_given(const Field &field) const;
   // How many there are, and the one that data() is: those of the field set last come first.
-  size_t count() const { return count_; }
-  void choose(size_t at);
+  uint64_t count() const;
+  void choose(uint64_t at);
   // "port=0x3f0&0xfff0": the value of each field that has several, in the chosen record.
   std::string chosen() const;
   bool any_given() const;
@@ -58,7 +61,6 @@ class RecordWriter {
   std::vector<uint8_t> bytes_;
   std::vector<bool> given_;  // by member
   std::vector<Spread> spreads_;
-  size_t count_ = 1;
 };
 
 // What is left out of a row, besides ternary fields that match anything.

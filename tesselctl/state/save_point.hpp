@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "tesselctl/state/recorder.hpp"
 
@@ -20,5 +21,18 @@ class SavePoint {
   Recorder *recorder_;
   Recorder::Mark mark_;
 };
+
+// Makes a change; one that throws leaves the device as it was if it is to be all or nothing.
+template <class Change>
+auto all_or_nothing(bool is_atomic, const Device &device, Change change) {
+  std::optional<SavePoint> before;
+  if (is_atomic) before.emplace(device);
+  try {
+    return change();
+  } catch (...) {
+    if (before) before->go_back();
+    throw;
+  }
+}
 
 }  // namespace tesselctl

@@ -65,16 +65,11 @@ void apply(Context &context, const Invocation &invocation) {
   DeviceState after = state_of(context, word);
   after.number_like(before);
   const std::vector<Change> changes = changes_between(before, after);
-  std::optional<SavePoint> kept;
-  if (context.settings.atomic) kept.emplace(context.device);
-  try {
+  all_or_nothing(context.settings.atomic, context.device, [&] {
     Numbering numbering = Numbering::of_device(context.device);
     Target to = {context.device, numbering};
     apply_changes(to, changes);
-  } catch (const Fault &) {
-    if (kept) kept->go_back();
-    throw;
-  }
+  });
   print_changes(context, changes);
 }
 

@@ -26,26 +26,12 @@ void save(Context &context, const Invocation &invocation) {
   file.finish(Row().text("file", word.text).number("bytes", file.bytes()), "saved");
 }
 
-LoadCounts load_file(const Context &context, Word word) {
-  return load_image_file(context.device, context.path(word), word.text);
-}
-
-// With --atomic a load that fails takes the device back to how it was.
-LoadCounts load_atomically(const Context &context, Word word) {
-  const SavePoint before(context.device);
-  try {
-    return load_file(context, word);
-  } catch (const std::exception &) {
-    before.go_back();
-    throw;
-  }
-}
-
 void load(Context &context, const Invocation &invocation) {
   const Word word = file_word(invocation);
-  const LoadCounts counts = context.settings.atomic && !context.settings.dry_run
-                                ? load_atomically(context, word)
-                                : load_file(context, word);
+  const bool is_atomic = context.settings.atomic && !context.settings.dry_run;
+  const LoadCounts counts = all_or_nothing(is_atomic, context.device, [&] {
+    return load_image_file(context.device, context.path(word), word.text);
+  });
   Row row;
   row.text("file", word.text).number("entries", counts.entries);
   context.results.done(row.number("members", counts.members).number("groups", counts.groups),

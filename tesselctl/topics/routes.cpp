@@ -15,6 +15,7 @@
 #include "tesselctl/text/interrupt.hpp"
 #include "tesselctl/text/progress.hpp"
 #include "tesselctl/text/route_file.hpp"
+#include "tesselctl/topics/bulk_load.hpp"
 
 namespace tesselctl {
 
@@ -32,32 +33,11 @@ struct RoutesOptions {
   bool progress = false;  // show it on standard error
 };
 
-// Faults beyond these are counted and not printed.
-constexpr uint64_t kFaultsShown = 10;
 constexpr size_t kBatch = 4096;
 
 struct LoadedFile {
   std::string name;
   RouteFile routes;
-};
-
-class FaultReport {
- public:
-  explicit FaultReport(Output &errors) : errors_(errors) {}
-  void add(const std::string &file, uint64_t line, size_t column, const std::string &message) {
-    if (++count_ > kFaultsShown) return;
-    const std::string place = column == 0 ? "" : ":" + std::to_string(column);
-    errors_.line("{}:{}{}: {}", file, line, place, message);
-  }
-  void finish() {
-    if (count_ > kFaultsShown) errors_.line("and {} more of them", grouped(count_ - kFaultsShown));
-    errors_.flush();
-  }
-  uint64_t count() const { return count_; }
-
- private:
-  Output &errors_;
-  uint64_t count_ = 0;
 };
 
 // The table of the program's routes whose prefixes are such addresses, or null.
@@ -119,11 +99,7 @@ class RouteTable {
   }
   p4_pd_entry_handle_t entry() const { return entry_; }
   const char *name() const { return info_.name(); }
-  uint64_t memory() const {
-    uint64_t bytes = 0;
-    soft_memory_bytes(device_.id(), info_.record->number, &bytes);
-    return bytes;
-  }
+  uint64_t memory() const { return memory_of(device_.id(), info_.record->number); }
 
  private:
   // The entry of the key, as add makes it.
@@ -211,11 +187,10 @@ class RouteLoad {
 
   void print(Output &out) const {
     out.line("{}", out.styled(Style::heading, table_.name()));
-    print_step(out, replace_ ? "replaced" : "added", added_, add_time_);
+    print_step(out, replace_ ? "replaced" : "added", {added_, total_, add_time_});
     if (replace_) out.line("  modified  {:>10} of them, added the others", grouped(modified_));
-    print_step(out, "verified", found_, verify_time_);
-    const double each = added_ == 0 ? 0 : static_cast<double>(bytes_) / static_cast<double>(added_);
-    out.line("  memory    {:>10} bytes, {:.1f} an entry", grouped(bytes_), each);
+    print_step(out, "verified", {found_, total_, verify_time_});
+    print_memory(out, bytes_, added_);
     Listing listing({{"  length"}, {"entries", true}});
     for (size_t length = 0; length < std::size(by_length_); ++length) {
       if (by_length_[length] == 0) continue;
@@ -225,13 +200,6 @@ class RouteLoad {
   }
 
  private:
-  // Of the thread: what else the machine does is none of the library's time.
-  void print_step(Output &out, const char *step, uint64_t count, double cpu_seconds) const {
-    const double rate = cpu_seconds > 0 ? static_cast<double>(count) / cpu_seconds : 0;
-    out.line("  {:<9} {:>10} of {} in {:.3f} s of CPU time, {} a second", step, grouped(count),
-             grouped(total_), cpu_seconds, grouped(static_cast<uint64_t>(rate)));
-  }
-
   template <class Visit>
   void for_each(Progress &progress, Visit visit) {
     size_t at = 0;

@@ -14,18 +14,18 @@ extern const Topic kEntryTopic, kTableTopic, kDefaultTopic, kMemberTopic, kGroup
 extern const Topic kMeterTopic, kWredTopic, kCounterTopic, kRegisterTopic, kHashTopic,
     kValueSetTopic;
 extern const Topic kTrafficTopic, kDigestTopic, kSnapshotTopic, kAgeingTopic, kStateTopic;
-extern const Topic kImageTopic, kCompareTopic, kLintTopic, kRoutesTopic, kObjectsTopic,
+extern const Topic kImageTopic, kCompareTopic, kLintTopic, kRoutesTopic, kAclTopic, kObjectsTopic,
     kIntrospectionTopic, kReportTopic;
 extern const Topic kToolTopic, kHelpTopic;
 
 std::span<const Topic *const> command_topics() {
   static constexpr const Topic *kTopics[] = {
-      &kEntryTopic,    &kTableTopic,    &kDefaultTopic,       &kMemberTopic,  &kGroupTopic,
-      &kFallbackTopic, &kMeterTopic,    &kWredTopic,          &kCounterTopic, &kRegisterTopic,
-      &kHashTopic,     &kValueSetTopic, &kTrafficTopic,       &kDigestTopic,  &kSnapshotTopic,
-      &kAgeingTopic,   &kStateTopic,    &kImageTopic,         &kCompareTopic, &kLintTopic,
-      &kRoutesTopic,   &kObjectsTopic,  &kIntrospectionTopic, &kReportTopic,  &kToolTopic,
-      &kHelpTopic,
+      &kEntryTopic,    &kTableTopic,    &kDefaultTopic, &kMemberTopic,        &kGroupTopic,
+      &kFallbackTopic, &kMeterTopic,    &kWredTopic,    &kCounterTopic,       &kRegisterTopic,
+      &kHashTopic,     &kValueSetTopic, &kTrafficTopic, &kDigestTopic,        &kSnapshotTopic,
+      &kAgeingTopic,   &kStateTopic,    &kImageTopic,   &kCompareTopic,       &kLintTopic,
+      &kRoutesTopic,   &kAclTopic,      &kObjectsTopic, &kIntrospectionTopic, &kReportTopic,
+      &kToolTopic,     &kHelpTopic,
   };
   return kTopics;
 }

@@ -55,6 +55,8 @@ TEST_F(CompletionTest, OffersWhatCanStandAtThePoint) {
       {"add pdpClassify protocol=ic",
        "25: icmp icmpv6 | 8 bits, ternary, 0 to 255, "
        "VALUE&MASK, LOW..HIGH; may be left out"},
+      {"acl rules kite", "10: kiteFlow3"},
+      {"acl rules firewallPolicy srcS", "25: srcSegment="},
       // Halves of an address for who asks for them.
       {"add l2LookupMiss dmac", "17: dmac="},
       {"add l2LookupMiss dmacO", "17: dmacOui="},
