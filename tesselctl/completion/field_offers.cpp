@@ -49,6 +49,8 @@ std::string field_help(const Field &field, bool of_key) {
 }
 
 void offer_values(Offers &offers, const Field &field, bool of_key) {
+  const size_t dots = offers.typed().find(kRange);
+  if (dots != std::string_view::npos) offers.skip(dots + kRange.size());
   for (const KnownNumber &known : known_numbers(field.notation)) {
     offers.offer(known.name, decimal(known.number));
   }

@@ -33,6 +33,8 @@ class Offers {
     typed_ = typed;
   }
   std::string_view typed() const { return typed_; }
+  // Leaves the first characters as they are.
+  void skip(size_t n) { start_at(completion_.start + n, typed_.substr(n)); }
   void offer(std::string_view word, std::string_view help);
   void hint(std::string_view text);
   bool has_hint() const { return !completion_.hint.empty(); }

@@ -17,6 +17,7 @@
 #include <cstdint>
 #include <limits>
 #include <string>
+#include <vector>
 
 #include "tesselctl/program/field.hpp"
 #include "tesselctl/text/number.hpp"

@@ -55,6 +55,9 @@ TEST_F(CompletionTest, OffersWhatCanStandAtThePoint) {
       {"add pdpClassify protocol=ic",
        "25: icmp icmpv6 | 8 bits, ternary, 0 to 255, "
        "VALUE&MASK, LOW..HIGH; may be left out"},
+      {"add pdpClassify dstPort=ssh..tel",
+       "29: telnet | 16 bits, ternary, 0 to 65535, "
+       "VALUE&MASK, LOW..HIGH; may be left out"},
       {"acl rules kite", "10: kiteFlow3"},
       {"acl rules firewallPolicy srcS", "25: srcSegment="},
       // Halves of an address for who asks for them.
