@@ -153,7 +153,8 @@ int run_serve(const ToolSettings &settings) {
   if (settings.socket.empty()) throw Fault("serve needs --socket PATH");
   load_program_of(settings);
   Streams streams(settings);
-  serve({settings.device, settings.socket, image_of(settings)}, streams.out, streams.errors);
+  serve({settings.device, settings.socket, image_of(settings), settings.http}, streams.out,
+        streams.errors);
   return kDone;
 }
 
@@ -232,8 +233,9 @@ int run_manual(const Settings &settings, const Invocation &invocation) {
   return print_text(settings, "manual", page);
 }
 
-// The device of a server is what the server made it.
-void check_socket(const ToolSettings &settings) {
+// The device of a server is what the server made it, and only a server answers HTTP.
+void check_no_server(const ToolSettings &settings) {
+  if (!settings.http.empty()) throw Fault("--http is for serve");
   if (settings.socket.empty() || settings.device_flag.empty()) return;
   throw Fault(fmt::format("{} is for the server to choose", settings.device_flag));
 }
@@ -250,7 +252,7 @@ int run_words(ToolSettings &settings, const std::string &line) {
   }
   if (plain.empty() && isatty(STDIN_FILENO) != 0) {
     if (!words.empty()) throw Fault(words[0], "this option needs a command");
-    check_socket(settings);
+    check_no_server(settings);
     return run_terminal(settings);
   }
   if (plain.empty()) return run_words(settings, "run - " + line);
@@ -265,7 +267,7 @@ int run_words(ToolSettings &settings, const std::string &line) {
   }
   // Help needs no device.
   if (of_line.help) settings.image.clear(), settings.socket.clear();
-  check_socket(settings);
+  check_no_server(settings);
   return run_command(settings, line, words);
 }
 

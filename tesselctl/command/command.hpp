@@ -52,8 +52,8 @@ struct Invocation {
 };
 
 // What a command does to what an image holds; it decides which options the command takes
-// (flags.hpp).
-enum class Kind : uint8_t { asks, lists, changes };
+// (flags.hpp). One that acts does something to the device that no image holds.
+enum class Kind : uint8_t { asks, lists, acts, changes };
 
 // Where a command is run: in the process that has the device, wherever the line comes from; by the
 // tool that the line is typed into, which a server is not; or as the tool's own command line alone.

@@ -64,6 +64,8 @@ constexpr Flag kFlags[] = {
      "works on the device of an image, and saves it there when a command changed it", "FILE"},
     {"--socket", FlagOf::tool, set_text<&ToolSettings::socket>,
      "works on the device of the server that listens there; of serve: where it listens", "PATH"},
+    {"--http", FlagOf::tool, set_text<&ToolSettings::http>,
+     "of serve: answers HTTP there, too; without ADDR for this machine alone", "[ADDR:]PORT"},
     {"--program", FlagOf::tool, set_program,
      "the P4 program, by name or by its module's file (that of the image, or the usual one)",
      "NAME"},

@@ -112,12 +112,13 @@ constexpr ObjectWord kWords[] = {{"DIGEST", offer_objects<soft_digest_t, help_of
 
 constexpr Command kCommands[] = {
     {"digest listen", "DIGEST [timeout=US]",
-     "takes the messages of a digest; timeout is how long the device collects entries", listen},
-    {"digest ignore", "DIGEST", "takes no more messages", ignore},
+     "takes the messages of a digest; timeout is how long the device collects entries", listen,
+     Kind::acts},
+    {"digest ignore", "DIGEST", "takes no more messages", ignore, Kind::acts},
     {"digest inject", "DIGEST FIELD=VALUE... [pipe=N]",
-     "has the data plane learn an entry; fields that are not given are 0", inject},
+     "has the data plane learn an entry; fields that are not given are 0", inject, Kind::acts},
     {"digest show", "DIGEST", "prints the messages that are held", show, Kind::lists},
-    {"digest ack", "DIGEST [message=N]", "gives a message back, or all", acknowledge},
+    {"digest ack", "DIGEST [message=N]", "gives a message back, or all", acknowledge, Kind::acts},
 };
 
 }  // namespace

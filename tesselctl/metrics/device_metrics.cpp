@@ -97,7 +97,7 @@ void add_counters(MetricsText &metrics, const Device &device,
                   size_t most_cells) {
   std::vector<Cell> cells;
   uint64_t left_out = 0;
-  metrics.gauge("tesselctl_counter_cells", "Cells of a counter that have counted.", "cells");
+  metrics.gauge("tesselctl_counted_cells", "Cells of a counter that have counted.", "cells");
   for (const soft_counter_t &counter : counters) {
     uint64_t counted = 0;
     for_each_counted(
@@ -109,12 +109,12 @@ void add_counters(MetricsText &metrics, const Device &device,
         });
     metrics.sample(counted, {{"counter", counter.name}});
   }
-  metrics.gauge("tesselctl_counter_left_out_cells",
+  metrics.gauge("tesselctl_counted_left_out_cells",
                 "Cells that have counted and are not among the packets and bytes here.", "cells");
   metrics.sample(left_out);
-  metrics.counter("tesselctl_counter_packets", "Packets that a cell has counted.", "packets");
+  metrics.counter("tesselctl_counted_packets", "Packets that a cell has counted.", "packets");
   for (const Cell &cell : cells) cell.add_to(metrics, &p4_pd_counter_values_t::packets);
-  metrics.counter("tesselctl_counter_bytes", "Bytes that a cell has counted.", "bytes");
+  metrics.counter("tesselctl_counted_bytes", "Bytes that a cell has counted.", "bytes");
   for (const Cell &cell : cells) cell.add_to(metrics, &p4_pd_counter_values_t::bytes);
 }
 

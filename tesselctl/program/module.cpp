@@ -4,7 +4,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <filesystem>
 
 #include "common/nearest.hpp"
 #include "tesselctl/program/library.hpp"
@@ -18,12 +17,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kEnding = ".so";
-
-fs::path module_folder() {
-  std::error_code none;
-  const fs::path tool = fs::read_symlink("/proc/self/exe", none);
-  return (tool.parent_path() / kModuleFolder).lexically_normal();
-}
 
 std::string listed(const std::vector<std::string> &names) {
   return names.empty() ? "none" : fmt::format("{}", fmt::join(names, ", "));
@@ -112,6 +105,12 @@ const bindings::Binding &open_module(const fs::path &path) {
 }
 
 }  // namespace
+
+fs::path module_folder() {
+  std::error_code none;
+  const fs::path tool = fs::read_symlink("/proc/self/exe", none);
+  return (tool.parent_path() / kModuleFolder).lexically_normal();
+}
 
 std::vector<std::string> program_names() {
   std::vector<std::string> names;

@@ -2,12 +2,15 @@
 // library along. They stand in one folder, found from where the tool stands.
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
 #include "tesselctl/text/fault.hpp"
 
 namespace tesselctl {
+
+std::filesystem::path module_folder();
 
 // Of the modules that are installed, in order.
 std::vector<std::string> program_names();

@@ -141,19 +141,26 @@ struct ObjectChanges {
   std::vector<Line> first;
 };
 
+// How many entries, groups, members and cells of an object a page shows, unless it is asked for
+// others, and at most.
+inline constexpr uint64_t kReportRows = 20;
+inline constexpr uint64_t kMostReportRows = 10'000;
+
 struct Report {
   std::string note;  // what the person who asked wants to have on the page
   DeviceReport device;
   // Of two images: the one before, and what leads from it to the other.
   std::optional<DeviceReport> before;
   std::vector<ObjectChanges> changes;
+  // Of a server, which keeps it up to date.
+  bool is_live = false;
 };
 
 // Reads the device. limit is the greatest number of entries, groups, members and cells that are
 // kept of each object. Throws Fault.
 DeviceReport collect_report(const Device &device, std::string source, size_t limit);
 
-// The page: complete, without scripts, and without anything from elsewhere.
+// The page: complete, and without anything from elsewhere; without scripts unless it is live.
 std::string report_page(const Report &report);
 
 }  // namespace tesselctl

@@ -2,8 +2,10 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <chrono>
 
 #include "tesselctl/program/library.hpp"
+#include "tesselctl/report/live_page.hpp"
 #include "tesselctl/report/report_parts.hpp"
 #include "tesselctl/report/report_style.hpp"
 #include "tesselctl/text/number.hpp"
@@ -184,6 +186,8 @@ void write_navigation(Html &html, const Report &report) {
   link(!device.meters.empty(), "#meters", "Meters");
   link(!device.others.empty(), "#others", "Hashes and registers");
   link(true, "#entries", "Entries");
+  link(report.is_live, "/metrics", "Metrics");
+  link(report.is_live, "/json/tables", "JSON");
   html.close().line();
 }
 
@@ -207,11 +211,45 @@ void write_page_head(Html &html, const Report &report) {
   html.empty("meta", {{"charset", "utf-8"}}).line();
   html.empty("meta", {{"name", "viewport"}, {"content", "width=device-width, initial-scale=1"}});
   html.empty("meta", {{"name", "color-scheme"}, {"content", "light dark"}}).line();
-  // The browser itself sees to it that the page fetches and runs nothing.
-  html.empty("meta", {{"http-equiv", "Content-Security-Policy"},
-                      {"content", "default-src 'none'; style-src 'unsafe-inline'"}});
   html.leaf("title", fmt::format("{}: {}", program().name, title_of(report))).line();
-  html.open("style").trusted(kReportStyle).close().close().line();
+  if (report.is_live) {
+    html.empty("link", {{"rel", "stylesheet"}, {"href", kLiveStylePath}});
+    html.leaf("script", "", {{"src", kLiveScriptPath}, {"defer", ""}});
+  } else {
+    // The browser itself sees to it that the page fetches and runs nothing.
+    html.empty("meta", {{"http-equiv", "Content-Security-Policy"},
+                        {"content", "default-src 'none'; style-src 'unsafe-inline'"}});
+    html.open("style").trusted(kReportStyle).close();
+  }
+  html.close().line();
+}
+
+// What the script of a live page works by, which shows it.
+void write_tools(Html &html) {
+  html.open("div", {{"id", "tools"}, {"role", "search"}, {"hidden", ""}});
+  html.open("label").text("Search ");
+  html.empty("input", {{"id", "search"}, {"type", "search"}, {"autocomplete", "off"}});
+  html.close().line().open("label").text("Refresh ").open("select", {{"id", "pause"}});
+  html.leaf("option", "every second", {{"value", "1"}});
+  html.leaf("option", "every 5 seconds", {{"value", "5"}, {"selected", ""}});
+  html.leaf("option", "every minute", {{"value", "60"}}).leaf("option", "never", {{"value", "0"}});
+  html.close().close().line();
+  html.leaf("button", "Mark this moment", {{"id", "mark"}, {"type", "button"}}).line();
+  html.open("label").empty("input", {{"id", "only"}, {"type", "checkbox"}, {"disabled", ""}});
+  html.text(" Only what changed since").close().line();
+  html.open("p", {{"class", "soft"}}).leaf("span", "", {{"id", "clock"}}).text(" ");
+  html.leaf("span", "", {{"id", "news"}, {"role", "status"}}).close().close().line();
+}
+
+void open_main(Html &html, const Report &report) {
+  if (!report.is_live) {
+    html.open("main").line();
+    return;
+  }
+  using std::chrono::milliseconds;
+  const auto time = std::chrono::floor<milliseconds>(std::chrono::steady_clock::now());
+  write_tools(html);
+  html.open("main", {{"data-time", std::to_string(time.time_since_epoch().count())}}).line();
 }
 
 }  // namespace
@@ -256,7 +294,7 @@ std::string report_page(const Report &report) {
   html.open("body").line();
   write_header(html, report);
   write_navigation(html, report);
-  html.open("main").line();
+  open_main(html, report);
   write_glance(html, report);
   write_remarks(html, report.device);
   write_changes(html, report);

@@ -58,8 +58,11 @@ svg{display:block;width:100%}
 .chart{height:8rem;border-bottom:1px solid var(--idle)}
 .axis{position:relative;height:1.4rem;font-size:.8125rem;color:var(--soft);margin-bottom:.25rem}
 .axis span{position:absolute;transform:translateX(-50%)}
-.axis span:first-child{transform:none}
-.axis span:last-child{transform:translateX(-100%)}
+.axis span:first-child{left:0;transform:none}
+.axis span:nth-child(2){left:25.5%}
+.axis span:nth-child(3){left:50%}
+.axis span:nth-child(4){left:74.5%}
+.axis span:last-child{left:auto;right:0;transform:none}
 .cards{display:grid;grid-template-columns:repeat(auto-fill,minmax(min(19rem,100%),1fr));gap:1rem}
 .card{border:1px solid var(--line);border-radius:.6rem;padding:.75rem;min-width:0}
 .part+.part{margin-top:1.25rem}
@@ -79,6 +82,19 @@ details[open]{padding-bottom:.75rem}
 .lines{list-style:none;border-left:2px solid var(--line);padding-left:.6rem}
 .lines li{overflow-wrap:anywhere;padding:.1rem 0}
 .lines b{display:inline-block;width:1rem}
+#tools{display:flex;flex-wrap:wrap;align-items:center;gap:.5rem .75rem;margin-bottom:1rem}
+#tools[hidden],[hidden]{display:none}
+#tools label{white-space:nowrap}
+#tools p{flex-basis:100%}
+#news{color:var(--ink)}
+button,input,select{font:inherit;color:inherit;background:var(--card);border:1px solid var(--idle);
+border-radius:.4rem;padding:.25rem .5rem}
+thead button{border:0;padding:0;background:none;font-weight:600;cursor:pointer}
+thead button::after{content:" \2195";font-weight:400}
+[aria-sort=ascending] button::after{content:" \2191"}
+[aria-sort=descending] button::after{content:" \2193"}
+.rate{display:block}
+.flag{color:var(--full);font-weight:600}
 :focus-visible{outline:2px solid var(--link);outline-offset:2px}
 @media(max-width:30rem){body{padding:1rem .75rem 2rem}section{padding:.85rem .75rem}
 table{font-size:.875rem}.wide{width:20%}}

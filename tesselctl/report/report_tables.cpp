@@ -30,16 +30,15 @@ std::string difference_text(uint64_t before, uint64_t after) {
 }
 
 void write_occupancy(Html &html, const TableReport &table, uint64_t most) {
-  if (table.capacity == 0) {
-    const std::string label =
-        fmt::format("{}, no limit is set", counted(table.entries, "entry", "entries"));
-    return write_bar(html, table.entries, most, false, label);
-  }
-  const std::string share = percent(table.entries, table.capacity);
-  write_bar(
-      html, table.entries, table.capacity, true,
-      fmt::format("{} of {} entries, {}", grouped(table.entries), grouped(table.capacity), share));
-  html.leaf("small", fmt::format("{} of {}", share, grouped(table.capacity)));
+  const bool limited = table.capacity != 0;
+  const uint64_t whole = limited ? table.capacity : most;
+  const std::string against = limited ? grouped(whole) : "the fullest";
+  const bool is_fullest = !limited && table.entries == most && most != 0;
+  const std::string text =
+      is_fullest ? against : fmt::format("{} of {}", percent(table.entries, whole), against);
+  write_bar(html, table.entries, whole, limited,
+            fmt::format("{}, {}", counted(table.entries, "entry", "entries"), text));
+  html.leaf("small", text);
 }
 
 void write_table_row(Html &html, const Report &report, const TableReport &table, uint64_t most) {
@@ -96,6 +95,9 @@ void write_tables(Html &html, const Report &report) {
   for (const TableReport &table : report.device.tables) {
     (is_shown(report, table) ? shown : unused).push_back(&table);
   }
+  html.leaf("p",
+            "Occupancy is that of the capacity, or against the fullest table where none is set.",
+            {{"class", "soft"}});
   write_table(html, {"Table", ">Entries", "~Occupancy"}, shown,
               [&](const TableReport *table) { write_table_row(html, report, *table, most); });
   html.line();
@@ -134,10 +136,7 @@ void write_columns(Html &html, const TableReport &table, uint64_t most, size_t t
   const size_t width = count - 1;
   for (size_t tick = 0; tick <= 4; ++tick) {
     const size_t length = width * tick / 4;
-    const double left = 100.0 * (static_cast<double>(length) + 0.5) / static_cast<double>(count);
-    // The outer ones end where the chart does.
-    const double place = tick == 0 ? 0.0 : tick == 4 ? 100.0 : left;
-    html.leaf("span", fmt::format("/{}", length), {{"style", fmt::format("left:{:.2f}%", place)}});
+    html.leaf("span", fmt::format("/{}", length));
   }
   html.close().line();
 }

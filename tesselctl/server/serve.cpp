@@ -2,6 +2,7 @@
 
 #include <malloc.h>
 
+#include "tesselctl/http/http_service.hpp"
 #include "tesselctl/server/server.hpp"
 #include "tesselctl/text/interrupt.hpp"
 
@@ -37,11 +38,17 @@ void serve(const ServeOptions &options, Output &out, Output &errors) {
   keep_memory();
   // First of all the socket, so that a second server is refused by the first one's.
   ListeningSocket listening(options.socket);
+  std::optional<HttpSocket> http_socket;
+  if (!options.http.empty()) http_socket.emplace(options.http);
+  const StartHttp start_http = http_socket ? load_http() : nullptr;
   DeviceOfImage home(options.device, options.image, ImageUse::changes, errors);
   Server server(home.device(), std::move(listening));
   const ServedScope scope(server);
   const SignalScope signals({SIGINT, SIGTERM, SIGHUP}, stop_server);
-  out.line("device {} is served at {}", home.device().id(), options.socket);
+  std::optional<HttpService> http;
+  if (http_socket) http.emplace(start_http, *http_socket, server, home.device());
+  out.line("device {} is served at {}{}", home.device().id(), options.socket,
+           http_socket ? " and " + http_socket->url() : "");
   out.flush();
   server.run();
   home.save();

@@ -9,7 +9,8 @@ namespace tesselctl {
 struct ServeOptions {
   DeviceOptions device;
   std::string socket;
-  ImageOptions image;  // loaded before, if it exists, and saved after
+  ImageOptions image;     // loaded before, if it exists, and saved after
+  std::string http = {};  // where HTTP is answered; empty for nowhere
 };
 
 // Makes a device, prints that it is there, and keeps it for the clients of the socket until SIGINT,

@@ -28,9 +28,10 @@ Settings settings_of(std::string_view text) {
 }  // namespace
 
 ServedClient::ServedClient(Descriptor socket, Device &device, const ServerLimits &limits,
-                           const std::atomic<bool> &stopping)
+                           ServerFigures &figures, const std::atomic<bool> &stopping)
     : socket_(std::move(socket)),
       limits_(limits),
+      figures_(figures),
       stopping_(stopping),
       out_([this](std::string_view text) { push_pieces(MessageType::output, text); }),
       errors_([this](std::string_view text) { push_pieces(MessageType::errors, text); }),
@@ -124,6 +125,8 @@ void ServedClient::look_at(const Message &message) {
   prepare(request);
   const InterruptScope scope([this] { return is_interrupted(); });
   const LineOutcome outcome = run(request);
+  if (!request.ask && outcome != LineOutcome::blank) ++figures_.commands;
+  if (!request.ask && outcome == LineOutcome::fault) ++figures_.faults;
   out_.flush();
   errors_.flush();
   push(encode_end(outcome));

@@ -18,11 +18,18 @@ struct ServerLimits {
   size_t dropped_at = size_t{256} << 20;
 };
 
+// Since the server began. A script that is run as a whole is one command.
+struct ServerFigures {
+  size_t clients = 0;  // now
+  uint64_t commands = 0;
+  uint64_t faults = 0;
+};
+
 class ServedClient {
  public:
-  // The device, limits and stopping outlive the client; a command ends early once stopping is set.
+  // All of these outlive the client; a command ends early once stopping is set.
   ServedClient(Descriptor socket, Device &device, const ServerLimits &limits,
-               const std::atomic<bool> &stopping);
+               ServerFigures &figures, const std::atomic<bool> &stopping);
 
   int fd() const { return socket_.get(); }
   // What to poll for, and what to do with what it gave.
@@ -51,6 +58,7 @@ class ServedClient {
 
   Descriptor socket_;
   const ServerLimits &limits_;
+  ServerFigures &figures_;
   const std::atomic<bool> &stopping_;
   bool gone_ = false;
   MessageReader reader_;

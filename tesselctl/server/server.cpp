@@ -20,18 +20,49 @@ constexpr int kTryAgainMs = 100;
 Server::Server(Device &device, ListeningSocket listening, const ServerLimits &limits)
     : device_(device),
       limits_(limits),
-      wake_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
+      wake_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK | EFD_SEMAPHORE)),
       listening_(std::move(listening)) {
   if (!wake_.is_open()) throw Fault(fmt::format("cannot start the server: {}", strerror(errno)));
 }
 
-void Server::stop() noexcept {
+void Server::wake_up() noexcept {
   const int error = errno;
-  stopping_ = true;
   const uint64_t one = 1;
   // It can only fail when the server is awake already.
   [[maybe_unused]] const ssize_t wrote = write(wake_.get(), &one, sizeof one);
   errno = error;
+}
+
+void Server::stop() noexcept {
+  stopping_ = true;
+  wake_up();
+}
+
+void Server::post(std::function<void()> job) {
+  const std::lock_guard lock(jobs_mutex_);
+  if (ended_) return;
+  jobs_.push_back(std::move(job));
+  wake_up();
+}
+
+// One a round, as clients have one line a round.
+void Server::run_job() {
+  std::function<void()> job;
+  {
+    const std::lock_guard lock(jobs_mutex_);
+    if (jobs_.empty()) return;
+    job = std::move(jobs_.front());
+    jobs_.pop_front();
+  }
+  uint64_t one = 0;
+  [[maybe_unused]] const ssize_t got = read(wake_.get(), &one, sizeof one);
+  job();
+}
+
+ServerFigures Server::figures() const {
+  ServerFigures figures = figures_;
+  figures.clients = clients_.size();
+  return figures;
 }
 
 void Server::run() {
@@ -40,9 +71,13 @@ void Server::run() {
     for (const auto &client : clients_) {
       if (!stopping_ && client->is_ready()) client->step();
     }
+    if (!stopping_) run_job();
     forget_gone();
   }
   clients_.clear();
+  const std::lock_guard lock(jobs_mutex_);
+  ended_ = true;
+  jobs_.clear();
 }
 
 void Server::forget_gone() {
@@ -84,7 +119,7 @@ void Server::accept_client(Descriptor socket) {
   }
   if (clients_.size() < limits_.clients) {
     clients_.push_back(
-        std::make_unique<ServedClient>(std::move(socket), device_, limits_, stopping_));
+        std::make_unique<ServedClient>(std::move(socket), device_, limits_, figures_, stopping_));
     return;
   }
   const std::string refusal = encode_message(

@@ -4,7 +4,10 @@
 #pragma once
 
 #include <atomic>
+#include <deque>
+#include <functional>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -22,9 +25,17 @@ class Server {
   void run();
   // Safe in signal handlers and from any thread. The command that runs ends where it can.
   void stop() noexcept;
+  // Has something done in the thread that runs the server, between two commands; jobs that wait
+  // when the server ends are destroyed. From any thread.
+  void post(std::function<void()> job);
+  // For jobs. A command that they run ends early when this is set.
+  const std::atomic<bool> &stopping() const { return stopping_; }
+  ServerFigures figures() const;
 
  private:
   void wait();
+  void wake_up() noexcept;
+  void run_job();
   void forget_gone();
   void accept_clients();
   void accept_client(Descriptor socket);
@@ -32,10 +43,14 @@ class Server {
   Device &device_;
   const ServerLimits limits_;
   std::atomic<bool> stopping_ = false;
-  Descriptor wake_;  // readable once the server is to stop
+  Descriptor wake_;  // readable once the server is to stop, and while jobs wait
   ListeningSocket listening_;
   bool out_of_descriptors_ = false;
   std::vector<std::unique_ptr<ServedClient>> clients_;
+  ServerFigures figures_;
+  std::mutex jobs_mutex_;
+  std::deque<std::function<void()>> jobs_;
+  bool ended_ = false;
 };
 
 }  // namespace tesselctl

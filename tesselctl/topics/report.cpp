@@ -12,9 +12,6 @@ namespace tesselctl {
 
 namespace {
 
-constexpr uint64_t kRows = 20;
-constexpr uint64_t kMostRows = 10'000;
-
 // What an image holds, by way of a device of its own.
 DeviceReport report_of_image(const Context &context, Word file, size_t rows) {
   ImageSource image(context.path(file), file.text);
@@ -74,7 +71,7 @@ void report(Context &context, const Invocation &invocation) {
   if (files == 0) throw Fault(page, "the name of the page is missing");
   if (files > 3) throw Fault(invocation.arguments[3], "a report is about two images at most");
   const Options options(invocation, files, {"rows", "note"});
-  const auto rows = static_cast<size_t>(options.number_or("rows", kMostRows, kRows));
+  const auto rows = static_cast<size_t>(options.number_or("rows", kMostReportRows, kReportRows));
   Report report;
   if (options.has("note")) report.note = options.need("note").text;
   const Words images = invocation.arguments.subspan(1, files - 1);

@@ -139,15 +139,16 @@ void show(Context &context, const Invocation &invocation) {
 
 constexpr Command kCommands[] = {
     {"snapshot create", "[first=STAGE] [last=STAGE] [direction=ingress|egress] [pipe=N] [as=NAME]",
-     "makes a snapshot of packets at some stages", create},
+     "makes a snapshot of packets at some stages", create, Kind::acts},
     {"snapshot trigger", "snapshot=HANDLE FIELD=VALUE|VALUE&MASK...",
-     "arms a snapshot: the first packet that matches in each pipe is captured", trigger},
+     "arms a snapshot: the first packet that matches in each pipe is captured", trigger,
+     Kind::acts},
     {"snapshot inject",
      "FIELD=VALUE... [direction=ingress|egress] [pipe=N] [first=STAGE] [last=STAGE]",
-     "sends a packet through stages; fields that are not given are 0", inject},
+     "sends a packet through stages; fields that are not given are 0", inject, Kind::acts},
     {"snapshot show", "snapshot=HANDLE [pipe=N]",
      "prints what was captured, stage by stage, but for fields that are 0", show, Kind::lists},
-    {"snapshot delete", "snapshot=HANDLE", "deletes a snapshot", remove},
+    {"snapshot delete", "snapshot=HANDLE", "deletes a snapshot", remove, Kind::acts},
 };
 
 bool has_snapshots() { return !has_program() || !binding().captures.list().empty(); }
