@@ -1,10 +1,10 @@
-// Any text as a value string of a table, and the value of a field. The first two bytes
+// Any text as a value string of a table, and the value or the range of a field. The first two bytes
 // choose the table and the field.
 #include "fuzz/target.hpp"
 
 #include "tesselctl/device/table_info.hpp"
 #include "tesselctl/program/library.hpp"
-#include "tesselctl/program/value.hpp"
+#include "tesselctl/program/value_range.hpp"
 #include "tesselctl/state/kind.hpp"
 
 using namespace tesselctl;
@@ -49,6 +49,15 @@ void try_value(std::string_view text, const Field &field) {
   require(parse_value(field, {shown, 1}) == value, "a value is read as it is shown");
 }
 
+void try_range(std::string_view text, const Field &field) {
+  if (!is_range(text)) return;
+  const std::vector<FieldValue> values = parse_range(field, {text, 1});
+  const auto &[value, mask] = values.back();
+  const ValueRange range = {values.front().value, value | (~mask & low_ones(range_width(field)))};
+  require(parse_range(field, {format_range(field, range), 1}) == values,
+          "a range is read as it is shown");
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
@@ -57,6 +66,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
   const std::string_view text = text_of(data + 2, size - 2);
   try_items(text, table.name);
   if (table.field_count == 0) return 0;
-  unless_fault([&] { try_value(text, table.fields[data[1] % table.field_count]); });
+  const Field &field = table.fields[data[1] % table.field_count];
+  unless_fault([&] { try_value(text, field); });
+  unless_fault([&] { try_range(text, field); });
   return 0;
 }
