@@ -3,6 +3,7 @@
 #include "soft_contents.h"
 #include "soft_sdk.h"
 #include "tesselctl/text/interrupt.hpp"
+#include "tesselctl/text/number.hpp"
 
 namespace tesselctl {
 
@@ -115,6 +116,14 @@ void check_handles(uint64_t status, const Device &device, const char *profile,
     if (!has_handle(device, profile, written.kind, written.handle)) check(status, written.word);
   }
   check(status, otherwise);
+}
+
+uint64_t choose_member(const Device &device, const char *profile, p4_pd_group_handle_t group,
+                       uint32_t hash, p4_pd_member_handle_t &member) {
+  const auto bytes = to_bytes(uint64_t{hash});
+  Call call = device.prepare("group_member_get_from_hash", profile);
+  call.set("group", uint64_t{group}).set("member", &member);
+  return call.set("hash", bytes.data() + 12).set("hash_length", uint64_t{4}).run();
 }
 
 void for_each_cell(const Device &device, uint32_t handle,

@@ -59,6 +59,11 @@ bool has_handle(const Device &device, const char *profile, std::string_view kind
 void check_handles(uint64_t status, const Device &device, const char *profile,
                    const std::vector<WrittenHandle> &handles, Word otherwise);
 
+// The member that a packet of the hash gets from the group. A status: BF_OBJECT_NOT_FOUND when the
+// group has no active member and the profile no fallback.
+uint64_t choose_member(const Device &device, const char *profile, p4_pd_group_handle_t group,
+                       uint32_t hash, p4_pd_member_handle_t &member);
+
 // The cells of a counter, meter or register that are not as most are, or one of them alone.
 void for_each_cell(const Device &device, uint32_t handle,
                    const std::function<void(uint32_t)> &visit, std::optional<uint32_t> only = {});

@@ -326,14 +326,12 @@ void disable(Context &context, const Invocation &invocation) {
 
 void choose_member(Context &context, const Invocation &invocation) {
   const ProfileLine line(context, invocation, {"group", "hash"});
-  const auto bytes = to_bytes(line.options.number("hash", 0xffffffffu));
+  const auto hash = static_cast<uint32_t>(line.options.number("hash", 0xffffffffu));
   const uint32_t group = line.options.handle(context, "group");
   p4_pd_member_handle_t member = 0;
-  Call call = line.call("group_member_get_from_hash");
-  call.set("group", uint64_t{group}).set("member", &member);
-  call.set("hash", bytes.data() + 12).set("hash_length", uint64_t{4});
-  check_handles(call.run(), context.device, line.object.name,
-                {{"group", group, line.options.need("group")}}, line.word);
+  check_handles(tesselctl::choose_member(context.device, line.object.name, group, hash, member),
+                context.device, line.object.name, {{"group", group, line.options.need("group")}},
+                line.word);
   Row row = line.row().number("member", member);
   add_member(row, context.device, line.object.name, member, line.word);
   context.results.row(row);
