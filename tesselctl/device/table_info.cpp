@@ -2,7 +2,10 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <stdexcept>
+
+#include "tesselctl/program/value.hpp"
 
 namespace tesselctl {
 
@@ -27,6 +30,17 @@ const soft_profile_t *TableInfo::profile() const {
     if (profile.action_data_table == description->action_data_table) return &profile;
   }
   return nullptr;
+}
+
+std::vector<uint8_t> packet_key(const TableInfo &table, const uint8_t *record) {
+  const soft_table_t &description = *table.description;
+  std::vector<uint8_t> key(description.key_bytes);
+  for (const soft_key_field_t &place : std::span(description.fields, description.field_count)) {
+    const Field &field = find_field(*table.record, {place.name, 0}, table.name());
+    const auto bytes = to_bytes(load_value(field, record).value);
+    std::copy(bytes.end() - place.bytes, bytes.end(), key.begin() + place.offset);
+  }
+  return key;
 }
 
 TableInfo table_of_handle(uint32_t handle) {

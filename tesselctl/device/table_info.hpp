@@ -26,6 +26,9 @@ const char *match_name(const TableInfo &table);
 // are.
 std::string key_text(const TableInfo &table, std::string_view separator, size_t most = ~size_t{0});
 
+// The key of the table as packets carry it: the fields of the record big-endian at their places.
+std::vector<uint8_t> packet_key(const TableInfo &table, const uint8_t *record);
+
 // In the order of the program.
 const std::vector<TableInfo> &all_tables();
 // Throws Fault when no table has this name.

@@ -24,7 +24,7 @@ class PacketLine {
         options(words_.options(), 1, names),
         pipe(pipe_of(context, options, 0)) {
     fields_.finish(word_);
-    pack();
+    key_ = packet_key(table_, fields_.data());
   }
 
   Word word() const { return word_; }
@@ -33,18 +33,6 @@ class PacketLine {
   uint32_t length() const { return static_cast<uint32_t>(key_.size()); }
 
  private:
-  // The key as packets carry it: the fields big-endian at their places.
-  void pack() {
-    const soft_table_t &description = *table_.description;
-    key_.resize(description.key_bytes);
-    for (uint32_t i = 0; i < description.field_count; ++i) {
-      const soft_key_field_t &place = description.fields[i];
-      const Field &field = find_field(*table_.record, {place.name, 0}, table_.name());
-      const auto bytes = to_bytes(load_value(field, fields_.data()).value);
-      std::copy(bytes.end() - place.bytes, bytes.end(), key_.begin() + place.offset);
-    }
-  }
-
   Word word_;
   TableInfo table_;
   FieldWords words_;
