@@ -24,11 +24,6 @@ void make_folders(const std::string &path) {
   }
 }
 
-std::string_view variable(const char *name) {
-  const char *value = std::getenv(name);
-  return value == nullptr ? std::string_view() : std::string_view(value);
-}
-
 bool is_regular(const std::string &path) {
   struct stat status = {};
   return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
@@ -78,11 +73,7 @@ void History::add(const std::string &line) const {
 
 std::string default_history_path() {
   if (const char *chosen = std::getenv("TESSELCTL_HISTORY")) return chosen;
-  const std::string_view state = variable("XDG_STATE_HOME");
-  // A relative one is none.
-  if (state.starts_with('/')) return std::string(state) + "/tesselctl/history";
-  const std::string_view home = variable("HOME");
-  return home.empty() ? std::string() : std::string(home) + "/.local/state/tesselctl/history";
+  return file_of_user("XDG_STATE_HOME", ".local/state", "history");
 }
 
 }  // namespace tesselctl

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
 #include <utility>
 
@@ -172,6 +173,21 @@ LineSource lines_of(std::string_view text) {
 std::string path_in(const std::string &directory, const std::string &name) {
   if (directory.empty() || name.starts_with('/')) return name;
   return directory + (directory.ends_with('/') ? "" : "/") + name;
+}
+
+std::string file_of_user(const char *variable, std::string_view folder, std::string_view name) {
+  const auto value = [](const char *of) {
+    const char *text = std::getenv(of);
+    return text == nullptr ? std::string() : std::string(text);
+  };
+  std::string path = value(variable);
+  // A relative one is none.
+  if (!path.starts_with('/')) {
+    path = value("HOME");
+    if (path.empty()) return {};
+    path = path_in(path, std::string(folder));
+  }
+  return path_in(path, "tesselctl/" + std::string(name));
 }
 
 bool is_compressed(const std::string &path) {

@@ -73,6 +73,9 @@ class FileLines {
 
 // The file of that name as seen from the directory: the name itself when it is absolute.
 std::string path_in(const std::string &directory, const std::string &name);
+// Of the tool, in the folder that the environment's variable has, or in that one of the user's
+// home. Empty when the environment names none.
+std::string file_of_user(const char *variable, std::string_view folder, std::string_view name);
 bool is_compressed(const std::string &path);
 // Whether something is there that a read or write could wait for: a pipe, a terminal, a device.
 bool is_no_regular_file(const std::string &path);
