@@ -16,6 +16,7 @@
 #include "tesselctl/command/manual.hpp"
 #include "tesselctl/command/options.hpp"
 #include "tesselctl/command/topic.hpp"
+#include "tesselctl/explain/path_file.hpp"
 #include "tesselctl/program/library.hpp"
 #include "tesselctl/program/module.hpp"
 #include "tesselctl/server/client.hpp"
@@ -286,6 +287,7 @@ int run_tool(int argc, char **argv) {
     // With the tool's own options as long as there may be a fault in them.
     line = line_of(words);
     take_tool_flags(words, settings);
+    if (settings.lines.paths.empty()) settings.lines.paths = default_paths_file();
     line = line_of(words);
     if (!settings.version) return run_words(settings, line);
     if (!words.empty()) throw Fault({words[0].text, 1}, "nothing should stand here");

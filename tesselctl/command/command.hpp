@@ -46,6 +46,8 @@ struct Context {
   std::string output_path(Word word) const;
 };
 
+class Offers;
+
 struct Invocation {
   Word command;  // the words that name the command
   Words arguments;
@@ -71,6 +73,10 @@ struct Command {
   bool hidden = false;          // for programs: no help lists it
   bool watched = false;         // changes something, and watch repeats it all the same
   Where where = Where::device;
+  // Of a command with more than one table: offers the fields that the words behind it want, or what
+  // can stand behind the name of one. May throw Fault.
+  void (*offer_fields)(Offers &offers, const Context &context, Words given,
+                       std::string_view name) = nullptr;
 
   std::string_view first_word() const { return name.substr(0, name.find(' ')); }
   // Empty when the name is one word.

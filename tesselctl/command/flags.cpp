@@ -26,6 +26,8 @@ void set_text(ToolSettings &settings, Word value) {
   settings.*Member = std::string(value.text);
 }
 
+void set_paths(ToolSettings &settings, Word value) { settings.lines.paths = value.text; }
+
 void set_sort(ToolSettings &settings, Word value) { settings.lines.sort = value.text; }
 
 void set_image(ToolSettings &settings, Word value) {
@@ -72,6 +74,7 @@ constexpr Flag kFlags[] = {
     {"--device", FlagOf::tool, set_device, "id of the device, 0 to 255 (0)", "N"},
     {"--pipes", FlagOf::tool, set_pipes, "pipes of the device, 1 to 8 (those of the image, or 4)",
      "N"},
+    {"--paths", FlagOf::tool, set_paths, "file of named paths, for explain", "FILE"},
     {"--history",
      FlagOf::tool,
      set_text<&ToolSettings::history>,
@@ -236,6 +239,7 @@ std::string words_of(const Settings &settings) {
     words += "--filter \"" + filter.name + "=" + filter.pattern + "\" ";
   }
   if (settings.from != 1) words += fmt::format("--from {} ", settings.from);
+  if (!settings.paths.empty()) words += "--paths " + written({settings.paths, 0}) + " ";
   if (!settings.sort.empty()) words += "--sort \"" + settings.sort + "\" ";
   return words;
 }

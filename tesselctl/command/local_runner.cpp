@@ -26,7 +26,7 @@ std::string LocalRunner::ask(std::string_view line) {
   Output answer;
   Context context = {.device = context_.device,
                      .out = answer,
-                     .defaults = {.terse = true},
+                     .defaults = {.terse = true, .paths = context_.defaults.paths},
                      .labels = context_.labels,
                      .directory = context_.directory};
   try {

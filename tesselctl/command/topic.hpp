@@ -10,7 +10,7 @@ namespace tesselctl {
 struct ObjectWord {
   std::string_view placeholder;
   // Offers their names; given are the words behind the command.
-  void (*offer)(Offers &offers, const Command &command, Words given);
+  void (*offer)(Offers &offers, const Context &context, const Command &command, Words given);
   // Says what the object of that name is about, if there is one; null for nothing.
   void (*choose)(Subject &subject, std::string_view name) = nullptr;
 };

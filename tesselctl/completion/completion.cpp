@@ -89,6 +89,8 @@ class Completer {
   void complete_word();
   void complete_names();
   void offer_name(const Argument &argument);
+  // Rather than another one of many tables, as long as no letter of one is there.
+  bool wants_fields() const { return command_->offer_fields != nullptr && current_.empty(); }
   void offer_outcome();
   void offer_action_parameters();
   bool is_taken(const Argument &argument) const;
@@ -251,7 +253,7 @@ void Completer::complete_word() {
   for (const Argument &argument : grammar_) {
     if (!argument.stands_alone() || argument.value == "OUTCOME") continue;
     const bool passed = at++ < alone_;
-    if (passed && !argument.repeated) continue;
+    if (passed && (!argument.repeated || wants_fields())) continue;
     complete_value_of(argument);
     if (!argument.optional && !passed) return;
     break;
@@ -295,6 +297,9 @@ bool Completer::is_taken(const Argument &argument) const {
 
 void Completer::offer_name(const Argument &argument) {
   if (argument.name == "PARAM" || is_taken(argument)) return;
+  if (argument.name == "FIELD" && command_->offer_fields != nullptr) {
+    return command_->offer_fields(offers_, context_, arguments_, {});
+  }
   if (argument.name == "FIELD") return offer_fields(offers_, subject_, grammar_, given_);
   if (!subject_.takes(argument.name)) return;
   std::string help(meaning_of_name(argument.name));
@@ -332,6 +337,9 @@ void Completer::complete_value(std::string_view name) {
       return complete_value_of({.name = name, .value = "HANDLE"});
     }
   }
+  if (command_->offer_fields != nullptr) {
+    return command_->offer_fields(offers_, context_, arguments_, name);
+  }
   if (const Field *field = subject_.field_of(name, grammar_)) {
     offer_values(offers_, *field, true);
   }
@@ -363,7 +371,7 @@ void Completer::complete_value_of(const Argument &argument) {
     } else if (is_file_placeholder(value)) {
       offers_.offer_files(context_.directory, cut_.quoted);
     } else if (const ObjectWord *word = find_object_word(value)) {
-      word->offer(offers_, *command_, arguments_);
+      word->offer(offers_, context_, *command_, arguments_);
     } else {
       const std::string_view of_name = meaning_of_name(argument.name);
       const std::string_view meaning = of_name.empty() ? meaning_of_value(value) : of_name;

@@ -38,14 +38,6 @@ void offer_members(Offers &offers, const Device &device, const soft_profile_t &p
 
 }  // namespace
 
-const Field *find_field(const bindings::Record &record, std::string_view name) {
-  try {
-    return &find_field(record, {name, 0}, "");
-  } catch (const Fault &) {
-    return nullptr;
-  }
-}
-
 bool Subject::takes(std::string_view name) const {
   if (is_cells) return name != (table ? "index" : "entry");
   if (!table) return true;

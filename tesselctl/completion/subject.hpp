@@ -12,9 +12,6 @@
 
 namespace tesselctl {
 
-// Null for an unknown or ambiguous name.
-const Field *find_field(const bindings::Record &record, std::string_view name);
-
 struct Subject {
   std::optional<TableInfo> table;           // also the one whose entries a counter or meter follows
   const soft_profile_t *profile = nullptr;  // also the one that the table is bound to
@@ -35,7 +32,7 @@ struct Subject {
 
 // Offers the objects of a kind with a line of help each.
 template <class Object, std::string (*Help)(const Object &)>
-void offer_objects(Offers &offers, const Command &, Words) {
+void offer_objects(Offers &offers, const Context &, const Command &, Words) {
   for (const Object &object : program_rows<Object>()) {
     if (offers.begins(object.name)) offers.offer(object.name, Help(object));
   }

@@ -258,7 +258,7 @@ std::string table_help(const TableInfo &table) {
   return text;
 }
 
-void offer_tables(Offers &offers, const Command &command, Words given) {
+void offer_tables(Offers &offers, const Context &, const Command &command, Words given) {
   const bool only_ageing = command.first_word() == "age";
   const bool only_acl = command.name == "acl";
   const auto is_acl = [](const TableInfo &table) {
@@ -278,7 +278,7 @@ void choose(Subject &subject, const soft_table_t &table) {
   choose_table(subject, resolve_table({table.name, 0}));
 }
 
-void offer_all_actions(Offers &offers, const Command &, Words) {
+void offer_all_actions(Offers &offers, const Context &, const Command &, Words) {
   for (const bindings::Record &record : actions()) offers.offer(record.name, "an action");
 }
 

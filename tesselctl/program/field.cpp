@@ -98,4 +98,12 @@ const Field &find_field(const bindings::Record &record, Word name, std::string_v
                                 found[0]->label, found[1]->label));
 }
 
+const Field *find_field(const bindings::Record &record, std::string_view name) {
+  try {
+    return &find_field(record, {name, 0}, "");
+  } catch (const Fault &) {
+    return nullptr;
+  }
+}
+
 }  // namespace tesselctl

@@ -28,5 +28,7 @@ bool has_field_named(const bindings::Record &record, std::string_view name);
 // end of no other field's name; '_' and upper and lower case make no difference. Throws Fault for
 // an unknown or ambiguous name; what says what has the fields, "table x".
 const Field &find_field(const bindings::Record &record, Word name, std::string_view what);
+// The same, but null for such a name.
+const Field *find_field(const bindings::Record &record, std::string_view name);
 
 }  // namespace tesselctl

@@ -19,10 +19,11 @@ constexpr size_t kPiece = size_t{1} << 16;
 Settings settings_of(std::string_view text) {
   std::vector<Word> words;
   split_words(text, words);
-  Settings settings;
-  take_flags(words, settings);
+  ToolSettings tool;
+  take_tool_flags(words, tool);
+  take_flags(words, tool.lines);
   if (!words.empty()) throw Fault("the settings of a request hold other words");
-  return settings;
+  return tool.lines;
 }
 
 }  // namespace

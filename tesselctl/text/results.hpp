@@ -39,6 +39,7 @@ struct Settings {
   uint64_t from = 1;  // the line of a script that is run first
   std::vector<Filter> filters = {};
   std::string sort = {};
+  std::string paths = {};  // the file of named paths; empty for none
 
   bool operator==(const Settings &) const = default;
 };

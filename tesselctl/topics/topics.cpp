@@ -13,19 +13,20 @@ extern const Topic kEntryTopic, kTableTopic, kDefaultTopic, kMemberTopic, kGroup
     kFallbackTopic;
 extern const Topic kMeterTopic, kWredTopic, kCounterTopic, kRegisterTopic, kHashTopic,
     kValueSetTopic;
-extern const Topic kTrafficTopic, kDigestTopic, kSnapshotTopic, kAgeingTopic, kStateTopic;
+extern const Topic kTrafficTopic, kExplainTopic, kDigestTopic, kSnapshotTopic, kAgeingTopic,
+    kStateTopic;
 extern const Topic kImageTopic, kCompareTopic, kLintTopic, kRoutesTopic, kAclTopic, kObjectsTopic,
     kIntrospectionTopic, kReportTopic;
 extern const Topic kToolTopic, kHelpTopic;
 
 std::span<const Topic *const> command_topics() {
   static constexpr const Topic *kTopics[] = {
-      &kEntryTopic,    &kTableTopic,    &kDefaultTopic, &kMemberTopic,        &kGroupTopic,
-      &kFallbackTopic, &kMeterTopic,    &kWredTopic,    &kCounterTopic,       &kRegisterTopic,
-      &kHashTopic,     &kValueSetTopic, &kTrafficTopic, &kDigestTopic,        &kSnapshotTopic,
-      &kAgeingTopic,   &kStateTopic,    &kImageTopic,   &kCompareTopic,       &kLintTopic,
-      &kRoutesTopic,   &kAclTopic,      &kObjectsTopic, &kIntrospectionTopic, &kReportTopic,
-      &kToolTopic,     &kHelpTopic,
+      &kEntryTopic,    &kTableTopic,    &kDefaultTopic, &kMemberTopic,  &kGroupTopic,
+      &kFallbackTopic, &kMeterTopic,    &kWredTopic,    &kCounterTopic, &kRegisterTopic,
+      &kHashTopic,     &kValueSetTopic, &kTrafficTopic, &kExplainTopic, &kDigestTopic,
+      &kSnapshotTopic, &kAgeingTopic,   &kStateTopic,   &kImageTopic,   &kCompareTopic,
+      &kLintTopic,     &kRoutesTopic,   &kAclTopic,     &kObjectsTopic, &kIntrospectionTopic,
+      &kReportTopic,   &kToolTopic,     &kHelpTopic,
   };
   return kTopics;
 }
