@@ -17,6 +17,7 @@
 #include "tesselctl/command/options.hpp"
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/explain/path_file.hpp"
+#include "tesselctl/journal/journal.hpp"
 #include "tesselctl/program/library.hpp"
 #include "tesselctl/program/module.hpp"
 #include "tesselctl/server/client.hpp"
@@ -152,10 +153,17 @@ int exit_of(LineOutcome outcome) {
 
 int run_serve(const ToolSettings &settings) {
   if (settings.socket.empty()) throw Fault("serve needs --socket PATH");
-  load_program_of(settings);
+  const std::string &journal = settings.journal.path;
+  if (!journal.empty() && !settings.image.empty()) {
+    throw Fault(
+        "a journal keeps the device itself: leave out --image, and load it when it is served");
+  }
+  ToolSettings of_program = settings;
+  if (!journal.empty()) of_program.image = checkpoint_of(journal);
+  load_program_of(of_program);
   Streams streams(settings);
-  serve({settings.device, settings.socket, image_of(settings), settings.http}, streams.out,
-        streams.errors);
+  serve({settings.device, settings.socket, image_of(settings), settings.http, settings.journal},
+        streams.out, streams.errors);
   return kDone;
 }
 
@@ -237,6 +245,7 @@ int run_manual(const Settings &settings, const Invocation &invocation) {
 // The device of a server is what the server made it, and only a server answers HTTP.
 void check_no_server(const ToolSettings &settings) {
   if (!settings.http.empty()) throw Fault("--http is for serve");
+  if (!settings.journal.path.empty()) throw Fault("--journal is for serve");
   if (settings.socket.empty() || settings.device_flag.empty()) return;
   throw Fault(fmt::format("{} is for the server to choose", settings.device_flag));
 }

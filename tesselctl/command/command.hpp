@@ -18,6 +18,8 @@
 
 namespace tesselctl {
 
+class Journal;
+
 // What commands did to the device. One with a fault may have done a part.
 enum class Changed : uint8_t { no, perhaps, yes };
 
@@ -37,6 +39,8 @@ struct Context {
   bool differs = false;
   // What the names of files are relative to, when that is not where this process works.
   std::string directory = {};
+  // Of the server, where the line is one of its own; null without one.
+  Journal *journal = nullptr;
   // The device is a copy to try commands on: nothing that they do is to stay.
   bool is_trial = false;
 

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <array>
 
 #include "common/nearest.hpp"
 #include "tesselctl/program/value.hpp"
@@ -33,6 +34,22 @@ void set_sort(ToolSettings &settings, Word value) { settings.lines.sort = value.
 void set_image(ToolSettings &settings, Word value) {
   settings.image = value.text;
   settings.device_flag = "--image";
+}
+
+void set_journal(ToolSettings &settings, Word value) { settings.journal.path = value.text; }
+
+void set_sync(ToolSettings &settings, Word value) {
+  static constexpr std::array<std::string_view, 2> kNames = {"interval", "always"};
+  const auto *const found = std::ranges::find(kNames, value.text);
+  if (found == kNames.end()) {
+    throw Fault(value, "a journal is synced always or by interval",
+                common::nearest(value.text, kNames));
+  }
+  settings.journal.sync = static_cast<JournalSync>(found - kNames.begin());
+}
+
+void set_rotate(ToolSettings &settings, Word value) {
+  settings.journal.most_bytes = parse_limited(value, 256, "the size in MiB", 1) << 20;
 }
 
 void set_program(ToolSettings &settings, Word value) {
@@ -68,6 +85,13 @@ constexpr Flag kFlags[] = {
      "works on the device of the server that listens there; of serve: where it listens", "PATH"},
     {"--http", FlagOf::tool, set_text<&ToolSettings::http>,
      "of serve: answers HTTP there, too; without ADDR for this machine alone", "[ADDR:]PORT"},
+    {"--journal", FlagOf::tool, set_journal,
+     "of serve: appends each change to this file, and starts again from it", "FILE"},
+    {"--sync", FlagOf::tool, set_sync,
+     "when changes are on the disk: always before they are answered, or by interval, once a second",
+     "always|interval"},
+    {"--rotate", FlagOf::tool, set_rotate,
+     "size of a journal from which a new checkpoint and file begin (64)", "MIB"},
     {"--program", FlagOf::tool, set_program,
      "the P4 program, by name or by its module's file (that of the image, or the usual one)",
      "NAME"},

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "tesselctl/command/command.hpp"
+#include "tesselctl/journal/options.hpp"
 
 namespace tesselctl {
 
@@ -12,9 +13,10 @@ namespace tesselctl {
 struct ToolSettings {
   DeviceOptions device = {};
   std::string_view device_flag = {};  // a given one that says what device it is; or empty
-  std::string socket = {};   // of the server that has the device; empty for a device of our own
-  std::string http = {};     // where a server answers HTTP
-  std::string image = {};    // where the device comes from and goes to
+  std::string socket = {};  // of the server that has the device; empty for a device of our own
+  std::string http = {};    // where a server answers HTTP
+  std::string image = {};   // where the device comes from and goes to
+  JournalOptions journal = {};
   std::string program = {};  // empty when nobody names one
   size_t program_column = 0;
   bool pipes_are_given = false;

@@ -12,6 +12,7 @@ void LocalRunner::begin_trial() {
   trial_ = std::make_unique<LocalRunner>(*copy_, context_.out, *errors_, context_.defaults);
   trial_->context_.labels = context_.labels;
   trial_->context_.directory = context_.directory;
+  trial_->context_.journal = context_.journal;
   trial_->context_.is_trial = true;
 }
 

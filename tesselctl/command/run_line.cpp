@@ -27,6 +27,7 @@ void run_on_copy(Context &context, const Command &command, const Invocation &inv
                    .settings = context.settings,
                    .labels = context.labels,
                    .directory = context.directory,
+                   .journal = context.journal,
                    .is_trial = true};
   trial.results = context.results;
   try {

@@ -3,6 +3,7 @@
 #include <malloc.h>
 
 #include "tesselctl/http/http_service.hpp"
+#include "tesselctl/journal/journal.hpp"
 #include "tesselctl/server/server.hpp"
 #include "tesselctl/text/interrupt.hpp"
 
@@ -41,17 +42,25 @@ void serve(const ServeOptions &options, Output &out, Output &errors) {
   std::optional<HttpSocket> http_socket;
   if (!options.http.empty()) http_socket.emplace(options.http);
   const StartHttp start_http = http_socket ? load_http() : nullptr;
-  DeviceOfImage home(options.device, options.image, ImageUse::changes, errors);
-  Server server(home.device(), std::move(listening));
+  std::optional<DeviceOfImage> home;
+  std::optional<Journal> journal;
+  if (options.journal.path.empty()) {
+    home.emplace(options.device, options.image, ImageUse::changes, errors);
+  } else {
+    journal.emplace(options.journal, options.device, options.image.keep_pipes, errors);
+  }
+  Device &device = home ? home->device() : journal->device();
+  Server server(device, std::move(listening), {}, journal ? &*journal : nullptr);
   const ServedScope scope(server);
   const SignalScope signals({SIGINT, SIGTERM, SIGHUP}, stop_server);
   std::optional<HttpService> http;
-  if (http_socket) http.emplace(start_http, *http_socket, server, home.device());
-  out.line("device {} is served at {}{}", home.device().id(), options.socket,
+  if (http_socket) http.emplace(start_http, *http_socket, server, device);
+  out.line("device {} is served at {}{}", device.id(), options.socket,
            http_socket ? " and " + http_socket->url() : "");
   out.flush();
   server.run();
-  home.save();
+  if (home) home->save();
+  if (journal) journal->finish();
 }
 
 }  // namespace tesselctl

@@ -28,15 +28,19 @@ Settings settings_of(std::string_view text) {
 
 }  // namespace
 
-ServedClient::ServedClient(Descriptor socket, Device &device, const ServerLimits &limits,
+ServedClient::ServedClient(Descriptor socket, const Served &served, const ServerLimits &limits,
                            ServerFigures &figures, const std::atomic<bool> &stopping)
     : socket_(std::move(socket)),
+      served_(served),
+      name_(peer_of(socket_)),
       limits_(limits),
       figures_(figures),
       stopping_(stopping),
       out_([this](std::string_view text) { push_pieces(MessageType::output, text); }),
       errors_([this](std::string_view text) { push_pieces(MessageType::errors, text); }),
-      runner_(device, out_, errors_, Settings{}) {}
+      runner_(served.device, out_, errors_, Settings{}) {
+  runner_.context().journal = served.journal;
+}
 
 short ServedClient::events() const {
   int events = 0;
@@ -125,7 +129,7 @@ void ServedClient::look_at(const Message &message) {
   if (request.script && request.more) return collect(request.text);
   prepare(request);
   const InterruptScope scope([this] { return is_interrupted(); });
-  const LineOutcome outcome = run(request);
+  const LineOutcome outcome = run_logged(request);
   if (!request.ask && outcome != LineOutcome::blank) ++figures_.commands;
   if (!request.ask && outcome == LineOutcome::fault) ++figures_.faults;
   out_.flush();
@@ -161,6 +165,35 @@ LineOutcome ServedClient::run(const Request &request) {
     throw;  // the output is gone
   } catch (const std::exception &error) {
     errors_.line("tesselctl: {}", error.what());
+    return LineOutcome::fault;
+  }
+}
+
+LineOutcome ServedClient::run_logged(const Request &request) {
+  LineOutcome outcome;
+  try {
+    outcome = run(request);
+  } catch (const Fault &) {
+    end_line(request, LineOutcome::fault);
+    throw;
+  }
+  return end_line(request, outcome);
+}
+
+// What the line changed goes to the log, or it was not done.
+LineOutcome ServedClient::end_line(const Request &request, LineOutcome outcome) {
+  try {
+    served_.log.end_line(name_, request.script ? "run --atomic " + request.file
+                                               : std::string(trimmed(request.text)));
+    return outcome;
+  } catch (const Fault &fault) {
+    // As far as it is not sent yet, the answer does not hold.
+    out_.take();
+    const Settings &settings = runner_.defaults();
+    Results results(out_);
+    results.begin(settings, trimmed(request.text), false);
+    const Fault whole("the change could not be kept and was taken back: " + fault.sentence());
+    report_fault(whole, {}, results, settings.json, out_, errors_);
     return LineOutcome::fault;
   }
 }

@@ -5,6 +5,7 @@
 #include <atomic>
 
 #include "tesselctl/command/local_runner.hpp"
+#include "tesselctl/journal/change_log.hpp"
 #include "tesselctl/server/protocol.hpp"
 #include "tesselctl/text/descriptor.hpp"
 
@@ -25,10 +26,17 @@ struct ServerFigures {
   uint64_t faults = 0;
 };
 
+// What a server serves.
+struct Served {
+  Device &device;
+  ChangeLog &log;
+  Journal *journal = nullptr;
+};
+
 class ServedClient {
  public:
-  // All of these outlive the client; a command ends early once stopping is set.
-  ServedClient(Descriptor socket, Device &device, const ServerLimits &limits,
+  // What the client shares with others outlives it; a command ends early once stopping is set.
+  ServedClient(Descriptor socket, const Served &served, const ServerLimits &limits,
                ServerFigures &figures, const std::atomic<bool> &stopping);
 
   int fd() const { return socket_.get(); }
@@ -52,11 +60,15 @@ class ServedClient {
   void look_at(const Message &message);
   void prepare(const Request &request);
   LineOutcome run(const Request &request);
+  LineOutcome run_logged(const Request &request);
+  LineOutcome end_line(const Request &request, LineOutcome outcome);
   LineOutcome change_trial(bool begin);
   void collect(std::string_view text);
   bool is_interrupted();
 
   Descriptor socket_;
+  const Served &served_;
+  const std::string name_;
   const ServerLimits &limits_;
   ServerFigures &figures_;
   const std::atomic<bool> &stopping_;

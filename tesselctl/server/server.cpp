@@ -8,6 +8,8 @@
 #include <cerrno>
 #include <cstring>
 
+#include "tesselctl/journal/journal.hpp"
+
 namespace tesselctl {
 
 namespace {
@@ -17,12 +19,17 @@ constexpr int kTryAgainMs = 100;
 
 }  // namespace
 
-Server::Server(Device &device, ListeningSocket listening, const ServerLimits &limits)
-    : device_(device),
+Server::Server(Device &device, ListeningSocket listening, const ServerLimits &limits,
+               Journal *journal)
+    : log_(device),
+      served_{device, log_, journal},
       limits_(limits),
       wake_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK | EFD_SEMAPHORE)),
       listening_(std::move(listening)) {
   if (!wake_.is_open()) throw Fault(fmt::format("cannot start the server: {}", strerror(errno)));
+  if (journal == nullptr) return;
+  log_.add(*journal);
+  log_.count_from(journal->last());
 }
 
 void Server::wake_up() noexcept {
@@ -119,7 +126,7 @@ void Server::accept_client(Descriptor socket) {
   }
   if (clients_.size() < limits_.clients) {
     clients_.push_back(
-        std::make_unique<ServedClient>(std::move(socket), device_, limits_, figures_, stopping_));
+        std::make_unique<ServedClient>(std::move(socket), served_, limits_, figures_, stopping_));
     return;
   }
   const std::string refusal = encode_message(

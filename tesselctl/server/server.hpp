@@ -18,8 +18,9 @@ namespace tesselctl {
 
 class Server {
  public:
-  // The device outlives the server. Throws Fault.
-  Server(Device &device, ListeningSocket listening, const ServerLimits &limits = {});
+  // The device and the journal, if there is one, outlive the server. Throws Fault.
+  Server(Device &device, ListeningSocket listening, const ServerLimits &limits = {},
+         Journal *journal = nullptr);
 
   // Serves until somebody stops it. Throws Fault when it cannot go on.
   void run();
@@ -40,7 +41,8 @@ class Server {
   void accept_clients();
   void accept_client(Descriptor socket);
 
-  Device &device_;
+  ChangeLog log_;
+  Served served_;
   const ServerLimits limits_;
   std::atomic<bool> stopping_ = false;
   Descriptor wake_;  // readable once the server is to stop, and while jobs wait

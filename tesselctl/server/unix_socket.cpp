@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <fmt/format.h>
+#include <pwd.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -79,6 +80,18 @@ Descriptor connect_to(const std::string &path) {
   if (error == 0) throw_system(path);
   const bool nobody = error == ENOENT || error == ECONNREFUSED;
   throw Fault(fmt::format("{}: {}", path, nobody ? "no server runs there" : strerror(error)));
+}
+
+std::string peer_of(const Descriptor &socket) {
+  ucred peer = {};
+  socklen_t size = sizeof peer;
+  if (getsockopt(socket.get(), SOL_SOCKET, SO_PEERCRED, &peer, &size) != 0) return "?";
+  passwd user = {};
+  passwd *found = nullptr;
+  char names[4096];
+  getpwuid_r(peer.uid, &user, names, sizeof names, &found);
+  const std::string name = found != nullptr ? found->pw_name : std::to_string(peer.uid);
+  return fmt::format("{}[{}]", name, peer.pid);
 }
 
 ListeningSocket::ListeningSocket(std::string path) : path_(std::move(path)) {

@@ -16,6 +16,9 @@ inline bool would_wait(int error) {
   return error == EAGAIN || error == EWOULDBLOCK || error == EINTR;
 }
 
+// Who is at the other end: user and process, "anna[4711]".
+std::string peer_of(const Descriptor &socket);
+
 // The socket that a server listens at. Its file has mode 0600 from the first moment on and goes
 // with its owner.
 class ListeningSocket {

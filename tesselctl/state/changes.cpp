@@ -175,10 +175,26 @@ Row change_row(std::string_view sign, const DeviceState::Part &part, const ItemS
   return row.in_style(sign == "-" ? Style::removed : Style::good);
 }
 
-void expect_changes(Results &results) {
+void print_changes(Results &results, bool counted, const std::vector<Change> &changes) {
+  uint64_t added = 0, removed = 0, modified = 0;
+  for (const Change &change : changes) {
+    const uint64_t passed = results.passed();
+    for_each_row(change, [&](const Row &row) { results.row(row); });
+    if (results.passed() == passed) continue;
+    const Edit edit = change.edit();
+    ++(edit == Edit::add ? added : edit == Edit::remove ? removed : modified);
+  }
+  if (added + removed + modified == 0 && !counted) return;
+  Row row;
+  row.number("added", added).number("removed", removed).number("modified", modified);
+  results.summary(row, fmt::format("+{} -{} ~{}", added, removed, modified));
+}
+
+void expect_changes(Results &results, std::string_view wanted) {
   if (!results.asks_for_names()) return;
   for (const ItemKind *kind : kinds()) {
     for (size_t i = 0; const char *object = kind->object.name(i); ++i) {
+      if (!wanted.empty() && wanted != object) continue;
       const auto items = kind->open(object);
       if (!items) continue;
       Row row = object_row("-", *kind, object);

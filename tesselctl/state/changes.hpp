@@ -42,7 +42,15 @@ void apply_changes(Target &to, const std::vector<Change> &changes);
 
 // An item in the words of commands: "-" or "+", the object, and what it holds.
 Row change_row(std::string_view sign, const DeviceState::Part &part, const ItemStore::Item &item);
-// What such rows may have.
-void expect_changes(Results &results);
+// What such rows may have, of all objects or one.
+void expect_changes(Results &results, std::string_view object = {});
+// Visits the rows of a change.
+template <class Visit>
+void for_each_row(const Change &change, Visit visit) {
+  if (change.before != nullptr) visit(change_row("-", *change.part, *change.before));
+  if (change.after != nullptr) visit(change_row("+", *change.part, *change.after));
+}
+// Answers with changes, or where they are counted with how many there are.
+void print_changes(Results &results, bool counted, const std::vector<Change> &changes);
 
 }  // namespace tesselctl

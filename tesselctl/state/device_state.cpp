@@ -1,5 +1,7 @@
 #include "tesselctl/state/device_state.hpp"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 
 #include "tesselctl/state/image.hpp"
@@ -70,7 +72,7 @@ DeviceState DeviceState::of_file(const std::string &path, std::string_view shown
   DeviceState state;
   FileLines lines{path};
   Part *part = nullptr;
-  read_image(shown, lines.source(), 0, [&](const ImageLine &line) {
+  read_image(shown, lines.source(), 0, [&](const ItemLine &line) {
     if (part == nullptr || part->kind != line.kind || part->object != line.object) {
       part = &state.part_at(place_of(*line.kind, line.object));
     }
@@ -94,6 +96,36 @@ DeviceState DeviceState::of_device(const Device &device, const Wanted &is_wanted
     if (!part.items.empty()) state.parts_.emplace(place, std::move(part));
   });
   return state;
+}
+
+void DeviceState::edit(const ItemKind &kind, const char *object, Edit edit, const ItemView &item) {
+  Part &part = part_at(place_of(kind, object));
+  const auto [index, is_new] = indexes_.try_emplace(&part);
+  Index &places = index->second;
+  for (size_t i = 0; is_new && i < part.items.size(); ++i) {
+    places.emplace(part.items[i].view().identity, i);
+  }
+  const auto found = places.find(item.identity);
+  if ((found == places.end()) != (edit == Edit::add)) {
+    throw Fault(fmt::format("{} {}: this {} is {}", kind.object.keyword, object, kind.keyword,
+                            edit == Edit::add ? "there already" : "not there"));
+  }
+  if (edit == Edit::add) {
+    part.items.push_back(store_.add(item));
+    places.emplace(part.items.back().view().identity, part.items.size() - 1);
+    return;
+  }
+  const size_t at = found->second;
+  places.erase(found);
+  if (edit == Edit::modify) {
+    part.items[at] = store_.add(item);
+  } else {
+    part.items[at] = part.items.back();
+    part.items.pop_back();
+    if (at == part.items.size()) return;
+    places.erase(part.items[at].view().identity);
+  }
+  places.emplace(part.items[at].view().identity, at);
 }
 
 const DeviceState::Part *DeviceState::find(const Place &place) const {

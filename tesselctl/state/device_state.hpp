@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "tesselctl/state/kind.hpp"
@@ -60,6 +61,9 @@ class DeviceState {
 
   const std::map<Place, Part> &parts() const { return parts_; }
   const Part *find(const Place &place) const;
+  // Adds an item, takes one away, or gives it another value. Throws Fault where it is there
+  // already, or is not.
+  void edit(const ItemKind &kind, const char *object, Edit edit, const ItemView &item);
   // Gives the members and groups of each profile the numbers that equal ones have in the other
   // state: first those of the same number, then any other; what is left over keeps its number where
   // it is free. What names them follows.
@@ -68,8 +72,25 @@ class DeviceState {
  private:
   Part &part_at(const Place &place);
 
+  // Where the items of an edited part stand.
+  using Index = std::unordered_map<std::string_view, size_t>;
+
   std::map<Place, Part> parts_;
+  std::map<const Part *, Index> indexes_;
   ItemStore store_;
+};
+
+// The parts of what changes, without items.
+class ItemParts {
+ public:
+  const DeviceState::Part &of(const ItemKind &kind, const char *object) {
+    const auto [found, is_new] = parts_.try_emplace({&kind, object});
+    if (is_new) found->second = {&kind, object, kind.open(object), {}};
+    return found->second;
+  }
+
+ private:
+  std::map<std::pair<const ItemKind *, const char *>, DeviceState::Part> parts_;
 };
 
 // Puts the state into an empty device so that its members and groups have their numbers as handles.

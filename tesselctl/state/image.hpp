@@ -36,7 +36,7 @@
 #include <string_view>
 
 #include "tesselctl/device/device.hpp"
-#include "tesselctl/state/kind.hpp"
+#include "tesselctl/state/item_lines.hpp"
 #include "tesselctl/text/files.hpp"
 
 namespace tesselctl {
@@ -54,18 +54,10 @@ void save_image(Source from, const TextSink &sink);
 // that is no image or that the device refuses; the lines before it stay loaded.
 LoadCounts load_image(const Device &device, std::string_view file, const LineSource &lines);
 
-// What the lines of an image say, one after the other.
-struct ImageLine {
-  const ItemKind *kind;
-  std::string_view object;  // its name, a constant
-  ObjectItems &items;       // of the object; as long as the reader
-  ItemView item;            // as long as the line
-  Word keyword;
-};
 // Gives the visitor every item of an image for a device of that many pipes; 0 takes any number.
 // Throws Fault as above, also for what the visitor throws. The number of pipes.
 uint32_t read_image(std::string_view file, const LineSource &lines, uint32_t pipes,
-                    const std::function<void(const ImageLine &)> &visit);
+                    const std::function<void(const ItemLine &)> &visit);
 
 // An image in a file, of which the pipes are known before there is a device for it.
 class ImageSource {

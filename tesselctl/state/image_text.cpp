@@ -7,7 +7,6 @@
 #include "tesselctl/program/value.hpp"
 #include "tesselctl/state/checksum.hpp"
 #include "tesselctl/state/image.hpp"
-#include "tesselctl/state/line_words.hpp"
 #include "tesselctl/text/interrupt.hpp"
 
 namespace tesselctl {
@@ -170,63 +169,6 @@ class ImageFrame {
   Checksum checksum_;
 };
 
-// The items of the objects that an image has opened.
-class OpenObjects {
- public:
-  // The item of a line; nothing for one like "table l2Lookup", to which the lines that follow
-  // belong. Throws Fault.
-  std::optional<ImageLine> read(const KeywordLine &line) {
-    for (Part &part : now_ == nullptr ? std::span<Part>() : std::span(now_->parts)) {
-      if (part.kind->keyword != line.keyword.text) continue;
-      if (!part.items) throw Fault(line.keyword, "this object has none of these");
-      ValueScanner rest(line.rest.text, line.rest.column);
-      part.items->parse(rest, item_);
-      return ImageLine{part.kind, now_->name, *part.items, item_.view(), line.keyword};
-    }
-    open(line.keyword, line.rest);
-    return {};
-  }
-
- private:
-  struct Part {
-    const ItemKind *kind;
-    std::unique_ptr<ObjectItems> items;
-  };
-  struct Object {
-    const char *name = nullptr;
-    std::vector<Part> parts;
-  };
-
-  void open(Word keyword, Word name) {
-    bool is_item = false;
-    for (size_t at = 0; at < kinds().size(); ++at) {
-      is_item = is_item || kinds()[at]->keyword == keyword.text;
-      if (kinds()[at]->object.keyword != keyword.text) continue;
-      now_ = &known_[{at, resolve_name(kinds()[at]->object, name)}];
-      if (now_->parts.empty()) fill(*now_, at, name);
-      return;
-    }
-    throw Fault(keyword, is_item ? "this does not belong here" : "an image has no such line");
-  }
-  static std::string_view resolve_name(const ObjectKind &kind, Word name) {
-    std::vector<std::string_view> names;
-    for (size_t i = 0; const char *known = kind.name(i); ++i) {
-      if (name.text == known) return known;
-      names.emplace_back(known);
-    }
-    throw_unknown(name, kind.noun, names);
-  }
-  void fill(Object &object, size_t at, Word name) const {
-    const auto of_object = kinds_of_same_objects(at);
-    object.name = resolve_name(of_object.front()->object, name).data();
-    for (const ItemKind *kind : of_object) object.parts.push_back({kind, kind->open(object.name)});
-  }
-
-  std::map<std::pair<size_t, std::string_view>, Object> known_;
-  Object *now_ = nullptr;
-  ItemBytes item_;
-};
-
 // Throws the fault of a line as one of the whole file.
 template <class Body>
 void in_line(std::string_view file, const ImageFrame &frame, Body body) {
@@ -240,9 +182,9 @@ void in_line(std::string_view file, const ImageFrame &frame, Body body) {
 }  // namespace
 
 uint32_t read_image(std::string_view file, const LineSource &lines, uint32_t pipes,
-                    const std::function<void(const ImageLine &)> &visit) {
+                    const std::function<void(const ItemLine &)> &visit) {
   ImageFrame frame(pipes);
-  OpenObjects objects;
+  ItemLines objects;
   std::string_view text;
   while (lines(text)) {
     if (frame.lines() % 4096 == 0) check_interrupt();
@@ -280,7 +222,7 @@ LoadCounts ImageSource::load(const Device &device) {
 LoadCounts load_image(const Device &device, std::string_view file, const LineSource &lines) {
   Numbering numbering;
   Target to = {device, numbering};
-  read_image(file, lines, device.pipes(), [&](const ImageLine &line) {
+  read_image(file, lines, device.pipes(), [&](const ItemLine &line) {
     line.items.write(to, Edit::add, line.item, line.keyword);
   });
   return to.counts;

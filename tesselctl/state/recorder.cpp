@@ -99,12 +99,6 @@ Recorder::Recorder(Device &device) : device_(device), numbering_(Numbering::last
 
 // ---- What functions change ----
 
-const DeviceState::Part &Recorder::part_of(const ItemKind &kind, const char *object) {
-  const auto [found, is_new] = parts_.try_emplace({&kind, object});
-  if (is_new) found->second = {&kind, object, kind.open(object), {}};
-  return found->second;
-}
-
 std::unique_ptr<Recorder::Function> Recorder::make_function(const bindings::Export &target) {
   const auto *const row = std::ranges::find(kChanging, target.family, &FamilyKinds::family);
   if (row == std::end(kChanging)) return nullptr;
@@ -114,7 +108,7 @@ std::unique_ptr<Recorder::Function> Recorder::make_function(const bindings::Expo
     if (std::ranges::find(row->keywords, kind->keyword) == row->keywords.end()) continue;
     const char *const name = find_name(kind->object, objects_of(target));
     if (name == nullptr) continue;
-    const Part &part = part_of(*kind, name);
+    const Part &part = parts_.of(*kind, name);
     if (!part.access) continue;
     function->parts.push_back(&part);
     if (handle.empty()) handle = handle_name(kind->keyword);
@@ -275,7 +269,7 @@ void Recorder::invert(const std::vector<Change> &changes) {
   for (size_t i = changes.size(); i-- > 0;) {
     const Change change = changes[i].inverse();
     apply_changes(to, {change});
-    changes_.push_back({&part_of(*change.part->kind, change.part->object), kept(change.before),
+    changes_.push_back({&parts_.of(*change.part->kind, change.part->object), kept(change.before),
                         kept(change.after)});
   }
 }

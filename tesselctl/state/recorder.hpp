@@ -34,8 +34,8 @@ class Recorder : public CallListener {
 
   // Takes the changes back, and forgets them. Throws Fault where the device refuses.
   void take_back();
-  // Does the inverse of changes, the last of them first, and notes it as changes. Throws Fault
-  // where the device refuses, with a part of it done.
+  // Does the inverse of changes, the last of them first, and notes it as changes. They are not its
+  // own. Throws Fault where the device refuses, with a part of it done.
   void invert(const std::vector<Change> &changes);
 
   Numbering &numbering() { return numbering_; }
@@ -65,11 +65,13 @@ class Recorder : public CallListener {
 
   Function *function_of(const bindings::Export &target);
   std::unique_ptr<Function> make_function(const bindings::Export &target);
-  const Part &part_of(const ItemKind &kind, const char *object);
   std::optional<uint32_t> handle_of(Function &function, const Call &call);
   void touch(const Function &function, std::optional<uint32_t> handle, bool is_new);
   Items read(const Part &part, std::optional<uint32_t> handle);
-  const Items &keep(Items items) { return kept_.emplace_back(std::move(items)); }
+  std::span<const ItemStore::Item> keep(Items items) {
+    if (items.empty()) return {};
+    return kept_.emplace_back(std::move(items));
+  }
   void finish_touched();
   void join_with_last(size_t at);
 
@@ -77,7 +79,7 @@ class Recorder : public CallListener {
   Numbering numbering_;
   bool is_reading_ = false;  // calls are its own
   std::unordered_map<const bindings::Export *, std::unique_ptr<Function>> functions_;
-  std::map<std::pair<const ItemKind *, const char *>, Part> parts_;
+  ItemParts parts_;
   std::optional<Touched> touched_;
   std::vector<Change> changes_;
   std::deque<Items> kept_;  // what the changes point at

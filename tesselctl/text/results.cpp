@@ -158,7 +158,7 @@ void Results::show(const Row &row) {
 }
 
 void Results::row(const Row &row, const std::string &text) {
-  if (settings_.json || settings_.count || !settings_.filters.empty()) return this->row(row);
+  if (settings_.json || settings_.count || asks_for_names()) return this->row(row);
   ++count_;
   out_->line("{}", text);
 }

@@ -57,6 +57,11 @@ class Results {
 
   // listing: the command answers with any number of rows, which stand in columns.
   void begin(const Settings &settings, std::string_view command, bool listing);
+  // Before there are rows.
+  void add_filter(Settings::Filter filter) {
+    settings_.filters.push_back(std::move(filter));
+    filter_states_.emplace_back();
+  }
   void row(const Row &row);
   // Rows for people to read as they stand: the text is what it says in words, the row in JSON.
   void row(const Row &row, const std::string &text);

@@ -20,22 +20,6 @@ DeviceState state_of(const Context &context, Word word) {
   return DeviceState::of_file(context.path(word), word.text);
 }
 
-void print_changes(Context &context, const std::vector<Change> &changes) {
-  uint64_t added = 0, removed = 0, modified = 0;
-  for (const Change &change : changes) {
-    const uint64_t passed = context.results.passed();
-    if (change.before) context.results.row(change_row("-", *change.part, *change.before));
-    if (change.after) context.results.row(change_row("+", *change.part, *change.after));
-    if (context.results.passed() == passed) continue;
-    const Edit edit = change.edit();
-    ++(edit == Edit::add ? added : edit == Edit::remove ? removed : modified);
-  }
-  if (added + removed + modified == 0 && !context.settings.count) return;
-  Row row;
-  row.number("added", added).number("removed", removed).number("modified", modified);
-  context.results.summary(row, fmt::format("+{} -{} ~{}", added, removed, modified));
-}
-
 // One or two files; without the second the device stands in for it.
 void diff(Context &context, const Invocation &invocation) {
   const Word first = need_argument(invocation, 0, "the name of an image");
@@ -53,7 +37,7 @@ void diff(Context &context, const Invocation &invocation) {
   if (context.settings.script) {
     print_script(before, after, changes, context.results);
   } else {
-    print_changes(context, changes);
+    print_changes(context.results, context.settings.count, changes);
   }
   context.differs = !changes.empty();
 }
@@ -70,7 +54,7 @@ void apply(Context &context, const Invocation &invocation) {
     Target to = {context.device, numbering};
     apply_changes(to, changes);
   });
-  print_changes(context, changes);
+  print_changes(context.results, context.settings.count, changes);
 }
 
 DeviceOptions options_for_image(const Device &like, bool is_virtual) {
