@@ -78,28 +78,27 @@ HttpAnswer HttpService::answer(const HttpRequest &request) {
             .body = "the Host of a request should be localhost, or an address of it\n"};
   if (request.target == kLiveStylePath) return file_answer("text/css", kReportStyle);
   if (request.target == kLiveScriptPath) return file_answer("text/javascript", kLiveScript);
-  struct Job {
-    HttpRequest request;
-    std::promise<HttpAnswer> answer = {};
-    std::atomic<bool> is_late = false;
-  };
-  const auto job = std::make_shared<Job>(request);
-  std::future<HttpAnswer> answer = job->answer.get_future();
-  server_.post([this, job] {
-    if (job->is_late) return;
-    const InterruptScope scope([&] { return job->is_late || server_.stopping(); });
+  const auto is_late = std::make_shared<std::atomic<bool>>(false);
+  // The job alone has the promise, so that a server that ends without doing it breaks that.
+  auto promise = std::make_shared<std::promise<HttpAnswer>>();
+  std::future<HttpAnswer> answer = promise->get_future();
+  server_.post([this, request, is_late, kept = std::move(promise)] {
+    if (*is_late) return;
+    const InterruptScope scope([&] { return *is_late || server_.stopping(); });
     try {
-      job->answer.set_value(answer_of_device(job->request));
+      kept->set_value(answer_of_device(request));
     } catch (const Fault &fault) {
-      job->answer.set_value({.status = 400, .body = fault.sentence() + "\n"});
+      kept->set_value({.status = 400, .body = fault.sentence() + "\n"});
     } catch (...) {
-      job->answer.set_exception(std::current_exception());
+      kept->set_exception(std::current_exception());
     }
   });
   try {
     if (answer.wait_for(limits_.time) == std::future_status::ready) return answer.get();
-    job->is_late = true;
+    *is_late = true;
     return {.status = 503, .body = "the server is busy\n"};
+  } catch (const std::future_error &) {
+    return {.status = 503, .body = "the server ends\n"};
   } catch (const std::exception &) {
     return {.status = 500, .body = "there is no answer\n"};
   }

@@ -51,8 +51,10 @@ const Command *command_of(const std::string &line) {
 
 HttpAnswer run(Device &device, const std::string &line) {
   HttpAnswer answer = {200, "application/json", {}};
+  bool is_whole = true;
   Output out([&](std::string_view piece) {
-    if (answer.body.size() + piece.size() > kMostAnswer) {
+    is_whole = is_whole && answer.body.size() + piece.size() <= kMostAnswer;
+    if (!is_whole) {
       throw Fault("the answer is longer than 16 MiB; --filter and --count make it shorter");
     }
     answer.body += piece;

@@ -68,9 +68,9 @@ def main():
             wait_for(prometheus, "count(tesselctl_table_entries{table='l2DmacClassify'} == 1)", [2])
             wait_for(prometheus, "sum(up)", [2])
         finally:
-            for process in (monitor, *servers):
+            for process in (*servers, monitor):  # servers end while they are scraped
                 process.terminate()
-                process.wait(30)
+                process.wait(5)
 
 
 main()
