@@ -18,6 +18,7 @@
 
 namespace tesselctl {
 
+class EventSource;
 class Journal;
 
 // What commands did to the device. One with a fault may have done a part.
@@ -41,6 +42,7 @@ struct Context {
   std::string directory = {};
   // Of the server, where the line is one of its own; null without one.
   Journal *journal = nullptr;
+  EventSource *events = nullptr;
   // The device is a copy to try commands on: nothing that they do is to stay.
   bool is_trial = false;
 
@@ -61,9 +63,10 @@ struct Invocation {
 // (flags.hpp). One that acts does something to the device that no image holds.
 enum class Kind : uint8_t { asks, lists, acts, changes };
 
-// Where a command is run: in the process that has the device, wherever the line comes from; by the
-// tool that the line is typed into, which a server is not; or as the tool's own command line alone.
-enum class Where : uint8_t { device, tool, command_line };
+// Where a command is run: in the process that has the device, wherever the line comes from; by a
+// server, for its clients; by the tool that the line is typed into, which a server is not; or as
+// the tool's own command line alone.
+enum class Where : uint8_t { device, server, tool, command_line };
 
 // All there is to know about a command but what it does.
 struct Command {

@@ -121,7 +121,7 @@ std::string_view meaning_of_name(std::string_view name) {
       {"pbs", "peak burst"},
       {"first", "the first cell or stage"},
       {"last", "the last stage, without it the first"},
-      {"count", "how many cells, or rounds of watch"},
+      {"count", "how many cells, rounds of watch, or events"},
       {"size", "the most members that the group may have"},
       {"capacity", "the most entries that the table may have"},
       {"pipe", "the number of a pipe"},

@@ -25,6 +25,7 @@ struct Messages {
 struct Events {
   // Entries that expired since it was cleared.
   std::vector<ExpiredEntry> expired = {};
+  uint64_t expired_count = 0;  // ever
   Messages messages = {};
 };
 

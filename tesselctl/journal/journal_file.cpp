@@ -3,9 +3,9 @@
 #include <fmt/format.h>
 
 #include <charconv>
-#include <ctime>
 #include <filesystem>
 
+#include "tesselctl/journal/utc_text.hpp"
 #include "tesselctl/program/library.hpp"
 #include "tesselctl/state/checksum.hpp"
 #include "tesselctl/text/files.hpp"
@@ -22,15 +22,6 @@ constexpr std::string_view kFirst = "tesselctl journal ";
 
 std::string end_line(uint64_t number, const Checksum &checksum) {
   return fmt::format("end {} checksum={:016x}", number, checksum.value());
-}
-
-std::string time_text(int64_t time_ms) {
-  const auto seconds = static_cast<time_t>(time_ms / 1000);
-  tm parts = {};
-  gmtime_r(&seconds, &parts);
-  char text[32];
-  const size_t size = strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%S", &parts);
-  return fmt::format("{}.{:03}Z", std::string_view(text, size), time_ms % 1000);
 }
 
 bool begins_change(std::string_view line) {
@@ -61,7 +52,7 @@ void print_journaled(const LineChanges &line, uint64_t undone,
   };
   text = undone == 0 ? fmt::format("change {} ", line.number)
                      : fmt::format("undo {} {} ", line.number, undone);
-  text += fmt::format("{} {} {}", time_text(line.time_ms), line.client,
+  text += fmt::format("{} {} {}", utc_text(line.time_ms), line.client,
                       printable(line.command.substr(0, kMostCommand)));
   finish_line();
   const ItemKind *kind = nullptr;

@@ -2,6 +2,7 @@
 #include "soft_sdk.h"
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/kinds/digest.hpp"
+#include "tesselctl/kinds/event_rows.hpp"
 #include "tesselctl/kinds/table_items.hpp"
 #include "tesselctl/program/value.hpp"
 
@@ -55,7 +56,9 @@ TableLine ageing_line(Context &context, const Invocation &invocation,
 
 void note_expired(bf_device_id_t, pipe_object_handle_t table, pipe_entry_handle_t entry,
                   void *events) {
-  static_cast<Events *>(events)->expired.push_back({table, entry});
+  auto &all = *static_cast<Events *>(events);
+  all.expired.push_back({table, entry});
+  ++all.expired_count;
 }
 
 void listen(Device &device, const TableInfo &table, Word word) {
@@ -101,14 +104,7 @@ void advance(Context &context, const Invocation &invocation) {
   const uint64_t time = parse_limited(word, kYear, "the time", 0, &kMilliseconds);
   check(soft_device_clock_advance(context.device.id(), time), word);
   for (const ExpiredEntry &expired : all_expired) {
-    const TableInfo table = table_of_handle(expired.table);
-    EntryReader reader(context.device, table, EntryReader::Resources::settings);
-    ItemBytes item;
-    check(reader.read(expired.entry, item), word);
-    Row row;
-    row.object("table", table.name()).number("entry", expired.entry).object("event", "expired");
-    add_entry(row, table, item.view(), Naming::handles);
-    context.results.row(row);
+    context.results.row(expired_row(context.device, expired, word));
   }
   print_messages(context);
 }
@@ -138,6 +134,17 @@ constexpr ItemKind kKinds[] = {{kObjectKind<soft_table_t>,
                                 open_items<Ageing, soft_table_t>}};
 
 }  // namespace
+
+Row expired_row(const Device &device, const ExpiredEntry &expired, Word word) {
+  const TableInfo table = table_of_handle(expired.table);
+  EntryReader reader(device, table, EntryReader::Resources::settings);
+  ItemBytes item;
+  check(reader.read(expired.entry, item), word);
+  Row row;
+  row.object("table", table.name()).number("entry", expired.entry).object("event", "expired");
+  add_entry(row, table, item.view(), Naming::handles);
+  return row;
+}
 
 extern const Topic kAgeingTopic = {"Time and state", kCommands, {}, kKinds};
 

@@ -1,10 +1,10 @@
 // Learning digests: what the data plane learns, delivered to the tool until it is acknowledged.
 #include "tesselctl/kinds/digest.hpp"
 
-#include "pipe_mgr_types.h"
 #include "soft_learning.h"
 #include "tesselctl/command/options.hpp"
 #include "tesselctl/command/topic.hpp"
+#include "tesselctl/kinds/event_rows.hpp"
 #include "tesselctl/program/library.hpp"
 #include "tesselctl/program/record.hpp"
 
@@ -23,15 +23,8 @@ Row message_row(const soft_digest_t &digest, uint32_t number, bf_pipe_id_t pipe)
 }
 
 void print_message(Context &context, uint32_t number, const pipe_mgr_digest_message_t &message) {
-  for (const soft_digest_t &digest : program_rows<soft_digest_t>()) {
-    if (digest.handle != message.digest) continue;
-    for (uint32_t i = 0; i < message.entry_count; ++i) {
-      const uint8_t *entry = message.entries + size_t{i} * message.entry_size;
-      Row row = message_row(digest, number, message.pipe);
-      add_record(row, "fields", record_of(digest), entry);
-      context.results.row(row);
-    }
-  }
+  for_each_message_row(number, message,
+                       [&](std::string_view, const Row &row) { context.results.row(row); });
 }
 
 bf_status_t hold(pipe_session_handle_t, pipe_mgr_digest_message_t *message, void *context) {
@@ -122,6 +115,20 @@ constexpr Command kCommands[] = {
 };
 
 }  // namespace
+
+void for_each_message_row(
+    uint32_t number, const pipe_mgr_digest_message_t &message,
+    const std::function<void(std::string_view digest, const Row &row)> &visit) {
+  for (const soft_digest_t &digest : program_rows<soft_digest_t>()) {
+    if (digest.handle != message.digest) continue;
+    for (uint32_t i = 0; i < message.entry_count; ++i) {
+      const uint8_t *entry = message.entries + size_t{i} * message.entry_size;
+      Row row = message_row(digest, number, message.pipe);
+      add_record(row, "fields", record_of(digest), entry);
+      visit(digest.name, row);
+    }
+  }
+}
 
 void print_messages(Context &context) {
   Messages &messages = context.device.events().messages;

@@ -40,6 +40,11 @@ ServedClient::ServedClient(Descriptor socket, const Served &served, const Server
       errors_([this](std::string_view text) { push_pieces(MessageType::errors, text); }),
       runner_(served.device, out_, errors_, Settings{}) {
   runner_.context().journal = served.journal;
+  runner_.context().events = this;
+}
+
+ServedClient::~ServedClient() {
+  if (monitor_) served_.monitors.remove(*monitor_);
 }
 
 short ServedClient::events() const {
@@ -122,7 +127,12 @@ void ServedClient::step() {
 }
 
 void ServedClient::look_at(const Message &message) {
-  if (message.type == MessageType::interrupt) return reader_.pop();  // its command has ended
+  if (message.type == MessageType::interrupt) {
+    reader_.pop();
+    if (monitor_) end_events();
+    return;  // any other command has ended
+  }
+  if (monitor_) throw Fault("a client that monitors sends interrupts alone");
   if (message.type != MessageType::request) throw Fault("a client sends requests and interrupts");
   const Request request = decode_request(message.payload);
   reader_.pop();
@@ -132,9 +142,10 @@ void ServedClient::look_at(const Message &message) {
   const LineOutcome outcome = run_logged(request);
   if (!request.ask && outcome != LineOutcome::blank) ++figures_.commands;
   if (!request.ask && outcome == LineOutcome::fault) ++figures_.faults;
+  served_.monitors.note_events(name_);
   out_.flush();
   errors_.flush();
-  push(encode_end(outcome));
+  if (!monitor_) push(encode_end(outcome));
 }
 
 void ServedClient::prepare(const Request &request) {
@@ -151,6 +162,7 @@ void ServedClient::collect(std::string_view text) {
 }
 
 LineOutcome ServedClient::run(const Request &request) {
+  line_ = trimmed(request.text);
   try {
     if (request.begin_trial || request.end_trial) return change_trial(request.begin_trial);
     std::string script = std::exchange(script_, {});
@@ -212,6 +224,39 @@ LineOutcome ServedClient::change_trial(bool begin) {
     out_.write(error.what());
     return LineOutcome::fault;
   }
+}
+
+// ---- Events ----
+
+void ServedClient::send_events(WantedEvents wanted) {
+  wanted.command = line_;
+  monitor_.emplace(std::move(wanted), out_, limits_.paused_at,
+                   [this] { return unread() + out_.waiting(); });
+  try {
+    served_.monitors.add(*monitor_);
+  } catch (const Fault &) {
+    monitor_.reset();
+    throw;
+  }
+}
+
+void ServedClient::send_collected() {
+  if (!monitor_ || gone_) return;
+  try {
+    monitor_->catch_up(limits_.paused_at / 2);
+    if (monitor_->is_done()) return end_events();
+    out_.flush();
+  } catch (const Fault &) {
+    // It is gone.
+  }
+}
+
+void ServedClient::end_events() {
+  served_.monitors.remove(*monitor_);
+  monitor_->catch_up(limits_.dropped_at);
+  monitor_.reset();
+  out_.flush();
+  push(encode_end(LineOutcome::done));
 }
 
 // Asked while a command of this client runs.

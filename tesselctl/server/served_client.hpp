@@ -6,6 +6,7 @@
 
 #include "tesselctl/command/local_runner.hpp"
 #include "tesselctl/journal/change_log.hpp"
+#include "tesselctl/server/monitors.hpp"
 #include "tesselctl/server/protocol.hpp"
 #include "tesselctl/text/descriptor.hpp"
 
@@ -30,14 +31,16 @@ struct ServerFigures {
 struct Served {
   Device &device;
   ChangeLog &log;
+  Monitors &monitors;
   Journal *journal = nullptr;
 };
 
-class ServedClient {
+class ServedClient : private EventSource {
  public:
   // What the client shares with others outlives it; a command ends early once stopping is set.
   ServedClient(Descriptor socket, const Served &served, const ServerLimits &limits,
                ServerFigures &figures, const std::atomic<bool> &stopping);
+  ~ServedClient() override;
 
   int fd() const { return socket_.get(); }
   // What to poll for, and what to do with what it gave.
@@ -48,6 +51,12 @@ class ServedClient {
   // Whether a message waits that may be looked at now, and looking at it.
   bool is_ready() const;
   void step();
+  // Whether events wait that are sent together, and sending them.
+  bool has_events() const {
+    return monitor_ && (out_.waiting() != 0 || monitor_->is_done() ||
+                        (monitor_->is_behind() && unread() < limits_.paused_at / 2));
+  }
+  void send_collected();
   // To be forgotten: the client left, broke the protocol or does not read.
   bool is_gone() const { return gone_; }
 
@@ -65,6 +74,8 @@ class ServedClient {
   LineOutcome change_trial(bool begin);
   void collect(std::string_view text);
   bool is_interrupted();
+  void send_events(WantedEvents wanted) override;
+  void end_events();
 
   Descriptor socket_;
   const Served &served_;
@@ -80,7 +91,9 @@ class ServedClient {
   Output errors_;
   LocalRunner runner_;
   size_t trials_ = 0;
-  std::string script_;  // what came of it so far
+  std::optional<Monitor> monitor_;  // while it gets events
+  std::string line_;                // that runs
+  std::string script_;              // what came of it so far
 };
 
 }  // namespace tesselctl

@@ -16,13 +16,16 @@ namespace {
 
 // When the process has no descriptor left for a client that waits, it tries again so much later.
 constexpr int kTryAgainMs = 100;
+// Events of so long are sent together, as a message for each would cost more than the change.
+constexpr auto kTogether = std::chrono::milliseconds(20);
 
 }  // namespace
 
 Server::Server(Device &device, ListeningSocket listening, const ServerLimits &limits,
                Journal *journal)
     : log_(device),
-      served_{device, log_, journal},
+      monitors_(device, log_),
+      served_{device, log_, monitors_, journal},
       limits_(limits),
       wake_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK | EFD_SEMAPHORE)),
       listening_(std::move(listening)) {
@@ -102,12 +105,31 @@ void Server::wait() {
     if (client->is_ready()) timeout = 0;
   }
   out_of_descriptors_ = false;
+  timeout = wait_for_events(timeout);
   if (poll(waited.data(), static_cast<nfds_t>(waited.size()), timeout) < 0) {
     if (errno == EINTR) return;
     throw Fault(fmt::format("the server cannot wait for clients: {}", strerror(errno)));
   }
   for (size_t i = 0; i < clients_.size(); ++i) clients_[i]->handle(waited[i + 2].revents);
+  send_events();
   if (waited[1].revents != 0) accept_clients();
+}
+
+// The timeout, or less of it where events are to be sent before.
+int Server::wait_for_events(int timeout) {
+  const bool any = std::ranges::any_of(clients_, [](const auto &one) { return one->has_events(); });
+  if (!any) return timeout;
+  const auto now = std::chrono::steady_clock::now();
+  if (!send_events_at_) send_events_at_ = now + kTogether;
+  const auto left = std::chrono::ceil<std::chrono::milliseconds>(*send_events_at_ - now);
+  const int most = std::max(0, static_cast<int>(left.count()));
+  return timeout < 0 ? most : std::min(timeout, most);
+}
+
+void Server::send_events() {
+  if (!send_events_at_ || std::chrono::steady_clock::now() < *send_events_at_) return;
+  send_events_at_.reset();
+  for (const auto &client : clients_) client->send_collected();
 }
 
 void Server::accept_clients() {

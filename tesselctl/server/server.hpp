@@ -4,10 +4,12 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -37,17 +39,22 @@ class Server {
   void wait();
   void wake_up() noexcept;
   void run_job();
+  int wait_for_events(int timeout);
+  void send_events();
   void forget_gone();
   void accept_clients();
   void accept_client(Descriptor socket);
 
   ChangeLog log_;
+  Monitors monitors_;
   Served served_;
   const ServerLimits limits_;
   std::atomic<bool> stopping_ = false;
   Descriptor wake_;  // readable once the server is to stop, and while jobs wait
   ListeningSocket listening_;
   bool out_of_descriptors_ = false;
+  // When the events that wait are sent, if any do.
+  std::optional<std::chrono::steady_clock::time_point> send_events_at_;
   std::vector<std::unique_ptr<ServedClient>> clients_;
   ServerFigures figures_;
   std::mutex jobs_mutex_;

@@ -88,6 +88,7 @@ LineOutcome ToolRunner::run(const SourceLine &source) {
     split_words(source.text, words);
     const TakenFlags flags = take_flags(words, settings);
     const std::string_view first = words.empty() || settings.help ? "" : words[0].text;
+    if (first == "monitor") return run_monitor(source);
     if (first != "watch" && first != "run") {
       return is_paged(words) ? run_paged(source) : runner_->run(source);
     }
@@ -117,6 +118,11 @@ LineOutcome ToolRunner::run(const SourceLine &source) {
     report_fault(fault, source, results, settings.json, *out_, *errors_);
     return LineOutcome::fault;
   }
+}
+
+LineOutcome ToolRunner::run_monitor(const SourceLine &source) {
+  const InterruptibleScope scope;
+  return runner_->run(source);
 }
 
 // What changes the device is not: one who leaves the pager ends the command.

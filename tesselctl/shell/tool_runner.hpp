@@ -41,6 +41,7 @@ class ToolRunner : public Runner {
   Settings &defaults() override { return runner_->defaults(); }
 
  private:
+  LineOutcome run_monitor(const SourceLine &source);
   bool is_paged(Words words) const;
   LineOutcome run_paged(const SourceLine &source);
   LineOutcome run_file(Word file, const Settings &settings);

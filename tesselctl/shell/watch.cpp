@@ -18,12 +18,6 @@ using std::chrono::milliseconds;
 // An interrupt is heard of so much later.
 constexpr auto kLookUp = milliseconds(50);
 
-// While it lives, SIGINT ends the watch and nothing else.
-struct InterruptibleScope {
-  ~InterruptibleScope() { clear_interrupt(); }  // the lines that follow go on
-  const SignalScope signals{{SIGINT}, take_signal};
-};
-
 // While it lives, commands show rates.
 class DeltaScope {
  public:

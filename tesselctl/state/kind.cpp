@@ -17,6 +17,14 @@ void Renumbering::replace(Numbered of, std::span<char> bytes, size_t at) const {
   if (found != numbers.end()) memcpy(bytes.data() + at, &found->second, sizeof(uint32_t));
 }
 
+std::vector<std::string_view> names_of_objects() {
+  std::vector<std::string_view> names;
+  for (const ItemKind *kind : kinds()) {
+    for (size_t i = 0; const char *name = kind->object.name(i); ++i) names.emplace_back(name);
+  }
+  return names;
+}
+
 std::span<const ItemKind *const> kinds_of_same_objects(size_t at) {
   const auto all = kinds().subspan(at);
   const auto end = std::find_if(all.begin(), all.end(), [&](const ItemKind *kind) {

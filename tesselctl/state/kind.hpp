@@ -150,6 +150,8 @@ struct ItemKind {
 
 // In the order of images.
 std::span<const ItemKind *const> kinds();
+// The names of the objects that have any.
+std::vector<std::string_view> names_of_objects();
 // Those from that one on that have the same objects.
 std::span<const ItemKind *const> kinds_of_same_objects(size_t at);
 

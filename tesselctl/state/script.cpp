@@ -60,30 +60,51 @@ Script &Script::name(Numbered what, const ItemEdit &edit, uint32_t profile, uint
   return word("as", name);
 }
 
-Script::Items Script::items(const DeviceState &state, const ItemEdit &edit,
-                            std::string_view keyword) {
-  for (const auto &[place, part] : state.parts()) {
-    const bool is_kind = &part.kind->object == &edit.kind.object && part.kind->keyword == keyword;
-    if (is_kind && part.object == std::string_view(edit.object)) return part.items;
-  }
-  return {};
+void print_commands(Script &script, const ChangeStep &one) {
+  const auto &[step, change] = one;
+  const DeviceState::Part &part = *change->part;
+  const auto was = change->before != nullptr ? std::optional(change->before->view()) : std::nullopt;
+  part.access->print_commands(script,
+                              {*part.kind, part.object, step.edit, was, change->item().view()});
 }
 
-bool Script::differ(const ItemEdit &edit, std::string_view keyword) const {
-  return !std::ranges::equal(items(before_, edit, keyword), items(after_, edit, keyword), {},
-                             &ItemStore::Item::view, &ItemStore::Item::view);
-}
+namespace {
+
+// From one state to another one.
+class ScriptBetween : public Script {
+ public:
+  ScriptBetween(const DeviceState &before, const DeviceState &after, Results &results)
+      : Script(results), before_(before), after_(after) {}
+
+  Items after(const ItemEdit &edit, std::string_view keyword) override {
+    return items(after_, edit, keyword);
+  }
+  bool differ(const ItemEdit &edit, std::string_view keyword) override {
+    return !std::ranges::equal(items(before_, edit, keyword), items(after_, edit, keyword), {},
+                               &ItemStore::Item::view, &ItemStore::Item::view);
+  }
+
+ private:
+  static Items items(const DeviceState &state, const ItemEdit &edit, std::string_view keyword) {
+    for (const auto &[place, part] : state.parts()) {
+      const bool is_kind = &part.kind->object == &edit.kind.object && part.kind->keyword == keyword;
+      if (is_kind && part.object == std::string_view(edit.object)) return part.items;
+    }
+    return {};
+  }
+
+  const DeviceState &before_;
+  const DeviceState &after_;
+};
+
+}  // namespace
 
 void print_script(const DeviceState &before, const DeviceState &after,
                   const std::vector<Change> &changes, Results &results) {
-  Script script(before, after, results);
-  for (const auto &[step, change] : steps_of(changes)) {
+  ScriptBetween script(before, after, results);
+  for (const ChangeStep &step : steps_of(changes)) {
     check_interrupt();
-    const DeviceState::Part &part = *change->part;
-    const auto was =
-        change->before != nullptr ? std::optional(change->before->view()) : std::nullopt;
-    part.access->print_commands(script,
-                                {*part.kind, part.object, step.edit, was, change->item().view()});
+    print_commands(script, step);
   }
 }
 

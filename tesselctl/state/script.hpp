@@ -12,8 +12,10 @@ namespace tesselctl {
 // them; others are those of the device before, whose handles are their numbers.
 class Script {
  public:
-  Script(const DeviceState &before, const DeviceState &after, Results &results)
-      : before_(before), after_(after), results_(results) {}
+  explicit Script(Results &results) : results_(results) {}
+  virtual ~Script() = default;
+  Script(const Script &) = delete;
+  Script &operator=(const Script &) = delete;
 
   // One command: its beginning, its words, its end.
   Script &begin(const ItemEdit &edit) { return begin(edit, edit.kind.verbs.of(edit.edit)); }
@@ -31,23 +33,20 @@ class Script {
   void end() { results_.command(line_); }
 
   // The items of another kind in the object of an edit, as they are to be.
-  std::span<const ItemStore::Item> after(const ItemEdit &edit, std::string_view keyword) const {
-    return items(after_, edit, keyword);
-  }
-  bool differ(const ItemEdit &edit, std::string_view keyword) const;
+  using Items = std::span<const ItemStore::Item>;
+  virtual Items after(const ItemEdit &edit, std::string_view keyword) = 0;
+  virtual bool differ(const ItemEdit &edit, std::string_view keyword) = 0;
 
  private:
-  using Items = std::span<const ItemStore::Item>;
   using Key = std::tuple<Numbered, uint32_t, uint32_t>;
 
-  static Items items(const DeviceState &state, const ItemEdit &edit, std::string_view keyword);
-
-  const DeviceState &before_;
-  const DeviceState &after_;
   Results &results_;
   std::string line_;
   std::map<Key, std::string> names_;
 };
+
+// Prints the commands of a change.
+void print_commands(Script &script, const ChangeStep &step);
 
 // Answers with the commands that turn before into after, in an order that a device takes. The
 // changes are those between the two. Throws Fault.

@@ -44,6 +44,12 @@ class SignalScope {
   std::vector<Before> before_;
 };
 
+// While it lives, SIGINT ends what runs and nothing else.
+struct InterruptibleScope {
+  ~InterruptibleScope() { clear_interrupt(); }  // the lines that follow go on
+  const SignalScope signals{{SIGINT}, take_signal};
+};
+
 // While it lives, nothing interrupts this thread.
 class UninterruptedScope {
  public:

@@ -41,6 +41,8 @@ class Output {
 
   // Throws Fault when not everything could be written.
   void flush();
+  // Bytes that were not flushed.
+  size_t waiting() const { return text_.size(); }
   std::string take() { return std::move(text_); }
 
   // While it lives, nothing goes out; take gives what was written.

@@ -52,6 +52,11 @@ bool sorts_before(std::string_view a, std::string_view b) {
   return a.size() < b.size();
 }
 
+std::string json_beginning(std::string_view command) {
+  return fmt::format("{{\"version\":{},\"command\":{},\"rows\":[", kJsonVersion,
+                     json_string(command));
+}
+
 void Results::begin(const Settings &settings, std::string_view command, bool listing) {
   settings_ = settings;
   command_ = command;
@@ -123,7 +128,7 @@ void Results::expect(const Row &row) {
 std::string Results::rate_of(const std::string &amount, std::string_view now) {
   const auto next = [](std::string_view &list) {
     const std::string_view text = take_until(list, ',');
-    int64_t number = 0;
+    uint64_t number = 0;
     std::from_chars(text.data(), text.data() + text.size(), number);
     return number;
   };
@@ -134,7 +139,8 @@ std::string Results::rate_of(const std::string &amount, std::string_view now) {
   const std::chrono::duration<double> passed = amounts_.when - amounts_before_.when;
   std::string rates;
   while (!now.empty()) {
-    const double rate = static_cast<double>(next(now) - next(before)) / passed.count();
+    const double rate =
+        static_cast<double>(static_cast<int64_t>(next(now) - next(before))) / passed.count();
     // In tenths; the sum is no negative zero.
     rates += fmt::format("{}{}", rates.empty() ? "" : ",", std::round(rate * 10) / 10 + 0.0);
   }
@@ -184,8 +190,7 @@ void Results::text(std::string_view text) {
 void Results::start_json() {
   if (json_started_) return;
   json_started_ = true;
-  out_->write(fmt::format("{{\"version\":{},\"command\":{},\"rows\":[", kJsonVersion,
-                          json_string(command_)));
+  out_->write(json_beginning(command_));
 }
 
 void Results::print(const Row &row) {
@@ -291,7 +296,7 @@ void Results::end() {
   if (summary_) last.append(summary_->row);
   if (!last.items().empty()) print(last);
   start_json();
-  out_->write("]}\n");
+  out_->write(kJsonEnd);
 }
 
 void Results::fail(const Fault &fault, std::string_view file, uint64_t line) {

@@ -47,6 +47,9 @@ struct Settings {
 // The version of the JSON that commands print; docs/json.md and docs/tesselctl.schema.json
 // describe it.
 inline constexpr int kJsonVersion = 1;
+// What stands before the rows of an answer, and behind them.
+std::string json_beginning(std::string_view command);
+inline constexpr std::string_view kJsonEnd = "]}\n";
 
 // Between begin and end or fail lies one command. In JSON it becomes one line:
 //   {"version":1,"command":"count fdb","rows":[...]}

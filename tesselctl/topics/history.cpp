@@ -23,14 +23,8 @@ Journal &need_journal(const Context &context, const Invocation &invocation) {
 
 // The objects of any kind that have the name. Throws Fault when none has.
 void check_object(Word word) {
-  std::vector<std::string_view> names;
-  for (const ItemKind *kind : kinds()) {
-    for (size_t i = 0; const char *name = kind->object.name(i); ++i) {
-      if (word.text == name) return;
-      names.emplace_back(name);
-    }
-  }
-  throw_unknown(word, "object", names);
+  const std::vector<std::string_view> names = names_of_objects();
+  if (std::ranges::find(names, word.text) == names.end()) throw_unknown(word, "object", names);
 }
 
 // "[OBJECT [FIELD=VALUE...]]"; the values are filters.

@@ -17,7 +17,7 @@ extern const Topic kTrafficTopic, kExplainTopic, kDigestTopic, kSnapshotTopic, k
     kStateTopic;
 extern const Topic kImageTopic, kCompareTopic, kLintTopic, kRoutesTopic, kAclTopic, kObjectsTopic,
     kIntrospectionTopic, kReportTopic;
-extern const Topic kHistoryTopic, kToolTopic, kHelpTopic;
+extern const Topic kHistoryTopic, kToolTopic, kMonitorTopic, kHelpTopic;
 
 std::span<const Topic *const> command_topics() {
   static constexpr const Topic *kTopics[] = {
@@ -26,7 +26,7 @@ std::span<const Topic *const> command_topics() {
       &kHashTopic,     &kValueSetTopic, &kTrafficTopic, &kExplainTopic, &kDigestTopic,
       &kSnapshotTopic, &kAgeingTopic,   &kStateTopic,   &kImageTopic,   &kCompareTopic,
       &kLintTopic,     &kRoutesTopic,   &kAclTopic,     &kObjectsTopic, &kIntrospectionTopic,
-      &kReportTopic,   &kHistoryTopic,  &kToolTopic,    &kHelpTopic,
+      &kReportTopic,   &kHistoryTopic,  &kToolTopic,    &kMonitorTopic, &kHelpTopic,
   };
   return kTopics;
 }

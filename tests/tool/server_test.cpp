@@ -325,5 +325,64 @@ TEST_F(ServerTest, AClientThatNeverReadsIsDroppedAndOneTooManyRefused) {
   EXPECT_EQ(first.run("count l2Lookup"), "l2Lookup entries=0\n");
 }
 
+// ---- Monitors ----
+
+std::string write_of(int n) {
+  return fmt::format("register write flowDigestCountReg index=1 value={}", n);
+}
+
+// The output up to the end.
+std::string hear_events(Peer &client) {
+  std::string text;
+  for (const std::string &heard : client.hear_answer()) {
+    text += heard[0] == 'o' ? heard.substr(1) : "<" + heard + ">";
+  }
+  return text;
+}
+
+TEST_F(ServerTest, EightMonitorsHearTheSame) {
+  start({.clients = 9});
+  std::vector<Peer> monitors;
+  for (int i = 0; i < 8; ++i) {
+    monitors.push_back(peer());
+    monitors.back().say(request("monitor flowDigestCountReg count=200 --json"));
+    EXPECT_TRUE(monitors.back().hear().ends_with("\"rows\":[]}\n"));
+  }
+  TestClient client(path_);
+  EXPECT_EQ(client.run(add_next_hop(1)), "");
+  for (int n = 1; n <= 201; ++n) EXPECT_EQ(client.run(write_of(n)), "");
+  EXPECT_EQ(peer().hear(), "nthe server has 9 clients, no more");
+  const std::string heard = hear_events(monitors[0]);
+  EXPECT_EQ(std::count(heard.begin(), heard.end(), '\n'), 200);
+  EXPECT_NE(heard.find(" index=1 values=200,200\"}]}\n<x\x01>"), heard.npos) << heard;
+  EXPECT_EQ(heard.find("nextHop"), heard.npos);
+  for (int i = 1; i < 8; ++i) EXPECT_TRUE(hear_events(monitors[static_cast<size_t>(i)]) == heard);
+}
+
+TEST_F(ServerTest, ASlowMonitorReadsHowMuchItMissedAndHoldsUpNobody) {
+  constexpr int kChanges = 20000;
+  start({.paused_at = 1u << 16});
+  Peer slow = peer();
+  slow.say(request("monitor"));
+  TestClient client(path_);
+  for (int n = 1; n <= kChanges; ++n) ASSERT_EQ(client.run(write_of(n)), "");
+  std::string heard;
+  for (int last = kChanges; heard.find(fmt::format("={0},{0}\n", last)) == heard.npos;) {
+    const std::string message = slow.hear();
+    ASSERT_EQ(message.front(), 'o') << message;
+    heard += message.substr(1);
+    // What comes behind the gap is read again.
+    if (heard.find("missed ") != heard.npos) client.run(write_of(last = kChanges + 1));
+  }
+  const size_t gap = heard.find("missed ");
+  ASSERT_NE(gap, heard.npos);
+  std::string number = heard.substr(gap + 7, heard.find(' ', gap + 7) - gap - 7);
+  std::erase(number, ',');
+  const auto before = std::count(heard.begin(), heard.begin() + static_cast<ptrdiff_t>(gap), '\n');
+  EXPECT_EQ(before + std::stol(number), kChanges);
+  slow.say("\0\0\0\0i"s);
+  EXPECT_EQ(slow.hear(), "x\x01");
+}
+
 }  // namespace
 }  // namespace tesselctl

@@ -1,0 +1,182 @@
+#include "tesselctl/server/monitors.hpp"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+
+#include "tesselctl/journal/utc_text.hpp"
+#include "tesselctl/kinds/event_rows.hpp"
+#include "tesselctl/state/script.hpp"
+#include "tesselctl/text/files.hpp"
+#include "tesselctl/text/interrupt.hpp"
+#include "tesselctl/text/number.hpp"
+
+namespace tesselctl {
+
+// ---- One that monitors ----
+
+Monitor::Monitor(WantedEvents wanted, Output &out, size_t most, std::function<size_t()> unread)
+    : wanted_(std::move(wanted)),
+      out_(out),
+      most_(most),
+      unread_(std::move(unread)),
+      beginning_(wanted_.json ? json_beginning(wanted_.command) : std::string()) {}
+
+bool Monitor::takes() {
+  catch_up(most_ / 2);
+  if (missed_ == 0 && unread_() < most_) return true;
+  ++missed_;
+  return false;
+}
+
+void Monitor::catch_up(size_t below) {
+  if (missed_ == 0 || unread_() >= below) return;
+  const uint64_t missed = std::exchange(missed_, 0);
+  if (wanted_.json) {
+    put(Row().object("event", "missed").number("changes", missed).json());
+  } else {
+    put(fmt::format("missed {} change{}\n", grouped(missed), missed == 1 ? "" : "s"));
+  }
+}
+
+void Monitor::write(std::string_view text) {
+  ++sent_;
+  put(text);
+}
+
+void Monitor::put(std::string_view event) {
+  try {
+    out_.write(beginning_);
+    out_.write(event);
+    if (wanted_.json) out_.write(kJsonEnd);
+  } catch (const Fault &) {
+    // The client is gone; others are to hear of the event.
+  }
+}
+
+// ---- All of them ----
+
+void Monitors::add(Monitor &monitor) {
+  if (monitors_.empty()) log_.add(*this);
+  monitors_.push_back(&monitor);
+}
+
+void Monitors::remove(Monitor &monitor) {
+  std::erase(monitors_, &monitor);
+  if (monitors_.empty()) log_.remove(*this);
+}
+
+namespace {
+
+// What an event has in front: when and who.
+struct EventHead {
+  std::string time;
+  std::string_view who;
+  uint64_t number = 0;  // of the line that made a change
+
+  std::string print(const Row &row, bool json) const {
+    if (!json) return fmt::format("{} {}  {}\n", time, who, row.words());
+    Row whole;
+    if (number != 0) whole.number("number", number);
+    return whole.text("when", time).text("who", who).append(row).json();
+  }
+};
+
+// Prints the commands of changes that were made just now.
+class LiveScript : public Script {
+ public:
+  LiveScript(const Device &device, const std::vector<Change> &changes, Results &results)
+      : Script(results), device_(device), changes_(changes) {}
+
+  Items after(const ItemEdit &edit, std::string_view keyword) override {
+    items_.clear();
+    for (const ItemKind *kind : kinds()) {
+      if (&kind->object != &edit.kind.object || kind->keyword != keyword) continue;
+      Numbering numbering;
+      Source from = {device_, numbering};
+      kind->open(edit.object)->read(from, [&](const ItemView &item) {
+        items_.push_back(store_.add(item));
+      });
+    }
+    return items_;
+  }
+  bool differ(const ItemEdit &edit, std::string_view keyword) override {
+    return std::ranges::any_of(changes_, [&](const Change &change) {
+      return &change.part->kind->object == &edit.kind.object &&
+             change.part->kind->keyword == keyword && change.part->object == edit.object;
+    });
+  }
+
+ private:
+  const Device &device_;
+  const std::vector<Change> &changes_;
+  ItemStore store_;
+  std::vector<ItemStore::Item> items_;
+};
+
+std::string now_text() {
+  const auto now = std::chrono::system_clock::now().time_since_epoch();
+  return utc_text(std::chrono::duration_cast<std::chrono::milliseconds>(now).count());
+}
+
+}  // namespace
+
+void Monitors::send(std::string_view object, const Print &print) {
+  const UninterruptedScope scope;    // by whose line it is
+  std::array<std::string, 2> texts;  // in words, in JSON
+  for (Monitor *monitor : monitors_) {
+    const WantedEvents &wanted = monitor->wanted();
+    if (monitor->is_done() || !wanted.of(object) || !monitor->takes()) continue;
+    std::string &text = texts[wanted.json ? 1 : 0];
+    try {
+      if (text.empty()) text = print(wanted.json);
+    } catch (const std::exception &) {
+      return;  // what happened stays, though it cannot be printed
+    }
+    if (!text.empty()) monitor->write(text);
+  }
+}
+
+void Monitors::note(const LineChanges &line) {
+  const EventHead head = {utc_text(line.time_ms), line.client, line.number};
+  Output out;
+  Results results(out);
+  LiveScript script(device_, line.changes, results);
+  for (const Change &change : line.changes) {
+    send(change.part->object, [&](bool json) {
+      const std::vector<Change> alone = {change};
+      for (const ChangeStep &one : steps_of(alone)) print_commands(script, one);
+      const std::string commands = out.take();
+      std::string text;
+      std::string_view command;
+      for (const LineSource next = lines_of(commands); next(command);) {
+        if (json && !text.empty()) text += ',';
+        text += json ? head.print(Row().text("command", command), true)
+                     : head.print(Row().object("command", command), false);
+      }
+      return text;
+    });
+  }
+}
+
+void Monitors::note_events(std::string_view client) {
+  const Events &events = device_.events();
+  const uint64_t expired = std::exchange(expired_, events.expired_count);
+  const uint32_t message = std::exchange(messages_, events.messages.delivered);
+  if (monitors_.empty()) return;
+  const EventHead head = {now_text(), client};
+  const auto fresh =
+      static_cast<size_t>(std::min<uint64_t>(expired_ - expired, events.expired.size()));
+  for (const ExpiredEntry &one : std::span(events.expired).last(fresh)) {
+    send(table_of_handle(one.table).name(),
+         [&](bool json) { return head.print(expired_row(device_, one, {}), json); });
+  }
+  const auto &held = events.messages.held;
+  for (auto at = held.upper_bound(message); at != held.end(); ++at) {
+    for_each_message_row(at->first, *at->second, [&](std::string_view digest, const Row &row) {
+      send(digest, [&](bool json) { return head.print(row, json); });
+    });
+  }
+}
+
+}  // namespace tesselctl
