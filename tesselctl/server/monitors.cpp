@@ -163,7 +163,8 @@ void Monitors::note_events(std::string_view client) {
   const Events &events = device_.events();
   const uint64_t expired = std::exchange(expired_, events.expired_count);
   const uint32_t message = std::exchange(messages_, events.messages.delivered);
-  if (monitors_.empty()) return;
+  const bool is_quiet = expired_ == expired && messages_ == message;
+  if (monitors_.empty() || is_quiet) return;
   const EventHead head = {now_text(), client};
   const auto fresh =
       static_cast<size_t>(std::min<uint64_t>(expired_ - expired, events.expired.size()));
