@@ -235,7 +235,8 @@ std::vector<uint64_t> Journal::standing() const {
   read(reader, {}, [&](const Journaled &change) {
     if (change.undone == 0) numbers.push_back(change.number);
     // Of files that are gone it may have taken back more.
-    numbers.resize(numbers.size() - std::min<size_t>(numbers.size(), change.undone));
+    numbers.resize(numbers.size() -
+                   static_cast<size_t>(std::min<uint64_t>(numbers.size(), change.undone)));
   });
   return numbers;
 }

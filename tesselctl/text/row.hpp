@@ -62,7 +62,7 @@ struct Item {
   std::string value;
   std::string_view unit;  // "kbit/s": in words only; a constant
   ValueKind of = {};
-  bool is_amount = false;  // it grows and shrinks, as no key, handle or setting does
+  bool is_amount = false;        // it grows and shrinks, as no key, handle or setting does
   std::string_view before = {};  // a word in front of it, in words only; a constant
 };
 
