@@ -47,7 +47,8 @@ std::string labels_of(const std::vector<const Field *> &fields, std::string_view
 Path::Path(const Context &context, Words words, std::span<const std::string_view> options)
     : context_(context) {
   for (const Word &word : words) take(word, nullptr, word);
-  std::ranges::stable_partition(pairs_, [](const Pair &pair) { return pair.from != nullptr; });
+  std::stable_partition(pairs_.begin(), pairs_.end(),
+                        [](const Pair &pair) { return pair.from != nullptr; });
   for (Pair &pair : std::exchange(pairs_, {})) sort_out(pair, options);
 }
 
@@ -97,15 +98,15 @@ bool is_named(std::string_view text) {
 }
 
 void Path::sort_out(Pair &pair, std::span<const std::string_view> options) {
-  const auto &[whole, name, value] = pair.words;
+  const Word name = pair.words.name;
   const auto has_it = [&](const Stop &stop) {
     return has_field_named(*stop.table.record, name.text);
   };
   const bool is_option = std::ranges::find(options, name.text) != options.end();
   if (is_option && pair.from == nullptr && std::ranges::none_of(stops_, has_it)) {
-    return options_.push_back(whole);
+    return options_.push_back(pair.words.whole);
   }
-  pair.joins = is_named(value.text) && has_field(value.text);
+  pair.joins = is_named(pair.words.value.text) && has_field(pair.words.value.text);
   in_place_of(pair.from, [&] {
     if (!pair.joins && has_pair(pair))
       throw Fault(name, std::string(name.text) + " is given twice");
@@ -152,14 +153,14 @@ Number packet_value(const Field &field, Word text) {
 void Path::give(PathKey &key, size_t stop) const {
   const bindings::Record &record = *stops_[stop].table.record;
   for (const Pair &pair : pairs_) {
-    const auto &[whole, name, value] = pair.words;
+    const std::string_view name = pair.words.name.text;
     const auto set = [&](const Field &field) {
-      key.set(field, packet_value(field, value), {Origin::given, 0, nullptr});
+      key.set(field, packet_value(field, pair.words.value), {Origin::given, 0, nullptr});
     };
     if (pair.joins) continue;
     in_place_of(pair.from, [&] {
-      if (const Field *field = find_field(record, name.text)) set(*field);
-      for_each_joined(name.text, name.text, record, set);
+      if (const Field *field = find_field(record, name)) set(*field);
+      for_each_joined(name, name, record, set);
     });
   }
 }

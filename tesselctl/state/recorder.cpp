@@ -187,7 +187,7 @@ void Recorder::after(const Call &call, uint64_t result) {
 void Recorder::touch(const Function &function, std::optional<uint32_t> handle, bool is_new) {
   if (touched_ && touched_->handle == handle && *touched_->parts == function.parts) return;
   finish_touched();
-  touched_.emplace(&function.parts, handle, std::vector<Items>(function.parts.size()));
+  touched_ = Touched{&function.parts, handle, std::vector<Items>(function.parts.size())};
   for (size_t i = 0; i < function.parts.size() && !is_new; ++i) {
     touched_->before[i] = read(*function.parts[i], handle);
   }

@@ -154,7 +154,8 @@ TEST_F(ExplainTest, FindsRealRoutes) {
   }
   ASSERT_GT(entries_.size(), 1000000u);
   for (int i = 0; i < 30; ++i) {
-    const uint64_t near = entries_[random(entries_.size())].values[1] + random(300);
+    const uint64_t near =
+        entries_[static_cast<size_t>(random(entries_.size()))].values[1] + random(300);
     const std::vector<uint64_t> key = {i % 10 == 0 ? 2u : 1u, i % 2 == 0 ? engine_() : near};
     ASSERT_EQ(explained(kRoutes, key), searched(kRoutes, key)) << key[1];
   }

@@ -53,7 +53,7 @@ TEST_F(JournalTest, AFileMayEndAnywhereInItsLastChange) {
     Journal journal = open();
     run(journal, {kGroup});
     first = image_of(journal);
-    const size_t size = fs::file_size(path_);
+    const auto size = static_cast<size_t>(fs::file_size(path_));
     run(journal, {kSeed});
     text = read_input(path_);
     ASSERT_GT(text.size(), size);
@@ -93,7 +93,7 @@ TEST_F(JournalTest, WhatCannotBeWrittenIsTakenBack) {
   rlimit limit = {};
   getrlimit(RLIMIT_FSIZE, &limit);
   rlimit small = limit;
-  small.rlim_cur = fs::file_size(path_) + 50;
+  small.rlim_cur = static_cast<rlim_t>(fs::file_size(path_) + 50);
   signal(SIGXFSZ, SIG_IGN);
   setrlimit(RLIMIT_FSIZE, &small);
   EXPECT_THROW(run(journal, {kSeed}), Fault);
