@@ -18,7 +18,7 @@ struct Distance {
   unsigned bits = 0;
   uint32_t priority = 0;
 
-  auto operator<=>(const Distance &) const = default;
+  auto operator<=>(const Distance &) const = default;  // NOLINT(modernize-use-nullptr)
 };
 
 class Measure {

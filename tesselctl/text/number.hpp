@@ -20,7 +20,7 @@ struct Number {
   constexpr Number(uint64_t upper, uint64_t lower) : high(upper), low(lower) {}
 
   friend constexpr bool operator==(Number, Number) = default;
-  friend constexpr auto operator<=>(Number, Number) = default;
+  friend constexpr auto operator<=>(Number, Number) = default;  // NOLINT(modernize-use-nullptr)
   // Without what is beyond 128 bits.
   friend constexpr Number operator+(Number a, Number b) {
     return {a.high + b.high + (a.low + b.low < a.low ? 1 : 0), a.low + b.low};
