@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include "tesselctl/device/group_call.hpp"
+
 namespace tesselctl {
 
 // The function of the table for what the line says: one per action, or one for members and one for
@@ -60,7 +62,9 @@ bool EntryAdder::find() {
   return status == BF_SUCCESS;
 }
 
-void EntryAdder::add() { check_outcome(add_.run(), device_, line_, line_.table_word()); }
+void EntryAdder::add() {
+  check_outcome(run_with_group(device_, line_.table(), add_), device_, line_, line_.table_word());
+}
 
 void EntryAdder::take_back() {
   Call remove = device_.prepare("table_delete", line_.table().name());
@@ -88,7 +92,7 @@ void EntryAdder::make_as_added(p4_pd_entry_handle_t entry) {
   line_.give(call.set("entry", uint64_t{entry}));
   const uint32_t ttl = exchange_ttl(entry, line_.ttl());
   try {
-    check_outcome(call.run(), device_, line_, line_.table_word());
+    check_outcome(run_with_group(device_, line_.table(), call), device_, line_, line_.table_word());
   } catch (const Fault &) {
     exchange_ttl(entry, ttl);
     throw;

@@ -1,6 +1,7 @@
 // Default entries of tables.
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/device/entry_line.hpp"
+#include "tesselctl/device/group_call.hpp"
 #include "tesselctl/kinds/table_items.hpp"
 
 namespace tesselctl {
@@ -41,7 +42,8 @@ class DefaultEntry : public TableItems {
     Call call = set_call(to, item.value, word);
     call.set_if_taken("entry", static_cast<const void *>(&entry));
     const void *const spec = head.has_meter != 0 ? &meter : nullptr;
-    check(call.set_if_taken("meter_spec", spec).run(), word);
+    call.set_if_taken("meter_spec", spec);
+    check(run_with_group(to.device, table(), call), word);
     if (entry != 0) write_counter(to, edit, head, entry, word);
   }
 
@@ -96,7 +98,9 @@ void set(Context &context, const Invocation &invocation) {
                         table));
   p4_pd_entry_handle_t entry = 0;
   line.fill(call, false);
-  check_outcome(call.set("entry", &entry).run(), context.device, line, line.table_word());
+  call.set("entry", &entry);
+  check_outcome(run_with_group(context.device, line.table(), call), context.device, line,
+                line.table_word());
   line.remember(context, entry);
   Row row;
   context.results.done(row.object("table", table).object("which", "default").number("entry", entry),

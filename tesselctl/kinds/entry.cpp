@@ -4,6 +4,7 @@
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/device/entry_adder.hpp"
 #include "tesselctl/device/entry_texts.hpp"
+#include "tesselctl/device/group_call.hpp"
 #include "tesselctl/device/range_rows.hpp"
 #include "tesselctl/kinds/table_items.hpp"
 
@@ -42,7 +43,8 @@ class Entries : public TableItems {
       call.set_if_taken("entry", static_cast<const void *>(&entry));
       call.set_if_taken("priority", uint64_t{priority_of(table(), item.identity)});
       call.set_if_taken("ttl", uint64_t{head.ttl});
-      check(call.set_if_taken("meter_spec", spec).run(), word);
+      call.set_if_taken("meter_spec", spec);
+      check(run_with_group(to.device, table(), call), word);
     };
     if (head.outcome == EntryHead::kAction && edit != Edit::remove) {
       run(action_call(to, item.value, edit));
@@ -151,7 +153,8 @@ void run_on_entries(const Device &device, Call &call, EntryLine &line, Check che
   if (line.count() > 1) find_entries(device, line);
   for (size_t i = 0; i < line.count(); ++i) {
     line.choose(i);
-    check_status(call.run(), line.entry() ? line.entry()->word : line.table_word());
+    check_status(run_with_group(device, line.table(), call),
+                 line.entry() ? line.entry()->word : line.table_word());
   }
 }
 
