@@ -117,7 +117,7 @@ HttpAnswer HttpService::answer_of_device(const HttpRequest &request) {
     return {.status = 404, .body = "there are /, /metrics and /json/COMMAND/WORD?NAME=VALUE\n"};
   }
   path.remove_prefix(kJson.size());
-  return json_answer(device_, line_of(path, query));
+  return json_answer(device_, server_.journal(), line_of(path, query));
 }
 
 std::string HttpService::page(std::string_view query) {

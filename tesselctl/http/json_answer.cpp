@@ -49,7 +49,7 @@ const Command *command_of(const std::string &line) {
   return &find_command(words, invocation);
 }
 
-HttpAnswer run(Device &device, const std::string &line) {
+HttpAnswer run(Device &device, Journal *journal, const std::string &line) {
   HttpAnswer answer = {200, "application/json", {}};
   bool is_whole = true;
   Output out([&](std::string_view piece) {
@@ -62,6 +62,7 @@ HttpAnswer run(Device &device, const std::string &line) {
   Output errors;
   try {
     LocalRunner runner(device, out, errors, {.json = true});
+    runner.context().journal = journal;
     if (runner.run({{}, 0, line}) == LineOutcome::fault) answer.status = 400;
     out.flush();
     return answer;
@@ -89,10 +90,10 @@ std::string line_of(std::string_view path, std::string_view query) {
   return line;
 }
 
-HttpAnswer json_answer(Device &device, const std::string &line) {
+HttpAnswer json_answer(Device &device, Journal *journal, const std::string &line) {
   try {
     const Command *command = command_of(line);
-    if (command == nullptr || only_asks(*command)) return run(device, line);
+    if (command == nullptr || only_asks(*command)) return run(device, journal, line);
   } catch (const Fault &fault) {
     return fault_answer(404, fault, line);
   }

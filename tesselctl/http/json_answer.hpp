@@ -4,7 +4,7 @@
 #include <atomic>
 #include <string_view>
 
-#include "tesselctl/device/device.hpp"
+#include "tesselctl/command/command.hpp"
 #include "tesselctl/http/listener.hpp"
 
 namespace tesselctl {
@@ -15,6 +15,7 @@ std::string line_of(std::string_view path, std::string_view query);
 
 // Runs the line where it asks the device for something and reads and writes no file, and answers
 // with what it prints in JSON: also a fault, with a status of its own.
-HttpAnswer json_answer(Device &device, const std::string &line);
+// The journal may be null.
+HttpAnswer json_answer(Device &device, Journal *journal, const std::string &line);
 
 }  // namespace tesselctl

@@ -24,6 +24,7 @@ class Server {
   Server(Device &device, ListeningSocket listening, const ServerLimits &limits = {},
          Journal *journal = nullptr);
 
+  Journal *journal() const { return served_.journal; }
   // Serves until somebody stops it. Throws Fault when it cannot go on.
   void run();
   // Safe in signal handlers and from any thread. The command that runs ends where it can.
