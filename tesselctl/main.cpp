@@ -154,6 +154,10 @@ int exit_of(LineOutcome outcome) {
 int run_serve(const ToolSettings &settings) {
   if (settings.socket.empty()) throw Fault("serve needs --socket PATH");
   const std::string &journal = settings.journal.path;
+  if (journal.empty() && !settings.journal.flag.empty()) {
+    throw Fault(
+        fmt::format("{} is for a journal: name its file by --journal", settings.journal.flag));
+  }
   if (!journal.empty() && !settings.image.empty()) {
     throw Fault(
         "a journal keeps the device itself: leave out --image, and load it when it is served");
@@ -246,6 +250,9 @@ int run_manual(const Settings &settings, const Invocation &invocation) {
 void check_no_server(const ToolSettings &settings) {
   if (!settings.http.empty()) throw Fault("--http is for serve");
   if (!settings.journal.path.empty()) throw Fault("--journal is for serve");
+  if (!settings.journal.flag.empty()) {
+    throw Fault(fmt::format("{} is for serve", settings.journal.flag));
+  }
   if (settings.socket.empty() || settings.device_flag.empty()) return;
   throw Fault(fmt::format("{} is for the server to choose", settings.device_flag));
 }

@@ -46,10 +46,12 @@ void set_sync(ToolSettings &settings, Word value) {
                 common::nearest(value.text, kNames));
   }
   settings.journal.sync = static_cast<JournalSync>(found - kNames.begin());
+  settings.journal.flag = "--sync";
 }
 
 void set_rotate(ToolSettings &settings, Word value) {
   settings.journal.most_bytes = parse_limited(value, 256, "the size in MiB", 1) << 20;
+  settings.journal.flag = "--rotate";
 }
 
 void set_program(ToolSettings &settings, Word value) {

@@ -35,7 +35,9 @@ std::string checkpoint_of(const std::string &journal) {
   FileLines lines(journal);
   std::string_view line;
   for (int i = 0; i < 2; ++i) {
-    if (!lines.next(line)) return {};
+    if (!lines.next(line) || (i == 0 && !line.starts_with(kJournalFirst))) {
+      throw Fault(journal + ":1:1: this is no journal of tesselctl");
+    }
   }
   const Word number = Word{line, 1}.from(std::min(line.size(), size_t{6}));
   return fmt::format("{}.{}.image", journal, number.text);
@@ -60,6 +62,7 @@ Journal::Journal(const JournalOptions &options, DeviceOptions device, bool pipes
                               options_.path, old_path(1)));
     }
     device_.emplace(device);
+    write_checkpoint();
     begin_file();
   }
   if (options_.sync == JournalSync::interval)
@@ -83,9 +86,8 @@ void Journal::finish() {
 
 // ---- Start ----
 
-// A checkpoint of the device as it is, and a file of the changes to come.
+// A file of the changes to come behind a checkpoint.
 void Journal::begin_file() {
-  write_checkpoint();
   const std::string head = journal_head(extent_.last);
   write_file(options_.path, head);
   open_file(head.size());
@@ -199,6 +201,8 @@ void Journal::sync_each_second() {
 void Journal::rotate() {
   const uint64_t before = extent_.after;
   try {
+    // First what may not fit, so that a full disk pushes no old file out.
+    write_checkpoint();
     for (size_t at = kKept; at-- > 1;) {
       if (fs::exists(old_path(at))) fs::rename(old_path(at), old_path(at + 1));
     }

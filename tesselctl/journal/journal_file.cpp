@@ -18,7 +18,6 @@ namespace {
 constexpr size_t kPiece = size_t{1} << 20;
 // Of a command, which is there to be read.
 constexpr size_t kMostCommand = 4096;
-constexpr std::string_view kFirst = "tesselctl journal ";
 
 std::string end_line(uint64_t number, const Checksum &checksum) {
   return fmt::format("end {} checksum={:016x}", number, checksum.value());
@@ -33,7 +32,7 @@ bool begins_change(std::string_view line) {
 // ---- Text ----
 
 std::string journal_head(uint64_t after) {
-  return fmt::format("{}{} {}\nafter {}\n", kFirst, kJournalVersion, program().name, after);
+  return fmt::format("{}{} {}\nafter {}\n", kJournalFirst, kJournalVersion, program().name, after);
 }
 
 void print_journaled(const LineChanges &line, uint64_t undone,
@@ -95,8 +94,8 @@ uint64_t take_number(Word &text) {
 }
 
 void check_first(std::string_view line) {
-  if (!line.starts_with(kFirst)) throw Fault({line, 1}, "this is no journal of tesselctl");
-  Word rest = Word{line, 1}.from(kFirst.size());
+  if (!line.starts_with(kJournalFirst)) throw Fault({line, 1}, "this is no journal of tesselctl");
+  Word rest = Word{line, 1}.from(kJournalFirst.size());
   const Word version = rest;
   if (take_number(rest) != kJournalVersion) {
     throw Fault(version, fmt::format("this tool reads journals of version {}", kJournalVersion));

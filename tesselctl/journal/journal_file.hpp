@@ -26,6 +26,7 @@ namespace tesselctl {
 inline constexpr int kJournalVersion = 1;
 
 // The beginning of a file.
+inline constexpr std::string_view kJournalFirst = "tesselctl journal ";
 std::string journal_head(uint64_t after);
 // The text of a change that takes back so many others, 0 for one of its own, in pieces of some
 // size.

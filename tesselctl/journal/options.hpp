@@ -15,6 +15,7 @@ struct JournalOptions {
   std::string path = {};  // empty for none
   JournalSync sync = JournalSync::interval;
   uint64_t most_bytes = uint64_t{64} << 20;  // of a file; then a new one begins
+  std::string_view flag = {};                // that was given beside the path
 };
 
 }  // namespace tesselctl
