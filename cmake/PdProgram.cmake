@@ -41,7 +41,7 @@ function(pd_add_program program)
   set(dir ${CMAKE_CURRENT_BINARY_DIR}/generated/${program})
   pd_generate()
   pd_add_library()
-  if(TARGET pdgen::soft_sdk)
+  if(TARGET soft_sdk::soft_sdk)
     pd_add_soft_program()
     pd_add_module()
   endif()
@@ -136,7 +136,8 @@ macro(pd_add_library)
     -fvisibility=hidden -fno-semantic-interposition)
   target_link_options(pd_${program} PRIVATE -Wl,--version-script=${dir}/exports.map
     -Wl,-Bsymbolic-functions)
-  target_link_libraries(pd_${program} PUBLIC pdgen::headers PRIVATE ${CJSON_LIBRARY})
+  target_link_libraries(pd_${program} PUBLIC $<BUILD_INTERFACE:pd_sdk::pd_sdk>
+    PRIVATE ${CJSON_LIBRARY})
   set_target_properties(pd_${program} PROPERTIES
     OUTPUT_NAME p4_pd_${program} VERSION ${arg_VERSION} SOVERSION ${arg_SONAME}
     LINKER_LANGUAGE C LINK_DEPENDS ${dir}/stamp GENERATED_DIR ${dir})
@@ -146,7 +147,7 @@ macro(pd_add_soft_program)
   add_library(soft_program_${program} SHARED ${dir}/soft_program.cpp)
   add_library(${program}::soft_program_${program} ALIAS soft_program_${program})
   pd_compile(soft_program_${program})
-  target_link_libraries(soft_program_${program} PUBLIC pdgen::headers)
+  target_link_libraries(soft_program_${program} PUBLIC pd_sdk::pd_sdk)
   set_target_properties(soft_program_${program} PROPERTIES
     VERSION ${arg_VERSION} SOVERSION ${arg_SONAME} LINKER_LANGUAGE C)
 endmacro()
@@ -174,19 +175,22 @@ macro(pd_add_module)
     PD_CATALOGUE ${arg_CATALOGUE})
 endmacro()
 
-# All that is installed finds its parts by relative paths, so the prefix may be moved.
+# All that is installed finds its parts by relative paths, so the prefix may be moved. The library
+# requires no headers of an SDK, as a host may have its own.
 macro(pd_install_program)
-  set(installed pd_${program})
   pd_install_pkg_config(${program} "Control-plane library of the P4 program ${program}"
-    VERSION ${arg_VERSION} LIBRARIES p4_pd_${program} REQUIRES pdgen)
+    VERSION ${arg_VERSION} LIBRARIES p4_pd_${program})
   if(TARGET soft_program_${program})
-    list(APPEND installed soft_program_${program})
     pd_install_pkg_config(${program}_soft_sdk
       "In-memory device behind the SDK contract, with the description of ${program}"
       VERSION ${arg_VERSION} LIBRARIES soft_program_${program} REQUIRES soft_sdk)
+    install(TARGETS soft_program_${program} EXPORT ${program}_soft_sdk_targets
+      LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    install(EXPORT ${program}_soft_sdk_targets NAMESPACE ${program}::
+      DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/${program})
     install(TARGETS pd_${program}_module LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/tesselctl)
   endif()
-  install(TARGETS ${installed} EXPORT ${program}_targets
+  install(TARGETS pd_${program} EXPORT ${program}_targets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
   install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
   pd_install_package(${program} ProgramConfig.cmake.in ${arg_VERSION})

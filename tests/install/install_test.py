@@ -8,27 +8,32 @@ import os
 import pathlib
 import re
 import shlex
+import shutil
 import subprocess
 import sys
 import tempfile
 
-BY_NAME = r"""
-#include <dlfcn.h>
-#include <stdio.h>
-static void *load(const char *name, int scope) {
-  void *library = dlopen(name, RTLD_NOW | scope);
-  if (!library) fprintf(stderr, "%s\n", dlerror());
-  return library;
-}
-int main(void) {
-  void *sdk = load("libsoft_sdk.so.1", RTLD_GLOBAL);
-  void *pd = load("libp4_pd_tessel_switch.so.1", RTLD_LOCAL);
-  void *program = load("libsoft_program_tessel_switch.so.1", RTLD_LOCAL);
-  if (!sdk || !pd || !program) return 1;
-  unsigned (*create)(unsigned, unsigned, const void *, _Bool) = dlsym(sdk, "soft_device_create");
-  unsigned (*init)(void) = dlsym(pd, "p4_pd_tessel_switch_init");
-  return init() || create(0, 4, dlsym(program, "soft_program_tessel_switch"), 0);
-}
+# What the first ten calls of examples/leaf.tessel leave in two tables.
+LEAF = """\
+((( 0x001,),('setPhase0',(0x0065,0x00a,0x1,0x0,)),),(0,True))
+((( 0x002,),('setPhase0',(0x0066,0x00a,0x1,0x0,)),),(0,True))
+((( 0x003,),('setPhase0',(0x0067,0x014,0x1,0x0,)),),(0,True))
+((( 0x004,),('setPhase0',(0x0068,0x014,0x1,0x0,)),),(0,True))
+((( 0x031,),('setPhase0',(0x0095,0x000,0x0,0x1,)),),(0,True))
+((( 0x032,),('setPhase0',(0x0096,0x000,0x0,0x1,)),),(0,True))
+((( 0x1,0x0065,0x0,0x000,0x000,),('setL2DomainUntagged',(0x0000a,)),),(20,True))
+((( 0x1,0x0066,0x0,0x000,0x000,),('setL2DomainUntagged',(0x0000a,)),),(20,True))
+((( 0x1,0x0067,0x0,0x000,0x000,),('setL2DomainUntagged',(0x00014,)),),(20,True))
+((( 0x1,0x0068,0x0,0x000,0x000,),('setL2DomainUntagged',(0x00014,)),),(20,True))
+"""
+
+# A user of the library with headers of its own.
+OWN_SDK = """cmake_minimum_required(VERSION 3.25)
+project(own LANGUAGES C)
+find_package(tessel_switch REQUIRED)
+add_library(own OBJECT own.c)
+target_include_directories(own PRIVATE own_sdk)
+target_link_libraries(own PRIVATE tessel_switch::pd_tessel_switch)
 """
 
 # Of docs, those whose examples need what is installed.
@@ -64,9 +69,32 @@ def check_hosts(prefix, libdir, source, folder, settings, cmake, compiler):
     run(cmake, "--build", folder / "b")
     check("host by find_package", wanted, run(folder / "b/host"))
 
-    (folder / "by_name.c").write_text(BY_NAME)
-    run(*compiler, folder / "by_name.c", "-o", folder / "by_name", "-ldl")
-    run(folder / "by_name", env=loaded)
+
+def check_by_name(prefix, libdir, source, folder, compiler):
+    script = source / "examples/leaf.tessel"
+    blocks = run(prefix / "bin/tesselctl", "--trace", "run", script).split("}\n")[:10]
+    (folder / "calls.inc").write_text("".join(f"{block}check(status);\n}}\n" for block in blocks))
+    loaded = dict(os.environ, LD_LIBRARY_PATH=str(prefix / libdir))
+    include = prefix / "include"
+    run(*compiler, "-std=c99", "-pedantic", "-Wall", "-Wextra", "-Werror", f"-I{include}",
+        f"-I{include}/pd_sdk", f"-I{folder}", source / "tests/install/by_name.c", "-o",
+        folder / "by_name", "-ldl")
+    check("host by name", LEAF, run(folder / "by_name", env=loaded))
+
+
+def check_own_sdk(prefix, libdir, folder, settings, cmake, compiler):
+    """The library needs no header, CMake package or pkg-config file of the SDK."""
+    (prefix / "include/pd_sdk").rename(folder / "own_sdk")
+    for file in (*prefix.glob("include/soft_*"), *(prefix / libdir).glob("*/*soft_sdk*"),
+                 *(prefix / libdir).glob("*/pd_sdk*")):
+        shutil.rmtree(file) if file.is_dir() else file.unlink()
+    flags = run("pkg-config", "--cflags", "tessel_switch",
+                env=dict(os.environ, PKG_CONFIG_LIBDIR=str(prefix / libdir / "pkgconfig"))).split()
+    (folder / "own.c").write_text('#include "p4_pd_tessel_switch.h"\n')
+    run(*compiler, "-fsyntax-only", *flags, f"-I{folder}/own_sdk", folder / "own.c")
+    (folder / "CMakeLists.txt").write_text(OWN_SDK)
+    run(cmake, "-S", folder, "-B", folder / "own_build", *settings)
+    run(cmake, "--build", folder / "own_build")
 
 
 def check_module_version(prefix, folder, compiler):
@@ -106,7 +134,9 @@ def main():
                     "-DCMAKE_CXX_FLAGS=" + " ".join(compiler[1:]), f"-DCMAKE_INSTALL_LIBDIR={libdir}",
                     f"-DCMAKE_TOOLCHAIN_FILE={toolchain}"]
         check_hosts(prefix, libdir, source, folder, settings, cmake, compiler)
+        check_by_name(prefix, libdir, source, folder, compiler)
         check_module_version(prefix, folder, compiler)
+        check_own_sdk(prefix, libdir, folder, settings, cmake, compiler)
 
 
 main()
