@@ -110,6 +110,7 @@ HttpAnswer HttpService::answer_of_device(const HttpRequest &request) {
   std::string_view path = take_until(query, '?');
   if (path == "/") return {.type = "text/html; charset=utf-8", .body = page(query)};
   if (path == "/metrics") {
+    if (!query.empty()) throw Fault("/metrics takes no words behind '?'");
     const auto format = is_openmetrics(request) ? MetricsFormat::open_metrics : MetricsFormat::text;
     return {.type = std::string(content_type(format)), .body = metrics(format)};
   }

@@ -25,6 +25,8 @@ struct SignalsBlocked {
   sigset_t before;
 };
 
+constexpr const char *kPlain = "text/plain; charset=utf-8";
+
 class Listener final : public HttpListener, private httplib::Server {
  public:
   Listener(int socket, const HttpLimits &limits, HttpHandler handler)
@@ -43,6 +45,9 @@ class Listener final : public HttpListener, private httplib::Server {
       answer(request, response);
       return HandlerResponse::Handled;
     });
+    set_error_handler([](const httplib::Request &, httplib::Response &response) {
+      if (response.body.empty()) response.set_content(sentence_of(response.status), kPlain);
+    });
     const SignalsBlocked blocked;
     accepting_ = std::thread([this] { accept_clients(); });
   }
@@ -56,6 +61,17 @@ class Listener final : public HttpListener, private httplib::Server {
   }
 
  private:
+  // What is wrong with a request that the library or this class refuses.
+  static std::string sentence_of(int status) {
+    if (status == 405) return "requests are GET or HEAD\n";
+    if (status == 414) {
+      return "a request line has at most " + std::to_string(CPPHTTPLIB_REQUEST_URI_MAX_LENGTH) +
+             " bytes\n";
+    }
+    if (status == 416) return "answers come whole, without a Range\n";
+    return "this is no request of HTTP/1.1 that can be read\n";
+  }
+
   void answer(const httplib::Request &request, httplib::Response &response) {
     if (request.method != "GET" && request.method != "HEAD") {
       response.status = 405;
