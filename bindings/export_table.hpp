@@ -30,7 +30,8 @@ struct Export {
   const char *action;  // of an operation with an action, or ""
   const char *result;  // C type
   const Parameter *parameters;
-  size_t parameter_count;
+  uint16_t parameter_count;
+  uint16_t note;  // its place in Binding::notes
   Call call;
 
   std::span<const Parameter> parameter_list() const { return {parameters, parameter_count}; }
@@ -39,6 +40,13 @@ struct Export {
 struct ExportList {
   const Export *rows;
   size_t count;
+};
+
+// What functions have in common, as the header says it, in one line. That of a function without one
+// of its own is the first, which is about all functions.
+struct Note {
+  const char *title;
+  const char *text;
 };
 
 enum class Role : uint8_t { value, mask, prefix_length };
@@ -144,6 +152,7 @@ struct Binding {
   size_t action_count;
   const ExportList *const *lists;
   size_t list_count;
+  std::span<const Note> notes;
   RecordList tables;
   RecordList actions;
   RecordList digests;
@@ -166,11 +175,11 @@ constexpr uint32_t layout_of() {
   return layout;
 }
 inline constexpr uint32_t kLayout =
-    layout_of<Parameter, Export, ExportList, Member, Field, Record, RecordList, Routes, Acl, Sizes,
-              Binding, soft_key_field_t, soft_action_t, soft_cell_t, soft_default_t, soft_table_t,
-              soft_profile_t, soft_counter_t, soft_meter_t, soft_register_t, soft_hash_t,
-              soft_digest_field_t, soft_digest_t, soft_value_set_t, soft_snapshot_field_t,
-              soft_snapshot_layout_t, soft_program_t>();
+    layout_of<Parameter, Export, ExportList, Note, Member, Field, Record, RecordList, Routes, Acl,
+              Sizes, Binding, soft_key_field_t, soft_action_t, soft_cell_t, soft_default_t,
+              soft_table_t, soft_profile_t, soft_counter_t, soft_meter_t, soft_register_t,
+              soft_hash_t, soft_digest_field_t, soft_digest_t, soft_value_set_t,
+              soft_snapshot_field_t, soft_snapshot_layout_t, soft_program_t>();
 
 // The only symbol of a module.
 extern "C" {

@@ -130,14 +130,14 @@
  *   bits of the stream, and takes attribute_sizes[i] bits of value i: its low bits up to 32,
  *   else that many of the bytes it points at, whose last byte is the lowest. An array of no
  *   elements may be null. P4_PD_NO_MEMORY when a copy or the stream could not be allocated or
- *   the stream is longer than 32 bits can tell.
+ *   the stream is longer than 32 bits can tell. p4_field_enum turns the common number of a
+ *   field into the calculation's own, -1 when there is none, and cmn_field_enum back,
+ *   0xffffffff (no field of any calculation) when there is none.
  *
  * Hash calculations by name
  *   The name is that of the calculation, whole and case-sensitive; P4_PD_UNKNOWN_SELECTION for any
  *   other, and for an attribute of a field that the calculation does not have. Fields go by
- *   their common number: p4_field_enum turns it into the calculation's own, -1 when there is
- *   none, and cmn_field_enum back, 0xffffffff (no field of any calculation) when there is
- *   none.
+ *   their common number.
  *
  * Learning digests
  *   A callback is registered per digest and device and receives the pipeline manager's own

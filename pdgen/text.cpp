@@ -56,6 +56,16 @@ std::string c_literal(std::string_view text) {
   return out + '"';
 }
 
+std::string c_literal_lines(std::string_view text) {
+  std::string out;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t end = std::min(text.find('\n', at), text.size() - 1) + 1;
+    out += "\n      " + c_literal(text.substr(at, end - at));
+    at = end;
+  }
+  return out;
+}
+
 std::optional<std::string> read_file(const std::filesystem::path &path) {
   std::error_code error;
   if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;

@@ -29,6 +29,8 @@ std::string in_capitals(std::string_view text);
 
 // A string literal of C with that contents.
 std::string c_literal(std::string_view text);
+// The same in lines of the source, split behind each newline.
+std::string c_literal_lines(std::string_view text);
 
 // What a projection gives of each; std::views need later compilers than those that build this.
 template <class Range, class Projection>

@@ -26,6 +26,7 @@ struct Function {
   std::string family;     // the operation, the same for all objects that have it
   std::string object;     // the table, profile, action ... that it belongs to; empty if none
   std::string action;     // of an operation with an action
+  std::size_t note = 0;   // its place among the notes; 0, about all functions, if it has none
   std::string list;       // the parameter list of its unit; empty without parameters
 };
 
@@ -36,7 +37,7 @@ struct Group {
   std::vector<const Function *> functions;
 };
 
-// What all functions of a family have in common, said once in the header.
+// What functions have in common, said once.
 struct Note {
   std::string title;
   std::string text;

@@ -104,8 +104,11 @@ class Builder {
   explicit Builder(Api &api) : api_(api), program_(api) {}
 
   void add(const Family &family) {
+    std::vector<std::size_t> notes = {0};
     for (const StatedNote &note : family.notes) {
-      if (!holds(note.where, program_)) continue;
+      const bool is_there = holds(note.where, program_);
+      notes.push_back(is_there ? api_.notes.size() : 0);
+      if (!is_there) continue;
       api_.notes.push_back({filled_in(note.title, program_), filled_in(note.text, program_)});
     }
     for (unsigned part = 0; part < family.parts; ++part) {
@@ -113,6 +116,7 @@ class Builder {
       api_.units.push_back({family.unit + number, family.includes, {}, {}});
       lists_.clear();
       for (const Block &block : family.blocks) {
+        note_ = notes[block.notes];
         add(block, program_, block.group, {part, family.parts});
       }
     }
@@ -178,6 +182,7 @@ class Builder {
           "return " + without_missing(filled_in(stated.statement, scope), function.parameters);
     }
     function.family = stated.family;
+    function.note = note_;
     function.object = scope.owner().name;
     add_name(api_.names, function.name, scope);
     const bool of_object = scope.find<Table>() != nullptr || scope.find<Profile>() != nullptr;
@@ -206,6 +211,7 @@ class Builder {
 
   Api &api_;
   Scope program_;
+  std::size_t note_ = 0;  // of the functions that are added
   std::vector<MadeName> declared_;
   std::map<std::string, std::string> lists_;  // of the unit, by their parameters
 };

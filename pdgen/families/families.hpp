@@ -56,6 +56,7 @@ struct Block {
   StatedText order;               // objects are sorted by it, if there is one
   Where where;
   std::string group;
+  std::size_t notes = 0;             // of the family that stand above it
   bool declares = false;             // C text for the header
   std::vector<StatedText> declared;  // the names in it
   std::string separator;             // of what is written for one object and the next

@@ -109,6 +109,7 @@ class FamilyReader {
         read_unit(text.substr(5), line->place, family);
       } else if (text.starts_with("each ") || text.starts_with("program")) {
         family.blocks.push_back(read_block(program, *line, 2, false));
+        family.blocks.back().notes = family.notes.size();
       } else {
         diagnostics_.report(line->place, "line", "\"{}\" begins no note, unit, each or program",
                             text);

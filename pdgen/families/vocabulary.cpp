@@ -160,17 +160,6 @@ Text param_remark(S s) {
   return remark;
 }
 
-// A literal of several lines, split behind each newline.
-Text quoted_lines(const std::string &text) {
-  std::string out;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t end = std::min(text.find('\n', at), text.size() - 1) + 1;
-    out += "\n      " + c_literal(std::string_view(text).substr(at, end - at));
-    at = end;
-  }
-  return out;
-}
-
 Text digits_at(const ValueText &value) {
   return fmt::format("{}", fmt::join(value.digits_at, ", "));
 }
@@ -254,7 +243,7 @@ const Placeholder kPlaceholders[] = {
     {"table", "value_text", [](S s) { return c_literal(match_spec_value(s.get<Table>()).text); }},
     {"table", "digits_at", [](S s) { return digits_at(match_spec_value(s.get<Table>())); }},
     {"table", "lines",
-     [](S s) { return quoted_lines(match_spec_lines(s.get<Program>(), s.get<Table>())); }},
+     [](S s) { return c_literal_lines(match_spec_lines(s.get<Program>(), s.get<Table>())); }},
     {"field", "name", text<&KeyField::name>},
     {"field", "field", text<&KeyField::width_name>},
     {"field", "companion", companion},
@@ -304,7 +293,7 @@ const Placeholder kPlaceholders[] = {
     {"action", "schema", [](S s) { return c_literal(action_schema(s.get<Action>())); }},
     {"action", "value_text", [](S s) { return c_literal(action_value(s.get<Action>()).text); }},
     {"action", "digits_at", [](S s) { return digits_at(action_value(s.get<Action>())); }},
-    {"action", "lines", [](S s) { return quoted_lines(action_lines(s.get<Action>())); }},
+    {"action", "lines", [](S s) { return c_literal_lines(action_lines(s.get<Action>())); }},
     {"param", "param", text<&Param::name>},
     {"param", "offset", text<&Param::offset>},
     {"param", "record_offset", text<&Param::record_offset>},
@@ -392,6 +381,7 @@ const Placeholder kPlaceholders[] = {
     {"handle", "object", text<&Handle::object>},
     {"note", "title", text<&Note::title>},
     {"note", "text", [](S s) { return fill(words(s.get<Note>().text), 95, " *   "); }},
+    {"note", "text_literal", [](S s) { return c_literal(s.get<Note>().text); }},
     {"group", "title", text<&Group::title>},
     // Without the last newline.
     {"group", "declarations",
@@ -409,6 +399,7 @@ const Placeholder kPlaceholders[] = {
     {"function", "action", text<&Function::action>},
     {"function", "result", text<&Function::result>},
     {"function", "list", text<&Function::list>},
+    {"function", "note_number", text<&Function::note>},
     {"function", "statement", text<&Function::statement>},
     {"function", "declaration", [](S s) { return declaration(s.get<Function>(), 99); }},
     {"function", "declaration_line", [](S s) { return declaration(s.get<Function>()); }},
