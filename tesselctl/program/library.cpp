@@ -19,14 +19,11 @@ class ExportIndex {
  public:
   ExportIndex() {
     size_t count = 0;
-    for (size_t i = 0; i < binding().list_count; ++i) count += binding().lists[i]->count;
+    for_each_export([&](const Export &) { ++count; });
     size_t size = 64;
     while (size < 2 * count) size *= 2;
     slots_.resize(size);
-    for (size_t i = 0; i < binding().list_count; ++i) {
-      const bindings::ExportList &list = *binding().lists[i];
-      for (size_t j = 0; j < list.count; ++j) insert(list.rows[j]);
-    }
+    for_each_export([&](const Export &row) { insert(row); });
   }
 
   const Export *find(std::string_view family, std::string_view object,
@@ -69,13 +66,18 @@ const Export *find_export(std::string_view family, std::string_view object,
   return index.find(family, object, action);
 }
 
-void for_each_export(std::string_view family, const std::function<void(const Export &)> &visit) {
-  for (size_t i = 0; i < binding().list_count; ++i) {
-    const bindings::ExportList &list = *binding().lists[i];
-    for (size_t j = 0; j < list.count; ++j) {
-      if (family == list.rows[j].family) visit(list.rows[j]);
-    }
+std::string function_prefix() { return std::string("p4_pd_") + binding().program + "_"; }
+
+void for_each_export(const std::function<void(const Export &)> &visit) {
+  for (const bindings::ExportList *list : std::span(binding().lists, binding().list_count)) {
+    for (const Export &row : std::span(list->rows, list->count)) visit(row);
   }
+}
+
+void for_each_export(std::string_view family, const std::function<void(const Export &)> &visit) {
+  for_each_export([&](const Export &row) {
+    if (family == row.family) visit(row);
+  });
 }
 
 std::span<const bindings::Record> tables() { return binding().tables.list(); }

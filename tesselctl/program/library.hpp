@@ -34,7 +34,11 @@ inline bool is_name(const char *name, std::string_view text) {
 const bindings::Export *find_export(std::string_view family, std::string_view object,
                                     std::string_view action = {});
 
-// All exports of a family, in the order of the header.
+// What the names of all functions begin with.
+std::string function_prefix();
+
+// All exports, or those of a family, in the order of the header.
+void for_each_export(const std::function<void(const bindings::Export &)> &visit);
 void for_each_export(std::string_view family,
                      const std::function<void(const bindings::Export &)> &visit);
 

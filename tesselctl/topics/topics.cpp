@@ -16,7 +16,7 @@ extern const Topic kMeterTopic, kWredTopic, kCounterTopic, kRegisterTopic, kHash
 extern const Topic kTrafficTopic, kExplainTopic, kDigestTopic, kSnapshotTopic, kAgeingTopic,
     kStateTopic;
 extern const Topic kImageTopic, kCompareTopic, kLintTopic, kRoutesTopic, kAclTopic, kObjectsTopic,
-    kIntrospectionTopic, kReportTopic;
+    kIntrospectionTopic, kApiTopic, kReportTopic;
 extern const Topic kHistoryTopic, kToolTopic, kMonitorTopic, kHelpTopic;
 
 std::span<const Topic *const> command_topics() {
@@ -26,7 +26,8 @@ std::span<const Topic *const> command_topics() {
       &kHashTopic,     &kValueSetTopic, &kTrafficTopic, &kExplainTopic, &kDigestTopic,
       &kSnapshotTopic, &kAgeingTopic,   &kStateTopic,   &kImageTopic,   &kCompareTopic,
       &kLintTopic,     &kRoutesTopic,   &kAclTopic,     &kObjectsTopic, &kIntrospectionTopic,
-      &kReportTopic,   &kHistoryTopic,  &kToolTopic,    &kMonitorTopic, &kHelpTopic,
+      &kApiTopic,      &kReportTopic,   &kHistoryTopic, &kToolTopic,    &kMonitorTopic,
+      &kHelpTopic,
   };
   return kTopics;
 }

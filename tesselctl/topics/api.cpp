@@ -1,0 +1,151 @@
+// The functions of the library: which there are, how they are declared and called.
+#include <fmt/format.h>
+
+#include "tesselctl/command/topic.hpp"
+#include "tesselctl/program/c_call.hpp"
+
+namespace tesselctl {
+
+namespace {
+
+using bindings::Export;
+using bindings::Note;
+
+constexpr size_t kLineWidth = 100;
+
+const Note &note_of(const Export &function) { return binding().notes[function.note]; }
+
+// Without what the names of all functions begin with.
+std::string_view short_name(const Export &function) {
+  return std::string_view(function.name).substr(function_prefix().size());
+}
+
+bool belongs_to(const Export &function, std::string_view name) {
+  return name == function.family || name == function.object || name == function.action;
+}
+
+// The text in lines, between words.
+std::string wrapped_text(std::string_view text) {
+  std::string lines;
+  size_t column = 0;
+  while (!text.empty()) {
+    const std::string_view word = take_until(text, ' ');
+    const bool fits = column + 1 + word.size() <= kLineWidth;
+    if (column != 0) lines += fits ? " " : "\n";
+    column = (fits && column != 0 ? column + 1 : 0) + word.size();
+    lines += word;
+  }
+  return lines;
+}
+
+// ---- One function ----
+
+void print_function(Context &context, const Export &function) {
+  const Note &note = note_of(function);
+  const std::string declared = wrapped_code(prototype(function) + ";", kLineWidth);
+  std::string example = wrapped_code(example_call(function), kLineWidth);
+  example.pop_back();  // the end of the line that it is printed as
+  Row row;
+  row.object("function", function.name).choice("family", function.family);
+  if (*function.object != '\0') row.choice("object", function.object);
+  if (*function.action != '\0') row.choice("action", function.action);
+  row.text("topic", note.title).text("note", note.text);
+  row.text("prototype", declared).text("example", example);
+  context.results.row(
+      row, fmt::format("{}\n{}\n{}\n\n{}", declared, note.title, wrapped_text(note.text), example));
+}
+
+// ---- Lists ----
+
+Row listed(const Export &function) {
+  return Row()
+      .object("function", function.name)
+      .choice("family", function.family)
+      .choice("topic", note_of(function).title);
+}
+
+struct Family {
+  const Export *first;
+  uint64_t functions;
+};
+
+// In the order of the header.
+std::vector<Family> families() {
+  std::vector<Family> families;
+  std::map<std::string_view, size_t> places;
+  for_each_export([&](const Export &function) {
+    const auto [place, is_new] = places.try_emplace(function.family, families.size());
+    if (is_new) families.push_back({&function, 0});
+    ++families[place->second].functions;
+  });
+  return families;
+}
+
+void list_families(Context &context) {
+  for (const auto &[first, functions] : families()) {
+    context.results.row(Row()
+                            .object("family", first->family)
+                            .number("functions", functions)
+                            .choice("topic", note_of(*first).title)
+                            .text("first", first->name));
+  }
+}
+
+[[noreturn]] void throw_unknown_name(Word word, std::string_view name) {
+  common::Nearest near(name);
+  for_each_export([&](const Export &function) {
+    for (const std::string_view known : {short_name(function), std::string_view(function.family),
+                                         std::string_view(function.object)}) {
+      near.consider(known);
+    }
+  });
+  throw Fault(word, "no function, family or object has this name", near.name());
+}
+
+void print_api(Context &context, const Invocation &invocation) {
+  refuse_arguments_from(invocation, 1);
+  if (invocation.arguments.empty()) return list_families(context);
+  const Word word = invocation.arguments[0];
+  const std::string prefix = function_prefix();
+  const std::string_view name = word.from(word.text.starts_with(prefix) ? prefix.size() : 0).text;
+  const Export *named = nullptr;
+  std::vector<const Export *> members;
+  for_each_export([&](const Export &function) {
+    if (name == short_name(function)) named = &function;
+    if (belongs_to(function, word.text)) members.push_back(&function);
+  });
+  if (named != nullptr) return print_function(context, *named);
+  for (const Export *function : members) context.results.row(listed(*function));
+  if (members.empty()) throw_unknown_name(word, name);
+}
+
+// ---- Completion ----
+
+// A name is offered once it has a first letter: there are thousands.
+void offer_functions(Offers &offers, const Context &, const Command &, Words) {
+  if (offers.typed().empty()) return offers.hint("a function, with or without its prefix");
+  const bool whole = offers.typed().starts_with("p4");
+  for_each_export([&](const Export &function) {
+    offers.offer(whole ? function.name : short_name(function), note_of(function).title);
+  });
+}
+
+void offer_families(Offers &offers, const Context &, const Command &, Words) {
+  for (const Family &family : families()) {
+    offers.offer(family.first->family, note_of(*family.first).title);
+  }
+}
+
+constexpr ObjectWord kWords[] = {{"FUNCTION", offer_functions}, {"FAMILY", offer_families}};
+
+constexpr Command kCommands[] = {
+    {"api", "[FUNCTION|FAMILY|TABLE|ACTION|PROFILE|COUNTER|METER|REGISTER|HASH|SET|DIGEST]",
+     "explains a function of the library with an example, or lists those of a name, or families",
+     print_api, Kind::lists},
+};
+
+}  // namespace
+
+extern const Topic kApiTopic = {"Names and shapes", kCommands, kWords};
+
+}  // namespace tesselctl
