@@ -102,6 +102,10 @@ FieldValue parse_prefix(const Field &field, Word text, size_t slash) {
   }
   const FieldValue parsed = {value, prefix_mask(static_cast<unsigned>(length->low), field.width)};
   if ((value & ~parsed.mask).is_zero()) return parsed;
+  if (field.notation == Notation::protocol || field.notation == Notation::service) {
+    throw Fault(text, "the value has bits behind its prefix",
+                std::string(text.text.substr(0, slash)));
+  }
   const bool is_short = field.notation == Notation::ipv4 && !has(text.text, '.');
   const auto meant =
       is_short ? parse_ipv4(completed_ipv4(text.text.substr(0, slash))) : std::nullopt;

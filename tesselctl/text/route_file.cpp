@@ -12,6 +12,8 @@ namespace tesselctl {
 
 namespace {
 
+constexpr const char *kBitsBehind = "the address has bits behind its prefix";
+
 // A cursor over one line.
 struct Cursor {
   const char *at;
@@ -59,17 +61,15 @@ class RouteParser {
         memchr(cursor.at, ':', static_cast<size_t>(cursor.end - cursor.at)) != nullptr;
     const char *problem = is_ipv6 ? parse_ipv6_prefix(cursor, route6, length)
                                   : parse_ipv4_prefix(cursor, route4, length);
-    uint32_t nexthop = default_nexthop_;
-    if (problem == nullptr && !cursor.done()) {
-      if (!cursor.number(nexthop)) problem = "this is not a next hop";
-      if (nexthop > limit_) problem = "the next hop is too large";
-      if (problem == nullptr && !cursor.done()) problem = "nothing should stand here";
-    }
-    if (problem != nullptr) {
-      std::string message = problem;
+    std::string suggestion;
+    if (problem != nullptr && !is_ipv6) {
       const std::string_view prefix = trimmed(text);
-      if (!is_ipv6) message += suggestion_for(prefix.substr(0, prefix.find_first_of(" \t#")));
-      return RouteFault{line, static_cast<size_t>(cursor.at - begin) + 1, message};
+      suggestion = suggestion_for(prefix.substr(0, prefix.find_first_of(" \t#")));
+    }
+    uint32_t nexthop = default_nexthop_;
+    if (problem == nullptr && !cursor.done()) problem = parse_nexthop(cursor, nexthop, suggestion);
+    if (problem != nullptr) {
+      return RouteFault{line, static_cast<size_t>(cursor.at - begin) + 1, problem + suggestion};
     }
     if (is_ipv6) {
       route6.length = static_cast<uint8_t>(length);
@@ -86,7 +86,7 @@ class RouteParser {
   }
 
  private:
-  // Of a network whose address is not whole.
+  // Of a network whose address is not whole, or has bits behind its prefix.
   static std::string suggestion_for(std::string_view prefix) {
     const size_t slash = std::min(prefix.find('/'), prefix.size());
     const std::string address = completed_ipv4(prefix.substr(0, slash));
@@ -94,8 +94,21 @@ class RouteParser {
     Cursor cursor{meant.data(), meant.data() + meant.size()};
     Ipv4Route route;
     uint32_t length = 0;
-    const bool would_do = parse_ipv4_prefix(cursor, route, length) == nullptr && cursor.done();
-    return would_do ? "; did you mean '" + meant + "'?" : "";
+    const char *const problem = parse_ipv4_prefix(cursor, route, length);
+    if (!cursor.done() || (problem != nullptr && problem != kBitsBehind)) return {};
+    const auto mask = static_cast<uint32_t>(~uint64_t{0} << (32 - length));
+    return fmt::format("; did you mean '{}/{}'?", ipv4_text(route.address & mask), length);
+  }
+
+  const char *parse_nexthop(Cursor &cursor, uint32_t &nexthop, std::string &suggestion) const {
+    const char *const begin = cursor.at;
+    if (!cursor.number(nexthop)) return "this is not a next hop";
+    if (nexthop > limit_) {
+      cursor.at = begin;
+      suggestion = fmt::format("; it is at most {}", limit_);
+      return "the next hop is too large";
+    }
+    return cursor.done() ? nullptr : "nothing should stand here";
   }
 
   // The problem, with the cursor where it is, or null with the cursor behind the prefix.
@@ -109,9 +122,8 @@ class RouteParser {
     }
     if (!cursor.take('/')) return "there should be a '/' and a prefix length";
     if (!cursor.number(length) || length > 32) return "this is not a prefix length";
-    if (length < 32 && (address << length) != 0) return "the address has bits behind its prefix";
     route.address = address;
-    return nullptr;
+    return length < 32 && (address << length) != 0 ? kBitsBehind : nullptr;
   }
 
   static const char *parse_ipv6_prefix(Cursor &cursor, Ipv6Route &route, uint32_t &length) {
@@ -125,7 +137,7 @@ class RouteParser {
     if (!cursor.take('/')) return "there should be a '/' and a prefix length";
     if (!cursor.number(length) || length > 128) return "this is not a prefix length";
     if (!(*address & ~prefix_mask(length, 128)).is_zero()) {
-      return "the address has bits behind its prefix";
+      return kBitsBehind;
     }
     route.address = to_bytes(*address);
     return nullptr;
