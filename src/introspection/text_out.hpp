@@ -26,12 +26,16 @@ struct HexPairs {
 inline constexpr HexPairs lower_pairs("0123456789abcdef");
 inline constexpr HexPairs upper_pairs("0123456789ABCDEF");
 
+#ifdef __SSE2__
 typedef char TextChunk __attribute__((vector_size(16), aligned(1), may_alias));
+#else
+typedef uint32_t TextChunk __attribute__((aligned(1), may_alias));
+#endif
 
 template <size_t... I>
 inline void copy_chunks(char *out, const char *text, std::index_sequence<I...>) {
-  ((*reinterpret_cast<TextChunk *>(out + 16 * I) =
-        *reinterpret_cast<const TextChunk *>(text + 16 * I)),
+  ((*reinterpret_cast<TextChunk *>(out + sizeof(TextChunk) * I) =
+        *reinterpret_cast<const TextChunk *>(text + sizeof(TextChunk) * I)),
    ...);
 }
 
@@ -42,9 +46,10 @@ inline void copy_chunks(char *out, const char *text, std::index_sequence<I...>) 
 template <size_t Size>
 inline void copy_text(char *out, const char (&text)[Size]) {
   if constexpr (Size <= 1024) {
-    constexpr size_t chunks = Size / 16;
-    detail::copy_chunks(out, text, std::make_index_sequence<chunks>{});
-    __builtin_memcpy(out + 16 * chunks, text + 16 * chunks, Size % 16);
+    constexpr size_t whole = Size / sizeof(detail::TextChunk);
+    constexpr size_t bytes = whole * sizeof(detail::TextChunk);
+    detail::copy_chunks(out, text, std::make_index_sequence<whole>{});
+    __builtin_memcpy(out + bytes, text + bytes, Size - bytes);
   } else {
     __builtin_memcpy(out, text, Size);
   }
@@ -52,7 +57,7 @@ inline void copy_text(char *out, const char (&text)[Size]) {
 
 // Exactly Count lower-case digits; value has no more.
 template <unsigned Count>
-inline void put_digits(char *out, uint32_t value) {
+PD_INLINE void put_digits(char *out, uint32_t value) {
   if constexpr (Count % 2 == 1) {
     *out = detail::lower_pairs.text[2 * (value >> 4 * (Count - 1)) + 1];
     if constexpr (Count > 1) put_digits<Count - 1>(out + 1, value);

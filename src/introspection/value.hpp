@@ -17,7 +17,7 @@ using ValueWriter = char *(*)(const void *record, char *out);
 namespace detail {
 
 template <RecordMember M>
-inline void put_member(const uint8_t *record, char *out) {
+PD_INLINE void put_member(const uint8_t *record, char *out) {
   if constexpr (M.storage == 16) {
     put_wide_digits(out, record + M.offset);
   } else {

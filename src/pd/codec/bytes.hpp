@@ -82,11 +82,15 @@ constexpr uint32_t low_ones(unsigned bits) { return 0xffffffffu >> (32 - bits); 
 
 namespace detail {
 
+#ifdef __SSE2__
 typedef uint32_t Chunk __attribute__((vector_size(16), aligned(4), may_alias));
+#else
+typedef uint32_t Chunk __attribute__((may_alias));
+#endif
 
 template <size_t... I>
 PD_INLINE void clear_chunks(uint8_t *bytes, std::index_sequence<I...>) {
-  ((*reinterpret_cast<Chunk *>(bytes + 16 * I) = Chunk{}), ...);
+  ((*reinterpret_cast<Chunk *>(bytes + sizeof(Chunk) * I) = Chunk{}), ...);
 }
 
 template <size_t... I>
@@ -95,17 +99,39 @@ PD_INLINE void clear_words(uint8_t *bytes, std::index_sequence<I...>) {
   ((*reinterpret_cast<Word *>(bytes + 4 * I) = 0), ...);
 }
 
+template <class Record>
+PD_INLINE void clear_here(Record &record) {
+  static_assert(sizeof(Record) % 4 == 0 && alignof(Record) >= 4);
+  auto *bytes = reinterpret_cast<uint8_t *>(&record);
+  constexpr size_t chunks = sizeof(Record) / sizeof(Chunk);
+  constexpr size_t words = sizeof(Record) % sizeof(Chunk) / 4;
+  clear_chunks(bytes, std::make_index_sequence<chunks>{});
+  clear_words(bytes + sizeof(Chunk) * chunks, std::make_index_sequence<words>{});
+}
+
+#ifdef __i386__
+#define PD_IN_REGISTER gnu::regparm(1)
+#else
+#define PD_IN_REGISTER
+#endif
+
+template <class Record>
+[[gnu::noinline, PD_IN_REGISTER]] void clear_there(Record &record) {
+  clear_here(record);
+}
+
 }  // namespace detail
 
 // Zeroes a record with straight-line stores. Compilers turn a plain clear of a record of 300 bytes
-// into a string instruction that costs three times as much as encoding a key.
+// into a string instruction that costs three times as much as encoding a key. Where these are many
+// stores, as there are no vectors, callers share them.
 template <class Record>
 PD_INLINE void clear(Record &record) {
-  static_assert(sizeof(Record) % 4 == 0 && alignof(Record) >= 4);
-  auto *bytes = reinterpret_cast<uint8_t *>(&record);
-  constexpr size_t chunks = sizeof(Record) / 16;
-  detail::clear_chunks(bytes, std::make_index_sequence<chunks>{});
-  detail::clear_words(bytes + 16 * chunks, std::make_index_sequence<sizeof(Record) % 16 / 4>{});
+  if constexpr (sizeof(Record) > 32 * sizeof(detail::Chunk)) {
+    detail::clear_there(record);
+  } else {
+    detail::clear_here(record);
+  }
 }
 
 }  // namespace pd

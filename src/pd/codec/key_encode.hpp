@@ -52,7 +52,7 @@ PD_INLINE void encode_exact_among_ternary(const uint8_t *record, uint8_t *value,
 }
 
 // The 64 bits from bit first on of a mask that starts with length ones.
-constexpr uint64_t prefix_word(unsigned length, unsigned first) {
+PD_INLINE constexpr uint64_t prefix_word(unsigned length, unsigned first) {
   if (length >= first + 64) return ~uint64_t{0};
   return length <= first ? 0 : ~(~uint64_t{0} >> (length - first));
 }
