@@ -5,6 +5,7 @@
 #include <unordered_map>
 
 #include "common/nearest.hpp"
+#include "tesselctl/program/export_index.hpp"
 
 namespace tesselctl {
 
@@ -13,41 +14,6 @@ namespace {
 using bindings::Export;
 
 const bindings::Binding *used = nullptr;
-
-// Exports by family, object and action: open addressing at half load.
-class ExportIndex {
- public:
-  ExportIndex() {
-    size_t count = 0;
-    for_each_export([&](const Export &) { ++count; });
-    size_t size = 64;
-    while (size < 2 * count) size *= 2;
-    slots_.resize(size);
-    for_each_export([&](const Export &row) { insert(row); });
-  }
-
-  const Export *find(std::string_view family, std::string_view object,
-                     std::string_view action) const {
-    for (size_t at = hash(family, object, action);; ++at) {
-      const Export *row = slots_[at & (slots_.size() - 1)];
-      if (row == nullptr) return nullptr;
-      if (family == row->family && object == row->object && action == row->action) return row;
-    }
-  }
-
- private:
-  static size_t hash(std::string_view family, std::string_view object, std::string_view action) {
-    const std::hash<std::string_view> of;
-    return of(family) * 31 + of(object) * 7 + of(action);
-  }
-  void insert(const Export &row) {
-    size_t at = hash(row.family, row.object, row.action);
-    while (slots_[at & (slots_.size() - 1)] != nullptr) ++at;
-    slots_[at & (slots_.size() - 1)] = &row;
-  }
-
-  std::vector<const Export *> slots_;
-};
 
 }  // namespace
 
@@ -62,7 +28,7 @@ void use_program(const bindings::Binding &binding) { used = &binding; }
 
 const Export *find_export(std::string_view family, std::string_view object,
                           std::string_view action) {
-  static const ExportIndex index;
+  static const ExportIndex index(binding());
   return index.find(family, object, action);
 }
 

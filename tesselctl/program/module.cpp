@@ -89,6 +89,8 @@ fs::path path_of(const ProgramChoice &choice) {
   }
 }
 
+}  // namespace
+
 const bindings::Binding &open_module(const fs::path &path) {
   // A name without a folder would be looked for where libraries are. Thousands of functions are
   // looked up as they are called, for a quick start.
@@ -103,8 +105,6 @@ const bindings::Binding &open_module(const fs::path &path) {
               " was built with another version of the generator than this tool: build the program "
               "again");
 }
-
-}  // namespace
 
 fs::path module_folder() {
   std::error_code none;

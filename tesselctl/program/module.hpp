@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "bindings/export_table.hpp"
 #include "tesselctl/text/fault.hpp"
 
 namespace tesselctl {
@@ -14,6 +15,9 @@ std::filesystem::path module_folder();
 
 // Of the modules that are installed, in order.
 std::vector<std::string> program_names();
+
+// The binding of a module, which stays loaded. Throws Fault.
+const bindings::Binding &open_module(const std::filesystem::path &path);
 
 struct ProgramChoice {
   Word name = {};          // of a program, or of a file ending in .so; empty when nobody names one

@@ -15,10 +15,14 @@ constexpr uint64_t kMostRecords = 65536;
 
 }  // namespace
 
-const Field &RecordWriter::take_field(Word name) {
-  const Field &field = find_field(*record_, name, what_);
+void RecordWriter::give(const Field &field, Word name) {
   if (is_given(field)) throw Fault(name, fmt::format("{} is given twice", field.label));
   for (size_t i = 0; i < field.part_count(); ++i) given_[place_of(field.parts[i])] = true;
+}
+
+const Field &RecordWriter::take_field(Word name) {
+  const Field &field = find_field(*record_, name, what_);
+  give(field, name);
   return field;
 }
 

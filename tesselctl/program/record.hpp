@@ -24,6 +24,11 @@ class RecordWriter {
   const bindings::Record &record() const { return *record_; }
   // Throws Fault: unknown name, value that does not fit, field given before.
   void set(const Assignment &word);
+  // Counts a field as given. Throws Fault at its name if it is already.
+  void give(const Field &field, Word name);
+  void store(const Field &field, const FieldValue &value) {
+    store_value(field, value, bytes_.data());
+  }
   // The same, but LOW..HIGH is several values, so that there are several records.
   void set_values(const Assignment &word);
   // Gives a field other values.
@@ -47,9 +52,6 @@ class RecordWriter {
 
   // The field that the name means, if it is not given yet.
   const Field &take_field(Word name);
-  void store(const Field &field, const FieldValue &value) {
-    store_value(field, value, bytes_.data());
-  }
 
   struct Spread {
     const Field *field;
