@@ -26,6 +26,7 @@ function(pd_install_package name template version)
   set(needed_packages ${ARGN})
   set(PD_SHARE ${CMAKE_INSTALL_DATADIR}/pdgen)
   get_property(PD_GENERATED GLOBAL PROPERTY PD_GENERATED)
+  get_property(PD_PYTHON_DIR GLOBAL PROPERTY PD_PYTHON_DIR)
   install(EXPORT ${name}_targets NAMESPACE ${name}:: DESTINATION ${folder})
   configure_package_config_file(${CMAKE_CURRENT_FUNCTION_LIST_DIR}/${template}
     ${CMAKE_CURRENT_BINARY_DIR}/${name}Config.cmake

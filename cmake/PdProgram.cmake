@@ -5,7 +5,8 @@
 # and, where there is a soft SDK,
 #   soft_program_<program>  libsoft_program_<program>.so, its description for that: one constant
 #   pd_<program>_binding    its exports as data (bindings/export_table.hpp), and that description
-#   pd_<program>_module     <program>.so, the same as tesselctl loads it
+#   pd_<program>_module     <program>.so, the same as tesselctl and Python load it
+# and the Python package <program>, where the package pd is.
 # The library compiles against the header p4_pd_<program>.h in HEADER_DIR, which pdgen writes with
 # --header (scripts/generate); where there is none, it is made in the build folder.
 # VERSION (1.0.0) and SONAME (its first number) are the library's. All is installed unless NO_INSTALL
@@ -195,6 +196,12 @@ macro(pd_install_program)
     install(EXPORT ${program}_soft_sdk_targets NAMESPACE ${program}::
       DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/${program})
     install(TARGETS pd_${program}_module LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/tesselctl)
+    get_property(python_dir GLOBAL PROPERTY PD_PYTHON_DIR)
+    if(python_dir)
+      set(package ${generated})
+      list(FILTER package INCLUDE REGEX "\\.pyi?$|/py\\.typed$")
+      install(FILES ${package} DESTINATION ${python_dir}/${program})
+    endif()
   endif()
   install(TARGETS pd_${program} EXPORT ${program}_targets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})

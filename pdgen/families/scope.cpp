@@ -75,6 +75,18 @@ std::vector<Scope> each_initial(S scope) {
   return {initial};
 }
 
+// The fields that tools show of the record of that name in a list of records.
+template <typename Row>
+std::vector<Scope> each_shown_field(S scope, std::string_view list) {
+  const ToolRecords *records = find_row(scope.get<Program>().tool_records, list);
+  const ToolRecord *record =
+      records == nullptr ? nullptr : find_row(records->records, scope.get<Row>().name);
+  if (record == nullptr) return {};
+  std::vector<Scope> scopes = each_row(scope, record->fields);
+  scopes.resize(record->shown, scope);
+  return scopes;
+}
+
 constexpr auto each_pair = each_with<&Table::pairs, &Pair::action>;
 constexpr auto each_label = each_with<&Program::labels, &Label::table>;
 
@@ -104,6 +116,11 @@ const Walk kWalks[] = {
     {"initial", "initial_cell", "resource item initial_cell",
      each_with<&DefaultEntry::cells, &ResourceItem::resource>},
     {"table", "field", "field", each<&Table::key>},
+    {"table", "shown_field", "tool_field", [](S s) { return each_shown_field<Table>(s, "table"); }},
+    {"action", "parameter_field", "tool_field",
+     [](S s) { return each_shown_field<Action>(s, "action"); }},
+    {"digest", "entry_field", "tool_field",
+     [](S s) { return each_shown_field<Digest>(s, "digest"); }},
     {"table", "record_field", "record_field", each<&Table::record>},
     {"pair", "item", "resource item", each_with<&Pair::items, &ResourceItem::resource>},
     {"profile", "member", "action member", each_with<&Profile::actions, &ProfileAction::action>},

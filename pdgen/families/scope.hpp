@@ -69,6 +69,9 @@ const Walk *find_walk(const Kinds &kinds, std::string_view name);
 Kinds kinds_within(Kinds kinds, const Walk &walk);
 std::function<std::string(const Scope &)> find_placeholder(const Kinds &kinds,
                                                            std::string_view name);
+// Those of the Python package alone (vocabulary_python.cpp).
+std::function<std::string(const Scope &)> find_python_placeholder(const Kinds &kinds,
+                                                                  std::string_view name);
 std::function<bool(const Scope &)> find_condition(const Kinds &kinds, std::string_view name);
 
 }  // namespace pdgen

@@ -446,6 +446,7 @@ const Condition kConditions[] = {
        return item.kind == LabelKind::kFlag || !item.texts.empty();
      }},
     {"tool_member", "is_bytes", flag<&ToolMember::is_bytes>},
+    {"tool_field", "optional", [](S s) { return s.get<ToolField>().match == Match::kTernary; }},
     {"group", "declarations", [](S s) { return !s.get<Group>().declarations.empty(); }},
     {"function", "statement", [](S s) { return !s.get<Function>().statement.empty(); }},
 };
@@ -480,6 +481,7 @@ std::function<Text(S)> find_placeholder(const Kinds &kinds, std::string_view nam
   if (const auto holds = find_condition(kinds, name)) {
     return [holds](S scope) { return Text(holds(scope) ? "true" : "false"); };
   }
+  if (const auto python = find_python_placeholder(kinds, name)) return python;
   constexpr std::string_view kCount = "_count";
   if (!name.ends_with(kCount)) return nullptr;
   const Walk *walk = find_walk(kinds, name.substr(0, name.size() - kCount.size()));

@@ -1,0 +1,527 @@
+#include "python/core/table.hpp"
+
+#include <fmt/format.h>
+
+#include <cstring>
+#include <map>
+
+#include "common/nearest.hpp"
+#include "python/core/status.hpp"
+#include "python/core/structure.hpp"
+#include "tesselctl/device/table_info.hpp"
+#include "tesselctl/program/library.hpp"
+
+namespace python {
+
+namespace {
+
+PyTypeObject *table_type = nullptr;
+PyTypeObject *entry_type = nullptr;
+
+constexpr const char *kSlotNames[] = {
+    "session",     "target",     "device", "match_spec", "priority", "action_spec",
+    "ttl",         "meter_spec", "entry",  "member",     "group",    "read_from_hardware",
+    "action_name", "action",     "no_key", "has_member", "has_group"};
+
+// Keywords of calls that are no fields; a field of that name is written with a '_' behind it.
+enum Option : uint8_t { kPriority, kTtl, kMeter, kEntry, kKey, kFromHardware, kOptions };
+constexpr const char *kOptionNames[] = {"priority", "ttl", "meter",
+                                        "entry",    "key", "from_hardware"};
+PyObject *option_names[kOptions] = {};
+
+// The option that a keyword is, or kOptions.
+size_t option_of(PyObject *name) {
+  for (size_t i = 0; i < kOptions; ++i) {
+    if (option_names[i] == name) return i;
+  }
+  for (size_t i = 0; i < kOptions; ++i) {
+    if (PyUnicode_CompareWithASCIIString(name, kOptionNames[i]) == 0) return i;
+  }
+  return kOptions;
+}
+
+// The arguments of a call about an entry.
+class EntryArguments {
+ public:
+  EntryArguments(TableObject &table, const char *method, PyObject *const *values, Py_ssize_t count,
+                 PyObject *names, std::initializer_list<Option> taken)
+      : table_(table), method_(method), filler_(table.kind->key()) {
+    for (const Option option : taken) taken_ |= 1u << option;
+    const Py_ssize_t named = names == nullptr ? 0 : PyTuple_Size(names);
+    for (Py_ssize_t i = 0; i < named; ++i) read(PyTuple_GetItem(names, i), values[count + i]);
+  }
+
+  const std::optional<uint32_t> &entry() const { return entry_; }
+  bool from_hardware() const { return from_hardware_; }
+  bool has_key() const { return key_ != nullptr || filler_.any_given(); }
+
+  // The whole key.
+  const uint8_t *key() {
+    if (key_ != nullptr && !filler_.any_given()) return key_;
+    if (key_ != nullptr) raise(PyExc_TypeError, context() + ": give key= or fields, not both");
+    if (!table_.kind->keyed()) {
+      raise(PyExc_TypeError, context() + ": the table has no key, so it has a default entry alone");
+    }
+    filler_.finish();
+    return filler_.data();
+  }
+  // What packets carry of it: priority and masks do not matter.
+  const uint8_t *fields() {
+    filler_.finish();
+    return key_ != nullptr ? key_ : filler_.data();
+  }
+  void fill_key(PlannedCall &call) {
+    call.set(Slot::match_spec, key());
+    if (table_.kind->ternary() && !priority_) {
+      raise(PyExc_TypeError, context() + " of a ternary table needs priority=");
+    }
+    call.set(Slot::priority, priority_.value_or(0));
+  }
+  void fill_rest(PlannedCall &call) {
+    call.set(Slot::ttl, ttl_);
+    call.set(Slot::meter_spec, meter_ ? &*meter_ : nullptr);
+  }
+  std::string context() const { return fmt::format("{}.{}", table_.kind->name(), method_); }
+
+ private:
+  void read(PyObject *name, PyObject *value) {
+    const size_t option = option_of(name);
+    if (option == kOptions) return filler_.set(name, value);
+    if ((taken_ >> option & 1) == 0) {
+      raise(PyExc_TypeError, fmt::format("{} takes no {}=", context(), kOptionNames[option]));
+    }
+    read_option(static_cast<Option>(option), value);
+  }
+  void read_option(Option option, PyObject *value) {
+    const TableKind &kind = *table_.kind;
+    if (option == kPriority) {
+      if (!kind.ternary()) raise(PyExc_TypeError, context() + ": the table has no priorities");
+      priority_ = static_cast<uint32_t>(unsigned_of(value, 4, "priority"));
+    } else if (option == kTtl) {
+      if (!kind.description().ages_entries) {
+        raise(PyExc_TypeError, context() + ": the table does not age its entries, so no ttl=");
+      }
+      ttl_ = static_cast<uint32_t>(unsigned_of(value, 4, "ttl"));
+    } else if (option == kMeter) {
+      if (value != Py_None) meter_ = read_meter(value);
+    } else if (option == kEntry) {
+      entry_ = read_handle(value, "entry");
+    } else if (option == kKey) {
+      const RecordObject *record = as_record(value, kind.key());
+      if (record == nullptr) raise(PyExc_TypeError, "key is a " + kind.key().type_name);
+      key_ = record->bytes;
+    } else {
+      const int truth = PyObject_IsTrue(value);
+      check(truth);
+      from_hardware_ = truth != 0;
+    }
+  }
+
+  TableObject &table_;
+  const char *method_;
+  unsigned taken_ = 0;
+  RecordFiller filler_;
+  const uint8_t *key_ = nullptr;
+  std::optional<uint32_t> priority_, entry_;
+  uint32_t ttl_ = 0;
+  std::optional<p4_pd_bytes_meter_spec_t> meter_;
+  bool from_hardware_ = false;
+};
+
+PyObject *only(PyObject *const *arguments, Py_ssize_t count, const std::string &context,
+               const char *what) {
+  if (count == 1) return arguments[0];
+  raise(PyExc_TypeError, fmt::format("{} takes {} and then keyword arguments, not {} of them",
+                                     context, what, count));
+}
+
+void set_outcome(PlannedCall &call, const Outcome &outcome) {
+  call.set(Slot::action_spec, outcome.parameters);
+  if (outcome.kind != Slot::action) call.set(outcome.kind, outcome.handle);
+}
+
+const char *family_of(const Outcome &outcome, const char *direct, const char *member,
+                      const char *group) {
+  if (outcome.kind == Slot::action) return direct;
+  return outcome.kind == Slot::member ? member : group;
+}
+
+}  // namespace
+
+// ---- Kinds of tables ----
+
+CallPlan::CallPlan(const bindings::Export *exported) : target(exported) {
+  std::fill(std::begin(places), std::end(places), static_cast<int8_t>(-1));
+  for (size_t i = 0; exported != nullptr && i < exported->parameter_count; ++i) {
+    for (size_t slot = 0; slot < std::size(kSlotNames); ++slot) {
+      if (std::string_view(kSlotNames[slot]) == exported->parameters[i].name) {
+        places[slot] = static_cast<int8_t>(i);
+      }
+    }
+  }
+}
+
+const CallPlan &TableKind::plan(const char *family, const Outcome *outcome) {
+  const void *action = outcome == nullptr ? nullptr : outcome->action;
+  auto &plans = plans_[action];
+  const auto found = plans.find(family);
+  if (found != plans.end()) return found->second;
+  const std::string_view of = action == nullptr ? "" : outcome->action->record->name;
+  const CallPlan made(program_.find(family, name(), of));
+  if (made.target == nullptr && action != nullptr) {
+    raise(PyExc_TypeError,
+          fmt::format("entries of {} cannot have the action {} that way", name(), of));
+  }
+  if (made.target == nullptr) {
+    raise(PyExc_TypeError, fmt::format("{} has no function for this", name()));
+  }
+  return plans.emplace(family, made).first->second;
+}
+
+void TableKind::refuse_outcome(PyObject *object) {
+  std::string wanted = "a member or a group of its profile";
+  if (!indirect()) {
+    wanted = "one of its actions:";
+    for (const soft_action_t &action : std::span(description_.actions, description_.action_count)) {
+      wanted += std::string(wanted.ends_with(':') ? " " : ", ") + action.name;
+    }
+  }
+  const RecordObject *record = as_record(object);
+  raise(PyExc_TypeError, fmt::format("{} takes {}; not {}", name(), wanted,
+                                     record != nullptr ? record->kind->what : type_name(object)));
+}
+
+Outcome TableKind::outcome_of(PyObject *object) {
+  if (const RecordObject *record = as_record(object); record != nullptr && !indirect()) {
+    for (const soft_action_t &action : std::span(description_.actions, description_.action_count)) {
+      if (record->kind->what == action.name) return {record->kind, record->bytes};
+    }
+  }
+  if (!indirect()) refuse_outcome(object);
+  PyObject *found = PyObject_GetAttrString(object, "_outcome");
+  if (found == nullptr) {
+    PyErr_Clear();
+    refuse_outcome(object);
+  }
+  const Ref kind(found);
+  Outcome outcome;
+  outcome.kind = text_of(kind.get()) == "group" ? Slot::group : Slot::member;
+  outcome.handle = read_handle(object, "outcome");
+  return outcome;
+}
+
+const RecordKind *TableKind::action_of_type(PyObject *type) {
+  for (const soft_action_t &action : std::span(description_.actions, description_.action_count)) {
+    const RecordKind &kind = program_.action(action.name);
+    if (reinterpret_cast<PyObject *>(kind.type) == type) return &kind;
+  }
+  return nullptr;
+}
+
+p4_pd_bytes_meter_spec_t read_meter(PyObject *object) {
+  p4_pd_bytes_meter_spec_t spec = {};
+  Ref whole = Ref::borrowed(object);
+  if (PySequence_Check(object) != 0 && PySequence_Size(object) == 4) {
+    const Ref type(Py_BuildValue("[i]", PD_METER_TYPE_COLOR_UNAWARE));
+    whole = Ref(PySequence_Concat(Ref(PySequence_List(object)).get(), type.get()));
+  }
+  to_structure(*find_structure("p4_pd_bytes_meter_spec_t"), whole.get(), &spec);
+  return spec;
+}
+
+uint32_t read_handle(PyObject *object, std::string_view what) {
+  if (PyIndex_Check(object) != 0) return static_cast<uint32_t>(unsigned_of(object, 4, what));
+  PyObject *handle = PyObject_GetAttrString(object, "handle");
+  if (handle == nullptr) {
+    PyErr_Clear();
+    raise(PyExc_TypeError, fmt::format("{} is a handle, not {}", what, type_name(object)));
+  }
+  return static_cast<uint32_t>(unsigned_of(Ref(handle).get(), 4, what));
+}
+
+// ---- Methods ----
+
+namespace {
+
+PyObject *add(PyObject *self, PyObject *const *arguments, Py_ssize_t count, PyObject *names) {
+  return guarded([&] {
+    TableObject &table = as_table(self);
+    EntryArguments given(table, "add", arguments, count, names, {kPriority, kTtl, kMeter, kKey});
+    const Outcome outcome =
+        table.kind->outcome_of(only(arguments, count, given.context(), "what the entry does"));
+    PlannedCall call(
+        table.kind->plan(family_of(outcome, "table_add", "add_entry", "add_entry_with_selector"),
+                         &outcome),
+        open_session(table.session));
+    given.fill_key(call);
+    given.fill_rest(call);
+    set_outcome(call, outcome);
+    p4_pd_entry_handle_t entry = 0;
+    call.set(Slot::entry, &entry);
+    if (const uint32_t status = call.run_unlocked()) raise_status(status, given.context());
+    return checked(PyLong_FromUnsignedLong(entry));
+  });
+}
+
+PyObject *modify(PyObject *self, PyObject *const *arguments, Py_ssize_t count, PyObject *names) {
+  return guarded([&] {
+    TableObject &table = as_table(self);
+    EntryArguments given(table, "modify", arguments, count, names,
+                         {kPriority, kMeter, kKey, kEntry});
+    const Outcome outcome =
+        table.kind->outcome_of(only(arguments, count, given.context(), "what the entry does"));
+    const bool by_key = !given.entry();
+    const char *family =
+        by_key ? family_of(outcome, "table_modify_by_match_spec", "modify_entry_by_match_spec",
+                           "modify_entry_with_selector_by_match_spec")
+               : family_of(outcome, "table_modify", "modify_entry", "modify_entry_with_selector");
+    PlannedCall call(table.kind->plan(family, &outcome), open_session(table.session));
+    if (by_key) {
+      given.fill_key(call);
+    } else if (given.has_key()) {
+      raise(PyExc_TypeError, given.context() + ": give entry= or a key, not both");
+    } else {
+      call.set(Slot::entry, *given.entry());
+    }
+    given.fill_rest(call);
+    set_outcome(call, outcome);
+    if (const uint32_t status = call.run_unlocked()) raise_status(status, given.context());
+    return none();
+  });
+}
+
+PyObject *remove(PyObject *self, PyObject *const *arguments, Py_ssize_t count, PyObject *names) {
+  return guarded([&] {
+    TableObject &table = as_table(self);
+    EntryArguments given(table, "delete", arguments, count, names, {kPriority, kKey, kEntry});
+    if (count > 1) raise(PyExc_TypeError, given.context() + " takes one entry or a key");
+    const bool by_key = count == 0 && !given.entry();
+    PlannedCall call(table.kind->plan(by_key ? "table_delete_by_match_spec" : "table_delete"),
+                     open_session(table.session));
+    if (by_key) {
+      given.fill_key(call);
+    } else if (given.has_key() || (count == 1 && given.entry())) {
+      raise(PyExc_TypeError, given.context() + ": give an entry or a key, not both");
+    } else {
+      call.set(Slot::entry, count == 1 ? read_handle(arguments[0], "entry") : *given.entry());
+    }
+    if (const uint32_t status = call.run_unlocked()) raise_status(status, given.context());
+    return none();
+  });
+}
+
+PyObject *find(PyObject *self, PyObject *const *arguments, Py_ssize_t count, PyObject *names) {
+  return guarded([&] {
+    TableObject &table = as_table(self);
+    EntryArguments given(table, "find", arguments, count, names, {kPriority, kKey});
+    if (count != 0) raise(PyExc_TypeError, given.context() + " takes keyword arguments alone");
+    PlannedCall call(table.kind->plan("match_spec_to_entry_hdl"), open_session(table.session));
+    given.fill_key(call);
+    p4_pd_entry_handle_t entry = 0;
+    call.set(Slot::entry, &entry);
+    if (const uint32_t status = call.run_unlocked()) raise_status(status, given.context());
+    return checked(PyLong_FromUnsignedLong(entry));
+  });
+}
+
+PyObject *set_default(PyObject *self, PyObject *const *arguments, Py_ssize_t count,
+                      PyObject *names) {
+  return guarded([&] {
+    TableObject &table = as_table(self);
+    EntryArguments given(table, "set_default", arguments, count, names, {kMeter});
+    if (given.has_key()) raise(PyExc_TypeError, given.context() + ": a default entry has no key");
+    const Outcome outcome =
+        table.kind->outcome_of(only(arguments, count, given.context(), "what the entry does"));
+    PlannedCall call(table.kind->plan(family_of(outcome, "set_default_action", "set_default_entry",
+                                                "set_default_entry_with_selector"),
+                                      &outcome),
+                     open_session(table.session));
+    given.fill_rest(call);
+    set_outcome(call, outcome);
+    p4_pd_entry_handle_t entry = 0;
+    call.set(Slot::entry, &entry);
+    if (const uint32_t status = call.run_unlocked()) raise_status(status, given.context());
+    return checked(PyLong_FromUnsignedLong(entry));
+  });
+}
+
+// An entry as the library reads it back.
+class EntryReader {
+ public:
+  EntryReader(TableKind &kind, const SessionObject &session)
+      : kind_(kind),
+        key_(kind.key().record->size + 1),
+        parameters_(kind.program().binding().sizes.action_specs),
+        call_(kind.plan(kind.indirect() ? "get_indirect_entry" : "get_entry"), session) {
+    call_.set(Slot::match_spec, key_.data());
+    call_.set(Slot::priority, &priority_);
+    call_.set(Slot::action_spec, parameters_.data());
+    call_.set(Slot::action, &action_);
+    call_.set(Slot::action_name, nullptr);
+    call_.set(Slot::no_key, &no_key_);
+    call_.set(Slot::has_member, &has_member_);
+    call_.set(Slot::has_group, &has_group_);
+    call_.set(Slot::member, &member_);
+    call_.set(Slot::group, &group_);
+  }
+
+  PyObject *read(uint32_t entry, bool from_hardware, const std::string &context) {
+    call_.set(Slot::entry, entry);
+    call_.set(Slot::read_from_hardware, from_hardware ? 1 : 0);
+    check_status(call_.run_unlocked(), context);
+    Ref made(PyStructSequence_New(entry_type));
+    Py_ssize_t at = 0;
+    const auto put = [&](PyObject *value) {
+      PyStructSequence_SetItem(made.get(), at++, checked(value));
+    };
+    const bool has_key = kind_.keyed() && !no_key_;
+    put(PyLong_FromUnsignedLong(entry));
+    put(has_key ? make_record(kind_.key(), key_.data()) : none());
+    put(has_key && kind_.ternary() ? PyLong_FromUnsignedLong(priority_) : none());
+    put(kind_.indirect() ? none() : action());
+    put(has_member_ ? PyLong_FromUnsignedLong(member_) : none());
+    put(has_group_ ? PyLong_FromUnsignedLong(group_) : none());
+    return made.release();
+  }
+
+ private:
+  PyObject *action() {
+    for (const bindings::Record &record : kind_.program().binding().actions.list()) {
+      if (record.number == action_) {
+        return make_record(kind_.program().kind(record), parameters_.data());
+      }
+    }
+    return none();
+  }
+
+  TableKind &kind_;
+  std::vector<uint8_t> key_;
+  std::vector<uint8_t> parameters_;
+  uint32_t priority_ = 0, action_ = ~uint32_t{0}, member_ = 0, group_ = 0;
+  bool no_key_ = false, has_member_ = false, has_group_ = false;
+  PlannedCall call_;
+};
+
+PyObject *get(PyObject *self, PyObject *const *arguments, Py_ssize_t count, PyObject *names) {
+  return guarded([&] {
+    TableObject &table = as_table(self);
+    EntryArguments given(table, "get", arguments, count, names, {kFromHardware});
+    const uint32_t entry =
+        read_handle(only(arguments, count, given.context(), "an entry"), "entry");
+    EntryReader reader(*table.kind, open_session(table.session));
+    return reader.read(entry, given.from_hardware(), given.context());
+  });
+}
+
+// The key as packets carry it; the values of the fields count, whatever their masks.
+PyObject *packet_key(PyObject *self, PyObject *const *arguments, Py_ssize_t count,
+                     PyObject *names) {
+  return guarded([&] {
+    const TableObject &table = as_table(self);
+    EntryArguments given(as_table(self), "packet_key", arguments, count, names, {kKey});
+    const tesselctl::TableInfo info = {table.kind->key().record, &table.kind->description()};
+    const std::vector<uint8_t> key = tesselctl::packet_key(info, given.fields());
+    return checked(PyBytes_FromStringAndSize(reinterpret_cast<const char *>(key.data()),
+                                             static_cast<Py_ssize_t>(key.size())));
+  });
+}
+
+PyObject *new_table(PyTypeObject *type, PyObject *arguments, PyObject * /*keywords*/) {
+  return guarded([&] {
+    PyObject *source = nullptr;
+    const char *name = nullptr;
+    PyObject *session = nullptr;
+    if (PyArg_ParseTuple(arguments, "OsO", &source, &name, &session) == 0) throw Raised{};
+    Program &program = program_of(source);
+    open_session(session);
+    static std::map<const bindings::Record *, std::unique_ptr<TableKind>> kinds;
+    const bindings::Record *record = program.find_record("keys", name);
+    if (record == nullptr) raise(PyExc_AttributeError, fmt::format("there is no table {}", name));
+    std::unique_ptr<TableKind> &kind = kinds[record];
+    const soft_program_t &described = program.description();
+    for (const soft_table_t &row : std::span(described.tables, described.table_count)) {
+      if (kind == nullptr && tesselctl::is_name(row.name, name)) {
+        kind = std::make_unique<TableKind>(program, *record, row);
+      }
+    }
+    Ref made(PyType_GenericAlloc(type, 0));
+    as_table(made.get()).kind = kind.get();
+    as_table(made.get()).session = Py_NewRef(session);
+    return made.release();
+  });
+}
+
+int traverse(PyObject *self, visitproc visit, void *arg) {
+  Py_VISIT(Py_TYPE(self));
+  Py_VISIT(as_table(self).session);
+  return 0;
+}
+int clear(PyObject *self) {
+  Py_CLEAR(as_table(self).session);
+  return 0;
+}
+// A session holds its tables, and they hold it.
+void deallocate(PyObject *self) {
+  PyTypeObject *type = Py_TYPE(self);
+  PyObject_GC_UnTrack(self);
+  clear(self);
+  reinterpret_cast<freefunc>(PyType_GetSlot(type, Py_tp_free))(self);
+  Py_DECREF(type);
+}
+
+PyObject *get_name(PyObject *self, void * /*unused*/) {
+  return PyUnicode_FromString(as_table(self).kind->name());
+}
+PyObject *get_session(PyObject *self, void * /*unused*/) {
+  return Py_NewRef(as_table(self).session);
+}
+
+constexpr int kFast = METH_FASTCALL | METH_KEYWORDS;
+PyMethodDef methods[] = {
+    {"add", method(add), kFast, "Adds an entry and returns its handle."},
+    {"modify", method(modify), kFast, "Gives an entry another action, member or group."},
+    {"delete", method(remove), kFast, "Deletes an entry."},
+    {"find", method(find), kFast, "The handle of the entry with exactly this key."},
+    {"get", method(get), kFast, "Reads an entry."},
+    {"set_default", method(set_default), kFast, "Sets the default entry and returns its handle."},
+    {"packet_key", method(packet_key), kFast, "The key as packets carry it, as bytes."},
+    {"add_rows", method(add_rows), kFast, "Adds an entry for each row of an iterable."},
+    {"add_columns", method(add_columns), kFast, "Adds entries from columns of values."},
+    {nullptr, nullptr, 0, nullptr}};
+PyGetSetDef members[] = {{"name", get_name, nullptr, "The name of the table.", nullptr},
+                         {"session", get_session, nullptr, "Whose calls these are.", nullptr},
+                         {nullptr, nullptr, nullptr, nullptr, nullptr}};
+PyMethodDef functions[] = {
+    {"add_routes", method(add_routes), kFast, "Adds routes to the tables of both addresses."},
+    {nullptr, nullptr, 0, nullptr}};
+
+}  // namespace
+
+PyTypeObject *table_type_object() { return table_type; }
+
+void add_table(PyObject *module) {
+  for (size_t i = 0; i < kOptions; ++i) {
+    option_names[i] = checked(PyUnicode_InternFromString(kOptionNames[i]));
+  }
+  PyStructSequence_Field fields[] = {{"handle", nullptr},   {"key", "null: the default entry"},
+                                     {"priority", nullptr}, {"action", nullptr},
+                                     {"member", nullptr},   {"group", nullptr},
+                                     {nullptr, nullptr}};
+  PyStructSequence_Desc description = {"pd.Entry", "An entry as it was read.", fields, 6};
+  entry_type = PyStructSequence_NewType(&description);
+  PyObject *entry = checked(reinterpret_cast<PyObject *>(entry_type));
+  check(PyModule_AddObjectRef(module, "Entry", entry));
+  PyType_Slot slots[] = {{Py_tp_new, reinterpret_cast<void *>(new_table)},
+                         {Py_tp_dealloc, reinterpret_cast<void *>(deallocate)},
+                         {Py_tp_traverse, reinterpret_cast<void *>(traverse)},
+                         {Py_tp_clear, reinterpret_cast<void *>(clear)},
+                         {Py_tp_methods, methods},
+                         {Py_tp_getset, members},
+                         {0, nullptr}};
+  table_type = make_type("pd.TableBase", sizeof(TableObject), slots,
+                         Py_TPFLAGS_DEFAULT | Py_TPFLAGS_BASETYPE | Py_TPFLAGS_HAVE_GC);
+  check(PyModule_AddObjectRef(module, "TableBase", reinterpret_cast<PyObject *>(table_type)));
+  check(PyModule_AddFunctions(module, functions));
+}
+
+}  // namespace python

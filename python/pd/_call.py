@@ -1,0 +1,90 @@
+"""Calls of the library by family and object."""
+from __future__ import annotations
+
+from pd._core import Function, Output, Program, check, soft
+
+TYPE_CHECKING = False
+if TYPE_CHECKING:
+    from typing import Any
+
+# Functions by program, family, object and action.
+_functions: dict[tuple[str, str, str, str], Function] = {}
+
+
+def function(program: Program, family: str, name: str = "", action: str = "") -> Function:
+    """The function; AttributeError where the program has none."""
+    key = (program.name, family, name, action)
+    found = _functions.get(key)
+    if found is None:
+        found = program.export(family, name, action)
+        if found is None:
+            raise AttributeError(f"{name or program.name} has no function {family} {action}".rstrip())
+        _functions[key] = found
+    return found
+
+
+def call(program: Program, family: str, name: str, *arguments: Any, action: str = "") -> None:
+    """Calls it and raises the exception of its status."""
+    check(function(program, family, name, action)(*arguments), f"{name}.{family}")
+
+
+def get(program: Program, family: str, name: str, *arguments: Any, action: str = "") -> Any:
+    """The same, for the value of an output behind the arguments."""
+    output = Output()
+    call(program, family, name, *arguments, output, action=action)
+    return output.value
+
+
+def control(name: str, *arguments: Any) -> None:
+    """A call of the soft SDK's control interface."""
+    check(soft[name](*arguments), name)
+
+
+def read_control(name: str, *arguments: Any) -> Any:
+    output = Output()
+    control(name, *arguments, output)
+    return output.value
+
+
+class Name:
+    """An object of a program by name, as a session calls it."""
+
+    def __init__(self, program: Program, name: str, session: Any, facts: dict[str, Any]):
+        self._program, self.name, self.session = program, name, session
+        self._facts = facts
+        self.handle: int = facts["handle"]
+
+    def _call(self, family: str, *arguments: Any) -> None:
+        call(self._program, family, self.name, *arguments)
+
+    def _get(self, family: str, *arguments: Any) -> Any:
+        return get(self._program, family, self.name, *arguments)
+
+    def _pipe(self, pipe: int | None) -> int:
+        """A pipe that packets go through: the session's, or the first."""
+        if pipe is not None:
+            return pipe
+        return 0 if self.session.pipe == 0xffff else int(self.session.pipe)
+
+    def __repr__(self) -> str:
+        return f"<{type(self).__name__} {self.name} of {self._program.name}>"
+
+
+def walk(first: Any, following: Any, missing: type[Exception]) -> Any:
+    """Handles that a pair of functions enumerates, each with an output behind its arguments."""
+    count = 256
+    try:
+        handle = first()
+    except missing:
+        return
+    while True:
+        yield handle
+        try:
+            handles = following(handle, count)
+        except missing:
+            return
+        found = [one for one in handles if one != 0xffffffff]
+        yield from found[:-1]
+        if not found:
+            return
+        handle = found[-1]

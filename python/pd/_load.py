@@ -1,0 +1,75 @@
+"""What the package of a program is made of."""
+from __future__ import annotations
+
+import os
+import sys
+
+from pd import _core
+from pd._device import Device, Session
+from pd._soft import clock, faults, journal
+
+TYPE_CHECKING = False
+if TYPE_CHECKING:
+    from typing import Any
+
+ModuleType = type(sys)
+
+
+class Records(ModuleType):  # type: ignore[misc, valid-type]
+    """A module of record types, or of functions, made when they are asked for."""
+
+    def __init__(self, name: str, note: str, find: Any, names: Any):
+        super().__init__(name, note)
+        self.__dict__.update(_find=find, _names=names, __path__=[])
+
+    def __getattr__(self, name: str) -> Any:
+        found = None if name.startswith("__") else self._find(name)
+        if found is None:
+            near = _core.nearest(name, self._names())
+            raise AttributeError(f"{self.__name__} has no {name}"
+                                 + (f"; did you mean {near}?" if near else ""))
+        setattr(self, name, found)
+        return found
+
+    def __dir__(self) -> list[str]:
+        return sorted(self._names())
+
+
+def module_file(name: str, package: str) -> str:
+    """The module of a program: a file that is named, else beside the package, else beside pd."""
+    if os.sep in name or name.endswith(".so"):
+        return os.path.abspath(name)
+    here = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
+    beside = os.path.dirname(os.path.dirname(os.path.abspath(package))) if package else here
+    files = [os.path.join(folder, _core.modules, name + ".so") for folder in (beside, here)]
+    for file in files:
+        if os.path.exists(file):
+            return file
+    raise ImportError(f"there is no module of the program {name}: no file "
+                      + " or ".join(dict.fromkeys(files)))
+
+
+def load(name: str, package: str = "") -> dict[str, Any]:
+    """Loads a program by its name or the file of its module; what its package has, by name.
+
+    package is the file of the package.
+    """
+    program = _core.load(module_file(name, package))
+    made: dict[str, Any] = {}
+    known = program.name
+    for kind, note in (("actions", "Actions, as types of records."),
+                       ("keys", "Keys of tables, as types of records."),
+                       ("digests", "Entries of digests, as types of records.")):
+        made[kind] = Records(f"{known}.{kind}", note,
+                             lambda one, kind=kind: program.record(kind, one),
+                             lambda kind=kind: program.records(kind))
+    made["raw"] = Records(f"{known}.raw", "The functions of the library, as C has them.",
+                          program.function, program.functions)
+    for kind in list(made):
+        sys.modules[f"{known}.{kind}"] = made[kind]
+    session = type("Session", (Session,), {"_program": program, "__module__": known})
+    device = type("Device", (Device,), {"_program": program, "__module__": known,
+                                        "_session_type": session})
+    made.update(Device=device, Session=session, program=program, clock=clock, faults=faults,
+                journal=journal, __version__=program.version)
+    return made

@@ -1,0 +1,230 @@
+"""Action profiles, their members and groups."""
+from __future__ import annotations
+
+from pd import _core
+from pd._call import Name, call, control, get, read_control, walk
+from pd._core import Opaque, Record
+
+TYPE_CHECKING = False
+if TYPE_CHECKING:
+    from typing import Any, Callable, Iterator
+
+
+class _Held:
+    """A member or a group of a profile, by its handle."""
+
+    _outcome = ""
+
+    def __init__(self, profile: Profile, handle: int):
+        self.profile, self.handle = profile, handle
+
+    def __eq__(self, other: object) -> bool:
+        return (type(other) is type(self) and isinstance(other, _Held)
+                and other.handle == self.handle and other.profile.name == self.profile.name
+                and other.profile.session.device_id == self.profile.session.device_id)
+
+    def __hash__(self) -> int:
+        return hash((self._outcome, self.handle))
+
+    def __int__(self) -> int:
+        return self.handle
+
+    def __repr__(self) -> str:
+        return f"{type(self).__name__}({self.profile.name}, {self.handle})"
+
+
+class Member(_Held):
+    """A member of a profile: an action with its parameters."""
+
+    _outcome = "member"
+
+    def action(self, from_hardware: bool = False) -> Record:
+        return self.profile.action(self, from_hardware)
+
+    def modify(self, action: Record) -> None:
+        self.profile.modify(self, action)
+
+    def delete(self) -> None:
+        self.profile._call("del_member", self.profile.session, self.profile.session, self.handle)
+
+    def placement(self) -> Opaque:
+        return _core.placement_of(self.profile.session.device_id, self.profile.handle, self.handle,
+                                  True)
+
+
+class Group(_Held):
+    """A group of members, of which a hash chooses one."""
+
+    _outcome = "group"
+
+    def _group(self, family: str, *arguments: Any) -> Any:
+        session = self.profile.session
+        return self.profile._get(family, session, session, self.handle, *arguments)
+
+    def _set(self, family: str, *arguments: Any) -> None:
+        session = self.profile.session
+        self.profile._call(family, session, session, self.handle, *arguments)
+
+    def add(self, member: Member) -> None:
+        self._set("add_member_to_group", int(member))
+
+    def remove(self, member: Member) -> None:
+        self._set("del_member_from_group", int(member))
+
+    def enable(self, member: Member, active: bool = True) -> None:
+        """Whether the hash may choose the member."""
+        self._set("group_member_state_set", int(member), 0 if active else 1)
+
+    def is_enabled(self, member: Member) -> bool:
+        return bool(self._group("group_member_state_get", int(member)) == 0)
+
+    def members(self) -> Iterator[Member]:
+        handles = walk(lambda: self._group("get_first_group_member"),
+                       lambda member, count: self._group("get_next_group_members", member, count),
+                       _core.ObjectNotFound)
+        return (Member(self.profile, handle) for handle in handles)
+
+    def __iter__(self) -> Iterator[Member]:
+        return self.members()
+
+    def __len__(self) -> int:
+        return int(self._group("get_selector_group_member_count"))
+
+    def __bool__(self) -> bool:
+        return True
+
+    def choose(self, hash: bytes | int) -> Member:
+        """The member that packets of the hash get."""
+        bits = hash.to_bytes(8, "big") if isinstance(hash, int) else hash
+        return Member(self.profile, self._group("group_member_get_from_hash", bits, len(bits)))
+
+    def max_size(self) -> int:
+        """The greatest number of members as it was created; 0: any number."""
+        profile = self.profile
+        return int(read_control("soft_group_max_size", profile.session.device_id, profile.selector,
+                                self.handle))
+
+    def delete(self) -> None:
+        self._set("del_group")
+
+
+class Profile(Name):
+    """An action profile of a session."""
+
+    def __init__(self, program: Any, name: str, session: Any, facts: dict[str, Any]):
+        super().__init__(program, name, session, facts)
+        self.selector: int = facts["selector"]
+        self.actions: tuple[str, ...] = tuple(facts["actions"])
+
+    def _record(self, action: Record) -> tuple[str, list[Record]]:
+        """The name of an action, and the argument that it is; none without parameters."""
+        name = type(action).__name__
+        if not isinstance(action, Record) or name not in self.actions:
+            raise TypeError(f"{self.name} takes one of its actions: {', '.join(self.actions)}; "
+                            f"not {name}")
+        return name, [action] if type(action)._describe() else []
+
+    def add(self, action: Record) -> Member:
+        name, record = self._record(action)
+        return Member(self, get(self._program, "add_member", self.name, self.session,
+                                self.session, *record, action=name))
+
+    def modify(self, member: Member, action: Record) -> None:
+        """Gives the action other parameters; a member keeps its action for life."""
+        name, record = self._record(action)
+        call(self._program, "modify_member", self.name, self.session, self.session, int(member),
+             *record, action=name)
+
+    def create_group(self, *members: Member, max_size: int = 0) -> Group:
+        """A group of at most so many members, 0 of any number, with these in it."""
+        group = Group(self, self._get("create_group", self.session, self.session, max_size))
+        for member in members:
+            group.add(member)
+        return group
+
+    def member(self, handle: int) -> Member:
+        return Member(self, handle)
+
+    def group(self, handle: int) -> Group:
+        return Group(self, handle)
+
+    def action(self, member: Member, from_hardware: bool = False) -> Record:
+        """The action of a member with its parameters."""
+        record: Record = self._get("get_member", self.session, self.session, int(member),
+                                   from_hardware)
+        return record
+
+    def _walk(self, first: str, following: str) -> Iterator[int]:
+        found: Iterator[int] = walk(
+            lambda: self._get(first, self.session, self.session),
+            lambda handle, count: self._get(following, self.session, self.session, handle, count),
+            _core.ObjectNotFound)
+        return found
+
+    def members(self) -> Iterator[Member]:
+        return (Member(self, one) for one in self._walk("get_first_member", "get_next_members"))
+
+    def groups(self) -> Iterator[Group]:
+        return (Group(self, one) for one in self._walk("get_first_group", "get_next_groups"))
+
+    def member_count(self) -> int:
+        return int(self._get("get_act_prof_entry_count", self.session, self.session))
+
+    def group_count(self) -> int:
+        return int(self._get("get_selector_group_count", self.session, self.session))
+
+    def set_fallback(self, member: Member) -> None:
+        """The member that stands in for groups that have nothing to choose."""
+        self._call("set_dynamic_action_selection_fallback_member", self.session, self.session,
+                   int(member))
+
+    def reset_fallback(self) -> None:
+        self._call("reset_dynamic_action_selection_fallback_member", self.session, self.session)
+
+    def fallback(self) -> Member | None:
+        try:
+            return Member(self, read_control("soft_fallback_member", self.session.device_id,
+                                             self.selector))
+        except _core.ObjectNotFound:
+            return None
+
+    def active_members(self, word: int = 0) -> list[Member]:
+        """The active members in a word of 32 slots of the selector."""
+        count = self._get("get_word_llp_active_member_count", self.session, self.session, word)
+        if not count:
+            return []
+        members = self._get("get_word_llp_active_members", self.session, self.session, word, count)
+        return [Member(self, handle) for handle in members]
+
+    def on_member_update(self, callback: Callable[[int, int], object] | None) -> None:
+        """Has the callback called with update (PIPE_UPDATE_*) and member after each change."""
+        def updated(_session: int, _device: int, _table: int, update: int, member: int) -> None:
+            if callback is not None:
+                callback(update, member)
+        self._call("register_adt_update_cb", self.session, self.session,
+                   updated if callback else None, None)
+
+    def on_group_update(self, callback: Callable[[int, int, int], object] | None) -> None:
+        """The same with update, group and member (0: the group alone)."""
+        def updated(_session: int, _device: int, _selector: int, update: int, group: int,
+                    member: int) -> None:
+            if callback is not None:
+                callback(update, group, member)
+        self._call("register_sel_update_cb", self.session, self.session,
+                   updated if callback else None, None)
+
+    def capacity(self, of_groups: bool = False) -> int:
+        """How many members or groups the soft device takes; 0: any number."""
+        return int(read_control("soft_profile_capacity_get", self.session.device_id,
+                                self.selector if of_groups else self.handle))
+
+    def set_capacity(self, capacity: int, of_groups: bool = False) -> None:
+        control("soft_profile_capacity_set", self.session.device_id,
+                self.selector if of_groups else self.handle, capacity)
+
+    def clear(self) -> None:
+        """Deletes all groups and then all members; entries must not point at them."""
+        for group in list(self.groups()):
+            group.delete()
+        for member in list(self.members()):
+            member.delete()

@@ -1,0 +1,67 @@
+"""Control of the soft SDK for a whole process: its clock, fault plan and journal."""
+from __future__ import annotations
+
+from pd._core import JournalCall, StatusError, journal_calls, soft
+
+TYPE_CHECKING = False
+if TYPE_CHECKING:
+    from typing import Any
+
+
+class Clock:
+    """The virtual clock of all devices, in milliseconds. Time passes here alone."""
+
+    def now(self) -> int:
+        return int(soft["soft_clock_now"]())
+
+    def advance(self, milliseconds: int) -> None:
+        """Ages entries and runs the callbacks of those that expire before it returns."""
+        soft["soft_clock_advance"](milliseconds)
+
+
+class Faults:
+    """Calls that are to fail, once each; n counts from 1, the next one."""
+
+    def fail_call(self, function: str, status: int | type[StatusError], n: int = 1) -> None:
+        """The nth next call of a function of the SDK."""
+        soft["fail_call"](function, n, getattr(status, "status", status))
+
+    def fail_any_call(self, status: int | type[StatusError], n: int = 1) -> None:
+        soft["fail_any_call"](n, getattr(status, "status", status))
+
+    def fail_allocation(self, n: int = 1) -> None:
+        """The nth next allocation of a library."""
+        soft["fail_allocation"](n)
+
+    def pending(self) -> int:
+        """How many have not struck."""
+        return int(soft["faults_pending"]())
+
+    def clear(self) -> None:
+        soft["faults_clear"]()
+
+
+class Journal:
+    """The calls of the SDK between start and stop; `with journal as calls:` does both."""
+
+    def start(self) -> None:
+        soft["journal_start"]()
+
+    def stop(self) -> None:
+        soft["journal_stop"]()
+
+    def clear(self) -> None:
+        soft["journal_clear"]()
+
+    def calls(self, function: str | None = None) -> list[JournalCall]:
+        return journal_calls(function)
+
+    def __enter__(self) -> Journal:
+        self.start()
+        return self
+
+    def __exit__(self, *_error: object) -> None:
+        self.stop()
+
+
+clock, faults, journal = Clock(), Faults(), Journal()
