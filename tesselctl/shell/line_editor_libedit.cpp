@@ -63,8 +63,12 @@ EditedLines::EditedLines(LineHost host) : host_(std::move(host)) {
   // Characters are as wide as the user's locale says; without one the editor works in bytes.
   std::setlocale(LC_CTYPE, "");
   const std::string mark(1, kNoWidth);
-  prompt_ = host_.colour ? mark + "\033[1m" + mark + host_.prompt + mark + "\033[0m" + mark
-                         : host_.prompt;
+  prompt_ = host_.prompt;
+  if (host_.colour) {
+    // libedit prints what takes no room with the character behind it, and nothing at the end.
+    prompt_.insert(prompt_.size() - 1, mark + "\033[0m" + mark);
+    prompt_.insert(0, mark + "\033[1m" + mark);
+  }
   editor_ = el_init("tesselctl", stdin, stdout, stderr);
   history_ = history_init();
   HistEvent event;

@@ -21,12 +21,13 @@ using std::chrono::steady_clock;
 
 class Session {
  public:
-  explicit Session(const std::string &history, const char *image = nullptr) {
+  explicit Session(const std::string &history, const char *image = nullptr,
+                   const char *no_color = "1") {
     const winsize size = {.ws_row = 24, .ws_col = 120, .ws_xpixel = 0, .ws_ypixel = 0};
     child_ = forkpty(&terminal_, nullptr, nullptr, &size);
     if (child_ != 0) return;
     setenv("TERM", "xterm", 1);
-    setenv("NO_COLOR", "1", 1);
+    setenv("NO_COLOR", no_color, 1);
     setenv("TESSELCTL_PAGER", "cat", 1);
     setenv("TESSELCTL_HISTORY", history.c_str(), 1);
     execl(TOOL, "tesselctl", image == nullptr ? nullptr : "--image", image, nullptr);
@@ -128,6 +129,11 @@ TEST_F(ShellTest, CompletesAndExplainsWhatCanStandAtThePoint) {
               {"", "action=  what is done on a hit"},
               {"", "tesselctl> add ipv4ShortMaskLpm vrfId=1 "},
               {"dip=?", "  32 bits, prefix, 10.0.0.0/8"}});
+}
+
+TEST_F(ShellTest, ThePromptAloneIsBold) {
+  NEEDS_LINE_EDITING();
+  Session(history_, nullptr, "").talk({{"", "\033[1mtesselctl>\033[0m "}});
 }
 
 TEST_F(ShellTest, KeepsItsHistoryForTheUserAlone) {
