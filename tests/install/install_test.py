@@ -37,7 +37,7 @@ target_link_libraries(own PRIVATE tessel_switch::pd_tessel_switch)
 """
 
 # Of docs, those whose examples need what is installed.
-PAGES = ["new-program", "abi", "porting", "soft-sdk", "statuses"]
+PAGES = ["c-interface", "new-program", "abi", "porting", "soft-sdk", "statuses"]
 
 
 def run(*command, **options):
