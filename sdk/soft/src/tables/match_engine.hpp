@@ -195,7 +195,6 @@ class MatchEngine : public ObjectOf<MatchEngine> {
   bool is_idle(pipe_entry_handle_t entry, const EntryView &view) const;
   void note_hit(pipe_entry_handle_t entry);
 
-  pipe_entry_handle_t find_compared(bf_pipe_id_t pipe, const uint8_t *key) const;
   bf_status_t find_hit(bf_pipe_id_t pipe, const uint8_t *key, uint32_t length, soft_hit_t *hit);
   uint8_t note_traffic(bf_pipe_id_t pipe, const soft_traffic_t &traffic, pipe_entry_handle_t entry,
                        const ResourceList &resources);

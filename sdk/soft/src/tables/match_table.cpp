@@ -30,6 +30,7 @@ MatchTable::MatchTable(const soft_table_t &table, const EntryLayout &layout,
       masks_(&memory_, record_.key_bytes),
       twins_(&memory_),
       wheel_(&memory_, slots_, record_.ageing),
+      rules_(&memory_, record_, slots_, masks_, table.compared),
       ones_(&memory_) {}
 
 // ---- Records ----
@@ -171,6 +172,7 @@ bf_status_t MatchTable::insert(const EntryKey &key, uint32_t mask, uint64_t hash
   write_key(*slot, key, mask);
   if (record_.has_age) store(slots_.at(*slot) + record_.age, next_age_++);
   link(hash, root, *slot);
+  rules_.insert(*slot);
   return BF_SUCCESS;
 }
 
@@ -214,12 +216,14 @@ bf_status_t MatchTable::find(const EntryKey &key, pipe_entry_handle_t *entry) co
 bf_status_t MatchTable::erase(pipe_entry_handle_t entry) {
   if (!slots_.knows(entry)) return BF_OBJECT_NOT_FOUND;
   const uint32_t slot = SlotStore::slot_of(entry);
+  rules_.erase(slot);
   unlink(slot);
   if (record_.has_mask) masks_.release(mask_of(slot));
   if (record_.ages) wheel_.stop(slot);
   if (slots_.release(slot)) {
     index_.reset();
     twins_.reset();
+    rules_.reset();
   }
   return BF_SUCCESS;
 }

@@ -29,13 +29,14 @@
 #include "store/slot_store.hpp"
 #include "tables/match_table_record.hpp"
 #include "tables/match_table_types.hpp"
+#include "tables/rule_index.hpp"
 
 namespace soft {
 
 class MatchTable {
  public:
-  // Neither table nor its records are kept. memory must outlive the table; all storage comes from
-  // it. Allocates nothing itself.
+  // What table.compared leads to is kept, the rest is not. memory must outlive the table; all
+  // storage comes from it. Allocates nothing itself.
   MatchTable(const soft_table_t &table, const EntryLayout &layout,
              std::pmr::memory_resource *memory = std::pmr::new_delete_resource());
   MatchTable(const MatchTable &) = delete;
@@ -102,7 +103,9 @@ class MatchTable {
   // The entry that a packet with this key (key_bytes) hits in a pipe, or 0: the entry whose value
   // agrees under its mask, with the smallest priority number. Ties go to the longer prefix in an
   // lpm table and then, as in the others, to the older entry. Entries of all pipes and of this pipe
-  // take part; BF_ALL_PIPES looks at the former only. Changes no entry: hit() does.
+  // take part; BF_ALL_PIPES looks at the former only. Changes no entry: hit() does. Packets of a
+  // table that compares some bits of its keys count in these alone. The first of them after many
+  // additions pays for the index that the others use.
   pipe_entry_handle_t lookup(const uint8_t *key, bf_pipe_id_t pipe = BF_ALL_PIPES);
 
   // ---- Ageing: BF_NOT_SUPPORTED or nothing where the layout has none ----
@@ -130,7 +133,6 @@ class MatchTable {
   struct Candidate {
     uint32_t slot;
     uint32_t priority;
-    uint64_t age;
   };
 
   // Shorthand for the stored record of a slot. A mask is an id of the pool, kNoMask in exact
@@ -195,6 +197,7 @@ class MatchTable {
   MaskPool masks_;
   KeyTwins twins_;
   ExpiryWheel wheel_;
+  RuleIndex rules_;  // of ternary tables and those that compare some bits of their keys
   std::pmr::vector<uint8_t> ones_;  // the mask of every entry of an exact table
 };
 

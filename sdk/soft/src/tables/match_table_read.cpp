@@ -81,19 +81,19 @@ void MatchTable::probe(const uint8_t *key, uint32_t mask, uint8_t pipe, Candidat
     return;
   }
   const uint32_t priority = priority_of(slot);
-  const uint64_t age = record_.has_age ? load<uint64_t>(slots_.at(slot) + record_.age) : 0;
-  if (best.slot != kNone && priority > best.priority) return;
-  if (best.slot != kNone && priority == best.priority && age >= best.age) return;
-  best = Candidate{slot, priority, age};
+  if (best.slot == kNone || priority < best.priority) best = {slot, priority};
 }
 
-// Masks come by the smallest priority that their entries may have: behind the best entry found so
-// far there is nothing better. Each mask of an lpm table has one priority, so the first hit wins.
+// Entries that may tie with one another stand in the index of rules. Of the others, masks come by
+// the smallest priority that their entries may have: behind the best entry found so far there is
+// nothing better. Each mask of an lpm table has one priority, so the first hit wins.
 pipe_entry_handle_t MatchTable::lookup(const uint8_t *key, bf_pipe_id_t pipe) {
   const uint8_t in_pipe =
       pipe < KeyTwins::kAllPipes ? static_cast<uint8_t>(pipe) : KeyTwins::kAllPipes;
-  Candidate best{kNone, 0, 0};
-  if (!record_.has_mask) {
+  Candidate best{kNone, 0};
+  if (record_.has_age) {
+    best.slot = rules_.find(key, in_pipe);
+  } else if (!record_.has_mask) {
     probe(key, kNoMask, in_pipe, best);
   } else {
     for (const uint32_t mask : masks_.in_order()) {

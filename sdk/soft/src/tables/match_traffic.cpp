@@ -8,39 +8,12 @@
 
 namespace soft {
 
-// The look-up of a table that does not compare all bits of its key. The index over the entries is
-// of whole keys, so this one asks every entry; such tables are small.
-pipe_entry_handle_t MatchEngine::find_compared(bf_pipe_id_t pipe, const uint8_t *key) const {
-  pipe_entry_handle_t best = 0;
-  std::pair<uint32_t, uint64_t> best_rank;
-  entries_->each([&](pipe_entry_handle_t entry) {
-    EntryView view;
-    entries_->get(entry, &view);
-    if (view.pipe != pipe && view.pipe != BF_ALL_PIPES) return;
-    const std::pair rank(view.priority, view.age);
-    if (best != 0 && rank >= best_rank) return;
-    uint32_t different = 0;
-    for (uint32_t i = 0; i < description_.key_bytes; ++i) {
-      different |= (key[i] ^ view.value[i]) & view.mask[i] & description_.compared[i];
-    }
-    if (different != 0) return;
-    best = entry;
-    best_rank = rank;
-  });
-  return best;
-}
-
 // Fills entry and is_default of the hit.
 bf_status_t MatchEngine::find_hit(bf_pipe_id_t pipe, const uint8_t *key, uint32_t length,
                                   soft_hit_t *hit) {
   if (key == nullptr && length != 0) return BF_INVALID_ARGUMENT;
   if (length != description_.key_bytes) return BF_WRONG_LENGTH;
-  if (length == 0) {
-    hit->entry = 0;
-  } else {
-    hit->entry =
-        description_.compared == nullptr ? entries_->lookup(key, pipe) : find_compared(pipe, key);
-  }
+  hit->entry = length == 0 ? 0 : entries_->lookup(key, pipe);
   hit->is_default = hit->entry == 0;
   if (!hit->is_default) return BF_SUCCESS;
   size_t index = 0;
