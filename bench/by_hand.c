@@ -4,358 +4,336 @@
 
 #include "pipe_mgr.h"
 
+/* The prefix of what is defined: BY_HAND, by_hand_ or another one of by_hand.h. */
+#define NAMED_2(prefix, name) prefix##name
+#define NAMED_1(prefix, name) NAMED_2(prefix, name)
+#define NAMED(name) NAMED_1(BY_HAND, name)
+#define SPEC(name) p4_pd_tessel_switch_##name##_spec_t
+
 /* Sixteen bytes at a time: a plain clear becomes a slow string instruction. */
-static inline void clear_action(pipe_mgr_action_spec_t *action) {
+static inline void clear(void *record, size_t size) {
   typedef uint32_t chunk __attribute__((vector_size(16), aligned(4), may_alias));
-  chunk *chunks = (chunk *)(void *)action;
+  chunk *chunks = (chunk *)record;
   const chunk zero = {0, 0, 0, 0};
 #pragma GCC unroll 32
-  for (size_t i = 0; i < sizeof *action / 16; ++i) chunks[i] = zero;
-  memset(chunks + sizeof *action / 16, 0, sizeof *action % 16);
+  for (size_t i = 0; i < size / 16; ++i) chunks[i] = zero;
+  memset(chunks + size / 16, 0, size % 16);
 }
 
-p4_pd_status_t by_hand_cpuEncap(
-    p4_pd_session_handle_t session, p4_pd_device_target_t target,
-    const p4_pd_tessel_switch_cpuEncap_match_spec_t *match_spec, uint32_t priority,
-    const p4_pd_tessel_switch_copyPktToCpuSubintf_action_spec_t *action_spec,
-    p4_pd_entry_handle_t *entry) {
-  uint8_t value[5];
-  uint8_t mask[5];
-  uint8_t data[1];
-  pipe_mgr_match_spec_t match = {0};
-  pipe_mgr_action_spec_t action;
-  clear_action(&action);
-  match.valid_bit_count = 12;
-  match.byte_count = 5;
-  match.value = value;
-  match.mask = mask;
-  value[0] = (uint8_t)(match_spec->egrMd_trapToCpu);
-  mask[0] = 0x01;
-  value[1] = (uint8_t)(match_spec->ingMd_vlanHdrValid);
-  mask[1] = 0x01;
-  value[2] = (uint8_t)((match_spec->phase0_switchPort & match_spec->phase0_switchPort_mask));
-  mask[2] = (uint8_t)(match_spec->phase0_switchPort_mask & 0x1);
-  value[3] = (uint8_t)((match_spec->egrMd_cpuReasonCode & match_spec->egrMd_cpuReasonCode_mask));
-  mask[3] = (uint8_t)(match_spec->egrMd_cpuReasonCode_mask);
-  value[4] = (uint8_t)((match_spec->vlanHdr_0__valid & match_spec->vlanHdr_0__valid_mask));
-  mask[4] = (uint8_t)(match_spec->vlanHdr_0__valid_mask & 0x1);
-  match.priority = priority;
-  action.type = PIPE_ACTION_DATA;
-  action.data.valid_bit_count = 5;
-  action.data.byte_count = 1;
-  action.data.bytes = data;
-  data[0] = (uint8_t)(action_spec->action_copyPipelineQid);
-  return pipe_mgr_mat_ent_add(session, target.device_id, target.pipe_id, 0x0100005e, &match,
-                              0x200002d0, &action, 0, 0, entry);
+/* ---- Big-endian bytes ---- */
+
+static inline void put16(uint8_t *bytes, uint32_t value) {
+  const uint16_t swapped = __builtin_bswap16((uint16_t)value);
+  memcpy(bytes, &swapped, 2);
 }
 
-p4_pd_status_t by_hand_l2Lookup(
-    p4_pd_session_handle_t session, p4_pd_device_target_t target,
-    const p4_pd_tessel_switch_l2Lookup_match_spec_t *match_spec,
-    const p4_pd_tessel_switch_l2LookupKnownUcast_action_spec_t *action_spec,
-    p4_pd_entry_handle_t *entry) {
-  uint8_t value[8];
-  uint8_t mask[8];
-  uint8_t data[3];
-  pipe_mgr_match_spec_t match = {0};
-  pipe_mgr_action_spec_t action;
-  clear_action(&action);
-  match.valid_bit_count = 60;
-  match.byte_count = 8;
-  match.value = value;
-  match.mask = mask;
-  memset(mask, 0xff, sizeof mask);
-  value[0] = (uint8_t)(match_spec->egrMd_dmacOui >> 16);
-  value[1] = (uint8_t)(match_spec->egrMd_dmacOui >> 8);
-  value[2] = (uint8_t)(match_spec->egrMd_dmacOui);
-  value[3] = (uint8_t)(match_spec->egrMd_dmacStation >> 16);
-  value[4] = (uint8_t)(match_spec->egrMd_dmacStation >> 8);
-  value[5] = (uint8_t)(match_spec->egrMd_dmacStation);
-  value[6] = (uint8_t)(match_spec->egrMd_egrL2Domain >> 8);
-  value[7] = (uint8_t)(match_spec->egrMd_egrL2Domain);
-  action.type = PIPE_ACTION_DATA;
-  action.data.valid_bit_count = 20;
-  action.data.byte_count = 3;
-  action.data.bytes = data;
-  data[0] = (uint8_t)(action_spec->action_egrL2Aintf >> 16);
-  data[1] = (uint8_t)(action_spec->action_egrL2Aintf >> 8);
-  data[2] = (uint8_t)(action_spec->action_egrL2Aintf);
-  return pipe_mgr_mat_ent_add(session, target.device_id, target.pipe_id, 0x01000049, &match,
-                              0x200001dc, &action, 0, 0, entry);
+static inline void put24(uint8_t *bytes, uint32_t value) {
+  bytes[0] = (uint8_t)(value >> 16);
+  put16(bytes + 1, value);
 }
 
-p4_pd_status_t by_hand_ipv4ShortMaskLpm(
-    p4_pd_session_handle_t session, p4_pd_device_target_t target,
-    const p4_pd_tessel_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
-    const p4_pd_tessel_switch_setNextHop_action_spec_t *action_spec, uint32_t ttl,
-    p4_pd_entry_handle_t *entry) {
-  uint8_t value[5];
-  uint8_t mask[5];
-  uint8_t data[2];
-  pipe_mgr_match_spec_t match = {0};
-  pipe_mgr_action_spec_t action;
-  clear_action(&action);
-  match.valid_bit_count = 40;
-  match.byte_count = 5;
-  match.value = value;
-  match.mask = mask;
-  memset(mask, 0xff, sizeof mask);
-  value[0] = (uint8_t)(match_spec->l3Info_vrfId);
-  const uint32_t wildcard = 32u - match_spec->ingIpv4_dip_prefix_length;
+static inline void put32(uint8_t *bytes, uint32_t value) {
+  const uint32_t swapped = __builtin_bswap32(value);
+  memcpy(bytes, &swapped, 4);
+}
+
+static inline uint16_t get16(const uint8_t *bytes) { return (uint16_t)(bytes[0] << 8 | bytes[1]); }
+
+static inline uint32_t get24(const uint8_t *bytes) {
+  return (uint32_t)bytes[0] << 16 | get16(bytes + 1);
+}
+
+static inline uint32_t get32(const uint8_t *bytes) {
+  uint32_t value;
+  memcpy(&value, bytes, 4);
+  return __builtin_bswap32(value);
+}
+
+/* ---- Keys ---- */
+
+#ifdef STORES_ONLY
+
+#define DEFINE_KEY(table, kind, key_bits, key_bytes, ...)                                        \
+  static inline void table##_key(const SPEC(table##_match) * m, pipe_mgr_match_spec_t * match) { \
+    (void)m;                                                                                     \
+    memset(match->value, 0, key_bytes);                                                          \
+    memset(match->mask, 0xff, key_bytes);                                                        \
+  }                                                                                              \
+  static inline void table##_read_key(const pipe_mgr_match_spec_t *match,                        \
+                                      SPEC(table##_match) * m) {                                 \
+    (void)match;                                                                                 \
+    clear(m, sizeof *m);                                                                         \
+  }
+BY_HAND_TABLES(DEFINE_KEY)
+
+#else
+
+#define PUT_EXACT8(at, field) \
+  value[at] = m->field;       \
+  mask[at] = 1;
+#define PUT8(at, field, bits)             \
+  value[at] = m->field & m->field##_mask; \
+  mask[at] = m->field##_mask & bits;
+#define PUT16(at, field, bits)                     \
+  put16(value + at, (m->field & m->field##_mask)); \
+  put16(mask + at, m->field##_mask & bits);
+#define PUT24(at, field, bits)                   \
+  put24(value + at, m->field & m->field##_mask); \
+  put24(mask + at, m->field##_mask & bits);
+#define PUT32(at, field)                         \
+  put32(value + at, m->field & m->field##_mask); \
+  put32(mask + at, m->field##_mask);
+#define PUT128(at, field)                             \
+  for (int i = 0; i < 16; ++i) {                      \
+    mask[at + i] = m->field##_mask[i];                \
+    value[at + i] = m->field[i] & m->field##_mask[i]; \
+  }
+
+#define GET_EXACT8(at, field) m->field = match->value[at];
+#define GET8(at, field, bits)  \
+  m->field = match->value[at]; \
+  m->field##_mask = match->mask[at];
+#define GET16(at, field, bits)         \
+  m->field = get16(match->value + at); \
+  m->field##_mask = get16(match->mask + at);
+#define GET24(at, field, bits)         \
+  m->field = get24(match->value + at); \
+  m->field##_mask = get24(match->mask + at);
+#define GET32(at, field)               \
+  m->field = get32(match->value + at); \
+  m->field##_mask = get32(match->mask + at);
+#define GET128(at, field)                  \
+  memcpy(m->field, match->value + at, 16); \
+  memcpy(m->field##_mask, match->mask + at, 16);
+
+#define DEFINE_TERNARY_KEY(table)                                                                \
+  static inline void table##_key(const SPEC(table##_match) * m, pipe_mgr_match_spec_t * match) { \
+    uint8_t *value = match->value;                                                               \
+    uint8_t *mask = match->mask;                                                                 \
+    table##_FIELDS(PUT_EXACT8, PUT8, PUT16, PUT24, PUT32, PUT128)                                \
+  }                                                                                              \
+  static inline void table##_read_key(const pipe_mgr_match_spec_t *match,                        \
+                                      SPEC(table##_match) * m) {                                 \
+    memset(m, 0, sizeof *m);                                                                     \
+    table##_FIELDS(GET_EXACT8, GET8, GET16, GET24, GET32, GET128)                                \
+  }
+DEFINE_TERNARY_KEY(cpuEncap)
+DEFINE_TERNARY_KEY(trapToCpu)
+DEFINE_TERNARY_KEY(finalDropControl)
+
+static inline void l2Lookup_key(const SPEC(l2Lookup_match) * m, pipe_mgr_match_spec_t *match) {
+  memset(match->mask, 0xff, 8);
+  put24(match->value, m->egrMd_dmacOui);
+  put24(match->value + 3, m->egrMd_dmacStation);
+  put16(match->value + 6, m->egrMd_egrL2Domain);
+}
+
+static inline void l2Lookup_read_key(const pipe_mgr_match_spec_t *match, SPEC(l2Lookup_match) * m) {
+  memset(m, 0, sizeof *m);
+  m->egrMd_dmacOui = get24(match->value);
+  m->egrMd_dmacStation = get24(match->value + 3);
+  m->egrMd_egrL2Domain = get16(match->value + 6);
+}
+
+static inline void ipv4ShortMaskLpm_key(const SPEC(ipv4ShortMaskLpm_match) * m,
+                                        pipe_mgr_match_spec_t *match) {
+  const uint32_t wildcard = 32u - m->ingIpv4_dip_prefix_length;
   const uint32_t bits = wildcard > 32 ? 0xffffffffu : wildcard == 32 ? 0 : 0xffffffffu << wildcard;
-  const uint32_t address = match_spec->ingIpv4_dip & bits;
-  value[1] = (uint8_t)(address >> 24);
-  mask[1] = (uint8_t)(bits >> 24);
-  value[2] = (uint8_t)(address >> 16);
-  mask[2] = (uint8_t)(bits >> 16);
-  value[3] = (uint8_t)(address >> 8);
-  mask[3] = (uint8_t)(bits >> 8);
-  value[4] = (uint8_t)(address);
-  mask[4] = (uint8_t)(bits);
-  match.priority = wildcard > 32 ? 41 : wildcard;
-  action.type = PIPE_ACTION_DATA;
-  action.data.valid_bit_count = 14;
-  action.data.byte_count = 2;
-  action.data.bytes = data;
-  data[0] = (uint8_t)(action_spec->action_nextHop >> 8);
-  data[1] = (uint8_t)(action_spec->action_nextHop);
-  return pipe_mgr_mat_ent_add(session, target.device_id, target.pipe_id, 0x0100002c, &match,
-                              0x20000139, &action, ttl, 0, entry);
+  match->value[0] = m->l3Info_vrfId;
+  match->mask[0] = 0xff;
+  put32(match->value + 1, m->ingIpv4_dip & bits);
+  put32(match->mask + 1, bits);
+  match->priority = wildcard > 32 ? 41 : wildcard;
 }
 
-p4_pd_status_t by_hand_ipv6ShortMaskLpm(
-    p4_pd_session_handle_t session, p4_pd_device_target_t target,
-    const p4_pd_tessel_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
-    const p4_pd_tessel_switch_setNextHop_action_spec_t *action_spec, uint32_t ttl,
-    p4_pd_entry_handle_t *entry) {
-  uint8_t value[17];
-  uint8_t mask[17];
-  uint8_t data[2];
-  pipe_mgr_match_spec_t match = {0};
-  pipe_mgr_action_spec_t action;
-  clear_action(&action);
-  match.valid_bit_count = 136;
-  match.byte_count = 17;
-  match.value = value;
-  match.mask = mask;
-  memset(mask, 0xff, sizeof mask);
-  value[0] = (uint8_t)(match_spec->l3Info_vrfId);
-  const unsigned length = match_spec->ingIpv6_dip_prefix_length;
+static inline void ipv4ShortMaskLpm_read_key(const pipe_mgr_match_spec_t *match,
+                                             SPEC(ipv4ShortMaskLpm_match) * m) {
+  const uint32_t mask = get32(match->mask + 1);
+  memset(m, 0, sizeof *m);
+  m->l3Info_vrfId = match->value[0];
+  m->ingIpv4_dip = get32(match->value + 1);
+  m->ingIpv4_dip_prefix_length = mask == 0 ? 0 : (uint16_t)(32 - __builtin_ctz(mask));
+}
+
+static inline void ipv6ShortMaskLpm_key(const SPEC(ipv6ShortMaskLpm_match) * m,
+                                        pipe_mgr_match_spec_t *match) {
+  const unsigned length = m->ingIpv6_dip_prefix_length;
+  memset(match->mask, 0xff, 17);
+  match->value[0] = m->l3Info_vrfId;
   if (length <= 128) {
     const unsigned whole = length / 8;
-    memset(mask + 1 + whole, 0, 16 - whole);
-    if (length % 8 != 0) mask[1 + whole] = (uint8_t)(0xff00u >> length % 8);
+    memset(match->mask + 1 + whole, 0, 16 - whole);
+    if (length % 8 != 0) match->mask[1 + whole] = (uint8_t)(0xff00u >> length % 8);
   }
-  for (int i = 0; i < 16; ++i) value[1 + i] = match_spec->ingIpv6_dip[i] & mask[1 + i];
-  match.priority = length > 128 ? 137 : 128 - length;
-  action.type = PIPE_ACTION_DATA;
-  action.data.valid_bit_count = 14;
-  action.data.byte_count = 2;
-  action.data.bytes = data;
-  data[0] = (uint8_t)(action_spec->action_nextHop >> 8);
-  data[1] = (uint8_t)(action_spec->action_nextHop);
-  return pipe_mgr_mat_ent_add(session, target.device_id, target.pipe_id, 0x0100002d, &match,
-                              0x20000148, &action, ttl, 0, entry);
+  for (int i = 0; i < 16; ++i) match->value[1 + i] = m->ingIpv6_dip[i] & match->mask[1 + i];
+  match->priority = length > 128 ? 137 : 128 - length;
 }
 
-p4_pd_status_t by_hand_trapToCpu(p4_pd_session_handle_t session, p4_pd_device_target_t target,
-                                 const p4_pd_tessel_switch_trapToCpu_match_spec_t *match_spec,
-                                 uint32_t priority,
-                                 const p4_pd_tessel_switch_trapPacket_action_spec_t *action_spec,
-                                 p4_pd_entry_handle_t *entry) {
-  uint8_t value[44];
-  uint8_t mask[44];
-  uint8_t data[1];
-  pipe_mgr_match_spec_t match = {0};
-  pipe_mgr_action_spec_t action;
-  clear_action(&action);
-  match.valid_bit_count = 287;
-  match.byte_count = 44;
-  match.value = value;
-  match.mask = mask;
-  value[0] = (uint8_t)((match_spec->ingMd_etherType & match_spec->ingMd_etherType_mask) >> 8);
-  mask[0] = (uint8_t)(match_spec->ingMd_etherType_mask >> 8);
-  value[1] = (uint8_t)((match_spec->ingMd_etherType & match_spec->ingMd_etherType_mask));
-  mask[1] = (uint8_t)(match_spec->ingMd_etherType_mask);
-  value[2] = (uint8_t)((match_spec->ingMd_bcast & match_spec->ingMd_bcast_mask));
-  mask[2] = (uint8_t)(match_spec->ingMd_bcast_mask & 0x1);
-  value[3] = (uint8_t)((match_spec->ingMd_mcast & match_spec->ingMd_mcast_mask));
-  mask[3] = (uint8_t)(match_spec->ingMd_mcast_mask & 0x1);
-  value[4] = (uint8_t)((match_spec->ingMd_l4Attr & match_spec->ingMd_l4Attr_mask));
-  mask[4] = (uint8_t)(match_spec->ingMd_l4Attr_mask & 0x7);
-  value[5] = (uint8_t)((match_spec->ingMd_srcPort & match_spec->ingMd_srcPort_mask) >> 8);
-  mask[5] = (uint8_t)(match_spec->ingMd_srcPort_mask >> 8);
-  value[6] = (uint8_t)((match_spec->ingMd_srcPort & match_spec->ingMd_srcPort_mask));
-  mask[6] = (uint8_t)(match_spec->ingMd_srcPort_mask);
-  value[7] = (uint8_t)((match_spec->ingMd_dstPort & match_spec->ingMd_dstPort_mask) >> 8);
-  mask[7] = (uint8_t)(match_spec->ingMd_dstPort_mask >> 8);
-  value[8] = (uint8_t)((match_spec->ingMd_dstPort & match_spec->ingMd_dstPort_mask));
-  mask[8] = (uint8_t)(match_spec->ingMd_dstPort_mask);
-  value[9] = (uint8_t)((match_spec->phase0_ingVPort & match_spec->phase0_ingVPort_mask) >> 8);
-  mask[9] = (uint8_t)(match_spec->phase0_ingVPort_mask >> 8 & 0x3f);
-  value[10] = (uint8_t)((match_spec->phase0_ingVPort & match_spec->phase0_ingVPort_mask));
-  mask[10] = (uint8_t)(match_spec->phase0_ingVPort_mask);
-  value[11] = (uint8_t)((match_spec->ingMd_ingL3Aintf & match_spec->ingMd_ingL3Aintf_mask) >> 8);
-  mask[11] = (uint8_t)(match_spec->ingMd_ingL3Aintf_mask >> 8 & 0xf);
-  value[12] = (uint8_t)((match_spec->ingMd_ingL3Aintf & match_spec->ingMd_ingL3Aintf_mask));
-  mask[12] = (uint8_t)(match_spec->ingMd_ingL3Aintf_mask);
-  value[13] =
-      (uint8_t)((match_spec->l3Info_ingL3DmacValid & match_spec->l3Info_ingL3DmacValid_mask));
-  mask[13] = (uint8_t)(match_spec->l3Info_ingL3DmacValid_mask & 0x1);
-  value[14] = (uint8_t)((match_spec->ingMd_ttl & match_spec->ingMd_ttl_mask));
-  mask[14] = (uint8_t)(match_spec->ingMd_ttl_mask);
-  value[15] = (uint8_t)((match_spec->arpHdr_valid & match_spec->arpHdr_valid_mask));
-  mask[15] = (uint8_t)(match_spec->arpHdr_valid_mask & 0x1);
-  value[16] = (uint8_t)((match_spec->arpHdr_opcode & match_spec->arpHdr_opcode_mask) >> 8);
-  mask[16] = (uint8_t)(match_spec->arpHdr_opcode_mask >> 8);
-  value[17] = (uint8_t)((match_spec->arpHdr_opcode & match_spec->arpHdr_opcode_mask));
-  mask[17] = (uint8_t)(match_spec->arpHdr_opcode_mask);
-  value[18] = (uint8_t)((match_spec->ingMd_igmpSnoopingEnabled &
-                         match_spec->ingMd_igmpSnoopingEnabled_mask));
-  mask[18] = (uint8_t)(match_spec->ingMd_igmpSnoopingEnabled_mask & 0x1);
-  value[19] = (uint8_t)((match_spec->ingIpv4_dip & match_spec->ingIpv4_dip_mask) >> 24);
-  mask[19] = (uint8_t)(match_spec->ingIpv4_dip_mask >> 24);
-  value[20] = (uint8_t)((match_spec->ingIpv4_dip & match_spec->ingIpv4_dip_mask) >> 16);
-  mask[20] = (uint8_t)(match_spec->ingIpv4_dip_mask >> 16);
-  value[21] = (uint8_t)((match_spec->ingIpv4_dip & match_spec->ingIpv4_dip_mask) >> 8);
-  mask[21] = (uint8_t)(match_spec->ingIpv4_dip_mask >> 8);
-  value[22] = (uint8_t)((match_spec->ingIpv4_dip & match_spec->ingIpv4_dip_mask));
-  mask[22] = (uint8_t)(match_spec->ingIpv4_dip_mask);
-  value[23] = (uint8_t)((match_spec->ingMd_protocol & match_spec->ingMd_protocol_mask));
-  mask[23] = (uint8_t)(match_spec->ingMd_protocol_mask);
-  value[24] = (uint8_t)((match_spec->egrMd_vxlanFlood & match_spec->egrMd_vxlanFlood_mask));
-  mask[24] = (uint8_t)(match_spec->egrMd_vxlanFlood_mask & 0x1);
-  value[25] = (uint8_t)((match_spec->egrMd_decapType & match_spec->egrMd_decapType_mask));
-  mask[25] = (uint8_t)(match_spec->egrMd_decapType_mask & 0x7);
-  for (int i = 0; i < 16; ++i) {
-    mask[26 + i] = match_spec->ingIpv6_dip_mask[i];
-    value[26 + i] = match_spec->ingIpv6_dip[i] & match_spec->ingIpv6_dip_mask[i];
+static inline void ipv6ShortMaskLpm_read_key(const pipe_mgr_match_spec_t *match,
+                                             SPEC(ipv6ShortMaskLpm_match) * m) {
+  uint64_t words[2];
+  memcpy(words, match->mask + 1, 16);
+  memset(m, 0, sizeof *m);
+  m->l3Info_vrfId = match->value[0];
+  memcpy(m->ingIpv6_dip, match->value + 1, 16);
+  if (words[1] != 0) {
+    m->ingIpv6_dip_prefix_length = (uint16_t)(128 - __builtin_ctzll(__builtin_bswap64(words[1])));
+  } else if (words[0] != 0) {
+    m->ingIpv6_dip_prefix_length = (uint16_t)(64 - __builtin_ctzll(__builtin_bswap64(words[0])));
   }
-  value[42] = (uint8_t)((match_spec->ingMd_cpuMemberOfIngressVlan &
-                         match_spec->ingMd_cpuMemberOfIngressVlan_mask));
-  mask[42] = (uint8_t)(match_spec->ingMd_cpuMemberOfIngressVlan_mask & 0x1);
-  value[43] = (uint8_t)((match_spec->egrMd_cpuReasonCode & match_spec->egrMd_cpuReasonCode_mask));
-  mask[43] = (uint8_t)(match_spec->egrMd_cpuReasonCode_mask);
-  match.priority = priority;
-  action.type = PIPE_ACTION_DATA;
-  action.data.valid_bit_count = 8;
-  action.data.byte_count = 1;
-  action.data.bytes = data;
-  data[0] = (uint8_t)(action_spec->action_cpuReasonCode);
-  action.resources[0].handle = 0x0400000a;
-  action.resources[0].tag = PIPE_RESOURCE_ATTACH;
-  action.resource_count = 1;
-  return pipe_mgr_mat_ent_add(session, target.device_id, target.pipe_id, 0x0100006d, &match,
-                              0x2000034f, &action, 0, 0, entry);
 }
 
-p4_pd_status_t by_hand_finalDropControl(
-    p4_pd_session_handle_t session, p4_pd_device_target_t target,
-    const p4_pd_tessel_switch_finalDropControl_match_spec_t *match_spec, uint32_t priority,
-    p4_pd_entry_handle_t *entry) {
-  uint8_t value[32];
-  uint8_t mask[32];
-  uint8_t data[1];
-  pipe_mgr_match_spec_t match = {0};
-  pipe_mgr_action_spec_t action;
-  clear_action(&action);
-  match.valid_bit_count = 72;
-  match.byte_count = 32;
-  match.value = value;
-  match.mask = mask;
-  value[0] =
-      (uint8_t)((match_spec->ig_intr_md_ingress_port & match_spec->ig_intr_md_ingress_port_mask) >>
-                8);
-  mask[0] = (uint8_t)(match_spec->ig_intr_md_ingress_port_mask >> 8 & 0x1);
-  value[1] =
-      (uint8_t)((match_spec->ig_intr_md_ingress_port & match_spec->ig_intr_md_ingress_port_mask));
-  mask[1] = (uint8_t)(match_spec->ig_intr_md_ingress_port_mask);
-  value[2] = (uint8_t)((match_spec->ingMd_drop & match_spec->ingMd_drop_mask));
-  mask[2] = (uint8_t)(match_spec->ingMd_drop_mask & 0x1);
-  value[3] = (uint8_t)((match_spec->ingMd_dropSmac & match_spec->ingMd_dropSmac_mask));
-  mask[3] = (uint8_t)(match_spec->ingMd_dropSmac_mask & 0x1);
-  value[4] = (uint8_t)((match_spec->ingMd_dropDmac & match_spec->ingMd_dropDmac_mask));
-  mask[4] = (uint8_t)(match_spec->ingMd_dropDmac_mask & 0x1);
-  value[5] =
-      (uint8_t)((match_spec->ingMd_invalidEgressPort & match_spec->ingMd_invalidEgressPort_mask));
-  mask[5] = (uint8_t)(match_spec->ingMd_invalidEgressPort_mask & 0x1);
-  value[6] =
-      (uint8_t)((match_spec->ingMd_samePortBridging & match_spec->ingMd_samePortBridging_mask));
-  mask[6] = (uint8_t)(match_spec->ingMd_samePortBridging_mask & 0x1);
-  value[7] = (uint8_t)((match_spec->ingMd_routedMartian & match_spec->ingMd_routedMartian_mask));
-  mask[7] = (uint8_t)(match_spec->ingMd_routedMartian_mask & 0x1);
-  value[8] = (uint8_t)((match_spec->ingMd_mlagPrune & match_spec->ingMd_mlagPrune_mask));
-  mask[8] = (uint8_t)(match_spec->ingMd_mlagPrune_mask & 0x1);
-  value[9] = (uint8_t)((match_spec->ingMd_v4V6Valid & match_spec->ingMd_v4V6Valid_mask));
-  mask[9] = (uint8_t)(match_spec->ingMd_v4V6Valid_mask & 0x7);
-  value[10] = (uint8_t)((match_spec->egrMd_egrL2AintfUnresolved &
-                         match_spec->egrMd_egrL2AintfUnresolved_mask) >>
-                        16);
-  mask[10] = (uint8_t)(match_spec->egrMd_egrL2AintfUnresolved_mask >> 16 & 0xf);
-  value[11] = (uint8_t)((match_spec->egrMd_egrL2AintfUnresolved &
-                         match_spec->egrMd_egrL2AintfUnresolved_mask) >>
-                        8);
-  mask[11] = (uint8_t)(match_spec->egrMd_egrL2AintfUnresolved_mask >> 8);
-  value[12] = (uint8_t)((match_spec->egrMd_egrL2AintfUnresolved &
-                         match_spec->egrMd_egrL2AintfUnresolved_mask));
-  mask[12] = (uint8_t)(match_spec->egrMd_egrL2AintfUnresolved_mask);
-  value[13] = (uint8_t)((match_spec->ig_intr_md_for_tm_mcast_grp_a &
-                         match_spec->ig_intr_md_for_tm_mcast_grp_a_mask) >>
-                        8);
-  mask[13] = (uint8_t)(match_spec->ig_intr_md_for_tm_mcast_grp_a_mask >> 8);
-  value[14] = (uint8_t)((match_spec->ig_intr_md_for_tm_mcast_grp_a &
-                         match_spec->ig_intr_md_for_tm_mcast_grp_a_mask));
-  mask[14] = (uint8_t)(match_spec->ig_intr_md_for_tm_mcast_grp_a_mask);
-  value[15] = (uint8_t)((match_spec->egrMd_routed & match_spec->egrMd_routed_mask));
-  mask[15] = (uint8_t)(match_spec->egrMd_routed_mask & 0x1);
-  value[16] = (uint8_t)((match_spec->egrMd_trapToCpu & match_spec->egrMd_trapToCpu_mask));
-  mask[16] = (uint8_t)(match_spec->egrMd_trapToCpu_mask & 0x1);
-  value[17] = (uint8_t)((match_spec->ingMd_dropDatalink & match_spec->ingMd_dropDatalink_mask));
-  mask[17] = (uint8_t)(match_spec->ingMd_dropDatalink_mask & 0x1);
-  value[18] = (uint8_t)((match_spec->ingVlanStpCheck_stpBlocked &
-                         match_spec->ingVlanStpCheck_stpBlocked_mask));
-  mask[18] = (uint8_t)(match_spec->ingVlanStpCheck_stpBlocked_mask & 0x1);
-  value[19] = (uint8_t)((match_spec->ingVlanStpCheck_invalidVlan &
-                         match_spec->ingVlanStpCheck_invalidVlan_mask));
-  mask[19] = (uint8_t)(match_spec->ingVlanStpCheck_invalidVlan_mask & 0x1);
-  value[20] = (uint8_t)((match_spec->ingMd_dot1xDrop & match_spec->ingMd_dot1xDrop_mask));
-  mask[20] = (uint8_t)(match_spec->ingMd_dot1xDrop_mask & 0x1);
-  value[21] = (uint8_t)((match_spec->ig_intr_md_for_tm_copy_to_cpu &
-                         match_spec->ig_intr_md_for_tm_copy_to_cpu_mask));
-  mask[21] = (uint8_t)(match_spec->ig_intr_md_for_tm_copy_to_cpu_mask & 0x1);
-  value[22] =
-      (uint8_t)((match_spec->ingMd_stormControlDrop & match_spec->ingMd_stormControlDrop_mask));
-  mask[22] = (uint8_t)(match_spec->ingMd_stormControlDrop_mask & 0x1);
-  value[23] = (uint8_t)((match_spec->fwMd_fwDrop & match_spec->fwMd_fwDrop_mask));
-  mask[23] = (uint8_t)(match_spec->fwMd_fwDrop_mask & 0x1);
-  value[24] =
-      (uint8_t)((match_spec->fwMd_escortToRecircPort & match_spec->fwMd_escortToRecircPort_mask));
-  mask[24] = (uint8_t)(match_spec->fwMd_escortToRecircPort_mask & 0x1);
-  value[25] = (uint8_t)((match_spec->fwMd_meterDrop & match_spec->fwMd_meterDrop_mask));
-  mask[25] = (uint8_t)(match_spec->fwMd_meterDrop_mask & 0x1);
-  value[26] = (uint8_t)((match_spec->flowMgmt_newFlowMeterDrop &
-                         match_spec->flowMgmt_newFlowMeterDrop_mask));
-  mask[26] = (uint8_t)(match_spec->flowMgmt_newFlowMeterDrop_mask & 0x1);
-  value[27] =
-      (uint8_t)((match_spec->tesselFlowMgmtHdr_valid & match_spec->tesselFlowMgmtHdr_valid_mask));
-  mask[27] = (uint8_t)(match_spec->tesselFlowMgmtHdr_valid_mask & 0x1);
-  value[28] =
-      (uint8_t)((match_spec->flowMgmt_flowLimitDrop & match_spec->flowMgmt_flowLimitDrop_mask));
-  mask[28] = (uint8_t)(match_spec->flowMgmt_flowLimitDrop_mask & 0x1);
-  value[29] = (uint8_t)((match_spec->kflowMd_drop & match_spec->kflowMd_drop_mask));
-  mask[29] = (uint8_t)(match_spec->kflowMd_drop_mask & 0x1);
-  value[30] = (uint8_t)((match_spec->ingMd_bcast & match_spec->ingMd_bcast_mask));
-  mask[30] = (uint8_t)(match_spec->ingMd_bcast_mask & 0x1);
-  value[31] = (uint8_t)((match_spec->ingMd_mcast & match_spec->ingMd_mcast_mask));
-  mask[31] = (uint8_t)(match_spec->ingMd_mcast_mask & 0x1);
-  match.priority = priority;
-  action.type = PIPE_ACTION_DATA;
-  action.data.valid_bit_count = 0;
-  action.data.byte_count = 0;
-  action.data.bytes = data;
-  action.resources[0].handle = 0x04000009;
-  action.resources[0].tag = PIPE_RESOURCE_ATTACH;
-  action.resource_count = 1;
-  return pipe_mgr_mat_ent_add(session, target.device_id, target.pipe_id, 0x0100006a, &match,
-                              0x20000334, &action, 0, 0, entry);
-}
+#endif
+
+/* ---- Actions ---- */
+
+#ifdef STORES_ONLY
+#define PUT_PARAMETER(put) memset(data, 0, sizeof data), (void)action_spec
+#else
+#define PUT_PARAMETER(put) put
+#endif
+#define DATA_copyPktToCpuSubintf PUT_PARAMETER(data[0] = action_spec->action_copyPipelineQid);
+#define DATA_copyPktToCpuTagged DATA_copyPktToCpuSubintf
+#define DATA_l2LookupKnownUcast PUT_PARAMETER(put24(data, action_spec->action_egrL2Aintf));
+#define DATA_setNextHop PUT_PARAMETER(put16(data, action_spec->action_nextHop));
+#define DATA_trapPacket PUT_PARAMETER(data[0] = action_spec->action_cpuReasonCode);
+#define DATA_dropCount (void)data;
+#define DATA_onMiss (void)data;
+#define DATA_ipv4ShortMaskLpmMiss (void)data;
+#define DATA_setFibMiss (void)data;
+#define DATA_accept (void)data;
+
+#define READ_copyPktToCpuSubintf \
+  ((SPEC(copyPktToCpuSubintf_action) *)action_spec)->action_copyPipelineQid = data[0];
+#define READ_l2LookupKnownUcast \
+  ((SPEC(l2LookupKnownUcast_action) *)action_spec)->action_egrL2Aintf = get24(data);
+#define READ_setNextHop ((SPEC(setNextHop_action) *)action_spec)->action_nextHop = get16(data);
+#define READ_trapPacket ((SPEC(trapPacket_action) *)action_spec)->action_cpuReasonCode = data[0];
+#define READ_dropCount (void)action_spec;
+
+/* ---- Calls ---- */
+
+/* What callers may get wrong is checked as the library does it; by the bytes of the parameters. */
+#ifdef STORES_ONLY
+#define REFUSE(is_wrong)
+#else
+#define REFUSE(is_wrong) \
+  if (is_wrong) return P4_PD_NULL_ARGUMENT;
+#endif
+#define LACKS_0 false
+#define LACKS_1 action_spec == NULL
+#define LACKS_2 action_spec == NULL
+#define LACKS_3 action_spec == NULL
+#define LACKS_PRIORITY_TERNARY priority == NULL
+#define LACKS_PRIORITY_EXACT false
+#define LACKS_PRIORITY_LPM false
+
+#define SET_PRIORITY_TERNARY match.priority = priority;
+#define SET_PRIORITY_EXACT
+#define SET_PRIORITY_LPM
+#define READ_PRIORITY_OF_TERNARY *priority = match.priority;
+#define READ_PRIORITY_OF_EXACT
+#define READ_PRIORITY_OF_LPM
+#define PASS_TTL_TERNARY 0
+#define PASS_TTL_EXACT 0
+#define PASS_TTL_LPM ttl
+
+#define KEY(table, KIND, key_bits, key_bytes) \
+  uint8_t value[key_bytes];                   \
+  uint8_t mask[key_bytes];                    \
+  pipe_mgr_match_spec_t match;                \
+  clear(&match, sizeof match);                \
+  match.valid_bit_count = key_bits;           \
+  match.byte_count = key_bytes;               \
+  match.value = value;                        \
+  match.mask = mask;                          \
+  table##_key(match_spec, &match);            \
+  SET_PRIORITY_##KIND
+
+#define ACTION(name, data_bits, data_size, attached) \
+  uint8_t data[data_size == 0 ? 1 : data_size];      \
+  pipe_mgr_action_spec_t action;                     \
+  clear(&action, sizeof action);                     \
+  DATA_##name action.type = PIPE_ACTION_DATA;        \
+  action.data.valid_bit_count = data_bits;           \
+  action.data.byte_count = data_size;                \
+  action.data.bytes = data;                          \
+  if (attached != 0) {                               \
+    action.resources[0].handle = attached;           \
+    action.resources[0].tag = PIPE_RESOURCE_ATTACH;  \
+    action.resource_count = 1;                       \
+  }
+
+#define DEFINE_READ(table, KIND, key_bits, key_bytes, handle, name, name_handle, data_size)        \
+  p4_pd_status_t NAMED(table##_read)(p4_pd_session_handle_t session, uint8_t device,               \
+                                     p4_pd_entry_handle_t entry, bool read_from_hardware,          \
+                                     p4_pd_tessel_switch_##table##_match_spec_t *match_spec,       \
+                                     READ_PRIORITY_##KIND char *action_name, void *action_spec,    \
+                                     uint32_t *action_value, bool *no_key) {                       \
+    REFUSE(match_spec == NULL || no_key == NULL || LACKS_PRIORITY_##KIND)                          \
+    uint8_t value[key_bytes], mask[key_bytes], data[8];                                            \
+    pipe_mgr_match_spec_t match;                                                                   \
+    pipe_mgr_action_spec_t action;                                                                 \
+    uint32_t action_handle = 0;                                                                    \
+    clear(&match, sizeof match);                                                                   \
+    clear(&action, sizeof action);                                                                 \
+    match.valid_bit_count = key_bits;                                                              \
+    match.byte_count = key_bytes;                                                                  \
+    match.value = value;                                                                           \
+    match.mask = mask;                                                                             \
+    action.data.byte_count = sizeof data;                                                          \
+    action.data.bytes = data;                                                                      \
+    const p4_pd_status_t status = pipe_mgr_get_entry(session, handle, device, entry, &match,       \
+                                                     &action, &action_handle, read_from_hardware); \
+    if (status != BF_SUCCESS) return status;                                                       \
+    if (action.type != PIPE_ACTION_DATA) return P4_PD_NO_ACTION_DATA;                              \
+    if (action_handle != name_handle) return P4_PD_FOREIGN_ACTION;                                 \
+    REFUSE(data_size != 0 && action_spec == NULL)                                                  \
+    if (action_name != NULL) strcpy(action_name, "p4_pd_tessel_switch_" #name);                    \
+    if (action_value != NULL) *action_value = p4_pd_tessel_switch_##name;                          \
+    READ_##name *no_key = match.value == NULL;                                                     \
+    if (match.value != NULL) table##_read_key(&match, match_spec);                                 \
+    READ_PRIORITY_OF_##KIND return BF_SUCCESS;                                                     \
+  }
+
+#define DEFINE_CALLS(table, KIND, key_bits, key_bytes, handle, name, name_handle, bits, bytes,    \
+                     counter, default_name, default_handle, default_bits, default_bytes,          \
+                     default_counter)                                                             \
+  p4_pd_status_t NAMED(table##_add)(p4_pd_session_handle_t session, p4_pd_device_target_t target, \
+                                    MATCH_OF(table) PRIORITY_##KIND ACTION_##bytes(name)          \
+                                            TTL_##KIND p4_pd_entry_handle_t *                     \
+                                        entry) {                                                  \
+    REFUSE(match_spec == NULL || LACKS_##bytes)                                                   \
+    KEY(table, KIND, key_bits, key_bytes)                                                         \
+    ACTION(name, bits, bytes, counter)                                                            \
+    return pipe_mgr_mat_ent_add(session, target.device_id, target.pipe_id, handle, &match,        \
+                                name_handle, &action, PASS_TTL_##KIND, 0, entry);                 \
+  }                                                                                               \
+  p4_pd_status_t NAMED(table##_modify)(p4_pd_session_handle_t session, uint8_t device,            \
+                                       p4_pd_entry_handle_t entry MODIFY_##bytes(name)) {         \
+    REFUSE(LACKS_##bytes)                                                                         \
+    ACTION(name, bits, bytes, 0)                                                                  \
+    return pipe_mgr_mat_ent_set_action(session, device, handle, entry, name_handle, &action, 0);  \
+  }                                                                                               \
+  p4_pd_status_t NAMED(table##_delete)(p4_pd_session_handle_t session, uint8_t device,            \
+                                       p4_pd_entry_handle_t entry) {                              \
+    return pipe_mgr_mat_ent_del(session, device, handle, entry, 0);                               \
+  }                                                                                               \
+  p4_pd_status_t NAMED(table##_find)(                                                             \
+      p4_pd_session_handle_t session, p4_pd_device_target_t target,                               \
+      MATCH_OF(table) PRIORITY_##KIND p4_pd_entry_handle_t * entry) {                             \
+    REFUSE(match_spec == NULL)                                                                    \
+    KEY(table, KIND, key_bits, key_bytes)                                                         \
+    return pipe_mgr_match_spec_to_ent_hdl(session, target.device_id, target.pipe_id, handle,      \
+                                          &match, entry);                                         \
+  }                                                                                               \
+  p4_pd_status_t NAMED(table##_set_default)(                                                      \
+      p4_pd_session_handle_t session, p4_pd_device_target_t target,                               \
+      ACTION_##default_bytes(default_name) p4_pd_entry_handle_t * entry) {                        \
+    REFUSE(LACKS_##default_bytes)                                                                 \
+    ACTION(default_name, default_bits, default_bytes, default_counter)                            \
+    return pipe_mgr_mat_default_entry_set(session, target.device_id, target.pipe_id, handle,      \
+                                          default_handle, &action, 0, entry);                     \
+  }                                                                                               \
+  DEFINE_READ(table, KIND, key_bits, key_bytes, handle, name, name_handle, bytes)
+BY_HAND_TABLES(DEFINE_CALLS)
