@@ -433,10 +433,14 @@ class ColumnValues {
   bool is_signed_ = false;
 };
 
+// Whether an argument has a value for each entry: a list, a buffer, an iterator, or another object
+// with a length. Networks and numbers of arrays have none.
 bool is_column(PyObject *object) {
-  if (PyUnicode_Check(object) || PyBytes_Check(object) || PyIndex_Check(object) != 0) return false;
-  return PyObject_CheckBuffer(object) != 0 || PyList_Check(object) || PyIter_Check(object) != 0 ||
-         PyObject_HasAttrString(object, "__iter__") != 0;
+  if (PyUnicode_Check(object) || PyBytes_Check(object) || PyTuple_Check(object)) return false;
+  if (PyIter_Check(object) != 0) return true;
+  const bool has_length = PyObject_Size(object) >= 0;
+  PyErr_Clear();
+  return has_length;
 }
 
 // One column of add_columns: values, or values with their masks or prefix lengths.
@@ -448,7 +452,7 @@ struct NamedColumn {
   void store(BulkAdder &adder, size_t row) const {
     if (parts.size() == 1 && parts[0].is_list()) {
       adder.store(column, parts[0].object(row));
-    } else if (parts.size() == 1 && column.field != nullptr) {
+    } else if (column.field != nullptr && are_numbers()) {
       adder.store(column, value_of(row));
     } else {
       adder.store(column, Ref(object_of(row)).get());
@@ -456,14 +460,28 @@ struct NamedColumn {
   }
 
  private:
+  bool are_numbers() const { return std::ranges::none_of(parts, &ColumnValues::is_list); }
+  // Without objects; what is wrong is found again by way of one, which says so.
   FieldValue value_of(size_t row) const {
     const Field &field = *column.field;
-    const tesselctl::Number number = parts[0].number(row);
-    if (!number.fits(field.width)) {
-      field_value(*column.record, field, Ref(from_number(number)).get());  // raises
+    FieldValue value;
+    value.value = parts[0].number(row);
+    const bool is_lpm = field.match == tesselctl::Match::lpm;
+    bool is_good = value.value.fits(field.width);
+    if (parts.size() == 1) {
+      value.mask = field.match == tesselctl::Match::ternary ? tesselctl::key_bits(field)
+                                                            : tesselctl::low_ones(field.width);
+    } else {
+      const tesselctl::Number second = parts[1].number(row);
+      is_good = is_good && field.match != tesselctl::Match::exact &&
+                (is_lpm ? second <= tesselctl::Number(field.width) : second.fits(field.width));
+      value.mask = is_good && is_lpm
+                       ? tesselctl::prefix_mask(static_cast<unsigned>(second.low), field.width)
+                       : second;
+      is_good = is_good && (value.value & ~value.mask).is_zero();
     }
-    return {number, field.match == tesselctl::Match::ternary ? tesselctl::key_bits(field)
-                                                             : tesselctl::low_ones(field.width)};
+    if (is_good) return value;
+    return field_value(*column.record, field, Ref(object_of(row)).get());
   }
   PyObject *object_of(size_t row) const {
     const auto one = [&](const ColumnValues &part) {
@@ -563,7 +581,7 @@ PyObject *add_columns(PyObject *self, PyObject *const *arguments, Py_ssize_t cou
         keep = truth_of(value);
       } else if (is_named(name, "meter")) {
         adder.set_meter(value);
-      } else if (is_pair_of_columns(value) || (!PyTuple_Check(value) && is_column(value))) {
+      } else if (is_pair_of_columns(value) || is_column(value)) {
         described.push_back(adder.column(name));
         columns.push_back({described.back(), parts_of(described.back(), value)});
       } else {

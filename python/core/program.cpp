@@ -234,6 +234,28 @@ PyObject *get_records(PyObject *self, PyObject *name) {
   });
 }
 
+template <class Row>
+const char *action_of_handle(const Row *rows, uint32_t count, uint32_t handle) {
+  for (const Row &row : std::span(rows, count)) {
+    for (const soft_action_t &action : std::span(row.actions, row.action_count)) {
+      if (action.handle == handle) return action.name;
+    }
+  }
+  return nullptr;
+}
+
+PyObject *action_name(PyObject *self, PyObject *number) {
+  return guarded([&] {
+    const auto handle = static_cast<uint32_t>(unsigned_of(number, 4, "action"));
+    const soft_program_t &program = program_of(self).description();
+    const char *name = action_of_handle(program.tables, program.table_count, handle);
+    if (name == nullptr) {
+      name = action_of_handle(program.profiles, program.profile_count, handle);
+    }
+    return name == nullptr ? none() : text(name);
+  });
+}
+
 PyObject *create_device(PyObject *self, PyObject *arguments) {
   return guarded([&] {
     PyObject *device = nullptr;
@@ -279,6 +301,7 @@ PyMethodDef methods[] = {
     {"record", get_record, METH_VARARGS, "The type of a record, or None."},
     {"records", get_records, METH_O, "The names of a list of records."},
     {"objects", get_objects, METH_O, "The objects of a kind, described by name."},
+    {"action_name", action_name, METH_O, "The name of an action by its handle, or None."},
     {"create_device", create_device, METH_VARARGS, "Creates a soft device."},
     {nullptr, nullptr, 0, nullptr}};
 PyGetSetDef members[] = {{"name", get_name, nullptr, nullptr, nullptr},

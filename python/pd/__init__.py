@@ -11,7 +11,7 @@ from pd._device import Device, Session
 from pd._load import load
 from pd._profiles import Group, Member, Profile
 from pd._services import Digest, DigestEntry, Hash, Snapshot, Stage, ValueSet
-from pd._soft import clock, faults, journal
+from pd._soft import Clock, Faults, Journal, clock, faults, journal
 from pd._stateful import Counter, Meter, Register
 from pd._tables import Table
 from pd.errors import StatusError
@@ -19,8 +19,8 @@ from pd.errors import StatusError
 ALL_PIPES = BF_ALL_PIPES
 
 __all__ = [
-    "ALL_PIPES", "Counter", "CounterValues", "Device", "Digest", "DigestEntry", "Entry",
-    "Function", "Group", "Hash", "Hit", "IdleParams", "JournalCall", "Member", "Meter",
+    "ALL_PIPES", "Clock", "Counter", "CounterValues", "Device", "Digest", "DigestEntry", "Entry", "Faults",
+    "Function", "Group", "Hash", "Hit", "IdleParams", "Journal", "JournalCall", "Member", "Meter",
     "MeterSpec", "Opaque", "Output", "ParserTarget", "Parsers", "Profile", "Program", "Record",
     "Register", "Session", "Snapshot", "SnapshotControl", "Stage", "StatusError", "Table",
     "Target", "ValueSet", "WredParams", "clock", "errors", "faults", "journal", "load"]

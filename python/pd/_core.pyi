@@ -121,13 +121,15 @@ class NamedHashAttribute(NamedTuple):
     value: int
     reserved: int
 
-class Hit(NamedTuple):
+class Hit(tuple[Any, ...]):
+    """What became of traffic."""
     entry: int
-    is_default: int
-    action: int
-    group: int
-    member: int
-    color: int
+    is_default: bool
+    action: str | None
+    group: int | None
+    member: int | None
+    color: str
+    def __new__(cls, values: tuple[Any, ...], /) -> Hit: ...
 
 class Parsers(NamedTuple):
     direction: int
@@ -169,6 +171,7 @@ class Program:
     def record(self, list: str, name: str, /) -> type[Any]: ...
     def records(self, list: str, /) -> list[str]: ...
     def objects(self, kind: str, /) -> dict[str, dict[str, Any]]: ...
+    def action_name(self, handle: int, /) -> str | None: ...
     def create_device(self, id: int, pipes: int, virtual: bool, /) -> None: ...
 
 class SessionBase:

@@ -11,7 +11,7 @@ from pd._tables import Table
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
-    from typing import Any, Iterable, Iterator
+    from typing import Any, Iterable, Iterator, Self
 
 _started: set[str] = set()
 
@@ -123,7 +123,7 @@ class Device:
     def restore(self, state: str) -> None:
         _core.device_restore(self.id, state)
 
-    def __enter__(self) -> Device:
+    def __enter__(self) -> Self:
         return self
 
     def __exit__(self, *_error: object) -> None:
@@ -158,10 +158,10 @@ class Session(SessionBase):
             setattr(self, name, made)
             return made
 
-    def on(self, device: Device | int | None = None, pipe: int | None = None) -> Session:
+    def on(self, device: Device | int | None = None, pipe: int | None = None) -> Self:
         """The same session for another device, or for one pipe; None: all pipes."""
         number = self.device_id if device is None else number_of(device)
-        view: Session = self._on(number, pipe)
+        view: Self = self._on(number, pipe)
         return view
 
     def snapshot(self, direction: str = "ingress", first_stage: int = 0,
@@ -202,14 +202,7 @@ class Session(SessionBase):
         call(self._program, "restore_virtual_dev_state", "", self, self,
              number_of(virtual), self.pipe, 0)
 
-    def entry_of(self, table: int, entry: int, from_hardware: bool = False) -> str:
-        """An entry of a table by the handle of both, as a value string."""
-        output = _core.Output()
-        found = function(self._program, "by_handle_entry_value")
-        found(self, self.device_id, table, entry, int(from_hardware), output)
-        return str(output.value)
-
-    def __enter__(self) -> Session:
+    def __enter__(self) -> Self:
         return self
 
     def __exit__(self, *_error: object) -> None:

@@ -4,7 +4,7 @@ from __future__ import annotations
 import os
 import sys
 
-from pd import _core
+from pd import _core, errors
 from pd._device import Device, Session
 from pd._soft import clock, faults, journal
 
@@ -23,6 +23,8 @@ class Records(ModuleType):  # type: ignore[misc, valid-type]
         self.__dict__.update(_find=find, _names=names, __path__=[])
 
     def __getattr__(self, name: str) -> Any:
+        if name == "__all__":
+            return self._names()
         found = None if name.startswith("__") else self._find(name)
         if found is None:
             near = _core.nearest(name, self._names())
@@ -70,6 +72,6 @@ def load(name: str, package: str = "") -> dict[str, Any]:
     session = type("Session", (Session,), {"_program": program, "__module__": known})
     device = type("Device", (Device,), {"_program": program, "__module__": known,
                                         "_session_type": session})
-    made.update(Device=device, Session=session, program=program, clock=clock, faults=faults,
+    made.update(errors=errors, Device=device, Session=session, program=program, clock=clock, faults=faults,
                 journal=journal, __version__=program.version)
     return made

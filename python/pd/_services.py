@@ -7,7 +7,7 @@ from pd._core import Opaque, Output, Record, SnapshotControl
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
-    from typing import Any, Callable, Iterator
+    from typing import Any, Callable, Iterator, Self
 
 
 class Hash(Name):
@@ -110,7 +110,7 @@ class Digest(Name):
                 call(self._program, "digest_notify_ack", self.name, session, message)
         self._call("digest_register", self.session, self.session, learnt, None)
 
-    def listen(self) -> Digest:
+    def listen(self) -> Self:
         """Keeps entries for poll; a context manager that deregisters at its end."""
         self.register(self._waiting.append)
         return self
@@ -124,7 +124,7 @@ class Digest(Name):
     def deregister(self) -> None:
         self._call("digest_deregister", self.session, self.session)
 
-    def __enter__(self) -> Digest:
+    def __enter__(self) -> Self:
         return self
 
     def __exit__(self, *_error: object) -> None:
@@ -241,6 +241,7 @@ class Snapshot:
             raise ValueError(f"direction is 'ingress' or 'egress', not {direction!r}")
         self.session, self.direction = session, direction
         self._program = session._program
+        session.handle  # raises for a session that is closed
         self.handle: int = get(self._program, "snapshot_create", "", session.device_id,
                                session.pipe, first_stage, last_stage, int(direction == "egress"))
 
@@ -279,7 +280,7 @@ class Snapshot:
     def delete(self) -> None:
         self._call("snapshot_delete")
 
-    def __enter__(self) -> Snapshot:
+    def __enter__(self) -> Self:
         return self
 
     def __exit__(self, *_error: object) -> None:

@@ -4,7 +4,7 @@ from __future__ import annotations
 from pd import _core
 from pd._call import Name, control, read_control
 from pd._core import CounterValues, MeterSpec, Output
-from pd._tables import number_of
+from pd._tables import COLORS, number_of
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
@@ -13,7 +13,6 @@ if TYPE_CHECKING:
     from pd._tables import AnyEntry
 
 READ_FROM_HARDWARE = 1
-COLORS = ("green", "yellow", "red")
 
 
 class _Cells(Name):

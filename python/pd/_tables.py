@@ -11,8 +11,9 @@ if TYPE_CHECKING:
 
     AnyEntry = Entry[Any, Any]
 
-DUPLICATE_CHECK, CAPACITY = 2, 3  # PIPE_TABLE_*
+CAPACITY = 3  # PIPE_TABLE_CAPACITY
 NOTIFY = 1  # PIPE_IDLE_NOTIFY
+COLORS = ("green", "yellow", "red")
 
 
 def number_of(entry: Any) -> int:
@@ -215,10 +216,11 @@ class Table(TableBase):
         """
         key = self.packet_key(**fields)
         bits = hash.to_bytes(8, "big") if isinstance(hash, int) else hash
-        hit: Hit = read_control("traffic_hit", self.session.device_id, self._pipe(pipe),
-                                self.handle, key, len(key), bits, len(bits), packets,
-                                64 * packets if bytes is None else bytes)
-        return hit
+        hit = read_control("traffic_hit", self.session.device_id, self._pipe(pipe), self.handle,
+                           key, len(key), bits, len(bits), packets,
+                           64 * packets if bytes is None else bytes)
+        return Hit((hit.entry, bool(hit.is_default), self._program.action_name(hit.action),
+                    hit.group or None, hit.member or None, COLORS[hit.color]))
 
     def memory(self) -> int:
         """Bytes that the soft device holds for the table."""

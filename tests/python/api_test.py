@@ -1,0 +1,292 @@
+"""What users of a program's package rely on: errors, sessions, bulk calls, callbacks, threads."""
+import array
+import gc
+import ipaddress
+import sys
+import threading
+
+import numpy
+import pytest
+
+import pd
+import tessel_switch as ts
+from tessel_switch.actions import setEcmpNextHop, setNextHop, setNextHop2
+
+
+@pytest.fixture
+def routes(session):
+    return session.tables.ipv4ShortMaskLpm
+
+
+def test_values_in_every_notation(session, routes):
+    entry = routes.add(setNextHop(nextHop=17), vrfId=3, dip="10.1.0.0/16")
+    for dip in ((0x0a010000, 16), ("10.1.0.0", 16), ipaddress.ip_network("10.1.0.0/16"),
+                (b"\x0a\x01\0\0", numpy.uint8(16))):
+        assert routes.find(vrfId=numpy.int64(3), dip=dip) == entry
+    key = routes.get(entry).key
+    assert (key.vrfId, key.dip) == (3, "10.1.0.0/16")
+    assert key._masked("dip") == (0x0a010000, 0xffff0000)
+    assert repr(key) == "ipv4ShortMaskLpm(vrfId=3, dip='10.1.0.0/16')"
+    assert key in {key} and key != ts.keys.ipv4ShortMaskLpm(vrfId=3, dip="10.1.0.0/17")
+    match setNextHop(nextHop=5):
+        case setNextHop(nextHop=hop):
+            assert hop == 5
+    policy = session.tables.firewallPolicy
+    entry = policy.add(ts.actions.setFirewallPolicyDrop(counterIndex=1, log=0, meterDrop=0),
+                       priority=10, protocol="tcp", dstPort=(0x3f0, 0xfff0))
+    key = policy.get(entry).key
+    assert (key.protocol, key.dstPort, key.srcPort) == (6, "0x3f0&0xfff0", "*")
+
+
+@pytest.mark.parametrize("fields, error, named", [
+    (dict(vrfId=256, dip="10.0.0.0/8"), ValueError, "vrfId.*at most 255"),
+    (dict(vrfId=-1, dip="10.0.0.0/8"), ValueError, "vrfId.*0 or more"),
+    (dict(vrfId=1 << 200, dip="10.0.0.0/8"), ValueError, "vrfId"),
+    (dict(vrfId=1.5, dip="10.0.0.0/8"), TypeError, "vrfId.*not float"),
+    (dict(vrfId=None, dip="10.0.0.0/8"), TypeError, "vrfId.*not NoneType"),
+    (dict(vrfId=0, dip="10.0.0.1/8"), ValueError, "dip.*did you mean '10.0.0.0/8'"),
+    (dict(vrfId=0, dip=(1, 33)), ValueError, "dip.*at most 32"),
+    (dict(vrfId=0, dip=(1, 2, 3)), TypeError, "dip"),
+    (dict(vrfId=0, dip=b"abc"), ValueError, "dip has 4"),
+    (dict(vrfId=0, dip="\ud800"), ValueError, ""),
+    (dict(vrfId=(1, 2), dip=0), ValueError, "vrfId.*exactly"),
+    (dict(vrfId=0), TypeError, "also needs dip"),
+    (dict(vrfId=0, dpi="10.0.0.0/8"), TypeError, "did you mean 'dip'"),
+    (dict(vrfId=0, dip=0, priority=1), TypeError, "no priorities"),
+    (dict(vrfId=0, dip=0, entry=1), TypeError, "no entry="),
+    (dict(vrfId=0, dip=0, ttl=-1), ValueError, "ttl"),
+    (dict(key=setNextHop(nextHop=1)), TypeError, "key"),
+    (dict(key=ts.keys.ipv4ShortMaskLpm(vrfId=0, dip=0), vrfId=0), TypeError, "not both")])
+def test_wrong_fields_are_named(routes, fields, error, named):
+    with pytest.raises(error, match=named):
+        routes.add(setNextHop(nextHop=1), **fields)
+    assert len(routes) == 0
+
+
+def test_wrong_objects_are_refused(session, routes):
+    for wrong in (None, 1, "setNextHop", setNextHop, setEcmpNextHop(nextHop=1), object()):
+        with pytest.raises(TypeError, match="takes one of its actions: setNextHop"):
+            routes.add(wrong, vrfId=0, dip=0)
+    with pytest.raises(TypeError, match="a member or a group"):
+        session.tables.ecmpGroup.add(setNextHop(nextHop=1), ecmpGroup=7)
+    with pytest.raises(TypeError, match="one of its actions"):
+        session.profiles.ecmpMemberActionProfile.add(setNextHop(nextHop=1))
+    with pytest.raises(AttributeError, match="did you mean ipv4ShortMaskLpm"):
+        session.tables.ipv4ShortMaskLmp
+    with pytest.raises(AttributeError, match="did you mean setNextHop"):
+        ts.actions.setNextHopp
+    with pytest.raises(AttributeError):
+        setNextHop(nextHop=1).nextHop = 2
+    for wrong in (object(), "x", 1.5, -1, 1 << 40):
+        with pytest.raises((TypeError, ValueError)):
+            routes.get(wrong)
+    for wrong in ((), (1,), (1, 2, 3, 4, 5, 6)):
+        with pytest.raises(TypeError):
+            pd._core.TableBase(*wrong)
+        with pytest.raises(TypeError):
+            routes.delete(*wrong, vrfId=0, bogus=1)
+    too_short = bytearray(3)
+    with pytest.raises(ValueError, match="3 bytes, and the call needs 4"):
+        ts.raw.p4_pd_tessel_switch_ipv4ShortMaskLpm_get_entry_count(session, session, too_short)
+
+
+def test_statuses_are_exceptions(session, routes):
+    with pytest.raises(pd.errors.ObjectNotFound) as caught:
+        routes.find(vrfId=0, dip=0)
+    assert (caught.value.status, caught.value.name) == (7, "BF_OBJECT_NOT_FOUND")
+    assert caught.value.text in str(caught.value)
+    assert isinstance(caught.value, pd.StatusError)
+    ts.faults.fail_call("pipe_mgr_mat_ent_add", 4711)
+    with pytest.raises(pd.StatusError) as caught:
+        routes.add(setNextHop(nextHop=1), vrfId=0, dip=0)
+    assert caught.value.status == 4711
+    numbers = [one.status for one in vars(pd.errors).values() if hasattr(one, "status")]
+    assert sorted(numbers) == [*range(1, 20), *range(0x1001, 0x1007), 0xffffffff]
+
+
+def test_closed_sessions_and_devices(device, routes):
+    with device.session() as session:
+        view = session.on(pipe=1)
+        table = view.tables.ipv4ShortMaskLpm
+    assert session.closed and view.closed
+    for call in (lambda: table.find(vrfId=0, dip=0), lambda: session.handle, lambda: len(table),
+                 lambda: session.snapshot(), lambda: session.on(pipe=1)):
+        with pytest.raises(ValueError, match="closed"):
+            call()
+    session.close()
+    device.remove()
+    device.remove()
+    with pytest.raises(pd.errors.InvalidDevice):
+        routes.find(vrfId=0, dip=0)
+    with pytest.raises(pd.errors.InvalidDevice):
+        device.now()
+
+
+def test_bulk_adds_all_or_nothing(session, routes):
+    rows = [("10.0.0.0/8", 1), ("11.0.0.0/8", 2), ("12.0.0.0/8", 3)]
+    handles = routes.add_rows(setNextHop, rows, vrfId=1)
+    assert [routes.get(one).action.nextHop for one in handles] == [1, 2, 3]
+    assert numpy.asarray(handles).dtype == numpy.uint32
+    bad = rows + [("12.0.0.0/33", 3)]
+    with pytest.raises(ValueError, match="dip") as caught:
+        routes.add_rows(setNextHop, bad, vrfId=2)
+    assert caught.value.row == 3 and list(caught.value.handles) == [] and len(routes) == 3
+    with pytest.raises(pd.errors.AlreadyExists, match="row 600") as caught:
+        routes.add_rows(setNextHop, (((n % 600) << 16 | 1, 7) for n in range(700)),
+                        columns=("dip", "nextHop"), vrfId=2, keep=True)
+    assert caught.value.row == 600 and len(caught.value.handles) == 600
+    assert len(routes) == 603
+    with pytest.raises(ZeroDivisionError):
+        routes.add_rows(setNextHop, ((n << 16, 1 // (5 - n)) for n in range(9)), vrfId=3)
+    for wrong in ([1], [(1, 2, 3)], [{"dip": 1}], [{"dip": 1, "nextHop": 1}, {"dip": 2}], 7):
+        with pytest.raises((TypeError, ValueError)):
+            routes.add_rows(setNextHop, wrong, vrfId=3)
+    with pytest.raises(TypeError, match="given twice"):
+        routes.add_rows(setNextHop, rows, columns=("dip", "vrfId", "nextHop"), vrfId=3)
+    assert len(routes) == 603 and routes.clear() == 603
+
+
+def test_columns_of_any_kind(session, routes):
+    dips = numpy.arange(0, 5 << 8, 1 << 8, dtype=numpy.uint32)
+    hops = array.array("H", range(5))
+    handles = routes.add_columns(setNextHop, vrfId=1, dip=(dips, [24] * 5), nextHop=hops)
+    assert routes.get(handles[4]).key.dip == "0.0.4.0/24"
+    assert routes.get(handles[4]).action.nextHop == 4
+    routes.add_columns(setNextHop(nextHop=3), vrfId=2, dip=[f"10.{n}.0.0/16" for n in range(5)])
+    # Every second one, as a strided array.
+    routes.add_columns(setNextHop(nextHop=3), vrfId=3, dip=dips[::2])
+    assert routes.find(vrfId=3, dip=(0x400, 32))
+    six = numpy.zeros((3, 16), dtype=numpy.uint8)
+    six[:, 15] = range(3)
+    table = session.tables.ipv6ShortMaskLpm
+    table.add_columns(setNextHop(nextHop=1), vrfId=1, dip=(six, [128] * 3))
+    assert table.find(vrfId=1, dip="::2/128")
+    for wrong in (dict(dip=dips, nextHop=[1]), dict(dip=dips.astype("f8"), nextHop=1),
+                  dict(dip=numpy.array([-1]), nextHop=1), dict(dip=dips),
+                  dict(dip=dips, nextHop=numpy.array([1 << 14] * 5)), dict(dip=1, nextHop=1)):
+        with pytest.raises((TypeError, ValueError)):
+            routes.add_columns(setNextHop, vrfId=9, **wrong)
+    assert len(routes) == 13
+    assert session.add_routes([("192.0.2.0/24", 1), (ipaddress.ip_network("2001:db8::/32"), 2)],
+                              vrfId=7) == 2
+    with pytest.raises(ValueError) as caught:
+        session.add_routes([("192.0.2.0/24", 1), ("2001:db8::/32", 1 << 14)], vrfId=8)
+    assert caught.value.row == 1 and len(routes) == 14 and len(table) == 4
+
+
+def test_callbacks_and_time(device, session, routes):
+    expired = []
+    routes.on_expiry(expired.append)
+    routes.enable_ageing(sweep_interval=500, default_ttl=2000)
+    entry = routes.add(setNextHop(nextHop=1), vrfId=0, dip=0)
+    device.advance(1500)
+    routes.traffic(vrfId=0, dip=0)
+    assert routes.is_active(entry)
+    device.advance(1500)
+    assert expired == []
+    ts.clock.advance(1000)
+    assert expired == [entry]
+    # An exception of a callback is reported, and the call goes on.
+    reported = []
+    routes.on_update(lambda update, entry: 1 // 0)
+    before, sys.unraisablehook = sys.unraisablehook, lambda raised: reported.append(raised)
+    try:
+        routes.delete(entry)
+    finally:
+        sys.unraisablehook = before
+    assert reported[0].exc_type is ZeroDivisionError and len(routes) == 0
+    # A callback may call the library.
+    seen = []
+    routes.on_update(lambda update, entry: seen.append((update, len(routes))))
+    routes.add(setNextHop(nextHop=1), vrfId=0, dip=0)
+    assert seen == [(0, 1)]
+
+
+def test_threads_share_a_session(session, routes):
+    updates, faults = [], []
+    routes.on_update(lambda update, entry: updates.append(entry))
+
+    def work(vrf):
+        try:
+            for n in range(300):
+                entry = routes.add(setNextHop(nextHop=n), vrfId=vrf, dip=(n << 8, 24))
+                assert routes.get(entry).action.nextHop == n
+            routes.add_rows(setNextHop, ((("1.0.0.0", 8 + n), n) for n in range(20)), vrfId=vrf)
+        except BaseException as error:
+            faults.append(error)
+    threads = [threading.Thread(target=work, args=(vrf,)) for vrf in range(8)]
+    for thread in threads:
+        thread.start()
+    for thread in threads:
+        thread.join()
+    assert not faults and len(routes) == 8 * 320 == len(updates)
+
+
+def test_journal_and_faults(session, routes, journal, faults):
+    faults.fail_call("pipe_mgr_mat_ent_add", pd.errors.TableFull, n=2)
+    routes.add(setNextHop2(nextHop=5), vrfId=1, dip="10.0.0.0/8")
+    with pytest.raises(pd.errors.TableFull):
+        routes.add(setNextHop2(nextHop=5), vrfId=1, dip="11.0.0.0/8")
+    first, second = journal.calls("pipe_mgr_mat_ent_add")
+    assert first.arguments["match"]["value"] == b"\x01\x0a\0\0\0"
+    assert first.arguments["action_spec"]["data"] == b"\0\5"
+    assert (first.performed, second.performed) == (True, False)
+    assert first.results == {"entry": 1} and second.status == 8
+
+
+def test_devices(device, session, routes):
+    routes.add(setNextHop(nextHop=1), vrfId=0, dip=0)
+    with ts.Device(1) as second, ts.Device(2, virtual=True) as virtual:
+        with pytest.raises(pd.errors.AlreadyExists):
+            ts.Device(1)
+        device.copy_to(second)
+        assert len(session.on(1).tables.ipv4ShortMaskLpm) == 1
+        member = session.on(2).profiles.ecmpMemberActionProfile.add(setEcmpNextHop(nextHop=9))
+        session.on(1).restore_virtual(virtual)
+        there = session.on(1).profiles.ecmpMemberActionProfile
+        assert [one.action() for one in there.members()] == [setEcmpNextHop(nextHop=9)]
+        assert member.action() == setEcmpNextHop(nextHop=9) and second.memory() > 0
+        second.restore(second.log())
+        session.set_wred(0x07000001, 3, (1.5, 10, 20, 0.25))
+        assert session.wred(0x07000001, 3) == (1.5, 10, 20, 0.25)
+        session.set_learning_timeout(1000)
+
+
+def memory():
+    with open("/proc/self/statm") as file:
+        return int(file.read().split()[1]) * 4096
+
+
+def use_everything():
+    with ts.Session() as one:
+        table = one.tables.ipv4ShortMaskLpm
+        entry = table.add(setNextHop(nextHop=1), vrfId=1, dip="10.0.0.0/8")
+        table.on_update(lambda update, entry: None)
+        for wrong in (lambda: table.add(setNextHop(nextHop=1), vrfId=1, dip="10.0.0.0/8"),
+                      lambda: table.add(setNextHop(nextHop=1), vrfId=1, dip="x"),
+                      lambda: table.add_rows(setNextHop, [("1.0.0.0/8", 1), ("x", 1)], vrfId=2),
+                      lambda: setNextHop(nextHop="x"), lambda: one.tables.x):
+            try:
+                wrong()
+                pytest.fail("it was taken")
+            except (pd.StatusError, ValueError, AttributeError):
+                pass
+        table.get(entry), list(table), table.lookup(vrfId=1, dip=0), table.label(entry)
+        table.add_columns(setNextHop, vrfId=2, dip=[1, 2], nextHop=[1, 2])
+        one.profiles.ecmpMemberActionProfile.add(setEcmpNextHop(nextHop=9)).delete()
+        with ts.journal:
+            table.clear()
+        ts.journal.calls()
+    ts.journal.clear()
+
+
+def test_nothing_leaks(session):
+    """Calls that succeed and calls that fail give back what they took."""
+    grown = []
+    for _ in range(4):
+        for _ in range(700):
+            use_everything()
+        gc.collect()
+        grown.append((memory(), sys.getrefcount(setNextHop), len(gc.get_objects())))
+    (first, *counts), (last, *counts_after) = grown[-2:]
+    assert last - first < 1 << 16 and counts == counts_after

@@ -1,0 +1,36 @@
+"""What type checkers let pass: all that a control plane does."""
+import ipaddress
+
+import pd
+import tessel_switch as ts
+from tessel_switch.actions import setEcmpNextHop, setNextHop, setNextHop2
+
+
+def put_route(session: ts.Session, prefix: str | ipaddress.IPv4Network, hop: int) -> int:
+    routes = session.tables.ipv4ShortMaskLpm
+    try:
+        return routes.add(setNextHop(nextHop=hop), vrfId=0, dip=prefix)
+    except pd.errors.AlreadyExists as error:
+        print(error.name, error.text)
+        routes.modify(setNextHop(nextHop=hop), vrfId=0, dip=prefix)
+    return routes.find(vrfId=0, dip=prefix)
+
+
+def use(device: ts.Device) -> list[str]:
+    with device.session() as session:
+        routes = session.tables.ipv4ShortMaskLpm
+        entry = routes.get(put_route(session, "10.0.0.0/8", 3))
+        prefix: str = entry.key.dip
+        vrf: int = entry.key.vrfId
+        if isinstance(entry.action, setNextHop2):
+            vrf += entry.action.nextHop
+        hit = routes.lookup(vrfId=vrf, dip=ipaddress.IPv4Address("10.1.1.1"))
+        assert hit is not None and hit.key is not None
+        members = session.profiles.ecmpMemberActionProfile
+        group = members.create_group(members.add(setEcmpNextHop(nextHop=1)))
+        session.tables.ecmpGroup.add(group, ecmpGroup=7)
+        packets: int = session.counters.finalDropControlCount.read(entry).packets
+        status: int = ts.raw.p4_pd_tessel_switch_ipv4ShortMaskLpm_get_entry_count(
+            session, session, pd.Output())
+        routes.delete(entry)
+        return [one.key.dip for one in routes] + [prefix, str(packets), str(status), hit.key.dip]

@@ -1,0 +1,249 @@
+"""Every function and every object of any program, called once with values of its description."""
+import pytest
+
+import pd
+from samples import fields_of, generator, outcomes, record_of, with_meter
+
+STRUCTURES = {"p4_pd_counter_values_t": (1, 64), "p4_pd_parser_target_t": (0, 0, 0, 0),
+              "p4_pd_idle_time_params_t": (1, 500, 0, 0, 0, 0)}
+KNOWN = {cls.status for cls in vars(pd.errors).values() if hasattr(cls, "status")} | {0}
+
+
+def argument_of(parameter, session, program, rng):
+    """Something that a parameter of C takes."""
+    c_type, name = parameter
+    if c_type in STRUCTURES:
+        return STRUCTURES[c_type]
+    if c_type.endswith("_cb_t"):
+        return lambda *_: None
+    if name in ("session", "target", "device"):
+        return session
+    if c_type == "const char *":
+        return "name"
+    if "placement_t" in c_type or "message_t" in c_type or name in ("cookie", "client_data"):
+        return None
+    if c_type.endswith("_match_spec_t *") or c_type.endswith("_action_spec_t *"):
+        kind = "keys" if "_match_spec_t" in c_type else "actions"
+        record = c_type.split(f"p4_pd_{program.name}_")[1].rsplit("_", 3)[0]
+        return record_of(program, kind, record, rng) if "const" in c_type else pd.Output()
+    if "query_t" in c_type:
+        return bytearray(64)
+    if c_type.endswith("*"):
+        return bytes(4096) if c_type.startswith("const") else pd.Output()
+    return 1
+
+
+def test_every_function(package, session):
+    """Functions return what C does, and outputs of those that succeed are read."""
+    rng, program = generator(), package.program
+    succeeded = 0
+    for name in program.functions():
+        if name.endswith(("_cleanup", "_init")):
+            continue
+        function = getattr(package.raw, name)
+        arguments = [argument_of(parameter, session, program, rng)
+                     for parameter in function.parameters]
+        # Lines for people go nowhere.
+        arguments = [9999 if row[1] == "descriptor" else one
+                     for row, one in zip(function.parameters, arguments)]
+        result = function(*arguments)
+        if function.result == "p4_pd_status_t":
+            assert result in KNOWN, name
+            succeeded += result == 0
+            if result == 0:
+                assert all(one.value is not None for row, one in
+                           zip(function.parameters, arguments)
+                           if isinstance(one, pd.Output) and "action_spec" not in row[0]), name
+    assert succeeded > len(program.functions()) / 4
+    # Neither too few arguments nor null pointers do harm.
+    for name in program.functions():
+        function = getattr(package.raw, name)
+        with pytest.raises(TypeError):
+            function(*[None] * (len(function.parameters) + 1))
+        if any("const" in row[0] and "_match_spec_t" in row[0] for row in function.parameters):
+            nulls = [None if row[0].endswith("*") else
+                     argument_of(row, session, program, rng) for row in function.parameters]
+            assert function(*nulls) in (pd.errors.NullArgument.status, -1, 0), name
+
+
+def test_every_keyed_table(package, session):
+    rng, hits = generator(2), 0
+    for table in session.tables:
+        key = package.program.record("keys", table.name)
+        if not key._describe():
+            continue
+        rest = {"priority": 7} if table.is_ternary else {}
+        last = None
+        for outcome in outcomes(session, table, rng):
+            fields = fields_of(key, rng)
+            try:
+                entry = with_meter(table.add, outcome, **fields, **rest)
+            except TypeError as error:  # of default entries alone
+                assert "cannot have the action" in str(error)
+                continue
+            last = outcome
+            read = table.get(entry)
+            assert read.key == key(**fields) and read.handle == entry, table.name
+            assert read.priority == (7 if table.is_ternary else None)
+            assert (read.action if table.profile is None else read.member or read.group) == (
+                outcome if table.profile is None else outcome.handle), table.name
+            # What is read is taken again.
+            assert key(**{name + "_": value for name, value in read.key._asdict().items()}) \
+                == read.key, table.name
+            assert table.find(key=read.key, **rest) == entry == table.find(**fields, **rest)
+            assert [one.handle for one in table] == [entry] and len(table) == 1
+            table.modify(outcome, entry=entry)
+            table.modify(outcome, key=read.key, **rest)
+            packet = {name: value[0] if isinstance(value, tuple) else value
+                      for name, value in fields.items()}
+            hit = table.lookup(**packet)
+            assert table.traffic(**packet).entry == hit.handle
+            hits += hit.handle == entry
+            assert table.value(entry).startswith("(((") and table.schema().startswith("(")
+            assert table.has_placement(table.placement(entry), entry)
+            assert isinstance(table.label(entry), str)
+            table.delete(entry)
+            with pytest.raises(pd.errors.ObjectNotFound):
+                table.find(**fields, **rest)
+        rows = [dict(fields_of(key, rng), **rest)]
+        handles = with_meter(table.add_rows, last, rows)
+        assert table.get(handles[0]).key == key(**{name: value for name, value in rows[0].items()
+                                                   if name.endswith("_")}), table.name
+        assert table.clear() == 1
+        columns = {name: ([value[0]], [value[1]]) if isinstance(value, tuple) else [value]
+                   for name, value in fields_of(key, rng).items()}
+        assert len(with_meter(table.add_columns, last, **columns, **rest)) == 1
+        assert table.clear() == 1 and not list(table)
+    assert hits > len(session.tables) / 4
+
+
+def test_every_table_as_a_whole(package, session):
+    rng = generator(3)
+    for table in session.tables:
+        updates = []
+        table.on_update(lambda update, entry: updates.append((update, entry)))
+        before = table.default_entry()
+        for outcome in outcomes(session, table, rng):
+            try:
+                entry = table.set_default(outcome)
+            except TypeError as error:
+                assert "cannot have the action" in str(error)
+                continue
+            read = table.default_entry()
+            assert read.handle == entry and read.key is None and updates[-1] == (3, entry)
+            assert (read.action if table.profile is None else read.member or read.group) == (
+                outcome if table.profile is None else outcome.handle), table.name
+        table.reset_default()
+        after = table.default_entry()
+        assert (before is None) == (after is None)
+        table.on_update(None)
+        table.set_capacity(3)
+        assert table.capacity() == 3 and table.memory() >= 0
+        assert repr(table) == f"<Table {table.name} of {package.program.name}>"
+        if table.ages_entries:
+            table.enable_ageing(sweep_interval=500, default_ttl=2000)
+            table.on_expiry(lambda entry: None)
+            assert table.ageing().default_ttl_ms == 2000
+            table.disable_ageing()
+
+
+def test_every_profile(package, session):
+    rng = generator(4)
+    for profile in session.profiles:
+        for name in profile.actions:
+            action = record_of(package.program, "actions", name, rng)
+            member = profile.add(action)
+            assert member.action() == action
+            member.modify(record_of(package.program, "actions", name, rng))
+            group = profile.create_group(member, max_size=4)
+            assert list(group) == [member] and len(group) == 1 and group.max_size() == 4
+            assert group.choose(1) == member and group.is_enabled(member)
+            group.enable(member, False)
+            profile.set_fallback(member)
+            assert not group.is_enabled(member) and profile.fallback() == member
+            profile.reset_fallback()
+            assert profile.fallback() is None
+            assert profile.active_members() == []
+            group.remove(member)
+            assert list(profile.groups()) == [group] and list(profile.members()) == [member]
+            assert (profile.member_count(), profile.group_count()) == (1, 1)
+            profile.clear()
+
+
+def test_every_cell(session):
+    for counter in session.counters:
+        if counter.table is None:
+            counter.count(5, packets=2, bytes=100, pipe=0)
+            assert counter.read(5) == (2, 100) and list(counter.used()) == [5]
+            counter.write(5, 7, 8)
+            assert counter.read(5) == (7, 8)
+        done = []
+        counter.synchronise(lambda: done.append(1))
+        assert done == [1]
+    for meter in session.meters:
+        if meter.table is None:
+            meter.set(3, committed_rate=1, committed_burst=1, peak_rate=2, peak_burst=2)
+            assert meter.read(3)[:4] == (1, 1, 2, 2) and list(meter.used()) == [3]
+            assert meter.mark(3, packets=1000) == "red"
+        meter.set_adjustment(4)
+        assert meter.adjustment() == 4
+    for register in session.registers:
+        most = (1 << register.width) - 1
+        register.write(2, most)
+        assert set(register.read(2)) == {most}
+        assert [set(values) for values in register.read_range(1, 3)] == [{0}, {most}, {0}]
+        register.packet_write(3, 1)
+        assert set(register.read(3)) == {1}
+        register.reset(2)
+        assert set(register.read(2)) == {0}
+        register.write_all(1)
+        register.reset()
+        register.synchronise()
+        with pytest.raises(ValueError, match=register.name):
+            register.write(0, most + 1)
+
+
+def test_every_service(package, session):
+    rng = generator(5)
+    for calculation in session.hashes:
+        calculation.set_seed(9)
+        assert calculation.seed() == 9
+        calculation.set_input(), calculation.set_algorithm()
+        assert (calculation.input(), calculation.algorithm()) == (0, 0)
+        calculation.set_attributes([(0, 1, 2)])
+        assert calculation.attributes() == [(0, 1, 2)]
+        assert calculation.calculate((5, 32), (6, 128)) == calculation.calculate((5, 32), (6, 128))
+        assert calculation.calculate((5, 32)) != calculation.calculate((6, 32))
+        for own in range(64):
+            common = calculation.common_field(own)
+            assert common is None or calculation.own_field(common) == own
+    for digest in session.digests:
+        kind = package.program.record("digests", digest.name)
+        fields = fields_of(kind, rng)
+        with digest.listen():
+            assert digest.inject(**fields)
+            (entry,) = digest.poll()
+            assert entry.record == kind(**fields) and entry.pipe == 0
+            assert digest.poll() == [] and digest.pending() == (0, 0)
+    for values in session.value_sets:
+        entry = values.add(5)
+        assert values.get(entry) == (5, 0xffffffff) and values.find(5) == entry
+        assert values.match(5) == entry and values.match(6) is None
+        values.modify(entry, 6)
+        assert list(values.handles()) == [entry] and values.count() == 1
+        assert values.parsers(entry).parser == 255
+        values.set_capacity(1)
+        assert values.capacity() == 1
+        values.delete(entry)
+    if package.program.records("triggers"):
+        for direction in package.program.records("triggers"):
+            kind = package.program.record("packets", direction)
+            label, _, _, _, width = kind._describe()[0]
+            with session.snapshot(direction, 1, 2) as snapshot:
+                assert snapshot.capture() == []
+                snapshot.trigger(**{label + "_": 1})
+                packet = {name + "_": 0 for name, *_ in kind._describe()}
+                assert snapshot.inject(first_stage=1, stages=2, **packet) == 0
+                assert snapshot.inject(first_stage=1, stages=2, **{**packet, label + "_": 1}) == 1
+                stages = snapshot.capture(pipe=0)
+                assert [(one.stage, one.triggered) for one in stages] == [(1, True), (2, True)]
