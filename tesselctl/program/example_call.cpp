@@ -1,4 +1,5 @@
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <deque>
@@ -73,7 +74,7 @@ const char *example_name(const Export &target, std::string_view name) {
 
 // Room for what any argument points at, zeroes but where the reader is to see a value.
 std::vector<uint8_t> example_object(const Parameter &parameter) {
-  std::vector<uint8_t> bytes(4096);
+  std::vector<uint8_t> bytes(std::max<size_t>(4096, program().snapshot_bytes));
   if (const bindings::Record *record = record_of_type(parameter.type)) {
     bytes.resize(std::max(bytes.size(), record->size));
     for (const Field &field : record->shown()) {
