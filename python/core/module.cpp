@@ -8,7 +8,7 @@
 #include "python/core/session.hpp"
 #include "python/core/status.hpp"
 #include "python/core/structure.hpp"
-#include "python/core/table.hpp"
+#include "python/core/tables/table.hpp"
 #include "soft_sdk.h"
 
 namespace {

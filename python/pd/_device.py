@@ -174,7 +174,7 @@ class Session(SessionBase):
         """Adds (prefix, next hop) for each route to the tables of IPv4 and IPv6.
 
         The other fields of the keys are the same for all. Returns how many were added. All or none
-        are, unless keep says that those before a fault stay.
+        are, unless keep says that what was added before a fault stays.
         """
         tables, action = self._program.routes
         if len(tables) != 2 or action is None:

@@ -62,8 +62,9 @@ def journal() -> Iterator[Any]:
 
 @pytest.fixture
 def good_calls(journal: Any) -> Iterator[Any]:
-    """The same. The test fails if a call of the SDK has failed."""
+    """The same. The test fails if a call of the SDK has failed, but for the end of an enumeration."""
     yield journal
-    failed = [call for call in journal.calls() if call.status]
+    failed = [call for call in journal.calls() if call.status
+              and "get_first" not in call.function and "get_next" not in call.function]
     if failed:
         pytest.fail("\n".join(f"{call.function} returned {call.status}" for call in failed))

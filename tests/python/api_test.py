@@ -2,6 +2,7 @@
 import array
 import gc
 import ipaddress
+import subprocess
 import sys
 import threading
 
@@ -172,6 +173,10 @@ def test_columns_of_any_kind(session, routes):
     with pytest.raises(ValueError) as caught:
         session.add_routes([("192.0.2.0/24", 1), ("2001:db8::/32", 1 << 14)], vrfId=8)
     assert caught.value.row == 1 and len(routes) == 14 and len(table) == 4
+    with pytest.raises(pd.errors.AlreadyExists, match="row 2") as caught:
+        session.add_routes([("1.0.0.0/8", 1), ("1::/16", 1), ("1.0.0.0/8", 1), ("2::/16", 2)],
+                           vrfId=8, keep=True)
+    assert caught.value.row == 2 and len(caught.value.handles) == 1
 
 
 def test_callbacks_and_time(device, session, routes):
@@ -290,3 +295,25 @@ def test_nothing_leaks(session):
         grown.append((memory(), sys.getrefcount(setNextHop), len(gc.get_objects())))
     (first, *counts), (last, *counts_after) = grown[-2:]
     assert last - first < 1 << 16 and counts == counts_after
+
+
+def test_fixtures_fail_tests(tmp_path):
+    """What the fixtures watch over is noticed."""
+    (tmp_path / "test_it.py").write_text(
+        "import pytest, pd\n"
+        "def test_faults(faults): faults.fail_any_call(5)\n"
+        "def test_calls(session, good_calls):\n"
+        "    with pytest.raises(pd.StatusError): session.tables.ipv4ShortMaskLpm.get(77)\n"
+        "def test_good(session, good_calls): assert not session.tables.ipv4ShortMaskLpm.clear()\n")
+    done = subprocess.run(
+        [sys.executable, "-m", "pytest", "-p", "pd.pytest_plugin", "-p", "no:cacheprovider", "-o",
+         "pd_program=tessel_switch", tmp_path], text=True, stdout=subprocess.PIPE)
+    assert "3 passed, 2 errors" in done.stdout, done.stdout
+    assert "1 of the faults that were planned" in done.stdout
+    assert "pipe_mgr_get_entry returned 7" in done.stdout
+
+
+def test_library_starts_again(device, routes):
+    assert ts.raw.p4_pd_tessel_switch_cleanup() == 0
+    assert ts.raw.p4_pd_tessel_switch_init() == 0
+    assert len(routes) == 0

@@ -1,0 +1,169 @@
+// Columns of values for add_columns.
+#pragma once
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cstring>
+
+#include "python/core/buffer.hpp"
+#include "python/core/tables/bulk_adder.hpp"
+#include "python/core/value.hpp"
+
+namespace python {
+
+// The values of a column: numbers in a buffer, or objects.
+class ColumnValues {
+ public:
+  explicit ColumnValues(PyObject *object) {
+    const bool is_buffer = PyObject_CheckBuffer(object) != 0 && !PyBytes_Check(object);
+    if (is_buffer) {
+      buffer_ = Buffer(object, PyBUF_STRIDED_RO | PyBUF_FORMAT);
+      if (read_format()) return;
+      buffer_ = Buffer();
+    }
+    list_ = Ref(PySequence_List(object));
+    size_ = static_cast<size_t>(PyList_Size(list_.get()));
+  }
+
+  size_t size() const { return size_; }
+  bool is_list() const { return static_cast<bool>(list_); }
+  PyObject *object(size_t at) const {
+    return PyList_GetItem(list_.get(), static_cast<Py_ssize_t>(at));
+  }
+  tesselctl::Number number(size_t at) const {
+    const Py_buffer &view = buffer_.view();
+    const auto *bytes =
+        static_cast<const uint8_t *>(view.buf) + static_cast<Py_ssize_t>(at) * view.strides[0];
+    if (width_ > 8) return tesselctl::from_bytes(bytes, width_);
+    uint64_t number = 0;
+    memcpy(&number, bytes, width_);
+    const unsigned sign = static_cast<unsigned>(8 * width_ - 1);
+    if (is_signed_ && (number >> sign & 1) != 0) {
+      raise(PyExc_ValueError, fmt::format("row {}: a value is 0 or more", at));
+    }
+    return number;
+  }
+
+ private:
+  // Whether elements are integers, or rows of bytes that are addresses.
+  bool read_format() {
+    const Py_buffer &view = buffer_.view();
+    const std::string_view format = view.format == nullptr ? "B" : view.format;
+    if (view.ndim == 2 && format == "B" && view.strides[1] == 1 && view.shape[1] == 16) {
+      width_ = 16;
+    } else if (view.ndim == 1 && format == "16s") {
+      width_ = 16;
+    } else if (view.ndim == 1 && format.size() == 1 &&
+               std::string_view("BHILQbhilq").find(format[0]) != format.npos) {
+      width_ = static_cast<size_t>(view.itemsize);
+      is_signed_ = format[0] >= 'a';
+    } else {
+      return false;
+    }
+    size_ = static_cast<size_t>(view.shape[0]);
+    return true;
+  }
+
+  Buffer buffer_;
+  Ref list_;
+  size_t size_ = 0;
+  size_t width_ = 0;
+  bool is_signed_ = false;
+};
+
+// Whether an argument has a value for each entry: a list, a buffer, an iterator, or another object
+// with a length. Networks and numbers of arrays have none.
+inline bool is_column(PyObject *object) {
+  if (PyUnicode_Check(object) || PyBytes_Check(object) || PyTuple_Check(object)) return false;
+  if (PyIter_Check(object) != 0) return true;
+  const bool has_length = PyObject_Size(object) >= 0;
+  PyErr_Clear();
+  return has_length;
+}
+
+// One column of add_columns: values, or values with their masks or prefix lengths.
+struct NamedColumn {
+  Column column;
+  std::vector<ColumnValues> parts;
+
+  size_t size() const { return parts[0].size(); }
+  void store(BulkAdder &adder, size_t row) const {
+    if (parts.size() == 1 && parts[0].is_list()) {
+      adder.store(column, parts[0].object(row));
+    } else if (column.field != nullptr && are_numbers()) {
+      adder.store(column, value_of(row));
+    } else {
+      adder.store(column, Ref(object_of(row)).get());
+    }
+  }
+
+ private:
+  bool are_numbers() const { return std::ranges::none_of(parts, &ColumnValues::is_list); }
+  // Without objects; what is wrong is found again by way of one, which says so.
+  tesselctl::FieldValue value_of(size_t row) const {
+    const tesselctl::Field &field = *column.field;
+    tesselctl::FieldValue value;
+    value.value = parts[0].number(row);
+    const bool is_lpm = field.match == tesselctl::Match::lpm;
+    bool is_good = value.value.fits(field.width);
+    if (parts.size() == 1) {
+      value.mask = field.match == tesselctl::Match::ternary ? tesselctl::key_bits(field)
+                                                            : tesselctl::low_ones(field.width);
+    } else {
+      const tesselctl::Number second = parts[1].number(row);
+      is_good = is_good && field.match != tesselctl::Match::exact &&
+                (is_lpm ? second <= tesselctl::Number(field.width) : second.fits(field.width));
+      value.mask = is_good && is_lpm
+                       ? tesselctl::prefix_mask(static_cast<unsigned>(second.low), field.width)
+                       : second;
+      is_good = is_good && (value.value & ~value.mask).is_zero();
+    }
+    if (is_good) return value;
+    return field_value(*column.record, field, Ref(object_of(row)).get());
+  }
+  PyObject *object_of(size_t row) const {
+    const auto one = [&](const ColumnValues &part) {
+      return part.is_list() ? Py_NewRef(part.object(row)) : from_number(part.number(row));
+    };
+    if (parts.size() == 1) return one(parts[0]);
+    const Ref value(one(parts[0]));
+    return checked(PyTuple_Pack(2, value.get(), Ref(one(parts[1])).get()));
+  }
+};
+
+// A tuple of two columns: value and mask or length.
+inline bool is_pair_of_columns(PyObject *object) {
+  return PyTuple_Check(object) && PyTuple_Size(object) == 2 &&
+         (is_column(PyTuple_GetItem(object, 0)) || is_column(PyTuple_GetItem(object, 1)));
+}
+
+inline std::vector<ColumnValues> parts_of(PyObject *object) {
+  std::vector<ColumnValues> parts;
+  if (!is_pair_of_columns(object)) {
+    parts.emplace_back(object);
+    return parts;
+  }
+  for (Py_ssize_t i = 0; i < 2; ++i) {
+    PyObject *part = PyTuple_GetItem(object, i);
+    if (!is_column(part)) raise(PyExc_TypeError, "a column of pairs is two columns");
+    parts.emplace_back(part);
+  }
+  if (parts[0].size() != parts[1].size()) {
+    raise(PyExc_ValueError, "a column of pairs is two columns of one length");
+  }
+  return parts;
+}
+
+inline size_t common_size(const std::vector<NamedColumn> &columns) {
+  if (columns.empty()) raise(PyExc_TypeError, "at least one column has several values");
+  for (const NamedColumn &column : columns) {
+    if (column.size() != columns[0].size()) {
+      raise(PyExc_ValueError,
+            fmt::format("columns have {} and {} values", columns[0].size(), column.size()));
+    }
+  }
+  return columns[0].size();
+}
+
+}  // namespace python

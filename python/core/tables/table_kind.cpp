@@ -1,0 +1,108 @@
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "python/core/structure.hpp"
+#include "python/core/tables/table.hpp"
+
+namespace python {
+
+namespace {
+
+constexpr const char *kSlotNames[] = {
+    "session",     "target",     "device", "match_spec", "priority", "action_spec",
+    "ttl",         "meter_spec", "entry",  "member",     "group",    "read_from_hardware",
+    "action_name", "action",     "no_key", "has_member", "has_group"};
+
+}  // namespace
+
+CallPlan::CallPlan(const bindings::Export *exported) : target(exported) {
+  std::fill(std::begin(places), std::end(places), static_cast<int8_t>(-1));
+  for (size_t i = 0; exported != nullptr && i < exported->parameter_count; ++i) {
+    for (size_t slot = 0; slot < std::size(kSlotNames); ++slot) {
+      if (std::string_view(kSlotNames[slot]) == exported->parameters[i].name) {
+        places[slot] = static_cast<int8_t>(i);
+      }
+    }
+  }
+}
+
+const CallPlan &TableKind::plan(const char *family, const Outcome *outcome) {
+  const void *action = outcome == nullptr ? nullptr : outcome->action;
+  auto &plans = plans_[action];
+  const auto found = plans.find(family);
+  if (found != plans.end()) return found->second;
+  const std::string_view of = action == nullptr ? "" : outcome->action->record->name;
+  const CallPlan made(program_.find(family, name(), of));
+  if (made.target == nullptr && action != nullptr) {
+    raise(PyExc_TypeError,
+          fmt::format("entries of {} cannot have the action {} that way", name(), of));
+  }
+  if (made.target == nullptr) {
+    raise(PyExc_TypeError, fmt::format("{} has no function for this", name()));
+  }
+  return plans.emplace(family, made).first->second;
+}
+
+void TableKind::refuse_outcome(PyObject *object) {
+  std::string wanted = "a member or a group of its profile";
+  if (!indirect()) {
+    wanted = "one of its actions:";
+    for (const soft_action_t &action : std::span(description_.actions, description_.action_count)) {
+      wanted += std::string(wanted.ends_with(':') ? " " : ", ") + action.name;
+    }
+  }
+  const RecordObject *record = as_record(object);
+  raise(PyExc_TypeError, fmt::format("{} takes {}; not {}", name(), wanted,
+                                     record != nullptr ? record->kind->what : type_name(object)));
+}
+
+Outcome TableKind::outcome_of(PyObject *object) {
+  if (const RecordObject *record = as_record(object); record != nullptr && !indirect()) {
+    for (const soft_action_t &action : std::span(description_.actions, description_.action_count)) {
+      if (record->kind->what == action.name) return {record->kind, record->bytes};
+    }
+  }
+  if (!indirect()) refuse_outcome(object);
+  PyObject *found = PyObject_GetAttrString(object, "_outcome");
+  if (found == nullptr) {
+    PyErr_Clear();
+    refuse_outcome(object);
+  }
+  const Ref kind(found);
+  Outcome outcome;
+  outcome.kind = text_of(kind.get()) == "group" ? Slot::group : Slot::member;
+  outcome.handle = read_handle(object, "outcome");
+  return outcome;
+}
+
+const RecordKind *TableKind::action_of_type(PyObject *type) {
+  for (const soft_action_t &action : std::span(description_.actions, description_.action_count)) {
+    const RecordKind &kind = program_.action(action.name);
+    if (reinterpret_cast<PyObject *>(kind.type) == type) return &kind;
+  }
+  return nullptr;
+}
+
+p4_pd_bytes_meter_spec_t read_meter(PyObject *object) {
+  p4_pd_bytes_meter_spec_t spec = {};
+  Ref whole = Ref::borrowed(object);
+  if (PySequence_Check(object) != 0 && PySequence_Size(object) == 4) {
+    const Ref type(Py_BuildValue("[i]", PD_METER_TYPE_COLOR_UNAWARE));
+    whole = Ref(PySequence_Concat(Ref(PySequence_List(object)).get(), type.get()));
+  }
+  to_structure(*find_structure("p4_pd_bytes_meter_spec_t"), whole.get(), &spec);
+  return spec;
+}
+
+uint32_t read_handle(PyObject *object, std::string_view what) {
+  if (PyIndex_Check(object) != 0) return static_cast<uint32_t>(unsigned_of(object, 4, what));
+  PyObject *handle = PyObject_GetAttrString(object, "handle");
+  if (handle == nullptr) {
+    PyErr_Clear();
+    raise(PyExc_TypeError, fmt::format("{} is a handle, not {}", what, type_name(object)));
+  }
+  return static_cast<uint32_t>(unsigned_of(Ref(handle).get(), 4, what));
+}
+
+}  // namespace python
