@@ -18,7 +18,7 @@ namespace {
 // A signal that comes just before the wait is heard of so much later.
 constexpr int kLookUpMs = 100;
 // Of a script; names and settings have room beside it.
-constexpr size_t kPiece = kMostPayload / 2;
+constexpr size_t kTextPiece = kMostPayload / 2;
 
 std::string working_directory() {
   std::error_code error;
@@ -61,7 +61,7 @@ LineOutcome RemoteRunner::run_whole(const WholeScript &script) {
   std::string bytes;
   std::string_view rest = script.text;
   do {
-    request.text = rest.substr(0, kPiece);
+    request.text = rest.substr(0, kTextPiece);
     rest.remove_prefix(request.text.size());
     request.more = !rest.empty();
     bytes += encode_request(request);

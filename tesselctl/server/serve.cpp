@@ -11,15 +11,15 @@ namespace tesselctl {
 
 namespace {
 
-std::atomic<Server *> served = nullptr;
+std::atomic<Server *> running = nullptr;
 
 void stop_server(int) {
-  if (Server *server = served.load()) server->stop();
+  if (Server *server = running.load()) server->stop();
 }
 
 struct ServedScope {
-  explicit ServedScope(Server &server) { served = &server; }
-  ~ServedScope() { served = nullptr; }
+  explicit ServedScope(Server &server) { running = &server; }
+  ~ServedScope() { running = nullptr; }
   ServedScope(const ServedScope &) = delete;
   ServedScope &operator=(const ServedScope &) = delete;
 };

@@ -23,8 +23,6 @@ namespace tesselctl {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
 constexpr int kLooks = 1000;
 constexpr auto kTryAgain = std::chrono::milliseconds(5);
 
@@ -118,6 +116,7 @@ FilePlace FilePlace::of_file(const std::string &path) {
 
 FileLock::FileLock(const FilePlace &place, int seconds)
     : place_(place), name_("." + place.name + ".lock") {
+  using Clock = std::chrono::steady_clock;
   const Clock::time_point end = Clock::now() + std::chrono::seconds(seconds);
   while (!try_take()) {
     if (is_shared()) return;

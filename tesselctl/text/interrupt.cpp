@@ -15,8 +15,6 @@ namespace tesselctl {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
 constexpr auto kBetween = std::chrono::milliseconds(20);
 
 std::atomic<bool> requested = false;
@@ -34,14 +32,16 @@ void wake_up() noexcept {
 
 thread_local bool uninterrupted = false;
 thread_local std::function<bool()> asked;
-thread_local Clock::time_point ask_again;
+thread_local std::chrono::steady_clock::time_point ask_again;
 
 // Commands ask for every entry; a look at the clock is what most of these cost.
 bool is_interrupted() {
   if (uninterrupted) return false;
   if (interrupt_requested()) return true;
-  if (!asked || Clock::now() < ask_again) return false;
-  ask_again = Clock::now() + kBetween;
+  if (!asked) return false;
+  const auto now = std::chrono::steady_clock::now();
+  if (now < ask_again) return false;
+  ask_again = now + kBetween;
   return asked();
 }
 

@@ -24,8 +24,6 @@ bool has_column(const Item &item) {
          item.kind != Item::Kind::list;
 }
 
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
-
 }  // namespace
 
 bool sorts_before(std::string_view a, std::string_view b) {

@@ -38,8 +38,6 @@ std::string lowered(std::string_view text) {
   return lower;
 }
 
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
-
 Number parse_wanted(std::string_view text) {
   if (const auto number = parse_number(text)) return *number;
   throw Fault("this is not a number");

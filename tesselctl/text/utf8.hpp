@@ -7,6 +7,7 @@
 
 namespace tesselctl {
 
+constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
 // Bytes of the UTF-8 character that the text begins with; 0 when it begins with none.
 size_t utf8_length(std::string_view text);
 // Characters of the text; a byte that belongs to none counts as one.
