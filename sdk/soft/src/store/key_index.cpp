@@ -9,13 +9,13 @@ KeyIndex::~KeyIndex() { free_segments(); }
 
 void KeyIndex::reset() {
   free_segments();
-  std::pmr::vector<Segment *>(memory_).swap(directory_);
+  std::pmr::vector<Place>(memory_).swap(directory_);
   depth_ = 0;
 }
 
 void KeyIndex::free_segments() {
   for (size_t slot = 0; slot < directory_.size();) {
-    Segment *segment = directory_[slot];
+    Segment *segment = directory_[slot].segment();
     slot += size_t{1} << (depth_ - segment->depth);
     free(segment);
   }
@@ -33,7 +33,7 @@ void KeyIndex::free(Segment *segment) {
 
 void KeyIndex::put(Segment &segment, uint64_t cell) {
   uint64_t *cells = segment.cells();
-  uint32_t at = home(cell, segment);
+  uint32_t at = home(cell, segment.last);
   while (cells[at] != 0) at = (at + 1) & segment.last;
   cells[at] = cell;
   ++segment.used;
@@ -41,7 +41,7 @@ void KeyIndex::put(Segment &segment, uint64_t cell) {
 
 uint64_t *KeyIndex::cell_of(Segment &segment, uint64_t cell) {
   uint64_t *cells = segment.cells();
-  uint32_t at = home(cell, segment);
+  uint32_t at = home(cell, segment.last);
   while (cells[at] != cell) at = (at + 1) & segment.last;
   return cells + at;
 }
@@ -50,11 +50,11 @@ uint64_t *KeyIndex::cell_of(Segment &segment, uint64_t cell) {
 void KeyIndex::point(uint64_t hash, uint32_t depth, Segment *to) {
   const size_t slots = size_t{1} << (depth_ - depth);
   const size_t first = slot_of(hash) & ~(slots - 1);
-  for (size_t slot = first; slot < first + slots; ++slot) directory_[slot] = to;
+  for (size_t slot = first; slot < first + slots; ++slot) directory_[slot] = Place(to);
 }
 
 void KeyIndex::enlarge(uint64_t hash) {
-  Segment *old = directory_[slot_of(hash)];
+  Segment *old = directory_[slot_of(hash)].segment();
   Segment *segment = make((old->last + 1) * 2, old->depth);
   for (uint32_t at = 0; at <= old->last; ++at)
     if (old->cells()[at] != 0) put(*segment, old->cells()[at]);
@@ -63,14 +63,15 @@ void KeyIndex::enlarge(uint64_t hash) {
 }
 
 void KeyIndex::double_directory() {
-  std::pmr::vector<Segment *> directory(directory_.size() * 2, memory_);
-  for (size_t slot = 0; slot < directory.size(); ++slot) directory[slot] = directory_[slot / 2];
+  std::pmr::vector<Place> directory(memory_);
+  directory.reserve(directory_.size() * 2);
+  for (const Place place : directory_) directory.insert(directory.end(), 2, place);
   directory_.swap(directory);
   ++depth_;
 }
 
 void KeyIndex::split(uint64_t hash) {
-  Segment *old = directory_[slot_of(hash)];
+  Segment *old = directory_[slot_of(hash)].segment();
   if (old->depth == depth_) double_directory();
   const uint32_t cells = old->last + 1;
   Segment *low = make(cells, old->depth + 1);
@@ -95,10 +96,10 @@ void KeyIndex::split(uint64_t hash) {
 void KeyIndex::reserve(uint64_t hash) {
   if (directory_.empty()) {
     directory_.reserve(1);
-    directory_.push_back(make(kFirstCells, 0));
+    directory_.emplace_back(make(kFirstCells, 0));
   }
   for (;;) {
-    const Segment *segment = directory_[slot_of(hash)];
+    const Segment *segment = directory_[slot_of(hash)].segment();
     const uint32_t cells = segment->last + 1;
     if (segment->used < cells / 16 * 11) return;
     if (cells < kMostCells || segment->depth == kMostDepth)
@@ -109,21 +110,21 @@ void KeyIndex::reserve(uint64_t hash) {
 }
 
 void KeyIndex::insert(uint64_t hash, uint32_t record) {
-  put(*directory_[slot_of(hash)], (hash & ~kRecord) | (record + 1));
+  put(*directory_[slot_of(hash)].segment(), (hash & ~kRecord) | (record + 1));
 }
 
 void KeyIndex::replace(uint64_t hash, uint32_t record, uint32_t with) {
-  *cell_of(*directory_[slot_of(hash)], (hash & ~kRecord) | (record + 1)) =
+  *cell_of(*directory_[slot_of(hash)].segment(), (hash & ~kRecord) | (record + 1)) =
       (hash & ~kRecord) | (with + 1);
 }
 
 // Moves later cells of the run back instead of leaving a mark, so runs do not grow with age.
 void KeyIndex::erase(uint64_t hash, uint32_t record) {
-  Segment &segment = *directory_[slot_of(hash)];
+  Segment &segment = *directory_[slot_of(hash)].segment();
   uint64_t *cells = segment.cells();
   auto hole = static_cast<uint32_t>(cell_of(segment, (hash & ~kRecord) | (record + 1)) - cells);
   for (uint32_t at = (hole + 1) & segment.last; cells[at] != 0; at = (at + 1) & segment.last) {
-    const uint32_t from_home = (at - home(cells[at], segment)) & segment.last;
+    const uint32_t from_home = (at - home(cells[at], segment.last)) & segment.last;
     if (from_home < ((at - hole) & segment.last)) continue;
     cells[hole] = cells[at];
     hole = at;
@@ -137,11 +138,11 @@ void KeyIndex::copy_from(const KeyIndex &other) {
   depth_ = other.depth_;
   directory_.reserve(other.directory_.size());
   while (directory_.size() < other.directory_.size()) {
-    const Segment &segment = *other.directory_[directory_.size()];
+    const Segment &segment = *other.directory_[directory_.size()].segment();
     Segment *twin = make(segment.last + 1, segment.depth);
     std::memcpy(twin->cells(), segment.cells(), (segment.last + 1) * sizeof(uint64_t));
     twin->used = segment.used;
-    directory_.insert(directory_.end(), size_t{1} << (depth_ - segment.depth), twin);
+    directory_.insert(directory_.end(), size_t{1} << (depth_ - segment.depth), Place(twin));
   }
 }
 

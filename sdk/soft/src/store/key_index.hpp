@@ -1,6 +1,7 @@
 // Finds numbered records by the hash of their key: open addressing that grows in small steps.
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <memory_resource>
@@ -31,9 +32,10 @@ class KeyIndex {
   template <typename Same>
   uint32_t find(uint64_t hash, Same same) const {
     if (directory_.empty()) return kNone;
-    const Segment &segment = *directory_[slot_of(hash)];
-    const uint64_t *cells = segment.cells();
-    for (uint32_t at = home(hash, segment);; at = (at + 1) & segment.last) {
+    const Place place = directory_[slot_of(hash)];
+    const uint64_t *cells = place.segment()->cells();
+    const uint32_t last = place.last();
+    for (uint32_t at = home(hash, last);; at = (at + 1) & last) {
       const uint64_t cell = cells[at];
       if ((cell ^ hash) <= kRecord && cell != 0) {
         const uint32_t record = static_cast<uint32_t>(cell & kRecord) - 1;
@@ -41,6 +43,13 @@ class KeyIndex {
       }
       if (cell == 0) return kNone;
     }
+  }
+
+  // Fetches what find() and insert() of this hash begin with.
+  void prefetch(uint64_t hash) const {
+    if (directory_.empty()) return;
+    const Place place = directory_[slot_of(hash)];
+    __builtin_prefetch(place.segment()->cells() + home(hash, place.last()));
   }
 
   // Makes room for one more record of this hash. May throw std::bad_alloc, and then all records are
@@ -74,9 +83,22 @@ class KeyIndex {
     const uint64_t *cells() const { return reinterpret_cast<const uint64_t *>(this + 1); }
   };
 
+  // A segment and its number of cells, which a search then need not read there.
+  class Place {
+   public:
+    explicit Place(Segment *segment)
+        : bits_(reinterpret_cast<uintptr_t>(segment) |
+                static_cast<uintptr_t>(std::countr_one(segment->last))) {}
+    Segment *segment() const { return reinterpret_cast<Segment *>(bits_ & ~(kLine - 1)); }
+    uint32_t last() const { return (1u << (bits_ & (kLine - 1))) - 1; }
+
+   private:
+    uintptr_t bits_;  // the address of a segment has zeros where its number of bits goes
+  };
+
   size_t slot_of(uint64_t hash) const { return static_cast<size_t>(hash >> 1 >> (63 - depth_)); }
-  static uint32_t home(uint64_t hash, const Segment &segment) {
-    return static_cast<uint32_t>(hash >> 26) & segment.last;
+  static uint32_t home(uint64_t hash, uint32_t last) {
+    return static_cast<uint32_t>(hash >> 26) & last;
   }
   static size_t bytes_of(uint32_t cells) { return sizeof(Segment) + cells * sizeof(uint64_t); }
   static void put(Segment &segment, uint64_t cell);
@@ -92,7 +114,7 @@ class KeyIndex {
 
   std::pmr::memory_resource *memory_;
   uint32_t depth_ = 0;  // leading hash bits that choose the directory slot
-  std::pmr::vector<Segment *> directory_;
+  std::pmr::vector<Place> directory_;
 };
 
 }  // namespace soft

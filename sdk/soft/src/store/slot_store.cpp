@@ -17,7 +17,7 @@ SlotStore::~SlotStore() { free_chunks(); }
 
 void SlotStore::free_chunks() {
   const size_t slots = std::min(now_.capacity, kChunkSlots);
-  for (uint8_t *chunk : chunks_) memory_->deallocate(chunk, slots * record_bytes_);
+  for (uint8_t *chunk : chunks_) memory_->deallocate(chunk, slots * record_bytes_, kChunkAlignment);
 }
 
 // False when there is no memory to keep them in.
@@ -55,12 +55,12 @@ void SlotStore::grow_first_chunk() {
   const uint32_t slots = now_.capacity == 0 ? kFirstSlots : now_.capacity * 2;
   live_.reserve(slots);
   chunks_.reserve(1);
-  auto *chunk = static_cast<uint8_t *>(memory_->allocate(slots * record_bytes_));
+  auto *chunk = static_cast<uint8_t *>(memory_->allocate(slots * record_bytes_, kChunkAlignment));
   if (now_.capacity == 0) {
     chunks_.push_back(chunk);
   } else {
     std::memcpy(chunk, chunks_[0], now_.used * record_bytes_);
-    memory_->deallocate(chunks_[0], now_.capacity * record_bytes_);
+    memory_->deallocate(chunks_[0], now_.capacity * record_bytes_, kChunkAlignment);
     chunks_[0] = chunk;
   }
   now_.capacity = slots;
@@ -71,7 +71,8 @@ void SlotStore::reserve() {
   if (now_.capacity < kChunkSlots) return grow_first_chunk();
   live_.reserve(now_.capacity + kChunkSlots);
   if (chunks_.size() == chunks_.capacity()) chunks_.reserve(chunks_.size() * 2);
-  chunks_.push_back(static_cast<uint8_t *>(memory_->allocate(kChunkSlots * record_bytes_)));
+  chunks_.push_back(
+      static_cast<uint8_t *>(memory_->allocate(kChunkSlots * record_bytes_, kChunkAlignment)));
   now_.capacity += kChunkSlots;
 }
 
@@ -123,7 +124,7 @@ void SlotStore::copy_from(const SlotStore &other) {
   now_.capacity = other.now_.capacity;
   const size_t bytes = std::min(now_.capacity, kChunkSlots) * record_bytes_;
   for (const uint8_t *chunk : other.chunks_) {
-    chunks_.push_back(static_cast<uint8_t *>(memory_->allocate(bytes)));
+    chunks_.push_back(static_cast<uint8_t *>(memory_->allocate(bytes, kChunkAlignment)));
     std::memcpy(chunks_.back(), chunk, bytes);
   }
   now_ = other.now_;

@@ -11,6 +11,7 @@
 #include "bf_types.h"
 #include "store/key_hash.hpp"
 #include "store/live_map.hpp"
+#include "store/region_resource.hpp"
 
 namespace soft {
 
@@ -115,6 +116,7 @@ class SlotStore {
 
  private:
   static constexpr uint32_t kChunkSlots = 4096;
+  static constexpr size_t kChunkAlignment = RegionResource::kAlignment;
   static constexpr uint32_t kFirstSlots = 16;  // the first chunk grows from here, by doubling
   static constexpr uint8_t kLive = 0x80;
   static constexpr uint8_t kGeneration = 0x3f;

@@ -23,7 +23,8 @@ void copy_bytes(uint8_t *to, const uint8_t *from, size_t bytes) {
 
 MatchTable::MatchTable(const soft_table_t &table, const EntryLayout &layout,
                        std::pmr::memory_resource *memory)
-    : memory_(memory),
+    : regions_(memory),
+      memory_(&regions_),
       record_(table, layout),
       slots_(&memory_, record_.bytes),
       index_(&memory_),

@@ -26,6 +26,7 @@
 #include "store/key_index.hpp"
 #include "store/key_twins.hpp"
 #include "store/mask_pool.hpp"
+#include "store/region_resource.hpp"
 #include "store/slot_store.hpp"
 #include "tables/match_table_record.hpp"
 #include "tables/match_table_types.hpp"
@@ -188,7 +189,8 @@ class MatchTable {
   void read_resources(const uint8_t *record, EntryView &view) const;
   void probe(const uint8_t *key, uint32_t mask, uint8_t pipe, Candidate &best) const;
 
-  CountingResource memory_;  // first: the others allocate from it
+  RegionResource regions_;
+  CountingResource memory_;  // before the others, which allocate from it
   RecordLayout record_;
   bool refuses_duplicates_ = true;
   uint64_t next_age_ = 1;

@@ -12,7 +12,7 @@ namespace {
 
 constexpr size_t kFewRules = 16;        // are compared one by one
 constexpr size_t kFewAlike = 8;         // rules with one tag stand side by side
-constexpr size_t kSampledRules = 1024;   // to choose a mask by
+constexpr size_t kSampledRules = 1024;  // to choose a mask by
 constexpr size_t kLevelsAhead = 16;     // are looked up at a time
 constexpr size_t kAddedBeforeNew = 64;  // more than there were
 
