@@ -1,11 +1,12 @@
 // Finds numbered records by the hash of their key: open addressing that grows in small steps.
 #pragma once
 
-#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <memory_resource>
 #include <vector>
+
+#include "store/region_resource.hpp"
 
 namespace soft {
 
@@ -32,9 +33,9 @@ class KeyIndex {
   template <typename Same>
   uint32_t find(uint64_t hash, Same same) const {
     if (directory_.empty()) return kNone;
-    const Place place = directory_[slot_of(hash)];
-    const uint64_t *cells = place.segment()->cells();
-    const uint32_t last = place.last();
+    const Segment &segment = *directory_[slot_of(hash)];
+    const uint64_t *cells = segment.cells;
+    const uint32_t last = segment.last;
     for (uint32_t at = home(hash, last);; at = (at + 1) & last) {
       const uint64_t cell = cells[at];
       if ((cell ^ hash) <= kRecord && cell != 0) {
@@ -48,8 +49,8 @@ class KeyIndex {
   // Fetches what find() and insert() of this hash begin with.
   void prefetch(uint64_t hash) const {
     if (directory_.empty()) return;
-    const Place place = directory_[slot_of(hash)];
-    __builtin_prefetch(place.segment()->cells() + home(hash, place.last()));
+    const Segment &segment = *directory_[slot_of(hash)];
+    __builtin_prefetch(segment.cells + home(hash, segment.last));
   }
 
   // Makes room for one more record of this hash. May throw std::bad_alloc, and then all records are
@@ -68,39 +69,25 @@ class KeyIndex {
 
  private:
   static constexpr uint64_t kRecord = (uint64_t{1} << 26) - 1;
-  static constexpr size_t kLine = 64;
+  static constexpr size_t kLine = RegionResource::kAlignment;
+  static constexpr uint32_t kLineCells = kLine / sizeof(uint64_t);
   static constexpr uint32_t kFirstCells = 16;
   static constexpr uint32_t kMostCells = 4096;
   static constexpr uint32_t kMostDepth = 20;
 
-  // Its cells follow in the same block of memory.
-  struct alignas(kLine) Segment {
+  // Stands apart from its cells: those of a large index are few enough to stay in the cache.
+  struct Segment {
+    uint64_t *cells;
     uint32_t last;   // number of cells minus one
     uint32_t used;   // cells
     uint32_t depth;  // leading hash bits that all its records share
-
-    uint64_t *cells() { return reinterpret_cast<uint64_t *>(this + 1); }
-    const uint64_t *cells() const { return reinterpret_cast<const uint64_t *>(this + 1); }
-  };
-
-  // A segment and its number of cells, which a search then need not read there.
-  class Place {
-   public:
-    explicit Place(Segment *segment)
-        : bits_(reinterpret_cast<uintptr_t>(segment) |
-                static_cast<uintptr_t>(std::countr_one(segment->last))) {}
-    Segment *segment() const { return reinterpret_cast<Segment *>(bits_ & ~(kLine - 1)); }
-    uint32_t last() const { return (1u << (bits_ & (kLine - 1))) - 1; }
-
-   private:
-    uintptr_t bits_;  // the address of a segment has zeros where its number of bits goes
   };
 
   size_t slot_of(uint64_t hash) const { return static_cast<size_t>(hash >> 1 >> (63 - depth_)); }
+  // Searches begin at the start of a cache line and seldom leave it.
   static uint32_t home(uint64_t hash, uint32_t last) {
-    return static_cast<uint32_t>(hash >> 26) & last;
+    return static_cast<uint32_t>(hash >> 26) & last & ~(kLineCells - 1);
   }
-  static size_t bytes_of(uint32_t cells) { return sizeof(Segment) + cells * sizeof(uint64_t); }
   static void put(Segment &segment, uint64_t cell);
   static uint64_t *cell_of(Segment &segment, uint64_t cell);
 
@@ -114,7 +101,7 @@ class KeyIndex {
 
   std::pmr::memory_resource *memory_;
   uint32_t depth_ = 0;  // leading hash bits that choose the directory slot
-  std::pmr::vector<Place> directory_;
+  std::pmr::vector<Segment *> directory_;
 };
 
 }  // namespace soft
