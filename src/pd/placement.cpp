@@ -16,7 +16,7 @@ bool lacks_key_outputs(const Table &table, const void *match_spec, const uint32_
 void report_key(const Table &table, const ReadKey &key, void *match_spec, uint32_t *priority,
                 bool *no_key) {
   *no_key = table.kind == Kind::keyless || !key.has_key();
-  if (!*no_key) decode_read_key(table, key, match_spec);
+  if (!*no_key) key.decode(match_spec);
   if (table.kind == Kind::ternary) *priority = key.spec.priority;
 }
 

@@ -9,21 +9,6 @@ namespace pd {
 
 namespace {
 
-bool lacks_key_outputs(const Table &table, const void *match_spec, const uint32_t *priority,
-                       const bool *no_key) {
-  if (table.kind == Kind::keyless) return false;
-  if (match_spec == nullptr || no_key == nullptr) return true;
-  return table.kind == Kind::ternary && priority == nullptr;
-}
-
-void report_key(const Table &table, const ReadKey &key, void *match_spec, uint32_t *priority,
-                bool *no_key) {
-  if (table.kind == Kind::keyless) return;
-  *no_key = !key.has_key();
-  if (key.has_key()) decode_read_key(table, key, match_spec);
-  if (table.kind == Kind::ternary) *priority = key.spec.priority;
-}
-
 void report_member_or_group(const pipe_mgr_action_spec_t &spec, const IndirectOut &out) {
   *out.has_member = spec.type == PIPE_ACTION_MEMBER;
   *out.has_group = spec.type == PIPE_ACTION_GROUP;
@@ -44,30 +29,19 @@ bool names_member_or_group(const pipe_mgr_action_spec_t &spec) {
 
 p4_pd_status_t get_entry(const Table &table, p4_pd_session_handle_t session, uint8_t device,
                          p4_pd_entry_handle_t entry, bool read_from_hardware, const EntryOut &out) {
-  if (lacks_key_outputs(table, out.match_spec, out.priority, out.no_key)) {
-    return P4_PD_NULL_ARGUMENT;
-  }
+  const auto decode = [&](uint32_t handle, const uint8_t *data, const ResourceList &resources,
+                          void *action_spec, uint32_t &value) -> p4_pd_status_t {
+    const Action *action = find_action(table.pairs, table.pair_count, handle);
+    if (action == nullptr) return P4_PD_FOREIGN_ACTION;
+    if (action->param_count != 0) {
+      if (action_spec == nullptr) return P4_PD_NULL_ARGUMENT;
+      decode_action(*action, data, resources.items(), resources.count(), action_spec);
+    }
+    value = action->value;
+    return BF_SUCCESS;
+  };
   ReadKey key(table, true);
-  ReadAction read(limits::action_data);
-  uint32_t handle = 0;
-  p4_pd_status_t status = pipe_mgr_get_entry(session, table.handle, device, entry, &key.spec,
-                                             &read.spec, &handle, read_from_hardware);
-  if (status != BF_SUCCESS) return status;
-  if (read.spec.type != PIPE_ACTION_DATA) return P4_PD_NO_ACTION_DATA;
-  ResourceList resources;
-  status = resources.build(read.spec);
-  if (status != BF_SUCCESS) return status;
-  const Action *action = find_action(table.pairs, table.pair_count, handle);
-  if (action == nullptr) return P4_PD_FOREIGN_ACTION;
-  if (action->param_count != 0 && out.action_spec == nullptr) return P4_PD_NULL_ARGUMENT;
-
-  if (out.action_name != nullptr) strcpy(out.action_name, program.action_names[action->value]);
-  if (out.action != nullptr) *out.action = action->value;
-  if (action->param_count != 0) {
-    decode_action(*action, read.bytes, resources.items(), resources.count(), out.action_spec);
-  }
-  report_key(table, key, out.match_spec, out.priority, out.no_key);
-  return BF_SUCCESS;
+  return get_entry_with(table, key, decode, session, device, entry, read_from_hardware, out);
 }
 
 p4_pd_status_t get_default_entry(const Table &table, p4_pd_session_handle_t session,

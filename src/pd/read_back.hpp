@@ -2,7 +2,9 @@
 // the caller's records unless the whole read-back succeeds.
 #pragma once
 
-#include "descriptor.hpp"
+#include <string.h>
+
+#include "codec/decode_unrolled.hpp"
 #include "pipe_mgr_match.h"
 
 namespace pd {
@@ -18,10 +20,68 @@ struct EntryOut {
   bool *no_key = nullptr;
 };
 
-// P4_PD_NO_ACTION_DATA for an entry that carries no action of its own, P4_PD_FOREIGN_ACTION for an
-// action that the table does not have.
+PD_INLINE bool lacks_key_outputs(const Table &table, const void *match_spec,
+                                 const uint32_t *priority, const bool *no_key) {
+  if (table.kind == Kind::keyless) return false;
+  if (match_spec == nullptr || no_key == nullptr) return true;
+  return table.kind == Kind::ternary && priority == nullptr;
+}
+
+template <class Key>
+PD_INLINE void report_key(const Table &table, const Key &key, void *match_spec, uint32_t *priority,
+                          bool *no_key) {
+  if (table.kind == Kind::keyless) return;
+  *no_key = !key.has_key();
+  if (key.has_key()) key.decode(match_spec);
+  if (table.kind == Kind::ternary) *priority = key.spec.priority;
+}
+
+// Reads an entry with decoders of its table: key is what its key is read into, and decode_action
+// what decode_action_of does. P4_PD_NO_ACTION_DATA for an entry that carries no action of its own,
+// P4_PD_FOREIGN_ACTION for an action that the table does not have.
+template <class Key, class DecodeAction>
+PD_INLINE p4_pd_status_t get_entry_with(const Table &table, Key &key, DecodeAction decode_action,
+                                        p4_pd_session_handle_t session, uint8_t device,
+                                        p4_pd_entry_handle_t entry, bool read_from_hardware,
+                                        const EntryOut &out) {
+  if (lacks_key_outputs(table, out.match_spec, out.priority, out.no_key)) {
+    return P4_PD_NULL_ARGUMENT;
+  }
+  ReadAction read(limits::action_data);
+  uint32_t handle = 0;
+  p4_pd_status_t status = pipe_mgr_get_entry(session, table.handle, device, entry, &key.spec,
+                                             &read.spec, &handle, read_from_hardware);
+  if (status != BF_SUCCESS) return status;
+  if (read.spec.type != PIPE_ACTION_DATA) return P4_PD_NO_ACTION_DATA;
+  ResourceList resources;
+  status = resources.build(read.spec);
+  if (status != BF_SUCCESS) return status;
+  uint32_t value = 0;
+  status = decode_action(handle, read.bytes, resources, out.action_spec, value);
+  if (status != BF_SUCCESS) return status;
+  if (out.action_name != nullptr) strcpy(out.action_name, program.action_names[value]);
+  if (out.action != nullptr) *out.action = value;
+  report_key(table, key, out.match_spec, out.priority, out.no_key);
+  return BF_SUCCESS;
+}
+
+// In loops over the descriptors of the table.
 p4_pd_status_t get_entry(const Table &table, p4_pd_session_handle_t session, uint8_t device,
                          p4_pd_entry_handle_t entry, bool read_from_hardware, const EntryOut &out);
+
+// Unrolled, but for i386: there the loops are shared by all tables, as code is to be small.
+template <class T>
+PD_INLINE p4_pd_status_t get_entry(p4_pd_session_handle_t session, uint8_t device,
+                                   p4_pd_entry_handle_t entry, bool read_from_hardware,
+                                   const EntryOut &out) {
+#ifdef __i386__
+  return get_entry(T::table, session, device, entry, read_from_hardware, out);
+#else
+  UnrolledKey<T> key;
+  return get_entry_with(T::table, key, decode_action_of<T>, session, device, entry,
+                        read_from_hardware, out);
+#endif
+}
 
 // Fills an action specs record. P4_PD_FOREIGN_ACTION for a default entry without direct action data
 // or with an action that the table does not have.

@@ -37,7 +37,7 @@ PD_INLINE uint32_t load(const uint8_t *member, unsigned storage) {
   return storage == 1 ? load<1>(member) : storage == 2 ? load<2>(member) : load<4>(member);
 }
 
-inline void store(uint8_t *member, unsigned storage, uint32_t value) {
+PD_INLINE void store(uint8_t *member, unsigned storage, uint32_t value) {
   if (storage == 1) {
     *member = static_cast<uint8_t>(value);
   } else if (storage == 2) {
@@ -46,6 +46,12 @@ inline void store(uint8_t *member, unsigned storage, uint32_t value) {
   } else {
     __builtin_memcpy(member, &value, 4);
   }
+}
+
+template <size_t Storage>
+PD_INLINE void store(uint8_t *member, uint32_t value) {
+  static_assert(Storage == 1 || Storage == 2 || Storage == 4);
+  store(member, static_cast<unsigned>(Storage), value);
 }
 
 // The low Count bytes (1 to 4) of value, most significant first.
@@ -63,6 +69,20 @@ PD_INLINE void store_big_endian(uint8_t *bytes, uint32_t value) {
     static_assert(Count == 4);
     const uint32_t swapped = __builtin_bswap32(value);
     __builtin_memcpy(bytes, &swapped, 4);
+  }
+}
+
+template <size_t Count>
+PD_INLINE uint32_t load_big_endian(const uint8_t *bytes) {
+  if constexpr (Count == 1) {
+    return *bytes;
+  } else if constexpr (Count == 2) {
+    return __builtin_bswap16(static_cast<uint16_t>(load<2>(bytes)));
+  } else if constexpr (Count == 3) {
+    return static_cast<uint32_t>(*bytes) << 16 | load_big_endian<2>(bytes + 1);
+  } else {
+    static_assert(Count == 4);
+    return __builtin_bswap32(load<4>(bytes));
   }
 }
 

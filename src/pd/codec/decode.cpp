@@ -27,18 +27,6 @@ uint16_t prefix_length(const uint8_t *mask, const KeyField &field) {
   return 0;
 }
 
-uint32_t resource_index(const Param &param, const p4_pd_res_spec_t *resources, uint32_t count) {
-  if (count == 0) return 0xffffffffu;
-  uint32_t index = 0;
-  for (const uint32_t wanted : param.index_of) {
-    if (wanted == 0) break;
-    for (uint32_t i = 0; i < count; ++i) {
-      if (resources[i].handle == wanted) index = resources[i].index;
-    }
-  }
-  return index;
-}
-
 }  // namespace
 
 void decode_key(const Table &table, const uint8_t *value, void *match_spec) {
@@ -61,9 +49,8 @@ void decode_mask(const Table &table, const uint8_t *mask, void *match_spec) {
   }
 }
 
-p4_pd_status_t ResourceList::build(const pipe_mgr_action_spec_t &spec) {
+p4_pd_status_t ResourceList::allocate(const pipe_mgr_action_spec_t &spec) {
   const uint32_t listed = held(spec.resource_count, PIPE_RESOURCES_PER_ACTION);
-  if (listed == 0) return BF_SUCCESS;
   items_ = static_cast<p4_pd_res_spec_t *>(bf_sys_calloc(listed, sizeof *items_));
   if (items_ == nullptr) return P4_PD_NO_MEMORY;
   for (uint32_t i = 0; i < listed; ++i) {
@@ -71,6 +58,18 @@ p4_pd_status_t ResourceList::build(const pipe_mgr_action_spec_t &spec) {
     items_[count_++] = {spec.resources[i].handle, spec.resources[i].index};
   }
   return BF_SUCCESS;
+}
+
+uint32_t resource_index(const Param &param, const p4_pd_res_spec_t *resources, uint32_t count) {
+  if (count == 0) return 0xffffffffu;
+  uint32_t index = 0;
+  for (const uint32_t wanted : param.index_of) {
+    if (wanted == 0) break;
+    for (uint32_t i = 0; i < count; ++i) {
+      if (resources[i].handle == wanted) index = resources[i].index;
+    }
+  }
+  return index;
 }
 
 void decode_action(const Action &action, const uint8_t *data, const p4_pd_res_spec_t *resources,
@@ -91,14 +90,7 @@ const Action *find_action(const Pair *pairs, uint32_t pair_count, uint32_t handl
   return nullptr;
 }
 
-ReadAction::ReadAction(uint16_t byte_count) {
-  clear(spec);
-  memset(bytes, 0, sizeof bytes);
-  spec.data.byte_count = byte_count;
-  spec.data.bytes = bytes;
-}
-
-ReadKey::ReadKey(const Table &table, bool with_counts) {
+ReadKey::ReadKey(const Table &table, bool with_counts) : table_(table) {
   clear(spec);
   if (table.kind == Kind::keyless) return;
   memset(value, 0, table.key_bytes);
@@ -111,9 +103,9 @@ ReadKey::ReadKey(const Table &table, bool with_counts) {
   }
 }
 
-void decode_read_key(const Table &table, const ReadKey &key, void *match_spec) {
-  decode_key(table, key.spec.value, match_spec);
-  if (table.kind != Kind::exact) decode_mask(table, key.spec.mask, match_spec);
+void ReadKey::decode(void *match_spec) const {
+  decode_key(table_, spec.value, match_spec);
+  if (table_.kind != Kind::exact) decode_mask(table_, spec.mask, match_spec);
 }
 
 }  // namespace pd

@@ -1,8 +1,9 @@
-// From the pipeline manager's bytes back to typed records. Read-back is not unrolled per table: it
-// loops over the same descriptors that the encoders unroll.
+// From the pipeline manager's bytes back to typed records, in loops over the descriptors that the
+// encoders unroll. decode_unrolled.hpp does the same for one table.
 #pragma once
 
 #include "bf_sys.h"
+#include "codec/bytes.hpp"
 #include "descriptor.hpp"
 
 namespace pd {
@@ -25,15 +26,23 @@ class ResourceList {
   }
 
   // P4_PD_NO_MEMORY, or BF_SUCCESS. A spec without resources allocates nothing.
-  p4_pd_status_t build(const pipe_mgr_action_spec_t &spec);
+  p4_pd_status_t build(const pipe_mgr_action_spec_t &spec) {
+    if (spec.resource_count == 0) return BF_SUCCESS;
+    return allocate(spec);
+  }
 
   const p4_pd_res_spec_t *items() const { return items_; }
   uint32_t count() const { return count_; }
 
  private:
+  p4_pd_status_t allocate(const pipe_mgr_action_spec_t &spec);
+
   p4_pd_res_spec_t *items_ = nullptr;
   uint32_t count_ = 0;
 };
+
+// The value of a resource-index parameter.
+uint32_t resource_index(const Param &param, const p4_pd_res_spec_t *resources, uint32_t count);
 
 // Fills the action spec record of the action from action data. A resource-index parameter reads
 // 0xffffffff when nothing is attached and 0 when only other resources are.
@@ -48,7 +57,11 @@ struct ReadAction {
   pipe_mgr_action_spec_t spec;
   uint8_t bytes[limits::action_data];
 
-  explicit ReadAction(uint16_t byte_count);
+  explicit ReadAction(uint16_t byte_count) : bytes{} {
+    clear(spec);
+    spec.data.byte_count = byte_count;
+    spec.data.bytes = bytes;
+  }
 };
 
 // A match spec with zeroed buffers for the key to be read back.
@@ -60,9 +73,11 @@ struct ReadKey {
   // With the table's counts set as an encoder sets them, or left 0.
   ReadKey(const Table &table, bool with_counts);
   bool has_key() const { return spec.value != nullptr; }
-};
+  // The value, and the mask where the table's kind has one.
+  void decode(void *match_spec) const;
 
-// Decodes a key that was read back: the value, and the mask where the table's kind has one.
-void decode_read_key(const Table &table, const ReadKey &key, void *match_spec);
+ private:
+  const Table &table_;
+};
 
 }  // namespace pd
