@@ -2,6 +2,7 @@
 
 #include <string.h>
 
+#include "bf_sys.h"
 #include "pipe_mgr.h"
 
 /* The prefix of what is defined: BY_HAND, by_hand_ or another one of by_hand.h. */
@@ -264,6 +265,21 @@ static inline void ipv6ShortMaskLpm_read_key(const pipe_mgr_match_spec_t *match,
     action.resource_count = 1;                       \
   }
 
+/* What an entry attaches; callers release it. */
+static p4_pd_res_spec_t *resources_of(const pipe_mgr_action_spec_t *action) {
+  const uint32_t listed = action->resource_count < PIPE_RESOURCES_PER_ACTION
+                              ? action->resource_count
+                              : PIPE_RESOURCES_PER_ACTION;
+  p4_pd_res_spec_t *resources = bf_sys_calloc(listed, sizeof *resources);
+  uint32_t count = 0;
+  for (uint32_t i = 0; resources != NULL && i < listed; ++i) {
+    if (action->resources[i].tag != PIPE_RESOURCE_ATTACH) continue;
+    resources[count].handle = action->resources[i].handle;
+    resources[count++].index = action->resources[i].index;
+  }
+  return resources;
+}
+
 #define DEFINE_READ(table, KIND, key_bits, key_bytes, handle, name, name_handle, data_size)        \
   p4_pd_status_t NAMED(table##_read)(p4_pd_session_handle_t session, uint8_t device,               \
                                      p4_pd_entry_handle_t entry, bool read_from_hardware,          \
@@ -271,7 +287,7 @@ static inline void ipv6ShortMaskLpm_read_key(const pipe_mgr_match_spec_t *match,
                                      READ_PRIORITY_##KIND char *action_name, void *action_spec,    \
                                      uint32_t *action_value, bool *no_key) {                       \
     REFUSE(match_spec == NULL || no_key == NULL || LACKS_PRIORITY_##KIND)                          \
-    uint8_t value[key_bytes], mask[key_bytes], data[8];                                            \
+    uint8_t value[key_bytes] = {0}, mask[key_bytes] = {0}, data[28] = {0};                         \
     pipe_mgr_match_spec_t match;                                                                   \
     pipe_mgr_action_spec_t action;                                                                 \
     uint32_t action_handle = 0;                                                                    \
@@ -287,6 +303,12 @@ static inline void ipv6ShortMaskLpm_read_key(const pipe_mgr_match_spec_t *match,
                                                      &action, &action_handle, read_from_hardware); \
     if (status != BF_SUCCESS) return status;                                                       \
     if (action.type != PIPE_ACTION_DATA) return P4_PD_NO_ACTION_DATA;                              \
+    p4_pd_res_spec_t *resources = NULL;                                                            \
+    if (action.resource_count != 0) {                                                              \
+      resources = resources_of(&action);                                                           \
+      if (resources == NULL) return P4_PD_NO_MEMORY;                                               \
+    }                                                                                              \
+    if (resources != NULL) bf_sys_free(resources);                                                 \
     if (action_handle != name_handle) return P4_PD_FOREIGN_ACTION;                                 \
     REFUSE(data_size != 0 && action_spec == NULL)                                                  \
     if (action_name != NULL) strcpy(action_name, "p4_pd_tessel_switch_" #name);                    \

@@ -62,6 +62,7 @@ bf_status_t pipe_mgr_get_entry(pipe_session_handle_t session, pipe_object_handle
                                pipe_mgr_match_spec_t *match, pipe_mgr_action_spec_t *action_spec,
                                pipe_object_handle_t *action, bool read_from_hardware) {
   (void)session, (void)table, (void)device, (void)entry, (void)read_from_hardware;
+  seen(match, 0, action_spec);
   memcpy(match->value, null_sdk_held.value, match->byte_count);
   memcpy(match->mask, null_sdk_held.mask, match->byte_count);
   match->priority = null_sdk_held.priority;
