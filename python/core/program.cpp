@@ -58,8 +58,11 @@ const RecordKind &Program::kind(const bindings::Record &record) {
   if (kind == nullptr) {
     const List *list = list_of(binding_, record);
     const std::string_view name = list == nullptr ? "records" : list->name;
-    kind = make_record_kind(record, record.name,
-                            fmt::format("{}.{}.{}", binding_.program, name, record.name));
+    RecordKind *made = make_record_kind(
+        record, record.name, fmt::format("{}.{}.{}", binding_.program, name, record.name));
+    // What packets carry; nobody states all of it.
+    made->may_lack_fields = name == "packets" || name == "digests";
+    kind = made;
   }
   return *kind;
 }

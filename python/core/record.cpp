@@ -272,6 +272,7 @@ void RecordFiller::set(PyObject *name, PyObject *value) {
 }
 
 void RecordFiller::finish() {
+  if (kind_.may_lack_fields) return;
   try {
     writer_.finish({});
   } catch (const Fault &fault) {

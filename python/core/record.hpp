@@ -16,6 +16,7 @@ struct RecordKind {
   std::string type_name;
   std::vector<PyObject *> labels;  // of the shown fields, as interned strings
   PyTypeObject *type = nullptr;
+  bool may_lack_fields = false;  // what is left out is 0
 };
 
 struct RecordObject {

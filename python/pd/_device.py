@@ -149,6 +149,9 @@ class Session(SessionBase):
     def __init__(self, device: Device | int = 0, pipe: int | None = None):
         """Opens the session."""
 
+    def __dir__(self) -> list[str]:
+        return sorted({*super().__dir__(), *KINDS})
+
     if not TYPE_CHECKING:  # what there is follows from the program
         def __getattr__(self, name: str) -> Any:
             kind = KINDS.get(name)

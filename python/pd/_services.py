@@ -131,7 +131,7 @@ class Digest(Name):
         self.deregister()
 
     def inject(self, *, pipe: int | None = None, **fields: Any) -> bool:
-        """Brings an entry as a packet does, and says whether it was new."""
+        """Brings an entry as a packet does, and says whether it was new. Other fields are 0."""
         entry = bytes(self._kind(**fields))
         return bool(read_control("soft_digest_inject", self.session.device_id, self._pipe(pipe),
                                  self.handle, entry, 1, len(entry)))
@@ -269,7 +269,10 @@ class Snapshot:
 
     def inject(self, *, first_stage: int = 0, stages: int = 1, pipe: int | None = None,
                **fields: Any) -> int:
-        """Sends a packet through stages and returns how many snapshots captured it."""
+        """Sends a packet through stages and returns how many snapshots captured it.
+
+        Fields that are not given are 0.
+        """
         record = bytes(self._program.record("packets", self.direction)(**fields)) * stages
         number = 0 if self.session.pipe == 0xffff else self.session.pipe
         return int(read_control("soft_snapshot_inject", self.session.device_id,

@@ -54,6 +54,19 @@ class Table(TableBase):
 
     # ---- Entries ----
 
+    def replace(self, action: Any, /, **fields: Any) -> int:
+        """Adds an entry, or modifies the one with this key and priority; returns its handle."""
+        try:
+            return int(self.add(action, **fields))
+        except _core.AlreadyExists:
+            ttl = fields.pop("ttl", None) if self.ages_entries else None
+            self.modify(action, **fields)
+            fields.pop("meter", None)
+            entry = int(self.find(**fields))
+            if ttl is not None:
+                self.set_ttl(entry, ttl)
+            return entry
+
     def handles(self) -> Iterator[int]:
         """The handles of all entries, without the default entry."""
         session = self.session

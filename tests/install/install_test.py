@@ -116,6 +116,16 @@ def check_pages(prefix, source, cmake, toolchain, compiler):
         source / "README.md", *(source / f"docs/{page}.md" for page in PAGES), env=env)
 
 
+def check_python(prefix):
+    packages = prefix / "lib/python3/dist-packages"
+    if not (packages / "pd").is_dir():  # on i386
+        return
+    code = ("import tessel_switch as ts; d = ts.Device(); s = d.session(); "
+            "print(len(s.tables), ts.__file__)")
+    check("Python package", f"120 {packages}/tessel_switch/__init__.py\n",
+          run("/usr/bin/python3", "-c", code, env=dict(os.environ, PYTHONPATH=str(packages))))
+
+
 def main():
     build, source, libdir, cmake, toolchain, *compiler = sys.argv[1:]
     source = pathlib.Path(source)
@@ -129,6 +139,7 @@ def main():
         check("libraries of the tool and its program", [True] * 3,
               [os.path.realpath(words[2]).startswith(str(prefix)) for words in own])
         check_pages(prefix, source, cmake, toolchain, compiler)
+        check_python(prefix)
         settings = [f"-DCMAKE_PREFIX_PATH={prefix}", f"-DCMAKE_C_COMPILER={compiler[0]}",
                     "-DCMAKE_C_FLAGS=" + " ".join(compiler[1:]),
                     "-DCMAKE_CXX_FLAGS=" + " ".join(compiler[1:]), f"-DCMAKE_INSTALL_LIBDIR={libdir}",

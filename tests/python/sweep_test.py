@@ -93,6 +93,7 @@ def test_every_keyed_table(package, session):
             assert table.find(key=read.key, **rest) == entry == table.find(**fields, **rest)
             assert [one.handle for one in table] == [entry] and len(table) == 1
             table.modify(outcome, entry=entry)
+            assert with_meter(table.replace, outcome, **fields, **rest) == entry
             table.modify(outcome, key=read.key, **rest)
             packet = {name: value[0] if isinstance(value, tuple) else value
                       for name, value in fields.items()}
@@ -242,8 +243,7 @@ def test_every_service(package, session):
             with session.snapshot(direction, 1, 2) as snapshot:
                 assert snapshot.capture() == []
                 snapshot.trigger(**{label + "_": 1})
-                packet = {name + "_": 0 for name, *_ in kind._describe()}
-                assert snapshot.inject(first_stage=1, stages=2, **packet) == 0
-                assert snapshot.inject(first_stage=1, stages=2, **{**packet, label + "_": 1}) == 1
+                assert snapshot.inject(first_stage=1, stages=2) == 0
+                assert snapshot.inject(first_stage=1, stages=2, **{label + "_": 1}) == 1
                 stages = snapshot.capture(pipe=0)
                 assert [(one.stage, one.triggered) for one in stages] == [(1, True), (2, True)]
