@@ -83,7 +83,7 @@ bindings::Export row(const char *name, Result (* /*function*/)(Types...), bindin
 
 #define SOFT(name, ...) row(#name, name, bindings::invoke<name>, __VA_ARGS__)
 
-std::vector<bindings::Export> make_functions() {
+std::vector<bindings::Export> device_functions() {
   return {
       SOFT(soft_device_copy, "from", "to"),
       SOFT(soft_device_exists, "device"),
@@ -108,13 +108,19 @@ std::vector<bindings::Export> make_functions() {
       SOFT(soft_digest_pending, "device", "digest", "collected", "unacknowledged"),
       SOFT(soft_snapshot_inject, "device", "pipe", "direction", "first_stage", "records",
            "stage_count", "bytes", "captures"),
-      SOFT(soft_clock_advance, "milliseconds"),
-      row("soft_clock_now", soft_clock_now, bindings::invoke<soft_clock_now>),
       SOFT(soft_device_clock_advance, "device", "milliseconds"),
       SOFT(soft_device_clock_now, "device", "milliseconds"),
       SOFT(soft_memory_bytes, "device", "handle", "bytes"),
       row("soft_allocations_live", soft_allocations_live, bindings::invoke<soft_allocations_live>),
       SOFT(soft_placement_corrupt, "placement"),
+  };
+}
+
+// What is of the whole process.
+std::vector<bindings::Export> process_functions() {
+  return {
+      SOFT(soft_clock_advance, "milliseconds"),
+      row("soft_clock_now", soft_clock_now, bindings::invoke<soft_clock_now>),
       SOFT(fail_call, "function", "n", "status"),
       row("fail_any_call", soft::faults::fail_any_call,
           bindings::invoke<soft::faults::fail_any_call>, "n", "status"),
@@ -232,7 +238,12 @@ PyMethodDef functions[] = {
 }  // namespace
 
 std::span<const bindings::Export> soft_functions() {
-  static const std::vector<bindings::Export> all = make_functions();
+  static const std::vector<bindings::Export> all = [] {
+    std::vector<bindings::Export> rows = device_functions();
+    const std::vector<bindings::Export> others = process_functions();
+    rows.insert(rows.end(), others.begin(), others.end());
+    return rows;
+  }();
   return all;
 }
 
