@@ -25,7 +25,7 @@ ScriptResult run_script(Runner &runner, std::string_view file, const LineSource 
     ++result.faults;
     if (!options.keep_going) break;
   }
-  if (result.lines >= options.from) return result;
+  if (result.lines >= options.from || options.from == 1) return result;
   throw Fault(fmt::format("the script has no line {}, only {}", options.from, result.lines));
 }
 
