@@ -46,8 +46,9 @@ bool is_local(std::string_view host) {
 using Addresses = std::unique_ptr<addrinfo, decltype(&freeaddrinfo)>;
 
 Addresses find_addresses(const std::string &where) {
-  HostAndPort parts(where);
-  if (where.find(':') == std::string::npos) parts = HostAndPort("127.0.0.1:" + where);
+  const bool has_host = where.find(':') != std::string::npos;
+  const std::string whole = has_host ? where : "127.0.0.1:" + where;
+  const HostAndPort parts(whole);
   const std::string host(parts.host.empty() ? "127.0.0.1" : parts.host);
   const uint64_t port = parse_limited({parts.port, 0}, 65535, "the port");
   addrinfo wanted = {};
