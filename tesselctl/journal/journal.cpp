@@ -1,5 +1,6 @@
 #include "tesselctl/journal/journal.hpp"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <fmt/format.h>
 #include <unistd.h>
@@ -7,6 +8,7 @@
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
+#include <memory>
 #include <utility>
 
 #include "tesselctl/state/image.hpp"
@@ -23,8 +25,15 @@ namespace fs = std::filesystem;
 constexpr size_t kKept = 9;
 constexpr auto kInterval = std::chrono::seconds(1);
 
+constexpr std::string_view kImageEnd = ".image";
+
 std::string checkpoint_path(const std::string &journal, uint64_t number) {
-  return fmt::format("{}.{}.image", journal, number);
+  return fmt::format("{}.{}{}", journal, number, kImageEnd);
+}
+
+// Of the file that gets the number 1, until the others have made room.
+fs::path kept_path(const fs::path &journal) {
+  return journal.parent_path() / ("." + journal.filename().string() + ".old");
 }
 
 }  // namespace
@@ -82,16 +91,64 @@ Journal::~Journal() {
 void Journal::finish() {
   if (extent_.last != extent_.after) return rotate();
   write_checkpoint();
+  remove_leftovers();
 }
 
 // ---- Start ----
 
-// A file of the changes to come behind a checkpoint.
+// A file of the changes to come behind a checkpoint, in the place of the one before.
 void Journal::begin_file() {
+  FileWriter file(options_.path);
   const std::string head = journal_head(extent_.last);
-  write_file(options_.path, head);
-  open_file(head.size());
-  extent_.after = extent_.last;
+  file.write(head);
+  if (fs::exists(options_.path)) keep_file();
+  const auto go_on_there = [&] {
+    extent_ = {extent_.last, extent_.last, head.size()};
+    const std::lock_guard guard(mutex_);
+    file_ = file.take();
+  };
+  try {
+    file.commit();
+  } catch (const Fault &) {
+    if (file.is_in_place()) go_on_there();
+    throw;
+  }
+  go_on_there();
+}
+
+// Gives the file the number 1 beside its name. What may find no room comes first, so that a full
+// disk pushes no old file out.
+void Journal::keep_file() {
+  const fs::path kept = kept_path(options_.path);
+  std::error_code failed;
+  if (fs::equivalent(options_.path, old_path(1), failed)) return;  // a try before came so far
+  fs::remove(kept);
+  fs::create_hard_link(fs::canonical(options_.path), kept, failed);
+  if (failed) fs::copy_file(options_.path, kept);
+  for (size_t at = kKept; at-- > 1;) {
+    if (fs::exists(old_path(at))) fs::rename(old_path(at), old_path(at + 1));
+  }
+  fs::rename(kept, old_path(1));
+}
+
+// What tries that failed and killed servers left: the checkpoints of no file, and a file's second
+// name. What cannot be removed now is removed by the next new file.
+void Journal::remove_leftovers() {
+  const fs::path journal = options_.path;
+  const fs::path folder = journal.has_parent_path() ? journal.parent_path() : ".";
+  const std::string first = journal.filename().string() + ".";
+  const std::string checkpoint = fs::path(checkpoint_path(options_.path, extent_.after)).filename();
+  unlink(kept_path(journal).c_str());
+  const std::unique_ptr<DIR, int (*)(DIR *)> opened(opendir(folder.c_str()), closedir);
+  while (const dirent *entry = opened ? readdir(opened.get()) : nullptr) {
+    std::string_view number = entry->d_name;
+    if (number == checkpoint || !number.starts_with(first) || !number.ends_with(kImageEnd))
+      continue;
+    number.remove_prefix(first.size());
+    number.remove_suffix(std::min(number.size(), kImageEnd.size()));
+    const bool is_number = number.find_first_not_of("0123456789") == number.npos;
+    if (is_number && !number.empty()) unlink((folder / entry->d_name).c_str());
+  }
 }
 
 void Journal::go_on(DeviceOptions device, bool pipes_are_given) {
@@ -146,6 +203,8 @@ void Journal::write_checkpoint() {
 void Journal::note(const LineChanges &line) {
   const uint64_t undone = std::exchange(undone_, 0);
   uint64_t bytes = extent_.bytes;
+  if (needs_cut_) cut();
+  if (needs_cut_) throw_system(options_.path);
   try {
     print_journaled(line, undone, [&](std::string_view text) {
       append(text);
@@ -156,14 +215,16 @@ void Journal::note(const LineChanges &line) {
     });
     sync_if_always();
   } catch (...) {
-    // What was written of the change is no change.
-    [[maybe_unused]] const int cut = ftruncate(file_.get(), static_cast<off_t>(extent_.bytes));
+    cut();
     throw;
   }
   extent_.bytes = bytes;
   extent_.last = line.number;
   if (bytes > rotate_at_) rotate();
 }
+
+// What was written of a change that failed is no change.
+void Journal::cut() { needs_cut_ = ftruncate(file_.get(), static_cast<off_t>(extent_.bytes)) != 0; }
 
 void Journal::append(std::string_view text) {
   while (!text.empty()) {
@@ -197,23 +258,27 @@ void Journal::sync_each_second() {
   }
 }
 
-// Where it fails, the file goes on and grows.
+// Where it fails, the file goes on and grows. Throws nothing, as the change before it is kept.
 void Journal::rotate() {
-  const uint64_t before = extent_.after;
   try {
-    // First what may not fit, so that a full disk pushes no old file out.
+    try_to_rotate();
+    remove_leftovers();
+  } catch (const std::exception &) {
+    // Nothing can be said. The next one removes what this one left.
+  }
+}
+
+void Journal::try_to_rotate() {
+  rotate_at_ = extent_.bytes + options_.most_bytes;
+  try {
     write_checkpoint();
-    for (size_t at = kKept; at-- > 1;) {
-      if (fs::exists(old_path(at))) fs::rename(old_path(at), old_path(at + 1));
-    }
-    // Under both names, until the new file takes the first.
-    fs::create_hard_link(old_path(0), old_path(1));
     begin_file();
-    if (before != extent_.last) fs::remove(checkpoint_path(options_.path, before));
     rotate_at_ = options_.most_bytes;
   } catch (const std::exception &error) {
-    rotate_at_ = extent_.bytes + options_.most_bytes;
-    errors_.line("{}: no new file could be begun: {}", options_.path, error.what());
+    errors_.line("{}: {}: {}", options_.path,
+                 extent_.after == extent_.last ? "the new file may not be on the disk yet"
+                                               : "no new file could be begun",
+                 error.what());
     errors_.flush();
   }
 }

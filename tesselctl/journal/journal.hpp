@@ -46,13 +46,17 @@ class Journal : public LineListener {
 
  private:
   void begin_file();
+  void keep_file();
+  void remove_leftovers();
   void go_on(DeviceOptions device, bool pipes_are_given);
   void open_file(uint64_t bytes);
   void write_checkpoint();
   void append(std::string_view text);
+  void cut();
   void sync_if_always();
   void sync_each_second();
   void rotate();
+  void try_to_rotate();
   std::string old_path(size_t at) const;
 
   JournalOptions options_;
@@ -63,6 +67,7 @@ class Journal : public LineListener {
   JournalExtent extent_;
   uint64_t undone_ = 0;
   uint64_t rotate_at_ = 0;
+  bool needs_cut_ = false;
 
   std::mutex mutex_;  // of what the thread that syncs shares
   std::condition_variable wake_;

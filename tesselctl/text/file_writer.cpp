@@ -114,8 +114,9 @@ FilePlace FilePlace::of_file(const std::string &path) {
   throw Fault(path + ": the file is moved all the time");
 }
 
+// What is taken is left again when anything fails behind it: by then the other constructor is done.
 FileLock::FileLock(const FilePlace &place, int seconds)
-    : place_(place), name_("." + place.name + ".lock") {
+    : FileLock(place, "." + place.name + ".lock") {
   using Clock = std::chrono::steady_clock;
   const Clock::time_point end = Clock::now() + std::chrono::seconds(seconds);
   while (!try_take()) {
@@ -132,6 +133,10 @@ FileLock::FileLock(const FilePlace &place, int seconds)
 
 // Whether the lock is held now. A file that its holder removed meanwhile is none to wait for.
 bool FileLock::try_take() {
+  {
+    const std::lock_guard guard(held_mutex);
+    held.reserve(held.size() + 1);
+  }
   const int flags = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
   file_ = Descriptor(openat(place_.folder.get(), name_.c_str(), O_RDWR | O_CREAT | flags, 0666));
   const bool is_ours = file_.is_open();
@@ -150,16 +155,16 @@ bool FileLock::try_take() {
   const bool is_named =
       fstatat(place_.folder.get(), name_.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0;
   if (!is_named || !is_same_file(status, named)) return false;
-  if (is_ours) {
-    write_holder(file_.get());
-  } else if (unlinkat(place_.folder.get(), name_.c_str(), 0) == 0) {
-    return false;
-  } else if (errno != EPERM) {  // in a sticky folder it stays, and locks as it is
-    throw_beside(place_, name_);
+  if (!is_ours && unlinkat(place_.folder.get(), name_.c_str(), 0) == 0) return false;
+  // In a sticky folder it stays, and locks as it is.
+  if (!is_ours && errno != EPERM) throw_beside(place_, name_);
+  {
+    const std::lock_guard guard(held_mutex);
+    held.push_back(status);
+    owns_ = true;
   }
-  const std::lock_guard guard(held_mutex);
-  held.push_back(status);
-  return owns_ = true;
+  if (is_ours) write_holder(file_.get());
+  return true;
 }
 
 bool FileLock::is_shared() const {
@@ -197,7 +202,7 @@ void FileWriter::open_temporary() {
   if (unlinkat(place_.folder.get(), name.c_str(), 0) != 0 && errno != ENOENT) {
     throw_beside(place_, name);
   }
-  const int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+  const int flags = O_WRONLY | O_APPEND | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
   file_ = Descriptor(openat(place_.folder.get(), name.c_str(), flags, place_.exists ? 0600 : 0666));
   if (file_.is_open()) temporary_ = name;
 }

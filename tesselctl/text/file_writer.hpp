@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "tesselctl/text/descriptor.hpp"
 
@@ -43,6 +44,7 @@ class FileLock {
   FileLock &operator=(const FileLock &) = delete;
 
  private:
+  FileLock(const FilePlace &place, std::string name) : place_(place), name_(std::move(name)) {}
   bool try_take();
   bool is_shared() const;
 
@@ -65,6 +67,11 @@ class FileWriter {
 
   void write(std::string_view text);
   void commit();
+  // Whether the file has its name. A commit that fails behind that leaves it to the system when the
+  // folder gets to the disk.
+  bool is_in_place() const { return temporary_.empty(); }
+  // The file, at whose end more can be written.
+  Descriptor take() { return std::move(file_); }
 
  private:
   void open_temporary();
