@@ -4,8 +4,6 @@
 #include <cstring>
 #include <new>
 
-#include "tables/rule_masks.hpp"
-
 namespace soft {
 
 namespace {
@@ -13,6 +11,7 @@ namespace {
 constexpr size_t kFewRules = 16;        // are compared one by one
 constexpr size_t kFewAlike = 8;         // rules with one tag stand side by side
 constexpr size_t kSampledRules = 1024;  // to choose a mask by
+constexpr size_t kFrontRules = 256;
 constexpr size_t kLevelsAhead = 16;     // are looked up at a time
 constexpr size_t kAddedBeforeNew = 64;  // more than there were
 
@@ -31,6 +30,7 @@ RuleIndex::RuleIndex(std::pmr::memory_resource *memory, const RecordLayout &reco
 void RuleIndex::reset() noexcept {
   for (Chain *chain : chains_) std::pmr::polymorphic_allocator<>(memory_).delete_object(chain);
   std::pmr::vector<Chain *>(memory_).swap(chains_);
+  front_ = nullptr;
 }
 
 // ---- Rules ----
@@ -74,7 +74,7 @@ void RuleIndex::read(uint32_t slot, Rule &rule) const {
   const uint8_t *record = slots_.at(slot);
   const uint8_t pipe = record[RecordLayout::kPipe];
   const uint8_t *mask = mask_of(slot);
-  rule.ranked = {slot, priority_of(slot)};
+  rule.ranked = {slot, priority_of(slot), {}};
   copy_words(record + record_.value, pipe, rule.value);
   Words kept;
   kept.fill(~uint64_t{0});
@@ -124,7 +124,7 @@ void RuleIndex::place(Level &level, const Cell &cell) {
 
 void RuleIndex::make_room(Level &level) {
   if (level.used + 1 <= level.cells.size() / 4 * 3) return;
-  std::pmr::vector<Cell> old(level.cells.size() * 2, Cell{0, kNone, 0},
+  std::pmr::vector<Cell> old(level.cells.size() * 2, Cell{0, kNone, 0, {}},
                              level.cells.get_allocator());
   old.swap(level.cells);
   level.used = 0;
@@ -161,7 +161,9 @@ void RuleIndex::add(Chain &chain, const Rule &rule) {
 
 void RuleIndex::add_to_rest(Chain &chain, const Rule &rule) {
   const auto before = [this](const Ranked &a, const Ranked &b) { return is_before(a, b); };
-  chain.rest.insert(std::ranges::upper_bound(chain.rest, rule.ranked, before), rule.ranked);
+  Ranked added = rule.ranked;
+  added.filter = filter_of(rule, chain.window);
+  chain.rest.insert(std::ranges::upper_bound(chain.rest, added, before), added);
   if (chain.rest.size() >= chain.next_try) refine(chain);
 }
 
@@ -179,7 +181,7 @@ void RuleIndex::add_to(Level &level, uint32_t tag, const Rule &rule) {
     }
     ++alike;
   }
-  place(level, {tag, rule.ranked.slot, rule.ranked.priority});
+  place(level, {tag, rule.ranked.slot, rule.ranked.priority, filter_of(rule, level.window)});
   if (alike == kFewAlike) refine(*chains_[make_chain(level, tag)]);
 }
 
@@ -195,11 +197,11 @@ uint32_t RuleIndex::make_chain(Level &level, uint32_t tag) {
       at = (at + 1) & last;
       continue;
     }
-    rest.push_back({cell.to, cell.priority});
+    rest.push_back({cell.to, cell.priority, {}});
     free_cell(level, at);
   }
   std::ranges::sort(rest, [this](const Ranked &a, const Ranked &b) { return is_before(a, b); });
-  place(level, {tag, kChain | number, rest[0].priority});
+  place(level, {tag, kChain | number, rest[0].priority, {}});
   return number;
 }
 
@@ -207,10 +209,23 @@ uint32_t RuleIndex::make_chain(Level &level, uint32_t tag) {
 void RuleIndex::refine(Chain &chain) {
   while (chain.rest.size() >= kFewAlike && add_level(chain)) {
   }
+  set_window(chain);
   chain.next_try = std::max(2 * chain.rest.size(), 2 * kFewAlike);
 }
 
-bool RuleIndex::add_level(Chain &chain) {
+void RuleIndex::set_window(Chain &chain) {
+  const Words none{};
+  const RuleSample sample = sample_of(chain);
+  chain.window =
+      static_cast<uint32_t>(sample.window(reinterpret_cast<const uint8_t *>(none.data())));
+  Rule rule;
+  for (Ranked &ranked : chain.rest) {
+    read(ranked.slot, rule);
+    ranked.filter = filter_of(rule, chain.window);
+  }
+}
+
+RuleSample RuleIndex::sample_of(const Chain &chain) const {
   const size_t count = chain.rest.size();
   const size_t sampled = std::min(count, kSampledRules);
   RuleSample sample(words_ * 8, static_cast<double>(count) / static_cast<double>(sampled));
@@ -220,11 +235,19 @@ bool RuleIndex::add_level(Chain &chain) {
     sample.add(reinterpret_cast<const uint8_t *>(rule.value.data()),
                reinterpret_cast<const uint8_t *>(rule.mask.data()));
   }
+  return sample;
+}
+
+bool RuleIndex::add_level(Chain &chain) {
+  RuleSample sample = sample_of(chain);
   Words chosen;
-  if (!sample.choose(reinterpret_cast<uint8_t *>(chosen.data()))) return false;
+  auto *bytes = reinterpret_cast<uint8_t *>(chosen.data());
+  if (!sample.choose(bytes)) return false;
   chain.masks.insert(chain.masks.end(), chosen.data(), chosen.data() + words_);
-  chain.levels.push_back({std::pmr::vector<Cell>(16, Cell{0, kNone, 0}, memory_), 0, 0xffffffff});
+  chain.levels.push_back({std::pmr::vector<Cell>(16, Cell{0, kNone, 0, {}}, memory_), 0, 0xffffffff,
+                          static_cast<uint32_t>(sample.window(bytes))});
   Level &level = chain.levels.back();
+  Rule rule;
   size_t kept = 0;
   for (const Ranked &ranked : chain.rest) {
     read(ranked.slot, rule);
@@ -254,8 +277,34 @@ void RuleIndex::build() {
   added_ = 0;
   Chain &first = *chains_[new_chain()];
   first.rest.reserve(all.size());
-  for (const Aged &rule : all) first.rest.push_back({rule.slot, rule.priority});
+  for (const Aged &rule : all) first.rest.push_back({rule.slot, rule.priority, {}});
+  const std::vector<Ranked> in_front(
+      first.rest.begin(),
+      first.rest.begin() + static_cast<ptrdiff_t>(std::min(all.size(), kFrontRules)));
+  const bool is_long = all.size() > kFrontRules * 4;
   refine(first);
+  if (is_long) build_front(in_front);
+}
+
+// Kept when one of them hits a quarter of the packets with the values of the others.
+void RuleIndex::build_front(std::span<const Ranked> first) {
+  Chain *front = chains_[new_chain()];
+  front->rest.assign(first.begin(), first.end());
+  refine(*front);
+  size_t asked = 0, hit = 0;
+  const size_t step = slots_.count() / kFrontRules + 1;
+  size_t number = 0;
+  slots_.each_live([&](uint32_t slot) {
+    if (++number % step != 0) return;
+    const uint8_t *record = slots_.at(slot);
+    Packet packet{record + record_.value, record[RecordLayout::kPipe], {}};
+    copy_words(packet.key, packet.pipe, packet.words);
+    Best best;
+    search(*front, packet, best);
+    ++asked;
+    hit += best.slot != kNone;
+  });
+  if (hit >= asked / 4) front_ = front;
 }
 
 void RuleIndex::insert(uint32_t slot) noexcept {
@@ -276,13 +325,16 @@ void RuleIndex::erase(uint32_t slot) noexcept {
   Rule rule;
   read(slot, rule);
   remove(*chains_[0], rule);
+  if (front_ != nullptr) remove(*front_, rule);
 }
 
+// If it is there.
 void RuleIndex::remove(Chain &chain, const Rule &rule) {
   const size_t place = level_of(chain, rule);
   if (place == chain.levels.size()) {
     const auto before = [this](const Ranked &a, const Ranked &b) { return is_before(a, b); };
-    chain.rest.erase(std::ranges::lower_bound(chain.rest, rule.ranked, before));
+    const auto at = std::ranges::lower_bound(chain.rest, rule.ranked, before);
+    if (at != chain.rest.end() && at->slot == rule.ranked.slot) chain.rest.erase(at);
     return;
   }
   Level &level = chain.levels[place];
@@ -308,13 +360,14 @@ void RuleIndex::consider(const Packet &packet, const Ranked &rule, Best &best) c
 void RuleIndex::search(const Level &level, uint32_t tag, const Packet &packet, Best &best) const {
   if (level.least_priority > best.priority) return;
   const size_t last = level.cells.size() - 1;
+  const uint16_t window = in_window(packet.words, level.window);
   for (size_t at = tag & last; level.cells[at].to != kNone; at = (at + 1) & last) {
     const Cell &cell = level.cells[at];
-    if (cell.tag != tag || cell.priority > best.priority) continue;
+    if (cell.tag != tag || cell.priority > best.priority || !cell.filter.passes(window)) continue;
     if (is_chain(cell.to))
       search(*chains_[cell.to & ~kChain], packet, best);
     else
-      consider(packet, {cell.to, cell.priority}, best);
+      consider(packet, {cell.to, cell.priority, {}}, best);
   }
 }
 
@@ -331,8 +384,10 @@ void RuleIndex::search(const Chain &chain, const Packet &packet, Best &best) con
     for (size_t level = from; level < to; ++level)
       search(chain.levels[level], tags[level - from], packet, best);
   }
+  const uint16_t window = in_window(packet.words, chain.window);
   for (const Ranked &rule : chain.rest) {
     if (rule.priority > best.priority) return;
+    if (!rule.filter.passes(window)) continue;
     consider(packet, rule, best);
     if (best.slot == rule.slot) return;
   }
@@ -349,9 +404,10 @@ uint32_t RuleIndex::find(const uint8_t *key, uint8_t pipe) noexcept {
     reset();
   }
   if (chains_.empty()) {
-    slots_.each_live([&](uint32_t slot) { consider(packet, {slot, priority_of(slot)}, best); });
+    slots_.each_live([&](uint32_t slot) { consider(packet, {slot, priority_of(slot), {}}, best); });
   } else {
     copy_words(key, pipe, packet.words);
+    if (front_ != nullptr) search(*front_, packet, best);
     search(*chains_[0], packet, best);
   }
   return best.slot;

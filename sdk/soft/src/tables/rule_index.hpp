@@ -4,12 +4,14 @@
 #include <array>
 #include <cstdint>
 #include <memory_resource>
+#include <span>
 #include <vector>
 
 #include "store/key_twins.hpp"
 #include "store/mask_pool.hpp"
 #include "store/slot_store.hpp"
 #include "tables/match_table_record.hpp"
+#include "tables/rule_masks.hpp"
 
 namespace soft {
 
@@ -53,11 +55,20 @@ class RuleIndex {
   static constexpr size_t kMostWords = 16;
   using Words = std::array<uint64_t, kMostWords>;
 
+  // Two bytes of a rule, those in the window of a level or chain: most rules that a packet does not
+  // hit are sorted out by them, without a look at the record.
+  struct Filter {
+    uint16_t value = 0;
+    uint16_t mask = 0;
+    bool passes(uint16_t packet) const { return ((packet ^ value) & mask) == 0; }
+  };
+
   // A rule, or a chain in the place of some.
   struct Cell {
     uint32_t tag;
     uint32_t to;        // slot, or kChain and the number of a chain; kNone: a free cell
     uint32_t priority;  // least of what is there
+    Filter filter;
   };
   static constexpr uint32_t kChain = 1u << 31;
   static bool is_chain(uint32_t to) { return to != kNone && (to & kChain) != 0; }
@@ -66,10 +77,12 @@ class RuleIndex {
     std::pmr::vector<Cell> cells;  // a power of two
     uint32_t used;
     uint32_t least_priority;
+    uint32_t window;
   };
   struct Ranked {
     uint32_t slot;
     uint32_t priority;
+    Filter filter;
   };
   struct Chain {
     explicit Chain(std::pmr::memory_resource *memory)
@@ -79,6 +92,7 @@ class RuleIndex {
     std::pmr::vector<Level> levels;
     std::pmr::vector<Ranked> rest;
     size_t next_try = 0;  // to make levels of the rest, when it has this many rules
+    uint32_t window = 0;  // of the rest
   };
 
   struct Rule {
@@ -108,6 +122,12 @@ class RuleIndex {
   const uint64_t *mask(const Chain &chain, size_t level) const {
     return chain.masks.data() + level * words_;
   }
+  static uint16_t in_window(const Words &words, uint32_t window) {
+    return load<uint16_t>(reinterpret_cast<const uint8_t *>(words.data()) + window);
+  }
+  static Filter filter_of(const Rule &rule, uint32_t window) {
+    return {in_window(rule.value, window), in_window(rule.mask, window)};
+  }
   uint32_t tag_of(const Words &words, const uint64_t *mask) const;
   bool fits(const Rule &rule, const uint64_t *mask) const;
   size_t level_of(const Chain &chain, const Rule &rule) const;
@@ -120,6 +140,9 @@ class RuleIndex {
   uint32_t make_chain(Level &level, uint32_t tag);
   void refine(Chain &chain);
   bool add_level(Chain &chain);
+  void set_window(Chain &chain);
+  RuleSample sample_of(const Chain &chain) const;
+  void build_front(std::span<const Ranked> first);
   static void place(Level &level, const Cell &cell);
   static void free_cell(Level &level, uint32_t at);
   static void make_room(Level &level);
@@ -136,8 +159,11 @@ class RuleIndex {
   const uint8_t *compared_;
   size_t words_;
   std::pmr::vector<Chain *> chains_;  // the first one holds all rules; none: there is no index
-  size_t rules_ = 0;                  // when it was made
-  size_t added_ = 0;                  // since then
+  // Holds the first rules once more where packets mostly hit one of them: behind such a hit the
+  // search is short. Null elsewhere.
+  Chain *front_ = nullptr;
+  size_t rules_ = 0;  // when it was made
+  size_t added_ = 0;  // since then
 };
 
 }  // namespace soft

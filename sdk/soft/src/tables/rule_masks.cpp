@@ -1,6 +1,7 @@
 #include "tables/rule_masks.hpp"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 
 namespace soft {
@@ -63,6 +64,19 @@ void RuleSample::take(const Step &step) {
   }
   rules_.resize(kept);
   classes_.resize(kept);
+}
+
+size_t RuleSample::window(const uint8_t *chosen) const {
+  std::vector<size_t> bits(bytes_);
+  for (size_t at = 0; at < masks_.size(); ++at) {
+    const size_t place = at % bytes_;
+    bits[place] +=
+        static_cast<size_t>(std::popcount(static_cast<uint8_t>(masks_[at] & ~chosen[place])));
+  }
+  size_t best = 0;
+  for (size_t place = 1; place + 1 < bytes_; ++place)
+    if (bits[place] + bits[place + 1] > bits[best] + bits[best + 1]) best = place;
+  return best;
 }
 
 bool RuleSample::choose(uint8_t *mask) {

@@ -19,6 +19,9 @@ class RuleSample {
   // Sets the chosen bits; false when looking at all rules one by one is as good.
   bool choose(uint8_t *mask);
 
+  // The place of the two bytes that most rules care for beside the chosen bits.
+  size_t window(const uint8_t *chosen) const;
+
  private:
   // What a set of bits is good for: so many rules care for them all, in classes of so many.
   struct Yield {
