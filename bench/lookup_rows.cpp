@@ -38,6 +38,7 @@ Side looking_up(std::string name, std::function<void(Lookups &)> fill, const cha
   return {std::move(name), [fill = std::move(fill), table, &program] {
             auto lookups = std::make_shared<Lookups>(table, program);
             fill(*lookups);
+            (*lookups)(1);  // the first one makes the index
             return [lookups](uint64_t operations) { (*lookups)(operations); };
           }};
 }
