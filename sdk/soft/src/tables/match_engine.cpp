@@ -59,10 +59,12 @@ bf_status_t MatchEngine::add(pipe_session_handle_t session, bf_pipe_id_t pipe,
   return update(session, PIPE_UPDATE_ADD, [&](pipe_entry_handle_t *added) {
     bf_status_t status = check_key(match);
     if (status != BF_SUCCESS) return status;
+    const EntryKey key = key_of(*match, pipe);
+    entries_->prefetch(key);
     Checked checked;
     status = check_entry_action(action, spec, &checked);
     if (status != BF_SUCCESS) return status;
-    status = insert(key_of(*match, pipe), checked, ttl, added);
+    status = insert(key, checked, ttl, added);
     if (status == BF_SUCCESS) *entry = *added;
     return status;
   });

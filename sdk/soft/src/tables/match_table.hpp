@@ -3,7 +3,8 @@
 //
 // Built for millions of entries: fixed-size records in large chunks, one open-addressing index over
 // (masked value, mask), nothing allocated per entry, no pause longer than the split of one index
-// segment. A table that becomes empty gives its memory back but for what a few entries need.
+// segment but for look-ups among rules (RuleIndex), of which some begin with a new index. A table
+// that becomes empty gives its memory back but for what a few entries need.
 //
 // Identity. Two keys are the same when pipe, priority, mask and the value bits under the mask are:
 // no packet would hit one and not the other. The value bytes are kept as given for read-back.
@@ -60,6 +61,12 @@ class MatchTable {
   // fit the layout as set_action; BF_INVALID_PIPE for a pipe above 254.
   bf_status_t add(const EntryKey &key, const EntryAction &action, uint32_t ttl_ms, uint64_t now_ms,
                   pipe_entry_handle_t *entry);
+
+  // Fetches what add() of this key will look at first, where that pays: in tables beyond the
+  // caches.
+  void prefetch(const EntryKey &key) const {
+    if (count() >= kFarEntries) index_.prefetch(hashes_of(key).of_key);
+  }
 
   // The entry with this key, the oldest one where there are duplicates. BF_OBJECT_NOT_FOUND.
   bf_status_t find(const EntryKey &key, pipe_entry_handle_t *entry) const;
@@ -131,6 +138,8 @@ class MatchTable {
   size_t distinct_masks() const { return record_.has_mask ? masks_.count() : 1; }
 
  private:
+  static constexpr size_t kFarEntries = 1u << 18;
+
   struct Candidate {
     uint32_t slot;
     uint32_t priority;
