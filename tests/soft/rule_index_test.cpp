@@ -15,7 +15,7 @@ class Rules : public SoftTest, public testing::WithParamInterface<uint32_t> {
     rule->value.assign(10, 0);
     rule->mask.assign(10, 0);
     const uint32_t shape = random.below(GetParam() % 4 + 1);
-    for (const size_t field : {0, 5}) {
+    for (const size_t field : {0u, 5u}) {
       const uint32_t bits = random.below(shape == 2 ? 41 : 9) * (shape == 2 ? 1 : 5);
       for (size_t i = 0; i < 5; ++i) {
         const uint32_t left = bits > 8 * i ? bits - static_cast<uint32_t>(8 * i) : 0;
@@ -67,7 +67,7 @@ class Rules : public SoftTest, public testing::WithParamInterface<uint32_t> {
 TEST_P(Rules, HitTheSameAsOneByOne) {
   OK(pipe_mgr_tbl_set_property(session, kDevice, kTunnel, PIPE_TABLE_ENTRY_SCOPE, 1, 0));
   OK(pipe_mgr_tbl_set_property(session, kDevice, kTunnel, PIPE_TABLE_DUPLICATE_CHECK, 0, 0));
-  for (const uint32_t count : {12, 40, 900, 200, 600, 5}) {
+  for (const uint32_t count : {12u, 40u, 900u, 200u, 600u, 5u}) {
     while (table.entries.size() < count) {
       add();
       if (random.one_in(3)) look_up();

@@ -23,7 +23,7 @@ void KeyIndex::free_segments() {
 
 KeyIndex::Segment *KeyIndex::make(uint32_t cells, uint32_t depth) {
   std::pmr::polymorphic_allocator<> memory(memory_);
-  auto *segment = memory.new_object<Segment>(nullptr, cells - 1, 0u, depth);
+  auto *segment = memory.new_object<Segment>(Segment{nullptr, cells - 1, 0, depth});
   try {
     const size_t bytes = cells * sizeof(uint64_t);
     segment->cells = static_cast<uint64_t *>(memory.allocate_bytes(bytes, kLine));

@@ -3,6 +3,8 @@
 #include <sys/mman.h>
 
 #include <algorithm>
+#include <functional>
+#include <new>
 
 namespace soft {
 

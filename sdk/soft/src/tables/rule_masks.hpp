@@ -1,6 +1,7 @@
 // Which bits of their keys to tell rules apart by.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
