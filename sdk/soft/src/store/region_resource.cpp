@@ -9,41 +9,46 @@
 namespace soft {
 
 bool RegionResource::is_in_region(const void *memory) const {
+  if (regions_ == nullptr) return false;
   const auto *byte = static_cast<const std::byte *>(memory);
-  const auto behind = std::ranges::upper_bound(regions_, byte, std::less<>());
-  return behind != regions_.begin() && byte < behind[-1] + kRegionBytes;
+  const auto behind = std::ranges::upper_bound(regions_->all, byte, std::less<>());
+  return behind != regions_->all.begin() && byte < behind[-1] + kRegionBytes;
 }
 
 // Made when the first block of a size is given out, so that giving back needs no memory.
 RegionResource::FreeList &RegionResource::list_of(size_t bytes) {
-  const auto at = std::ranges::find(free_, bytes, &FreeList::bytes);
-  return at != free_.end() ? *at : free_.emplace_back(FreeList{bytes, nullptr});
+  auto &free = regions_->free;
+  const auto at = std::ranges::find(free, bytes, &FreeList::bytes);
+  return at != free.end() ? *at : free.emplace_back(FreeList{bytes, nullptr});
 }
 
 void *RegionResource::cut(size_t bytes) {
+  if (regions_ == nullptr) regions_ = std::make_unique<Regions>();
   FreeList &list = list_of(bytes);
   if (FreeBlock *block = list.first; block != nullptr) {
     list.first = block->next;
     return block;
   }
-  if (last_ == nullptr || used_ + bytes > kRegionBytes) {
-    if (regions_.size() == regions_.capacity()) regions_.reserve(regions_.size() * 2 + 4);
-    last_ = static_cast<std::byte *>(upstream_->allocate(kRegionBytes, kPageBytes));
+  auto &all = regions_->all;
+  auto &last = regions_->last;
+  auto &used = regions_->used;
+  if (last == nullptr || used + bytes > kRegionBytes) {
+    if (all.size() == all.capacity()) all.reserve(all.size() * 2 + 4);
+    last = static_cast<std::byte *>(upstream_->allocate(kRegionBytes, kPageBytes));
     // Only a wish: without huge pages the region serves as well as any memory.
-    ::madvise(last_, kRegionBytes, MADV_HUGEPAGE);
-    regions_.insert(std::ranges::upper_bound(regions_, last_, std::less<>()), last_);
-    used_ = 0;
+    ::madvise(last, kRegionBytes, MADV_HUGEPAGE);
+    all.insert(std::ranges::upper_bound(all, last, std::less<>()), last);
+    used = 0;
   }
-  void *block = last_ + used_;
-  used_ += bytes;
+  void *block = last + used;
+  used += bytes;
   return block;
 }
 
 void RegionResource::give_back() {
-  for (std::byte *region : regions_) upstream_->deallocate(region, kRegionBytes, kPageBytes);
-  regions_.clear();
-  for (FreeList &list : free_) list.first = nullptr;
-  last_ = nullptr;
+  if (regions_ == nullptr) return;
+  for (std::byte *region : regions_->all) upstream_->deallocate(region, kRegionBytes, kPageBytes);
+  regions_.reset();
 }
 
 void *RegionResource::do_allocate(size_t bytes, size_t alignment) {
@@ -54,7 +59,7 @@ void *RegionResource::do_allocate(size_t bytes, size_t alignment) {
     return memory;
   }
   void *block = cut(rounded(bytes));
-  ++blocks_;
+  ++regions_->blocks;
   return block;
 }
 
@@ -66,7 +71,7 @@ void RegionResource::do_deallocate(void *memory, size_t bytes, size_t alignment)
   }
   FreeList &list = list_of(rounded(bytes));
   list.first = new (memory) FreeBlock{list.first};
-  if (--blocks_ == 0) give_back();
+  if (--regions_->blocks == 0) give_back();
 }
 
 }  // namespace soft

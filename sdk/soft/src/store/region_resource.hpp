@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <memory_resource>
 #include <vector>
 
@@ -15,14 +16,13 @@ class RegionResource final : public std::pmr::memory_resource {
  public:
   static constexpr size_t kAlignment = 64;
 
-  explicit RegionResource(std::pmr::memory_resource *upstream)
-      : upstream_(upstream), regions_(upstream), free_(upstream) {}
+  explicit RegionResource(std::pmr::memory_resource *upstream) : upstream_(upstream) {}
   ~RegionResource() override { give_back(); }
   RegionResource(const RegionResource &) = delete;
   RegionResource &operator=(const RegionResource &) = delete;
 
  private:
-  static constexpr size_t kLargeBytes = size_t{32} << 20;
+  static constexpr size_t kLargeBytes = size_t{8} << 20;
   static constexpr size_t kRegionBytes = size_t{16} << 20;
   static constexpr size_t kPageBytes = size_t{2} << 20;
   static constexpr size_t kLeastBlock = size_t{16} << 10;
@@ -52,13 +52,18 @@ class RegionResource final : public std::pmr::memory_resource {
   void *cut(size_t bytes);
   void give_back();
 
+  // Most tables never need them.
+  struct Regions {
+    std::vector<std::byte *> all;
+    std::vector<FreeList> free;
+    std::byte *last = nullptr;  // region, of which used bytes are
+    size_t used = 0;
+    size_t blocks = 0;  // that are given out
+  };
+
   std::pmr::memory_resource *upstream_;
   size_t upstream_bytes_ = 0;  // of blocks that were passed on
-  std::pmr::vector<std::byte *> regions_;
-  std::pmr::vector<FreeList> free_;
-  std::byte *last_ = nullptr;  // region, of which used_ bytes are
-  size_t used_ = 0;
-  size_t blocks_ = 0;  // that are given out of regions
+  std::unique_ptr<Regions> regions_;
 };
 
 }  // namespace soft
