@@ -1,9 +1,8 @@
 // Any text as a value string of a table, and the value or the range of a field. The first two bytes
 // choose the table and the field.
-#include "fuzz/target.hpp"
+#include "fuzz/tool.hpp"
 
 #include "tesselctl/device/table_info.hpp"
-#include "tesselctl/program/library.hpp"
 #include "tesselctl/program/value_range.hpp"
 #include "tesselctl/state/kind.hpp"
 
@@ -60,14 +59,12 @@ void try_range(std::string_view text, const Field &field) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
-  if (size < 2) return 0;
-  const bindings::Record &table = tables()[data[0] % tables().size()];
-  const std::string_view text = text_of(data + 2, size - 2);
-  try_items(text, table.name);
-  if (table.field_count == 0) return 0;
-  const Field &field = table.fields[data[1] % table.field_count];
-  unless_fault([&] { try_value(text, field); });
-  unless_fault([&] { try_range(text, field); });
-  return 0;
+void try_input(std::string_view input) {
+  const bindings::Record &table = tables()[take_number(input, 1) % tables().size()];
+  const uint64_t chosen = take_number(input, 1);
+  try_items(input, table.name);
+  if (table.field_count == 0) return;
+  const Field &field = table.fields[chosen % table.field_count];
+  unless_fault([&] { try_value(input, field); });
+  unless_fault([&] { try_range(input, field); });
 }
