@@ -19,6 +19,9 @@ BREAKS = [
      "'uint16_t byte_count' offset changed from "),
     ("include/p4_pd_types.h", "METER_SPEC_MISSING 0x1002u", "METER_SPEC_MISSING 0x1009u",
      "P4_PD_METER_SPEC_MISSING' from value '4098' to '4105'"),
+    ("include/p4_pd_types.h", "COLOR_AWARE = 0", "COLOR_AWARE = 7", "AWARE' from value '0' to '7'"),
+    ("include/p4_pd_tessel_switch.h", "switch_onMiss = 7", "switch_onMiss = 6",
+     "p4_pd_tessel_switch_onMiss' from value '7' to '6'"),
 ]
 # Additions break nobody.
 ADDED = ("include/p4_pd_types.h", "#define P4_PD_NO_MEMORY 2u\n",
