@@ -92,7 +92,7 @@ def c_interface(tool):
             page += f"\n## {topic}\n\n{marked(most['note'], statuses)}\n"
         count = f", {len(of_family)} functions" if len(of_family) > 1 else ""
         page += (f"\n#### `{shape(most, prefix, kinds)}`{count} {{: #{family} }}\n\n"
-                 f"```c\n{most['prototype']}```\n\n```c\n{most['example']}\n```\n")
+                 f"```c\n{most['prototype']}\n```\n\n```c\n{most['example']}\n```\n")
     path = PAGES / "docs/c-interface.md"
     text = path.read_text()
     path.unlink()

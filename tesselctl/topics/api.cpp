@@ -1,6 +1,8 @@
 // The functions of the library: which there are, how they are declared and called.
 #include <fmt/format.h>
 
+#include <set>
+
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/program/c_call.hpp"
 
@@ -21,6 +23,7 @@ std::string_view short_name(const Export &function) {
 }
 
 bool belongs_to(const Export &function, std::string_view name) {
+  if (name.empty()) return false;
   return name == function.family || name == function.object || name == function.action;
 }
 
@@ -42,17 +45,18 @@ std::string wrapped_text(std::string_view text) {
 
 void print_function(Context &context, const Export &function) {
   const Note &note = note_of(function);
-  const std::string declared = wrapped_code(prototype(function) + ";", kLineWidth);
+  std::string declared = wrapped_code(prototype(function) + ";", kLineWidth);
+  declared.pop_back();  // the end of the line that it is printed as
   std::string example = wrapped_code(example_call(function), kLineWidth);
-  example.pop_back();  // the end of the line that it is printed as
+  example.pop_back();
   Row row;
   row.object("function", function.name).choice("family", function.family);
   if (*function.object != '\0') row.choice("object", function.object);
   if (*function.action != '\0') row.choice("action", function.action);
   row.text("topic", note.title).text("note", note.text);
   row.text("prototype", declared).text("example", example);
-  context.results.row(
-      row, fmt::format("{}\n{}\n{}\n\n{}", declared, note.title, wrapped_text(note.text), example));
+  context.results.row(row, fmt::format("{}\n\n{}\n{}\n\n{}", declared, note.title,
+                                       wrapped_text(note.text), example));
 }
 
 // ---- Lists ----
@@ -91,32 +95,36 @@ void list_families(Context &context) {
   }
 }
 
-[[noreturn]] void throw_unknown_name(Word word, std::string_view name) {
-  common::Nearest near(name);
+// Without the prefix of functions, in upper case too.
+std::string_view without_prefix(std::string_view name) {
+  const std::string prefix = function_prefix();
+  if (common::lower_case(name.substr(0, prefix.size())) == prefix)
+    name.remove_prefix(prefix.size());
+  return name;
+}
+
+[[noreturn]] void throw_unknown_name(Word word) {
+  std::set<std::string_view> known;
   for_each_export([&](const Export &function) {
-    for (const std::string_view known : {short_name(function), std::string_view(function.family),
-                                         std::string_view(function.object)}) {
-      near.consider(known);
-    }
+    known.insert({short_name(function), function.family, function.object});
   });
-  throw Fault(word, "no function, family or object has this name", near.name());
+  const std::string near = common::nearest(without_prefix(word.text), known);
+  throw Fault(word, "no function, family or object has this name", near);
 }
 
 void print_api(Context &context, const Invocation &invocation) {
   refuse_arguments_from(invocation, 1);
   if (invocation.arguments.empty()) return list_families(context);
   const Word word = invocation.arguments[0];
-  const std::string prefix = function_prefix();
-  const std::string_view name = word.from(word.text.starts_with(prefix) ? prefix.size() : 0).text;
   const Export *named = nullptr;
   std::vector<const Export *> members;
   for_each_export([&](const Export &function) {
-    if (name == short_name(function)) named = &function;
+    if (word.text == function.name || word.text == short_name(function)) named = &function;
     if (belongs_to(function, word.text)) members.push_back(&function);
   });
   if (named != nullptr) return print_function(context, *named);
   for (const Export *function : members) context.results.row(listed(*function));
-  if (members.empty()) throw_unknown_name(word, name);
+  if (members.empty()) throw_unknown_name(word);
 }
 
 // ---- Completion ----
