@@ -176,8 +176,9 @@ class Session(SessionBase):
                    **fields: Any) -> int:
         """Adds (prefix, next hop) for each route to the tables of IPv4 and IPv6.
 
-        The other fields of the keys are the same for all. Returns how many were added. All or none
-        are, unless keep says that what was added before a fault stays.
+        Routes of one kind may also be columns, ((addresses, lengths), next hops). The other fields
+        of the keys are the same for all. Returns how many were added. All or none are, unless keep
+        says that what was added before a fault stays.
         """
         tables, action = self._program.routes
         if len(tables) != 2 or action is None:

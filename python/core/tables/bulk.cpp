@@ -1,49 +1,14 @@
-// The methods that add many entries.
+// The methods about many entries.
 #include <fmt/format.h>
 
 #include <optional>
 
-#include "python/core/tables/bulk_adder.hpp"
+#include "python/core/tables/bulk_rows.hpp"
 #include "python/core/tables/columns.hpp"
 
 namespace python {
 
 namespace {
-
-// Runs what adds, and after a fault takes back all that was added unless it is to be kept. The
-// exception has the number of the row and the handles of what is there.
-template <class Add>
-void add_all(std::initializer_list<BulkAdder *> adders, size_t &row, bool keep, Add add) {
-  PyObject *type = nullptr;
-  PyObject *value = nullptr;
-  PyObject *trace = nullptr;
-  // Only Raised has a Python exception; others become one first.
-  const int result = guarded(
-      [&] {
-        add();
-        for (BulkAdder *adder : adders) adder->flush();
-        return 0;
-      },
-      -1);
-  if (result == 0) return;
-  PyErr_Fetch(&type, &value, &trace);
-  PyErr_NormalizeException(&type, &value, &trace);
-  std::vector<uint32_t> handles;
-  for (BulkAdder *adder : adders) {
-    if (adder->refused_row()) row = *adder->refused_row();
-    if (!keep) adder->take_back();
-    handles.insert(handles.end(), adder->handles().begin(), adder->handles().end());
-  }
-  PyObject *number = PyLong_FromSize_t(row);
-  PyObject *array = guarded([&] { return handle_array(handles); });
-  if (number != nullptr) PyObject_SetAttrString(value, "row", number);
-  if (array != nullptr) PyObject_SetAttrString(value, "handles", array);
-  PyErr_Clear();
-  Py_XDECREF(number);
-  Py_XDECREF(array);
-  PyErr_Restore(type, value, trace);
-  throw Raised{};
-}
 
 // ---- Keyword arguments of the calls ----
 
@@ -56,11 +21,11 @@ bool truth_of(PyObject *object) {
   return truth != 0;
 }
 
-std::vector<Column> named_columns(BulkAdder &adder, PyObject *names) {
+std::vector<Column> named_columns(BulkRows &table, PyObject *names) {
   std::vector<Column> columns;
   const Ref list(PySequence_List(names));
   for (Py_ssize_t i = 0; i < PyList_Size(list.get()); ++i) {
-    columns.push_back(adder.column(PyList_GetItem(list.get(), i)));
+    columns.push_back(table.column(PyList_GetItem(list.get(), i)));
   }
   return columns;
 }
@@ -68,30 +33,32 @@ std::vector<Column> named_columns(BulkAdder &adder, PyObject *names) {
 // A row as a tuple or list by place, as a dict by name.
 class RowReader {
  public:
-  RowReader(BulkAdder &adder, PyObject *names, bool is_dict) : adder_(adder), is_dict_(is_dict) {
+  RowReader(BulkRows &table, PyObject *names, bool is_dict) : table_(table), is_dict_(is_dict) {
     if (names != nullptr && names != Py_None) {
+      if (PyUnicode_Check(names)) {
+        raise(PyExc_TypeError, "columns is a sequence of names, such as ('dip', 'nextHop')");
+      }
       names_ = Ref(PySequence_List(names));
-      columns_ = named_columns(adder, names_.get());
-      adder.check_columns(columns_);
+      columns_ = named_columns(table, names_.get());
+      table.check_columns(columns_);
     } else if (!is_dict) {
-      columns_ = adder.usual_columns();
-      adder.check_columns(columns_);
+      columns_ = table.usual_columns();
+      table.check_columns(columns_);
     }
   }
 
-  void read(PyObject *row, size_t number) {
+  void read(PyObject *row) {
     if (is_dict_) {
       read_dict(row);
     } else if (PyTuple_Check(row)) {
       check_size(PyTuple_Size(row));
       for (size_t i = 0; i < columns_.size(); ++i) {
-        adder_.store(columns_[i], PyTuple_GetItem(row, static_cast<Py_ssize_t>(i)));
+        table_.store(columns_[i], PyTuple_GetItem(row, static_cast<Py_ssize_t>(i)));
       }
     } else {
       const Ref tuple(PySequence_Tuple(row));
-      return read(tuple.get(), number);
+      read(tuple.get());
     }
-    adder_.end_row(number);
   }
 
  private:
@@ -104,8 +71,8 @@ class RowReader {
     if (!PyDict_Check(row)) raise(PyExc_TypeError, "a row is a dict like the first one");
     if (!names_) {
       names_ = Ref(PyDict_Keys(row));
-      columns_ = named_columns(adder_, names_.get());
-      adder_.check_columns(columns_);
+      columns_ = named_columns(table_, names_.get());
+      table_.check_columns(columns_);
     }
     check_size(PyDict_Size(row));
     for (size_t i = 0; i < columns_.size(); ++i) {
@@ -115,97 +82,129 @@ class RowReader {
         raise(PyExc_ValueError, fmt::format("a row has no {}", text_of(name)));
       }
       // What the value does when it is asked for a number may take it out of the dict.
-      adder_.store(columns_[i], Ref::borrowed(checked(value)).get());
+      table_.store(columns_[i], Ref::borrowed(checked(value)).get());
     }
   }
 
-  BulkAdder &adder_;
+  BulkRows &table_;
   bool is_dict_;
   Ref names_;
   std::vector<Column> columns_;
 };
 
-// Counts the rows of an iterable that were visited.
 template <class Visit>
-void for_each_row(PyObject *iterable, size_t &row, Visit visit) {
+void for_each_row(PyObject *iterable, Visit visit) {
   const Ref rows(PyObject_GetIter(iterable));
   while (PyObject *next = PyIter_Next(rows.get())) {
     const Ref held(next);
     visit(next);
-    ++row;
   }
   if (PyErr_Occurred() != nullptr) throw Raised{};
 }
 
+// The arguments of a call before its keywords: what entries do unless they are deleted, and rows
+// where it takes any.
+void check_count(Verb verb, const char *method, Py_ssize_t count, bool takes_rows) {
+  const bool takes_outcome = verb != Verb::remove;
+  if (count == (takes_outcome ? 1 : 0) + (takes_rows ? 1 : 0)) return;
+  raise(PyExc_TypeError,
+        fmt::format("{} takes {}{}{}", method, takes_outcome ? "what the entries do, and " : "",
+                    takes_rows ? "rows" : "columns as keyword arguments",
+                    takes_rows ? ", and then keyword arguments" : ""));
+}
+
+// Whether a keyword is about the call, not a column.
+bool read_option(Verb verb, BulkRun &run, BulkRows &table, PyObject *name, PyObject *value) {
+  if (verb == Verb::add && is_named(name, "keep")) {
+    if (truth_of(value)) run.keep();
+    return true;
+  }
+  if (verb == Verb::remove || !is_named(name, "meter")) return false;
+  if (value != Py_None) table.set_meter(value);
+  return true;
+}
+
+void stage_columns(BulkRun &run, BulkRows &table, const std::vector<NamedColumn> &columns,
+                   size_t at) {
+  const size_t size = common_size(columns);
+  run.run([&] {
+    for (size_t row = 0; row < size; ++row) {
+      for (const NamedColumn &column : columns) column.store(table, row);
+      run.end_row(at);
+    }
+  });
+}
+
 }  // namespace
 
-PyObject *add_rows(PyObject *self, PyObject *const *arguments, Py_ssize_t count, PyObject *names) {
+template <Verb verb>
+PyObject *write_rows(PyObject *self, PyObject *const *arguments, Py_ssize_t count,
+                     PyObject *names) {
   return guarded([&] {
-    const TableObject &table = as_table(self);
-    if (count != 2) raise(PyExc_TypeError, "add_rows takes what the entries do, and rows");
-    BulkAdder adder(*table.kind, arguments[0], open_session(table.session));
+    const TableObject &object = as_table(self);
+    constexpr bool kTakesOutcome = verb != Verb::remove;
+    check_count(verb, "a call for rows", count, true);
+    BulkRows table(verb, *object.kind, kTakesOutcome ? arguments[0] : nullptr,
+                   open_session(object.session));
+    BulkRun run(verb, {&table});
     PyObject *columns = nullptr;
-    bool keep = false;
     for (Py_ssize_t i = 0; names != nullptr && i < PyTuple_Size(names); ++i) {
       PyObject *name = PyTuple_GetItem(names, i);
       PyObject *value = arguments[count + i];
       if (is_named(name, "columns")) {
         columns = value;
-      } else if (is_named(name, "keep")) {
-        keep = truth_of(value);
-      } else if (is_named(name, "meter")) {
-        adder.set_meter(value);
-      } else {
-        adder.fix(adder.column(name), value);
+      } else if (!read_option(verb, run, table, name, value)) {
+        table.fix(table.column(name), value);
       }
     }
-    size_t row = 0;
-    add_all({&adder}, row, keep, [&] {
+    run.run([&] {
       std::optional<RowReader> reader;
-      for_each_row(arguments[1], row, [&](PyObject *next) {
-        if (!reader) reader.emplace(adder, columns, PyDict_Check(next));
-        reader->read(next, row);
+      for_each_row(arguments[count - 1], [&](PyObject *row) {
+        if (!reader) reader.emplace(table, columns, PyDict_Check(row));
+        reader->read(row);
+        run.end_row();
       });
     });
-    return handle_array(adder.handles());
+    return run.result();
   });
 }
 
-PyObject *add_columns(PyObject *self, PyObject *const *arguments, Py_ssize_t count,
-                      PyObject *names) {
+template <Verb verb>
+PyObject *write_columns(PyObject *self, PyObject *const *arguments, Py_ssize_t count,
+                        PyObject *names) {
   return guarded([&] {
-    const TableObject &table = as_table(self);
-    if (count != 1) raise(PyExc_TypeError, "add_columns takes what the entries do, and columns");
-    BulkAdder adder(*table.kind, arguments[0], open_session(table.session));
+    const TableObject &object = as_table(self);
+    check_count(verb, "a call for columns", count, false);
+    BulkRows table(verb, *object.kind, verb != Verb::remove ? arguments[0] : nullptr,
+                   open_session(object.session));
+    BulkRun run(verb, {&table});
     std::vector<NamedColumn> columns;
     std::vector<Column> described;
-    bool keep = false;
     for (Py_ssize_t i = 0; names != nullptr && i < PyTuple_Size(names); ++i) {
       PyObject *name = PyTuple_GetItem(names, i);
       PyObject *value = arguments[count + i];
-      if (is_named(name, "keep")) {
-        keep = truth_of(value);
-      } else if (is_named(name, "meter")) {
-        adder.set_meter(value);
-      } else if (is_pair_of_columns(value) || is_column(value)) {
-        described.push_back(adder.column(name));
+      if (read_option(verb, run, table, name, value)) continue;
+      if (is_pair_of_columns(value) || is_column(value)) {
+        described.push_back(table.column(name));
         columns.push_back({described.back(), parts_of(value)});
       } else {
-        adder.fix(adder.column(name), value);
+        table.fix(table.column(name), value);
       }
     }
-    adder.check_columns(described);
-    const size_t size = common_size(columns);
-    size_t row = 0;
-    add_all({&adder}, row, keep, [&] {
-      for (; row < size; ++row) {
-        for (const NamedColumn &column : columns) column.store(adder, row);
-        adder.end_row(row);
-      }
-    });
-    return handle_array(adder.handles());
+    table.check_columns(described);
+    stage_columns(run, table, columns, 0);
+    return run.result();
   });
 }
+
+#define PD_INSTANCES(verb)                                                                    \
+  template PyObject *write_rows<verb>(PyObject *, PyObject *const *, Py_ssize_t, PyObject *); \
+  template PyObject *write_columns<verb>(PyObject *, PyObject *const *, Py_ssize_t, PyObject *)
+PD_INSTANCES(Verb::add);
+PD_INSTANCES(Verb::replace);
+PD_INSTANCES(Verb::modify);
+PD_INSTANCES(Verb::remove);
+#undef PD_INSTANCES
 
 namespace {
 
@@ -213,20 +212,31 @@ namespace {
 class RouteTable {
  public:
   RouteTable(PyObject *table, PyObject *action)
-      : adder_(*checked_table(table).kind, action, open_session(as_table(table).session)) {}
+      : rows_(Verb::add, *checked_table(table).kind, action,
+              open_session(as_table(table).session)) {}
 
-  BulkAdder &adder() { return adder_; }
-  void fix(PyObject *name, PyObject *value) { adder_.fix(adder_.column(name), value); }
+  BulkRows &rows() { return rows_; }
+  void fix(PyObject *name, PyObject *value) { rows_.fix(rows_.column(name), value); }
   void begin() {
-    columns_ = adder_.usual_columns();
-    if (columns_.size() == 2) return;
-    raise(PyExc_TypeError,
-          fmt::format("the key of {} also has other fields than the prefix", adder_.kind().name()));
+    columns_ = rows_.usual_columns();
+    for (const Column &column : columns_) {
+      if (column.kind != Column::key || column.field->match == tesselctl::Match::lpm) continue;
+      raise(PyExc_TypeError, fmt::format("the routes of {} also need {}=", rows_.kind().name(),
+                                         column.field->label));
+    }
+    if (columns_.size() != 2) {
+      raise(PyExc_TypeError, fmt::format("{} has other routes", rows_.kind().name()));
+    }
   }
-  void add(PyObject *prefix, PyObject *next_hop, size_t row) {
-    adder_.store(columns_[0], prefix);
-    adder_.store(columns_[1], next_hop);
-    adder_.end_row(row);
+  void store(PyObject *prefix, PyObject *next_hop) {
+    rows_.store(columns_[0], prefix);
+    rows_.store(columns_[1], next_hop);
+  }
+  std::vector<NamedColumn> named(std::vector<ColumnValues> prefixes, PyObject *next_hops) const {
+    std::vector<NamedColumn> named;
+    named.push_back({columns_[0], std::move(prefixes)});
+    named.push_back({columns_[1], parts_of(next_hops)});
+    return named;
   }
 
  private:
@@ -235,11 +245,12 @@ class RouteTable {
     raise(PyExc_TypeError, "add_routes takes tables");
   }
 
-  BulkAdder adder_;
+  BulkRows rows_;
   std::vector<Column> columns_;
 };
 
-void add_route(RouteTable &four, RouteTable &six, PyObject *route, size_t row) {
+// Whether the address of a route is one of IPv6; stores the route in the table of its kind.
+bool store_route(std::array<RouteTable *, 2> tables, PyObject *route) {
   const Ref pair(PyTuple_Check(route) ? Py_NewRef(route) : PySequence_Tuple(route));
   if (PyTuple_Size(pair.get()) != 2) {
     raise(PyExc_ValueError, "a route is a prefix and a next hop");
@@ -247,35 +258,48 @@ void add_route(RouteTable &four, RouteTable &six, PyObject *route, size_t row) {
   Ref prefix = Ref::borrowed(PyTuple_GetItem(pair.get(), 0));
   if (!PyUnicode_Check(prefix.get())) prefix = Ref(PyObject_Str(prefix.get()));
   const bool is_six = text_of(prefix.get()).find(':') != std::string_view::npos;
-  (is_six ? six : four).add(prefix.get(), PyTuple_GetItem(pair.get(), 1), row);
+  tables[is_six ? 1 : 0]->store(prefix.get(), PyTuple_GetItem(pair.get(), 1));
+  return is_six;
 }
 
 }  // namespace
 
-// (table for IPv4, table for IPv6, type of the action, routes; fields of both keys)
+// (table for IPv4, table for IPv6, type of the action, routes; fields of both keys). The routes are
+// an iterable of pairs, or ((addresses, lengths), next hops) as columns.
 PyObject *add_routes(PyObject * /*module*/, PyObject *const *arguments, Py_ssize_t count,
                      PyObject *names) {
   return guarded([&] {
     if (count != 4) raise(PyExc_TypeError, "add_routes takes two tables, an action and routes");
     RouteTable four(arguments[0], arguments[2]);
     RouteTable six(arguments[1], arguments[2]);
-    bool keep = false;
+    BulkRun run(Verb::add, {&four.rows(), &six.rows()});
     for (Py_ssize_t i = 0; names != nullptr && i < PyTuple_Size(names); ++i) {
       PyObject *name = PyTuple_GetItem(names, i);
+      PyObject *value = arguments[count + i];
       if (is_named(name, "keep")) {
-        keep = truth_of(arguments[count + i]);
+        if (truth_of(value)) run.keep();
         continue;
       }
-      four.fix(name, arguments[count + i]);
-      six.fix(name, arguments[count + i]);
+      four.fix(name, value);
+      six.fix(name, value);
     }
     four.begin();
     six.begin();
-    size_t row = 0;
-    add_all({&four.adder(), &six.adder()}, row, keep, [&] {
-      for_each_row(arguments[3], row, [&](PyObject *route) { add_route(four, six, route, row); });
-    });
-    return checked(PyLong_FromSize_t(four.adder().handles().size() + six.adder().handles().size()));
+    PyObject *routes = arguments[3];
+    if (is_pair_of_columns(routes) && is_pair_of_columns(PyTuple_GetItem(routes, 0))) {
+      std::vector<ColumnValues> prefixes = parts_of(PyTuple_GetItem(routes, 0));
+      const bool is_six = prefixes[0].is_wide();
+      RouteTable &table = is_six ? six : four;
+      stage_columns(run, table.rows(), table.named(std::move(prefixes), PyTuple_GetItem(routes, 1)),
+                    is_six ? 1 : 0);
+    } else {
+      run.run([&] {
+        for_each_row(routes, [&](PyObject *route) {
+          run.end_row(store_route({&four, &six}, route) ? 1 : 0);
+        });
+      });
+    }
+    return checked(PyLong_FromSize_t(run.done()));
   });
 }
 

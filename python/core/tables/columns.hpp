@@ -7,15 +7,31 @@
 #include <cstring>
 
 #include "python/core/buffer.hpp"
-#include "python/core/tables/bulk_adder.hpp"
+#include "python/core/tables/bulk_rows.hpp"
 #include "python/core/value.hpp"
 
 namespace python {
 
-// The values of a column: numbers in a buffer, or objects.
+// Whether an argument has a value for each entry: a list, a buffer, an iterator, or another object
+// with a length. Networks and numbers of arrays have none.
+inline bool is_column(PyObject *object) {
+  if (PyUnicode_Check(object) || PyBytes_Check(object) || PyTuple_Check(object)) return false;
+  if (PyIter_Check(object) != 0) return true;
+  const bool has_length = PyObject_Size(object) >= 0;
+  PyErr_Clear();
+  return has_length;
+}
+
+// The values of a column: numbers in a buffer, objects, or one object for all rows.
 class ColumnValues {
  public:
   explicit ColumnValues(PyObject *object) {
+    if (!is_column(object)) {
+      list_ = Ref(PyList_New(0));
+      check(PyList_Append(list_.get(), object));
+      is_one_ = true;
+      return;
+    }
     const bool is_buffer = PyObject_CheckBuffer(object) != 0 && !PyBytes_Check(object);
     if (is_buffer) {
       buffer_ = Buffer(object, PyBUF_STRIDED_RO | PyBUF_FORMAT);
@@ -27,15 +43,18 @@ class ColumnValues {
   }
 
   size_t size() const { return size_; }
+  bool is_one() const { return is_one_; }
   bool is_list() const { return static_cast<bool>(list_); }
+  // Numbers of more than 64 bits.
+  bool is_wide() const { return width_ > 8; }
   PyObject *object(size_t at) const {
-    return PyList_GetItem(list_.get(), static_cast<Py_ssize_t>(at));
+    return PyList_GetItem(list_.get(), is_one_ ? 0 : static_cast<Py_ssize_t>(at));
   }
   tesselctl::Number number(size_t at) const {
     const Py_buffer &view = buffer_.view();
     const auto *bytes =
         static_cast<const uint8_t *>(view.buf) + static_cast<Py_ssize_t>(at) * view.strides[0];
-    if (width_ > 8) return tesselctl::from_bytes(bytes, width_);
+    if (is_bytes_) return tesselctl::from_bytes(bytes, width_);
     uint64_t number = 0;
     memcpy(&number, bytes, width_);
     const unsigned sign = static_cast<unsigned>(8 * width_ - 1);
@@ -50,10 +69,11 @@ class ColumnValues {
   bool read_format() {
     const Py_buffer &view = buffer_.view();
     const std::string_view format = view.format == nullptr ? "B" : view.format;
-    if (view.ndim == 2 && format == "B" && view.strides[1] == 1 && view.shape[1] == 16) {
-      width_ = 16;
-    } else if (view.ndim == 1 && format == "16s") {
-      width_ = 16;
+    is_bytes_ = (view.ndim == 2 && format == "B" && view.strides[1] == 1) ||
+                (view.ndim == 1 && format == "16s");
+    if (is_bytes_) {
+      width_ = static_cast<size_t>(view.ndim == 2 ? view.shape[1] : view.itemsize);
+      if (width_ == 0 || width_ > 16) return false;
     } else if (view.ndim == 1 && format.size() == 1 &&
                std::string_view("BHILQbhilq").find(format[0]) != format.npos) {
       width_ = static_cast<size_t>(view.itemsize);
@@ -69,32 +89,24 @@ class ColumnValues {
   Ref list_;
   size_t size_ = 0;
   size_t width_ = 0;
+  bool is_bytes_ = false;
   bool is_signed_ = false;
+  bool is_one_ = false;
 };
-
-// Whether an argument has a value for each entry: a list, a buffer, an iterator, or another object
-// with a length. Networks and numbers of arrays have none.
-inline bool is_column(PyObject *object) {
-  if (PyUnicode_Check(object) || PyBytes_Check(object) || PyTuple_Check(object)) return false;
-  if (PyIter_Check(object) != 0) return true;
-  const bool has_length = PyObject_Size(object) >= 0;
-  PyErr_Clear();
-  return has_length;
-}
 
 // One column of add_columns: values, or values with their masks or prefix lengths.
 struct NamedColumn {
   Column column;
   std::vector<ColumnValues> parts;
 
-  size_t size() const { return parts[0].size(); }
-  void store(BulkAdder &adder, size_t row) const {
+  size_t size() const { return parts[parts[0].is_one() ? 1 : 0].size(); }
+  void store(BulkRows &table, size_t row) const {
     if (parts.size() == 1 && parts[0].is_list()) {
-      adder.store(column, parts[0].object(row));
+      table.store(column, parts[0].object(row));
     } else if (column.field != nullptr && are_numbers()) {
-      adder.store(column, value_of(row));
+      table.store(column, value_of(row));
     } else {
-      adder.store(column, Ref(object_of(row)).get());
+      table.store(column, Ref(object_of(row)).get());
     }
   }
 
@@ -132,7 +144,7 @@ struct NamedColumn {
   }
 };
 
-// A tuple of two columns: value and mask or length.
+// A tuple of two columns, value and mask or length, of which one may be the same for all rows.
 inline bool is_pair_of_columns(PyObject *object) {
   return PyTuple_Check(object) && PyTuple_Size(object) == 2 &&
          (is_column(PyTuple_GetItem(object, 0)) || is_column(PyTuple_GetItem(object, 1)));
@@ -144,12 +156,8 @@ inline std::vector<ColumnValues> parts_of(PyObject *object) {
     parts.emplace_back(object);
     return parts;
   }
-  for (Py_ssize_t i = 0; i < 2; ++i) {
-    PyObject *part = PyTuple_GetItem(object, i);
-    if (!is_column(part)) raise(PyExc_TypeError, "a column of pairs is two columns");
-    parts.emplace_back(part);
-  }
-  if (parts[0].size() != parts[1].size()) {
+  for (Py_ssize_t i = 0; i < 2; ++i) parts.emplace_back(PyTuple_GetItem(object, i));
+  if (parts[0].size() != parts[1].size() && !parts[0].is_one() && !parts[1].is_one()) {
     raise(PyExc_ValueError, "a column of pairs is two columns of one length");
   }
   return parts;

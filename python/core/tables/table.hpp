@@ -130,9 +130,12 @@ p4_pd_bytes_meter_spec_t read_meter(PyObject *object);
 uint32_t read_handle(PyObject *object, std::string_view what);
 
 // The methods for many entries (bulk.cpp).
-PyObject *add_rows(PyObject *self, PyObject *const *arguments, Py_ssize_t count, PyObject *names);
-PyObject *add_columns(PyObject *self, PyObject *const *arguments, Py_ssize_t count,
-                      PyObject *names);
+enum class Verb : uint8_t { add, replace, modify, remove };
+template <Verb verb>
+PyObject *write_rows(PyObject *self, PyObject *const *arguments, Py_ssize_t count, PyObject *names);
+template <Verb verb>
+PyObject *write_columns(PyObject *self, PyObject *const *arguments, Py_ssize_t count,
+                        PyObject *names);
 PyObject *add_routes(PyObject *module, PyObject *const *arguments, Py_ssize_t count,
                      PyObject *names);
 

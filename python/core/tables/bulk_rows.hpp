@@ -1,9 +1,9 @@
-// Entries that are added many at a time: rows are encoded a chunk at a time, and added while other
-// threads run.
+// Entries that are added, changed or deleted many at a time: rows are encoded a chunk at a time,
+// and the calls of a chunk made while other threads run.
 #pragma once
 
 #include <array>
-#include <optional>
+#include <deque>
 #include <vector>
 
 #include "python/core/tables/table.hpp"
@@ -17,28 +17,13 @@ struct Column {
   const tesselctl::Field *field = nullptr;
 };
 
-// Adds entries of one table with one action, member or group.
-class BulkAdder {
+constexpr size_t kChunk = 256;
+
+// Rows about one table, all with one action, member or group.
+class BulkRows {
  public:
-  BulkAdder(TableKind &kind, PyObject *outcome, const SessionObject &session)
-      : kind_(kind),
-        outcome_(outcome_of(outcome)),
-        add_(kind.plan(family(), &outcome_), session),
-        delete_(kind.plan("table_delete"), session),
-        key_size_(std::max<size_t>(kind.key().record->size, 1)),
-        parameter_size_(outcome_.action == nullptr ? 1 : outcome_.action->record->size + 1),
-        keys_(kChunk * key_size_),
-        parameters_(kChunk * parameter_size_) {
-    add_.set(Slot::entry, &entry_);
-    add_.set(Slot::meter_spec, nullptr);
-    if (outcome_.kind != Slot::action) add_.set(outcome_.kind, outcome_.handle);
-    // A ternary field that is left out matches anything, and its bytes are 0.
-    key_.resize(key_size_);
-    row_parameters_.resize(parameter_size_);
-    if (outcome_.parameters != nullptr) {
-      memcpy(row_parameters_.data(), outcome_.parameters, outcome_.action->record->size);
-    }
-  }
+  // The outcome is null where entries are deleted.
+  BulkRows(Verb verb, TableKind &kind, PyObject *outcome, const SessionObject &session);
 
   // The column of that name: "priority", "ttl", a field of the key, or "ACTION.PARAMETER"; what no
   // field of the key is called may be a parameter.
@@ -55,7 +40,7 @@ class BulkAdder {
 
   void set_meter(PyObject *meter) {
     meter_ = read_meter(meter);
-    add_.set(Slot::meter_spec, &meter_);
+    for (PlannedCall &call : calls_) call.set(Slot::meter_spec, &meter_);
   }
 
   // Values of the row at hand, in any order.
@@ -63,24 +48,18 @@ class BulkAdder {
   void store(const Column &column, const tesselctl::FieldValue &value) {
     tesselctl::store_value(*column.field, value, record_of(column));
   }
-  // The row of that number is whole. Throws when an entry of a chunk could not be added.
-  void end_row(size_t row);
-  void flush();
-
-  // The row that the device refused, if it did.
-  const std::optional<size_t> &refused_row() const { return refused_row_; }
-  const std::vector<uint32_t> &handles() const { return handles_; }
-  // Deletes what was added, the last first; what stays are those that could not be deleted.
-  void take_back();
+  // The row at hand is whole.
+  void stage();
+  // The call of the next row that was staged; its status.
+  uint32_t run_next();
+  void forget_staged() { staged_ = next_ = 0; }
+  // The entry that was added last.
+  uint32_t entry() const { return entry_; }
+  // Whether it is gone.
+  bool take_back(uint32_t entry);
   const TableKind &kind() const { return kind_; }
 
  private:
-  static constexpr size_t kChunk = 256;
-
-  const char *family() const {
-    if (outcome_.kind == Slot::action) return "table_add";
-    return outcome_.kind == Slot::member ? "add_entry" : "add_entry_with_selector";
-  }
   // An action may be given by its type, when its parameters are in the rows.
   Outcome outcome_of(PyObject *object) {
     if (const RecordKind *action = kind_.action_of_type(object)) {
@@ -96,19 +75,60 @@ class BulkAdder {
              const tesselctl::Field *field) const;
 
   TableKind &kind_;
+  Verb verb_;
   bool needs_parameters_ = false;
   Outcome outcome_;
-  PlannedCall add_, delete_;
+  std::deque<PlannedCall> calls_;  // and the one for entries that are there already
+  PlannedCall delete_;
   size_t key_size_, parameter_size_;
   std::vector<uint8_t> keys_, parameters_, key_, row_parameters_;
   std::array<uint32_t, kChunk> priorities_ = {}, ttls_ = {};
-  std::array<size_t, kChunk> rows_ = {};
-  std::optional<size_t> refused_row_;
   uint32_t priority_ = 0, ttl_ = 0, entry_ = 0;
   p4_pd_bytes_meter_spec_t meter_ = {};
-  size_t used_ = 0;
+  size_t staged_ = 0, next_ = 0;
   std::vector<Column> fixed_;
+};
+
+// The rows of one call, about one table or several; their calls are made in the order of the rows.
+class BulkRun {
+ public:
+  BulkRun(Verb verb, std::vector<BulkRows *> tables)
+      : is_add_(verb == Verb::add), keep_(!is_add_), tables_(std::move(tables)) {}
+
+  // Entries that were added before a fault stay; what was changed or deleted does anyway.
+  void keep() { keep_ = true; }
+  void end_row(size_t table = 0);
+  // Has rows staged and makes their calls. After a fault the exception has the number of its row;
+  // what stays of the rows before it has been done, and nothing of those behind it.
+  template <class Stage>
+  void run(Stage stage) {
+    if (!has_failed([&] {
+          stage();
+          flush();
+        })) {
+      return;
+    }
+    fail();
+  }
+  // What the call returns: the handles of entries that were added, else how many rows there were.
+  PyObject *result() const;
+  size_t done() const { return done_; }
+
+ private:
+  template <class Body>
+  static bool has_failed(Body body) {
+    return guarded([&] { return body(), false; }, true);
+  }
+  void flush();
+  [[noreturn]] void fail();
+  void take_back();
+
+  bool is_add_, keep_;
+  std::vector<BulkRows *> tables_;
+  std::array<uint8_t, kChunk> order_ = {};  // the table of each row that is staged
+  size_t staged_ = 0, done_ = 0;
   std::vector<uint32_t> handles_;
+  std::vector<uint8_t> owners_;  // the table of each handle
 };
 
 // Handles as a memoryview of 32-bit words.
