@@ -21,7 +21,7 @@ class Buffer {
  private:
   struct Release {
     void operator()(Py_buffer *view) const {
-      PyBuffer_Release(view);
+      if (may_release()) PyBuffer_Release(view);
       delete view;
     }
   };

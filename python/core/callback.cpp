@@ -10,7 +10,7 @@ namespace python {
 namespace {
 
 std::map<std::pair<uint32_t, const void *>, CallbackSlot> &slots() {
-  static std::map<std::pair<uint32_t, const void *>, CallbackSlot> all;
+  static auto &all = *new std::map<std::pair<uint32_t, const void *>, CallbackSlot>;
   return all;
 }
 
@@ -24,21 +24,31 @@ void deallocate_opaque(PyObject *self) {
   Py_DECREF(type);
 }
 
-// Calls the callable of the slot with what make builds; its exception goes to sys.unraisablehook.
+// An interruption is that of the call, whose caller sees it next; other exceptions go to
+// sys.unraisablehook.
+void report(PyObject *callable) {
+  if (PyErr_ExceptionMatches(PyExc_KeyboardInterrupt) == 0) return PyErr_WriteUnraisable(callable);
+  PyErr_Clear();
+  PyErr_SetInterrupt();
+}
+
+// Calls the callable of the slot with what make builds.
 template <class Make>
 void call(void *cookie, Make make) {
-  const PyGILState_STATE state = PyGILState_Ensure();
-  PyObject *callable = static_cast<CallbackSlot *>(cookie)->callable;
-  if (callable != nullptr) {
-    Py_INCREF(callable);
-    PyObject *arguments = make();
-    PyObject *result = arguments == nullptr ? nullptr : PyObject_CallObject(callable, arguments);
-    if (result == nullptr) PyErr_WriteUnraisable(callable);
-    Py_XDECREF(result);
-    Py_XDECREF(arguments);
-    Py_DECREF(callable);
-  }
-  PyGILState_Release(state);
+  until_end([&] {
+    const PyGILState_STATE state = PyGILState_Ensure();
+    PyObject *callable = static_cast<CallbackSlot *>(cookie)->callable;
+    if (callable != nullptr) {
+      Py_INCREF(callable);
+      PyObject *arguments = make();
+      PyObject *result = arguments == nullptr ? nullptr : PyObject_CallObject(callable, arguments);
+      if (result == nullptr) report(callable);
+      Py_XDECREF(result);
+      Py_XDECREF(arguments);
+      Py_DECREF(callable);
+    }
+    PyGILState_Release(state);
+  });
 }
 
 // Entries of tables, and members.

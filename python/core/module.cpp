@@ -23,6 +23,20 @@ void share_sdk() {
   }
 }
 
+// Whether the soft SDK exports a function of that name for libraries.
+PyObject *is_sdk_function(PyObject * /*module*/, PyObject *name) {
+  return python::guarded([&] {
+    const std::string wanted(python::text_of(name));
+    Dl_info sdk = {};
+    Dl_info found = {};
+    const void *address = dlsym(RTLD_DEFAULT, wanted.c_str());
+    const bool is_there = address != nullptr && !wanted.starts_with("soft_") &&
+                          dladdr(reinterpret_cast<void *>(soft_clock_now), &sdk) != 0 &&
+                          dladdr(address, &found) != 0 && sdk.dli_fbase == found.dli_fbase;
+    return PyBool_FromLong(is_there ? 1 : 0);
+  });
+}
+
 PyObject *nearest(PyObject * /*module*/, PyObject *arguments) {
   return python::guarded([&] {
     const char *word = nullptr;
@@ -39,6 +53,7 @@ PyObject *nearest(PyObject * /*module*/, PyObject *arguments) {
 
 PyMethodDef functions[] = {
     {"nearest", nearest, METH_VARARGS, "The name that was probably meant, or an empty one."},
+    {"is_sdk_function", is_sdk_function, METH_O, "Whether the SDK has a function of that name."},
     {nullptr, nullptr, 0, nullptr}};
 
 PyModuleDef definition = {
@@ -61,6 +76,7 @@ extern "C" __attribute__((visibility("default"))) PyObject *PyInit__core() {
     python::add_table(module.get());
     python::add_soft(module.get());
     python::add_journal(module.get());
+    python::watch_process();
     python::check(PyModule_AddIntConstant(module.get(), "BF_ALL_PIPES", BF_ALL_PIPES));
     python::check(PyModule_AddStringConstant(module.get(), "modules", PD_MODULES_FROM_PACKAGES));
     return module.release();

@@ -2,16 +2,13 @@
 // exceptions up to the border, where guarded makes Python exceptions of them.
 #pragma once
 
-#define PY_SSIZE_T_CLEAN
-#define Py_LIMITED_API 0x030b0000
-#include <Python.h>
-
 #include <new>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
 
+#include "python/core/unlocked.hpp"
 #include "tesselctl/text/fault.hpp"
 
 namespace python {
@@ -43,7 +40,9 @@ class Ref {
     std::swap(object_, other.object_);
     return *this;
   }
-  ~Ref() { Py_XDECREF(object_); }
+  ~Ref() {
+    if (object_ != nullptr && may_release()) Py_DECREF(object_);
+  }
   static Ref borrowed(PyObject *object) { return Ref(Py_XNewRef(object)); }
 
   PyObject *get() const { return object_; }
@@ -54,23 +53,11 @@ class Ref {
   PyObject *object_ = nullptr;
 };
 
-// Without the GIL: while it lives, other threads of the interpreter run.
-class Unlocked {
- public:
-  Unlocked() : state_(PyEval_SaveThread()) {}
-  ~Unlocked() { PyEval_RestoreThread(state_); }
-  Unlocked(const Unlocked &) = delete;
-  Unlocked &operator=(const Unlocked &) = delete;
-
- private:
-  PyThreadState *state_;
-};
-
 // Runs a body; what it throws is the Python exception of the failure.
 template <class Body, class Result>
 Result guarded(Body body, Result failure) noexcept {
   try {
-    return body();
+    return until_end(body);
   } catch (const Raised &) {
   } catch (const tesselctl::Fault &fault) {
     PyErr_SetString(PyExc_ValueError, fault.sentence().c_str());

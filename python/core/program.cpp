@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <filesystem>
 #include <map>
 
 #include "python/core/function.hpp"
@@ -315,7 +316,8 @@ PyGetSetDef members[] = {{"name", get_name, nullptr, nullptr, nullptr},
 
 PyObject *load(PyObject * /*module*/, PyObject *path) {
   return guarded([&] {
-    static std::map<const bindings::Binding *, std::unique_ptr<Program>> loaded;
+    // Never destroyed: calls may be in progress when the process ends.
+    static auto &loaded = *new std::map<const bindings::Binding *, std::unique_ptr<Program>>;
     const Ref file(PyOS_FSPath(path));
     try {
       const bindings::Binding &binding = tesselctl::open_module(text_of(file.get()));
@@ -326,6 +328,8 @@ PyObject *load(PyObject * /*module*/, PyObject *path) {
       return reinterpret_cast<PyObject *>(made);
     } catch (const tesselctl::Fault &fault) {
       raise(PyExc_ImportError, fault.sentence());
+    } catch (const std::filesystem::filesystem_error &error) {
+      raise(PyExc_ImportError, error.what());
     }
   });
 }

@@ -179,6 +179,7 @@ void BulkRun::end_row(size_t table) {
 }
 
 void BulkRun::flush() {
+  check(PyErr_CheckSignals());
   const size_t staged = std::exchange(staged_, 0);
   if (is_add_ && handles_.size() + staged > handles_.capacity()) {
     handles_.reserve(2 * (handles_.capacity() + kChunk));

@@ -332,7 +332,8 @@ PyObject *new_table(PyTypeObject *type, PyObject *arguments, PyObject * /*keywor
     if (PyArg_ParseTuple(arguments, "OsO", &source, &name, &session) == 0) throw Raised{};
     Program &program = program_of(source);
     open_session(session);
-    static std::map<const bindings::Record *, std::unique_ptr<TableKind>> kinds;
+    // Never destroyed: calls may be in progress when the process ends.
+    static auto &kinds = *new std::map<const bindings::Record *, std::unique_ptr<TableKind>>;
     const bindings::Record *record = program.find_record("keys", name);
     if (record == nullptr) raise(PyExc_AttributeError, fmt::format("there is no table {}", name));
     std::unique_ptr<TableKind> &kind = kinds[record];
