@@ -1,7 +1,9 @@
 """Control of the soft SDK for a whole process: its clock, fault plan and journal."""
 from __future__ import annotations
 
-from pd._core import JournalCall, StatusError, journal_calls, soft
+from operator import index
+
+from pd._core import JournalCall, StatusError, is_sdk_function, journal_calls, soft
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
@@ -19,19 +21,38 @@ class Clock:
         soft["soft_clock_advance"](milliseconds)
 
 
+def _function(name: str) -> str:
+    if not is_sdk_function(name):
+        raise ValueError(f"the SDK has no function {name!r}")
+    return name
+
+
+def _status(status: int | type[StatusError]) -> int:
+    number: Any = getattr(status, "status", status)
+    if number == 0:
+        raise ValueError("a call that fails returns another status than 0")
+    return index(number)
+
+
+def _count(n: int) -> int:
+    if n == 0:
+        raise ValueError("n counts from 1, the next one")
+    return n
+
+
 class Faults:
     """Calls that are to fail, once each; n counts from 1, the next one."""
 
     def fail_call(self, function: str, status: int | type[StatusError], n: int = 1) -> None:
         """The nth next call of a function of the SDK."""
-        soft["fail_call"](function, n, getattr(status, "status", status))
+        soft["fail_call"](_function(function), _count(n), _status(status))
 
     def fail_any_call(self, status: int | type[StatusError], n: int = 1) -> None:
-        soft["fail_any_call"](n, getattr(status, "status", status))
+        soft["fail_any_call"](_count(n), _status(status))
 
     def fail_allocation(self, n: int = 1) -> None:
         """The nth next allocation of a library."""
-        soft["fail_allocation"](n)
+        soft["fail_allocation"](_count(n))
 
     def pending(self) -> int:
         """How many have not struck."""
@@ -54,7 +75,7 @@ class Journal:
         soft["journal_clear"]()
 
     def calls(self, function: str | None = None) -> list[JournalCall]:
-        return journal_calls(function)
+        return journal_calls(None if function is None else _function(function))
 
     def __enter__(self) -> Journal:
         self.start()

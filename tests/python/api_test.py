@@ -242,6 +242,10 @@ def test_threads_share_a_session(session, routes):
 
 
 def test_journal_and_faults(session, routes, journal, faults):
+    for wrong in (("pipe_mgr_mat_ent_ad", 8), ("soft_clock_now", 8), ("pipe_mgr_mat_ent_add", 0),
+                  ("pipe_mgr_mat_ent_add", 8, 0)):
+        with pytest.raises(ValueError):
+            faults.fail_call(*wrong)
     faults.fail_call("pipe_mgr_mat_ent_add", pd.errors.TableFull, n=2)
     routes.add(setNextHop2(nextHop=5), vrfId=1, dip="10.0.0.0/8")
     with pytest.raises(pd.errors.TableFull):
