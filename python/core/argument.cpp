@@ -168,6 +168,8 @@ void Arguments::read(PyObject *tuple) {
                                        parameters_.size(), names, given));
   }
   const auto item = [&](size_t at) { return PyTuple_GetItem(tuple, static_cast<Py_ssize_t>(at)); };
+  // A function that returns a status refuses null pointers itself.
+  const bool takes_null = target_.result == std::string_view("bf_status_t") || program_ != nullptr;
   buffers_.reserve(parameters_.size());
   // Numbers first: they count the elements behind pointers.
   for (size_t i = 0; i < parameters_.size(); ++i) {
@@ -197,6 +199,8 @@ void Arguments::read(PyObject *tuple) {
     } else if (info.kind >= ParameterKind::opaque) {
       words_[i] = pointer(info, item(i));
     }
+    const bool is_null = words_[i] == 0 && info.kind >= ParameterKind::structure;
+    if (is_null && !takes_null) raise(PyExc_TypeError, name_of(info) + " is not None");
   }
 }
 

@@ -4,6 +4,8 @@ import random
 import pd
 
 CELLS = 0xffff  # parameters stay below the limit of cells that they may name
+STRUCTURES = {"p4_pd_counter_values_t": (1, 64), "p4_pd_parser_target_t": (0, 0, 0, 0),
+              "p4_pd_idle_time_params_t": (1, 500, 0, 0, 0, 0)}
 
 
 def value_of(width, match, rng):
@@ -48,3 +50,27 @@ def with_meter(call, *arguments, **fields):
 
 def generator(seed=1):
     return random.Random(seed)
+
+
+def argument_of(parameter, session, program, rng):
+    """Something that a parameter of C takes."""
+    c_type, name = parameter
+    if c_type in STRUCTURES:
+        return STRUCTURES[c_type]
+    if c_type.endswith("_cb_t"):
+        return lambda *_: None
+    if name in ("session", "target", "device"):
+        return session
+    if c_type == "const char *":
+        return "name"
+    if "placement_t" in c_type or "message_t" in c_type or name in ("cookie", "client_data"):
+        return None
+    if c_type.endswith("_match_spec_t *") or c_type.endswith("_action_spec_t *"):
+        kind = "keys" if "_match_spec_t" in c_type else "actions"
+        record = c_type.split(f"p4_pd_{program.name}_")[1].rsplit("_", 3)[0]
+        return record_of(program, kind, record, rng) if "const" in c_type else pd.Output()
+    if "query_t" in c_type:
+        return bytearray(64)
+    if c_type.endswith("*"):
+        return bytes(4096) if c_type.startswith("const") else pd.Output()
+    return 1

@@ -211,9 +211,7 @@ namespace {
 // The routes of one kind of addresses: of the key their prefix is left, and of the action the hop.
 class RouteTable {
  public:
-  RouteTable(PyObject *table, PyObject *action)
-      : rows_(Verb::add, *checked_table(table).kind, action,
-              open_session(as_table(table).session)) {}
+  RouteTable(PyObject *table, PyObject *action) : RouteTable(checked_table(table), action) {}
 
   BulkRows &rows() { return rows_; }
   void fix(PyObject *name, PyObject *value) { rows_.fix(rows_.column(name), value); }
@@ -240,6 +238,8 @@ class RouteTable {
   }
 
  private:
+  RouteTable(const TableObject &table, PyObject *action)
+      : rows_(Verb::add, *table.kind, action, open_session(table.session)) {}
   static const TableObject &checked_table(PyObject *object) {
     if (PyObject_TypeCheck(object, table_type_object())) return as_table(object);
     raise(PyExc_TypeError, "add_routes takes tables");
