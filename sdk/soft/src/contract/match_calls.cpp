@@ -31,7 +31,7 @@ bf_status_t pipe_mgr_mat_ent_set_action_by_match_spec(
   return SOFT_CALL(
       (session, device, pipe, table, match, action, action_spec, flags),
       on<&MatchEngine::set_action>(InPipes{session, device, pipe, table}, session,
-                                   MatchEngine::Name{0, match, pipe}, action, action_spec));
+                                   MatchEngine::Name{{}, match, pipe}, action, action_spec));
 }
 
 bf_status_t pipe_mgr_mat_ent_set_resource(pipe_session_handle_t session, bf_device_id_t device,
@@ -56,7 +56,7 @@ bf_status_t pipe_mgr_mat_ent_del_by_match_spec(pipe_session_handle_t session, bf
                                                const pipe_mgr_match_spec_t *match, uint32_t flags) {
   return SOFT_CALL((session, device, pipe, table, match, flags),
                    on<&MatchEngine::remove>(InPipes{session, device, pipe, table}, session,
-                                            MatchEngine::Name{0, match, pipe}));
+                                            MatchEngine::Name{{}, match, pipe}));
 }
 
 bf_status_t pipe_mgr_match_spec_to_ent_hdl(pipe_session_handle_t session, bf_device_id_t device,

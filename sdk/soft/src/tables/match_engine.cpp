@@ -162,12 +162,12 @@ bf_status_t MatchEngine::erase(pipe_entry_handle_t entry) {
 bf_status_t MatchEngine::find(bf_pipe_id_t pipe, const pipe_mgr_match_spec_t *match,
                               pipe_entry_handle_t *entry) {
   const std::shared_lock lock(mutex_);
-  return locate({0, match, pipe}, entry);
+  return locate({{}, match, pipe}, entry);
 }
 
 bf_status_t MatchEngine::locate(const Name &name, pipe_entry_handle_t *entry) const {
-  if (name.handle != 0) {
-    *entry = name.handle;
+  if (name.handle) {
+    *entry = *name.handle;
     return BF_SUCCESS;
   }
   if (const bf_status_t status = check_key(name.match); status != BF_SUCCESS) return status;

@@ -29,9 +29,9 @@ class MatchEngine : public ObjectOf<MatchEngine> {
 
   // ---- Entries ----
 
-  // An entry by handle, or by key when match is set.
+  // An entry by handle, or else by key.
   struct Name {
-    pipe_entry_handle_t handle = 0;
+    std::optional<pipe_entry_handle_t> handle;
     const pipe_mgr_match_spec_t *match = nullptr;
     bf_pipe_id_t pipe = BF_ALL_PIPES;
   };
