@@ -30,16 +30,6 @@ class LagProfile : public LibraryTest {
   p4_pd_entry_handle_t entry_ = 0;
 };
 
-TEST_F(LagProfile, AMemberKeepsItsAction) {
-  const uint32_t member = add_port();
-  const Call refused = only_call([&] {
-    EXPECT_EQ(
-        PD(lagPortActionProfile_modify_member_with_setPhysicalPort)(session(), kDevice, member),
-        P4_PD_MEMBER_KEEPS_ACTION);
-  });
-  EXPECT_EQ(refused.function, "p4_pd_ms_get_mbr_act");
-}
-
 TEST_F(LagProfile, AGroupHasTheActionOfItsLastMember) {
   const uint32_t group = make("create_group", kProfile, "", with("max_size", 0));
   EXPECT_EQ(names_of(point_at(group, BF_OBJECT_NOT_FOUND)),
@@ -58,13 +48,6 @@ TEST_F(LagProfile, AGroupHasTheActionOfItsLastMember) {
   ASSERT_EQ(on_group("del_member_from_group", group, port), BF_SUCCESS);
   ASSERT_EQ(on_group("add_member_to_group", group, port), BF_SUCCESS);
   EXPECT_EQ(point_at(group, BF_SUCCESS).at(1).scalar("action"), kSetLagPort);
-}
-
-TEST_F(LagProfile, RefusesOtherMemberStates) {
-  const auto set = PD(lagPortActionProfile_group_member_state_set);
-  EXPECT_TRUE(recorded([&] {
-                EXPECT_EQ(set(session(), kDevice, 1, 1, 2), P4_PD_MEMBER_STATE_REFUSED);
-              }).empty());
 }
 
 // The states know devices by the low 8 bits of their ids.

@@ -57,7 +57,7 @@ TEST_F(ReadBack, TheMeterOverridesTheCounterInWhateverOrder) {
   }
 }
 
-// ---- Properties and ageing ----
+// ---- Properties ----
 
 TEST_F(ReadBack, AFailedPropertyReadsAllOnes) {
   uint32_t value = 1, argument = 2;
@@ -71,21 +71,6 @@ TEST_F(ReadBack, AFailedPropertyReadsAllOnes) {
   EXPECT_EQ(PD(pvs_fabric_port_get_property)(session(), kDevice, PIPE_PVS_CAPACITY, &value, 0),
             BF_HARDWARE_FAULT);
   EXPECT_EQ(value, 0xffffffffu);
-}
-
-TEST_F(ReadBack, OnlyOneModeOfAgeingHasFurtherWords) {
-  const p4_pd_idle_time_params_t notify = {PIPE_IDLE_NOTIFY, 10, 20, 5, 15, 77};
-  const p4_pd_idle_time_params_t poll = {PIPE_IDLE_POLL, 1, 2, 3, 4, 5};
-  p4_pd_idle_time_params_t read = {9, 9, 9, 9, 9, 9};
-  const auto set = PD(ipv6ShortMaskLpm_idle_tmo_enable);
-  const auto get = PD(ipv6ShortMaskLpm_idle_params_get);
-  ASSERT_EQ(set(session(), kDevice, notify), BF_SUCCESS);
-  ASSERT_EQ(get(session(), kDevice, &read), BF_SUCCESS);
-  EXPECT_EQ(std::memcmp(&read, &notify, sizeof read), 0);
-  ASSERT_EQ(set(session(), kDevice, poll), BF_SUCCESS);
-  ASSERT_EQ(get(session(), kDevice, &read), BF_SUCCESS);
-  EXPECT_EQ(read.mode, uint32_t{PIPE_IDLE_POLL});
-  EXPECT_EQ(std::memcmp(&read.sweep_interval_ms, &notify.sweep_interval_ms, 20), 0);
 }
 
 }  // namespace

@@ -82,4 +82,33 @@ TEST_F(ManyEntries, GrowOverManyChunksAndDrain) {
   for (uint32_t i = 0; i < kMany; ++i) ASSERT_NE(add(i), handles[i]);
 }
 
+// Two entries that packets hit alike, the newer one in a slot that was in use before.
+TEST_F(ManyEntries, TheOlderOfTwoThatPacketsHitAlikeWins) {
+  const auto add_tunnel = [&](uint8_t uncompared, uint32_t number) {
+    Bytes value(10);
+    value[0] = uncompared;
+    value[8] = static_cast<uint8_t>(number >> 8);
+    value[9] = static_cast<uint8_t>(number);
+    const Key key(80, value, Bytes(10, 255));
+    const Action deny;
+    uint32_t entry = 0;
+    OK(pipe_mgr_mat_ent_add(session, kDevice, kAll, kTunnel, &key.spec, kDeny, &deny.spec, 0, 0,
+                            &entry));
+    return entry;
+  };
+  Words entries;
+  for (uint32_t i = 0; i < 1100; ++i) entries.push_back(add_tunnel(0, i));
+  const uint32_t older = entries.back();
+  entries.pop_back();
+  for (const uint32_t entry : entries)
+    OK(pipe_mgr_mat_ent_del(session, kDevice, kTunnel, entry, 0));
+  uint32_t first = 0, hit = 0;
+  const uint32_t newer = add_tunnel(0x80, 1099);
+  OK(pipe_mgr_get_first_entry_handle(session, kTunnel, kDevice, 0, &first));
+  ASSERT_EQ(first, newer) << "its slot is the lower one";
+  const uint8_t packet[] = {0, 0, 0, 0, 0, 0, 0, 0, 1099 >> 8, 1099 & 255};
+  OK(soft_lookup(kDevice, 0, kTunnel, packet, 10, &hit, nullptr));
+  EXPECT_EQ(hit, older);
+}
+
 }  // namespace

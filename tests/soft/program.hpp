@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <cstdlib>
 #include <functional>
 #include <random>
 #include <vector>
@@ -193,10 +192,10 @@ inline pipe_mgr_meter_spec_t meter_spec(uint32_t unit, uint64_t committed_rate,
           peak_burst};
 }
 
-// The same numbers on every machine; SOFT_TEST_SEED in the environment gives others.
+// The same numbers on every machine.
 class Random {
  public:
-  explicit Random(uint32_t seed) : engine_(seed + from_environment()) {}
+  explicit Random(uint32_t seed) : engine_(seed) {}
   uint32_t operator()() { return static_cast<uint32_t>(engine_()); }
   uint32_t below(uint32_t bound) { return (*this)() % bound; }
   bool one_in(uint32_t n) { return below(n) == 0; }
@@ -206,10 +205,6 @@ class Random {
   }
 
  private:
-  static uint32_t from_environment() {
-    const char *text = std::getenv("SOFT_TEST_SEED");
-    return text == nullptr ? 0 : static_cast<uint32_t>(std::strtoul(text, nullptr, 10)) * 1000;
-  }
   std::mt19937 engine_;
 };
 

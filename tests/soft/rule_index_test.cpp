@@ -1,17 +1,29 @@
 // Look-ups among many rules of several shapes, against a search from end to end.
-#include "model.hpp"
+#include "program.hpp"
 
 namespace {
 
 using namespace soft_test;
 
+struct Rule {
+  uint32_t handle = 0;
+  Bytes value, mask;
+  uint32_t priority = 0, pipe = kAll;
+
+  bool is_hit(const Bytes &packet, uint32_t in) const {
+    bool hit = pipe == kAll || pipe == in;
+    for (size_t i = 0; i < mask.size(); ++i) {
+      hit = hit && ((value[i] ^ packet[i]) & mask[i] & kCompared[i]) == 0;
+    }
+    return hit;
+  }
+};
+
 class Rules : public SoftTest, public testing::WithParamInterface<uint32_t> {
  protected:
-  Rules() { table.description = &small_program().tables[6]; }
-
   // A prefix of two numbers, any bits, all bits, or none: each parameter has another mixture. Few
   // numbers, so that many rules agree in much.
-  void random_key(ModelEntry *rule) {
+  void random_key(Rule *rule) {
     rule->value.assign(10, 0);
     rule->mask.assign(10, 0);
     const uint32_t shape = random.below(GetParam() % 4 + 1);
@@ -30,29 +42,33 @@ class Rules : public SoftTest, public testing::WithParamInterface<uint32_t> {
     rule->pipe = random.one_in(4) ? random.below(2) : kAll;
   }
   void add() {
-    ModelEntry rule;
+    Rule rule;
     random_key(&rule);
     const Key key(80, rule.value, rule.mask, rule.priority);
     const Action deny;
     OK(pipe_mgr_mat_ent_add(session, kDevice, rule.pipe, kTunnel, &key.spec, kDeny, &deny.spec, 0,
                             0, &rule.handle));
-    table.entries.push_back(rule);
+    rules.push_back(rule);
   }
   void remove() {
-    const size_t at = random.below(static_cast<uint32_t>(table.entries.size()));
-    OK(pipe_mgr_mat_ent_del(session, kDevice, kTunnel, table.entries[at].handle, 0));
-    table.entries.erase(table.entries.begin() + static_cast<ptrdiff_t>(at));
+    const size_t at = random.below(static_cast<uint32_t>(rules.size()));
+    OK(pipe_mgr_mat_ent_del(session, kDevice, kTunnel, rules[at].handle, 0));
+    rules.erase(rules.begin() + static_cast<ptrdiff_t>(at));
   }
   void look_up() {
-    ModelEntry packet;
+    Rule packet;
     random_key(&packet);
     if (random.below(4) != 0) {
-      packet = random.of(table.entries);
+      packet = random.of(rules);
       for (size_t i = 0; i < 10; ++i)
         packet.value[i] ^= static_cast<uint8_t>(random() & ~packet.mask[i]);
     }
     const uint32_t pipe = random.below(2);
-    const ModelEntry *best = table.look_up(packet.value, pipe);
+    const Rule *best = nullptr;
+    for (const Rule &rule : rules) {
+      if (!rule.is_hit(packet.value, pipe)) continue;
+      if (best == nullptr || rule.priority < best->priority) best = &rule;
+    }
     uint32_t hit = 0;
     const bf_status_t status =
         soft_lookup(kDevice, pipe, kTunnel, packet.value.data(), 10, &hit, nullptr);
@@ -61,18 +77,18 @@ class Rules : public SoftTest, public testing::WithParamInterface<uint32_t> {
   }
 
   Random random{GetParam()};
-  ModelTable table;
+  std::vector<Rule> rules;
 };
 
 TEST_P(Rules, HitTheSameAsOneByOne) {
   OK(pipe_mgr_tbl_set_property(session, kDevice, kTunnel, PIPE_TABLE_ENTRY_SCOPE, 1, 0));
   OK(pipe_mgr_tbl_set_property(session, kDevice, kTunnel, PIPE_TABLE_DUPLICATE_CHECK, 0, 0));
   for (const uint32_t count : {12u, 40u, 900u, 200u, 600u, 5u}) {
-    while (table.entries.size() < count) {
+    while (rules.size() < count) {
       add();
       if (random.one_in(3)) look_up();
     }
-    while (table.entries.size() > count) {
+    while (rules.size() > count) {
       remove();
       if (random.one_in(3)) look_up();
     }

@@ -7,6 +7,7 @@
 
 #include "pdgen/load/load.hpp"
 #include "support.hpp"
+#include "tesselctl/program/library.hpp"
 
 namespace {
 
@@ -39,6 +40,7 @@ int main(int argc, char **argv) {
   const bindings::Binding *const binding = load(arguments[0]);
   if (binding == nullptr) return 2;
   pd_test::choose_program(*binding, arguments[1]);
+  tesselctl::use_program(*binding);
   if (const auto loaded = pdgen::load_program(arguments[1]); !loaded.program) {
     std::fprintf(stderr, "%s", loaded.diagnostics.text().c_str());
     return 2;

@@ -143,10 +143,11 @@ ActionSpec action_image(const pdgen::Action &action, const uint8_t *record) {
   const bindings::Record &layout = record_of(action);
   ActionSpec image;
   Bits data;
-  for (const pdgen::Param &param : action.params) {
+  for (size_t at = 0; at < action.params.size(); ++at) {
+    const pdgen::Param &param = action.params[at];
     const size_t whole = whole_bytes(param.width);
     data += param.is_index() ? repeated(false, 32)
-                             : lowest(bits_of(record, member_of(layout, param.name)), whole);
+                             : lowest(bits_of(record, member_of(layout, param.name, at)), whole);
     image.data.valid_bit_count = static_cast<uint16_t>(image.data.valid_bit_count + param.width);
   }
   image.data.bytes = bytes_of(data);
@@ -211,7 +212,8 @@ Bytes kept_action_spec(const pdgen::Action &action, const ActionSpec &image) {
     if (resource.tag == 1) attached.push_back(resource);
   }
   size_t at = 0;
-  for (const pdgen::Param &param : action.params) {
+  for (size_t i = 0; i < action.params.size(); ++i) {
+    const pdgen::Param &param = action.params[i];
     const size_t bytes = whole_bytes(param.width) / 8;
     Bits value = bits_of(image.data.bytes->data() + at, bytes);
     at += bytes;
@@ -224,7 +226,7 @@ Bytes kept_action_spec(const pdgen::Action &action, const ActionSpec &image) {
       }
       value = std::bitset<32>(cell).to_string();
     }
-    store(value, kept.data(), member_of(layout, param.name));
+    store(value, kept.data(), member_of(layout, param.name, i));
   }
   return kept;
 }

@@ -298,8 +298,10 @@ p4_pd_bytes_meter_spec_t random_meter_spec(Random &random) {
   return {word(), word(), word(), word(), PD_METER_TYPE_COLOR_UNAWARE};
 }
 
-const bindings::Member &member_of(const bindings::Record &record, std::string_view name) {
+const bindings::Member &member_of(const bindings::Record &record, std::string_view name,
+                                  size_t guess) {
   const auto all = record.member_list();
+  if (guess < all.size() && all[guess].name == name) return all[guess];
   const auto found = std::ranges::find_if(all, [&](auto &member) { return member.name == name; });
   if (found == all.end()) throw std::out_of_range(fmt::format("{}.{}", record.name, name));
   return *found;

@@ -174,6 +174,7 @@ class Arguments {
 
   // Fails the test when an argument is missing.
   uint64_t call() const;
+  const std::vector<uint64_t> &words() const { return words_; }
   p4_pd_status_t status() const { return static_cast<p4_pd_status_t>(call()); }
 
  private:
@@ -205,7 +206,9 @@ Bytes random_record(const bindings::Record &record, Random &random);
 // A colour-unaware meter spec; bytes and packets specs have one layout.
 p4_pd_bytes_meter_spec_t random_meter_spec(Random &random);
 
-const bindings::Member &member_of(const bindings::Record &record, std::string_view name);
+// guess: where it may stand.
+const bindings::Member &member_of(const bindings::Record &record, std::string_view name,
+                                  size_t guess = 0);
 
 std::string hex(const Bytes &bytes);
 
