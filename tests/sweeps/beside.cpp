@@ -273,11 +273,16 @@ void Beside::step(uint32_t number) {
 }
 
 void Beside::take(const Turn &turn) {
-  if (turn.table == nullptr) return add_member(*turn.profile, *turn.member);
+  if (turn.table == nullptr) {
+    add_member(*turn.profile, *turn.member);
+    for (const auto &[member, held] : turn.profile->members) examine_member(*turn.profile, member);
+    return;
+  }
   ModelTable &table = *turn.table;
   if (is_sent(*turn.deed->pair, pdgen::Operation::kDefault)) {
     set_default(table, kAll, turn.deed);
-    examine(table, table.default_in(kAll)->handle, table.default_in(kAll));
+    const ModelEntry *const standing = table.default_in(kAll);
+    if (standing != nullptr) examine(table, standing->handle, standing);
   }
   if (!is_sent(*turn.deed->pair, pdgen::Operation::kAdd)) return;
   if (!table.entries.empty()) remove(table, &table.entries[0], table.entries[0], false);

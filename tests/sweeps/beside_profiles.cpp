@@ -48,7 +48,7 @@ void Beside::keep_member(ModelProfile &profile, uint32_t member, const pdgen::Pr
                          const Bytes &record) {
   profile.members[member] = {
       &pair, kept_action_spec(*pair.action, action_image(*pair.action, record.data()))};
-  examine_member(profile, member);
+  if (dice.one_in(4)) examine_member(profile, member);
 }
 
 void Beside::remove_member(ModelProfile &profile, uint32_t member) {

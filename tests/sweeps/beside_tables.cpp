@@ -68,13 +68,15 @@ Wanted Beside::random_action(const ModelTable &table, Operation operation, const
                                                          {1, 1, 2, 2, PD_METER_TYPE_COLOR_AWARE},
                                                          {1, 1, 2, 2, 2}};
   Wanted wanted;
+  const bool asked = deed != nullptr;  // and not to be refused
   while (deed == nullptr || !is_sent(*deed->pair, operation)) deed = &dice.of(deeds[table.row]);
   wanted.pair = deed->pair;
   wanted.record = deed->record;
   wanted.action = deed->pair->handle;
   wanted.image = deed->images[static_cast<size_t>(operation)];
   if (deed->pair->takes_meter_spec(operation)) {
-    wanted.meter = dice.one_in(6) ? nullptr : &kMeters[dice.below(dice.one_in(20) ? 5 : 3)];
+    wanted.meter = &kMeters[dice.below(!asked && dice.one_in(20) ? 5 : 3)];
+    if (!asked && dice.one_in(6)) wanted.meter = nullptr;
     wanted.image = action_image(*wanted.pair, operation, wanted.record.data(), wanted.meter);
     if (wanted.meter == nullptr && operation == Operation::kAdd) {
       wanted.refusal = P4_PD_METER_SPEC_MISSING;
@@ -84,7 +86,7 @@ Wanted Beside::random_action(const ModelTable &table, Operation operation, const
     }
   }
   for (const bindings::Field &field : record_of(*wanted.pair->action).field_list()) {
-    if (field.cells.empty() || !dice.one_in(40)) continue;
+    if (asked || field.cells.empty() || !dice.one_in(40)) continue;
     const uint32_t cell = SOFT_COUNTER_CELLS;
     std::memcpy(&wanted.record[field.parts[0]->offset], &cell, field.parts[0]->storage);
     wanted.image = action_image(*wanted.pair, operation, wanted.record.data(), wanted.meter);

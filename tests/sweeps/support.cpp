@@ -231,7 +231,10 @@ Arguments &Arguments::set(std::string_view name, const void *object) {
 
 Arguments &Arguments::give(const Given &given) {
   for (const auto &[name, value] : given) {
-    if (takes(name)) set(name, value);
+    const size_t at = index_of(name);
+    if (at == words_.size()) continue;
+    words_[at] = value;
+    given_[at] = true;
   }
   return *this;
 }

@@ -145,15 +145,21 @@ inline uint64_t word(uint64_t number) { return number; }
 
 // Arguments by name, of which an export may take only some: with("entry", entry, "count", &count).
 using Given = std::vector<std::pair<std::string_view, uint64_t>>;
-inline Given with() { return {}; }
+inline void append(Given &) {}
 template <class Value, class... Rest>
-Given with(std::string_view name, Value value, Rest... rest) {
-  Given given = with(rest...);
+void append(Given &given, std::string_view name, Value value, Rest... rest) {
   if constexpr (std::is_pointer_v<Value>) {
     given.emplace_back(name, word(value));
   } else {
     given.emplace_back(name, static_cast<uint64_t>(value));
   }
+  append(given, rest...);
+}
+template <class... Argument>
+Given with(Argument... argument) {
+  Given given;
+  given.reserve(sizeof...(argument) / 2);
+  append(given, argument...);
   return given;
 }
 
