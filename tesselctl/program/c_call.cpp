@@ -33,6 +33,71 @@ std::string typed(std::string_view type, std::string_view name) {
   return fmt::format("{}{}{}", type, type.ends_with('*') ? "" : " ", name);
 }
 
+std::string lettered(bool value) { return value ? "true" : "false"; }
+
+// ---- Numbers that have names in the headers ----
+
+struct Constant {
+  std::string_view parameter;
+  std::string_view family;  // what it contains
+  uint64_t value;
+  const char *name;
+};
+constexpr Constant kConstants[] = {
+    {"property", "pvs_", PIPE_PVS_CAPACITY, "PIPE_PVS_CAPACITY"},
+    {"property", "t_property", PIPE_TABLE_ENTRY_SCOPE, "PIPE_TABLE_ENTRY_SCOPE"},
+    {"property", "t_property", PIPE_TABLE_DUPLICATE_CHECK, "PIPE_TABLE_DUPLICATE_CHECK"},
+    {"property", "t_property", PIPE_TABLE_CAPACITY, "PIPE_TABLE_CAPACITY"},
+    {"flags", "_read", P4_PD_READ_FROM_HARDWARE, "P4_PD_READ_FROM_HARDWARE"},
+    {"state", "", P4_PD_GRP_MBR_STATE_ACTIVE, "P4_PD_GRP_MBR_STATE_ACTIVE"},
+    {"state", "", P4_PD_GRP_MBR_STATE_INACTIVE, "P4_PD_GRP_MBR_STATE_INACTIVE"},
+    {"hit_state", "", PIPE_ENTRY_IDLE, "PIPE_ENTRY_IDLE"},
+    {"hit_state", "", PIPE_ENTRY_ACTIVE, "PIPE_ENTRY_ACTIVE"},
+    {"pipe", "", BF_ALL_PIPES, "BF_ALL_PIPES"},
+    {"meter_type", "", PD_METER_TYPE_COLOR_AWARE, "PD_METER_TYPE_COLOR_AWARE"},
+    {"meter_type", "", PD_METER_TYPE_COLOR_UNAWARE, "PD_METER_TYPE_COLOR_UNAWARE"},
+    {"mode", "", PIPE_IDLE_POLL, "PIPE_IDLE_POLL"},
+    {"mode", "", PIPE_IDLE_NOTIFY, "PIPE_IDLE_NOTIFY"},
+};
+
+// The name of a number, or its digits.
+std::string number_of(std::string_view parameter, uint64_t value, std::string_view family = {}) {
+  for (const Constant &constant : kConstants) {
+    if (constant.parameter == parameter && constant.value == value &&
+        family.find(constant.family) != std::string_view::npos) {
+      return constant.name;
+    }
+  }
+  return value > 0xffff ? hexadecimal(value) : decimal(value);
+}
+
+// ---- What a host has ----
+
+struct Callback {
+  std::string_view type;
+  const char *declaration;
+};
+constexpr Callback kCallbacks[] = {
+    {"pipe_mgr_mat_update_cb_t",
+     "void on_entry_update(pipe_session_handle_t session, bf_device_id_t device, "
+     "pipe_object_handle_t table, uint32_t update, pipe_entry_handle_t entry, void *cookie)"},
+    {"pipe_mgr_adt_update_cb_t",
+     "void on_member_update(pipe_session_handle_t session, bf_device_id_t device, "
+     "pipe_object_handle_t action_data_table, uint32_t update, pipe_member_handle_t member, "
+     "void *cookie)"},
+    {"pipe_mgr_sel_update_cb_t",
+     "void on_group_update(pipe_session_handle_t session, bf_device_id_t device, "
+     "pipe_object_handle_t selector, uint32_t update, pipe_group_handle_t group, "
+     "pipe_member_handle_t member, void *cookie)"},
+    {"pipe_mgr_idle_cb_t",
+     "void on_expiry(bf_device_id_t device, pipe_object_handle_t table, "
+     "pipe_entry_handle_t entry, void *client_data)"},
+    {"pipe_mgr_sync_cb_t", "void on_synchronised(bf_device_id_t device, void *cookie)"},
+    {"pipe_mgr_digest_cb_t",
+     "bf_status_t on_digest(pipe_session_handle_t session, pipe_mgr_digest_message_t *message, "
+     "void *cookie)"},
+};
+
 // A value of a type by the bytes that the caller gave.
 template <class T>
 T value_at(const void *bytes) {
@@ -75,7 +140,8 @@ std::string initializer(const Parameter &parameter, const uint8_t *bytes) {
   if (name == "meter_spec") {
     const auto meter = value_at<p4_pd_bytes_meter_spec_t>(bytes);
     return fmt::format("{}, {}, {}, {}, {}", meter.committed_rate, meter.committed_burst,
-                       meter.peak_rate, meter.peak_burst, meter.meter_type);
+                       meter.peak_rate, meter.peak_burst,
+                       number_of("meter_type", meter.meter_type));
   }
   if (type == kCounterValues) {
     const auto values = value_at<p4_pd_counter_values_t>(bytes);
@@ -96,10 +162,11 @@ std::string initializer(const Parameter &parameter, const uint8_t *bytes) {
     return fmt::format(
         ".mode = {}, .sweep_interval_ms = {}, .max_ttl_ms = {}, .min_ttl_ms = {}, "
         ".default_ttl_ms = {}",
-        params.mode, params.sweep_interval_ms, params.max_ttl_ms, params.min_ttl_ms,
-        params.default_ttl_ms);
+        number_of("mode", params.mode), params.sweep_interval_ms, params.max_ttl_ms,
+        params.min_ttl_ms, params.default_ttl_ms);
   }
   if (type == "uint32_t") return hexadecimal(value_at<uint32_t>(bytes));
+  if (type == "uint16_t") return hexadecimal(value_at<uint16_t>(bytes));
   if (type == "uint8_t") return hexadecimal(*bytes);
   return "0";
 }
@@ -198,20 +265,24 @@ std::string pointed_at(const Export &target, const uint64_t *words, size_t at, C
   if (type == "void" && name == "action_spec") {
     return "&" + text.declare(function_prefix() + "action_specs_t", name, "{0}") + ".spec";
   }
+  if (type == "pipe_mgr_placement_t" || type == "pipe_mgr_digest_message_t") {
+    return std::string(name);
+  }
+  if (given && name == "entry") return "message->entries";
   if (type == "void") {
     const size_t size = program().snapshot_bytes;
     size_t used = size;
     while (used > 1 && bytes[used - 1] == 0) --used;
     return text.declare_array("uint8_t", name, size, byte_list(bytes, used));
   }
-  // Placement data and digest entries are the device's own, which hands them to its clients.
-  if (type == "pipe_mgr_placement_t" || (given && name == "entry")) {
-    return text.declare(full, name, "NULL");
-  }
   if (type == "char" && given) return string_literal(reinterpret_cast<const char *>(bytes));
   if (type == "char") return text.declare_array(type, name, text_size(target, name), "0");
-  if (type == "uint8_t" && given && name != "hash") {
+  if (type == "uint8_t" && (name == "address" || name == "mask")) {
     return text.declare_array(type, name, kAddressBytes, byte_list(bytes, kAddressBytes));
+  }
+  if (type == "pipe_stful_query_t") {
+    const std::string cells = text.declare_array("pipe_stful_cell_t", "cells", 8, "0");
+    return "&" + text.declare(type, name, fmt::format("{{8, {}}}", cells));
   }
   const bool is_one =
       name == "action_specs" || name == "params" || name == "captures" || type == kCounterValues;
@@ -226,23 +297,39 @@ std::string pointed_at(const Export &target, const uint64_t *words, size_t at, C
   return text.declare_array(type, name, count, given ? elements(type, bytes, count) : "0");
 }
 
-std::string argument(const Export &target, const uint64_t *words, size_t at, CText &text) {
+// Of the device's choice.
+bool is_handle(const Parameter &parameter) {
+  const std::string_view type = parameter.type;
+  return type == "p4_pd_entry_handle_t" || type == "p4_pd_member_handle_t" ||
+         type == "p4_pd_group_handle_t" || std::string_view(parameter.name) == "snapshot";
+}
+
+std::string argument(const Export &target, const uint64_t *words, size_t at, Handles handles,
+                     CText &text) {
   const Parameter &parameter = target.parameters[at];
   const std::string_view type = parameter.type;
   const std::string name = parameter.name;
   const bool is_parser = type == "p4_pd_parser_target_t";
   if (name == "session" || name == "device" || (name == "target" && !is_parser)) return name;
-  if (type.ends_with("_cb_t") || name == "cookie" || name == "client_data") {
-    return fmt::format("NULL /* {} */", name);
+  if (name == "cookie" || name == "client_data") return fmt::format("NULL /* {} */", name);
+  for (const Callback &callback : kCallbacks) {
+    if (type != callback.type || words[at] == 0) continue;
+    std::string_view declared = callback.declaration;
+    text.declarations += fmt::format("  {};\n", declared);
+    declared = declared.substr(0, declared.find('('));
+    return std::string(declared.substr(declared.find(' ') + 1));
   }
-  const bool is_pointer = type.find('*') != std::string_view::npos;
+  const bool is_pointer = type.find('*') != std::string_view::npos || type.ends_with("_cb_t");
   if (is_pointer) return words[at] == 0 ? "NULL" : pointed_at(target, words, at, text);
   if (is_record_by_value(type)) {
     const auto *bytes = reinterpret_cast<const uint8_t *>(static_cast<uintptr_t>(words[at]));
     const std::string variable = is_parser ? "parser" : name;
     return text.declare(type, variable, fmt::format("{{{}}}", initializer(parameter, bytes)));
   }
-  return words[at] > 0xffff ? fmt::format("{:#x}", words[at]) : decimal(words[at]);
+  if (type == "bool") return lettered(words[at] != 0);
+  const std::string number = number_of(name, words[at], target.family);
+  const bool is_declared = handles == Handles::variables && is_handle(parameter);
+  return is_declared ? text.declare(type, name, number) : number;
 }
 
 // Where the last comma within the columns ends, else where "=" or a parenthesis does; 0 without
@@ -280,10 +367,11 @@ std::string prototype(const Export &target) {
                      parameters.empty() ? "void" : parameters);
 }
 
-std::string c_call(const Export &target, const uint64_t *words, const std::string &remark) {
+std::string c_call(const Export &target, const uint64_t *words, const std::string &remark,
+                   Handles handles) {
   CText text;
   for (size_t i = 0; i < target.parameter_count; ++i) {
-    const std::string word = argument(target, words, i, text);
+    const std::string word = argument(target, words, i, handles, text);
     text.arguments += (i == 0 ? "" : ", ") + word;
   }
   const std::string_view result = target.result;
