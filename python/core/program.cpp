@@ -18,6 +18,9 @@ namespace {
 
 PyTypeObject *program_type = nullptr;
 
+// What each device runs.
+const Program *running[SOFT_DEVICE_LIMIT] = {};
+
 struct List {
   std::string_view name;
   bindings::RecordList bindings::Binding::*records;
@@ -36,6 +39,16 @@ const List *list_of(const bindings::Binding &binding, const bindings::Record &re
 }
 
 }  // namespace
+
+void check_device(const Program &program, uint32_t device) {
+  const Program *found = device < SOFT_DEVICE_LIMIT ? running[device] : nullptr;
+  if (found == nullptr || found == &program) return;
+  raise(PyExc_ValueError, fmt::format("device {} runs {}, and the session is of {}", device,
+                                      found->binding().program, program.binding().program));
+}
+void forget_device(uint32_t device) {
+  if (device < SOFT_DEVICE_LIMIT) running[device] = nullptr;
+}
 
 std::string_view pointed_type(std::string_view type) {
   if (type.starts_with("const ")) type.remove_prefix(6);
@@ -269,11 +282,18 @@ PyObject *create_device(PyObject *self, PyObject *arguments) {
     const auto id = static_cast<uint32_t>(unsigned_of(device, 4, "device"));
     const auto count = static_cast<uint32_t>(unsigned_of(pipes, 4, "pipes"));
     const Program &program = program_of(self);
+    if (id >= SOFT_DEVICE_LIMIT)
+      raise(PyExc_ValueError,
+            fmt::format("a device is 0 to {}, not {}", SOFT_DEVICE_LIMIT - 1, id));
+    if (count == 0 || count > SOFT_PIPE_LIMIT)
+      raise(PyExc_ValueError,
+            fmt::format("a device has 1 to {} pipes, not {}", SOFT_PIPE_LIMIT, count));
     const uint32_t status = [&] {
       const Unlocked unlocked;
       return soft_device_create(id, count, &program.description(), is_virtual != 0);
     }();
     check_status(status, fmt::format("device {}", id));
+    running[id] = &program;
     return none();
   });
 }

@@ -50,6 +50,10 @@ struct ProgramObject {
 void add_program(PyObject *module);
 // Throws TypeError for any other object.
 Program &program_of(PyObject *object);
+// Throws ValueError where the device runs another program.
+void check_device(const Program &program, uint32_t device);
+// The device is gone.
+void forget_device(uint32_t device);
 
 // "p4_pd_x_t" of "const p4_pd_x_t *".
 std::string_view pointed_type(std::string_view type);

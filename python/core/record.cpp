@@ -145,6 +145,25 @@ PyObject *as_dict(PyObject *self, PyObject * /*unused*/) {
   return guarded([&] { return fields_of(*cast(self)).release(); });
 }
 
+PyObject *replaced(PyObject *self, PyObject *arguments, PyObject *keywords) {
+  return guarded([&] {
+    const RecordKind &kind = *cast(self)->kind;
+    if (PyTuple_Size(arguments) != 0) {
+      raise(PyExc_TypeError, kind.what + "._replace takes keyword arguments alone");
+    }
+    Ref made(make_record(kind, cast(self)->bytes));
+    PyObject *name = nullptr;
+    PyObject *value = nullptr;
+    Py_ssize_t at = 0;
+    while (keywords != nullptr && PyDict_Next(keywords, &at, &name, &value) != 0) {
+      const Field &field = field_of(kind, name);
+      tesselctl::store_value(field, field_value(kind, field, value),
+                             reinterpret_cast<RecordObject *>(made.get())->bytes);
+    }
+    return made.release();
+  });
+}
+
 PyObject *masked(PyObject *self, PyObject *name) {
   return guarded([&] {
     const RecordObject &record = *cast(self);
@@ -185,6 +204,8 @@ PyObject *describe(PyObject *type, PyObject * /*unused*/) {
 
 PyMethodDef methods[] = {
     {"_asdict", as_dict, METH_NOARGS, "The fields by name."},
+    {"_replace", method(replaced), METH_VARARGS | METH_KEYWORDS,
+     "The same record with other values of some fields."},
     {"_masked", masked, METH_O, "Value and mask of a field, as ints."},
     {"_from_bytes", from_bytes, METH_O | METH_CLASS, "The record of these bytes, as C has it."},
     {"_describe", describe, METH_NOARGS | METH_CLASS,
@@ -253,9 +274,10 @@ const Field &field_of(const RecordKind &kind, PyObject *name) {
   }
 }
 
-tesselctl::FieldValue field_value(const RecordKind &kind, const Field &field, PyObject *value) {
+tesselctl::FieldValue field_value(const RecordKind &kind, const Field &field, PyObject *value,
+                                  Values values) {
   try {
-    return to_value(field, value);
+    return values == Values::one ? to_single(field, value) : to_value(field, value);
   } catch (const Fault &fault) {
     raise(PyExc_ValueError, fmt::format("{}.{}: {}", kind.what, field.label, fault.sentence()));
   }
@@ -268,7 +290,7 @@ void RecordFiller::set(PyObject *name, PyObject *value) {
   } catch (const Fault &fault) {
     raise(PyExc_TypeError, fmt::format("{}: {}", kind_.what, fault.sentence()));
   }
-  writer_.store(field, field_value(kind_, field, value));
+  writer_.store(field, field_value(kind_, field, value, values_));
 }
 
 void RecordFiller::finish() {

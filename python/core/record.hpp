@@ -43,10 +43,14 @@ inline const RecordObject *as_record(PyObject *object, const RecordKind &kind) {
 // TypeError.
 const tesselctl::Field &field_of(const RecordKind &kind, PyObject *name);
 
+// What a field takes: also masks and prefixes, or one value.
+enum class Values : uint8_t { any, one };
+
 // Fills a record from keywords.
 class RecordFiller {
  public:
-  explicit RecordFiller(const RecordKind &kind) : kind_(kind), writer_(*kind.record, kind.what) {}
+  explicit RecordFiller(const RecordKind &kind, Values values = Values::any)
+      : kind_(kind), writer_(*kind.record, kind.what), values_(values) {}
 
   // Both throw TypeError or ValueError with the name of the field.
   void set(PyObject *name, PyObject *value);
@@ -58,10 +62,11 @@ class RecordFiller {
  private:
   const RecordKind &kind_;
   tesselctl::RecordWriter writer_;
+  Values values_;
 };
 
 // Converts the value of a field; errors name the record and the field.
 tesselctl::FieldValue field_value(const RecordKind &kind, const tesselctl::Field &field,
-                                  PyObject *value);
+                                  PyObject *value, Values values = Values::any);
 
 }  // namespace python

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include "python/core/program.hpp"
 #include "python/core/status.hpp"
 #include "python/core/structure.hpp"
 #include "soft_sdk.h"
@@ -35,16 +36,21 @@ p4_pd_device_target_t read_target(PyObject *arguments, PyObject *keywords,
   return usual;
 }
 
-PyObject *new_session(PyTypeObject *type, PyObject *arguments, PyObject *keywords) {
-  return guarded([&] {
-    const p4_pd_device_target_t target = read_target(arguments, keywords, {0, BF_ALL_PIPES});
-    Ref made(PyType_GenericAlloc(type, 0));
-    SessionObject &session = *cast(made.get());
-    session.target = target;
-    check_status(soft_session_open(&session.handle), "a new session");
-    session.is_open = true;
-    return made.release();
-  });
+int open(PyObject *self, PyObject *arguments, PyObject *keywords) {
+  return guarded(
+      [&] {
+        SessionObject &session = *cast(self);
+        if (session.program != nullptr) raise(PyExc_TypeError, "a session is opened once");
+        const p4_pd_device_target_t target = read_target(arguments, keywords, {0, BF_ALL_PIPES});
+        const Program &program = program_of(Ref(PyObject_GetAttrString(self, "_program")).get());
+        check_device(program, target.device_id);
+        check_status(soft_session_open(&session.handle), "a new session");
+        session.target = target;
+        session.program = &program;
+        session.is_open = true;
+        return 0;
+      },
+      -1);
 }
 
 void close(SessionObject &session) {
@@ -78,8 +84,10 @@ PyObject *on(PyObject *self, PyObject *arguments, PyObject *keywords) {
     const p4_pd_device_target_t target = read_target(arguments, keywords, session.target);
     Ref made(PyType_GenericAlloc(Py_TYPE(self), 0));
     SessionObject &view = *cast(made.get());
+    check_device(*session.program, target.device_id);
     view.handle = session.handle;
     view.target = target;
+    view.program = session.program;
     view.owner = cast(
         Py_NewRef(session.owner == nullptr ? self : reinterpret_cast<PyObject *>(session.owner)));
     return made.release();
@@ -114,7 +122,7 @@ PyGetSetDef members[] = {
 }  // namespace
 
 void add_session(PyObject *module) {
-  PyType_Slot slots[] = {{Py_tp_new, reinterpret_cast<void *>(new_session)},
+  PyType_Slot slots[] = {{Py_tp_init, reinterpret_cast<void *>(open)},
                          {Py_tp_dealloc, reinterpret_cast<void *>(deallocate)},
                          {Py_tp_methods, methods},
                          {Py_tp_getset, members},
@@ -133,6 +141,7 @@ const SessionObject &open_session(PyObject *object) {
   }
   const SessionObject &session = *cast(object);
   if (!owner_of(session).is_open) raise(PyExc_ValueError, "the session is closed");
+  check_device(*session.program, session.target.device_id);
   return session;
 }
 

@@ -6,10 +6,13 @@
 
 namespace python {
 
+class Program;
+
 struct SessionObject {
   PyObject ob_base;
   p4_pd_session_handle_t handle;
   p4_pd_device_target_t target;
+  const Program *program;
   bool is_open;
   SessionObject *owner;  // of the handle, held; null for the owner itself
 };
@@ -17,7 +20,8 @@ struct SessionObject {
 void add_session(PyObject *module);
 
 bool is_session(PyObject *object);
-// Throws ValueError for a session that is closed, TypeError for any other object, null too.
+// Throws ValueError for a session that is closed or whose device runs another program, TypeError
+// for any other object, null too.
 const SessionObject &open_session(PyObject *object);
 
 }  // namespace python

@@ -10,6 +10,7 @@
 #include "bindings/invoke.hpp"
 #include "python/core/callback.hpp"
 #include "python/core/function.hpp"
+#include "python/core/program.hpp"
 #include "python/core/status.hpp"
 #include "python/core/structure.hpp"
 #include "soft_contents.h"
@@ -155,6 +156,7 @@ PyObject *device_remove(PyObject * /*module*/, PyObject *number) {
     }();
     check_status(status, device_name(device));
     drop_callbacks(device);
+    forget_device(device);
     return none();
   });
 }

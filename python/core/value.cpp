@@ -107,6 +107,10 @@ Number to_number(const Field &field, PyObject *object) {
                                      std::string(field.label), type_name(object)));
 }
 
+FieldValue to_single(const Field &field, PyObject *object) {
+  return whole(field, to_number(field, object));
+}
+
 FieldValue to_value(const Field &field, PyObject *object) {
   if (PyUnicode_Check(object)) return tesselctl::parse_value(field, {text_of(object), 1});
   if (PyLong_Check(object)) return whole(field, number_of_int(field, object));
@@ -116,7 +120,7 @@ FieldValue to_value(const Field &field, PyObject *object) {
       return tesselctl::parse_value(field, {text_of(address.get()), 1});
     }
   }
-  return whole(field, to_number(field, object));
+  return to_single(field, object);
 }
 
 PyObject *from_number(Number number) {

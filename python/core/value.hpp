@@ -15,6 +15,8 @@ namespace python {
 // Throw tesselctl::Fault for a value that the field does not take, and TypeError for an object that
 // is no value at all.
 tesselctl::FieldValue to_value(const tesselctl::Field &field, PyObject *object);
+// One value, without a mask or a prefix.
+tesselctl::FieldValue to_single(const tesselctl::Field &field, PyObject *object);
 tesselctl::Number to_number(const tesselctl::Field &field, PyObject *object);
 
 // An int where the field is a number that is whole, else a str that to_value reads as the same.

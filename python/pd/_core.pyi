@@ -1,6 +1,8 @@
 """The extension: records, tables and calls; what is here is used through the other modules."""
 from os import PathLike
-from typing import Any, Generic, NamedTuple, TypeVar
+from typing import Any, Generic, NamedTuple, Self, TypeVar
+
+from pd._profiles import Group, Member
 
 _K = TypeVar("_K", covariant=True)
 _A = TypeVar("_A", covariant=True)
@@ -48,6 +50,7 @@ class WrongLength(StatusError): ...
 class Record:
     """The fields of a key, an action, or another record; it never changes."""
     def _asdict(self) -> dict[str, Any]: ...
+    def _replace(self, **fields: Any) -> Self: ...
     def _masked(self, name: str, /) -> tuple[int, int]: ...
     @classmethod
     def _from_bytes(cls, source: Any, /) -> Any: ...
@@ -67,9 +70,9 @@ class Entry(Generic[_K, _A]):
     @property
     def action(self) -> _A: ...
     @property
-    def member(self) -> int | None: ...
+    def member(self) -> Member | None: ...
     @property
-    def group(self) -> int | None: ...
+    def group(self) -> Group | None: ...
 
 class Target(NamedTuple):
     device_id: int
@@ -126,8 +129,8 @@ class Hit(tuple[Any, ...]):
     entry: int
     is_default: bool
     action: str | None
-    group: int | None
-    member: int | None
+    group: Group | None
+    member: Member | None
     color: str
     def __new__(cls, values: tuple[Any, ...], /) -> Hit: ...
 
@@ -175,7 +178,7 @@ class Program:
     def create_device(self, id: int, pipes: int, virtual: bool, /) -> None: ...
 
 class SessionBase:
-    def __new__(cls, device: int = ..., pipe: int | None = ...) -> Any: ...
+    def __init__(self, device: int = ..., pipe: int | None = ...) -> None: ...
     @property
     def handle(self) -> int: ...
     @property

@@ -4,6 +4,7 @@ from __future__ import annotations
 from pd import _core
 from pd._call import call, control, function, read_control
 from pd._core import Program, SessionBase, WredParams
+from pd._listeners import forget_device, forget_session
 from pd._profiles import Profile
 from pd._services import Digest, Hash, Snapshot, ValueSet
 from pd._stateful import Counter, Meter, Register
@@ -11,7 +12,7 @@ from pd._tables import Table
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
-    from typing import Any, Iterable, Iterator, Self
+    from typing import Any, Iterable, Iterator, KeysView, Literal, Self
 
 _started: set[str] = set()
 
@@ -31,15 +32,35 @@ def start(program: Program) -> None:
     _started.add(program.name)
 
 
+def program_of(made: Any) -> Program:
+    """The program of a device or a session, whose library is initialised."""
+    program: Program | None = getattr(type(made), "_program", None)
+    if program is None:
+        name = type(made).__name__
+        raise TypeError(f"pd.{name} has no program: use the {name} of its package, such as "
+                        f"tessel_switch.{name}")
+    start(program)
+    return program
+
+
 class Namespace:
     """The objects of a kind, as attributes and by name; each is made when it is asked for."""
 
+    _program: Program
+    _kind: str
+    _make: Any
+    _session: Any
+    _facts: dict[str, Any]
+
     def __init__(self, program: Program, kind: str, make: Any, session: Any):
-        self._program, self._kind, self._make, self._session = program, kind, make, session
-        self._facts: dict[str, Any] = program.objects(kind)
+        self.__dict__.update(_program=program, _kind=kind, _make=make, _session=session,
+                             _facts=program.objects(kind))
+
 
     if not TYPE_CHECKING:  # what there is follows from the program
         def __getattr__(self, name: str) -> Any:
+            if name.startswith("__"):
+                raise AttributeError(name)
             return self._find(name)
 
     def _find(self, name: str) -> Any:
@@ -51,8 +72,20 @@ class Namespace:
                                  + (f"; did you mean {near}?" if near else ""))
         made = self._make(self._program, name.rstrip("_") if name not in self._facts else name,
                           self._session, facts)
-        setattr(self, name, made)
+        self.__dict__[name] = made
         return made
+
+    def __setattr__(self, name: str, value: object) -> None:
+        raise AttributeError(f"the {self._kind} of {self._program.name} are those of the program")
+
+    def keys(self) -> KeysView[str]:
+        return self._facts.keys()
+
+    def items(self) -> list[tuple[str, Any]]:
+        return [(name, self[name]) for name in self._facts]
+
+    def __repr__(self) -> str:
+        return f"<{len(self)} {self._kind} of {self._program.name}>"
 
     def __getitem__(self, name: str) -> Any:
         if name not in self._facts:
@@ -83,7 +116,7 @@ class Device:
     _program: Program
 
     def __init__(self, id: int = 0, *, pipes: int = 4, virtual: bool = False):
-        start(self._program)
+        program_of(self)
         self._program.create_device(id, pipes, virtual)
         self.id, self.pipes, self.virtual = id, pipes, virtual
         self._exists = True
@@ -97,8 +130,9 @@ class Device:
     def remove(self) -> None:
         """Removes the device; again does nothing."""
         if self._exists:
-            self._exists = False
             _core.device_remove(self.id)
+            self._exists = False
+            forget_device(self.id)
 
     def now(self) -> int:
         """The time of the device in milliseconds."""
@@ -141,13 +175,18 @@ class Session(SessionBase):
 
     _program: Program
 
-    def __new__(cls, device: Device | int = 0, pipe: int | None = None) -> Session:
-        start(cls._program)
-        made: Session = super().__new__(cls, number_of(device), pipe)
-        return made
-
     def __init__(self, device: Device | int = 0, pipe: int | None = None):
         """Opens the session."""
+        program_of(self)
+        super().__init__(number_of(device), pipe)
+
+    def close(self) -> None:
+        """Closes the session, whose callbacks nobody calls any more; again does nothing."""
+        if not self.closed:
+            try:
+                forget_session(self.handle)
+            finally:
+                super().close()
 
     def __dir__(self) -> list[str]:
         return sorted({*super().__dir__(), *KINDS})
@@ -156,7 +195,9 @@ class Session(SessionBase):
         def __getattr__(self, name: str) -> Any:
             kind = KINDS.get(name)
             if kind is None:
-                raise AttributeError(f"a session has no {name}")
+                near = "" if name.startswith("_") else _core.nearest(name, dir(self))
+                raise AttributeError(f"a session has no {name}"
+                                     + (f"; did you mean {near}?" if near else ""))
             made = Namespace(self._program, name, kind, self)
             setattr(self, name, made)
             return made
@@ -165,9 +206,12 @@ class Session(SessionBase):
         """The same session for another device, or for one pipe; None: all pipes."""
         number = self.device_id if device is None else number_of(device)
         view: Self = self._on(number, pipe)
+        # What a class below this one keeps.
+        view.__dict__.update((name, kept) for name, kept in self.__dict__.items()
+                             if name not in KINDS)
         return view
 
-    def snapshot(self, direction: str = "ingress", first_stage: int = 0,
+    def snapshot(self, direction: Literal["ingress", "egress"] = "ingress", first_stage: int = 0,
                  last_stage: int = 0) -> Snapshot:
         """A new snapshot of stages of the session's pipe."""
         return Snapshot(self, direction, first_stage, last_stage)

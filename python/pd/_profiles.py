@@ -4,6 +4,8 @@ from __future__ import annotations
 from pd import _core
 from pd._call import Name, call, control, get, read_control, walk
 from pd._core import Opaque, Record
+from pd._listeners import listen
+from pd._numbers import Update
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
@@ -138,8 +140,12 @@ class Profile(Name):
     def create_group(self, *members: Member, max_size: int = 0) -> Group:
         """A group of at most so many members, 0 of any number, with these in it."""
         group = Group(self, self._get("create_group", self.session, self.session, max_size))
-        for member in members:
-            group.add(member)
+        try:
+            for member in members:
+                group.add(member)
+        except BaseException:
+            group.delete()
+            raise
         return group
 
     def member(self, handle: int) -> Member:
@@ -166,6 +172,16 @@ class Profile(Name):
 
     def groups(self) -> Iterator[Group]:
         return (Group(self, one) for one in self._walk("get_first_group", "get_next_groups"))
+
+    def __iter__(self) -> Iterator[Member]:
+        return self.members()
+
+    def __len__(self) -> int:
+        """How many members there are."""
+        return self.member_count()
+
+    def __bool__(self) -> bool:
+        return True
 
     def member_count(self) -> int:
         return int(self._get("get_act_prof_entry_count", self.session, self.session))
@@ -196,22 +212,16 @@ class Profile(Name):
         members = self._get("get_word_llp_active_members", self.session, self.session, word, count)
         return [Member(self, handle) for handle in members]
 
-    def on_member_update(self, callback: Callable[[int, int], object] | None) -> None:
-        """Has the callback called with update (PIPE_UPDATE_*) and member after each change."""
-        def updated(_session: int, _device: int, _table: int, update: int, member: int) -> None:
-            if callback is not None:
-                callback(update, member)
-        self._call("register_adt_update_cb", self.session, self.session,
-                   updated if callback else None, None)
+    def on_member_update(self, callback: Callable[[Update, int], object] | None) -> None:
+        """Has the callback called with what was done and the member after each change."""
+        listen(self._program, self.name, self.session, "register_adt_update_cb", callback,
+               lambda each, _session, _device, _table, update, member: each(Update(update), member))
 
-    def on_group_update(self, callback: Callable[[int, int, int], object] | None) -> None:
-        """The same with update, group and member (0: the group alone)."""
-        def updated(_session: int, _device: int, _selector: int, update: int, group: int,
-                    member: int) -> None:
-            if callback is not None:
-                callback(update, group, member)
-        self._call("register_sel_update_cb", self.session, self.session,
-                   updated if callback else None, None)
+    def on_group_update(self, callback: Callable[[Update, int, int], object] | None) -> None:
+        """The same with what was done, group and member (0: the group alone)."""
+        listen(self._program, self.name, self.session, "register_sel_update_cb", callback,
+               lambda each, _session, _device, _selector, update, group, member:
+               each(Update(update), group, member))
 
     def capacity(self, of_groups: bool = False) -> int:
         """How many members or groups the soft device takes; 0: any number."""
@@ -222,9 +232,12 @@ class Profile(Name):
         control("soft_profile_capacity_set", self.session.device_id,
                 self.selector if of_groups else self.handle, capacity)
 
-    def clear(self) -> None:
-        """Deletes all groups and then all members; entries must not point at them."""
-        for group in list(self.groups()):
-            group.delete()
-        for member in list(self.members()):
-            member.delete()
+    def clear(self) -> int:
+        """Deletes all groups and then all members, and returns how many these were.
+
+        Entries must not point at them.
+        """
+        held: list[Group | Member] = [*self.groups(), *self.members()]
+        for one in held:
+            one.delete()
+        return len(held)

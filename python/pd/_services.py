@@ -4,10 +4,11 @@ from __future__ import annotations
 from pd import _core
 from pd._call import Name, call, control, function, get, read_control, walk
 from pd._core import Opaque, Output, Record, SnapshotControl
+from pd._listeners import listen
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
-    from typing import Any, Callable, Iterator, Self
+    from typing import Any, Callable, Iterator, Literal, Self
 
 
 class Hash(Name):
@@ -101,14 +102,18 @@ class Digest(Name):
 
         An exception of the callback is reported to sys.unraisablehook.
         """
-        def learnt(session: int, message: Opaque, _device: int, pipe: int, size: int,
-                   entries: bytes) -> None:
+        program, name, kind = self._program, self.name, self._kind
+
+        def deliver(each: Any, session: int, message: Opaque, _device: int, pipe: int, size: int,
+                    entries: bytes) -> None:
             try:
                 for at in range(0, len(entries), size):
-                    callback(DigestEntry(self._kind._from_bytes(entries[at:at + size]), pipe))
+                    each(DigestEntry(kind._from_bytes(entries[at:at + size]), pipe))
             finally:
-                call(self._program, "digest_notify_ack", self.name, session, message)
-        self._call("digest_register", self.session, self.session, learnt, None)
+                call(program, "digest_notify_ack", name, session, message)
+        if callback is None:
+            raise TypeError("a callback is callable; deregister ends calls")
+        listen(program, name, self.session, "digest_register", callback, deliver)
 
     def listen(self) -> Self:
         """Keeps entries for poll; a context manager that deregisters at its end."""
@@ -122,7 +127,7 @@ class Digest(Name):
         return taken
 
     def deregister(self) -> None:
-        self._call("digest_deregister", self.session, self.session)
+        listen(self._program, self.name, self.session, "digest_register", None, lambda each: None)
 
     def __enter__(self) -> Self:
         return self
@@ -184,6 +189,16 @@ class ValueSet(Name):
             _core.ObjectNotFound)
         return found
 
+    def __iter__(self) -> Iterator[int]:
+        """The handles of its entries in all of ingress."""
+        return self.handles()
+
+    def __len__(self) -> int:
+        return self.count()
+
+    def __bool__(self) -> bool:
+        return True
+
     def count(self, *, direction: int = 0, pipe: int | None = None, parser: int = 255) -> int:
         return int(self._get("pvs_entry_get_count", self.session,
                              self._parser(direction, pipe, parser), 0))
@@ -235,7 +250,7 @@ class Stage:
 class Snapshot:
     """Packet fields captured at a range of stages; a context manager that deletes it."""
 
-    def __init__(self, session: Any, direction: str = "ingress", first_stage: int = 0,
+    def __init__(self, session: Any, direction: Literal["ingress", "egress"] = "ingress", first_stage: int = 0,
                  last_stage: int = 0):
         if direction not in ("ingress", "egress"):
             raise ValueError(f"direction is 'ingress' or 'egress', not {direction!r}")

@@ -2,13 +2,14 @@
 from __future__ import annotations
 
 from pd import _core
-from pd._call import Name, control, read_control
+from pd._call import Name, control, function, read_control
 from pd._core import CounterValues, MeterSpec, Output
+from pd._listeners import checked
 from pd._tables import COLORS, number_of
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
-    from typing import Any, Callable, Iterator
+    from typing import Any, Callable, Iterable, Iterator
 
     from pd._tables import AnyEntry
 
@@ -34,6 +35,8 @@ class _Cells(Name):
             cell += 1
 
     def _sync(self, family: str, callback: Callable[[], object] | None) -> None:
+        checked(callback)
+
         def synchronised(_device: int) -> None:
             if callback is not None:
                 callback()
@@ -47,6 +50,18 @@ class Counter(_Cells):
         """What the cell has counted, brought up to date from the hardware first."""
         values: CounterValues = self._get("counter_read", self.session, self.session,
                                           number_of(cell), int(from_hardware))
+        return values
+
+    def read_all(self, cells: Iterable[int | AnyEntry] | None = None,
+                 from_hardware: bool = True) -> dict[int, CounterValues]:
+        """The same of many cells; None: of the entries of its table, or of the cells in use."""
+        if cells is None:
+            cells = self.used() if self.table is None else self.session.tables[self.table].handles()
+        read, output = function(self._program, "counter_read", self.name), Output()
+        values: dict[int, CounterValues] = {}
+        for cell in map(number_of, cells):
+            _core.check(read(self.session, self.session, cell, from_hardware, output), self.name)
+            values[cell] = output.value
         return values
 
     def write(self, cell: int | AnyEntry, packets: int = 0, bytes: int = 0) -> None:

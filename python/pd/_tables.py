@@ -4,6 +4,8 @@ from __future__ import annotations
 from pd import _core
 from pd._call import call, control, get, read_control, walk
 from pd._core import Entry, Hit, IdleParams, Opaque, Output, Program, TableBase
+from pd._listeners import listen
+from pd._numbers import IdleMode, TableProperty, Update
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
@@ -11,8 +13,6 @@ if TYPE_CHECKING:
 
     AnyEntry = Entry[Any, Any]
 
-CAPACITY = 3  # PIPE_TABLE_CAPACITY
-NOTIFY = 1  # PIPE_IDLE_NOTIFY
 COLORS = ("green", "yellow", "red")
 
 
@@ -59,10 +59,10 @@ class Table(TableBase):
         try:
             return int(self.add(action, **fields))
         except _core.AlreadyExists:
-            ttl = fields.pop("ttl", None) if self.ages_entries else None
-            self.modify(action, **fields)
-            fields.pop("meter", None)
-            entry = int(self.find(**fields))
+            ttl = fields.pop("ttl", None)
+            key = {name: value for name, value in fields.items() if name != "meter"}
+            entry = int(self.find(**key))
+            self.modify(action, entry, meter=fields.get("meter"))
             if ttl is not None:
                 self.set_ttl(entry, ttl)
             return entry
@@ -77,8 +77,29 @@ class Table(TableBase):
             _core.ObjectNotFound)
 
     def __iter__(self) -> Iterator[AnyEntry]:
-        """All entries, as the library reads them."""
-        return (self.get(entry) for entry in self.handles())
+        """All entries, as the library reads them, without those that go meanwhile."""
+        for handle in self.handles():
+            try:
+                entry = self.get(handle)
+            except _core.ObjectNotFound:
+                continue
+            yield entry
+
+    def __contains__(self, entry: object) -> bool:
+        """Whether there is such an entry: a handle, an entry as it was read, or a key.
+
+        A key of a ternary table is a pair, the key and the priority.
+        """
+        try:
+            if isinstance(entry, Entry):
+                return bool(self.get(entry) == entry)
+            if isinstance(entry, int):
+                return self.get(entry).key is not None
+            key, priority = entry if isinstance(entry, tuple) else (entry, None)
+            self.find(key=key, priority=priority)
+        except _core.ObjectNotFound:
+            return False
+        return True
 
     def __len__(self) -> int:
         return int(self._get("get_entry_count", self.session, self.session))
@@ -125,7 +146,7 @@ class Table(TableBase):
     def enable_ageing(self, *, sweep_interval: int = 1000, max_ttl: int = 0, min_ttl: int = 0,
                       default_ttl: int = 0, poll: bool = False) -> None:
         """Entries age; all in milliseconds. With poll nobody is called, and states are read."""
-        params = IdleParams((0 if poll else NOTIFY, sweep_interval, max_ttl, min_ttl, default_ttl,
+        params = IdleParams((IdleMode.POLL if poll else IdleMode.NOTIFY, sweep_interval, max_ttl, min_ttl, default_ttl,
                              0))
         self._call("idle_tmo_enable", self.session, self.session, params)
 
@@ -138,24 +159,18 @@ class Table(TableBase):
 
     def on_expiry(self, callback: Callable[[int], object] | None) -> None:
         """Has the callback called with the handle of each entry that expires; None: nobody."""
-        def expired(_device: int, _table: int, entry: int) -> None:
-            if callback is not None:
-                callback(entry)
-        self._call("idle_register_tmo_cb", self.session, self.session,
-                   expired if callback else None, None)
+        listen(self._program, self.name, self.session, "idle_register_tmo_cb", callback,
+               lambda each, _device, _table, entry: each(entry))
 
     # ---- The table as a whole ----
 
-    def on_update(self, callback: Callable[[int, int], object] | None) -> None:
-        """Has the callback called with update (PIPE_UPDATE_*) and entry after each change."""
-        def updated(_session: int, _device: int, _table: int, update: int, entry: int) -> None:
-            if callback is not None:
-                callback(update, entry)
-        self._call("register_mat_update_cb", self.session, self.session,
-                   updated if callback else None, None)
+    def on_update(self, callback: Callable[[Update, int], object] | None) -> None:
+        """Has the callback called with what was done and the entry after each change; None: nobody."""
+        listen(self._program, self.name, self.session, "register_mat_update_cb", callback,
+               lambda each, _session, _device, _table, update, entry: each(Update(update), entry))
 
     def property(self, number: int) -> tuple[int, int]:
-        """Value and argument of a property (PIPE_TABLE_*)."""
+        """Value and argument of a TableProperty."""
         value, argument = Output(), Output()
         self._call("get_property", self.session, self.session, number, value, argument)
         return value.value, argument.value
@@ -165,10 +180,10 @@ class Table(TableBase):
 
     def capacity(self) -> int:
         """How many entries the table may have; 0: any number."""
-        return self.property(CAPACITY)[0]
+        return self.property(TableProperty.CAPACITY)[0]
 
     def set_capacity(self, capacity: int) -> None:
-        self.set_property(CAPACITY, capacity)
+        self.set_property(TableProperty.CAPACITY, capacity)
 
     def schema(self) -> str:
         output = Output()
@@ -209,8 +224,16 @@ class Table(TableBase):
 
     # ---- Packets ----
 
+    def _held(self, kind: str, handle: int) -> Any:
+        """A member or a group of the table's profile."""
+        assert self.profile is not None
+        return getattr(self.session.profiles[self.profile], kind)(handle)
+
     def lookup(self, *, pipe: int | None = None, **fields: Any) -> AnyEntry | None:
-        """The entry that a packet hits, or the default entry, or None. Nothing is counted."""
+        """The entry that a packet hits, or the default entry, or None. Nothing is counted.
+
+        A packet has one value in each field, and 0 in those that are left out.
+        """
         key = self.packet_key(**fields)
         entry, is_default = Output(), Output()
         try:
@@ -222,18 +245,22 @@ class Table(TableBase):
         return found
 
     def traffic(self, *, packets: int = 1, bytes: int | None = None, hash: bytes | int = b"",
-                pipe: int | None = None, **fields: Any) -> Hit:
+                pipe: int | None = None, **fields: Any) -> Hit | None:
         """Sends packets of 64 bytes, or of so many bytes in all, through the table.
 
-        The hash chooses members of groups. TableMiss: there is neither a hit nor a default entry.
+        The hash chooses members of groups. None: there is neither a hit nor a default entry.
         """
         key = self.packet_key(**fields)
         bits = hash.to_bytes(8, "big") if isinstance(hash, int) else hash
-        hit = read_control("traffic_hit", self.session.device_id, self._pipe(pipe), self.handle,
-                           key, len(key), bits, len(bits), packets,
-                           64 * packets if bytes is None else bytes)
+        try:
+            hit = read_control("traffic_hit", self.session.device_id, self._pipe(pipe), self.handle,
+                               key, len(key), bits, len(bits), packets,
+                               64 * packets if bytes is None else bytes)
+        except _core.TableMiss:
+            return None
         return Hit((hit.entry, bool(hit.is_default), self._program.action_name(hit.action),
-                    hit.group or None, hit.member or None, COLORS[hit.color]))
+                    self._held("group", hit.group) if hit.group else None,
+                    self._held("member", hit.member) if hit.member else None, COLORS[hit.color]))
 
     def memory(self) -> int:
         """Bytes that the soft device holds for the table."""

@@ -1,6 +1,7 @@
 """What users of a program's package rely on: errors, sessions, bulk calls, callbacks, threads."""
 import array
 import gc
+import importlib
 import ipaddress
 import subprocess
 import sys
@@ -123,6 +124,59 @@ def test_closed_sessions_and_devices(device, routes):
         device.now()
 
 
+def test_sessions_are_of_one_program(session, routes):
+    routes.add(setNextHop(nextHop=1), vrfId=0, dip=0)
+    other = importlib.import_module("gateway")
+    with ts.Device(1) as second:
+        for call in (lambda: other.Session(0), lambda: pd.Session(0), lambda: pd.Device()):
+            with pytest.raises((ValueError, TypeError), match="runs tessel_switch|no program"):
+                call()
+        elsewhere = other.Session(2)
+        with pytest.raises(ValueError, match="device 1 runs tessel_switch.*of gateway"):
+            elsewhere.on(second)
+    # A device may come after the session.
+    with ts.Device(2), pytest.raises(ValueError, match="device 2 runs tessel_switch"):
+        next(iter(elsewhere.tables)).clear()
+    assert len(routes) == 1
+
+    class Named(ts.Session):
+        def __init__(self, name, device):
+            super().__init__(device)
+            self.label = name
+    with Named("north", 0) as named:
+        assert named.on(pipe=1).label == "north" and named.on(pipe=1).pipe == 1
+        assert len(named.on(pipe=1).tables.ipv4ShortMaskLpm) == 1
+
+
+def test_namespaces_are_mappings_that_stay(session):
+    tables = session.tables
+    assert dict(tables)["ecmpGroup"] is tables.ecmpGroup and list(tables.keys())[0] in tables
+    assert repr(tables) == f"<{len(tables)} tables of tessel_switch>"
+    with pytest.raises(AttributeError, match="those of the program"):
+        tables.ecmpGroup = 5
+    with pytest.raises(AttributeError, match="did you mean tables"):
+        session.tabels
+
+
+def test_groups_are_whole(session, faults):
+    members = session.profiles.ecmpMemberActionProfile
+    one, two = (members.add(setEcmpNextHop(nextHop=n)) for n in (1, 2))
+    faults.fail_call("pipe_mgr_sel_grp_mbr_add", pd.errors.TableFull, n=2)
+    with pytest.raises(pd.errors.TableFull):
+        members.create_group(one, two)
+    assert members.group_count() == 0
+
+
+def test_packets_have_one_value(session, routes):
+    for wrong in ("10.0.0.0/8", "*", (1, 32), ipaddress.ip_network("10.0.0.0/8")):
+        with pytest.raises((TypeError, ValueError), match="dip"):
+            routes.lookup(vrfId=0, dip=wrong)
+    assert routes.lookup(vrfId=0, dip=ipaddress.ip_address("10.0.0.1")).key is None
+    # Nothing is hit, and there is no default entry.
+    assert session.tables.ecmpGroup.lookup(ecmpGroup=1) is None
+    assert session.tables.ecmpGroup.traffic(ecmpGroup=1) is None
+
+
 def test_bulk_adds_all_or_nothing(session, routes):
     rows = [("10.0.0.0/8", 1), ("11.0.0.0/8", 2), ("12.0.0.0/8", 3)]
     handles = routes.add_rows(setNextHop, rows, vrfId=1)
@@ -219,6 +273,26 @@ def test_callbacks_and_time(device, session, routes):
     routes.on_update(lambda update, entry: seen.append((update, len(routes))))
     routes.add(setNextHop(nextHop=1), vrfId=0, dip=0)
     assert seen == [(0, 1)]
+
+
+def test_every_session_has_its_callbacks(device, session, routes):
+    """One does not replace that of another, and they end with the session."""
+    digest, first, second = session.digests.macLearningDigest, [], []
+    fields = {label + "_": 1 for label, *_ in ts.digests.macLearningDigest._describe()}
+    with device.session() as other:
+        for one, seen in ((other, first), (session, second)):
+            one.tables.ipv4ShortMaskLpm.on_update(lambda *update, seen=seen: seen.append(update))
+            one.digests.macLearningDigest.register(seen.append)
+        entry = routes.add(setNextHop(nextHop=1), vrfId=0, dip=0)
+        assert first == second == [(pd.Update.ADD, entry)]
+        assert digest.inject(**fields) and len(first) == len(second) == 2
+    routes.delete(entry)
+    fields = dict.fromkeys(fields, 0)
+    assert digest.inject(**fields) and len(first) == 2 and len(second) == 4
+    assert digest.pending() == (0, 0)
+    digest.deregister()
+    with pytest.raises(TypeError, match="callable"):
+        routes.on_update(5)
 
 
 def test_threads_share_a_session(session, routes):

@@ -59,9 +59,13 @@ def test_every_keyed_table(package, session):
             read = table.get(entry)
             assert read.key == key(**fields) and read.handle == entry, table.name
             assert read.priority == (7 if table.is_ternary else None)
-            assert (read.action if table.profile is None else read.member or read.group) == (
-                outcome if table.profile is None else outcome.handle), table.name
+            assert (read.action or read.member or read.group) == outcome, table.name
+            assert entry in table and read in table and (read.key, read.priority) in table
+            assert table.get(key=read.key, priority=read.priority) == read, table.name
             # What is read is taken again.
+            table.modify(read.action or read.member or read.group, key=read.key,
+                         priority=read.priority)
+            assert table.get(entry) == read, table.name
             assert key(**{name + "_": value for name, value in read.key._asdict().items()}) \
                 == read.key, table.name
             assert table.find(key=read.key, **rest) == entry == table.find(**fields, **rest)
@@ -78,6 +82,8 @@ def test_every_keyed_table(package, session):
             assert table.has_placement(table.placement(entry), entry)
             assert isinstance(table.label(entry), str)
             table.delete(entry)
+            assert entry not in table and read not in table
+            assert (read.key, read.priority) not in table
             with pytest.raises(pd.errors.ObjectNotFound):
                 table.find(**fields, **rest)
         rows = [dict(fields_of(key, rng), **rest)]
@@ -106,8 +112,7 @@ def test_every_table_as_a_whole(package, session):
                 continue
             read = table.default_entry()
             assert read.handle == entry and read.key is None and updates[-1] == (3, entry)
-            assert (read.action if table.profile is None else read.member or read.group) == (
-                outcome if table.profile is None else outcome.handle), table.name
+            assert (read.action or read.member or read.group) == outcome, table.name
         table.reset_default()
         after = table.default_entry()
         assert (before is None) == (after is None)
@@ -140,9 +145,9 @@ def test_every_profile(package, session):
             assert profile.fallback() is None
             assert profile.active_members() == []
             group.remove(member)
-            assert list(profile.groups()) == [group] and list(profile.members()) == [member]
-            assert (profile.member_count(), profile.group_count()) == (1, 1)
-            profile.clear()
+            assert list(profile.groups()) == [group] and list(profile) == [member]
+            assert (len(profile), profile.group_count()) == (1, 1)
+            assert profile.clear() == 2
 
 
 def test_every_cell(session):
@@ -151,7 +156,7 @@ def test_every_cell(session):
             counter.count(5, packets=2, bytes=100, pipe=0)
             assert counter.read(5) == (2, 100) and list(counter.used()) == [5]
             counter.write(5, 7, 8)
-            assert counter.read(5) == (7, 8)
+            assert counter.read(5) == (7, 8) and counter.read_all() == {5: (7, 8)}
         done = []
         counter.synchronise(lambda: done.append(1))
         assert done == [1]
@@ -205,7 +210,7 @@ def test_every_service(package, session):
         assert values.get(entry) == (5, 0xffffffff) and values.find(5) == entry
         assert values.match(5) == entry and values.match(6) is None
         values.modify(entry, 6)
-        assert list(values.handles()) == [entry] and values.count() == 1
+        assert list(values) == [entry] and len(values) == 1
         assert values.parsers(entry).parser == 255
         values.set_capacity(1)
         assert values.capacity() == 1

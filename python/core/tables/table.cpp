@@ -37,14 +37,24 @@ size_t option_of(PyObject *name) {
 class EntryArguments {
  public:
   EntryArguments(TableObject &table, const char *method, PyObject *const *values, Py_ssize_t count,
-                 PyObject *names, std::initializer_list<Option> taken)
-      : table_(table), method_(method), filler_(table.kind->key()) {
+                 PyObject *names, std::initializer_list<Option> taken,
+                 Values values_taken = Values::any)
+      : table_(table), method_(method), filler_(table.kind->key(), values_taken) {
     for (const Option option : taken) taken_ |= 1u << option;
     const Py_ssize_t named = names == nullptr ? 0 : PyTuple_Size(names);
     for (Py_ssize_t i = 0; i < named; ++i) read(PyTuple_GetItem(names, i), values[count + i]);
   }
 
-  const std::optional<uint32_t> &entry() const { return entry_; }
+  // The entry that is given as the argument at that place or as entry=; none: a key is given.
+  const std::optional<uint32_t> &entry(PyObject *const *arguments, Py_ssize_t count,
+                                       Py_ssize_t at) {
+    if (count > at + 1) raise(PyExc_TypeError, context() + " takes one entry or a key");
+    if ((count > at || entry_) && (has_key() || priority_ || (count > at && entry_))) {
+      raise(PyExc_TypeError, context() + ": give an entry or a key, not both");
+    }
+    if (count > at) entry_ = read_handle(arguments[at], "entry");
+    return entry_;
+  }
   bool from_hardware() const { return from_hardware_; }
   bool has_key() const { return key_ != nullptr || filler_.any_given(); }
 
@@ -58,10 +68,9 @@ class EntryArguments {
     filler_.finish();
     return filler_.data();
   }
-  // What packets carry of it: priority and masks do not matter.
   const uint8_t *fields() {
     filler_.finish();
-    return key_ != nullptr ? key_ : filler_.data();
+    return filler_.data();
   }
   void fill_key(PlannedCall &call) {
     call.set(Slot::match_spec, key());
@@ -87,6 +96,8 @@ class EntryArguments {
   }
   void read_option(Option option, PyObject *value) {
     const TableKind &kind = *table_.kind;
+    // As what is read of an entry without it.
+    if (value == Py_None && option <= kMeter) return;
     if (option == kPriority) {
       if (!kind.ternary()) raise(PyExc_TypeError, context() + ": the table has no priorities");
       priority_ = static_cast<uint32_t>(unsigned_of(value, 4, "priority"));
@@ -96,7 +107,7 @@ class EntryArguments {
       }
       ttl_ = static_cast<uint32_t>(unsigned_of(value, 4, "ttl"));
     } else if (option == kMeter) {
-      if (value != Py_None) meter_ = read_meter(value);
+      meter_ = read_meter(value);
     } else if (option == kEntry) {
       entry_ = read_handle(value, "entry");
     } else if (option == kKey) {
@@ -166,9 +177,10 @@ PyObject *modify(PyObject *self, PyObject *const *arguments, Py_ssize_t count, P
     TableObject &table = as_table(self);
     EntryArguments given(table, "modify", arguments, count, names,
                          {kPriority, kMeter, kKey, kEntry});
-    const Outcome outcome =
-        table.kind->outcome_of(only(arguments, count, given.context(), "what the entry does"));
-    const bool by_key = !given.entry();
+    const std::optional<uint32_t> entry = given.entry(arguments, count, 1);
+    const Outcome outcome = table.kind->outcome_of(
+        only(arguments, std::min<Py_ssize_t>(count, 1), given.context(), "what the entry does"));
+    const bool by_key = !entry;
     const char *family =
         by_key ? family_of(outcome, "table_modify_by_match_spec", "modify_entry_by_match_spec",
                            "modify_entry_with_selector_by_match_spec")
@@ -176,10 +188,8 @@ PyObject *modify(PyObject *self, PyObject *const *arguments, Py_ssize_t count, P
     PlannedCall call(table.kind->plan(family, &outcome), open_session(table.session));
     if (by_key) {
       given.fill_key(call);
-    } else if (given.has_key()) {
-      raise(PyExc_TypeError, given.context() + ": give entry= or a key, not both");
     } else {
-      call.set(Slot::entry, *given.entry());
+      call.set(Slot::entry, *entry);
     }
     given.fill_rest(call);
     set_outcome(call, outcome);
@@ -192,20 +202,26 @@ PyObject *remove(PyObject *self, PyObject *const *arguments, Py_ssize_t count, P
   return guarded([&] {
     TableObject &table = as_table(self);
     EntryArguments given(table, "delete", arguments, count, names, {kPriority, kKey, kEntry});
-    if (count > 1) raise(PyExc_TypeError, given.context() + " takes one entry or a key");
-    const bool by_key = count == 0 && !given.entry();
-    PlannedCall call(table.kind->plan(by_key ? "table_delete_by_match_spec" : "table_delete"),
+    const std::optional<uint32_t> entry = given.entry(arguments, count, 0);
+    PlannedCall call(table.kind->plan(entry ? "table_delete" : "table_delete_by_match_spec"),
                      open_session(table.session));
-    if (by_key) {
-      given.fill_key(call);
-    } else if (given.has_key() || (count == 1 && given.entry())) {
-      raise(PyExc_TypeError, given.context() + ": give an entry or a key, not both");
+    if (entry) {
+      call.set(Slot::entry, *entry);
     } else {
-      call.set(Slot::entry, count == 1 ? read_handle(arguments[0], "entry") : *given.entry());
+      given.fill_key(call);
     }
     if (const uint32_t status = call.run_unlocked()) raise_status(status, given.context());
     return none();
   });
+}
+
+uint32_t find_entry(const TableObject &table, EntryArguments &given) {
+  PlannedCall call(table.kind->plan("match_spec_to_entry_hdl"), open_session(table.session));
+  given.fill_key(call);
+  p4_pd_entry_handle_t entry = 0;
+  call.set(Slot::entry, &entry);
+  if (const uint32_t status = call.run_unlocked()) raise_status(status, given.context());
+  return entry;
 }
 
 PyObject *find(PyObject *self, PyObject *const *arguments, Py_ssize_t count, PyObject *names) {
@@ -213,12 +229,7 @@ PyObject *find(PyObject *self, PyObject *const *arguments, Py_ssize_t count, PyO
     TableObject &table = as_table(self);
     EntryArguments given(table, "find", arguments, count, names, {kPriority, kKey});
     if (count != 0) raise(PyExc_TypeError, given.context() + " takes keyword arguments alone");
-    PlannedCall call(table.kind->plan("match_spec_to_entry_hdl"), open_session(table.session));
-    given.fill_key(call);
-    p4_pd_entry_handle_t entry = 0;
-    call.set(Slot::entry, &entry);
-    if (const uint32_t status = call.run_unlocked()) raise_status(status, given.context());
-    return checked(PyLong_FromUnsignedLong(entry));
+    return checked(PyLong_FromUnsignedLong(find_entry(table, given)));
   });
 }
 
@@ -246,11 +257,13 @@ PyObject *set_default(PyObject *self, PyObject *const *arguments, Py_ssize_t cou
 // An entry as the library reads it back.
 class EntryReader {
  public:
-  EntryReader(TableKind &kind, const SessionObject &session)
-      : kind_(kind),
-        key_(kind.key().record->size + 1),
-        parameters_(kind.program().binding().sizes.action_specs),
-        call_(kind.plan(kind.indirect() ? "get_indirect_entry" : "get_entry"), session) {
+  explicit EntryReader(PyObject *table)
+      : table_(table),
+        kind_(*as_table(table).kind),
+        key_(kind_.key().record->size + 1),
+        parameters_(kind_.program().binding().sizes.action_specs),
+        call_(kind_.plan(kind_.indirect() ? "get_indirect_entry" : "get_entry"),
+              open_session(as_table(table).session)) {
     call_.set(Slot::match_spec, key_.data());
     call_.set(Slot::priority, &priority_);
     call_.set(Slot::action_spec, parameters_.data());
@@ -277,8 +290,8 @@ class EntryReader {
     put(has_key ? make_record(kind_.key(), key_.data()) : none());
     put(has_key && kind_.ternary() ? PyLong_FromUnsignedLong(priority_) : none());
     put(kind_.indirect() ? none() : action());
-    put(has_member_ ? PyLong_FromUnsignedLong(member_) : none());
-    put(has_group_ ? PyLong_FromUnsignedLong(group_) : none());
+    put(has_member_ ? held("member", member_) : none());
+    put(has_group_ ? held("group", group_) : none());
     return made.release();
   }
 
@@ -292,6 +305,12 @@ class EntryReader {
     return none();
   }
 
+  // A member or a group of the table's profile.
+  PyObject *held(const char *kind, uint32_t handle) {
+    return PyObject_CallMethod(table_, "_held", "sI", kind, unsigned{handle});
+  }
+
+  PyObject *table_;
   TableKind &kind_;
   std::vector<uint8_t> key_;
   std::vector<uint8_t> parameters_;
@@ -303,20 +322,21 @@ class EntryReader {
 PyObject *get(PyObject *self, PyObject *const *arguments, Py_ssize_t count, PyObject *names) {
   return guarded([&] {
     TableObject &table = as_table(self);
-    EntryArguments given(table, "get", arguments, count, names, {kFromHardware});
-    const uint32_t entry =
-        read_handle(only(arguments, count, given.context(), "an entry"), "entry");
-    EntryReader reader(*table.kind, open_session(table.session));
-    return reader.read(entry, given.from_hardware(), given.context());
+    EntryArguments given(table, "get", arguments, count, names,
+                         {kPriority, kKey, kEntry, kFromHardware});
+    std::optional<uint32_t> entry = given.entry(arguments, count, 0);
+    if (!entry) entry = find_entry(table, given);
+    EntryReader reader(self);
+    return reader.read(*entry, given.from_hardware(), given.context());
   });
 }
 
-// The key as packets carry it; the values of the fields count, whatever their masks.
+// The key as packets carry it, with one value for each field.
 PyObject *packet_key(PyObject *self, PyObject *const *arguments, Py_ssize_t count,
                      PyObject *names) {
   return guarded([&] {
     const TableObject &table = as_table(self);
-    EntryArguments given(as_table(self), "packet_key", arguments, count, names, {kKey});
+    EntryArguments given(as_table(self), "packet_key", arguments, count, names, {}, Values::one);
     const tesselctl::TableInfo info = {table.kind->key().record, &table.kind->description()};
     const std::vector<uint8_t> key = tesselctl::packet_key(info, given.fields());
     return checked(PyBytes_FromStringAndSize(reinterpret_cast<const char *>(key.data()),
