@@ -22,6 +22,11 @@ BREAKS = [
     ("include/p4_pd_types.h", "COLOR_AWARE = 0", "COLOR_AWARE = 7", "AWARE' from value '0' to '7'"),
     ("include/p4_pd_tessel_switch.h", "switch_onMiss = 7", "switch_onMiss = 6",
      "p4_pd_tessel_switch_onMiss' from value '7' to '6'"),
+    ("include/p4_pd_types.h", "  uint64_t packets;", "  uint64_t frames;", "p4_pd_counter_values.packets'"),
+    ("include/p4_pd_tessel_switch.h", "} p4_pd_tessel_switch_snapshot_egress_trigger_t;", "} egress_trigger_t;",
+     "[D] 'p4_pd_tessel_switch_snapshot_egress_trigger_t* type_"),
+    ("include/p4_pd_types.h", "inline p4_pd_status_info_t p4_pd_describe_status(",
+     "inline p4_pd_status_info_t p4_pd_explain_status(", "p4_pd_describe_status(p4_pd_status_t)'"),
 ]
 # Additions break nobody.
 ADDED = ("include/p4_pd_types.h", "#define P4_PD_NO_MEMORY 2u\n",
