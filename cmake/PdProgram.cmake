@@ -139,9 +139,10 @@ macro(pd_add_library)
     PUBLIC $<BUILD_INTERFACE:${arg_HEADER_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
     PRIVATE ${dir} ${root}/src/pd ${root}/src/introspection ${CJSON_INCLUDE_DIR})
   # A C host loads the library: no C++ run time, nothing visible but the exports. Compilers gather
-  # stores of single bytes into vectors at more cost than storing them.
+  # stores of single bytes into vectors at more cost than storing them. Calls copy typed structures of
+  # known size and format into bounded buffers, so no stack needs the guard that distributions ask for.
   target_compile_options(pd_${program} PRIVATE -fno-exceptions -fno-rtti -fno-threadsafe-statics
-    -fvisibility=hidden -fno-semantic-interposition -fno-tree-slp-vectorize)
+    -fvisibility=hidden -fno-semantic-interposition -fno-tree-slp-vectorize -fno-stack-protector)
   target_link_options(pd_${program} PRIVATE -Wl,--version-script=${dir}/exports.map
     -Wl,-Bsymbolic-functions)
   target_link_libraries(pd_${program} PUBLIC $<BUILD_INTERFACE:pd_sdk::pd_sdk>
