@@ -8,7 +8,7 @@ namespace tesselctl {
 
 namespace {
 
-// Text that means nothing to the formatter.
+// Text that means nothing to the formatter, which may break lines between alternatives.
 std::string plain(std::string_view text) {
   std::string escaped;
   for (const char c : text) {
@@ -18,6 +18,8 @@ std::string plain(std::string_view text) {
       escaped += "\\-";
     } else if (c == '\'') {
       escaped += "\\(aq";
+    } else if (c == '|') {
+      escaped += "|\\:";
     } else {
       escaped += c;
     }
