@@ -58,7 +58,7 @@ bool may_be_undefined(const std::string &name, const Names &sdk) {
                              "strcasecmp", "__errno_location"};
   // What the linker's start files ask for in every shared object.
   static const Names linker = {"_ITM_deregisterTMCloneTable", "_ITM_registerTMCloneTable",
-                               "__cxa_finalize", "__gmon_start__", "__stack_chk_fail"};
+                               "__cxa_finalize", "__gmon_start__"};
   return sdk.contains(name) || name.starts_with("cJSON_") || libc.contains(name) ||
          linker.contains(name);
 }
