@@ -1,4 +1,4 @@
-"""A control-plane function and its test on the soft SDK: `pytest -p pd.pytest_plugin test_routes.py`"""
+"""A control-plane function and its test on the soft SDK: `pytest test_routes.py`"""
 import pytest
 
 import pd

@@ -1,7 +1,7 @@
 """Fixtures for tests of a control plane on the soft SDK.
 
-`pytest_plugins = ["pd.pytest_plugin"]` in conftest.py has pytest use them, and `pd_program` in
-pytest's configuration names the program, unless a fixture `program` of the tests returns its package.
+pytest finds them by itself. `pd_program` in its configuration names the program, unless a fixture
+`program` of the tests returns its package.
 """
 from __future__ import annotations
 
