@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "python/core/callback.hpp"
+#include "python/core/structure.hpp"
 #include "soft_journal.hpp"
 
 namespace python {
@@ -16,7 +17,7 @@ using soft::journal::Argument;
 using soft::journal::Bytes;
 using soft::journal::Call;
 
-PyTypeObject *call_type = nullptr;
+PyObject *call_type = nullptr;
 
 PyObject *bytes_of(const Bytes &bytes) {
   return checked(PyBytes_FromStringAndSize(reinterpret_cast<const char *>(bytes.data()),
@@ -120,18 +121,10 @@ PyObject *named(const std::vector<Argument> &arguments) {
 }
 
 PyObject *to_python(const Call &call) {
-  Ref made(PyStructSequence_New(call_type));
-  Py_ssize_t at = 0;
-  const auto add = [&](PyObject *value) {
-    PyStructSequence_SetItem(made.get(), at++, checked(value));
-  };
-  add(text(call.function));
-  add(named(call.arguments));
-  add(named(call.results));
-  add(PyLong_FromUnsignedLong(call.status));
-  add(PyBool_FromLong(call.performed ? 1 : 0));
-  add(PyLong_FromUnsignedLongLong(call.number));
-  return made.release();
+  const Ref values(Py_BuildValue(
+      "(NNNINK)", text(call.function), named(call.arguments), named(call.results), call.status,
+      PyBool_FromLong(call.performed ? 1 : 0), static_cast<unsigned long long>(call.number)));
+  return make_named(call_type, values);
 }
 
 PyObject *calls(PyObject * /*module*/, PyObject *arguments) {
@@ -152,13 +145,9 @@ PyMethodDef functions[] = {{"journal_calls", calls, METH_VARARGS, "The calls of 
 }  // namespace
 
 void add_journal(PyObject *module) {
-  PyStructSequence_Field fields[] = {
-      {"function", nullptr},  {"arguments", nullptr}, {"results", nullptr}, {"status", nullptr},
-      {"performed", nullptr}, {"number", nullptr},    {nullptr, nullptr}};
-  PyStructSequence_Desc description = {"pd.JournalCall", "A call of the SDK.", fields, 6};
-  call_type = PyStructSequence_NewType(&description);
-  PyObject *type = checked(reinterpret_cast<PyObject *>(call_type));
-  check(PyModule_AddObjectRef(module, "JournalCall", type));
+  constexpr const char *kFields[] = {"function", "arguments", "results",
+                                     "status",   "performed", "number"};
+  call_type = add_named_tuple(module, "JournalCall", "A call of the SDK.", kFields);
   check(PyModule_AddFunctions(module, functions));
 }
 

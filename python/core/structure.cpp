@@ -19,6 +19,8 @@ namespace {
   { #member, offsetof(type, member), sizeof(type::member) }
 #define REAL(type, member) \
   { #member, offsetof(type, member), sizeof(type::member), true }
+#define USUAL(type, member, value) \
+  { #member, offsetof(type, member), sizeof(type::member), false, true, value }
 
 constexpr StructureField kTarget[] = {FIELD(p4_pd_device_target_t, device_id),
                                       FIELD(p4_pd_device_target_t, pipe_id)};
@@ -31,13 +33,14 @@ constexpr StructureField kCounter[] = {FIELD(p4_pd_counter_values_t, packets),
 constexpr StructureField kMeter[] = {
     FIELD(p4_pd_bytes_meter_spec_t, committed_rate),
     FIELD(p4_pd_bytes_meter_spec_t, committed_burst), FIELD(p4_pd_bytes_meter_spec_t, peak_rate),
-    FIELD(p4_pd_bytes_meter_spec_t, peak_burst), FIELD(p4_pd_bytes_meter_spec_t, meter_type)};
+    FIELD(p4_pd_bytes_meter_spec_t, peak_burst),
+    USUAL(p4_pd_bytes_meter_spec_t, meter_type, PD_METER_TYPE_COLOR_UNAWARE)};
 constexpr StructureField kIdle[] = {FIELD(p4_pd_idle_time_params_t, mode),
                                     FIELD(p4_pd_idle_time_params_t, sweep_interval_ms),
                                     FIELD(p4_pd_idle_time_params_t, max_ttl_ms),
                                     FIELD(p4_pd_idle_time_params_t, min_ttl_ms),
                                     FIELD(p4_pd_idle_time_params_t, default_ttl_ms),
-                                    FIELD(p4_pd_idle_time_params_t, reserved)};
+                                    USUAL(p4_pd_idle_time_params_t, reserved, 0)};
 constexpr StructureField kWred[] = {
     REAL(p4_pd_wred_params_t, time_constant_ns), FIELD(p4_pd_wred_params_t, min_threshold_cells),
     FIELD(p4_pd_wred_params_t, max_threshold_cells), REAL(p4_pd_wred_params_t, max_probability)};
@@ -49,7 +52,7 @@ constexpr StructureField kAttribute[] = {FIELD(p4_pd_hash_calc_attr_t, field),
                                          FIELD(p4_pd_hash_calc_attr_t, value)};
 constexpr StructureField kNamedAttribute[] = {FIELD(p4_pd_hash_field_attr_t, field),
                                               FIELD(p4_pd_hash_field_attr_t, value),
-                                              FIELD(p4_pd_hash_field_attr_t, reserved)};
+                                              USUAL(p4_pd_hash_field_attr_t, reserved, 0)};
 constexpr StructureField kHit[] = {FIELD(soft_hit_t, entry),  FIELD(soft_hit_t, is_default),
                                    FIELD(soft_hit_t, action), FIELD(soft_hit_t, group),
                                    FIELD(soft_hit_t, member), FIELD(soft_hit_t, color)};
@@ -58,6 +61,7 @@ constexpr StructureField kParsers[] = {FIELD(soft_parsers_t, direction),
 
 #undef FIELD
 #undef REAL
+#undef USUAL
 
 constexpr Structure kStructures[] = {
     {"p4_pd_device_target_t", "Target", "A device and one of its pipes, or all.",
@@ -84,19 +88,17 @@ constexpr Structure kStructures[] = {
     {"soft_parsers_t", "Parsers", "The parsers that a value is in.", sizeof(soft_parsers_t),
      kParsers}};
 
-PyTypeObject *types[std::size(kStructures)] = {};
+PyObject *types[std::size(kStructures)] = {};
 
-void add_structure(PyObject *module, size_t at) {
-  const Structure &structure = kStructures[at];
-  std::vector<PyStructSequence_Field> fields;
-  for (const StructureField &field : structure.fields) fields.push_back({field.name, nullptr});
-  fields.push_back({nullptr, nullptr});
-  const std::string name = std::string("pd.") + structure.name;
-  PyStructSequence_Desc description = {name.c_str(), structure.note, fields.data(),
-                                       static_cast<int>(structure.fields.size())};
-  types[at] = PyStructSequence_NewType(&description);
-  PyObject *type = checked(reinterpret_cast<PyObject *>(types[at]));
-  check(PyModule_AddObjectRef(module, structure.name, type));
+PyObject *add_structure(PyObject *module, const Structure &structure) {
+  std::vector<const char *> names;
+  const Ref usual(PyList_New(0));
+  for (const StructureField &field : structure.fields) {
+    names.push_back(field.name);
+    if (!field.may_lack) continue;
+    check(PyList_Append(usual.get(), Ref(PyLong_FromUnsignedLong(field.usual)).get()));
+  }
+  return add_named_tuple(module, structure.name, structure.note, names, usual);
 }
 
 PyObject *number_at(const StructureField &field, const uint8_t *bytes) {
@@ -112,14 +114,31 @@ PyObject *number_at(const StructureField &field, const uint8_t *bytes) {
 
 }  // namespace
 
+PyObject *add_named_tuple(PyObject *module, const char *name, const char *note,
+                          std::span<const char *const> fields, Ref defaults) {
+  const Ref names(PyList_New(0));
+  for (const char *field : fields) check(PyList_Append(names.get(), Ref(text(field)).get()));
+  const Ref collections(PyImport_ImportModule("collections"));
+  const Ref make(PyObject_GetAttrString(collections.get(), "namedtuple"));
+  const Ref arguments(Py_BuildValue("(sO)", name, names.get()));
+  const Ref keywords(Py_BuildValue("{ss}", "module", "pd"));
+  if (defaults) check(PyDict_SetItemString(keywords.get(), "defaults", defaults.get()));
+  Ref type(PyObject_Call(make.get(), arguments.get(), keywords.get()));
+  check(PyObject_SetAttrString(type.get(), "__doc__", Ref(text(note)).get()));
+  check(PyModule_AddObjectRef(module, name, type.get()));
+  return type.release();
+}
+
+PyObject *make_named(PyObject *type, const Ref &values) {
+  static const auto make = reinterpret_cast<newfunc>(PyType_GetSlot(&PyTuple_Type, Py_tp_new));
+  const Ref arguments(PyTuple_Pack(1, values.get()));
+  return checked(make(reinterpret_cast<PyTypeObject *>(type), arguments.get(), nullptr));
+}
+
 void add_structures(PyObject *module) {
   for (size_t i = 0; i < std::size(kStructures); ++i) {
     const bool is_again = i > 0 && std::string_view(kStructures[i].name) == kStructures[i - 1].name;
-    if (is_again) {
-      types[i] = types[i - 1];
-    } else {
-      add_structure(module, i);
-    }
+    types[i] = is_again ? types[i - 1] : add_structure(module, kStructures[i]);
   }
 }
 
@@ -131,13 +150,13 @@ const Structure *find_structure(std::string_view type) {
 }
 
 PyObject *from_structure(const Structure &structure, const void *bytes) {
-  Ref made(PyStructSequence_New(types[&structure - kStructures]));
+  const Ref values(PyTuple_New(static_cast<Py_ssize_t>(structure.fields.size())));
   for (size_t i = 0; i < structure.fields.size(); ++i) {
     const StructureField &field = structure.fields[i];
-    PyStructSequence_SetItem(made.get(), static_cast<Py_ssize_t>(i),
-                             number_at(field, static_cast<const uint8_t *>(bytes) + field.offset));
+    check(PyTuple_SetItem(values.get(), static_cast<Py_ssize_t>(i),
+                          number_at(field, static_cast<const uint8_t *>(bytes) + field.offset)));
   }
-  return made.release();
+  return make_named(types[&structure - kStructures], values);
 }
 
 uint64_t unsigned_of(PyObject *object, size_t bytes, std::string_view what) {
@@ -154,16 +173,20 @@ uint64_t unsigned_of(PyObject *object, size_t bytes, std::string_view what) {
 }
 
 void to_structure(const Structure &structure, PyObject *object, void *bytes) {
-  if (!PySequence_Check(object) ||
-      PySequence_Size(object) != static_cast<Py_ssize_t>(structure.fields.size())) {
+  const auto most = static_cast<Py_ssize_t>(structure.fields.size());
+  const auto least = most - std::ranges::count_if(structure.fields, &StructureField::may_lack);
+  const Py_ssize_t given = PySequence_Check(object) != 0 ? PySequence_Size(object) : -1;
+  if (given < least || given > most) {
     PyErr_Clear();
     raise(PyExc_TypeError,
           fmt::format("{} is a sequence of {} numbers", structure.name, structure.fields.size()));
   }
   for (size_t i = 0; i < structure.fields.size(); ++i) {
     const StructureField &field = structure.fields[i];
-    const Ref item(PySequence_GetItem(object, static_cast<Py_ssize_t>(i)));
     auto *at = static_cast<uint8_t *>(bytes) + field.offset;
+    const auto place = static_cast<Py_ssize_t>(i);
+    const Ref item(place < given ? PySequence_GetItem(object, place)
+                                 : PyLong_FromUnsignedLong(field.usual));
     if (field.is_real) {
       const auto real = static_cast<float>(PyFloat_AsDouble(item.get()));
       if (PyErr_Occurred()) throw Raised{};

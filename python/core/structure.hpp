@@ -13,6 +13,8 @@ struct StructureField {
   size_t offset;
   size_t size;
   bool is_real = false;
+  bool may_lack = false;  // behind those that must be there
+  uint32_t usual = 0;     // what it is then
 };
 
 struct Structure {
@@ -23,7 +25,12 @@ struct Structure {
   std::span<const StructureField> fields;
 };
 
-// Adds the named tuples to the module.
+// Adds a type of named tuples to the module; the last defaults.size() names may be left out.
+PyObject *add_named_tuple(PyObject *module, const char *name, const char *note,
+                          std::span<const char *const> fields, Ref defaults = {});
+// One with the values of a tuple.
+PyObject *make_named(PyObject *type, const Ref &values);
+
 void add_structures(PyObject *module);
 
 // Of a C type, or null.

@@ -59,20 +59,14 @@ class Record:
     def __hash__(self) -> int: ...
     def __bytes__(self) -> bytes: ...
 
-class Entry(Generic[_K, _A]):
+class Entry(NamedTuple, Generic[_K, _A]):
     """An entry as it was read; its key is None for a default entry."""
-    @property
-    def handle(self) -> int: ...
-    @property
-    def key(self) -> _K: ...
-    @property
-    def priority(self) -> int | None: ...
-    @property
-    def action(self) -> _A: ...
-    @property
-    def member(self) -> Member | None: ...
-    @property
-    def group(self) -> Group | None: ...
+    handle: int
+    key: _K
+    priority: int | None
+    action: _A
+    member: Member | None
+    group: Group | None
 
 class Target(NamedTuple):
     device_id: int
@@ -93,16 +87,17 @@ class MeterSpec(NamedTuple):
     committed_burst: int
     peak_rate: int
     peak_burst: int
-    meter_type: int
+    meter_type: int = ...
 
-class IdleParams(tuple[int, ...]):
+class IdleParams(NamedTuple):
     mode: int
     sweep_interval_ms: int
     max_ttl_ms: int
     min_ttl_ms: int
     default_ttl_ms: int
+    reserved: int = ...
 
-class WredParams(tuple[float, ...]):
+class WredParams(NamedTuple):
     time_constant_ns: float
     min_threshold_cells: int
     max_threshold_cells: int
@@ -122,9 +117,9 @@ class HashAttribute(NamedTuple):
 class NamedHashAttribute(NamedTuple):
     field: int
     value: int
-    reserved: int
+    reserved: int = ...
 
-class Hit(tuple[Any, ...]):
+class Hit(NamedTuple):
     """What became of traffic."""
     entry: int
     is_default: bool
@@ -132,7 +127,6 @@ class Hit(tuple[Any, ...]):
     group: Group | None
     member: Member | None
     color: str
-    def __new__(cls, values: tuple[Any, ...], /) -> Hit: ...
 
 class Parsers(NamedTuple):
     direction: int

@@ -146,8 +146,8 @@ class Table(TableBase):
     def enable_ageing(self, *, sweep_interval: int = 1000, max_ttl: int = 0, min_ttl: int = 0,
                       default_ttl: int = 0, poll: bool = False) -> None:
         """Entries age; all in milliseconds. With poll nobody is called, and states are read."""
-        params = IdleParams((IdleMode.POLL if poll else IdleMode.NOTIFY, sweep_interval, max_ttl, min_ttl, default_ttl,
-                             0))
+        params = IdleParams(IdleMode.POLL if poll else IdleMode.NOTIFY, sweep_interval, max_ttl,
+                            min_ttl, default_ttl)
         self._call("idle_tmo_enable", self.session, self.session, params)
 
     def disable_ageing(self) -> None:
@@ -258,9 +258,9 @@ class Table(TableBase):
                                64 * packets if bytes is None else bytes)
         except _core.TableMiss:
             return None
-        return Hit((hit.entry, bool(hit.is_default), self._program.action_name(hit.action),
-                    self._held("group", hit.group) if hit.group else None,
-                    self._held("member", hit.member) if hit.member else None, COLORS[hit.color]))
+        return Hit(hit.entry, bool(hit.is_default), self._program.action_name(hit.action),
+                   self._held("group", hit.group) if hit.group else None,
+                   self._held("member", hit.member) if hit.member else None, COLORS[hit.color])
 
     def memory(self) -> int:
         """Bytes that the soft device holds for the table."""

@@ -14,7 +14,7 @@ namespace python {
 namespace {
 
 PyTypeObject *table_type = nullptr;
-PyTypeObject *entry_type = nullptr;
+PyObject *entry_type = nullptr;
 
 // Keywords of calls that are no fields; a field of that name is written with a '_' behind it.
 enum Option : uint8_t { kPriority, kTtl, kMeter, kEntry, kKey, kFromHardware, kOptions };
@@ -280,19 +280,13 @@ class EntryReader {
     call_.set(Slot::entry, entry);
     call_.set(Slot::read_from_hardware, from_hardware ? 1 : 0);
     check_status(call_.run_unlocked(), context);
-    Ref made(PyStructSequence_New(entry_type));
-    Py_ssize_t at = 0;
-    const auto put = [&](PyObject *value) {
-      PyStructSequence_SetItem(made.get(), at++, checked(value));
-    };
     const bool has_key = kind_.keyed() && !no_key_;
-    put(PyLong_FromUnsignedLong(entry));
-    put(has_key ? make_record(kind_.key(), key_.data()) : none());
-    put(has_key && kind_.ternary() ? PyLong_FromUnsignedLong(priority_) : none());
-    put(kind_.indirect() ? none() : action());
-    put(has_member_ ? held("member", member_) : none());
-    put(has_group_ ? held("group", group_) : none());
-    return made.release();
+    const Ref values(Py_BuildValue(
+        "(INNNNN)", entry, has_key ? make_record(kind_.key(), key_.data()) : none(),
+        has_key && kind_.ternary() ? PyLong_FromUnsignedLong(priority_) : none(),
+        kind_.indirect() ? none() : action(), has_member_ ? held("member", member_) : none(),
+        has_group_ ? held("group", group_) : none()));
+    return make_named(entry_type, values);
   }
 
  private:
@@ -437,14 +431,9 @@ void add_table(PyObject *module) {
   for (size_t i = 0; i < kOptions; ++i) {
     option_names[i] = checked(PyUnicode_InternFromString(kOptionNames[i]));
   }
-  PyStructSequence_Field fields[] = {{"handle", nullptr},   {"key", "null: the default entry"},
-                                     {"priority", nullptr}, {"action", nullptr},
-                                     {"member", nullptr},   {"group", nullptr},
-                                     {nullptr, nullptr}};
-  PyStructSequence_Desc description = {"pd.Entry", "An entry as it was read.", fields, 6};
-  entry_type = PyStructSequence_NewType(&description);
-  PyObject *entry = checked(reinterpret_cast<PyObject *>(entry_type));
-  check(PyModule_AddObjectRef(module, "Entry", entry));
+  constexpr const char *kFields[] = {"handle", "key", "priority", "action", "member", "group"};
+  entry_type = add_named_tuple(module, "Entry",
+                               "An entry as it was read; a default one has no key.", kFields);
   PyType_Slot slots[] = {{Py_tp_new, reinterpret_cast<void *>(new_table)},
                          {Py_tp_dealloc, reinterpret_cast<void *>(deallocate)},
                          {Py_tp_traverse, reinterpret_cast<void *>(traverse)},

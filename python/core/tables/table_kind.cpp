@@ -86,12 +86,7 @@ const RecordKind *TableKind::action_of_type(PyObject *type) {
 
 p4_pd_bytes_meter_spec_t read_meter(PyObject *object) {
   p4_pd_bytes_meter_spec_t spec = {};
-  Ref whole = Ref::borrowed(object);
-  if (PySequence_Check(object) != 0 && PySequence_Size(object) == 4) {
-    const Ref type(Py_BuildValue("[i]", PD_METER_TYPE_COLOR_UNAWARE));
-    whole = Ref(PySequence_Concat(Ref(PySequence_List(object)).get(), type.get()));
-  }
-  to_structure(*find_structure("p4_pd_bytes_meter_spec_t"), whole.get(), &spec);
+  to_structure(*find_structure("p4_pd_bytes_meter_spec_t"), object, &spec);
   return spec;
 }
 
