@@ -68,13 +68,12 @@ uint64_t Arguments::integer_of_session(const ParameterInfo &info, PyObject *obje
 
 uint64_t Arguments::integer(const ParameterInfo &info, PyObject *object) {
   if (is_session(object)) return integer_of_session(info, object);
-  if (info.kind == ParameterKind::flag) {
-    const int truth = PyObject_IsTrue(object);
-    check(truth);
-    return static_cast<uint64_t>(truth);
-  }
+  if (info.kind == ParameterKind::flag) return flag_of(object, name_of(info)) ? 1 : 0;
   if (!info.is_signed) return unsigned_of(object, info.size, name_of(info));
-  const long value = PyLong_AsLong(object);
+  if (!PyIndex_Check(object)) {
+    raise(PyExc_TypeError, name_of(info) + " is an int, not " + type_name(object));
+  }
+  const long value = PyLong_AsLong(Ref(PyNumber_Index(object)).get());
   if (PyErr_Occurred()) throw Raised{};
   if (value != static_cast<int32_t>(value)) {
     raise(PyExc_ValueError, fmt::format("{} is an int of 32 bits, not {}", name_of(info), value));

@@ -164,6 +164,11 @@ PyObject *replaced(PyObject *self, PyObject *arguments, PyObject *keywords) {
   });
 }
 
+// What makes the record again, for copy and pickle.
+PyObject *new_arguments(PyObject *self, PyObject * /*unused*/) {
+  return guarded([&] { return Py_BuildValue("(()N)", fields_of(*cast(self)).release()); });
+}
+
 PyObject *masked(PyObject *self, PyObject *name) {
   return guarded([&] {
     const RecordObject &record = *cast(self);
@@ -206,6 +211,7 @@ PyMethodDef methods[] = {
     {"_asdict", as_dict, METH_NOARGS, "The fields by name."},
     {"_replace", method(replaced), METH_VARARGS | METH_KEYWORDS,
      "The same record with other values of some fields."},
+    {"__getnewargs_ex__", new_arguments, METH_NOARGS, "The arguments of a copy."},
     {"_masked", masked, METH_O, "Value and mask of a field, as ints."},
     {"_from_bytes", from_bytes, METH_O | METH_CLASS, "The record of these bytes, as C has it."},
     {"_describe", describe, METH_NOARGS | METH_CLASS,

@@ -45,7 +45,7 @@ void add_class(PyObject *module, uint32_t status) {
   const StatusWords words = tesselctl::status_words(status);
   const std::string name = class_name(words.name);
   PyObject *made =
-      checked(PyErr_NewExceptionWithDoc(("pd." + name).c_str(), words.text, base, nullptr));
+      checked(PyErr_NewExceptionWithDoc(("pd.errors." + name).c_str(), words.text, base, nullptr));
   set_words(made, status, words);
   check(PyModule_AddObjectRef(module, name.c_str(), made));
   classes()[status] = made;
@@ -54,8 +54,9 @@ void add_class(PyObject *module, uint32_t status) {
 }  // namespace
 
 void add_statuses(PyObject *module) {
-  base = checked(PyErr_NewExceptionWithDoc(
-      "pd.StatusError", "A call returned another status than BF_SUCCESS.", nullptr, nullptr));
+  base = checked(PyErr_NewExceptionWithDoc("pd.errors.StatusError",
+                                           "A call returned another status than BF_SUCCESS.",
+                                           nullptr, nullptr));
   check(PyModule_AddObjectRef(module, "StatusError", base));
   for (uint32_t status = BF_NOT_READY; status <= BF_TABLE_MISS; ++status) {
     add_class(module, status);

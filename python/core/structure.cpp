@@ -159,6 +159,15 @@ PyObject *from_structure(const Structure &structure, const void *bytes) {
   return make_named(types[&structure - kStructures], values);
 }
 
+bool flag_of(PyObject *object, std::string_view what) {
+  if (PyNumber_Check(object) == 0) {
+    raise(PyExc_TypeError, fmt::format("{} is a bool, not {}", what, type_name(object)));
+  }
+  const int truth = PyObject_IsTrue(object);
+  check(truth);
+  return truth != 0;
+}
+
 uint64_t unsigned_of(PyObject *object, size_t bytes, std::string_view what) {
   if (!PyIndex_Check(object)) {
     raise(PyExc_TypeError, fmt::format("{} is an int, not {}", what, type_name(object)));

@@ -40,6 +40,8 @@ PyObject *from_structure(const Structure &structure, const void *bytes);
 // From any sequence of as many numbers. Throws TypeError or ValueError that names the field.
 void to_structure(const Structure &structure, PyObject *object, void *bytes);
 
+// A truth: a bool or another number. What names it in the error.
+bool flag_of(PyObject *object, std::string_view what);
 // An int of 0 and up to so many bytes; what names it in the errors.
 uint64_t unsigned_of(PyObject *object, size_t bytes, std::string_view what);
 

@@ -18,7 +18,7 @@ class StatusError(Exception):
     text: str
     # Of calls for many entries.
     row: int
-    handles: memoryview
+    handles: list[int]
 
 class AlreadyExists(StatusError): ...
 class CorruptData(StatusError): ...

@@ -59,7 +59,7 @@ class Namespace:
 
     if not TYPE_CHECKING:  # what there is follows from the program
         def __getattr__(self, name: str) -> Any:
-            if name.startswith("__"):
+            if name.startswith("_"):
                 raise AttributeError(name)
             return self._find(name)
 

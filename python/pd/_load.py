@@ -69,6 +69,11 @@ def load(name: str, package: str = "") -> dict[str, Any]:
                           program.function, program.functions)
     for kind in list(made):
         sys.modules[f"{known}.{kind}"] = made[kind]
+    # By name for pickle alone.
+    for kind in ("triggers", "packets", "captures"):
+        sys.modules[f"{known}.{kind}"] = Records(f"{known}.{kind}", "",
+                                                 lambda one, kind=kind: program.record(kind, one),
+                                                 lambda kind=kind: program.records(kind))
     session = type("Session", (Session,), {"_program": program, "__module__": known})
     device = type("Device", (Device,), {"_program": program, "__module__": known,
                                         "_session_type": session})

@@ -1,6 +1,8 @@
 """Action profiles, their members and groups."""
 from __future__ import annotations
 
+from operator import index
+
 from pd import _core
 from pd._call import Name, call, control, get, read_control, walk
 from pd._core import Opaque, Record
@@ -18,7 +20,7 @@ class _Held:
     _outcome = ""
 
     def __init__(self, profile: Profile, handle: int):
-        self.profile, self.handle = profile, handle
+        self.profile, self.handle = profile, index(handle)
 
     def __eq__(self, other: object) -> bool:
         return (type(other) is type(self) and isinstance(other, _Held)
@@ -67,18 +69,21 @@ class Group(_Held):
         session = self.profile.session
         self.profile._call(family, session, session, self.handle, *arguments)
 
+    def _member(self, member: Member | int) -> int:
+        return self.profile._handle(member, Member)
+
     def add(self, member: Member) -> None:
-        self._set("add_member_to_group", int(member))
+        self._set("add_member_to_group", self._member(member))
 
     def remove(self, member: Member) -> None:
-        self._set("del_member_from_group", int(member))
+        self._set("del_member_from_group", self._member(member))
 
     def enable(self, member: Member, active: bool = True) -> None:
         """Whether the hash may choose the member."""
-        self._set("group_member_state_set", int(member), 0 if active else 1)
+        self._set("group_member_state_set", self._member(member), 0 if index(active) else 1)
 
     def is_enabled(self, member: Member) -> bool:
-        return bool(self._group("group_member_state_get", int(member)) == 0)
+        return bool(self._group("group_member_state_get", self._member(member)) == 0)
 
     def members(self) -> Iterator[Member]:
         handles = walk(lambda: self._group("get_first_group_member"),
@@ -126,6 +131,18 @@ class Profile(Name):
                             f"not {name}")
         return name, [action] if type(action)._describe() else []
 
+    def _handle(self, held: Any, kind: type[_Held]) -> int:
+        """The handle of one of its members or groups, or the number that it is."""
+        if not isinstance(held, _Held):
+            return index(held)
+        of = held.profile
+        if not isinstance(held, kind):
+            raise TypeError(f"{self.name} takes a {kind.__name__.lower()}, not {held!r}")
+        if (of.handle, of.session.device_id) != (self.handle, self.session.device_id):
+            raise ValueError(f"{held!r} of device {of.session.device_id} is none of {self.name} of "
+                             f"device {self.session.device_id}")
+        return held.handle
+
     def add(self, action: Record) -> Member:
         name, record = self._record(action)
         return Member(self, get(self._program, "add_member", self.name, self.session,
@@ -134,8 +151,8 @@ class Profile(Name):
     def modify(self, member: Member, action: Record) -> None:
         """Gives the action other parameters; a member keeps its action for life."""
         name, record = self._record(action)
-        call(self._program, "modify_member", self.name, self.session, self.session, int(member),
-             *record, action=name)
+        call(self._program, "modify_member", self.name, self.session, self.session,
+             self._handle(member, Member), *record, action=name)
 
     def create_group(self, *members: Member, max_size: int = 0) -> Group:
         """A group of at most so many members, 0 of any number, with these in it."""
@@ -156,8 +173,8 @@ class Profile(Name):
 
     def action(self, member: Member, from_hardware: bool = False) -> Record:
         """The action of a member with its parameters."""
-        record: Record = self._get("get_member", self.session, self.session, int(member),
-                                   from_hardware)
+        record: Record = self._get("get_member", self.session, self.session,
+                                   self._handle(member, Member), from_hardware)
         return record
 
     def _walk(self, first: str, following: str) -> Iterator[int]:
@@ -192,7 +209,7 @@ class Profile(Name):
     def set_fallback(self, member: Member) -> None:
         """The member that stands in for groups that have nothing to choose."""
         self._call("set_dynamic_action_selection_fallback_member", self.session, self.session,
-                   int(member))
+                   self._handle(member, Member))
 
     def reset_fallback(self) -> None:
         self._call("reset_dynamic_action_selection_fallback_member", self.session, self.session)

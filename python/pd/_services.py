@@ -1,6 +1,9 @@
 """Hash calculations, learning digests, value sets and snapshots."""
 from __future__ import annotations
 
+from collections import namedtuple
+from operator import index
+
 from pd import _core
 from pd._call import Name, call, control, function, get, read_control, walk
 from pd._core import Opaque, Output, Record, SnapshotControl
@@ -56,8 +59,10 @@ class Hash(Name):
         import ctypes
         held, attributes = [], []
         for field, (value, width) in enumerate(values):
+            if not 0 <= index(value) < 1 << width:
+                raise ValueError(f"value {field} is 0 to {(1 << width) - 1:#x}, not {value}")
             if width <= 32:
-                attributes.append((field, 0, value & (1 << width) - 1))
+                attributes.append((field, 0, value))
                 continue
             held.append(ctypes.create_string_buffer(value.to_bytes((width + 7) // 8, "big")))
             attributes.append((field, 0, ctypes.addressof(held[-1])))
@@ -76,17 +81,14 @@ class Hash(Name):
         return None if found == 0xffffffff else found
 
 
-class DigestEntry:
+class DigestEntry(namedtuple("DigestEntry", "record pipe")):
     """An entry of a digest with the pipe that it came from."""
 
-    def __init__(self, record: Record, pipe: int):
-        self.record, self.pipe = record, pipe
+    record: Record
+    pipe: int
 
     def __getattr__(self, name: str) -> Any:
         return getattr(self.record, name)
-
-    def __repr__(self) -> str:
-        return f"{self.record!r} from pipe {self.pipe}"
 
 
 class Digest(Name):
@@ -233,18 +235,16 @@ class ValueSet(Name):
             return None
 
 
-class Stage:
+class Stage(namedtuple("Stage", "record stage valid triggered")):
     """What a snapshot captured at one stage."""
 
-    def __init__(self, record: Record, control: SnapshotControl):
-        self.record, self.stage = record, control.stage
-        self.valid, self.triggered = bool(control.valid), bool(control.triggered)
+    record: Record
+    stage: int
+    valid: bool
+    triggered: bool
 
     def __getattr__(self, name: str) -> Any:
         return getattr(self.record, name)
-
-    def __repr__(self) -> str:
-        return f"<Stage {self.stage}{' triggered' if self.triggered else ''}>"
 
 
 class Snapshot:
@@ -258,7 +258,7 @@ class Snapshot:
         self._program = session._program
         session.handle  # raises for a session that is closed
         self.handle: int = get(self._program, "snapshot_create", "", session.device_id,
-                               session.pipe, first_stage, last_stage, int(direction == "egress"))
+                               session.pipe, first_stage, last_stage, direction == "egress")
 
     def _call(self, family: str, *arguments: Any) -> None:
         call(self._program, family, "", self.handle, *arguments)
@@ -279,7 +279,8 @@ class Snapshot:
                        records, control_records, captures)
         except _core.NotReady:
             return []
-        return [Stage(record, control) for record, control in
+        return [Stage(record, control.stage, bool(control.valid), bool(control.triggered))
+                for record, control in
                 zip(records.value[:captures.value], control_records.value)]
 
     def inject(self, *, first_stage: int = 0, stages: int = 1, pipe: int | None = None,
@@ -292,7 +293,7 @@ class Snapshot:
         number = 0 if self.session.pipe == 0xffff else self.session.pipe
         return int(read_control("soft_snapshot_inject", self.session.device_id,
                                 number if pipe is None else pipe,
-                                int(self.direction == "egress"), first_stage, record, stages,
+                                self.direction == "egress", first_stage, record, stages,
                                 len(record)))
 
     def delete(self) -> None:

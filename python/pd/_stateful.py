@@ -49,7 +49,7 @@ class Counter(_Cells):
     def read(self, cell: int | AnyEntry, from_hardware: bool = True) -> CounterValues:
         """What the cell has counted, brought up to date from the hardware first."""
         values: CounterValues = self._get("counter_read", self.session, self.session,
-                                          number_of(cell), int(from_hardware))
+                                          number_of(cell), from_hardware)
         return values
 
     def read_all(self, cells: Iterable[int | AnyEntry] | None = None,
@@ -116,7 +116,7 @@ class Register(_Cells):
     def read(self, cell: int, from_hardware: bool = True) -> list[int]:
         """The value in each pipe that the session is about."""
         values, count = Output(), Output()
-        self._call("register_read", self.session, self.session, cell, int(from_hardware), values,
+        self._call("register_read", self.session, self.session, cell, from_hardware, values,
                    count)
         found: list[int] = values.value[:count.value]
         return found
@@ -125,7 +125,7 @@ class Register(_Cells):
         """The same of several cells, perhaps of fewer at the end of the register."""
         read, values, filled = Output(), Output(), Output()
         self._call("register_range_read", self.session, self.session, first, count,
-                   int(from_hardware), read, values, filled)
+                   from_hardware, read, values, filled)
         if not read.value:
             return []
         pipes = filled.value // read.value

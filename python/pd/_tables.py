@@ -1,6 +1,8 @@
 """Match tables."""
 from __future__ import annotations
 
+from operator import index
+
 from pd import _core
 from pd._call import call, control, get, read_control, walk
 from pd._core import Entry, Hit, IdleParams, Opaque, Output, Program, TableBase
@@ -17,8 +19,8 @@ COLORS = ("green", "yellow", "red")
 
 
 def number_of(entry: Any) -> int:
-    """The handle of an entry, member or group, or the number that it is."""
-    return int(getattr(entry, "handle", entry))
+    """The handle of an entry, or the number that it is."""
+    return entry.handle if isinstance(entry, Entry) else index(entry)
 
 
 class Table(TableBase):
@@ -51,6 +53,13 @@ class Table(TableBase):
 
     def _get(self, family: str, *arguments: Any) -> Any:
         return get(self._program, family, self.name, *arguments)
+
+    def _entry(self, entry: int | AnyEntry) -> int:
+        """The handle of one of its entries, or the number that it is."""
+        if isinstance(entry, Entry) and entry.key is not None \
+                and not isinstance(entry.key, self._program.record("keys", self.name)):
+            raise TypeError(f"{self.name} takes an entry of its own, not one of {type(entry.key).__name__}")
+        return number_of(entry)
 
     # ---- Entries ----
 
@@ -131,17 +140,17 @@ class Table(TableBase):
 
     def set_ttl(self, entry: int | AnyEntry, ttl: int) -> None:
         """Milliseconds until the entry expires unless packets hit it."""
-        self._call("set_ttl", self.session, self.session, number_of(entry), ttl)
+        self._call("set_ttl", self.session, self.session, self._entry(entry), ttl)
 
     def ttl(self, entry: int | AnyEntry) -> int:
-        return int(self._get("get_ttl", self.session, self.session, number_of(entry)))
+        return int(self._get("get_ttl", self.session, self.session, self._entry(entry)))
 
     def is_active(self, entry: int | AnyEntry) -> bool:
         """Whether a packet has hit the entry since its hit state was updated."""
-        return bool(self._get("get_hit_state", self.session, self.session, number_of(entry)))
+        return bool(self._get("get_hit_state", self.session, self.session, self._entry(entry)))
 
     def set_active(self, entry: int | AnyEntry, active: bool = True) -> None:
-        self._call("update_hit_state", self.session, self.session, number_of(entry), int(active))
+        self._call("update_hit_state", self.session, self.session, self._entry(entry), index(active))
 
     def enable_ageing(self, *, sweep_interval: int = 1000, max_ttl: int = 0, min_ttl: int = 0,
                       default_ttl: int = 0, poll: bool = False) -> None:
@@ -193,7 +202,7 @@ class Table(TableBase):
     def value(self, entry: int | AnyEntry, from_hardware: bool = False) -> str:
         """The entry as a value string; empty where there is none."""
         output = Output()
-        self._text("table_value", self.session, self.session, number_of(entry), from_hardware,
+        self._text("table_value", self.session, self.session, self._entry(entry), from_hardware,
                    output)
         return str(output.value)
 
@@ -202,7 +211,7 @@ class Table(TableBase):
         output = Output()
         found = self._program.export("stringify_counter_matchspec")
         if found is not None:
-            found(self.session, self.session, self.handle, number_of(entry), output)
+            found(self.session, self.session, self.handle, self._entry(entry), output)
         return str(output.value or "")
 
     def _text(self, family: str, *arguments: Any) -> None:
@@ -214,13 +223,13 @@ class Table(TableBase):
 
     def placement(self, entry: int | AnyEntry) -> Opaque:
         """What the device holds of an entry, without the device."""
-        return _core.placement_of(self.session.device_id, self.handle, number_of(entry), False)
+        return _core.placement_of(self.session.device_id, self.handle, self._entry(entry), False)
 
     def has_placement(self, placement: Opaque, entry: int | AnyEntry) -> bool:
         """Whether the hardware holds the same under the entry."""
         found = self._program.export("plcmt_data_eq_to_hw", self.name)
         return found is not None and bool(found(self.session, self.session, self.handle,
-                                                number_of(entry), placement))
+                                                self._entry(entry), placement))
 
     # ---- Packets ----
 

@@ -1,8 +1,10 @@
 """What users of a program's package rely on: errors, sessions, bulk calls, callbacks, threads."""
 import array
+import copy
 import gc
 import importlib
 import ipaddress
+import pickle
 import subprocess
 import sys
 import threading
@@ -11,6 +13,7 @@ import numpy
 import pytest
 
 import pd
+import samples
 import tessel_switch as ts
 from tessel_switch.actions import setEcmpNextHop, setNextHop, setNextHop2
 
@@ -90,6 +93,55 @@ def test_wrong_objects_are_refused(session, routes):
     too_short = bytearray(3)
     with pytest.raises(ValueError, match="3 bytes, and the call needs 4"):
         ts.raw.p4_pd_tessel_switch_ipv4ShortMaskLpm_get_entry_count(session, session, too_short)
+
+
+def test_members_and_entries_of_others_are_refused(session, routes):
+    with ts.Device(1):
+        own, other = (list(session.on(one).profiles)[:2] for one in (0, 1))
+        members = [one.add(samples.record_of(ts.program, "actions", one.actions[0],
+                                             samples.generator())) for one in (*own, *other)]
+        group = own[0].create_group(members[0])
+        for wrong in (*members[1:], group, "1", 1.0, None):
+            with pytest.raises((TypeError, ValueError)):
+                group.add(wrong)
+        table = next(one for one in session.tables if one.profile == own[0].name)
+        for wrong in members[1:]:
+            with pytest.raises(ValueError, match="its profile on device 0"):
+                table.set_default(wrong)
+    entry = routes.get(routes.add(setNextHop(nextHop=1), vrfId=0, dip=0))
+    six = session.tables.ipv6ShortMaskLpm
+    foreign = importlib.import_module("gateway").program
+    for call in (lambda: six.delete(entry), lambda: six.value(entry), lambda: routes.get(group),
+                 lambda: routes.set_active(entry, "no"), lambda: own[0].member(None),
+                 lambda: group.enable(members[0], "no"), lambda: routes.get(entry, from_hardware="no"),
+                 lambda: routes.add(samples.record_of(foreign, "actions", foreign.records("actions")[0],
+                                                      samples.generator()), vrfId=1, dip=0)):
+        with pytest.raises(TypeError):
+            call()
+    with pytest.raises(ValueError, match="value 1 is 0 to 0xff"):
+        next(iter(session.hashes)).calculate((5, 32), (256, 8))
+
+
+def test_what_is_read_can_be_copied_and_printed(session, routes, journal):
+    entry = routes.get(routes.add(setNextHop(nextHop=1), vrfId=0, dip=0))
+    digest = next(iter(session.digests))
+    with digest.listen():
+        digest.inject()
+        learnt, = digest.poll()
+    names = {**vars(pd), **vars(ts), "ipv4ShortMaskLpm": type(entry.key), "setNextHop": setNextHop,
+             type(learnt.record).__name__: type(learnt.record), "DigestEntry": pd.DigestEntry}
+    for one in (entry, entry.key, entry.action, learnt, routes.traffic(vrfId=0, dip=0),
+                pd.MeterSpec(1, 2, 3, peak_burst=4), journal.calls()[0]):
+        assert pickle.loads(pickle.dumps(one)) == copy.copy(one) == copy.deepcopy(one) == one
+        assert eval(repr(one), names) == one
+    assert pd.MeterSpec(1, 2, 3, 4)._replace(peak_rate=5) == (1, 2, 5, 4, 1)
+    with pytest.raises(pd.errors.AlreadyExists) as caught:
+        routes.add_rows(setNextHop, [(0, 1)], vrfId=0)
+    again = pickle.loads(pickle.dumps(caught.value))
+    assert (type(again), again.row, str(again)) == (type(caught.value), 0, str(caught.value))
+    assert copy.copy(session.tables).ipv4ShortMaskLpm is routes
+    with pytest.raises(TypeError):
+        copy.copy(session)
 
 
 def test_statuses_are_exceptions(session, routes):
@@ -385,8 +437,9 @@ def test_nothing_leaks(session):
             use_everything()
         gc.collect()
         grown.append((memory(), sys.getrefcount(setNextHop), len(gc.get_objects())))
-    (first, *counts), (last, *counts_after) = grown[-2:]
-    assert last - first < 1 << 16 and counts == counts_after
+    # The heap may grow at times; a leak grows each time.
+    assert min(after[0] - before[0] for before, after in zip(grown, grown[1:])) < 1 << 14
+    assert grown[-1][1:] == grown[-2][1:]
 
 
 def test_fixtures_fail_tests(tmp_path):

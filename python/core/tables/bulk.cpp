@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "python/core/structure.hpp"
 #include "python/core/tables/bulk_rows.hpp"
 #include "python/core/tables/columns.hpp"
 
@@ -14,11 +15,6 @@ namespace {
 
 bool is_named(PyObject *name, const char *wanted) {
   return PyUnicode_CompareWithASCIIString(name, wanted) == 0;
-}
-bool truth_of(PyObject *object) {
-  const int truth = PyObject_IsTrue(object);
-  check(truth);
-  return truth != 0;
 }
 
 std::vector<Column> named_columns(BulkRows &table, PyObject *names) {
@@ -116,7 +112,7 @@ void check_count(Verb verb, const char *method, Py_ssize_t count, bool takes_row
 // Whether a keyword is about the call, not a column.
 bool read_option(Verb verb, BulkRun &run, BulkRows &table, PyObject *name, PyObject *value) {
   if (verb == Verb::add && is_named(name, "keep")) {
-    if (truth_of(value)) run.keep();
+    if (flag_of(value, "keep")) run.keep();
     return true;
   }
   if (verb == Verb::remove || !is_named(name, "meter")) return false;
@@ -277,7 +273,7 @@ PyObject *add_routes(PyObject * /*module*/, PyObject *const *arguments, Py_ssize
       PyObject *name = PyTuple_GetItem(names, i);
       PyObject *value = arguments[count + i];
       if (is_named(name, "keep")) {
-        if (truth_of(value)) run.keep();
+        if (flag_of(value, "keep")) run.keep();
         continue;
       }
       four.fix(name, value);

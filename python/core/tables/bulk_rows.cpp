@@ -29,7 +29,7 @@ const char *family_of(Verb verb, Slot outcome) {
 BulkRows::BulkRows(Verb verb, TableKind &kind, PyObject *outcome, const SessionObject &session)
     : kind_(kind),
       verb_(verb),
-      outcome_(outcome == nullptr ? Outcome{} : outcome_of(outcome)),
+      outcome_(outcome == nullptr ? Outcome{} : outcome_of(outcome, session)),
       delete_(kind.plan("table_delete"), session),
       key_size_(std::max<size_t>(kind.key().record->size, 1)),
       parameter_size_(outcome_.action == nullptr ? 1 : outcome_.action->record->size + 1),
@@ -223,7 +223,9 @@ void BulkRun::fail() {
   if (!keep_) take_back();
   has_failed([&] {
     check(PyObject_SetAttrString(value, "row", Ref(PyLong_FromSize_t(row)).get()));
-    if (is_add_) check(PyObject_SetAttrString(value, "handles", Ref(handle_array(handles_)).get()));
+    if (is_add_)
+      check(PyObject_SetAttrString(value, "handles",
+                                   Ref(PySequence_List(Ref(handle_array(handles_)).get())).get()));
   });
   PyErr_Clear();
   PyErr_Restore(type, value, trace);

@@ -61,12 +61,12 @@ class BulkRows {
 
  private:
   // An action may be given by its type, when its parameters are in the rows.
-  Outcome outcome_of(PyObject *object) {
+  Outcome outcome_of(PyObject *object, const SessionObject &session) {
     if (const RecordKind *action = kind_.action_of_type(object)) {
       needs_parameters_ = true;
       return {action, nullptr};
     }
-    return kind_.outcome_of(object);
+    return kind_.outcome_of(object, session);
   }
   uint8_t *record_of(const Column &column) {
     return column.kind == Column::key ? key_.data() : row_parameters_.data();

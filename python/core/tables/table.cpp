@@ -33,6 +33,21 @@ size_t option_of(PyObject *name) {
   return kOptions;
 }
 
+// The handle of an entry: an int, or one of the table that was read.
+uint32_t read_entry(const TableKind &kind, PyObject *object) {
+  Ref number = Ref::borrowed(object);
+  if (PyObject_IsInstance(object, entry_type) > 0) {
+    number = Ref(PySequence_GetItem(object, 0));
+    const Ref key(PySequence_GetItem(object, 1));
+    if (key.get() != Py_None && as_record(key.get(), kind.key()) == nullptr) {
+      raise(PyExc_TypeError, fmt::format("{} takes an entry of its own, not one with a {}",
+                                         kind.name(), type_name(key.get())));
+    }
+  }
+  PyErr_Clear();
+  return static_cast<uint32_t>(unsigned_of(number.get(), 4, "entry"));
+}
+
 // The arguments of a call about an entry.
 class EntryArguments {
  public:
@@ -52,7 +67,7 @@ class EntryArguments {
     if ((count > at || entry_) && (has_key() || priority_ || (count > at && entry_))) {
       raise(PyExc_TypeError, context() + ": give an entry or a key, not both");
     }
-    if (count > at) entry_ = read_handle(arguments[at], "entry");
+    if (count > at) entry_ = read_entry(*table_.kind, arguments[at]);
     return entry_;
   }
   bool from_hardware() const { return from_hardware_; }
@@ -109,15 +124,13 @@ class EntryArguments {
     } else if (option == kMeter) {
       meter_ = read_meter(value);
     } else if (option == kEntry) {
-      entry_ = read_handle(value, "entry");
+      entry_ = read_entry(kind, value);
     } else if (option == kKey) {
       const RecordObject *record = as_record(value, kind.key());
       if (record == nullptr) raise(PyExc_TypeError, "key is a " + kind.key().type_name);
       key_ = record->bytes;
     } else {
-      const int truth = PyObject_IsTrue(value);
-      check(truth);
-      from_hardware_ = truth != 0;
+      from_hardware_ = flag_of(value, "from_hardware");
     }
   }
 
@@ -157,7 +170,8 @@ PyObject *add(PyObject *self, PyObject *const *arguments, Py_ssize_t count, PyOb
     TableObject &table = as_table(self);
     EntryArguments given(table, "add", arguments, count, names, {kPriority, kTtl, kMeter, kKey});
     const Outcome outcome =
-        table.kind->outcome_of(only(arguments, count, given.context(), "what the entry does"));
+        table.kind->outcome_of(only(arguments, count, given.context(), "what the entry does"),
+                               open_session(table.session));
     PlannedCall call(
         table.kind->plan(family_of(outcome, "table_add", "add_entry", "add_entry_with_selector"),
                          &outcome),
@@ -179,7 +193,8 @@ PyObject *modify(PyObject *self, PyObject *const *arguments, Py_ssize_t count, P
                          {kPriority, kMeter, kKey, kEntry});
     const std::optional<uint32_t> entry = given.entry(arguments, count, 1);
     const Outcome outcome = table.kind->outcome_of(
-        only(arguments, std::min<Py_ssize_t>(count, 1), given.context(), "what the entry does"));
+        only(arguments, std::min<Py_ssize_t>(count, 1), given.context(), "what the entry does"),
+        open_session(table.session));
     const bool by_key = !entry;
     const char *family =
         by_key ? family_of(outcome, "table_modify_by_match_spec", "modify_entry_by_match_spec",
@@ -240,7 +255,8 @@ PyObject *set_default(PyObject *self, PyObject *const *arguments, Py_ssize_t cou
     EntryArguments given(table, "set_default", arguments, count, names, {kMeter});
     if (given.has_key()) raise(PyExc_TypeError, given.context() + ": a default entry has no key");
     const Outcome outcome =
-        table.kind->outcome_of(only(arguments, count, given.context(), "what the entry does"));
+        table.kind->outcome_of(only(arguments, count, given.context(), "what the entry does"),
+                               open_session(table.session));
     PlannedCall call(table.kind->plan(family_of(outcome, "set_default_action", "set_default_entry",
                                                 "set_default_entry_with_selector"),
                                       &outcome),

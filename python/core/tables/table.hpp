@@ -99,13 +99,15 @@ class TableKind {
   // The function of a family, for an outcome where its name ends in one. Throws TypeError where the
   // table has none.
   const CallPlan &plan(const char *family, const Outcome *outcome = nullptr);
-  // The action, member or group that an object is. Throws TypeError.
-  Outcome outcome_of(PyObject *object);
+  // The action, member or group that an object is, for a device. Throws TypeError, and ValueError
+  // for those of another profile or device.
+  Outcome outcome_of(PyObject *object, const SessionObject &session);
   // An action of the table by its type, or null.
   const RecordKind *action_of_type(PyObject *type);
 
  private:
   [[noreturn]] void refuse_outcome(PyObject *object);
+  void check_profile(PyObject *held, const SessionObject &session);
 
   Program &program_;
   const soft_table_t &description_;
@@ -126,8 +128,6 @@ PyTypeObject *table_type_object();
 
 // A meter of a call: a sequence of committed rate and burst, peak rate and burst, and perhaps type.
 p4_pd_bytes_meter_spec_t read_meter(PyObject *object);
-// A handle: an int, or an object that has one.
-uint32_t read_handle(PyObject *object, std::string_view what);
 
 // The methods for many entries (bulk.cpp).
 enum class Verb : uint8_t { add, replace, modify, remove };

@@ -57,8 +57,27 @@ void TableKind::refuse_outcome(PyObject *object) {
                                      record != nullptr ? record->kind->what : type_name(object)));
 }
 
-Outcome TableKind::outcome_of(PyObject *object) {
-  if (const RecordObject *record = as_record(object); record != nullptr && !indirect()) {
+void TableKind::check_profile(PyObject *held, const SessionObject &session) {
+  const Ref profile(PyObject_GetAttrString(held, "profile"));
+  const Ref handle(PyObject_GetAttrString(profile.get(), "handle"));
+  const Ref of(PyObject_GetAttrString(profile.get(), "session"));
+  const uint32_t device = session.target.device_id;
+  if (unsigned_of(handle.get(), 4, "profile") == description_.action_data_table &&
+      open_session(of.get()).target.device_id == device) {
+    return;
+  }
+  raise(PyExc_ValueError,
+        fmt::format("{} takes members and groups of its profile on device {}, not {} of device {}",
+                    name(), device, text_of(Ref(PyObject_Repr(held)).get()),
+                    open_session(of.get()).target.device_id));
+}
+
+Outcome TableKind::outcome_of(PyObject *object, const SessionObject &session) {
+  // Another program may have an action of the same name.
+  const auto own = program_.binding().actions.list();
+  const RecordObject *record = as_record(object);
+  if (record != nullptr && !indirect() && record->kind->record >= own.data() &&
+      record->kind->record < own.data() + own.size()) {
     for (const soft_action_t &action : std::span(description_.actions, description_.action_count)) {
       if (record->kind->what == action.name) return {record->kind, record->bytes};
     }
@@ -70,9 +89,11 @@ Outcome TableKind::outcome_of(PyObject *object) {
     refuse_outcome(object);
   }
   const Ref kind(found);
+  check_profile(object, session);
   Outcome outcome;
   outcome.kind = text_of(kind.get()) == "group" ? Slot::group : Slot::member;
-  outcome.handle = read_handle(object, "outcome");
+  const Ref handle(PyObject_GetAttrString(object, "handle"));
+  outcome.handle = static_cast<uint32_t>(unsigned_of(handle.get(), 4, "handle"));
   return outcome;
 }
 
@@ -88,16 +109,6 @@ p4_pd_bytes_meter_spec_t read_meter(PyObject *object) {
   p4_pd_bytes_meter_spec_t spec = {};
   to_structure(*find_structure("p4_pd_bytes_meter_spec_t"), object, &spec);
   return spec;
-}
-
-uint32_t read_handle(PyObject *object, std::string_view what) {
-  if (PyIndex_Check(object) != 0) return static_cast<uint32_t>(unsigned_of(object, 4, what));
-  PyObject *handle = PyObject_GetAttrString(object, "handle");
-  if (handle == nullptr) {
-    PyErr_Clear();
-    raise(PyExc_TypeError, fmt::format("{} is a handle, not {}", what, type_name(object)));
-  }
-  return static_cast<uint32_t>(unsigned_of(Ref(handle).get(), 4, what));
 }
 
 }  // namespace python
