@@ -76,18 +76,53 @@ std::vector<Scope> each_initial(S scope) {
 }
 
 // The fields that tools show of the record of that name in a list of records.
-template <typename Row>
-std::vector<Scope> each_shown_field(S scope, std::string_view list) {
+std::vector<Scope> shown_fields(S scope, std::string_view list, const std::string &name) {
   const ToolRecords *records = find_row(scope.get<Program>().tool_records, list);
-  const ToolRecord *record =
-      records == nullptr ? nullptr : find_row(records->records, scope.get<Row>().name);
+  const ToolRecord *record = records == nullptr ? nullptr : find_row(records->records, name);
   if (record == nullptr) return {};
   std::vector<Scope> scopes = each_row(scope, record->fields);
   scopes.resize(record->shown, scope);
   return scopes;
 }
 
+template <typename Row>
+std::vector<Scope> each_shown_field(S scope, std::string_view list) {
+  return shown_fields(scope, list, scope.get<Row>().name);
+}
+
 constexpr auto each_pair = each_with<&Table::pairs, &Pair::action>;
+
+// The parameters of all actions of entries, by their labels, without those that fields of the key
+// have.
+std::vector<Scope> each_entry_parameter(S scope) {
+  const auto label_of = [](S field) { return field.get<ToolField>().label; };
+  const std::vector<Scope> key = each_shown_field<Table>(scope, "table");
+  std::vector<Scope> all;
+  for (S pair : each_pair(scope)) {
+    if (!pair.get<Pair>().in_entries || scope.get<Table>().profile) continue;
+    for (S field : each_shown_field<Action>(pair, "action")) {
+      const auto is_same = [&](S other) { return label_of(other) == label_of(field); };
+      if (std::ranges::none_of(key, is_same) && std::ranges::none_of(all, is_same)) {
+        all.push_back(field);
+      }
+    }
+  }
+  return all;
+}
+
+// What the keys of routes have besides the prefix.
+std::vector<Scope> each_route_field(S scope) {
+  const std::vector<Scope> tables = each_route_table(scope);
+  if (tables.empty()) return {};
+  return only(each_shown_field<Table>(tables[0], "table"),
+              [](S field) { return field.get<ToolField>().match != Match::kLpm; });
+}
+
+std::vector<Scope> each_bound_profile(S scope) {
+  const auto &profile = scope.get<Table>().profile;
+  return profile ? each_target<Profile>(scope, {profile}) : std::vector<Scope>{};
+}
+
 constexpr auto each_label = each_with<&Program::labels, &Label::table>;
 
 const Walk kWalks[] = {
@@ -117,6 +152,15 @@ const Walk kWalks[] = {
      each_with<&DefaultEntry::cells, &ResourceItem::resource>},
     {"table", "field", "field", each<&Table::key>},
     {"table", "shown_field", "tool_field", [](S s) { return each_shown_field<Table>(s, "table"); }},
+    {"table", "entry_parameter", "tool_field", each_entry_parameter},
+    {"table", "bound_profile", "profile", each_bound_profile},
+    {"program", "route_field", "tool_field", each_route_field},
+    {"layout", "trigger_field", "tool_field",
+     [](S s) { return each_shown_field<SnapshotLayout>(s, "trigger"); }},
+    {"layout", "sent_field", "tool_field",
+     [](S s) { return each_shown_field<SnapshotLayout>(s, "packet"); }},
+    {"program", "stage_field", "tool_field",
+     [](S s) { return shown_fields(s, "capture", "capture"); }},
     {"action", "parameter_field", "tool_field",
      [](S s) { return each_shown_field<Action>(s, "action"); }},
     {"digest", "entry_field", "tool_field",

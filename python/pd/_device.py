@@ -216,7 +216,7 @@ class Session(SessionBase):
         """A new snapshot of stages of the session's pipe."""
         return Snapshot(self, direction, first_stage, last_stage)
 
-    def add_routes(self, routes: Iterable[tuple[Any, Any]], *, keep: bool = False,
+    def add_routes(self, routes: Iterable[tuple[Any, Any]] | tuple[Any, Any], *, keep: bool = False,
                    **fields: Any) -> int:
         """Adds (prefix, next hop) for each route to the tables of IPv4 and IPv6.
 

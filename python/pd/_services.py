@@ -87,8 +87,9 @@ class DigestEntry(namedtuple("DigestEntry", "record pipe")):
     record: Record
     pipe: int
 
-    def __getattr__(self, name: str) -> Any:
-        return getattr(self.record, name)
+    if not TYPE_CHECKING:  # what there is follows from the program
+        def __getattr__(self, name: str) -> Any:
+            return getattr(self.record, name)
 
 
 class Digest(Name):
@@ -243,8 +244,9 @@ class Stage(namedtuple("Stage", "record stage valid triggered")):
     valid: bool
     triggered: bool
 
-    def __getattr__(self, name: str) -> Any:
-        return getattr(self.record, name)
+    if not TYPE_CHECKING:  # what there is follows from the program
+        def __getattr__(self, name: str) -> Any:
+            return getattr(self.record, name)
 
 
 class Snapshot:

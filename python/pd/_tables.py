@@ -63,18 +63,23 @@ class Table(TableBase):
 
     # ---- Entries ----
 
-    def replace(self, action: Any, /, **fields: Any) -> int:
+    def replace(self, *arguments: Any, **fields: Any) -> int:
         """Adds an entry, or modifies the one with this key and priority; returns its handle."""
         try:
-            return int(self.add(action, **fields))
+            return int(self.add(*arguments, **fields))
         except _core.AlreadyExists:
             ttl = fields.pop("ttl", None)
             key = {name: value for name, value in fields.items() if name != "meter"}
             entry = int(self.find(**key))
-            self.modify(action, entry, meter=fields.get("meter"))
+            self.modify(*arguments, entry, meter=fields.get("meter"))
             if ttl is not None:
                 self.set_ttl(entry, ttl)
             return entry
+
+    def add_entry(self, entry: Any, *, ttl: int | None = None, meter: Any = None) -> int:
+        """Adds an entry as it was read, with its key, its priority and what it does."""
+        return int(self.add(entry.action or entry.group or entry.member, key=entry.key,
+                            priority=entry.priority, ttl=ttl, meter=meter))
 
     def handles(self) -> Iterator[int]:
         """The handles of all entries, without the default entry."""

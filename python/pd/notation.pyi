@@ -4,7 +4,7 @@ NOTATION_MATCH is what a field takes, and NOTATION_MATCH_value what it is when i
 """
 from ipaddress import (
     IPv4Address, IPv4Interface, IPv4Network, IPv6Address, IPv6Interface, IPv6Network)
-from typing import Any, Callable, Sequence, SupportsIndex, Union
+from typing import Any, Callable, Mapping, Sequence, SupportsIndex, Union
 
 from pd._core import Entry, MeterSpec, Output, SessionBase
 
@@ -68,6 +68,8 @@ ipv6_ternary_value = str
 ipv6_lpm = _Ipv6Prefix
 ipv6_lpm_value = str
 
+# A row of a call for many entries.
+row = Union[Sequence[Any], Mapping[str, Any]]
 entry = Union[int, Entry[Any, Any]]
 meter = Union[MeterSpec, Sequence[int]]
 hash_bits = Union[bytes, int]

@@ -1,4 +1,5 @@
 """What type checkers let pass: all that a control plane does."""
+import array
 import ipaddress
 
 import pd
@@ -32,5 +33,15 @@ def use(device: ts.Device) -> list[str]:
         packets: int = session.counters.finalDropControlCount.read(entry).packets
         status: int = ts.raw.p4_pd_tessel_switch_ipv4ShortMaskLpm_get_entry_count(
             session, session, pd.Output())
+        there = session.tables.ecmpGroup.get(ecmpGroup=7)
+        if there.group:
+            session.tables.ecmpGroup.modify(there.group, key=there.key, priority=there.priority)
+        routes.add_entry(entry)
+        routes.add_rows(setNextHop, [{"dip": prefix, "nextHop": 1}], vrfId=vrf)
+        routes.modify_columns(setNextHop, vrfId=vrf, dip=([1], 32), nextHop=[1])
+        session.add_routes(((array.array("I"), 24), [1]), vrfId=vrf)
+        with session.snapshot("egress") as snapshot:
+            snapshot.trigger()
+            vrf += len(snapshot.capture())
         routes.delete(entry)
         return [one.key.dip for one in routes] + [prefix, str(packets), str(status), hit.key.dip]

@@ -82,6 +82,8 @@ def test_every_keyed_table(package, session):
             assert table.has_placement(table.placement(entry), entry)
             assert isinstance(table.label(entry), str)
             table.delete(entry)
+            assert table.get(with_meter(table.add_entry, read)).action == read.action
+            table.delete(key=read.key, priority=read.priority)
             assert entry not in table and read not in table
             assert (read.key, read.priority) not in table
             with pytest.raises(pd.errors.ObjectNotFound):

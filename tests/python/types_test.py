@@ -19,8 +19,12 @@ def test_types(tmp_path_factory):
     folder = tmp_path_factory.mktemp("cache")
     packages = [word for name in ["pd", *os.environ["PD_PROGRAMS"].split()] for word in ("-p", name)]
     assert "Success: no issues" in check(folder, *packages)[-1]
-    example = os.environ["PD_EXAMPLE"]
-    assert "Success: no issues" in check(folder, FOLDER / "right_types.py", example)[-1]
+    page = pathlib.Path(os.environ["ROOT"], "docs/python.md").read_text()
+    examples = [folder / f"example_{at}.py" for at in range(page.count("```python\n"))]
+    for path, code in zip(examples, re.findall("```python\n(.*?)```", page, re.DOTALL)):
+        path.write_text(code)
+    right = [FOLDER / "right_types.py", os.environ["PD_EXAMPLE"], *examples]
+    assert "Success: no issues" in check(folder, *right)[-1]
     said = {}
     for line in check(folder, FOLDER / "wrong_types.py"):
         found = re.match(r".*wrong_types\.py:(\d+): (.*)", line)
