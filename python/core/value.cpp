@@ -29,6 +29,9 @@ Number number_of_int(const Field &field, PyObject *object) {
   const Ref digits(PyNumber_ToBase(object, field.width > 64 ? 16 : 10));
   const std::string_view shown = text_of(digits.get());
   if (shown.starts_with('-')) throw Fault(Word{shown, 1}, "a value is 0 or more");
+  if (field.width < 64 && shown.size() > 20) {
+    throw Fault(Word{shown, 1}, fmt::format("this is more than {} bits", field.width));
+  }
   return tesselctl::parse_single(field, {shown, 1});
 }
 

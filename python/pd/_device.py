@@ -15,6 +15,8 @@ if TYPE_CHECKING:
     from typing import Any, Iterable, Iterator, KeysView, Literal, Self
 
 _started: set[str] = set()
+# Devices that were made and are not removed, by number.
+opened: dict[int, Device] = {}
 
 
 def number_of(device: Device | int) -> int:
@@ -120,6 +122,7 @@ class Device:
         self._program.create_device(id, pipes, virtual)
         self.id, self.pipes, self.virtual = id, pipes, virtual
         self._exists = True
+        opened[self.id] = self
 
     def session(self, pipe: int | None = None) -> Any:
         """A new session for the device."""
@@ -132,6 +135,7 @@ class Device:
         if self._exists:
             _core.device_remove(self.id)
             self._exists = False
+            opened.pop(self.id, None)
             forget_device(self.id)
 
     def now(self) -> int:

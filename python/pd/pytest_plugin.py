@@ -1,34 +1,50 @@
 """Fixtures for tests of a control plane on the soft SDK.
 
-pytest finds them by itself. `pd_program` in its configuration names the program, unless a fixture
-`program` of the tests returns its package.
+pytest finds them by itself. The program is the one that the module of the test imports, unless
+`pd_program` in pytest's configuration names it or a fixture `program` returns its package.
 """
 from __future__ import annotations
 
 import importlib
+from types import ModuleType
 from typing import Any, Iterator
 
 import pytest
 
 import pd
+from pd._device import opened
 
 
 def pytest_addoption(parser: pytest.Parser) -> None:
     parser.addini("pd_program", "the program that the fixtures device and session are of")
 
 
-@pytest.fixture(scope="session")
-def program(pytestconfig: pytest.Config) -> Any:
+@pytest.fixture(scope="module")
+def program(request: pytest.FixtureRequest) -> Any:
     """The package of the program."""
-    name = pytestconfig.getini("pd_program")
-    if not name:
-        pytest.fail("pd_program in the configuration of pytest should name a program, or a "
-                    "fixture program should return its package")
-    return importlib.import_module(name)
+    if name := request.config.getini("pd_program"):
+        return importlib.import_module(name)
+    for value in vars(request.module).values():
+        if isinstance(value, ModuleType) and isinstance(getattr(value, "program", None), pd.Program):
+            return value
+    pytest.fail("the module of the test should import the package of a program, or pd_program in "
+                "the configuration of pytest should name it")
 
 
 @pytest.fixture
-def device(program: Any) -> Iterator[Any]:
+def soft_sdk() -> Iterator[None]:
+    """Devices, faults and calls of the test go after it; the clock goes on."""
+    before = set(opened)
+    yield
+    pd.faults.clear()
+    pd.journal.stop()
+    pd.journal.clear()
+    for number in set(opened) - before:
+        opened[number].remove()
+
+
+@pytest.fixture
+def device(program: Any, soft_sdk: None) -> Iterator[Any]:
     """A fresh device 0."""
     with program.Device() as made:
         yield made
@@ -42,22 +58,19 @@ def session(device: Any) -> Iterator[Any]:
 
 
 @pytest.fixture
-def faults() -> Iterator[Any]:
+def faults(soft_sdk: None) -> Iterator[Any]:
     """The fault plan. The test fails if a fault that it planned has not struck."""
-    pd.faults.clear()
     yield pd.faults
     left = pd.faults.pending()
-    pd.faults.clear()
     if left:
         pytest.fail(f"{left} of the faults that were planned have not struck")
 
 
 @pytest.fixture
-def journal() -> Iterator[Any]:
+def journal(soft_sdk: None) -> Iterator[Any]:
     """The journal of the test's calls."""
     with pd.journal:
         yield pd.journal
-    pd.journal.clear()
 
 
 @pytest.fixture

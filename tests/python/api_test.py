@@ -443,17 +443,22 @@ def test_nothing_leaks(session):
 
 
 def test_fixtures_fail_tests(tmp_path):
-    """What the fixtures watch over is noticed."""
+    """What the fixtures watch over is noticed, and nothing stays for the next test."""
     (tmp_path / "test_it.py").write_text(
-        "import pytest, pd\n"
+        "import pytest, pd, tessel_switch as ts\n"
+        "def test_left(session):\n"
+        "    ts.Device(1), ts.journal.start(), len(session.tables.ipv4ShortMaskLpm)\n"
+        "    ts.faults.fail_call('pipe_mgr_mat_ent_add', 5)\n"
+        "def test_fresh(device):\n"
+        "    assert ts.Device(1) and ts.journal.calls() == [] and ts.faults.pending() == 0\n"
         "def test_faults(faults): faults.fail_any_call(5)\n"
         "def test_calls(session, good_calls):\n"
         "    with pytest.raises(pd.StatusError): session.tables.ipv4ShortMaskLpm.get(77)\n"
         "def test_good(session, good_calls): assert not session.tables.ipv4ShortMaskLpm.clear()\n")
     done = subprocess.run(
-        [sys.executable, "-m", "pytest", "-p", "pd.pytest_plugin", "-p", "no:cacheprovider", "-o",
-         "pd_program=tessel_switch", tmp_path], text=True, stdout=subprocess.PIPE)
-    assert "3 passed, 2 errors" in done.stdout, done.stdout
+        [sys.executable, "-m", "pytest", "-p", "pd.pytest_plugin", "-p", "no:cacheprovider", tmp_path],
+        text=True, stdout=subprocess.PIPE)
+    assert "5 passed, 2 errors" in done.stdout, done.stdout
     assert "1 of the faults that were planned" in done.stdout
     assert "pipe_mgr_get_entry returned 7" in done.stdout
 

@@ -23,6 +23,7 @@ def test_types(tmp_path_factory):
     examples = [folder / f"example_{at}.py" for at in range(page.count("```python\n"))]
     for path, code in zip(examples, re.findall("```python\n(.*?)```", page, re.DOTALL)):
         path.write_text(code)
+    assert pathlib.Path(os.environ["PD_EXAMPLE"]).read_text().split("\n", 1)[1] in page
     right = [FOLDER / "right_types.py", os.environ["PD_EXAMPLE"], *examples]
     assert "Success: no issues" in check(folder, *right)[-1]
     said = {}
