@@ -168,6 +168,8 @@ void Beside::change_entry() {
     changed = *found;
     std::erase_if(changed.resources, [&](auto &held) { return !table.stays(held.first); });
     expected = table.apply(wanted, &changed);
+    const bool is_default = found->key == nullptr && wanted.pair != nullptr;
+    if (is_default && !wanted.pair->as_default) expected = BF_INVALID_ARGUMENT;
   }
   const Given given =
       with("entry", handle, "match_spec", key.key->record.data(), "priority", key.priority);

@@ -103,6 +103,14 @@ bf_status_t MatchEngine::check_entry_action(pipe_object_handle_t action,
   return action_of(action)->default_only ? BF_INVALID_ARGUMENT : BF_SUCCESS;
 }
 
+bf_status_t MatchEngine::check_default_action(pipe_object_handle_t action,
+                                              const pipe_mgr_action_spec_t *spec,
+                                              Checked *checked) const {
+  const bf_status_t status = check_action(action, spec, checked);
+  if (status != BF_SUCCESS || profile_ != nullptr) return status;
+  return action_of(action)->may_be_default ? BF_SUCCESS : BF_INVALID_ARGUMENT;
+}
+
 bf_status_t MatchEngine::check_resources(std::span<const pipe_mgr_resource_t> resources,
                                          Checked *checked) const {
   for (const pipe_mgr_resource_t &resource : resources) {

@@ -86,11 +86,8 @@ bf_status_t MatchEngine::set_default(pipe_session_handle_t session, bf_pipe_id_t
                                      pipe_entry_handle_t *entry) {
   return update(session, PIPE_UPDATE_SET_DEFAULT, [&](pipe_entry_handle_t *changed) {
     Checked checked;
-    bf_status_t status = check_action(action, spec, &checked);
+    bf_status_t status = check_default_action(action, spec, &checked);
     if (status != BF_SUCCESS) return status;
-    if (profile_ == nullptr && !action_of(action)->may_be_default) {
-      return bf_status_t{BF_INVALID_ARGUMENT};
-    }
     const size_t index = default_index(pipe);
     status = store_default(defaults_[index], checked);
     if (status == BF_SUCCESS) *entry = *changed = default_handle_at(index);

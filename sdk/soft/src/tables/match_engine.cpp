@@ -112,7 +112,7 @@ bf_status_t MatchEngine::replace(pipe_entry_handle_t entry, pipe_object_handle_t
   Checked checked;
   if (DefaultEntry *found = default_of(entry)) {
     checked.resources = keep(found->resources);
-    const bf_status_t status = check_action(action, spec, &checked);
+    const bf_status_t status = check_default_action(action, spec, &checked);
     if (status != BF_SUCCESS) return status;
     return store_default(defaults_[index_of_default(entry)], checked);
   }

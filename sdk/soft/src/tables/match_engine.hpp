@@ -154,6 +154,8 @@ class MatchEngine : public ObjectOf<MatchEngine> {
   // Of an entry with a key.
   bf_status_t check_entry_action(pipe_object_handle_t action, const pipe_mgr_action_spec_t *spec,
                                  Checked *checked) const;
+  bf_status_t check_default_action(pipe_object_handle_t action, const pipe_mgr_action_spec_t *spec,
+                                   Checked *checked) const;
   bf_status_t check_resources(std::span<const pipe_mgr_resource_t> resources,
                               Checked *checked) const;
   bf_status_t locate(const Name &name, pipe_entry_handle_t *entry) const;
