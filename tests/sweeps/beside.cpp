@@ -10,6 +10,7 @@
 #include "soft_state.h"
 #include "tesselctl/program/c_call.hpp"
 #include "tesselctl/program/status.hpp"
+#include "tesselctl/state/image.hpp"
 
 namespace pd_test {
 
@@ -17,8 +18,10 @@ namespace pd_test {
 
 Beside::Beside(uint64_t of_seed, bool prints)
     : random(of_seed), seed(of_seed), trace(prints), allocations_before(soft_allocations_live()) {
+  shows_all = seed % 2 == 0;
   constexpr uint32_t kFirst[] = {0, 1022, 4095, SOFT_REGISTER_CELLS - 3};
-  first_cell = kFirst[random() % 4];
+  first_cell =
+      kFirst[random() % (shows_all ? 3 : 4)];  // images would have a line for each other cell
   choose_tables();
   for (ModelTable &table : model.tables) {
     choose_keys(*table.row);
@@ -75,6 +78,29 @@ void Beside::choose_tables() {
   choose(program().registers, &registers);
 }
 
+void Beside::cut_key(const pdgen::Table &table, uint8_t *record) {
+  unsigned width = 0;
+  for (const bindings::Member &member : record_of(table).member_list()) {
+    const Bytes bits = key_bits(table, member);
+    for (size_t at = 0; at < bits.size(); ++at) record[member.offset + at] &= bits[at];
+    if (member.role == bindings::Role::prefix_length) {
+      uint16_t length = 0;
+      std::memcpy(&length, &record[member.offset], sizeof length);
+      length = std::min(length, static_cast<uint16_t>(width));
+      std::memcpy(&record[member.offset], &length, sizeof length);
+    }
+    width = member.width;
+  }
+}
+
+void Beside::cut_action(const bindings::Record &layout, uint8_t *record) {
+  for (const bindings::Member &member : layout.member_list()) {
+    for (unsigned bit = member.width; bit < 8 * member.storage; ++bit) {
+      record[member.offset + bit / 8] &= static_cast<uint8_t>(~(1u << bit % 8));
+    }
+  }
+}
+
 // Records that differ in little, so that keys meet and overlap.
 void Beside::choose_keys(const pdgen::Table &table) {
   const bindings::Record &record = record_of(table);
@@ -94,6 +120,7 @@ void Beside::choose_keys(const pdgen::Table &table) {
         std::memcpy(at, &length, sizeof length);
       }
     }
+    if (shows_all) cut_key(table, made.data());
     Key &key = keys[&table].emplace_back(
         Key{made, key_image(table, made.data(), 0), kept_match_spec(table, made.data()), {}});
     for (const bindings::Member &member : record.member_list()) {
@@ -112,6 +139,7 @@ void Beside::choose_deeds(const pdgen::Table &table) {
       const bindings::Record &record = record_of(*pair.action);
       deed.pair = &pair;
       deed.record = random_record(record, random);
+      if (shows_all) cut_action(record, deed.record.data());
       for (const bindings::Field &field : record.field_list()) {
         if (field.cells.empty()) continue;
         const auto cell = static_cast<uint32_t>(random() % 3);
@@ -212,6 +240,34 @@ void Beside::move() {
   is_virtual = !is_virtual;
 }
 
+namespace {
+
+std::string image_of(const tesselctl::Device &device) {
+  std::string image;
+  tesselctl::save_image(device, [&](std::string_view piece) { image += piece; });
+  return image;
+}
+
+}  // namespace
+
+void Beside::save_and_load() {
+  if (!shows_all) return;
+  const tesselctl::Device saved({.id = 22, .pipes = 2}), loaded({.id = 23, .pipes = 2});
+  note(fmt::format("soft_device_copy({}, 22)", device));
+  ASSERT_EQ(soft_device_copy(device, 22), BF_SUCCESS);
+  const std::string image = image_of(saved);
+  for (const ModelProfile &profile : model.profiles) {  // limits that no image holds
+    soft_profile_capacity_set(23, profile.row->action_data_handle, 0);
+    soft_profile_capacity_set(23, profile.row->selector_handle, 0);
+  }
+  try {
+    tesselctl::load_image(loaded, "image", tesselctl::lines_of(image));
+    ASSERT_EQ(image_of(loaded), image);
+  } catch (const std::exception &fault) {
+    FAIL() << fault.what() << " of\n" << image;
+  }
+}
+
 // ---- Calls ----
 
 uint64_t Beside::call(std::string_view family, std::string_view object, std::string_view action,
@@ -266,6 +322,7 @@ void Beside::step(uint32_t number) {
   const bool profile = !model.profiles.empty() && dice.one_in(3);
   const Step made = drains             ? &Beside::remove_entry
                     : dice.one_in(250) ? &Beside::move
+                    : dice.one_in(250) ? &Beside::save_and_load
                     : dice.one_in(40)  ? dice.of(seldom)
                     : profile          ? dice.of(of_profiles)
                                        : dice.of(often);

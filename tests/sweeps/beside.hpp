@@ -122,8 +122,11 @@ class Beside {
 
   // Goes on with a copy of the device, or with one that its state was replayed to.
   void move();
-  // Takes the state that the library keeps of the device to another one.
-  void restore();
+  // Leave no bits that texts do not show.
+  static void cut_key(const pdgen::Table &table, uint8_t *record);
+  static void cut_action(const bindings::Record &layout, uint8_t *record);
+  // An image of the device makes another one that has the same image.
+  void save_and_load();
 
   // ---- Calls ----
   // Of the device; what is given stands before that.
@@ -198,6 +201,7 @@ class Beside {
   std::map<const pdgen::Table *, std::vector<Deed>> deeds;
   std::vector<Turn> turns;
   std::vector<const pdgen::Resource *> counters, meters, registers;  // with cells of their own
+  bool shows_all;       // as images can say it: no bits beyond widths, no entries of pipes
   uint32_t first_cell;  // of three in registers that calls meet in, also across pages
   bf_device_id_t device = 20, other = 21;
   bool is_virtual = true;

@@ -265,11 +265,12 @@ void Beside::set_default(ModelTable &table, uint32_t pipe, const Deed *deed) {
 
 void Beside::change_property() {
   ModelTable &table = dice.of(model.tables);
-  const uint32_t property = 1 + dice.below(4);
+  const uint32_t property = shows_all ? uint32_t{PIPE_TABLE_CAPACITY} : 1 + dice.below(4);
   uint32_t value = dice.one_in(9) ? 2 : dice.below(2);
   p4_pd_status_t expected = property == 4 ? BF_INVALID_ARGUMENT : BF_SUCCESS;
   if (property == PIPE_TABLE_CAPACITY) {
-    value = dice.one_in(2) ? 0 : dice.below(2 * static_cast<uint32_t>(table.entries.size()) + 9);
+    const auto entries = static_cast<uint32_t>(table.entries.size());
+    value = dice.one_in(2) ? 0 : dice.below(2 * entries + 9) + (shows_all ? entries : 0);
     table.capacity = value;
   } else if (value == 2) {
     expected = BF_INVALID_ARGUMENT;

@@ -11,6 +11,7 @@
 #include <numeric>
 
 #include "beside.hpp"
+#include "tesselctl/device/device.hpp"
 
 namespace pd_test {
 namespace {
@@ -93,6 +94,12 @@ TEST(RandomCalls, AreAnsweredAsByANaiveDevice) {
   const uint64_t first = environment("PD_SOAK_SEED", 1),
                  seconds = environment("PD_SOAK_SECONDS", 0);
   const auto end = Clock::now() + std::chrono::seconds(seconds);
+  ASSERT_EQ(clean_up(), BF_SUCCESS);  // the tool starts the library
+  const std::unique_ptr<const tesselctl::LibraryUse, void (*)(const tesselctl::LibraryUse *)> use(
+      new tesselctl::LibraryUse, [](auto *of) {
+        delete of;
+        EXPECT_EQ(initialise(), BF_SUCCESS);
+      });
   Steps all(kStepsOfARun);
   std::iota(all.begin(), all.end(), 0);
   uint64_t seed = first;
