@@ -36,7 +36,8 @@ void report(PyObject *callable) {
 template <class Make>
 void call(void *cookie, Make make) {
   until_end([&] {
-    const PyGILState_STATE state = PyGILState_Ensure();
+    PyGILState_STATE state;
+    if (!enter(state)) return;
     PyObject *callable = static_cast<CallbackSlot *>(cookie)->callable;
     if (callable != nullptr) {
       Py_INCREF(callable);

@@ -18,17 +18,21 @@ thread_local uint32_t own_calls = 0;  // those of this thread, while a callback 
 std::atomic<bool> is_ending = false;
 std::thread::id ending_thread;
 
-PyObject *end(PyObject * /*module*/, PyObject * /*unused*/) {
-  ending_thread = std::this_thread::get_id();
-  is_ending = true;
-  return none();
-}
+std::atomic<uint32_t> entering = 0;  // callbacks that ask for the GIL
 
 // Lets other threads run for a while.
 void yield() {
   PyThreadState *state = PyEval_SaveThread();
   std::this_thread::sleep_for(std::chrono::microseconds(50));
   until_end([&] { PyEval_RestoreThread(state); });
+}
+
+// No callback asks an interpreter for the GIL that is gone.
+PyObject *end(PyObject * /*module*/, PyObject * /*unused*/) {
+  ending_thread = std::this_thread::get_id();
+  is_ending = true;
+  while (entering != 0) yield();
+  return none();
 }
 
 // A child of a fork has one thread: what another one had locked would stay so. So a fork waits
@@ -67,6 +71,14 @@ Unlocked::~Unlocked() {
   --own_calls;
   --calls;
   until_end([&] { PyEval_RestoreThread(state_); });
+}
+
+bool enter(PyGILState_STATE &state) {
+  ++entering;
+  const bool is_alive = may_release();
+  if (is_alive) until_end([&] { state = PyGILState_Ensure(); });
+  --entering;
+  return is_alive;
 }
 
 void wait_for_end() {

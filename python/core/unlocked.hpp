@@ -35,6 +35,9 @@ auto until_end(Body body) {
   }
 }
 
+// Takes the GIL for a callback; false once the interpreter ends.
+bool enter(PyGILState_STATE &state);
+
 // Whether this thread may give back what it holds of Python: at the end of the interpreter others
 // than the one that ends it may be without the GIL.
 bool may_release();

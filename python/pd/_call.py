@@ -1,11 +1,12 @@
 """Calls of the library by family and object."""
 from __future__ import annotations
 
+from pd import _core
 from pd._core import Function, Output, Program, check, soft
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
-    from typing import Any
+    from typing import Any, Callable
 
 # Functions by program, family, object and action.
 _functions: dict[tuple[str, str, str, str], Function] = {}
@@ -71,20 +72,37 @@ class Name:
 
 
 def walk(first: Any, following: Any, missing: type[Exception]) -> Any:
-    """Handles that a pair of functions enumerates, each with an output behind its arguments."""
+    """Handles that a pair of functions enumerates, each with an output behind its arguments.
+
+    Those that other threads delete meanwhile do not end it.
+    """
     count = 256
     try:
-        handle = first()
+        found = [first()]
     except missing:
         return
-    while True:
-        yield handle
+    while found:
+        yield from found
+        known = set(found)
+        # Behind the last one that is still there.
+        for handle in reversed(found):
+            try:
+                found = [one for one in following(handle, count)
+                         if one != 0xffffffff and one not in known]
+                break
+            except missing:
+                pass
+        else:
+            return
+
+
+def delete_all(things: list[Any], delete: Callable[[Any], object]) -> int:
+    """Deletes what other threads have not deleted meanwhile; how many these are."""
+    deleted = 0
+    for one in things:
         try:
-            handles = following(handle, count)
-        except missing:
-            return
-        found = [one for one in handles if one != 0xffffffff]
-        yield from found[:-1]
-        if not found:
-            return
-        handle = found[-1]
+            delete(one)
+            deleted += 1
+        except _core.ObjectNotFound:
+            pass
+    return deleted

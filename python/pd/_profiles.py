@@ -4,7 +4,7 @@ from __future__ import annotations
 from operator import index
 
 from pd import _core
-from pd._call import Name, call, control, get, read_control, walk
+from pd._call import Name, call, control, delete_all, get, read_control, walk
 from pd._core import Opaque, Record
 from pd._listeners import listen
 from pd._numbers import Update
@@ -254,7 +254,5 @@ class Profile(Name):
 
         Entries must not point at them.
         """
-        held: list[Group | Member] = [*self.groups(), *self.members()]
-        for one in held:
-            one.delete()
-        return len(held)
+        return (delete_all(list(self.groups()), Group.delete)
+                + delete_all(list(self.members()), Member.delete))

@@ -4,7 +4,7 @@ from __future__ import annotations
 from operator import index
 
 from pd import _core
-from pd._call import call, control, get, read_control, walk
+from pd._call import call, control, delete_all, get, read_control, walk
 from pd._core import Entry, Hit, IdleParams, Opaque, Output, Program, TableBase
 from pd._listeners import listen
 from pd._numbers import IdleMode, TableProperty, Update
@@ -65,16 +65,20 @@ class Table(TableBase):
 
     def replace(self, *arguments: Any, **fields: Any) -> int:
         """Adds an entry, or modifies the one with this key and priority; returns its handle."""
-        try:
-            return int(self.add(*arguments, **fields))
-        except _core.AlreadyExists:
-            ttl = fields.pop("ttl", None)
-            key = {name: value for name, value in fields.items() if name != "meter"}
-            entry = int(self.find(**key))
-            self.modify(*arguments, entry, meter=fields.get("meter"))
-            if ttl is not None:
-                self.set_ttl(entry, ttl)
-            return entry
+        key = {name: value for name, value in fields.items() if name not in ("meter", "ttl")}
+        while True:
+            try:
+                return int(self.add(*arguments, **fields))
+            except _core.AlreadyExists:
+                pass
+            try:
+                entry = int(self.find(**key))
+                self.modify(*arguments, entry, meter=fields.get("meter"))
+                if fields.get("ttl") is not None:
+                    self.set_ttl(entry, fields["ttl"])
+                return entry
+            except _core.ObjectNotFound:  # another thread has deleted it
+                pass
 
     def add_entry(self, entry: Any, *, ttl: int | None = None, meter: Any = None) -> int:
         """Adds an entry as it was read, with its key, its priority and what it does."""
@@ -123,10 +127,7 @@ class Table(TableBase):
 
     def clear(self) -> int:
         """Deletes all entries but the default entry, and returns how many these were."""
-        handles = list(self.handles())
-        for entry in handles:
-            self.delete(entry)
-        return len(handles)
+        return delete_all(list(self.handles()), self.delete)
 
     def default_entry(self) -> AnyEntry | None:
         """The default entry, whose key is None; None without one."""

@@ -365,6 +365,27 @@ def test_threads_share_a_session(session, routes):
     for thread in threads:
         thread.join()
     assert not faults and len(routes) == 8 * 320 == len(updates)
+    # What one thread deletes while another enumerates is left out, and nothing else.
+    handles = list(routes.handles())
+    walk = routes.handles()
+    for entry in [next(walk) for _ in range(300)][200:]:
+        routes.delete(entry)
+    assert [*handles[:300], *walk] == handles
+
+    def change():
+        try:
+            for _ in range(200):
+                routes.replace(setNextHop(nextHop=1), vrfId=9, dip=0)
+                list(routes), routes.clear()
+        except BaseException as error:
+            faults.append(error)
+    routes.clear()
+    threads = [threading.Thread(target=change) for _ in range(4)]
+    for thread in threads:
+        thread.start()
+    for thread in threads:
+        thread.join()
+    assert not faults
 
 
 def test_journal_and_faults(session, routes, journal, faults):
