@@ -475,6 +475,8 @@ def test_fixtures_fail_tests(tmp_path):
         "def test_faults(faults): faults.fail_any_call(5)\n"
         "def test_calls(session, good_calls):\n"
         "    with pytest.raises(pd.StatusError): session.tables.ipv4ShortMaskLpm.get(77)\n"
+        "    ts.faults.fail_call('pipe_mgr_get_first_entry_handle', 5)\n"
+        "    with pytest.raises(pd.StatusError): list(session.tables.ipv4ShortMaskLpm)\n"
         "def test_good(session, good_calls): assert not session.tables.ipv4ShortMaskLpm.clear()\n")
     done = subprocess.run(
         [sys.executable, "-m", "pytest", "-p", "pd.pytest_plugin", "-p", "no:cacheprovider", tmp_path],
@@ -482,6 +484,7 @@ def test_fixtures_fail_tests(tmp_path):
     assert "5 passed, 2 errors" in done.stdout, done.stdout
     assert "1 of the faults that were planned" in done.stdout
     assert "pipe_mgr_get_entry returned 7" in done.stdout
+    assert "pipe_mgr_get_first_entry_handle returned 5" in done.stdout
 
 
 def test_library_starts_again(device, routes):
