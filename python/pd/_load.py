@@ -51,11 +51,16 @@ def module_file(name: str, package: str) -> str:
                       + " or ".join(dict.fromkeys(files)))
 
 
-def load(name: str, package: str = "") -> dict[str, Any]:
-    """Loads a program by its name or the file of its module; what its package has, by name.
+def load(name: str) -> Any:
+    """Loads a program by its name or the file of its module, without a package; what one would be."""
+    made = contents(name)
+    module = ModuleType(made["program"].name)
+    module.__dict__.update(made)
+    return sys.modules.setdefault(module.__name__, module)
 
-    package is the file of the package.
-    """
+
+def contents(name: str, package: str = "") -> dict[str, Any]:
+    """What the package of a program has, by name; package is its file."""
     program = _core.load(module_file(name, package))
     made: dict[str, Any] = {}
     known = program.name
