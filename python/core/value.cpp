@@ -2,6 +2,9 @@
 
 #include <fmt/format.h>
 
+#include <map>
+#include <optional>
+
 #include "python/core/buffer.hpp"
 
 namespace python {
@@ -96,6 +99,44 @@ FieldValue whole(const Field &field, Number value) {
                                                : tesselctl::low_ones(field.width)};
 }
 
+// What a class of the module ipaddress is: the module is there when there are objects of it.
+bool is_instance(PyObject *object, const char *class_name) {
+  static std::map<const char *, PyObject *> classes;
+  PyObject *&found = classes[class_name];
+  if (found == nullptr) {
+    PyObject *module = PyImport_GetModule(Ref(text("ipaddress")).get());
+    if (module == nullptr) {
+      PyErr_Clear();
+      return false;
+    }
+    found = PyObject_GetAttrString(module, class_name);
+    Py_DECREF(module);
+  }
+  return reinterpret_cast<PyObject *>(Py_TYPE(object)) == found;
+}
+
+// The value of an address or a network of the field's kind without its text, which takes long to
+// make; nothing where it needs the text.
+std::optional<FieldValue> value_of_address(const Field &field, PyObject *object) {
+  const bool is_six = field.notation == Notation::ipv6;
+  if (!is_six && field.notation != Notation::ipv4) return {};
+  const bool is_network =
+      field.match != Match::exact && is_instance(object, is_six ? "IPv6Network" : "IPv4Network");
+  if (!is_network && !is_instance(object, is_six ? "IPv6Address" : "IPv4Address")) return {};
+  static PyObject *const network_address = PyUnicode_InternFromString("network_address");
+  static PyObject *const ip = PyUnicode_InternFromString("_ip");
+  static PyObject *const prefix_length = PyUnicode_InternFromString("_prefixlen");
+  const Ref address(is_network ? PyObject_GetAttr(object, network_address) : Py_NewRef(object));
+  FieldValue value =
+      whole(field, number_of_int(field, Ref(PyObject_GetAttr(address.get(), ip)).get()));
+  if (is_network) {
+    const Ref length(PyObject_GetAttr(object, prefix_length));
+    value.mask = tesselctl::prefix_mask(static_cast<unsigned>(PyLong_AsUnsignedLong(length.get())),
+                                        field.width);
+  }
+  return value;
+}
+
 }  // namespace
 
 Number to_number(const Field &field, PyObject *object) {
@@ -119,6 +160,7 @@ FieldValue to_value(const Field &field, PyObject *object) {
   if (PyLong_Check(object)) return whole(field, number_of_int(field, object));
   if (PyTuple_Check(object)) return value_of_pair(field, object);
   if (!PyBytes_Check(object) && !PyIndex_Check(object)) {
+    if (const std::optional<FieldValue> value = value_of_address(field, object)) return *value;
     if (const Ref address = address_text(object)) {
       return tesselctl::parse_value(field, {text_of(address.get()), 1});
     }

@@ -29,6 +29,11 @@ def test_values_in_every_notation(session, routes):
     for dip in ((0x0a010000, 16), ("10.1.0.0", 16), ipaddress.ip_network("10.1.0.0/16"),
                 (b"\x0a\x01\0\0", numpy.uint8(16))):
         assert routes.find(vrfId=numpy.int64(3), dip=dip) == entry
+    six = ipaddress.ip_network("2001:db8::/32")
+    key = ts.keys.ipv6ShortMaskLpm(vrfId=3, dip=six)
+    assert key.dip == str(six) and key._replace(dip=six[1]).dip == "2001:db8::1/128"
+    with pytest.raises(ValueError, match="not an IPv4 address"):
+        routes.find(vrfId=3, dip=six)
     key = routes.get(entry).key
     assert (key.vrfId, key.dip) == (3, "10.1.0.0/16")
     assert key._masked("dip") == (0x0a010000, 0xffff0000)

@@ -245,16 +245,26 @@ class RouteTable {
   std::vector<Column> columns_;
 };
 
+// By its text, or as the objects of ipaddress say.
+bool is_prefix_of_six(PyObject *prefix) {
+  if (PyUnicode_Check(prefix)) return text_of(prefix).find(':') != std::string_view::npos;
+  PyObject *version = PyObject_GetAttrString(prefix, "version");
+  if (version == nullptr) {
+    PyErr_Clear();
+    raise(PyExc_TypeError, "the prefix of a route is a str or a network, not " + type_name(prefix));
+  }
+  return unsigned_of(Ref(version).get(), 4, "version") == 6;
+}
+
 // Whether the address of a route is one of IPv6; stores the route in the table of its kind.
 bool store_route(std::array<RouteTable *, 2> tables, PyObject *route) {
   const Ref pair(PyTuple_Check(route) ? Py_NewRef(route) : PySequence_Tuple(route));
   if (PyTuple_Size(pair.get()) != 2) {
     raise(PyExc_ValueError, "a route is a prefix and a next hop");
   }
-  Ref prefix = Ref::borrowed(PyTuple_GetItem(pair.get(), 0));
-  if (!PyUnicode_Check(prefix.get())) prefix = Ref(PyObject_Str(prefix.get()));
-  const bool is_six = text_of(prefix.get()).find(':') != std::string_view::npos;
-  tables[is_six ? 1 : 0]->store(prefix.get(), PyTuple_GetItem(pair.get(), 1));
+  PyObject *prefix = PyTuple_GetItem(pair.get(), 0);
+  const bool is_six = is_prefix_of_six(prefix);
+  tables[is_six ? 1 : 0]->store(prefix, PyTuple_GetItem(pair.get(), 1));
   return is_six;
 }
 
