@@ -1,9 +1,10 @@
 """Makes the site of the documentation in build/docs/site.
 
     site.py TOOL
+    site.py TOOL DIR     only the pages of functions, as Markdown, into DIR
 
-The pages are those of the project, which are also read where its files are. One of them gets what the
-library says of its functions, by the tool.
+The pages are those of the project, which are also read where its files are. Two of them get what library
+and soft SDK say of their functions, by the tool.
 """
 import html.parser
 import json
@@ -62,11 +63,16 @@ def shape(function, prefix, kinds):
     return prefix + name
 
 
-def about_all(statuses):
+def statuses():
+    text = (ROOT / "docs/statuses.md").read_text()
+    return set(re.findall(r"\| `(\w+)` \|", text)) | set(re.findall(r"^\| \S+ `(\w+)`", text, re.M))
+
+
+def about_all():
     """What the header says of all functions."""
     header = next((ROOT / "include").glob("p4_pd_*_*.h")).read_text()
     note = re.search(r" \* Arguments\n((?: \*   .*\n)+)", header)[1].replace(" *   ", "")
-    return f"\n## Arguments\n\n{marked(note, statuses)}"
+    return f"\n## Arguments\n\n{marked(note, statuses())}"
 
 
 def c_interface(tool):
@@ -80,23 +86,41 @@ def c_interface(tool):
     families = {}
     for function in functions:
         families.setdefault(function["family"], []).append(function)
-    statuses = set(re.findall(r"\| `(\w+)` \|", (ROOT / "docs/statuses.md").read_text()))
-    statuses |= set(re.findall(r"^\| \S+ `(\w+)`", (ROOT / "docs/statuses.md").read_text(), re.M))
-    page, topic = about_all(statuses), ""
+    page, topic = about_all(), ""
     for family in sorted(families, key=order.get):
         of_family = families[family]
         # The one that shows most: each has the parameters that its object wants.
         most = max(of_family, key=lambda f: f["prototype"].count(","))
         if most["topic"] != topic:
             topic = most["topic"]
-            page += f"\n## {topic}\n\n{marked(most['note'], statuses)}\n"
+            page += f"\n## {topic}\n\n{marked(most['note'], statuses())}\n"
         count = f", {len(of_family)} functions" if len(of_family) > 1 else ""
         page += (f"\n#### `{shape(most, prefix, kinds)}`{count} {{: #{family} }}\n\n"
                  f"```c\n{most['prototype']}\n```\n\n```c\n{most['example']}\n```\n")
-    path = PAGES / "docs/c-interface.md"
-    text = path.read_text()
-    path.unlink()
-    path.write_text(text + page)
+    return page
+
+
+def soft_sdk(tool):
+    names = [row["function"] for row in answers(tool, ["api soft"])[0]]
+    functions = [rows[0] for rows in answers(tool, [f"api {name}" for name in names])]
+    page, header = "\n## All functions\n", ""
+    for function in functions:
+        if function["family"] != header:
+            header = function["family"]
+            page += f"\n### {header}\n"
+        page += (f"\n#### `{function['function']}`\n\n{marked(function['note'], statuses())}\n\n"
+                 f"```c\n{function['prototype']}\n```\n")
+    return page
+
+
+def write_functions(tool, folder):
+    """The pages with functions, their lists behind them. Only those of the site have names of places."""
+    for name, functions in (("c-interface.md", c_interface), ("soft-sdk.md", soft_sdk)):
+        listed = functions(tool)
+        if folder != PAGES / "docs":
+            listed = re.sub(r" \{: #\w+ \}", "", listed)
+        (folder / name).unlink(missing_ok=True)
+        (folder / name).write_text((ROOT / "docs" / name).read_text() + listed)
 
 
 # ---- Links ----
@@ -129,8 +153,13 @@ def broken_links():
 
 
 def main():
+    tool = os.path.abspath(sys.argv[1])
+    if len(sys.argv) > 2:
+        folder = pathlib.Path(sys.argv[2])
+        folder.mkdir(parents=True, exist_ok=True)
+        return write_functions(tool, folder)
     stage()
-    c_interface(os.path.abspath(sys.argv[1]))
+    write_functions(tool, PAGES / "docs")
     run("mkdocs", "build", "--clean", "--strict", "--quiet")
     faults = list(broken_links())
     if faults:

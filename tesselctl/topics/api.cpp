@@ -5,6 +5,7 @@
 
 #include "tesselctl/command/topic.hpp"
 #include "tesselctl/program/c_call.hpp"
+#include "tesselctl/topics/soft_functions.hpp"
 
 namespace tesselctl {
 
@@ -59,6 +60,59 @@ void print_function(Context &context, const Export &function) {
                                        wrapped_text(note.text), example));
 }
 
+// ---- The control interface of the soft SDK ----
+
+constexpr std::string_view kSoftTopic = "Control of the soft SDK";
+
+Row described(const SoftFunction &function) {
+  return Row()
+      .object("function", function.name)
+      .choice("family", function.header)
+      .choice("topic", kSoftTopic);
+}
+
+void print_soft_function(Context &context, const SoftFunction &function) {
+  Row row = described(function);
+  row.text("note", function.note).text("prototype", function.records + function.prototype);
+  context.results.row(row, fmt::format("{}{}\n\n{}, {}\n{}", function.records, function.prototype,
+                                       kSoftTopic, function.header, wrapped_text(function.note)));
+}
+
+// Explains the function of that name, or lists those of a header, or all for "soft". Returns false
+// when it is none of these.
+bool print_soft(Context &context, std::string_view name) {
+  const auto functions = soft_functions();
+  const auto named = std::ranges::find(functions, name, &SoftFunction::name);
+  if (named != functions.end()) {
+    print_soft_function(context, *named);
+    return true;
+  }
+  bool is_known = false;
+  for (const SoftFunction &function : functions) {
+    if (name != "soft" && name != function.header) continue;
+    context.results.row(described(function));
+    is_known = true;
+  }
+  return is_known;
+}
+
+// ---- Statuses ----
+
+// The status of that name in words. Returns false when none has it.
+bool print_status(Context &context, std::string_view name) {
+  for (uint32_t i = 0; i <= 0x2000; ++i) {
+    const uint32_t status = i == 0x2000 ? P4_PD_MEMBER_KEEPS_ACTION : i;
+    const p4_pd_status_info_t own = p4_pd_describe_status(status);
+    const bool is_own = own.name != nullptr && name == own.name;
+    if (!is_own && name != soft_status_name(status)) continue;
+    const std::string_view text = is_own ? own.text : soft_status_text(status);
+    context.results.row(Row().choice("name", name).number("status", status).text("text", text),
+                        fmt::format("{} ({}): {}", name, static_cast<int32_t>(status), text));
+    return true;
+  }
+  return false;
+}
+
 // ---- Lists ----
 
 Row listed(const Export &function) {
@@ -108,6 +162,8 @@ std::string_view without_prefix(std::string_view name) {
   for_each_export([&](const Export &function) {
     known.insert({short_name(function), function.family, function.object});
   });
+  const std::vector<SoftFunction> soft = soft_functions();
+  for (const SoftFunction &function : soft) known.insert({function.name, function.header});
   const std::string near = common::nearest(without_prefix(word.text), known);
   throw Fault(word, "no function, family or object has this name", near);
 }
@@ -123,6 +179,9 @@ void print_api(Context &context, const Invocation &invocation) {
     if (belongs_to(function, word.text)) members.push_back(&function);
   });
   if (named != nullptr) return print_function(context, *named);
+  if (members.empty() && (print_soft(context, word.text) || print_status(context, word.text))) {
+    return;
+  }
   for (const Export *function : members) context.results.row(listed(*function));
   if (members.empty()) throw_unknown_name(word);
 }
@@ -136,6 +195,7 @@ void offer_functions(Offers &offers, const Context &, const Command &, Words) {
   for_each_export([&](const Export &function) {
     offers.offer(whole ? function.name : short_name(function), note_of(function).title);
   });
+  for (const SoftFunction &function : soft_functions()) offers.offer(function.name, kSoftTopic);
 }
 
 void offer_families(Offers &offers, const Context &, const Command &, Words) {
@@ -148,8 +208,8 @@ constexpr ObjectWord kWords[] = {{"FUNCTION", offer_functions}, {"FAMILY", offer
 
 constexpr Command kCommands[] = {
     {"api", "[FUNCTION|FAMILY|TABLE|ACTION|PROFILE|COUNTER|METER|REGISTER|HASH|SET|DIGEST]",
-     "explains a function of the library with an example, or lists those of a name, or families",
-     print_api, Kind::lists},
+     "explains a function or a status, or lists the functions of a name, or families", print_api,
+     Kind::lists},
 };
 
 }  // namespace

@@ -1,4 +1,5 @@
 """Runs the example of every function, behind the calls that it names, each on a fresh soft device.
+Each function that the soft SDK has beside the contract is explained.
 
 usage: example_calls_test.py TOOL SOURCE LIBRARY PROGRAM SOFT_SDK COMPILER [FLAG...]
 """
@@ -18,12 +19,24 @@ NO_NEXT = re.compile("get_next_|hdl_next")
 NONE_EVER = re.compile("get_first_|get_default_")  # in a table without a key, or a default
 ZERO = re.compile("plcmt_data_print$|_enum$|enum_to_string$|^supports_|cleanup$")  # is a result like others
 
+def explained(tool, names):
+    lines = subprocess.run([tool, "--json", "run", "-"], text=True, check=True, stdout=subprocess.PIPE,
+                           input="".join(f"api {name}\n" for name in names)).stdout.splitlines()
+    return {row["function"]: row for line in lines for row in json.loads(line)["rows"]}
+
+
+def check_control(tool, library):
+    names = set(re.findall(r" T (soft_\w+)", subprocess.run(
+        ["nm", "-D", library], text=True, check=True, stdout=subprocess.PIPE).stdout))
+    rows = explained(tool, sorted(names))
+    assert set(explained(tool, ["soft"])) == set(rows) == names
+    assert all(row["note"] and name in row["prototype"] for name, row in rows.items()), rows
+
+
 def examples(tool, source):
     names = [name for name in (source / "abi/exports.txt").read_text().split()
              if name.startswith("p4_pd_") and not name.endswith("_strings")]
-    lines = subprocess.run([tool, "--json", "run", "-"], text=True, check=True, stdout=subprocess.PIPE,
-                           input="".join(f"api {name}\n" for name in names)).stdout.splitlines()
-    rows = {row["function"]: row for line in lines for row in json.loads(line)["rows"]}
+    rows = explained(tool, names)
     assert set(rows) == set(names)
     return rows
 
@@ -72,6 +85,7 @@ def program(rows):
 def main():
     tool, source, *libraries, compiler = sys.argv[1:6] + [sys.argv[6:]]
     source = pathlib.Path(source)
+    check_control(tool, libraries[-1])
     rows = examples(tool, source)
     with tempfile.TemporaryDirectory() as folder:
         path = pathlib.Path(folder, "examples")

@@ -27,14 +27,14 @@ bf_status_t soft_group_max_size(bf_device_id_t device, pipe_object_handle_t sele
 bf_status_t soft_fallback_member(bf_device_id_t device, pipe_object_handle_t selector,
                                  pipe_member_handle_t *member);
 
-/* The parsers that a value is in; SOFT_ALL_PARSERS and BF_ALL_PIPES as it was added.
- * BF_OBJECT_NOT_FOUND: the set has no such entry. */
+/* Where a value of a set is. */
 typedef struct soft_parsers {
   uint32_t direction; /* 0 ingress, 1 egress */
-  bf_pipe_id_t pipe;
-  uint8_t parser;
+  bf_pipe_id_t pipe;  /* or BF_ALL_PIPES, and */
+  uint8_t parser;     /* SOFT_ALL_PARSERS, as it was added */
 } soft_parsers_t;
 
+/* The parsers that a value is in. BF_OBJECT_NOT_FOUND: the set has no such entry. */
 bf_status_t soft_value_set_parsers(bf_device_id_t device, pipe_object_handle_t value_set,
                                    pipe_entry_handle_t entry, soft_parsers_t *parsers);
 

@@ -21,11 +21,11 @@ extern "C" {
 bf_status_t soft_placement_of_entry(bf_device_id_t device, pipe_object_handle_t table,
                                     pipe_entry_handle_t entry, pipe_mgr_placement_t **placement);
 
-/* The same for a member of an action profile. */
+/* Makes the placement data of a member of an action profile in the same way. */
 bf_status_t soft_placement_of_member(bf_device_id_t device, pipe_object_handle_t action_data_table,
                                      pipe_member_handle_t member, pipe_mgr_placement_t **placement);
 
-/* Null is allowed. */
+/* Releases placement data. Null is allowed. */
 void soft_placement_free(pipe_mgr_placement_t *placement);
 
 /* Damages the object, so that tests see what becomes of one that the SDK did not make. */

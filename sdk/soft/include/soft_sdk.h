@@ -53,6 +53,7 @@ bf_status_t soft_device_remove(bf_device_id_t device);
  * BF_NO_MEMORY: nothing has changed; nor has it after any other failure. */
 bf_status_t soft_device_copy(bf_device_id_t from, bf_device_id_t to);
 
+/* Whether a device has this id. */
 bool soft_device_exists(bf_device_id_t device);
 
 /* Writes up to capacity ids in ascending order and returns how many devices there are. */
@@ -65,7 +66,9 @@ bf_status_t soft_session_open(pipe_session_handle_t *session);
 bf_status_t soft_session_close(pipe_session_handle_t session);
 
 /* ---- Driver clients ---- */
+/* How many clients are registered. */
 uint32_t soft_client_count(void);
+
 /* The registration of a client: handle, priority and callbacks. A client that has registered no
  * callbacks yet has priority 0 and empty ones. Null out-parameters are skipped. */
 bf_status_t soft_client_get(const char *client_name, uint32_t *client, uint32_t *priority,
@@ -118,7 +121,7 @@ bf_status_t soft_packet(bf_device_id_t device, bf_pipe_id_t pipe, pipe_object_ha
 void soft_clock_advance(uint64_t milliseconds);
 uint64_t soft_clock_now(void);
 
-/* The same for one device alone: what it runs ahead of the process. A copy of a device, and
+/* The clock of one device alone, which runs ahead of the process. A copy of a device, and
  * what its state is replayed to, have its time. BF_INVALID_DEVICE means what it says,
  * BF_INVALID_ARGUMENT: the out-parameter is null. */
 bf_status_t soft_device_clock_advance(bf_device_id_t device, uint64_t milliseconds);
