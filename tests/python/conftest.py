@@ -25,3 +25,8 @@ def device(request):
     wanted = "package" if "package" in request.fixturenames else "program"
     with request.getfixturevalue(wanted).Device() as made:
         yield made
+
+
+@pytest.fixture
+def routes(session):
+    return session.tables.ipv4ShortMaskLpm
