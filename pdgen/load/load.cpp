@@ -5,6 +5,7 @@
 #include <system_error>
 #include <utility>
 
+#include "common/folder.hpp"
 #include "pdgen/check/check.hpp"
 #include "pdgen/load/load_sections.hpp"
 #include "pdgen/load/toml_reader.hpp"
@@ -96,9 +97,9 @@ std::vector<TextFile> read_files(const std::string &directory, std::string_view 
                                  Diagnostics &diagnostics) {
   std::vector<TextFile> files;
   std::error_code error;
-  for (const auto &entry : std::filesystem::directory_iterator(directory, error)) {
-    const std::string path = entry.path().string();
-    if (!path.ends_with(ending)) continue;
+  for (const std::string &name : common::names_in(directory, error)) {
+    if (!name.ends_with(ending)) continue;
+    const std::string path = std::filesystem::path(directory) / name;
     const auto text = read_file(path);
     if (!text) diagnostics.report({path, 1}, "file", "this file cannot be read");
     files.push_back({path, text.value_or("")});
@@ -107,7 +108,6 @@ std::vector<TextFile> read_files(const std::string &directory, std::string_view 
     diagnostics.report({directory, 1}, "directory", "this directory cannot be read: {}",
                        error.message());
   }
-  std::ranges::sort(files, {}, &TextFile::path);
   return files;
 }
 

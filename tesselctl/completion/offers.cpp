@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "common/folder.hpp"
 #include "tesselctl/command/grammar.hpp"
 #include "tesselctl/text/files.hpp"
 
@@ -19,12 +20,11 @@ char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + '
 std::vector<std::string> names_in(const std::string &folder, std::string_view beginning) {
   std::vector<std::string> names;
   std::error_code error;
-  for (std::filesystem::directory_iterator at(folder, error), end; at != end; at.increment(error)) {
-    std::string name = at->path().filename();
+  for (std::string &name : common::names_in(folder, error)) {
     const bool hidden = name.starts_with('.') && !beginning.starts_with('.');
     const bool fits = name.find_first_of("\"\n") == std::string::npos;
     if (hidden || !fits || !name.starts_with(beginning)) continue;
-    if (at->is_directory(error)) name += '/';
+    if (std::filesystem::is_directory(std::filesystem::path(folder) / name, error)) name += '/';
     names.push_back(std::move(name));
     if (names.size() == kMostFiles) break;
   }

@@ -1,6 +1,5 @@
 #include "tesselctl/journal/journal.hpp"
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <fmt/format.h>
 #include <unistd.h>
@@ -8,9 +7,9 @@
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
-#include <memory>
 #include <utility>
 
+#include "common/folder.hpp"
 #include "tesselctl/state/image.hpp"
 #include "tesselctl/text/files.hpp"
 #include "tesselctl/text/interrupt.hpp"
@@ -139,15 +138,15 @@ void Journal::remove_leftovers() {
   const std::string first = journal.filename().string() + ".";
   const std::string checkpoint = fs::path(checkpoint_path(options_.path, extent_.after)).filename();
   unlink(kept_path(journal).c_str());
-  const std::unique_ptr<DIR, int (*)(DIR *)> opened(opendir(folder.c_str()), closedir);
-  while (const dirent *entry = opened ? readdir(opened.get()) : nullptr) {
-    std::string_view number = entry->d_name;
+  std::error_code none;
+  for (const std::string &name : common::names_in(folder, none)) {
+    std::string_view number = name;
     if (number == checkpoint || !number.starts_with(first) || !number.ends_with(kImageEnd))
       continue;
     number.remove_prefix(first.size());
     number.remove_suffix(std::min(number.size(), kImageEnd.size()));
     const bool is_number = number.find_first_not_of("0123456789") == number.npos;
-    if (is_number && !number.empty()) unlink((folder / entry->d_name).c_str());
+    if (is_number && !number.empty()) unlink((folder / name).c_str());
   }
 }
 

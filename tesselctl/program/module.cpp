@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "common/folder.hpp"
 #include "common/nearest.hpp"
 #include "tesselctl/program/library.hpp"
 #include "tesselctl/text/files.hpp"
@@ -115,10 +116,9 @@ fs::path module_folder() {
 std::vector<std::string> program_names() {
   std::vector<std::string> names;
   std::error_code none;
-  for (const fs::directory_entry &entry : fs::directory_iterator(module_folder(), none)) {
-    if (entry.path().extension() == kEnding) names.push_back(entry.path().stem());
+  for (const fs::path file : common::names_in(module_folder(), none)) {
+    if (file.extension() == kEnding) names.push_back(file.stem());
   }
-  std::ranges::sort(names);
   return names;
 }
 
