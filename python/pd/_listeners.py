@@ -1,4 +1,4 @@
-"""Who is called about objects of devices: a callable of each session, though the library has one."""
+"""Who is called about objects of devices: a callable of each session; the library has one."""
 from __future__ import annotations
 
 from pd import _core
@@ -44,8 +44,8 @@ class Listeners:
 _all: dict[tuple[Any, int, str, str], Listeners] = {}
 
 
-def listen(program: Any, name: str, session: Any, family: str, callback: Any, deliver: Deliver,
-           ) -> None:
+def listen(program: Any, name: str, session: Any, family: str, callback: Any,
+           deliver: Deliver) -> None:
     """Has the callback called instead of the one that the session had; None: it has none.
 
     The callback gets what `deliver` hands to its first argument of what the library sends.
@@ -71,8 +71,8 @@ def _set(key: tuple[Any, int, str, str], listeners: Listeners, session: int, cal
         _all.pop(key, None)
 
 
-def _register(key: tuple[Any, int, str, str], listeners: Listeners, old: int | None, new: int | None,
-              session: int) -> None:
+def _register(key: tuple[Any, int, str, str], listeners: Listeners, old: int | None,
+              new: int | None, session: int) -> None:
     """The library knows the first session that listens, which messages are given back with."""
     program, device, family, name = key
     if new is not None and new == old:

@@ -252,8 +252,8 @@ class Stage(namedtuple("Stage", "record stage valid triggered")):
 class Snapshot:
     """Packet fields captured at a range of stages; a context manager that deletes it."""
 
-    def __init__(self, session: Any, direction: Literal["ingress", "egress"] = "ingress", first_stage: int = 0,
-                 last_stage: int = 0):
+    def __init__(self, session: Any, direction: Literal["ingress", "egress"] = "ingress",
+                 first_stage: int = 0, last_stage: int = 0):
         if direction not in ("ingress", "egress"):
             raise ValueError(f"direction is 'ingress' or 'egress', not {direction!r}")
         self.session, self.direction = session, direction
