@@ -1,10 +1,29 @@
 """Every function and every object of any program, called once with values of its description."""
+import inspect
+import sys
+
 import pytest
 
 import pd
+from pd._device import Namespace
 from samples import argument_of, fields_of, generator, outcomes, record_of, with_meter
 
 KNOWN = {cls.status for cls in vars(pd.errors).values() if hasattr(cls, "status")} | {0}
+
+
+@pytest.fixture(scope="module", autouse=True)
+def called():
+    """What the tests of this file call: the code of Python's functions, methods of the extension."""
+    seen = set()
+
+    def note(frame, event, argument):
+        if event == "call":
+            seen.add(frame.f_code)
+        elif event == "c_call":
+            seen.add(getattr(type(argument.__self__), argument.__name__, None))
+    sys.setprofile(note)
+    yield seen
+    sys.setprofile(None)
 
 
 def test_every_function(package, session):
@@ -92,10 +111,20 @@ def test_every_keyed_table(package, session):
         handles = with_meter(table.add_rows, last, rows)
         assert table.get(handles[0]).key == key(**{name: value for name, value in rows[0].items()
                                                    if name.endswith("_")}), table.name
-        assert table.clear() == 1
+        for many in (table.replace_rows, table.modify_rows):
+            assert with_meter(many, last, rows) == 1
+        assert table.delete_rows(rows) == 1
         columns = {name: ([value[0]], [value[1]]) if isinstance(value, tuple) else [value]
                    for name, value in fields_of(key, rng).items()}
         assert len(with_meter(table.add_columns, last, **columns, **rest)) == 1
+        for many in (table.replace_columns, table.modify_columns):
+            assert with_meter(many, last, **columns, **rest) == 1
+        assert table.delete_columns(**columns, **rest) == 1 and not list(table)
+        entry, = with_meter(table.add_columns, last, **columns, **rest)
+        if table.ages_entries:
+            table.enable_ageing(sweep_interval=500, default_ttl=2000)
+            table.set_ttl(entry, 4000), table.set_active(entry)
+            assert table.ttl(entry) == 4000 and table.is_active(entry)
         assert table.clear() == 1 and not list(table)
     assert hits > len(session.tables) / 4
 
@@ -137,6 +166,10 @@ def test_every_profile(package, session):
             member = profile.add(action)
             assert member.action() == action
             member.modify(record_of(package.program, "actions", name, rng))
+            assert isinstance(member.placement(), pd.Opaque)
+            updates = []
+            profile.on_group_update(lambda *update: updates.append(update))
+            profile.on_member_update(lambda *update: updates.append(update))
             group = profile.create_group(member, max_size=4)
             assert list(group) == [member] and len(group) == 1 and group.max_size() == 4
             assert group.choose(1) == member and group.is_enabled(member)
@@ -150,6 +183,9 @@ def test_every_profile(package, session):
             assert list(profile.groups()) == [group] and list(profile) == [member]
             assert (len(profile), profile.group_count()) == (1, 1)
             assert profile.clear() == 2
+            assert {len(update) for update in updates} == {2, 3}
+            profile.set_capacity(7)
+            assert profile.capacity() == 7
 
 
 def test_every_cell(session):
@@ -183,6 +219,33 @@ def test_every_cell(session):
         register.synchronise()
         with pytest.raises(ValueError, match=register.name):
             register.write(0, most + 1)
+
+
+def test_everything_of_a_device(package, session, device, journal, faults):
+    for plan in (faults.fail_any_call,
+                 lambda status: faults.fail_call("pipe_mgr_get_entry_count", status)):
+        plan(pd.errors.NotReady)
+        with pytest.raises(pd.errors.NotReady):
+            len(next(iter(session.tables)))
+    assert [one.status for one in journal.calls()] == [pd.errors.NotReady.status] * 2
+    faults.fail_allocation(1 << 40)
+    assert faults.pending() == 1
+    faults.clear(), journal.stop(), journal.clear(), journal.start()
+    before = pd.clock.now(), device.now()
+    pd.clock.advance(5), device.advance(7)
+    assert (pd.clock.now(), device.now()) == (before[0] + 5, before[1] + 12)
+    assert list(session.tables.keys()) == [name for name, _ in session.tables.items()]
+    with package.Device(1) as second, package.Device(2, virtual=True) as virtual:
+        device.copy_to(second), session.on(second).restore_virtual(virtual)
+        second.restore(device.log())
+        assert second.memory() > 0
+    session.set_learning_timeout(1000), session.set_wred(0x07000001, 3, (1.5, 10, 20, 0.25))
+    assert session.wred(0x07000001, 3) == (1.5, 10, 20, 0.25)
+    tables, action = package.program.routes
+    four, six = ({label: 7 for label, _, _, match, _ in
+                  package.program.record("keys", name)._describe() if match != "lpm"} for name in tables)
+    if action and four == six:
+        assert session.add_routes([("192.0.2.0/24", 1), ("2001:db8::/32", 2)], **four) == 2
 
 
 def test_every_service(package, session):
@@ -228,3 +291,15 @@ def test_every_service(package, session):
                 assert snapshot.inject(first_stage=1, stages=2, **{label + "_": 1}) == 1
                 stages = snapshot.capture(pipe=0)
                 assert [(one.stage, one.triggered) for one in stages] == [(1, True), (2, True)]
+
+
+def test_no_method_is_left_out(called):
+    """The tests before this one have called each public method of each class."""
+    left, classes = [], (*vars(pd).values(), Namespace)
+    for cls in {one for one in classes if inspect.isclass(one) and one.__module__.startswith("pd._")}:
+        for name, one in inspect.getmembers(cls, inspect.isroutine):
+            code = getattr(one, "__code__", None)
+            is_own = code or getattr(getattr(one, "__objclass__", None), "__module__", "") == "pd"
+            if is_own and not name.startswith("_") and (code or one) not in called:
+                left.append(f"{cls.__name__}.{name}")
+    assert not left, " ".join(sorted(left))
