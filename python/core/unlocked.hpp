@@ -5,7 +5,8 @@
 #define PY_SSIZE_T_CLEAN
 #define Py_LIMITED_API 0x030b0000
 #include <Python.h>
-#include <cxxabi.h>
+
+#include <exception>
 
 namespace python {
 
@@ -30,8 +31,10 @@ template <class Body>
 auto until_end(Body body) {
   try {
     return body();
-  } catch (const abi::__forced_unwind &) {
-    wait_for_end();
+  } catch (...) {
+    // Unwinding is no exception of C++.
+    if (std::current_exception() == nullptr) wait_for_end();
+    throw;
   }
 }
 
