@@ -1,5 +1,5 @@
-// What an entry, a member or a membership cannot be made of. No typed call says such things, so
-// random calls of a library do not meet them.
+// What an entry, a member, a membership or a value of parsers cannot be made of. No typed call says
+// such things, so random calls of a library do not meet them.
 #include "program.hpp"
 
 namespace {
@@ -25,23 +25,13 @@ class Refusals : public SoftTest {
     return [=](Action &action) { action.spec.type = type; };
   }
 
-  // As an entry, as what an entry becomes, and as a default entry; the statuses of the first two.
   void try_entry(const Case &one) const {
     const bool has_data = one.action == kForward || one.action == kSend;
     Action made(has_data ? 9 : 0, has_data ? Bytes{0, 1} : Bytes{});
     one.change(made);
-    const bool is_acl = one.table == kAcl;
-    const Key key(is_acl               ? 16
-                  : one.table == kHost ? 20
-                                       : 8,
-                  Bytes(is_acl               ? 2
-                        : one.table == kHost ? 3
-                                             : 1,
-                        1),
-                  Bytes(is_acl               ? 2
-                        : one.table == kHost ? 3
-                                             : 1,
-                        255));
+    const size_t bytes = one.table == kAcl ? 2 : one.table == kHost ? 3 : 1;
+    const Key key(bytes == 3 ? 20 : static_cast<uint16_t>(8 * bytes), Bytes(bytes, 1),
+                  Bytes(bytes, 255));
     uint32_t entry = kNowhere;
     EXPECT_EQ(pipe_mgr_mat_ent_add(session, kDevice, kAll, one.table, &key.spec, one.action,
                                    &made.spec, 0, 0, &entry),
@@ -126,6 +116,22 @@ TEST_F(Refusals, OfMembersAndMemberships) {
   EXPECT_EQ(join(kDeny), BF_FOREIGN_ACTION);
   EXPECT_EQ(join(kFlood), BF_INVALID_ARGUMENT) << "the member has another action";
   OK(join(kSend));
+}
+
+TEST_F(Refusals, OfValuesOfParsers) {
+  uint32_t entry = kNowhere;
+  EXPECT_EQ(pipe_mgr_pvs_set_property(session, kDevice, kPortSet, 2, 0, 0, 0), BF_INVALID_ARGUMENT);
+  EXPECT_EQ(pipe_mgr_pvs_get_property(session, kDevice, kPortSet, 0, &entry, 0, 0),
+            BF_INVALID_ARGUMENT);
+  EXPECT_EQ(pipe_mgr_pvs_entry_add(session, kDevice, kPortSet, 2, 0, 0, 1, 1, &entry),
+            BF_INVALID_ARGUMENT);
+  EXPECT_EQ(soft_value_set_match(kDevice, kPortSet, 0, 0, SOFT_ALL_PARSERS, 1, &entry),
+            BF_INVALID_ARGUMENT);
+  for (const uint32_t from : {0u, 8u}) {  // never issued
+    EXPECT_EQ(pipe_mgr_pvs_entry_get_next(session, kDevice, kPortSet, 0, 0, 0, from, 1, &entry),
+              BF_OBJECT_NOT_FOUND);
+  }
+  EXPECT_EQ(entry, kNowhere);
 }
 
 }  // namespace

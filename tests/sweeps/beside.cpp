@@ -26,8 +26,10 @@ Beside::Beside(uint64_t of_seed, bool prints)
   for (ModelTable &table : model.tables) {
     choose_keys(*table.row);
     choose_deeds(*table.row);
+    if (!shows_all) turns.push_back({&table, nullptr, nullptr, nullptr});
     for (const Deed &deed : deeds[table.row]) turns.push_back({&table, &deed, nullptr, nullptr});
   }
+  for (const pdgen::ValueSet &row : program().value_sets) model.sets.push_back({&row, {}, 0, 0});
   for (ModelProfile &profile : model.profiles) {
     for (auto &pair : profile.row->actions) turns.push_back({nullptr, nullptr, &profile, &pair});
   }
@@ -71,7 +73,7 @@ void Beside::choose_tables() {
     for (const pdgen::Resource &resource : list) {
       if (!resource.direct()) (is_chosen(resource) ? *chosen : others).push_back(&resource);
     }
-    if (!others.empty()) chosen->push_back(others[static_cast<size_t>(random() % others.size())]);
+    if (!others.empty()) chosen->push_back(others[static_cast<size_t>(seed % others.size())]);
   };
   choose(program().counters, &counters);
   choose(program().meters, &meters);
@@ -90,14 +92,6 @@ void Beside::cut_key(const pdgen::Table &table, uint8_t *record) {
       std::memcpy(&record[member.offset], &length, sizeof length);
     }
     width = member.width;
-  }
-}
-
-void Beside::cut_action(const bindings::Record &layout, uint8_t *record) {
-  for (const bindings::Member &member : layout.member_list()) {
-    for (unsigned bit = member.width; bit < 8 * member.storage; ++bit) {
-      record[member.offset + bit / 8] &= static_cast<uint8_t>(~(1u << bit % 8));
-    }
   }
 }
 
@@ -139,7 +133,7 @@ void Beside::choose_deeds(const pdgen::Table &table) {
       const bindings::Record &record = record_of(*pair.action);
       deed.pair = &pair;
       deed.record = random_record(record, random);
-      if (shows_all) cut_action(record, deed.record.data());
+      if (shows_all) cut_action(*pair.action, deed.record.data());
       for (const bindings::Field &field : record.field_list()) {
         if (field.cells.empty()) continue;
         const auto cell = static_cast<uint32_t>(random() % 3);
@@ -214,6 +208,8 @@ void Beside::move() {
     model.meters.clear();
     model.registers.clear();
     model.adjustments.clear();
+    model.seeds.clear();
+    for (ModelSet &set : model.sets) set = {set.row, {}, 0, 0};
   } else {
     note(fmt::format("soft_device_copy({}, {})", device, other));
     ASSERT_EQ(soft_device_copy(device, other), BF_SUCCESS);
@@ -278,8 +274,12 @@ uint64_t Beside::call(std::string_view family, std::string_view object, std::str
   const uint64_t result = arguments.call();
   if (trace) {
     if (arguments.takes("target")) note(fmt::format("target.pipe_id = {:#x}", pipe));
-    fmt::print("{}", tesselctl::c_call(arguments.exported(), arguments.words().data(),
-                                       tesselctl::status_name(static_cast<uint32_t>(result))));
+    const Export &made = arguments.exported();
+    const bool is_status = std::string_view(made.result) == "p4_pd_status_t";
+    fmt::print("{}",
+               tesselctl::c_call(made, arguments.words().data(),
+                                 is_status ? tesselctl::status_name(static_cast<uint32_t>(result))
+                                           : std::to_string(result)));
   }
   return result;
 }
@@ -309,13 +309,14 @@ void Beside::step(uint32_t number) {
       &Beside::change_counter,    &Beside::change_meter,      &Beside::change_age,
       &Beside::change_age,        &Beside::advance_clock,     &Beside::change_counter_cell,
       &Beside::change_meter_cell, &Beside::change_meter_cell, &Beside::change_register,
-      &Beside::change_register,   &Beside::examine_entry};
+      &Beside::change_register,   &Beside::examine_entry,     &Beside::change_value,
+      &Beside::change_value};
   static const std::vector<Step> of_profiles = {
       &Beside::change_member,     &Beside::change_member,     &Beside::change_group,
       &Beside::change_membership, &Beside::change_membership, &Beside::change_membership,
       &Beside::change_membership, &Beside::change_fallback};
   static const std::vector<Step> seldom = {&Beside::change_property, &Beside::switch_ageing,
-                                           &Beside::change_limit};
+                                           &Beside::change_limit, &Beside::change_seed};
   dice = Dice(seed << 20 | number);
   if (number < turns.size()) return take(turns[number]);
   const bool drains = number / 250 % 3 == 2 && dice.one_in(2);
@@ -336,6 +337,7 @@ void Beside::take(const Turn &turn) {
     return;
   }
   ModelTable &table = *turn.table;
+  if (turn.deed == nullptr) return set_property(table, PIPE_TABLE_ENTRY_SCOPE);
   if (is_sent(*turn.deed->pair, pdgen::Operation::kDefault)) {
     set_default(table, kAll, turn.deed);
     const ModelEntry *const standing = table.default_in(kAll);
@@ -356,6 +358,11 @@ void Beside::compare() {
     compare_slots(profile);
   }
   compare_cells();
+  const auto id = static_cast<uint32_t>(device);
+  for (const ModelSet &set : model.sets) {
+    compare_values(set, {id, 0, kAll, SOFT_ALL_PARSERS});
+    compare_values(set, {id, 1, 1, 0});
+  }
   trace = traced;
 }
 

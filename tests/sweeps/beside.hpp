@@ -55,7 +55,8 @@ class Beside {
     Bytes record;
     ActionSpec images[pdgen::kOperationCount];
   };
-  // What a run begins with, so that there is each once: an action of a table or of a profile.
+  // What a run begins with, so that there is each once: an action of a table or of a profile, or
+  // the scope of a table's entries.
   struct Turn {
     ModelTable *table;
     const Deed *deed;
@@ -81,6 +82,7 @@ class Beside {
   void change_default();
   void set_default(ModelTable &table, uint32_t pipe, const Deed *deed = nullptr);
   void change_property();
+  void set_property(ModelTable &table, uint32_t property);
 
   // ---- Texts and placement data ----
   void examine_entry();
@@ -120,11 +122,19 @@ class Beside {
   template <class Change>
   void each_cell(const pdgen::Resource &reg, uint32_t named, Change change);
 
+  // ---- Value sets and hash calculations ----
+  void change_value();
+  p4_pd_status_t call_for(const ModelSet &set, std::string_view family, const ModelValue &value,
+                          uint64_t entry);
+  void change_known_value(ModelSet &set, ModelValue value);
+  void match_value(const ModelSet &set, const ModelValue &value);
+  void compare_values(const ModelSet &set, const p4_pd_parser_target_t &at);
+  void change_seed();
+
   // Goes on with a copy of the device, or with one that its state was replayed to.
   void move();
-  // Leave no bits that texts do not show.
+  // Leaves no bits that texts do not show.
   static void cut_key(const pdgen::Table &table, uint8_t *record);
-  static void cut_action(const bindings::Record &layout, uint8_t *record);
   // An image of the device makes another one that has the same image.
   void save_and_load();
 
@@ -189,8 +199,10 @@ class Beside {
   void compare_slots(const ModelProfile &profile);
   void compare_register(const pdgen::Resource &reg);
   void compare_cells();
+  static constexpr uint32_t kNone = 0xffffffff;  // behind the last handle
   // Every handle of a list, in steps of some length. what: "entry", "member", "group".
-  Words walk(const std::string &object, const std::string &what, uint32_t pipe);
+  Words walk(const std::string &object, const std::string &what, uint32_t pipe,
+             const std::string &of = "", const Given &where = {});
 
   Random random;  // of the choice in the beginning
   const uint64_t seed;

@@ -28,7 +28,7 @@ void Beside::change_member() {
 Bytes Beside::member_record(const pdgen::ProfileAction &pair) {
   Bytes record(record_of(*pair.action).size);
   for (uint8_t &byte : record) byte = static_cast<uint8_t>(dice());
-  if (shows_all) cut_action(record_of(*pair.action), record.data());
+  if (shows_all) cut_action(*pair.action, record.data());
   return record;
 }
 

@@ -264,8 +264,11 @@ void Beside::set_default(ModelTable &table, uint32_t pipe, const Deed *deed) {
 }
 
 void Beside::change_property() {
-  ModelTable &table = dice.of(model.tables);
   const uint32_t property = shows_all ? uint32_t{PIPE_TABLE_CAPACITY} : 1 + dice.below(4);
+  set_property(dice.of(model.tables), property);
+}
+
+void Beside::set_property(ModelTable &table, uint32_t property) {
   uint32_t value = dice.one_in(9) ? 2 : dice.below(2);
   p4_pd_status_t expected = property == 4 ? BF_INVALID_ARGUMENT : BF_SUCCESS;
   if (property == PIPE_TABLE_CAPACITY) {
@@ -346,22 +349,25 @@ void Beside::compare_stateful(const ModelTable &table, const ModelEntry &entry) 
   }
 }
 
-Words Beside::walk(const std::string &object, const std::string &what, uint32_t pipe) {
+Words Beside::walk(const std::string &object, const std::string &what, uint32_t pipe,
+                   const std::string &of, const Given &where) {
   const bool is_entry = what == "entry";
   const std::string many = is_entry ? "entries" : what + "s";
-  const std::string first = "get_first_" + what + (is_entry ? "_handle" : "");
-  const std::string next = "get_next_" + (is_entry ? "entry_handles" : many);
-  constexpr uint32_t kNone = 0xffffffff;  // behind the last handle
+  const std::string first = of + "get_first_" + what + (is_entry ? "_handle" : "");
+  const std::string next = of + "get_next_" + (is_entry ? "entry_handles" : many);
   Words all, step(1);
-  p4_pd_status_t status = status_of(first, object, with(what, step.data()), pipe);
+  const auto go = [&](const std::string &family, Given given) {
+    given.insert(given.end(), where.begin(), where.end());
+    return status_of(family, object, std::move(given), pipe);
+  };
+  p4_pd_status_t status = go(first, with(what, step.data()));
   if (status != BF_SUCCESS) step = {kNone};
   while (status == BF_SUCCESS) {
     std::ranges::copy_if(step, std::back_inserter(all), [](uint32_t one) { return one != kNone; });
     if (step.back() == kNone) break;
     step.assign(1 + all.size() % 4, 0);
-    status = status_of(
-        next, object,
-        with(what, all.back(), "count", step.size(), std::string_view(many), step.data()), pipe);
+    status =
+        go(next, with(what, all.back(), "count", step.size(), std::string_view(many), step.data()));
   }
   EXPECT_TRUE(status == BF_SUCCESS || status == BF_OBJECT_NOT_FOUND);
   std::ranges::sort(all);

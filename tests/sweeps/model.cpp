@@ -14,6 +14,14 @@ const pdgen::Resource *resource_of(uint32_t handle) {
   return nullptr;
 }
 
+void cut_action(const pdgen::Action &action, uint8_t *record) {
+  for (const bindings::Member &member : record_of(action).member_list()) {
+    for (unsigned bit = member.width; bit < 8 * member.storage; ++bit) {
+      record[member.offset + bit / 8] &= static_cast<uint8_t>(~(1u << bit % 8));
+    }
+  }
+}
+
 uint8_t MeterCell::mark(uint64_t cost, uint64_t now) {
   const uint64_t most_committed = spec.committed_burst * uint64_t{1000};
   const uint64_t most_peak = spec.peak_burst * uint64_t{1000};
@@ -140,7 +148,11 @@ bool ModelTable::alike(const ModelEntry &a, const ModelEntry &b) const {
     return false;
   }
   if (row->indirect()) return a.type == b.type && a.reference == b.reference;
-  return a.action == b.action && (!a.action->has_params() || a.kept() == b.kept());
+  if (a.action != b.action || !a.action->has_params()) return a.action == b.action;
+  Bytes left = a.kept(), right = b.kept();
+  cut_action(*a.action, left.data());
+  cut_action(*b.action, right.data());
+  return left == right;
 }
 
 p4_pd_status_t ModelTable::apply(const Wanted &wanted, ModelEntry *entry) const {

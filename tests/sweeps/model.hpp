@@ -148,6 +148,24 @@ struct ModelProfile {
   uint32_t choose(uint32_t group, const Bytes &hash) const;
 };
 
+struct ModelValue {
+  p4_pd_parser_target_t where;
+  uint32_t value, mask;
+
+  // Whether parsers have it in common with others.
+  bool is_in(const p4_pd_parser_target_t &at) const;
+};
+
+struct ModelSet {
+  const pdgen::ValueSet *row = nullptr;
+  std::map<uint32_t, ModelValue> entries;
+  uint32_t last = 0, capacity = 0;
+
+  bool is_full(const ModelValue &value) const;
+  // The first entry but one that is the same for a parser of the value, or 0.
+  uint32_t find(const ModelValue &value, uint32_t but = 0) const;
+};
+
 // Of the objects that a run is about.
 struct ModelDevice {
   using Cell = std::array<uint32_t, 3>;  // object, pipe and index
@@ -157,6 +175,8 @@ struct ModelDevice {
   std::map<Cell, MeterCell> meters;
   std::map<Cell, RegisterCell> registers;
   std::map<uint32_t, int32_t> adjustments;  // of meters
+  std::vector<ModelSet> sets;
+  std::map<uint32_t, uint64_t> seeds;  // of hash calculations
   uint64_t lead_ms = 0;
 
   void add_table(const pdgen::Table &row);
@@ -171,5 +191,7 @@ struct ModelDevice {
 };
 
 const pdgen::Resource *resource_of(uint32_t handle);
+// Leaves no bits beyond the widths of parameters.
+void cut_action(const pdgen::Action &action, uint8_t *record);
 
 }  // namespace pd_test

@@ -10,27 +10,6 @@ namespace {
 
 class ServiceSweep : public LibraryTest {};
 
-TEST_F(ServiceSweep, RegistersKeepAsManyBitsAsTheyHave) {
-  for (const pdgen::Resource &reg : program().registers) {
-    SCOPED_TRACE(reg.name);
-    const uint32_t given = 0xfedcba98;
-    uint32_t count = 0;
-    Bytes wanted = {0x98, 0xba, 0xdc, 0xfe, 0xee};
-    Bytes read(wanted.size(), 0xee);
-    if (reg.width == 1) wanted[0] = 1;  // for any value but 0
-    std::fill(wanted.begin() + std::max(1u, reg.width / 8), wanted.end(), uint8_t{0xee});
-    for (const char *write : {"register_write", "register_write_all"}) {
-      EXPECT_EQ(run(write, reg.name, with("index", 5, "value", &given)), BF_SUCCESS);
-      EXPECT_EQ(run("register_read", reg.name,
-                    with("index", 5, "flags", 0, "values", read.data(), "value_count", &count)),
-                BF_SUCCESS);
-      EXPECT_EQ(count, 1u);
-      EXPECT_EQ(hex(read), hex(wanted));
-      EXPECT_EQ(run("register_reset_all", reg.name, {}), BF_SUCCESS);
-    }
-  }
-}
-
 TEST_F(ServiceSweep, FieldsOfDigestsLieWhereTheirRowsSay) {
   const Bytes entry(1 << 16);
   for (const pdgen::Digest &digest : program().digests) {
