@@ -74,6 +74,28 @@ TEST_F(Meters, BucketsGoWithTheirEntry) {
   EXPECT_EQ(held[2], held[1]);
 }
 
+// Whichever of its meters says so. No program of this tree has an action with two.
+TEST_F(Meters, TheWorstColourIsThatOfThePacket) {
+  const Key key(16, {8, 1}, {255, 255});
+  Action deny;
+  deny.resource(kPoliceMeter);
+  pipe_mgr_meter_spec_t &direct = deny.resource(kAclMeter).data.meter;
+  const auto none = meter_spec(PIPE_RATE_BYTES, 0, 0, 0, 0),
+             much = meter_spec(PIPE_RATE_BYTES, 9, 9999, 9, 9999);
+  const soft_traffic_t traffic{key.value.data(), 2, nullptr, 0, 1, 64};
+  for (const bool is_direct : {true, false}) {
+    uint32_t entry = 0;
+    soft_hit_t hit{};
+    direct = is_direct ? none : much;
+    OK(set(kPoliceMeter, 0, is_direct ? much : none));
+    OK(pipe_mgr_mat_ent_add(session, kDevice, kAll, kAcl, &key.spec, kDeny, &deny.spec, 0, 0,
+                            &entry));
+    OK(soft_traffic_hit(kDevice, 0, kAcl, &traffic, &hit));
+    EXPECT_EQ(hit.color, SOFT_COLOR_RED);
+    OK(pipe_mgr_mat_ent_del(session, kDevice, kAcl, entry, 0));
+  }
+}
+
 TEST_F(Meters, WredCellsAreFoundOneAfterTheOther) {
   const std::pair<pipe_object_handle_t, uint32_t> cells[] = {
       {kWred, 3}, {kWred, 9}, {0x07ffffff, 1}};
