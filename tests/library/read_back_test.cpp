@@ -57,21 +57,5 @@ TEST_F(ReadBack, TheMeterOverridesTheCounterInWhateverOrder) {
   }
 }
 
-// ---- Properties ----
-
-TEST_F(ReadBack, AFailedPropertyReadsAllOnes) {
-  uint32_t value = 1, argument = 2;
-  const auto get = PD(cpuEncap_get_property);
-  EXPECT_EQ(get(session(), kDevice, 4711, &value, &argument), BF_INVALID_ARGUMENT);
-  EXPECT_TRUE(value == 0xffffffff && argument == 0xffffffff);
-  EXPECT_EQ(PD(cpuEncap_set_property)(session(), kDevice, PIPE_TABLE_CAPACITY, 99, 0), BF_SUCCESS);
-  EXPECT_EQ(get(session(), kDevice, PIPE_TABLE_CAPACITY, &value, &argument), BF_SUCCESS);
-  EXPECT_TRUE(value == 99 && argument == 0);
-  soft::faults::fail_call("pipe_mgr_pvs_get_property", 1, BF_HARDWARE_FAULT);
-  EXPECT_EQ(PD(pvs_fabric_port_get_property)(session(), kDevice, PIPE_PVS_CAPACITY, &value, 0),
-            BF_HARDWARE_FAULT);
-  EXPECT_EQ(value, 0xffffffffu);
-}
-
 }  // namespace
 }  // namespace pd_test

@@ -64,22 +64,6 @@ TEST_F(Stateful, MetersReadTheirLowHalves) {
 
 constexpr uint32_t kWide = 0x06000005;  // the one of 32 bits
 
-TEST_F(Stateful, OneFlagAsksTheHardware) {
-  EXPECT_EQ(soft_register_write(kDevice, kPipe, kWide, 22, 0x80000102), BF_SUCCESS);
-  for (const uint32_t wanted : {0u, 0x80000102u}) {
-    const uint32_t flags = wanted == 0 ? ~P4_PD_READ_FROM_HARDWARE : 0xffffffff;
-    uint32_t word = 7, count = 0;
-    PD(register_read_flowDigestCountReg)(session(), kTarget, 22, flags, &word, &count);
-    EXPECT_EQ(word, wanted);
-  }
-  p4_pd_counter_values_t counted;
-  const Call plain = only_call([&] {
-    PD(counter_read_pdpClassCount)
-    (session(), kTarget, 9, ~P4_PD_READ_FROM_HARDWARE, &counted);
-  });
-  EXPECT_EQ(plain.function, "pipe_mgr_stat_ent_query");
-}
-
 TEST_F(Stateful, RegistersByHandleTakeTheDevicesRecords) {
   pipe_stful_cell_t cell = {}, read = {};
   for (uint8_t i = 0; i < sizeof cell.bytes; ++i) cell.bytes[i] = static_cast<uint8_t>(0xa0 + i);

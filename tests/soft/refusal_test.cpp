@@ -75,25 +75,6 @@ TEST_F(Refusals, OfActionsOfEntries) {
   }
 }
 
-TEST_F(Refusals, OfDefaultEntriesAndResources) {
-  const Action forward(9, {0, 1}), deny;
-  uint32_t entry = kNowhere;
-  EXPECT_EQ(pipe_mgr_mat_default_entry_set(session, kDevice, kAll, kHost, kForward, &forward.spec,
-                                           0, &entry),
-            BF_INVALID_ARGUMENT);
-  OK(pipe_mgr_mat_default_entry_set(session, kDevice, kAll, kAcl, kDeny, &deny.spec, 0, &entry));
-  // An entry has room for so many resources, whichever calls attach them.
-  pipe_mgr_resource_t resource{};
-  resource.tag = PIPE_RESOURCE_ATTACH;
-  for (const uint32_t handle : {kRuleCount, kAclCount, kPoliceMeter, kFlowMeter, kWordRegister}) {
-    resource.handle = handle;
-    EXPECT_EQ(pipe_mgr_mat_ent_set_resource(session, kDevice, kAcl, entry, &resource, 1, 0),
-              handle == kWordRegister ? BF_INVALID_ARGUMENT : BF_SUCCESS);
-  }
-  // No entry has the handle 0.
-  EXPECT_EQ(pipe_mgr_mat_ent_del(session, kDevice, kAcl, 0, 0), BF_OBJECT_NOT_FOUND);
-}
-
 TEST_F(Refusals, OfMembersAndMemberships) {
   Action send(9, {0, 1});
   uint32_t member = 0, group = 0, refused = kNowhere;

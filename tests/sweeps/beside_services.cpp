@@ -119,6 +119,13 @@ void Beside::compare_values(const ModelSet &set, const p4_pd_parser_target_t &at
     if (held.is_in(at)) expected.push_back(handle);
   }
   uint32_t count = 99;
+  for (const uint32_t property : {uint32_t{PIPE_PVS_CAPACITY}, PIPE_PVS_CAPACITY + 1u}) {
+    const bool known = property == PIPE_PVS_CAPACITY;
+    ASSERT_EQ(status_of("pvs_get_property", set.row->name,
+                        with("property", property, "value", &count, "argument", 0)),
+              known ? BF_SUCCESS : BF_INVALID_ARGUMENT);
+    ASSERT_EQ(count, known ? set.capacity : 0xffffffff);
+  }
   ASSERT_EQ(status_of("pvs_entry_get_count", set.row->name,
                       with("target", &at, "read_from_hardware", 0, "count", &count)),
             BF_SUCCESS);

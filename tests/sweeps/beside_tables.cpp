@@ -389,15 +389,18 @@ void Beside::compare_defaults(ModelTable &table, uint32_t pipe) {
   compare_read(table, *standing, read);
 }
 
+// Those that there are, and one that is refused.
 void Beside::compare_properties(const ModelTable &table) {
-  const uint32_t held[] = {table.scope, table.checks, table.capacity};
-  for (uint32_t known : {PIPE_TABLE_ENTRY_SCOPE, PIPE_TABLE_DUPLICATE_CHECK, PIPE_TABLE_CAPACITY}) {
+  const uint32_t held[] = {table.scope, table.checks, table.capacity, 0xffffffff};
+  for (uint32_t property = PIPE_TABLE_ENTRY_SCOPE; property <= PIPE_TABLE_CAPACITY + 1;
+       ++property) {
     uint32_t read = 99, argument = 99;
+    const bool known = property <= PIPE_TABLE_CAPACITY;
     ASSERT_EQ(status_of("get_property", table.row->name,
-                        with("property", known, "value", &read, "argument", &argument)),
-              BF_SUCCESS);
-    ASSERT_EQ(read, held[known - 1]);
-    ASSERT_EQ(argument, 0u);
+                        with("property", property, "value", &read, "argument", &argument)),
+              known ? BF_SUCCESS : BF_INVALID_ARGUMENT);
+    ASSERT_EQ(read, held[property - 1]);
+    ASSERT_EQ(argument, known ? 0 : 0xffffffff);
   }
 }
 

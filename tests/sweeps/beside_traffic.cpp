@@ -90,9 +90,10 @@ void Beside::change_counter() {
     return;
   }
   p4_pd_counter_values_t read{};
-  ASSERT_EQ(status_of("counter_read", name,
-                      with("entry", entry, "flags", P4_PD_READ_FROM_HARDWARE, "values", &read)),
-            expected);
+  ASSERT_EQ(
+      status_of("counter_read", name,
+                with("entry", entry, "flags", dice() | P4_PD_READ_FROM_HARDWARE, "values", &read)),
+      expected);
   if (expected != BF_SUCCESS) return;
   found->counter.synchronise();
   ASSERT_EQ((Count{read.packets, read.bytes}), found->counter.software);
@@ -263,7 +264,8 @@ void Beside::change_counter_cell() {
     p4_pd_counter_values_t read{};
     ASSERT_EQ(
         status_of("counter_read", name,
-                  with("index", index, "flags", P4_PD_READ_FROM_HARDWARE, "values", &read), named),
+                  with("index", index, "flags", dice() | P4_PD_READ_FROM_HARDWARE, "values", &read),
+                  named),
         BF_SUCCESS);
     each([](CounterCell &cell) { cell.synchronise(); });
     ASSERT_EQ((Count{read.packets, read.bytes}), sum);
@@ -357,7 +359,7 @@ void Beside::change_register() {
 
 // Values come by index and then by pipe, up to the end of the register.
 void Beside::read_register(const pdgen::Resource &reg, uint32_t index, uint32_t named) {
-  const uint32_t flags = dice.below(2);
+  const uint32_t flags = dice();  // one bit says something
   uint32_t indexes = 0, count = 0;
   Bytes values(6 * sizeof(uint32_t), 0xee), expected[4], all;
   ASSERT_EQ(
@@ -404,9 +406,11 @@ void Beside::compare_cells() {
       Count sum;
       for (const uint32_t pipe : {0u, 1u, kAll}) {
         p4_pd_counter_values_t read{};
-        ASSERT_EQ(status_of("counter_read", counter->name,
-                            with("index", index, "flags", 0, "values", &read), pipe),
-                  BF_SUCCESS);
+        ASSERT_EQ(
+            status_of("counter_read", counter->name,
+                      with("index", index, "flags", ~P4_PD_READ_FROM_HARDWARE, "values", &read),
+                      pipe),
+            BF_SUCCESS);
         const auto at = model.counters.find({counter->handle, pipe, index});
         const Count one = pipe == kAll                 ? sum
                           : at == model.counters.end() ? Count{}
