@@ -43,6 +43,7 @@ void add_output(PyObject *module) {
   PyType_Slot slots[] = {{Py_tp_new, reinterpret_cast<void *>(new_output)},
                          {Py_tp_dealloc, reinterpret_cast<void *>(deallocate_output)},
                          {Py_tp_getset, output_members},
+                         doc_slot(PD_DOC("Output()", "What a function of C writes, as a value.")),
                          {0, nullptr}};
   output_type = make_type("pd.Output", sizeof(OutputObject), slots);
   check(PyModule_AddObjectRef(module, "Output", reinterpret_cast<PyObject *>(output_type)));

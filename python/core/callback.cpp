@@ -113,6 +113,7 @@ uintptr_t callback_function(std::string_view type) {
 
 void add_opaque(PyObject *module) {
   PyType_Slot type_slots[] = {{Py_tp_dealloc, reinterpret_cast<void *>(deallocate_opaque)},
+                              doc_slot("An object of the SDK that is handed on as it is."),
                               {0, nullptr}};
   opaque_type = make_type("pd.Opaque", sizeof(OpaqueObject), type_slots,
                           Py_TPFLAGS_DEFAULT | Py_TPFLAGS_DISALLOW_INSTANTIATION);

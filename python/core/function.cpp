@@ -1,8 +1,11 @@
 #include "python/core/function.hpp"
 
+#include <fmt/format.h>
+
 #include <memory>
 
 #include "python/core/argument.hpp"
+#include "tesselctl/program/c_call.hpp"
 
 namespace python {
 
@@ -80,8 +83,38 @@ PyObject *get_parameters(PyObject *self, void * /*unused*/) {
   });
 }
 
+// The prototype, and what the header says about it.
+PyObject *get_doc(PyObject *self, void * /*unused*/) {
+  return guarded([&] {
+    constexpr size_t kWidth = 90;
+    const FunctionObject &function = *cast(self);
+    std::string doc = tesselctl::wrapped_code(tesselctl::prototype(*function.target) + ";", kWidth);
+    if (function.program != nullptr) {
+      const bindings::Note &note = function.program->binding().notes[function.target->note];
+      doc += fmt::format("\n{}\n{}", note.title, tesselctl::wrapped_text(note.text, kWidth));
+    }
+    return text(doc);
+  });
+}
+PyObject *get_signature(PyObject *self, void * /*unused*/) {
+  return guarded([&] {
+    std::string names;
+    for (const bindings::Parameter &parameter : cast(self)->target->parameter_list()) {
+      names += argument_name(parameter.name) + ", ";
+    }
+    return text(fmt::format("({}{})", names, names.empty() ? "" : "/"));
+  });
+}
+// A function of a class is called without its object. With __get__ it counts as a routine, of which
+// inspect and help read signature and text.
+PyObject *get_bound(PyObject *self, PyObject * /*object*/, PyObject * /*type*/) {
+  return Py_NewRef(self);
+}
+
 PyGetSetDef members[] = {
     {"__name__", get_name, nullptr, "In C.", nullptr},
+    {"__doc__", get_doc, nullptr, nullptr, nullptr},
+    {"__text_signature__", get_signature, nullptr, nullptr, nullptr},
     {"result", get_result, nullptr, "The C type of the result.", nullptr},
     {"parameters", get_parameters, nullptr, "C type and name of each parameter.", nullptr},
     {nullptr, nullptr, nullptr, nullptr, nullptr}};
@@ -101,6 +134,7 @@ void add_function(PyObject *module) {
   PyType_Slot slots[] = {{Py_tp_call, reinterpret_cast<void *>(call)},
                          {Py_tp_dealloc, reinterpret_cast<void *>(deallocate)},
                          {Py_tp_repr, reinterpret_cast<void *>(represent)},
+                         {Py_tp_descr_get, reinterpret_cast<void *>(get_bound)},
                          {Py_tp_getset, members},
                          {0, nullptr}};
   function_type = make_type("pd.Function", sizeof(FunctionObject), slots,

@@ -89,6 +89,20 @@ inline std::string type_name(PyObject *object) {
 }
 inline PyObject *none() { return Py_NewRef(Py_None); }
 
+// The text of a method or a type behind the signature that inspect and help read off it.
+#define PD_DOC(signature, text) signature "\n--\n\n" text
+
+// A name as an argument: words of Python have a '_' behind them.
+inline std::string argument_name(std::string_view name) {
+  const Ref module(PyImport_ImportModule("keyword"));
+  const Ref words(PyObject_GetAttrString(module.get(), "kwlist"));
+  const int is_word = PySequence_Contains(words.get(), Ref(text(name)).get());
+  check(is_word);
+  return std::string(name) + (is_word != 0 ? "_" : "");
+}
+
+// The text of a type, as one of its slots.
+inline PyType_Slot doc_slot(const char *text) { return {Py_tp_doc, const_cast<char *>(text)}; }
 // A type of the extension; instances come from C alone unless it has Py_tp_new.
 inline PyTypeObject *make_type(const char *name, size_t size, PyType_Slot *slots,
                                unsigned long flags = Py_TPFLAGS_DEFAULT, PyObject *base = nullptr) {

@@ -24,11 +24,15 @@ const Program *running[SOFT_DEVICE_LIMIT] = {};
 struct List {
   std::string_view name;
   bindings::RecordList bindings::Binding::*records;
+  std::string_view note;
+  bool may_lack_fields = false;  // what packets carry: nobody states all of it
 };
-constexpr List kLists[] = {
-    {"keys", &bindings::Binding::tables},     {"actions", &bindings::Binding::actions},
-    {"digests", &bindings::Binding::digests}, {"triggers", &bindings::Binding::triggers},
-    {"packets", &bindings::Binding::packets}, {"captures", &bindings::Binding::captures}};
+constexpr List kLists[] = {{"keys", &bindings::Binding::tables, "The key of the table"},
+                           {"actions", &bindings::Binding::actions, "The action"},
+                           {"digests", &bindings::Binding::digests, "An entry of the digest", true},
+                           {"triggers", &bindings::Binding::triggers, "What triggers snapshots of"},
+                           {"packets", &bindings::Binding::packets, "What packets carry in", true},
+                           {"captures", &bindings::Binding::captures, "What is captured by"}};
 
 const List *list_of(const bindings::Binding &binding, const bindings::Record &record) {
   for (const List &list : kLists) {
@@ -71,12 +75,10 @@ const RecordKind &Program::kind(const bindings::Record &record) {
   const RecordKind *&kind = kinds_[&record];
   if (kind == nullptr) {
     const List *list = list_of(binding_, record);
-    const std::string_view name = list == nullptr ? "records" : list->name;
-    RecordKind *made = make_record_kind(
-        record, record.name, fmt::format("{}.{}.{}", binding_.program, name, record.name));
-    // What packets carry; nobody states all of it.
-    made->may_lack_fields = name == "packets" || name == "digests";
-    kind = made;
+    if (list == nullptr) throw std::logic_error("a record of no list");
+    kind =
+        make_record_kind(record, fmt::format("{}.{}.{}", binding_.program, list->name, record.name),
+                         fmt::format("{} {}.", list->note, record.name), list->may_lack_fields);
   }
   return *kind;
 }
@@ -319,20 +321,31 @@ PyObject *get_capture_limit(PyObject *self, void * /*unused*/) {
 }
 
 PyMethodDef methods[] = {
-    {"function", get_function, METH_O, "The function of that C name, or None."},
-    {"functions", get_functions, METH_NOARGS, "The C names of all functions."},
-    {"export", get_export, METH_VARARGS, "The function of a family, object and action, or None."},
-    {"record", get_record, METH_VARARGS, "The type of a record, or None."},
-    {"records", get_records, METH_O, "The names of a list of records."},
-    {"objects", get_objects, METH_O, "The objects of a kind, described by name."},
-    {"action_name", action_name, METH_O, "The name of an action by its handle, or None."},
-    {"create_device", create_device, METH_VARARGS, "Creates a soft device."},
+    {"function", get_function, METH_O,
+     PD_DOC("function($self, name, /)", "The function of that C name, or None.")},
+    {"functions", get_functions, METH_NOARGS,
+     PD_DOC("functions($self, /)", "The C names of all functions.")},
+    {"export", get_export, METH_VARARGS,
+     PD_DOC("export($self, family, object='', action='', /)",
+            "The function of a family, object and action, or None.")},
+    {"record", get_record, METH_VARARGS,
+     PD_DOC("record($self, list, name, /)", "The type of a record, or None.")},
+    {"records", get_records, METH_O,
+     PD_DOC("records($self, list, /)", "The names of a list of records.")},
+    {"objects", get_objects, METH_O,
+     PD_DOC("objects($self, kind, /)", "The objects of a kind, described by name.")},
+    {"action_name", action_name, METH_O,
+     PD_DOC("action_name($self, handle, /)", "The name of an action by its handle, or None.")},
+    {"create_device", create_device, METH_VARARGS,
+     PD_DOC("create_device($self, id, pipes, virtual, /)", "Creates a soft device.")},
     {nullptr, nullptr, 0, nullptr}};
-PyGetSetDef members[] = {{"name", get_name, nullptr, nullptr, nullptr},
-                         {"version", get_version, nullptr, nullptr, nullptr},
-                         {"routes", get_routes, nullptr, nullptr, nullptr},
-                         {"capture_limit", get_capture_limit, nullptr, nullptr, nullptr},
-                         {nullptr, nullptr, nullptr, nullptr, nullptr}};
+PyGetSetDef members[] = {
+    {"name", get_name, nullptr, "The name of the program.", nullptr},
+    {"version", get_version, nullptr, "The version of its library.", nullptr},
+    {"routes", get_routes, nullptr, "The tables of routes, and the action of a next hop.", nullptr},
+    {"capture_limit", get_capture_limit, nullptr, "How many stages a snapshot may capture.",
+     nullptr},
+    {nullptr, nullptr, nullptr, nullptr, nullptr}};
 
 PyObject *load(PyObject * /*module*/, PyObject *path) {
   return guarded([&] {
@@ -360,7 +373,10 @@ PyMethodDef functions[] = {{"load", load, METH_O, "The program of a module, by i
 }  // namespace
 
 void add_program(PyObject *module) {
-  PyType_Slot slots[] = {{Py_tp_methods, methods}, {Py_tp_getset, members}, {0, nullptr}};
+  PyType_Slot slots[] = {{Py_tp_methods, methods},
+                         {Py_tp_getset, members},
+                         doc_slot("A P4 program that was loaded."),
+                         {0, nullptr}};
   program_type = make_type("pd.Program", sizeof(ProgramObject), slots,
                            Py_TPFLAGS_DEFAULT | Py_TPFLAGS_DISALLOW_INSTANTIATION);
   check(PyModule_AddObjectRef(module, "Program", reinterpret_cast<PyObject *>(program_type)));

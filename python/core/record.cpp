@@ -208,15 +208,36 @@ PyObject *describe(PyObject *type, PyObject * /*unused*/) {
 }
 
 PyMethodDef methods[] = {
-    {"_asdict", as_dict, METH_NOARGS, "The fields by name."},
+    {"_asdict", as_dict, METH_NOARGS, PD_DOC("_asdict($self, /)", "The fields by name.")},
     {"_replace", method(replaced), METH_VARARGS | METH_KEYWORDS,
-     "The same record with other values of some fields."},
+     PD_DOC("_replace($self, /, **fields)", "The same record with other values of some fields.")},
     {"__getnewargs_ex__", new_arguments, METH_NOARGS, "The arguments of a copy."},
-    {"_masked", masked, METH_O, "Value and mask of a field, as ints."},
-    {"_from_bytes", from_bytes, METH_O | METH_CLASS, "The record of these bytes, as C has it."},
+    {"_masked", masked, METH_O,
+     PD_DOC("_masked($self, name, /)", "Value and mask of a field, as ints.")},
+    {"_from_bytes", from_bytes, METH_O | METH_CLASS,
+     PD_DOC("_from_bytes($type, source, /)", "The record of these bytes, as C has it.")},
     {"_describe", describe, METH_NOARGS | METH_CLASS,
-     "Of each field its label, name, notation, match and width."},
+     PD_DOC("_describe($type, /)", "Of each field its label, name, notation, match and width.")},
     {nullptr, nullptr, 0, nullptr}};
+
+// How a record is made, what it is, and what its fields take.
+std::string doc_of(const RecordKind &kind, std::string_view what) {
+  std::string arguments;
+  std::string fields;
+  for (const Field &field : kind.record->shown()) {
+    const bool is_ternary = field.match == tesselctl::Match::ternary;
+    arguments += fmt::format("{}{}{}", arguments.empty() ? "*, " : ", ", argument_name(field.label),
+                             kind.may_lack_fields ? "=0"
+                             : is_ternary         ? "='*'"
+                                                  : "");
+    const bool is_exact = field.match == tesselctl::Match::exact;
+    fields += fmt::format("\n{}: {} of {} bit{}{}{}", field.label,
+                          tesselctl::notation_name(field.notation), field.width,
+                          field.width == 1 ? "" : "s", is_exact ? "" : ", ",
+                          is_exact ? "" : tesselctl::match_name(field.match));
+  }
+  return fmt::format(PD_DOC("{}({})", "{}\n{}"), kind.record->name, arguments, what, fields);
+}
 
 }  // namespace
 
@@ -229,18 +250,22 @@ void make_record_base(PyObject *module) {
                          {Py_tp_hash, reinterpret_cast<void *>(hash)},
                          {Py_tp_methods, methods},
                          {Py_bf_getbuffer, reinterpret_cast<void *>(get_buffer)},
+                         doc_slot(PD_DOC("Record(**fields)",
+                                         "The fields of a key, an action, or another record; it "
+                                         "never changes.")),
                          {0, nullptr}};
   base =
       make_type("pd.Record", sizeof(RecordObject), slots, Py_TPFLAGS_DEFAULT | Py_TPFLAGS_BASETYPE);
   check(PyModule_AddObjectRef(module, "Record", reinterpret_cast<PyObject *>(base)));
 }
 
-RecordKind *make_record_kind(const bindings::Record &record, std::string what,
-                             std::string type_name) {
+RecordKind *make_record_kind(const bindings::Record &record, std::string type_name,
+                             const std::string &note, bool may_lack_fields) {
   auto kind = std::make_unique<RecordKind>();
   kind->record = &record;
-  kind->what = std::move(what);
+  kind->what = record.name;
   kind->type_name = std::move(type_name);
+  kind->may_lack_fields = may_lack_fields;
   Ref names(PyTuple_New(static_cast<Py_ssize_t>(record.shown_count)));
   for (const Field &field : record.shown()) {
     const std::string label(field.label);
@@ -248,7 +273,8 @@ RecordKind *make_record_kind(const bindings::Record &record, std::string what,
     check(PyTuple_SetItem(names.get(), static_cast<Py_ssize_t>(kind->labels.size() - 1),
                           Py_NewRef(kind->labels.back())));
   }
-  PyType_Slot slots[] = {{0, nullptr}};
+  const std::string doc = doc_of(*kind, note);
+  PyType_Slot slots[] = {doc_slot(doc.c_str()), {0, nullptr}};
   kind->type = make_type(kind->type_name.c_str(), offsetof(RecordObject, bytes) + record.size + 1,
                          slots, Py_TPFLAGS_DEFAULT, reinterpret_cast<PyObject *>(base));
   check(PyObject_SetAttrString(reinterpret_cast<PyObject *>(kind->type), "__match_args__",

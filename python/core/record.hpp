@@ -27,9 +27,9 @@ struct RecordObject {
 
 void make_record_base(PyObject *module);
 
-// Of a record; it lives as long as the process.
-RecordKind *make_record_kind(const bindings::Record &record, std::string what,
-                             std::string type_name);
+// Of a record; it lives as long as the process. The note says what it is.
+RecordKind *make_record_kind(const bindings::Record &record, std::string type_name,
+                             const std::string &note, bool may_lack_fields);
 
 PyObject *make_record(const RecordKind &kind, const void *bytes);
 // The record that the object is, or null.

@@ -108,9 +108,10 @@ PyObject *get_closed(PyObject *self, void * /*unused*/) {
 }
 
 PyMethodDef methods[] = {
-    {"close", close_session, METH_NOARGS, "Closes the session; closing it again does nothing."},
+    {"close", close_session, METH_NOARGS,
+     PD_DOC("close($self, /)", "Closes the session; closing it again does nothing.")},
     {"_on", method(on), METH_VARARGS | METH_KEYWORDS,
-     "The same session for another device or pipe."},
+     PD_DOC("_on($self, device, pipe)", "The same session for another device or pipe.")},
     {nullptr, nullptr, 0, nullptr}};
 PyGetSetDef members[] = {
     {"handle", get_handle, nullptr, "The number of the session for raw calls.", nullptr},

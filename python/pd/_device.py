@@ -81,9 +81,11 @@ class Namespace:
         raise AttributeError(f"the {self._kind} of {self._program.name} are those of the program")
 
     def keys(self) -> KeysView[str]:
+        """The names of the objects."""
         return self._facts.keys()
 
     def items(self) -> list[tuple[str, Any]]:
+        """Each object with its name."""
         return [(name, self[name]) for name in self._facts]
 
     def __repr__(self) -> str:
@@ -159,6 +161,7 @@ class Device:
         return _core.device_log(self.id)
 
     def restore(self, state: str) -> None:
+        """Gives the libraries a log back."""
         _core.device_restore(self.id, state)
 
     def __enter__(self) -> Self:

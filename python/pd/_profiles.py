@@ -43,15 +43,19 @@ class Member(_Held):
     _outcome = "member"
 
     def action(self, from_hardware: bool = False) -> Record:
+        """The action with its parameters."""
         return self.profile.action(self, from_hardware)
 
     def modify(self, action: Record) -> None:
+        """Gives the action other parameters; a member keeps its action for life."""
         self.profile.modify(self, action)
 
     def delete(self) -> None:
+        """Deletes the member."""
         self.profile._call("del_member", self.profile.session, self.profile.session, self.handle)
 
     def placement(self) -> Opaque:
+        """What the device holds of the member, without the device."""
         return _core.placement_of(self.profile.session.device_id, self.profile.handle, self.handle,
                                   True)
 
@@ -73,9 +77,11 @@ class Group(_Held):
         return self.profile._handle(member, Member)
 
     def add(self, member: Member) -> None:
+        """Puts a member into the group."""
         self._set("add_member_to_group", self._member(member))
 
     def remove(self, member: Member) -> None:
+        """Takes a member out of the group."""
         self._set("del_member_from_group", self._member(member))
 
     def enable(self, member: Member, active: bool = True) -> None:
@@ -83,9 +89,11 @@ class Group(_Held):
         self._set("group_member_state_set", self._member(member), 0 if index(active) else 1)
 
     def is_enabled(self, member: Member) -> bool:
+        """Whether the hash may choose the member."""
         return bool(self._group("group_member_state_get", self._member(member)) == 0)
 
     def members(self) -> Iterator[Member]:
+        """The members of the group."""
         handles = walk(lambda: self._group("get_first_group_member"),
                        lambda member, count: self._group("get_next_group_members", member, count),
                        _core.ObjectNotFound)
@@ -112,6 +120,7 @@ class Group(_Held):
                                 self.handle))
 
     def delete(self) -> None:
+        """Deletes the group, not its members."""
         self._set("del_group")
 
 
@@ -144,6 +153,7 @@ class Profile(Name):
         return held.handle
 
     def add(self, action: Record) -> Member:
+        """Adds a member with this action."""
         name, record = self._record(action)
         return Member(self, get(self._program, "add_member", self.name, self.session,
                                 self.session, *record, action=name))
@@ -166,9 +176,11 @@ class Profile(Name):
         return group
 
     def member(self, handle: int) -> Member:
+        """The member of a handle."""
         return Member(self, handle)
 
     def group(self, handle: int) -> Group:
+        """The group of a handle."""
         return Group(self, handle)
 
     def action(self, member: Member, from_hardware: bool = False) -> Record:
@@ -185,9 +197,11 @@ class Profile(Name):
         return found
 
     def members(self) -> Iterator[Member]:
+        """All members."""
         return (Member(self, one) for one in self._walk("get_first_member", "get_next_members"))
 
     def groups(self) -> Iterator[Group]:
+        """All groups."""
         return (Group(self, one) for one in self._walk("get_first_group", "get_next_groups"))
 
     def __iter__(self) -> Iterator[Member]:
@@ -201,9 +215,11 @@ class Profile(Name):
         return True
 
     def member_count(self) -> int:
+        """How many members there are."""
         return int(self._get("get_act_prof_entry_count", self.session, self.session))
 
     def group_count(self) -> int:
+        """How many groups there are."""
         return int(self._get("get_selector_group_count", self.session, self.session))
 
     def set_fallback(self, member: Member) -> None:
@@ -212,9 +228,11 @@ class Profile(Name):
                    self._handle(member, Member))
 
     def reset_fallback(self) -> None:
+        """No member stands in any more."""
         self._call("reset_dynamic_action_selection_fallback_member", self.session, self.session)
 
     def fallback(self) -> Member | None:
+        """The member that set_fallback has set; None without one."""
         try:
             return Member(self, read_control("soft_fallback_member", self.session.device_id,
                                              self.selector))
@@ -246,6 +264,7 @@ class Profile(Name):
                                 self.selector if of_groups else self.handle))
 
     def set_capacity(self, capacity: int, of_groups: bool = False) -> None:
+        """Limits how many members or groups the soft device takes; 0: any number."""
         control("soft_profile_capacity_set", self.session.device_id,
                 self.selector if of_groups else self.handle, capacity)
 

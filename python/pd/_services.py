@@ -28,18 +28,23 @@ class Hash(Name):
         return int(self._read("input_get"))
 
     def set_input(self, number: int = 0) -> None:
+        """Chooses an input field list; 0: the calculation's own."""
         self._set("input_set", number)
 
     def algorithm(self) -> int:
+        """The algorithm; 0 is the calculation's own."""
         return int(self._read("algorithm_get"))
 
     def set_algorithm(self, number: int = 0) -> None:
+        """Chooses an algorithm; 0: the calculation's own."""
         self._set("algorithm_set", number)
 
     def seed(self) -> int:
+        """What set_seed has set."""
         return int(self._read("seed_get"))
 
     def set_seed(self, seed: int) -> None:
+        """The seed of the algorithm."""
         self._set("seed_set", seed)
 
     def attributes(self, input: int = 0) -> list[tuple[int, int, int]]:
@@ -52,6 +57,7 @@ class Hash(Name):
         return [(row[0], row[1], row[2]) for row in attributes.value[:filled.value]]
 
     def set_attributes(self, attributes: list[tuple[int, int, int]], input: int = 0) -> None:
+        """Replaces the attributes of a list."""
         self._set("input_field_attribute_set", input, len(attributes), attributes)
 
     def calculate(self, *values: tuple[int, int], size: int = 4) -> int:
@@ -77,6 +83,7 @@ class Hash(Name):
         return None if found < 0 else found
 
     def common_field(self, own: int) -> int | None:
+        """The common number of a field by the calculation's own."""
         found: int = function(self._program, "cmn_field_enum", self.name)(own)
         return None if found == 0xffffffff else found
 
@@ -130,6 +137,7 @@ class Digest(Name):
         return taken
 
     def deregister(self) -> None:
+        """Ends calls of the callback."""
         listen(self._program, self.name, self.session, "digest_register", None, lambda each: None)
 
     def __enter__(self) -> Self:
@@ -166,9 +174,11 @@ class ValueSet(Name):
                              self._parser(direction, pipe, parser), value, mask))
 
     def modify(self, entry: int, value: int, mask: int = 0xffffffff) -> None:
+        """Gives an entry another value and mask."""
         self._call("pvs_entry_modify", self.session, self.session, entry, value, mask)
 
     def delete(self, entry: int) -> None:
+        """Deletes an entry."""
         self._call("pvs_entry_delete", self.session, self.session, entry)
 
     def get(self, entry: int) -> tuple[int, int]:
@@ -179,11 +189,13 @@ class ValueSet(Name):
 
     def find(self, value: int, mask: int = 0xffffffff, *, direction: int = 0,
              pipe: int | None = None, parser: int = 255) -> int:
+        """The handle of the entry with this value and mask."""
         return int(self._get("pvs_entry_handle_get", self.session,
                              self._parser(direction, pipe, parser), value, mask))
 
     def handles(self, *, direction: int = 0, pipe: int | None = None,
                 parser: int = 255) -> Iterator[int]:
+        """The handles of its entries."""
         target = self._parser(direction, pipe, parser)
         found: Iterator[int] = walk(
             lambda: self._get("pvs_entry_get_first_entry_handle", self.session, target),
@@ -203,21 +215,26 @@ class ValueSet(Name):
         return True
 
     def count(self, *, direction: int = 0, pipe: int | None = None, parser: int = 255) -> int:
+        """How many entries there are."""
         return int(self._get("pvs_entry_get_count", self.session,
                              self._parser(direction, pipe, parser), 0))
 
     def property(self, number: int, argument: int = 0) -> int:
+        """A property by its number."""
         output = Output()
         self._call("pvs_get_property", self.session, self.session, number, output, argument)
         return int(output.value)
 
     def set_property(self, number: int, value: int, argument: int = 0) -> None:
+        """Sets a property by its number."""
         self._call("pvs_set_property", self.session, self.session, number, value, argument)
 
     def capacity(self) -> int:
+        """How many entries there may be; 0: any number."""
         return self.property(1)
 
     def set_capacity(self, capacity: int) -> None:
+        """Limits how many entries there may be; 0: any number."""
         self.set_property(1, capacity)
 
     def parsers(self, entry: int) -> _core.Parsers:
@@ -299,6 +316,7 @@ class Snapshot:
                                 len(record)))
 
     def delete(self) -> None:
+        """Deletes the snapshot."""
         self._call("snapshot_delete")
 
     def __enter__(self) -> Self:

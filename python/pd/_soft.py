@@ -14,6 +14,7 @@ class Clock:
     """The virtual clock of all devices, in milliseconds. Time passes here alone."""
 
     def now(self) -> int:
+        """The time of all devices."""
         return int(soft["soft_clock_now"]())
 
     def advance(self, milliseconds: int) -> None:
@@ -48,6 +49,7 @@ class Faults:
         soft["fail_call"](_function(function), _count(n), _status(status))
 
     def fail_any_call(self, status: int | type[StatusError], n: int = 1) -> None:
+        """The nth next call of any function of the SDK."""
         soft["fail_any_call"](_count(n), _status(status))
 
     def fail_allocation(self, n: int = 1) -> None:
@@ -59,6 +61,7 @@ class Faults:
         return int(soft["faults_pending"]())
 
     def clear(self) -> None:
+        """Forgets what was planned."""
         soft["faults_clear"]()
 
 
@@ -66,15 +69,19 @@ class Journal:
     """The calls of the SDK between start and stop; `with journal as calls:` does both."""
 
     def start(self) -> None:
+        """Calls are kept from here on."""
         soft["journal_start"]()
 
     def stop(self) -> None:
+        """No more calls are kept."""
         soft["journal_stop"]()
 
     def clear(self) -> None:
+        """Forgets the calls."""
         soft["journal_clear"]()
 
     def calls(self, function: str | None = None) -> list[JournalCall]:
+        """The calls in their order, or those of one function."""
         return journal_calls(None if function is None else _function(function))
 
     def __enter__(self) -> Journal:

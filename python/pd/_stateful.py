@@ -65,6 +65,7 @@ class Counter(_Cells):
         return values
 
     def write(self, cell: int | AnyEntry, packets: int = 0, bytes: int = 0) -> None:
+        """Sets what the cell has counted."""
         self._call("counter_write", self.session, self.session, number_of(cell), (packets, bytes))
 
     def synchronise(self, callback: Callable[[], object] | None = None) -> None:
@@ -88,6 +89,7 @@ class Meter(_Cells):
         self._call("meter_set", self.session, self.session, number_of(cell), spec)
 
     def read(self, cell: int | AnyEntry) -> MeterSpec:
+        """The rates and bursts of a cell."""
         spec: MeterSpec = self._get("meter_read", self.session, self.session, number_of(cell))
         return spec
 
@@ -96,6 +98,7 @@ class Meter(_Cells):
         self._call("meter_bytecount_adjust_set", self.session, self.session, bytes)
 
     def adjustment(self) -> int:
+        """What set_adjustment has set."""
         return int(self._get("meter_bytecount_adjust_get", self.session, self.session))
 
     def mark(self, cell: int, packets: int = 1, bytes: int | None = None,
@@ -139,9 +142,11 @@ class Register(_Cells):
         return value.to_bytes(size, "little")
 
     def write(self, cell: int, value: int) -> None:
+        """Writes the value into all pipes that the session is about."""
         self._call("register_write", self.session, self.session, cell, self._value(value))
 
     def write_all(self, value: int) -> None:
+        """Writes the value into all cells."""
         self._call("register_write_all", self.session, self.session, self._value(value))
 
     def reset(self, first: int | None = None, count: int = 1) -> None:

@@ -149,6 +149,7 @@ class Table(TableBase):
         self._call("set_ttl", self.session, self.session, self._entry(entry), ttl)
 
     def ttl(self, entry: int | AnyEntry) -> int:
+        """Milliseconds until the entry expires."""
         return int(self._get("get_ttl", self.session, self.session, self._entry(entry)))
 
     def is_active(self, entry: int | AnyEntry) -> bool:
@@ -156,6 +157,7 @@ class Table(TableBase):
         return bool(self._get("get_hit_state", self.session, self.session, self._entry(entry)))
 
     def set_active(self, entry: int | AnyEntry, active: bool = True) -> None:
+        """Sets whether a packet has hit the entry."""
         self._call("update_hit_state", self.session, self.session, self._entry(entry), index(active))
 
     def enable_ageing(self, *, sweep_interval: int = 1000, max_ttl: int = 0, min_ttl: int = 0,
@@ -166,9 +168,11 @@ class Table(TableBase):
         self._call("idle_tmo_enable", self.session, self.session, params)
 
     def disable_ageing(self) -> None:
+        """Entries age no more."""
         self._call("idle_tmo_disable", self.session, self.session)
 
     def ageing(self) -> IdleParams:
+        """What enable_ageing has set."""
         params: IdleParams = self._get("idle_params_get", self.session, self.session)
         return params
 
@@ -191,6 +195,7 @@ class Table(TableBase):
         return value.value, argument.value
 
     def set_property(self, number: int, value: int, argument: int = 0) -> None:
+        """Sets a TableProperty."""
         self._call("set_property", self.session, self.session, number, value, argument)
 
     def capacity(self) -> int:
@@ -198,9 +203,11 @@ class Table(TableBase):
         return self.property(TableProperty.CAPACITY)[0]
 
     def set_capacity(self, capacity: int) -> None:
+        """Limits how many entries the table may have; 0: any number."""
         self.set_property(TableProperty.CAPACITY, capacity)
 
     def schema(self) -> str:
+        """The schema of value strings; empty in a table without them."""
         output = Output()
         self._text("table_schema", output)
         return str(output.value)

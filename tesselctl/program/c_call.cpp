@@ -386,6 +386,19 @@ std::string c_call(const Export &target, const uint64_t *words, const std::strin
                      text.arguments, comment);
 }
 
+std::string wrapped_text(std::string_view text, size_t width) {
+  std::string lines;
+  size_t column = 0;
+  while (!text.empty()) {
+    const std::string_view word = take_until(text, ' ');
+    const bool fits = column + 1 + word.size() <= width;
+    if (column != 0) lines += fits ? " " : "\n";
+    column = (fits && column != 0 ? column + 1 : 0) + word.size();
+    lines += word;
+  }
+  return lines;
+}
+
 std::string wrapped_code(std::string_view code, size_t width) {
   std::string text;
   while (!code.empty()) {

@@ -32,5 +32,7 @@ bool is_record_by_value(std::string_view type);
 
 // The code with every line of more columns broken behind commas.
 std::string wrapped_code(std::string_view code, size_t width);
+// The text broken between words.
+std::string wrapped_text(std::string_view text, size_t width);
 
 }  // namespace tesselctl

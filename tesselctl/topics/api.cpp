@@ -28,20 +28,6 @@ bool belongs_to(const Export &function, std::string_view name) {
   return name == function.family || name == function.object || name == function.action;
 }
 
-// The text in lines, between words.
-std::string wrapped_text(std::string_view text) {
-  std::string lines;
-  size_t column = 0;
-  while (!text.empty()) {
-    const std::string_view word = take_until(text, ' ');
-    const bool fits = column + 1 + word.size() <= kLineWidth;
-    if (column != 0) lines += fits ? " " : "\n";
-    column = (fits && column != 0 ? column + 1 : 0) + word.size();
-    lines += word;
-  }
-  return lines;
-}
-
 // ---- One function ----
 
 void print_function(Context &context, const Export &function) {
@@ -57,7 +43,7 @@ void print_function(Context &context, const Export &function) {
   row.text("topic", note.title).text("note", note.text);
   row.text("prototype", declared).text("example", example);
   context.results.row(row, fmt::format("{}\n\n{}\n{}\n\n{}", declared, note.title,
-                                       wrapped_text(note.text), example));
+                                       wrapped_text(note.text, kLineWidth), example));
 }
 
 // ---- The control interface of the soft SDK ----
@@ -74,8 +60,9 @@ Row described(const SoftFunction &function) {
 void print_soft_function(Context &context, const SoftFunction &function) {
   Row row = described(function);
   row.text("note", function.note).text("prototype", function.records + function.prototype);
-  context.results.row(row, fmt::format("{}{}\n\n{}, {}\n{}", function.records, function.prototype,
-                                       kSoftTopic, function.header, wrapped_text(function.note)));
+  context.results.row(
+      row, fmt::format("{}{}\n\n{}, {}\n{}", function.records, function.prototype, kSoftTopic,
+                       function.header, wrapped_text(function.note, kLineWidth)));
 }
 
 // Explains the function of that name, or lists those of a header, or all for "soft". Returns false

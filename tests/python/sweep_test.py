@@ -1,5 +1,6 @@
 """Every function and every object of any program, called once with values of its description."""
 import inspect
+import pydoc
 import sys
 
 import pytest
@@ -293,13 +294,43 @@ def test_every_service(package, session):
                 assert [(one.stage, one.triggered) for one in stages] == [(1, True), (2, True)]
 
 
+def public_classes():
+    classes = (*vars(pd).values(), Namespace)
+    return {one for one in classes if inspect.isclass(one) and one.__module__.split(".")[0] == "pd"}
+
+
+def methods_of(cls):
+    """The public methods that are its own, with their code in Python or the method of the extension."""
+    for name, one in inspect.getmembers(cls, inspect.isroutine):
+        code = getattr(one, "__code__", None)
+        is_own = code or getattr(getattr(one, "__objclass__", None), "__module__", "") == "pd"
+        if is_own and not name.startswith("_"):
+            yield f"{cls.__name__}.{name}", one, code or one
+
+
 def test_no_method_is_left_out(called):
     """The tests before this one have called each public method of each class."""
-    left, classes = [], (*vars(pd).values(), Namespace)
-    for cls in {one for one in classes if inspect.isclass(one) and one.__module__.startswith("pd._")}:
-        for name, one in inspect.getmembers(cls, inspect.isroutine):
-            code = getattr(one, "__code__", None)
-            is_own = code or getattr(getattr(one, "__objclass__", None), "__module__", "") == "pd"
-            if is_own and not name.startswith("_") and (code or one) not in called:
-                left.append(f"{cls.__name__}.{name}")
+    left = [name for cls in public_classes() for name, _, code in methods_of(cls) if code not in called]
     assert not left, " ".join(sorted(left))
+
+
+def test_everything_is_explained(package):
+    """What is public has a text and a signature, which names the fields or parameters that it takes."""
+    silent = []
+    for cls in public_classes():
+        explained = [(cls.__name__, cls)] if cls is not pd.Function else []
+        for name, one, *_ in (*explained, *methods_of(cls)):
+            if not inspect.getdoc(one) or not isinstance(one, type) and not inspect.signature(one):
+                silent.append(name)
+    assert not silent, " ".join(sorted(silent))
+    for kind in (package.actions, package.keys, package.digests):
+        for record in (getattr(kind, name) for name in kind.__all__):
+            taken = [name.rstrip("_") for name in inspect.signature(record).parameters]
+            assert taken == [label for label, *_ in record._describe()]
+            assert record.__doc__.count(" bit") == len(taken) and record.__name__ in record.__doc__
+    for name in package.program.functions():
+        function = getattr(package.raw, name)
+        prototype, note = function.__doc__.split(";\n", 1)
+        assert name in prototype and len(note) > 20 and name in pydoc.render_doc(function)
+        assert [one.rstrip("_") for one in inspect.signature(function).parameters] \
+            == [label for _, label in function.parameters]
