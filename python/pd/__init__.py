@@ -9,7 +9,7 @@ from pd._core import (
     Output, Parsers, ParserTarget, Program, Record, SnapshotControl, Target, WredParams)
 from pd._device import Device, Session
 from pd._load import load
-from pd._numbers import IdleMode, TableProperty, Update
+from pd._numbers import Direction, IdleMode, TableProperty, Update
 from pd._profiles import Group, Member, Profile
 from pd._services import Digest, DigestEntry, Hash, Snapshot, Stage, ValueSet
 from pd._soft import Clock, Faults, Journal, clock, faults, journal
@@ -20,7 +20,8 @@ from pd.errors import StatusError
 ALL_PIPES = BF_ALL_PIPES
 
 __all__ = [
-    "ALL_PIPES", "Clock", "Counter", "CounterValues", "Device", "Digest", "DigestEntry", "Entry", "Faults",
+    "ALL_PIPES", "Clock", "Counter", "CounterValues", "Device", "Digest", "DigestEntry", "Direction",
+    "Entry", "Faults",
     "Function", "Group", "Hash", "Hit", "IdleMode", "IdleParams", "Journal", "JournalCall", "Member", "Meter",
     "MeterSpec", "Opaque", "Output", "ParserTarget", "Parsers", "Profile", "Program", "Record",
     "Register", "Session", "Snapshot", "SnapshotControl", "Stage", "StatusError", "Table",

@@ -28,3 +28,9 @@ class IdleMode(IntEnum):
     """How a table ages its entries: PIPE_IDLE_*."""
     POLL = 0
     NOTIFY = 1
+
+
+class Direction(IntEnum):
+    """Which way packets go through the parsers of a device."""
+    INGRESS = 0
+    EGRESS = 1

@@ -8,6 +8,7 @@ from pd import _core
 from pd._call import Name, call, control, function, get, read_control, walk
 from pd._core import Opaque, Output, Record, SnapshotControl
 from pd._listeners import listen
+from pd._numbers import Direction
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
@@ -167,7 +168,7 @@ class ValueSet(Name):
         return (self.session.device_id, direction, self.session.pipe if pipe is None else pipe,
                 parser)
 
-    def add(self, value: int, mask: int = 0xffffffff, *, direction: int = 0,
+    def add(self, value: int, mask: int = 0xffffffff, *, direction: int = Direction.INGRESS,
             pipe: int | None = None, parser: int = 255) -> int:
         """Adds a value and returns the handle of its entry."""
         return int(self._get("pvs_entry_add", self.session,
@@ -187,13 +188,13 @@ class ValueSet(Name):
         self._call("pvs_entry_get", self.session, self.session, entry, value, mask)
         return value.value, mask.value
 
-    def find(self, value: int, mask: int = 0xffffffff, *, direction: int = 0,
+    def find(self, value: int, mask: int = 0xffffffff, *, direction: int = Direction.INGRESS,
              pipe: int | None = None, parser: int = 255) -> int:
         """The handle of the entry with this value and mask."""
         return int(self._get("pvs_entry_handle_get", self.session,
                              self._parser(direction, pipe, parser), value, mask))
 
-    def handles(self, *, direction: int = 0, pipe: int | None = None,
+    def handles(self, *, direction: int = Direction.INGRESS, pipe: int | None = None,
                 parser: int = 255) -> Iterator[int]:
         """The handles of its entries."""
         target = self._parser(direction, pipe, parser)
@@ -214,7 +215,7 @@ class ValueSet(Name):
     def __bool__(self) -> bool:
         return True
 
-    def count(self, *, direction: int = 0, pipe: int | None = None, parser: int = 255) -> int:
+    def count(self, *, direction: int = Direction.INGRESS, pipe: int | None = None, parser: int = 255) -> int:
         """How many entries there are."""
         return int(self._get("pvs_entry_get_count", self.session,
                              self._parser(direction, pipe, parser), 0))
@@ -243,7 +244,7 @@ class ValueSet(Name):
                                             self.handle, entry)
         return found
 
-    def match(self, value: int, *, direction: int = 0, pipe: int | None = None,
+    def match(self, value: int, *, direction: int = Direction.INGRESS, pipe: int | None = None,
               parser: int = 0) -> int | None:
         """The entry that a value matches in one parser."""
         try:

@@ -277,7 +277,8 @@ def test_every_service(package, session):
         assert values.match(5) == entry and values.match(6) is None
         values.modify(entry, 6)
         assert list(values) == [entry] and len(values) == 1
-        assert values.parsers(entry).parser == 255
+        assert values.parsers(entry) == (pd.Direction.INGRESS, session.pipe, 255)
+        assert values.count(direction=pd.Direction.EGRESS) == 0
         values.set_capacity(1)
         assert values.capacity() == 1
         values.delete(entry)
