@@ -321,7 +321,11 @@ def test_everything_is_explained(package):
     for cls in public_classes():
         explained = [(cls.__name__, cls)] if cls is not pd.Function else []
         for name, one, *_ in (*explained, *methods_of(cls)):
-            if not inspect.getdoc(one) or not isinstance(one, type) and not inspect.signature(one):
+            try:
+                said = one.__doc__ and (name == "StatusError" or inspect.signature(one))
+            except ValueError:
+                said = None
+            if not said:
                 silent.append(name)
     assert not silent, " ".join(sorted(silent))
     for kind in (package.actions, package.keys, package.digests):
