@@ -85,8 +85,13 @@ class RegisterItems : public NumberItems {
   static Column values(const soft_register_t &reg) {
     return {.name = "values", .limit = low_ones(reg.width).low, .count = 0};
   }
-  // The values that most cells have: those of the last one.
-  Numbers common(const Device &device) const { return read_values(device, kLastCell); }
+  // The values that most cells have: those of a cell that does not differ from them.
+  Numbers common(const Device &device) const {
+    bool differs = false;
+    for_each_cell(
+        device, reg_.handle, [&](uint64_t) { differs = true; }, SOFT_REGISTER_USUAL);
+    return read_values(device, differs ? kLastCell : SOFT_REGISTER_USUAL);
+  }
   Numbers read_values(const Device &device, uint64_t index) const {
     return read_cell(device, reg_, index, P4_PD_READ_FROM_HARDWARE, {});
   }
@@ -141,8 +146,10 @@ class RegisterCells : public RegisterItems {
 
  protected:
   void read_numbers(Source &from, const NumbersVisitor &visit) const override {
-    // With the last cell the value that most have changes, and so which cells have another one.
-    const auto only = from.only == kLastCell ? std::nullopt : from.only;
+    // With some the value that most have may change, and so which cells have another one.
+    const bool decides = from.only == SOFT_REGISTER_USUAL || from.only == 2 * SOFT_REGISTER_USUAL ||
+                         from.only == kLastCell;
+    const auto only = decides ? std::nullopt : from.only;
     for_each_cell(
         from.device, reg_.handle,
         [&](uint64_t index) {

@@ -20,8 +20,7 @@ Beside::Beside(uint64_t of_seed, bool prints)
     : random(of_seed), seed(of_seed), trace(prints), allocations_before(soft_allocations_live()) {
   shows_all = seed % 2 == 0;
   constexpr uint32_t kFirst[] = {0, 1022, 4095, SOFT_REGISTER_CELLS - 3};
-  first_cell =
-      kFirst[random() % (shows_all ? 3 : 4)];  // images would have a line for each other cell
+  first_cell = kFirst[random() % std::size(kFirst)];
   choose_tables();
   for (ModelTable &table : model.tables) {
     choose_keys(*table.row);

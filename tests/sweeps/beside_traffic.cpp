@@ -382,20 +382,20 @@ void Beside::read_register(const pdgen::Resource &reg, uint32_t index, uint32_t 
   ASSERT_EQ(values, all);
 }
 
-// The next cell whose hardware differs from the last one.
+// The next cell whose hardware differs from those that no call meets.
 void Beside::compare_register(const pdgen::Resource &reg) {
-  const uint32_t last = first_cell + 3 == SOFT_REGISTER_CELLS ? 2 : 3;
-  uint32_t expected = last, found = last + first_cell;
+  constexpr uint32_t kOthers = 3;
+  uint32_t expected = kOthers, found = kOthers + first_cell;
   for (uint32_t pipe = 0; pipe < 2; ++pipe) {
     const auto value = [&](uint32_t cell) {
       return model.registers[{reg.handle, pipe, cell}].hardware;
     };
     for (uint32_t cell = 0; cell < expected; ++cell) {
-      if (value(cell) != value(last)) expected = cell;
+      if (value(cell) != value(kOthers)) expected = cell;
     }
   }
   ASSERT_EQ(soft_next_cell(device, reg.handle, first_cell, &found),
-            expected == last ? BF_OBJECT_NOT_FOUND : BF_SUCCESS);
+            expected == kOthers ? BF_OBJECT_NOT_FOUND : BF_SUCCESS);
   ASSERT_EQ(found, first_cell + expected);
 }
 

@@ -12,9 +12,9 @@ extern "C" {
 #endif
 
 /* The first cell at or behind from that is not as most are, in any pipe: a counter cell that has
- * counted, a meter cell that was set, a register cell whose hardware differs from the last cell of
- * the register. BF_OBJECT_NOT_FOUND: there is none. BF_NOT_SUPPORTED: no counter, meter or register
- * with cells of its own. */
+ * counted, a meter cell that was set, a register cell whose hardware is not that of its usual cell
+ * (SOFT_REGISTER_USUAL). BF_OBJECT_NOT_FOUND: there is none. BF_NOT_SUPPORTED: no counter, meter or
+ * register with cells of its own. */
 bf_status_t soft_next_cell(bf_device_id_t device, pipe_object_handle_t handle, uint32_t from,
                            uint32_t *cell);
 

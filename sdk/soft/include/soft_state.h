@@ -17,6 +17,10 @@ extern "C" {
  * register reads up to its end and says how many cells it read. */
 #define SOFT_REGISTER_CELLS 0x400000u
 
+/* Which cell is as most are? This one where twice its number is the same in the hardware of all
+ * pipes, otherwise the last one. */
+#define SOFT_REGISTER_USUAL (SOFT_REGISTER_CELLS / 3)
+
 /* Writes a cell as an action of the data plane does, in one pipe or in all: the hardware changes,
  * and the software copy follows when the cell is read from the hardware or the register is
  * synchronised. The cell keeps the low bits of value, as many as it is wide.

@@ -143,13 +143,17 @@ bf_status_t RegisterEngine::write_hardware(bf_pipe_id_t pipe, uint32_t index, ui
 
 bf_status_t RegisterEngine::next_cell(uint32_t from, uint32_t *cell) {
   const std::lock_guard lock(mutex_);
-  constexpr uint32_t kLast = SOFT_REGISTER_CELLS - 1;
-  uint32_t nearest = kLast;
+  const bool is_usual = std::ranges::all_of(instances_, [](const Instance &instance) {
+    return instance.hardware.get(SOFT_REGISTER_USUAL) ==
+           instance.hardware.get(2 * SOFT_REGISTER_USUAL);
+  });
+  const uint32_t usual = is_usual ? SOFT_REGISTER_USUAL : SOFT_REGISTER_CELLS - 1;
+  uint32_t nearest = SOFT_REGISTER_CELLS;
   for (const Instance &instance : instances_) {
     const CellPlane &plane = instance.hardware;
-    nearest = std::min(nearest, plane.next_other(from, kLast, plane.get(kLast)));
+    nearest = std::min(nearest, plane.next_other(from, SOFT_REGISTER_CELLS, plane.get(usual)));
   }
-  if (nearest >= kLast) return BF_OBJECT_NOT_FOUND;
+  if (nearest == SOFT_REGISTER_CELLS) return BF_OBJECT_NOT_FOUND;
   *cell = nearest;
   return BF_SUCCESS;
 }
