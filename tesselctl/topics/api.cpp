@@ -15,6 +15,8 @@ using bindings::Export;
 using bindings::Note;
 
 constexpr size_t kLineWidth = 100;
+// Numbers of the library's statuses are below, but for one.
+constexpr uint32_t kMostOwnStatus = 0x2000;
 
 const Note &note_of(const Export &function) { return binding().notes[function.note]; }
 
@@ -85,19 +87,45 @@ bool print_soft(Context &context, std::string_view name) {
 
 // ---- Statuses ----
 
-// The status of that name in words. Returns false when none has it.
-bool print_status(Context &context, std::string_view name) {
-  for (uint32_t i = 0; i <= 0x2000; ++i) {
-    const uint32_t status = i == 0x2000 ? P4_PD_MEMBER_KEEPS_ACTION : i;
-    const p4_pd_status_info_t own = p4_pd_describe_status(status);
-    const bool is_own = own.name != nullptr && name == own.name;
-    if (!is_own && name != soft_status_name(status)) continue;
-    const std::string_view text = is_own ? own.text : soft_status_text(status);
-    context.results.row(Row().choice("name", name).number("status", status).text("text", text),
-                        fmt::format("{} ({}): {}", name, static_cast<int32_t>(status), text));
-    return true;
+struct Status {
+  uint32_t number;
+  std::string_view name;
+  std::string_view text;
+};
+
+// Those of the device, then those of the library.
+std::vector<Status> statuses() {
+  std::vector<Status> statuses;
+  for (uint32_t number = 0; number <= BF_TABLE_MISS; ++number) {
+    statuses.push_back({number, soft_status_name(number), soft_status_text(number)});
   }
-  return false;
+  for (uint32_t i = 0; i <= kMostOwnStatus; ++i) {
+    const auto own = p4_pd_describe_status(i < kMostOwnStatus ? i : P4_PD_MEMBER_KEEPS_ACTION);
+    if (own.name != nullptr) statuses.push_back({own.status, own.name, own.text});
+  }
+  return statuses;
+}
+
+// Without what begins the names of the device, or of the library.
+std::string_view short_name(const Status &status) {
+  return status.name.substr(status.name.find('_', status.name.starts_with("P4_") ? 3 : 0) + 1);
+}
+
+// The statuses of that name or number in words. Returns false when there is none.
+bool print_status(Context &context, std::string_view word) {
+  const auto number = parse_number(word);
+  const std::string name = common::lower_case(word);
+  bool is_known = false;
+  for (const Status &status : statuses()) {
+    const bool is_named =
+        name == common::lower_case(status.name) || name == common::lower_case(short_name(status));
+    if (!is_named && number != Number{0, status.number}) continue;
+    context.results.row(
+        Row().choice("name", status.name).number("status", status.number).text("text", status.text),
+        fmt::format("{} ({}): {}", status.name, static_cast<int32_t>(status.number), status.text));
+    is_known = true;
+  }
+  return is_known;
 }
 
 // ---- Lists ----
@@ -151,8 +179,9 @@ std::string_view without_prefix(std::string_view name) {
   });
   const std::vector<SoftFunction> soft = soft_functions();
   for (const SoftFunction &function : soft) known.insert({function.name, function.header});
+  for (const Status &status : statuses()) known.insert({status.name, short_name(status)});
   const std::string near = common::nearest(without_prefix(word.text), known);
-  throw Fault(word, "no function, family or object has this name", near);
+  throw Fault(word, "no function, family, object or status has this name", near);
 }
 
 void print_api(Context &context, const Invocation &invocation) {
@@ -185,16 +214,21 @@ void offer_functions(Offers &offers, const Context &, const Command &, Words) {
   for (const SoftFunction &function : soft_functions()) offers.offer(function.name, kSoftTopic);
 }
 
+void offer_statuses(Offers &offers, const Context &, const Command &, Words) {
+  for (const Status &status : statuses()) offers.offer(status.name, status.text);
+}
+
 void offer_families(Offers &offers, const Context &, const Command &, Words) {
   for (const Family &family : families()) {
     offers.offer(family.first->family, note_of(*family.first).title);
   }
 }
 
-constexpr ObjectWord kWords[] = {{"FUNCTION", offer_functions}, {"FAMILY", offer_families}};
+constexpr ObjectWord kWords[] = {
+    {"FUNCTION", offer_functions}, {"FAMILY", offer_families}, {"STATUS", offer_statuses}};
 
 constexpr Command kCommands[] = {
-    {"api", "[FUNCTION|FAMILY|TABLE|ACTION|PROFILE|COUNTER|METER|REGISTER|HASH|SET|DIGEST]",
+    {"api", "[FUNCTION|FAMILY|TABLE|ACTION|PROFILE|COUNTER|METER|REGISTER|HASH|SET|DIGEST|STATUS]",
      "explains a function or a status, or lists the functions of a name, or families", print_api,
      Kind::lists},
 };
