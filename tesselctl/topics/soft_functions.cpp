@@ -56,8 +56,8 @@ class Reader {
   void declare(std::string text, std::vector<SoftFunction> &functions) {
     const size_t name = text.find("soft_");
     const size_t open = text.find('(');
-    if (text.starts_with("typedef")) records_.push_back(std::move(text));
-    if (open >= text.size() || text.starts_with("typedef")) return;
+    if (text.starts_with("typedef")) return records_.push_back(std::move(text));
+    if (open >= text.size()) return;
     SoftFunction function = {header_.name, text.substr(name, open - name), text, note_, ""};
     for (const std::string &record : records_) {
       const size_t type = record.rfind(' ') + 1;
