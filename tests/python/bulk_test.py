@@ -55,11 +55,19 @@ def test_columns_of_any_kind(session, routes):
     assert routes.find(vrfId=3, dip=(0x400, 32))
     addresses = dips.astype(">u4").view(numpy.uint8).reshape(5, 4)
     assert routes.modify_columns(setNextHop, vrfId=1, dip=(addresses, 24), nextHop=hops) == 5
+    reversed_ = dips.view(numpy.uint8).reshape(5, 4)[:, ::-1]
+    assert routes.modify_columns(setNextHop, vrfId=1, dip=(reversed_, 24), nextHop=hops) == 5
     six = numpy.zeros((3, 16), dtype=numpy.uint8)
     six[:, 15] = range(3)
     table = session.tables.ipv6ShortMaskLpm
     table.add_columns(setNextHop(nextHop=1), vrfId=1, dip=(six, [128] * 3))
     assert table.find(vrfId=1, dip="::2/128")
+    for wrong, message in ((addresses[:, 1:], "3 bytes; dip has 4"), (six, "16 bytes; dip has 4"),
+                           (addresses.astype(bool), "one dimension, or rows"),
+                           (numpy.zeros((5, 17), numpy.uint8), "rows of 1 to 16 bytes")):
+        for column in (wrong, (wrong, 32)):
+            with pytest.raises((TypeError, ValueError), match=message):
+                routes.add_columns(setNextHop, vrfId=9, dip=column, nextHop=1)
     for wrong in (dict(dip=dips, nextHop=[1]), dict(dip=dips.astype("f8"), nextHop=1),
                   dict(dip=numpy.array([-1]), nextHop=1), dict(dip=dips),
                   dict(dip=dips, nextHop=numpy.array([1 << 14] * 5)), dict(dip=1, nextHop=1)):

@@ -47,14 +47,30 @@ class ColumnValues {
   bool is_list() const { return static_cast<bool>(list_); }
   // Numbers of more than 64 bits.
   bool is_wide() const { return width_ > 8; }
+  // Whether rows are as long as fields of so many bits; numbers are.
+  bool is_as_long(size_t bits) const { return !is_bytes_ || width_ == (bits + 7) / 8; }
+  // Of a list.
   PyObject *object(size_t at) const {
     return PyList_GetItem(list_.get(), is_one_ ? 0 : static_cast<Py_ssize_t>(at));
+  }
+  // Of anything, as a reference of its own.
+  PyObject *new_object(size_t at) const {
+    if (is_list()) return Py_NewRef(object(at));
+    if (!is_bytes_) return from_number(number(at));
+    const auto bytes = tesselctl::to_bytes(number(at));
+    return checked(PyBytes_FromStringAndSize(
+        reinterpret_cast<const char *>(bytes.data()) + bytes.size() - width_,
+        static_cast<Py_ssize_t>(width_)));
   }
   tesselctl::Number number(size_t at) const {
     const Py_buffer &view = buffer_.view();
     const auto *bytes =
         static_cast<const uint8_t *>(view.buf) + static_cast<Py_ssize_t>(at) * view.strides[0];
-    if (is_bytes_) return tesselctl::from_bytes(bytes, width_);
+    if (is_bytes_) {
+      uint8_t row[kMostBytes];
+      for (size_t i = 0; i < width_; ++i) row[i] = bytes[static_cast<Py_ssize_t>(i) * step_];
+      return tesselctl::from_bytes(row, width_);
+    }
     uint64_t number = 0;
     memcpy(&number, bytes, width_);
     const unsigned sign = static_cast<unsigned>(8 * width_ - 1);
@@ -69,12 +85,18 @@ class ColumnValues {
   bool read_format() {
     const Py_buffer &view = buffer_.view();
     const std::string_view format = view.format == nullptr ? "B" : view.format;
-    is_bytes_ = (view.ndim == 2 && format == "B" && view.strides[1] == 1) ||
-                (view.ndim == 1 && format == "16s");
+    const bool is_rows = view.ndim == 2 && format == "B" && view.shape[1] > 0 &&
+                         view.shape[1] <= Py_ssize_t{kMostBytes};
+    if (view.ndim != 1 && !is_rows) {
+      raise(PyExc_TypeError,
+            fmt::format("a column is an array of one dimension, or rows of 1 to {} bytes",
+                        kMostBytes));
+    }
+    is_bytes_ = is_rows || format == "16s";
     if (is_bytes_) {
-      width_ = static_cast<size_t>(view.ndim == 2 ? view.shape[1] : view.itemsize);
-      if (width_ == 0 || width_ > 16) return false;
-    } else if (view.ndim == 1 && format.size() == 1 &&
+      width_ = static_cast<size_t>(is_rows ? view.shape[1] : view.itemsize);
+      if (is_rows) step_ = view.strides[1];
+    } else if (format.size() == 1 &&
                std::string_view("BHILQbhilq").find(format[0]) != format.npos) {
       width_ = static_cast<size_t>(view.itemsize);
       is_signed_ = format[0] >= 'a';
@@ -85,10 +107,13 @@ class ColumnValues {
     return true;
   }
 
+  static constexpr size_t kMostBytes = 16;
+
   Buffer buffer_;
   Ref list_;
   size_t size_ = 0;
   size_t width_ = 0;
+  Py_ssize_t step_ = 1;  // from a byte of a row to the next one
   bool is_bytes_ = false;
   bool is_signed_ = false;
   bool is_one_ = false;
@@ -118,13 +143,14 @@ struct NamedColumn {
     tesselctl::FieldValue value;
     value.value = parts[0].number(row);
     const bool is_lpm = field.match == tesselctl::Match::lpm;
-    bool is_good = value.value.fits(field.width);
+    bool is_good = parts[0].is_as_long(field.width) && value.value.fits(field.width);
     if (parts.size() == 1) {
       value.mask = field.match == tesselctl::Match::ternary ? tesselctl::key_bits(field)
                                                             : tesselctl::low_ones(field.width);
     } else {
       const tesselctl::Number second = parts[1].number(row);
       is_good = is_good && field.match != tesselctl::Match::exact &&
+                (is_lpm || parts[1].is_as_long(field.width)) &&
                 (is_lpm ? second <= tesselctl::Number(field.width) : second.fits(field.width));
       value.mask = is_good && is_lpm
                        ? tesselctl::prefix_mask(static_cast<unsigned>(second.low), field.width)
@@ -135,12 +161,9 @@ struct NamedColumn {
     return field_value(*column.record, field, Ref(object_of(row)).get());
   }
   PyObject *object_of(size_t row) const {
-    const auto one = [&](const ColumnValues &part) {
-      return part.is_list() ? Py_NewRef(part.object(row)) : from_number(part.number(row));
-    };
-    if (parts.size() == 1) return one(parts[0]);
-    const Ref value(one(parts[0]));
-    return checked(PyTuple_Pack(2, value.get(), Ref(one(parts[1])).get()));
+    if (parts.size() == 1) return parts[0].new_object(row);
+    const Ref value(parts[0].new_object(row));
+    return checked(PyTuple_Pack(2, value.get(), Ref(parts[1].new_object(row)).get()));
   }
 };
 
