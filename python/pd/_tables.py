@@ -68,16 +68,16 @@ class Table(TableBase):
         key = {name: value for name, value in fields.items() if name not in ("meter", "ttl")}
         while True:
             try:
-                return int(self.add(*arguments, **fields))
-            except _core.AlreadyExists:
-                pass
-            try:
                 entry = int(self.find(**key))
                 self.modify(*arguments, entry, meter=fields.get("meter"))
                 if fields.get("ttl") is not None:
                     self.set_ttl(entry, fields["ttl"])
                 return entry
-            except _core.ObjectNotFound:  # another thread has deleted it
+            except _core.ObjectNotFound:
+                pass
+            try:
+                return int(self.add(*arguments, **fields))
+            except _core.AlreadyExists:  # another thread has added it
                 pass
 
     def add_entry(self, entry: Any, *, ttl: int | None = None, meter: Any = None) -> int:
@@ -109,10 +109,12 @@ class Table(TableBase):
         A key of a ternary table is a pair, the key and the priority.
         """
         try:
-            if isinstance(entry, Entry):
-                return bool(self.get(entry) == entry)
-            if isinstance(entry, int):
-                return self.get(entry).key is not None
+            if isinstance(entry, (Entry, int)):
+                if not len(self):
+                    return False
+                self.placement(entry)  # asks the device, so that no call of the SDK fails
+                found = self.get(entry)
+                return found.key is not None and (isinstance(entry, int) or bool(found == entry))
             key, priority = entry if isinstance(entry, tuple) else (entry, None)
             self.find(key=key, priority=priority)
         except _core.ObjectNotFound:

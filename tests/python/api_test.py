@@ -417,7 +417,12 @@ def test_fixtures_fail_tests(tmp_path):
         "    with pytest.raises(pd.StatusError): session.tables.ipv4ShortMaskLpm.get(77)\n"
         "    ts.faults.fail_call('pipe_mgr_get_first_entry_handle', 5)\n"
         "    with pytest.raises(pd.StatusError): list(session.tables.ipv4ShortMaskLpm)\n"
-        "def test_good(session, good_calls): assert not session.tables.ipv4ShortMaskLpm.clear()\n")
+        "def test_good(session, good_calls):\n"
+        "    table = session.tables.ipv4ShortMaskLpm\n"
+        "    assert 5 not in table and ts.keys.ipv4ShortMaskLpm(vrfId=0, dip=0) not in table\n"
+        "    entry = table.replace(ts.actions.setNextHop(nextHop=1), vrfId=0, dip=0)\n"
+        "    assert table.replace(ts.actions.setNextHop(nextHop=2), vrfId=0, dip=0) == entry\n"
+        "    assert entry in table and 5 not in table and table.default_entry() not in table\n")
     done = subprocess.run(
         [sys.executable, "-m", "pytest", "-p", "pd.pytest_plugin", "-p", "no:cacheprovider", tmp_path],
         text=True, stdout=subprocess.PIPE)
