@@ -74,10 +74,12 @@ uint64_t Arguments::integer(const ParameterInfo &info, PyObject *object) {
   if (!PyIndex_Check(object)) {
     raise(PyExc_TypeError, name_of(info) + " is an int, not " + type_name(object));
   }
-  const long value = PyLong_AsLong(Ref(PyNumber_Index(object)).get());
-  if (PyErr_Occurred()) throw Raised{};
-  if (value != static_cast<int32_t>(value)) {
-    raise(PyExc_ValueError, fmt::format("{} is an int of 32 bits, not {}", name_of(info), value));
+  const Ref index(PyNumber_Index(object));
+  int overflow = 0;
+  const long value = PyLong_AsLongAndOverflow(index.get(), &overflow);
+  if (overflow != 0 || value != static_cast<int32_t>(value)) {
+    raise(PyExc_ValueError, fmt::format("{} is an int of 32 bits, not {}", name_of(info),
+                                        text_of(Ref(PyObject_Str(index.get())).get())));
   }
   return static_cast<uint64_t>(static_cast<int64_t>(value));
 }
@@ -187,8 +189,7 @@ void Arguments::read(PyObject *tuple) {
     } else if (info.kind == ParameterKind::text && item(i) != Py_None) {
       PyObject *given_text = item(i);
       const char *text = PyBytes_Check(given_text) ? PyBytes_AsString(given_text)
-                                                   : PyUnicode_AsUTF8AndSize(given_text, nullptr);
-      if (text == nullptr) throw Raised{};
+                                                   : text_of(given_text, name_of(info)).data();
       words_[i] = reinterpret_cast<uintptr_t>(text);
     }
   }

@@ -23,17 +23,25 @@ void share_sdk() {
   }
 }
 
-// Whether the soft SDK exports a function of that name for libraries.
-PyObject *is_sdk_function(PyObject * /*module*/, PyObject *name) {
+// The functions that the SDK has for libraries.
+void add_sdk_functions(PyObject *module) {
+  const python::Ref names(PyList_New(0));
+  for (const char *name : {
+#include "sdk_functions.inc"
+       }) {
+    python::check(PyList_Append(names.get(), python::Ref(python::text(name)).get()));
+  }
+  python::check(PyModule_AddObjectRef(module, "sdk_functions", names.get()));
+}
+
+// (number, what it is, its most bytes: 4 unless given)
+PyObject *unsigned_number(PyObject * /*module*/, PyObject *arguments) {
   return python::guarded([&] {
-    const std::string wanted(python::text_of(name));
-    Dl_info sdk = {};
-    Dl_info found = {};
-    const void *address = dlsym(RTLD_DEFAULT, wanted.c_str());
-    const bool is_there = address != nullptr && !wanted.starts_with("soft_") &&
-                          dladdr(reinterpret_cast<void *>(soft_clock_now), &sdk) != 0 &&
-                          dladdr(address, &found) != 0 && sdk.dli_fbase == found.dli_fbase;
-    return PyBool_FromLong(is_there ? 1 : 0);
+    PyObject *number = nullptr;
+    const char *what = nullptr;
+    unsigned bytes = 4;
+    if (PyArg_ParseTuple(arguments, "Os|I", &number, &what, &bytes) == 0) throw python::Raised{};
+    return PyLong_FromUnsignedLongLong(python::unsigned_of(number, bytes, what));
   });
 }
 
@@ -53,7 +61,7 @@ PyObject *nearest(PyObject * /*module*/, PyObject *arguments) {
 
 PyMethodDef functions[] = {
     {"nearest", nearest, METH_VARARGS, "The name that was probably meant, or an empty one."},
-    {"is_sdk_function", is_sdk_function, METH_O, "Whether the SDK has a function of that name."},
+    {"unsigned", unsigned_number, METH_VARARGS, "The int of so many bytes that a number is."},
     {nullptr, nullptr, 0, nullptr}};
 
 PyModuleDef definition = {
@@ -76,6 +84,7 @@ extern "C" __attribute__((visibility("default"))) PyObject *PyInit__core() {
     python::add_table(module.get());
     python::add_soft(module.get());
     python::add_journal(module.get());
+    add_sdk_functions(module.get());
     python::watch_process();
     python::check(PyModule_AddIntConstant(module.get(), "BF_ALL_PIPES", BF_ALL_PIPES));
     python::check(PyModule_AddStringConstant(module.get(), "modules", PD_MODULES_FROM_PACKAGES));

@@ -76,12 +76,16 @@ PyObject *guarded(Body body) noexcept {
 inline PyObject *text(std::string_view value) {
   return checked(PyUnicode_FromStringAndSize(value.data(), static_cast<Py_ssize_t>(value.size())));
 }
+inline std::string type_name(PyObject *object);
 // Lives as long as the object.
-inline std::string_view text_of(PyObject *object) {
+inline std::string_view text_of(PyObject *object, std::string_view what = "a name") {
   Py_ssize_t size = 0;
   const char *data = PyUnicode_AsUTF8AndSize(object, &size);
-  if (data == nullptr) throw Raised{};
-  return {data, static_cast<size_t>(size)};
+  if (data != nullptr) return {data, static_cast<size_t>(size)};
+  if (!PyUnicode_Check(object)) {
+    raise(PyExc_TypeError, std::string(what) + " is a str, not " + type_name(object));
+  }
+  throw Raised{};
 }
 inline std::string type_name(PyObject *object) {
   const Ref name(PyType_GetName(Py_TYPE(object)));

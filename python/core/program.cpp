@@ -313,6 +313,10 @@ PyObject *get_routes(PyObject *self, void * /*unused*/) {
 PyObject *get_name(PyObject *self, void * /*unused*/) {
   return guarded([&] { return text(program_of(self).binding().program); });
 }
+PyObject *represent(PyObject *self) {
+  return guarded(
+      [&] { return text(fmt::format("<Program {}>", program_of(self).binding().program)); });
+}
 PyObject *get_version(PyObject *self, void * /*unused*/) {
   return guarded([&] { return text(program_of(self).binding().library_version); });
 }
@@ -375,6 +379,7 @@ PyMethodDef functions[] = {{"load", load, METH_O, "The program of a module, by i
 void add_program(PyObject *module) {
   PyType_Slot slots[] = {{Py_tp_methods, methods},
                          {Py_tp_getset, members},
+                         {Py_tp_repr, reinterpret_cast<void *>(represent)},
                          doc_slot("A P4 program that was loaded."),
                          {0, nullptr}};
   program_type = make_type("pd.Program", sizeof(ProgramObject), slots,

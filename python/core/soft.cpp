@@ -201,13 +201,15 @@ void release_placement(void *placement) {
 // (device, object, handle, whether it is a member)
 PyObject *placement_of(PyObject * /*module*/, PyObject *arguments) {
   return guarded([&] {
-    unsigned device = 0;
-    unsigned object = 0;
-    unsigned handle = 0;
+    PyObject *numbers[3] = {};
     int is_member = 0;
-    if (PyArg_ParseTuple(arguments, "IIIp", &device, &object, &handle, &is_member) == 0) {
+    if (PyArg_ParseTuple(arguments, "OOOp", &numbers[0], &numbers[1], &numbers[2], &is_member) ==
+        0) {
       throw Raised{};
     }
+    const auto device = static_cast<uint32_t>(unsigned_of(numbers[0], 4, "device"));
+    const auto object = static_cast<uint32_t>(unsigned_of(numbers[1], 4, "object"));
+    const auto handle = static_cast<uint32_t>(unsigned_of(numbers[2], 4, "handle"));
     pipe_mgr_placement_t *placement = nullptr;
     const uint32_t status = [&] {
       const Unlocked unlocked;

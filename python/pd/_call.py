@@ -2,7 +2,7 @@
 from __future__ import annotations
 
 from pd import _core
-from pd._core import Function, Output, Program, check, soft
+from pd._core import Function, Output, Program, check, soft, unsigned
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
@@ -10,6 +10,10 @@ if TYPE_CHECKING:
 
 # Functions by program, family, object and action.
 _functions: dict[tuple[str, str, str, str], Function] = {}
+
+# What tables lack whose entries do not age.
+_AGEING = ("set_ttl", "get_ttl", "get_hit_state", "update_hit_state", "idle_tmo_enable",
+           "idle_tmo_disable", "idle_params_get", "idle_register_tmo_cb")
 
 
 def function(program: Program, family: str, name: str = "", action: str = "") -> Function:
@@ -19,14 +23,16 @@ def function(program: Program, family: str, name: str = "", action: str = "") ->
     if found is None:
         found = program.export(family, name, action)
         if found is None:
-            raise AttributeError(f"{name or program.name} has no function {family} {action}".rstrip())
+            raise AttributeError(f"{name} does not age its entries" if family in _AGEING else
+                                 f"{name or program.name} has no function {family} {action}".rstrip())
         _functions[key] = found
     return found
 
 
 def call(program: Program, family: str, name: str, *arguments: Any, action: str = "") -> None:
     """Calls it and raises the exception of its status."""
-    check(function(program, family, name, action)(*arguments), f"{name}.{family}")
+    check(function(program, family, name, action)(*arguments),
+          f"{name or program.name}.{family}")
 
 
 def get(program: Program, family: str, name: str, *arguments: Any, action: str = "") -> Any:
@@ -45,6 +51,16 @@ def read_control(name: str, *arguments: Any) -> Any:
     output = Output()
     control(name, *arguments, output)
     return output.value
+
+
+def meant(name: str, names: list[str]) -> str:
+    """What a message about a wrong name ends with."""
+    near = _core.nearest(name, names)
+    return f"; did you mean {near}?" if near else ""
+
+
+def bytes_of_hash(hash: bytes | int) -> bytes:
+    return unsigned(hash, "hash", 8).to_bytes(8, "big") if isinstance(hash, int) else hash
 
 
 class Name:

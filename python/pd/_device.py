@@ -2,7 +2,7 @@
 from __future__ import annotations
 
 from pd import _core
-from pd._call import call, control, function, read_control
+from pd._call import call, control, function, meant, read_control
 from pd._core import Program, SessionBase, WredParams
 from pd._listeners import forget_device, forget_session
 from pd._profiles import Profile
@@ -69,9 +69,8 @@ class Namespace:
         # A '_' behind a name that Python takes for itself.
         facts = self._facts.get(name) or self._facts.get(name.rstrip("_"))
         if facts is None:
-            near = _core.nearest(name, list(self._facts))
             raise AttributeError(f"{self._program.name} has no {self._kind} of the name {name}"
-                                 + (f"; did you mean {near}?" if near else ""))
+                                 + meant(name, list(self._facts)))
         made = self._make(self._program, name.rstrip("_") if name not in self._facts else name,
                           self._session, facts)
         self.__dict__[name] = made
@@ -202,9 +201,8 @@ class Session(SessionBase):
         def __getattr__(self, name: str) -> Any:
             kind = KINDS.get(name)
             if kind is None:
-                near = "" if name.startswith("_") else _core.nearest(name, dir(self))
-                raise AttributeError(f"a session has no {name}"
-                                     + (f"; did you mean {near}?" if near else ""))
+                near = "" if name.startswith("_") else meant(name, dir(self))
+                raise AttributeError(f"a session has no {name}{near}")
             made = Namespace(self._program, name, kind, self)
             setattr(self, name, made)
             return made

@@ -5,6 +5,7 @@ import os
 import sys
 
 from pd import _core, errors
+from pd._call import meant
 from pd._device import Device, Session
 from pd._soft import clock, faults, journal
 
@@ -27,9 +28,7 @@ class Records(ModuleType):  # type: ignore[misc, valid-type]
             return self._names()
         found = None if name.startswith("__") else self._find(name)
         if found is None:
-            near = _core.nearest(name, self._names())
-            raise AttributeError(f"{self.__name__} has no {name}"
-                                 + (f"; did you mean {near}?" if near else ""))
+            raise AttributeError(f"{self.__name__} has no {name}{meant(name, self._names())}")
         setattr(self, name, found)
         return found
 
@@ -37,8 +36,9 @@ class Records(ModuleType):  # type: ignore[misc, valid-type]
         return sorted(self._names())
 
 
-def module_file(name: str, package: str) -> str:
+def module_file(name: str | os.PathLike[str], package: str) -> str:
     """The module of a program: a file that is named, else beside the package, else beside pd."""
+    name = os.fsdecode(name)
     if os.sep in name or name.endswith(".so"):
         return os.path.abspath(name)
     here = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
@@ -51,7 +51,7 @@ def module_file(name: str, package: str) -> str:
                       + " or ".join(dict.fromkeys(files)))
 
 
-def load(name: str) -> Any:
+def load(name: str | os.PathLike[str]) -> Any:
     """Loads a program by its name or the file of its module, without a package; what one would be."""
     made = contents(name)
     module = ModuleType(made["program"].name)
@@ -59,7 +59,7 @@ def load(name: str) -> Any:
     return sys.modules.setdefault(module.__name__, module)
 
 
-def contents(name: str, package: str = "") -> dict[str, Any]:
+def contents(name: str | os.PathLike[str], package: str = "") -> dict[str, Any]:
     """What the package of a program has, by name; package is its file."""
     program = _core.load(module_file(name, package))
     made: dict[str, Any] = {}

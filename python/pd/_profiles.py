@@ -1,11 +1,9 @@
 """Action profiles, their members and groups."""
 from __future__ import annotations
 
-from operator import index
-
 from pd import _core
-from pd._call import Name, call, control, delete_all, get, read_control, walk
-from pd._core import Opaque, Record
+from pd._call import Name, bytes_of_hash, call, control, delete_all, get, read_control, walk
+from pd._core import Opaque, Record, unsigned
 from pd._listeners import listen
 from pd._numbers import Update
 
@@ -20,7 +18,7 @@ class _Held:
     _outcome = ""
 
     def __init__(self, profile: Profile, handle: int):
-        self.profile, self.handle = profile, index(handle)
+        self.profile, self.handle = profile, unsigned(handle, self._outcome)
 
     def __eq__(self, other: object) -> bool:
         return (type(other) is type(self) and isinstance(other, _Held)
@@ -86,7 +84,7 @@ class Group(_Held):
 
     def enable(self, member: Member, active: bool = True) -> None:
         """Whether the hash may choose the member."""
-        self._set("group_member_state_set", self._member(member), 0 if index(active) else 1)
+        self._set("group_member_state_set", self._member(member), 0 if unsigned(active, "active") else 1)
 
     def is_enabled(self, member: Member) -> bool:
         """Whether the hash may choose the member."""
@@ -110,7 +108,7 @@ class Group(_Held):
 
     def choose(self, hash: bytes | int) -> Member:
         """The member that packets of the hash get."""
-        bits = hash.to_bytes(8, "big") if isinstance(hash, int) else hash
+        bits = bytes_of_hash(hash)
         return Member(self.profile, self._group("group_member_get_from_hash", bits, len(bits)))
 
     def max_size(self) -> int:
@@ -143,7 +141,7 @@ class Profile(Name):
     def _handle(self, held: Any, kind: type[_Held]) -> int:
         """The handle of one of its members or groups, or the number that it is."""
         if not isinstance(held, _Held):
-            return index(held)
+            return unsigned(held, kind._outcome)
         of = held.profile
         if not isinstance(held, kind):
             raise TypeError(f"{self.name} takes a {kind.__name__.lower()}, not {held!r}")

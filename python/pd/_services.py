@@ -6,7 +6,7 @@ from operator import index
 
 from pd import _core
 from pd._call import Name, call, control, function, get, read_control, walk
-from pd._core import Opaque, Output, Record, SnapshotControl
+from pd._core import Opaque, Output, Record, SnapshotControl, unsigned
 from pd._listeners import listen
 from pd._numbers import Direction
 
@@ -65,15 +65,18 @@ class Hash(Name):
         """The hash of values with their widths in bits, as a number of so many bytes."""
         import ctypes
         held, attributes = [], []
-        for field, (value, width) in enumerate(values):
-            if not 0 <= index(value) < 1 << width:
-                raise ValueError(f"value {field} is 0 to {(1 << width) - 1:#x}, not {value}")
+        for field, pair in enumerate(values):
+            if not isinstance(pair, tuple) or len(pair) != 2 or not hasattr(pair[0], "__index__"):
+                raise TypeError(f"value {field} is (number, width in bits), not {pair!r}")
+            value, width = index(pair[0]), unsigned(pair[1], f"the width of value {field}")
+            if value < 0 or value.bit_length() > width:
+                raise ValueError(f"value {field} is a number of {width} bits, not {value}")
             if width <= 32:
                 attributes.append((field, 0, value))
                 continue
             held.append(ctypes.create_string_buffer(value.to_bytes((width + 7) // 8, "big")))
             attributes.append((field, 0, ctypes.addressof(held[-1])))
-        bits = bytearray(size)
+        bits = bytearray(unsigned(size, "size"))
         self._set("calculate_hash_value", len(values), attributes, [w for _, w in values], bits,
                   size)
         return int.from_bytes(bits, "big")
@@ -309,12 +312,15 @@ class Snapshot:
 
         Fields that are not given are 0.
         """
-        record = bytes(self._program.record("packets", self.direction)(**fields)) * stages
+        record = bytes(self._program.record("packets", self.direction)(**fields)) * unsigned(stages, "stages", 1)
         number = 0 if self.session.pipe == 0xffff else self.session.pipe
         return int(read_control("soft_snapshot_inject", self.session.device_id,
                                 number if pipe is None else pipe,
                                 self.direction == "egress", first_stage, record, stages,
                                 len(record)))
+
+    def __repr__(self) -> str:
+        return f"<Snapshot {self.handle} of {self.direction}, device {self.session.device_id}>"
 
     def delete(self) -> None:
         """Deletes the snapshot."""

@@ -1,9 +1,8 @@
 """Control of the soft SDK for a whole process: its clock, fault plan and journal."""
 from __future__ import annotations
 
-from operator import index
-
-from pd._core import JournalCall, StatusError, is_sdk_function, journal_calls, soft
+from pd._call import meant
+from pd._core import JournalCall, StatusError, journal_calls, sdk_functions, soft, unsigned
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
@@ -12,6 +11,9 @@ if TYPE_CHECKING:
 
 class Clock:
     """The virtual clock of all devices, in milliseconds. Time passes here alone."""
+
+    def __repr__(self) -> str:
+        return f"<Clock at {self.now()} ms>"
 
     def now(self) -> int:
         """The time of all devices."""
@@ -23,16 +25,18 @@ class Clock:
 
 
 def _function(name: str) -> str:
-    if not is_sdk_function(name):
-        raise ValueError(f"the SDK has no function {name!r}")
+    if not isinstance(name, str):
+        raise TypeError(f"function is a str, not {type(name).__name__}")
+    if name not in sdk_functions:
+        raise ValueError(f"the SDK has no function {name!r}{meant(name, sdk_functions)}")
     return name
 
 
 def _status(status: int | type[StatusError]) -> int:
-    number: Any = getattr(status, "status", status)
+    number = unsigned(getattr(status, "status", status), "status")
     if number == 0:
         raise ValueError("a call that fails returns another status than 0")
-    return index(number)
+    return number
 
 
 def _count(n: int) -> int:
@@ -44,17 +48,29 @@ def _count(n: int) -> int:
 class Faults:
     """Calls that are to fail, once each; n counts from 1, the next one."""
 
+    def __init__(self) -> None:
+        self._planned: list[str] = []
+
+    def __repr__(self) -> str:
+        return f"<Faults, {self.pending()} of {self._planned} have not struck>"
+
+    def _plan(self, what: str, name: str, *arguments: Any) -> None:
+        before = self._planned if self.pending() else []
+        soft[name](*arguments)
+        self._planned = [*before, what]
+
     def fail_call(self, function: str, status: int | type[StatusError], n: int = 1) -> None:
         """The nth next call of a function of the SDK."""
-        soft["fail_call"](_function(function), _count(n), _status(status))
+        self._plan(f"call {n} of {function}", "fail_call", _function(function), _count(n),
+                   _status(status))
 
     def fail_any_call(self, status: int | type[StatusError], n: int = 1) -> None:
         """The nth next call of any function of the SDK."""
-        soft["fail_any_call"](_count(n), _status(status))
+        self._plan(f"call {n}", "fail_any_call", _count(n), _status(status))
 
     def fail_allocation(self, n: int = 1) -> None:
         """The nth next allocation of a library."""
-        soft["fail_allocation"](_count(n))
+        self._plan(f"allocation {n}", "fail_allocation", _count(n))
 
     def pending(self) -> int:
         """How many have not struck."""
@@ -63,10 +79,14 @@ class Faults:
     def clear(self) -> None:
         """Forgets what was planned."""
         soft["faults_clear"]()
+        self._planned = []
 
 
 class Journal:
     """The calls of the SDK between start and stop; `with journal as calls:` does both."""
+
+    def __repr__(self) -> str:
+        return f"<Journal, {len(self.calls())} calls>"
 
     def start(self) -> None:
         """Calls are kept from here on."""

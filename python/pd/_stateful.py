@@ -3,7 +3,7 @@ from __future__ import annotations
 
 from pd import _core
 from pd._call import Name, control, function, read_control
-from pd._core import CounterValues, MeterSpec, Output
+from pd._core import CounterValues, MeterSpec, Output, unsigned
 from pd._listeners import checked
 from pd._tables import COLORS, number_of
 
@@ -136,7 +136,7 @@ class Register(_Cells):
 
     def _value(self, value: int) -> bytes:
         size = max(self.width, 8) // 8
-        if not 0 <= value < 1 << self.width:
+        if unsigned(value, f"a value of {self.name}", 8) >= 1 << self.width:
             raise ValueError(f"{self.name} has {self.width} bits, so 0 to {(1 << self.width) - 1}; "
                              f"not {value}")
         return value.to_bytes(size, "little")

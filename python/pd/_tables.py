@@ -1,11 +1,9 @@
 """Match tables."""
 from __future__ import annotations
 
-from operator import index
-
 from pd import _core
-from pd._call import call, control, delete_all, get, read_control, walk
-from pd._core import Entry, Hit, IdleParams, Opaque, Output, Program, TableBase
+from pd._call import bytes_of_hash, call, control, delete_all, get, read_control, walk
+from pd._core import Entry, Hit, IdleParams, Opaque, Output, Program, TableBase, unsigned
 from pd._listeners import listen
 from pd._numbers import IdleMode, TableProperty, Update
 
@@ -18,9 +16,9 @@ if TYPE_CHECKING:
 COLORS = ("green", "yellow", "red")
 
 
-def number_of(entry: Any) -> int:
+def number_of(entry: Any, what: str = "cell") -> int:
     """The handle of an entry, or the number that it is."""
-    return entry.handle if isinstance(entry, Entry) else index(entry)
+    return entry.handle if isinstance(entry, Entry) else unsigned(entry, what)
 
 
 class Table(TableBase):
@@ -59,7 +57,7 @@ class Table(TableBase):
         if isinstance(entry, Entry) and entry.key is not None \
                 and not isinstance(entry.key, self._program.record("keys", self.name)):
             raise TypeError(f"{self.name} takes an entry of its own, not one of {type(entry.key).__name__}")
-        return number_of(entry)
+        return number_of(entry, "entry")
 
     # ---- Entries ----
 
@@ -160,7 +158,8 @@ class Table(TableBase):
 
     def set_active(self, entry: int | AnyEntry, active: bool = True) -> None:
         """Sets whether a packet has hit the entry."""
-        self._call("update_hit_state", self.session, self.session, self._entry(entry), index(active))
+        self._call("update_hit_state", self.session, self.session, self._entry(entry),
+                   unsigned(active, "active"))
 
     def enable_ageing(self, *, sweep_interval: int = 1000, max_ttl: int = 0, min_ttl: int = 0,
                       default_ttl: int = 0, poll: bool = False) -> None:
@@ -275,7 +274,7 @@ class Table(TableBase):
         The hash chooses members of groups. None: there is neither a hit nor a default entry.
         """
         key = self.packet_key(**fields)
-        bits = hash.to_bytes(8, "big") if isinstance(hash, int) else hash
+        bits = bytes_of_hash(hash)
         try:
             hit = read_control("traffic_hit", self.session.device_id, self._pipe(pipe), self.handle,
                                key, len(key), bits, len(bits), packets,

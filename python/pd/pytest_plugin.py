@@ -63,7 +63,8 @@ def faults(soft_sdk: None) -> Iterator[Any]:
     yield pd.faults
     left = pd.faults.pending()
     if left:
-        pytest.fail(f"{left} of the faults that were planned have not struck")
+        pytest.fail(f"{left} of the faults that were planned have not struck; planned: "
+                    + ", ".join(pd.faults._planned))
 
 
 @pytest.fixture

@@ -120,8 +120,21 @@ def test_members_and_entries_of_others_are_refused(session, routes):
                                                       samples.generator()), vrfId=1, dip=0)):
         with pytest.raises(TypeError):
             call()
-    with pytest.raises(ValueError, match="value 1 is 0 to 0xff"):
-        next(iter(session.hashes)).calculate((5, 32), (256, 8))
+    calculate = next(iter(session.hashes)).calculate
+    for call, message in (
+            (lambda: calculate((5, 32), (256, 8)), "value 1 is a number of 8 bits"),
+            (lambda: calculate((1, 1 << 70)), "width of value 0"), (lambda: calculate({}), "value 0 is"),
+            (lambda: group.add("1"), "member is"), (lambda: own[0].member(1 << 70), "member is"),
+            (lambda: group.choose(1 << 70), "hash is"), (lambda: routes.get("x"), "entry is"),
+            (lambda: ts.faults.fail_call(None, 8), "function is"), (lambda: pd.load(5), "int"),
+            (lambda: ts.faults.fail_call("pipe_mgr_mat_ent_ad", 8), "mean pipe_mgr_mat_ent_add"),
+            (lambda: ts.faults.fail_any_call("BF_TABLE_FULL"), "status is"),
+            (lambda: session.tables.finalDropControl.enable_ageing(), "does not age its entries"),
+            (lambda: session.snapshot("ingress", 5, 2), "^tessel_switch.snapshot_create")):
+        with pytest.raises((TypeError, ValueError, AttributeError, pd.StatusError), match=message):
+            call()
+    for one in (session.snapshot(), ts.clock, ts.faults, ts.journal, ts.program):
+        assert " object at" not in repr(one)
 
 
 def test_what_is_read_can_be_copied_and_printed(session, routes, journal):
@@ -427,7 +440,7 @@ def test_fixtures_fail_tests(tmp_path):
         [sys.executable, "-m", "pytest", "-p", "pd.pytest_plugin", "-p", "no:cacheprovider", tmp_path],
         text=True, stdout=subprocess.PIPE)
     assert "5 passed, 2 errors" in done.stdout, done.stdout
-    assert "1 of the faults that were planned" in done.stdout
+    assert "1 of the faults that were planned have not struck; planned: call 1" in done.stdout
     assert "pipe_mgr_get_entry returned 7" in done.stdout
     assert "pipe_mgr_get_first_entry_handle returned 5" in done.stdout
 
