@@ -38,7 +38,7 @@ fs::path kept_path(const fs::path &journal) {
 }  // namespace
 
 std::string checkpoint_of(const std::string &journal) {
-  if (access(journal.c_str(), F_OK) != 0) return {};
+  if (!fs::exists(journal)) return {};
   // Without its changes: only the number at its head.
   FileLines lines(journal);
   std::string_view line;
@@ -62,7 +62,7 @@ Journal::Journal(const JournalOptions &options, DeviceOptions device, bool pipes
       place_(FilePlace::of_file(options.path)),
       lock_(place_, 0),
       rotate_at_(options.most_bytes) {
-  if (access(options_.path.c_str(), F_OK) == 0) {
+  if (fs::exists(options_.path)) {
     go_on(device, pipes_are_given);
   } else {
     if (fs::exists(old_path(1))) {

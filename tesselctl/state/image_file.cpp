@@ -1,6 +1,6 @@
 #include "tesselctl/state/image_file.hpp"
 
-#include <unistd.h>
+#include <filesystem>
 
 #include "tesselctl/device/device_copy.hpp"
 
@@ -27,7 +27,7 @@ DeviceOfImage::DeviceOfImage(const DeviceOptions &device, const ImageOptions &im
     if (place_.folder.is_open()) refuse_compressed_name(image_.path);
   }
   // Only now: whoever had the lock may have made the image.
-  is_new_ = use_ != ImageUse::reads && access(image_.path.c_str(), F_OK) != 0;
+  is_new_ = use_ != ImageUse::reads && !std::filesystem::exists(image_.path);
   if (is_new_) {
     device_.emplace(options_);
   } else {

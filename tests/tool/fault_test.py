@@ -41,7 +41,7 @@ def hops(folder, where):
 class Scene:
     """What is done with a fault in a folder that was prepared, and how it must be then."""
     # Calls without which something cannot be removed: a lock may be somebody else's.
-    MAY_STAY = {"unlink", "unlinkat", "remove", "flock"}
+    MAY_STAY = {"unlink", "unlinkat", "remove", "flock", "fstat", "fstatat", "lstat"}
 
     def prepare(self, folder):
         for number in (1, 2):
