@@ -1,4 +1,4 @@
-// Several threads, each on a table of its own, against one.
+// Several threads, each on tables of its own, against one on all of them.
 #include <memory>
 #include <thread>
 
@@ -32,13 +32,15 @@ void add_and_look_up(Table &table, const soft_key_field_t &field, uint64_t opera
   }
 }
 
-// Every thread does as much, so operations is what they do together.
+// Every table gets as much, so operations is what the threads do together.
 void run_threads(const SoftDevice &device, unsigned count, uint64_t operations) {
   std::vector<std::thread> threads;
-  for (unsigned i = 0; i < count; ++i) {
-    threads.emplace_back([&device, column = columns[i], share = operations / count] {
-      Table table(device, column.table);
-      add_and_look_up(table, table.field(column.field), share);
+  for (unsigned first = 0; first < count; ++first) {
+    threads.emplace_back([&device, first, count, share = operations / std::size(columns)] {
+      for (unsigned i = first; i < std::size(columns); i += count) {
+        Table table(device, columns[i].table);
+        add_and_look_up(table, table.field(columns[i].field), share);
+      }
     });
   }
   for (std::thread &thread : threads) thread.join();
