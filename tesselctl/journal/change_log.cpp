@@ -16,18 +16,18 @@ void ChangeLog::remove(LineListener &listener) {
 
 void ChangeLog::end_line(std::string_view client, std::string_view command) {
   if (!recorder_) return;
-  const std::vector<Change> &changes = recorder_->changes();
-  if (!changes.empty()) {
-    const auto now = std::chrono::system_clock::now().time_since_epoch();
-    const int64_t time = std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
-    const LineChanges line = {++number_, time, client, command, changes};
-    try {
+  try {
+    const std::vector<Change> &changes = recorder_->changes();
+    if (!changes.empty()) {
+      const auto now = std::chrono::system_clock::now().time_since_epoch();
+      const int64_t time = std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+      const LineChanges line = {number_ + 1, time, client, command, changes};
       for (LineListener *listener : listeners_) listener->note(line);
-    } catch (...) {
-      --number_;
-      recorder_->take_back();
-      throw;
+      ++number_;
     }
+  } catch (...) {
+    recorder_->take_back();
+    throw;
   }
   recorder_->clear();
 }

@@ -13,8 +13,9 @@ namespace tesselctl {
 ItemStore::Item ItemStore::add(const ItemView &item) {
   const size_t size = rounded(item.identity.size()) + rounded(item.value.size());
   if (size > left_) {
-    left_ = std::max(size, kChunk);
-    next_ = chunks_.emplace_back(std::make_unique_for_overwrite<char[]>(left_)).get();
+    const size_t room = std::max(size, kChunk);
+    next_ = chunks_.emplace_back(std::make_unique_for_overwrite<char[]>(room)).get();
+    left_ = room;
   }
   const Item added = {next_, static_cast<uint32_t>(item.identity.size()),
                       static_cast<uint32_t>(item.value.size())};

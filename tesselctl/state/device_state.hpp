@@ -84,8 +84,11 @@ class DeviceState {
 class ItemParts {
  public:
   const DeviceState::Part &of(const ItemKind &kind, const char *object) {
-    const auto [found, is_new] = parts_.try_emplace({&kind, object});
-    if (is_new) found->second = {&kind, object, kind.open(object), {}};
+    auto found = parts_.find({&kind, object});
+    if (found == parts_.end()) {
+      DeviceState::Part part = {&kind, object, kind.open(object), {}};
+      found = parts_.try_emplace({&kind, object}, std::move(part)).first;
+    }
     return found->second;
   }
 

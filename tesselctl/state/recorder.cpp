@@ -127,8 +127,8 @@ std::unique_ptr<Recorder::Function> Recorder::make_function(const bindings::Expo
 }
 
 Recorder::Function *Recorder::function_of(const bindings::Export &target) {
-  const auto [found, is_new] = functions_.try_emplace(&target);
-  if (is_new) found->second = make_function(target);
+  auto found = functions_.find(&target);
+  if (found == functions_.end()) found = functions_.emplace(&target, make_function(target)).first;
   return found->second.get();
 }
 
@@ -163,34 +163,37 @@ std::optional<uint32_t> Recorder::handle_of(Function &function, const Call &call
   return entry;
 }
 
+// All that may fail is done here, where the call is not made then.
 void Recorder::before(const Call &call) {
   if (is_reading_) return;
   Function *const function = function_of(call.target());
-  if (function == nullptr || function->makes) return;
-  touch(*function, handle_of(*function, call), false);
+  if (function == nullptr) return;
+  if (!function->makes) return touch(*function, handle_of(*function, call));
+  finish_touched();
+  touched_ = Touched{&function->parts, {}, std::vector<KeptItems>(function->parts.size())};
 }
 
 void Recorder::after(const Call &call, uint64_t result) {
-  if (is_reading_ || result != BF_SUCCESS) return;
+  if (is_reading_) return;
   Function *const function = function_of(call.target());
   if (function == nullptr || !function->makes) return;
+  if (result != BF_SUCCESS) return touched_.reset();
   uint32_t handle = 0;
   memcpy(&handle,
          reinterpret_cast<const void *>(static_cast<uintptr_t>(call.words()[*function->handle])),
          sizeof handle);
-  touch(*function, handle, true);
+  touched_->handle = handle;
   const Part &part = *function->parts.front();
   if (part.kind->numbered == Numbered::no) return;
   numbering_.of(part.access->profile()).of(part.kind->numbered).add_lasting(handle);
 }
 
-void Recorder::touch(const Function &function, std::optional<uint32_t> handle, bool is_new) {
+void Recorder::touch(const Function &function, std::optional<uint32_t> handle) {
   if (touched_ && touched_->handle == handle && *touched_->parts == function.parts) return;
   finish_touched();
-  touched_ = Touched{&function.parts, handle, std::vector<Items>(function.parts.size())};
-  for (size_t i = 0; i < function.parts.size() && !is_new; ++i) {
-    touched_->before[i] = read(*function.parts[i], handle);
-  }
+  Touched now = {&function.parts, handle, {}};
+  for (const Part *part : function.parts) now.before.push_back(keep(read(*part, handle)));
+  touched_ = std::move(now);
 }
 
 Recorder::Items Recorder::read(const Part &part, std::optional<uint32_t> handle) {
@@ -201,14 +204,20 @@ Recorder::Items Recorder::read(const Part &part, std::optional<uint32_t> handle)
   return items;
 }
 
+// Where it fails, what is not among the changes is still touched.
 void Recorder::finish_touched() {
   if (!touched_) return;
-  Touched done = std::move(*touched_);
-  touched_.reset();
-  for (size_t i = 0; i < done.parts->size(); ++i) {
-    const Part &part = *(*done.parts)[i];
+  for (size_t i = 0; i < touched_->parts->size(); ++i) {
+    const Part &part = *(*touched_->parts)[i];
     const size_t first = changes_.size();
-    compare_items(part, keep(std::move(done.before[i])), keep(read(part, done.handle)), changes_);
+    const KeptItems now = keep(read(part, touched_->handle));
+    try {
+      compare_items(part, touched_->before[i], now, changes_);
+    } catch (...) {
+      changes_.resize(first);
+      throw;
+    }
+    touched_->before[i] = now;
     if (first == changes_.size()) continue;
     if (part.kind->numbered != Numbered::no && changes_.back().edit() == Edit::remove) {
       numbering_.of(part.access->profile())
@@ -217,6 +226,7 @@ void Recorder::finish_touched() {
     }
     join_with_last(first);
   }
+  touched_.reset();
 }
 
 // Two changes of one item, one behind the other, are one.

@@ -46,6 +46,7 @@ class Recorder : public CallListener {
  private:
   using Part = DeviceState::Part;
   using Items = std::vector<ItemStore::Item>;
+  using KeptItems = std::span<const ItemStore::Item>;
   using Parts = std::vector<const Part *>;
   // What a function changes, by the places of its parameters.
   struct Function {
@@ -60,15 +61,15 @@ class Recorder : public CallListener {
   struct Touched {
     const Parts *parts;
     std::optional<uint32_t> handle;
-    std::vector<Items> before;
+    std::vector<KeptItems> before;
   };
 
   Function *function_of(const bindings::Export &target);
   std::unique_ptr<Function> make_function(const bindings::Export &target);
   std::optional<uint32_t> handle_of(Function &function, const Call &call);
-  void touch(const Function &function, std::optional<uint32_t> handle, bool is_new);
+  void touch(const Function &function, std::optional<uint32_t> handle);
   Items read(const Part &part, std::optional<uint32_t> handle);
-  std::span<const ItemStore::Item> keep(Items items) {
+  KeptItems keep(Items items) {
     if (items.empty()) return {};
     return kept_.emplace_back(std::move(items));
   }
