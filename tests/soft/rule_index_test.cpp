@@ -83,7 +83,7 @@ class Rules : public SoftTest, public testing::WithParamInterface<uint32_t> {
 TEST_P(Rules, HitTheSameAsOneByOne) {
   OK(pipe_mgr_tbl_set_property(session, kDevice, kTunnel, PIPE_TABLE_ENTRY_SCOPE, 1, 0));
   OK(pipe_mgr_tbl_set_property(session, kDevice, kTunnel, PIPE_TABLE_DUPLICATE_CHECK, 0, 0));
-  for (const uint32_t count : {12u, 40u, 900u, 200u, 600u, 5u}) {
+  for (const uint32_t count : {12u, 40u, 1500u, 900u, 200u, 600u, 5u}) {
     while (rules.size() < count) {
       add();
       if (random.one_in(3)) look_up();
