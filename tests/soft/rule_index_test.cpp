@@ -39,6 +39,7 @@ class Rules : public SoftTest, public testing::WithParamInterface<uint32_t> {
       }
     }
     rule->priority = random.below(GetParam() % 2 == 0 ? 3 : 5000);
+    if (GetParam() > 6) rule->priority += 5000 - 3 * static_cast<uint32_t>(rules.size());
     rule->pipe = random.one_in(4) ? random.below(2) : kAll;
   }
   void add() {
