@@ -116,7 +116,7 @@ class Server:
 
 class Journal(Scene):
     """Changes of a served device, and a new file of its journal when the server ends."""
-    MAY_STAY = Scene.MAY_STAY | {"openat", "open"}  # of the folder
+    MAY_STAY = Scene.MAY_STAY | {"openat", "open", "malloc"}  # of and for the names in the folder
 
     def prepare(self, folder):
         for number in (1, 2):
