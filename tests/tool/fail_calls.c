@@ -69,12 +69,13 @@ static enum course next_call(const char *name, int takes_room, int writes) {
   return is_chosen && writes && (kind == kKill || kind == kHalf) ? kDoesHalf : kGoesOn;
 }
 
+#define NEXT(name) (__extension__(__typeof__(&name)) dlsym(RTLD_NEXT, #name))
+
 static int is_file(int descriptor) {
   struct stat status;
-  return syscall(SYS_fstat, descriptor, &status) == 0 && S_ISREG(status.st_mode);
+  return NEXT(fstat)(descriptor, &status) == 0 && S_ISREG(status.st_mode);
 }
 
-#define NEXT(name) (__extension__(__typeof__(&name)) dlsym(RTLD_NEXT, #name))
 #define CALL(name, takes_room, parameters, arguments)                                  \
   int name parameters {                                                                \
     return next_call(#name "\n", takes_room, 0) == kFails ? -1 : NEXT(name) arguments; \
