@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <new>
 
 #include "tesselctl/journal/utc_text.hpp"
 #include "tesselctl/kinds/event_rows.hpp"
@@ -46,11 +47,10 @@ void Monitor::write(std::string_view text) {
 
 void Monitor::put(std::string_view event) {
   try {
-    out_.write(beginning_);
-    out_.write(event);
-    if (wanted_.json) out_.write(kJsonEnd);
-  } catch (const Fault &) {
-    // The client is gone; others are to hear of the event.
+    out_.write(wanted_.json ? fmt::format("{}{}{}", beginning_, event, kJsonEnd)
+                            : std::string(event));
+  } catch (const std::exception &) {
+    ++missed_;  // the client is gone or has no memory; others are to hear of the event
   }
 }
 
@@ -138,6 +138,14 @@ void Monitors::send(std::string_view object, const Print &print) {
 }
 
 void Monitors::note(const LineChanges &line) {
+  try {
+    send_changes(line);
+  } catch (const std::bad_alloc &) {
+    // The journal has the change by now, so that it stays.
+  }
+}
+
+void Monitors::send_changes(const LineChanges &line) {
   const EventHead head = {utc_text(line.time_ms), line.client, line.number};
   Output out;
   Results results(out);

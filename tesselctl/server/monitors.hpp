@@ -56,6 +56,7 @@ class Monitors : public LineListener {
   // Prints an event once in each form that is wanted of the object.
   using Print = std::function<std::string(bool json)>;
   void send(std::string_view object, const Print &print);
+  void send_changes(const LineChanges &line);
 
   Device &device_;
   ChangeLog &log_;

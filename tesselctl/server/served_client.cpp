@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <new>
 #include <utility>
 
 #include "tesselctl/command/flags.hpp"
@@ -15,6 +16,7 @@ namespace tesselctl {
 namespace {
 
 constexpr size_t kPiece = size_t{1} << 16;
+constexpr std::string_view kNoMemory = "there is no memory for this";
 
 Settings settings_of(std::string_view text) {
   std::vector<Word> words;
@@ -58,8 +60,12 @@ void ServedClient::handle(short events) {
   // Who hung up reads no answer, so that what it may have asked before is not done either.
   if ((events & (POLLERR | POLLHUP | POLLNVAL)) != 0) gone_ = true;
   if (gone_) return;
-  if ((events & POLLIN) != 0) receive();
-  if ((events & POLLOUT) != 0) send_queue();
+  try {
+    if ((events & POLLIN) != 0) receive();
+    if ((events & POLLOUT) != 0) send_queue();
+  } catch (const std::bad_alloc &) {
+    gone_ = true;  // what it sent is lost
+  }
 }
 
 void ServedClient::look() {
@@ -109,7 +115,7 @@ bool ServedClient::is_ready() const {
   if (gone_ || unread() >= limits_.paused_at) return false;
   try {
     return reader_.front().has_value();
-  } catch (const Fault &) {
+  } catch (const std::exception &) {
     return true;  // step refuses it
   }
 }
@@ -117,13 +123,23 @@ bool ServedClient::is_ready() const {
 void ServedClient::step() {
   try {
     if (const auto message = reader_.front()) look_at(*message);
+  } catch (const std::bad_alloc &) {
+    refuse(kNoMemory);
   } catch (const std::exception &error) {
-    if (gone_) return;
-    // What the socket takes at once is all that such a client gets.
-    queue_ += encode_message(MessageType::refusal, error.what());
-    send_queue();
-    gone_ = true;
+    refuse(error.what());
   }
+}
+
+void ServedClient::refuse(std::string_view why) {
+  if (gone_) return;
+  try {
+    // What the socket takes at once is all that such a client gets.
+    queue_ += encode_message(MessageType::refusal, why);
+    send_queue();
+  } catch (const std::bad_alloc &) {
+    // It gets the end of the connection.
+  }
+  gone_ = true;
 }
 
 void ServedClient::look_at(const Message &message) {
@@ -175,6 +191,9 @@ LineOutcome ServedClient::run(const Request &request) {
     return LineOutcome::done;
   } catch (const Fault &) {
     throw;  // the output is gone
+  } catch (const std::bad_alloc &) {
+    errors_.line("tesselctl: {}", kNoMemory);
+    return LineOutcome::fault;
   } catch (const std::exception &error) {
     errors_.line("tesselctl: {}", error.what());
     return LineOutcome::fault;
@@ -182,32 +201,41 @@ LineOutcome ServedClient::run(const Request &request) {
 }
 
 LineOutcome ServedClient::run_logged(const Request &request) {
+  // Before the line runs, as what it changed is to reach the log without memory for this.
+  const std::string command =
+      request.script ? "run --atomic " + request.file : std::string(trimmed(request.text));
   LineOutcome outcome;
   try {
     outcome = run(request);
-  } catch (const Fault &) {
-    end_line(request, LineOutcome::fault);
+  } catch (...) {
+    end_line(request, command, LineOutcome::fault);
     throw;
   }
-  return end_line(request, outcome);
+  return end_line(request, command, outcome);
 }
 
 // What the line changed goes to the log, or it was not done.
-LineOutcome ServedClient::end_line(const Request &request, LineOutcome outcome) {
+LineOutcome ServedClient::end_line(const Request &request, std::string_view command,
+                                   LineOutcome outcome) {
   try {
-    served_.log.end_line(name_, request.script ? "run --atomic " + request.file
-                                               : std::string(trimmed(request.text)));
+    served_.log.end_line(name_, command);
     return outcome;
   } catch (const Fault &fault) {
-    // As far as it is not sent yet, the answer does not hold.
-    out_.take();
-    const Settings &settings = runner_.defaults();
-    Results results(out_);
-    results.begin(settings, trimmed(request.text), false);
-    const Fault whole("the change could not be kept and was taken back: " + fault.sentence());
-    report_fault(whole, {}, results, settings.json, out_, errors_);
-    return LineOutcome::fault;
+    return report_taken_back(request, fault);
+  } catch (const std::bad_alloc &) {
+    return report_taken_back(request, Fault(std::string(kNoMemory)));
   }
+}
+
+LineOutcome ServedClient::report_taken_back(const Request &request, const Fault &fault) {
+  // As far as it is not sent yet, the answer does not hold.
+  out_.take();
+  const Settings &settings = runner_.defaults();
+  Results results(out_);
+  results.begin(settings, trimmed(request.text), false);
+  const Fault whole("the change could not be kept and was taken back: " + fault.sentence());
+  report_fault(whole, {}, results, settings.json, out_, errors_);
+  return LineOutcome::fault;
 }
 
 LineOutcome ServedClient::change_trial(bool begin) {
@@ -234,7 +262,8 @@ void ServedClient::send_events(WantedEvents wanted) {
                    [this] { return unread() + out_.waiting(); });
   try {
     served_.monitors.add(*monitor_);
-  } catch (const Fault &) {
+  } catch (...) {
+    served_.monitors.remove(*monitor_);
     monitor_.reset();
     throw;
   }
@@ -246,8 +275,8 @@ void ServedClient::send_collected() {
     monitor_->catch_up(limits_.paused_at / 2);
     if (monitor_->is_done()) return end_events();
     out_.flush();
-  } catch (const Fault &) {
-    // It is gone.
+  } catch (const std::exception &) {
+    gone_ = true;
   }
 }
 
@@ -266,7 +295,7 @@ bool ServedClient::is_interrupted() {
   try {
     const auto message = reader_.front();
     return gone_ || (message && message->type == MessageType::interrupt);
-  } catch (const Fault &) {
+  } catch (const std::exception &) {
     return true;
   }
 }

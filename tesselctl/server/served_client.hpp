@@ -67,10 +67,12 @@ class ServedClient : private EventSource {
   void push(std::string_view bytes);
   void push_pieces(MessageType type, std::string_view text);
   void look_at(const Message &message);
+  void refuse(std::string_view why);
   void prepare(const Request &request);
   LineOutcome run(const Request &request);
   LineOutcome run_logged(const Request &request);
-  LineOutcome end_line(const Request &request, LineOutcome outcome);
+  LineOutcome end_line(const Request &request, std::string_view command, LineOutcome outcome);
+  LineOutcome report_taken_back(const Request &request, const Fault &fault);
   LineOutcome change_trial(bool begin);
   void collect(std::string_view text);
   bool is_interrupted();

@@ -1,12 +1,12 @@
 #include "tesselctl/server/server.hpp"
 
-#include <poll.h>
 #include <sys/eventfd.h>
 #include <sys/socket.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <new>
 
 #include "tesselctl/journal/journal.hpp"
 
@@ -30,6 +30,8 @@ Server::Server(Device &device, ListeningSocket listening, const ServerLimits &li
       wake_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK | EFD_SEMAPHORE)),
       listening_(std::move(listening)) {
   if (!wake_.is_open()) throw Fault(fmt::format("cannot start the server: {}", strerror(errno)));
+  clients_.reserve(limits_.clients);
+  waited_.reserve(limits_.clients + 2);
   if (journal == nullptr) return;
   log_.add(*journal);
   log_.count_from(journal->last());
@@ -66,7 +68,11 @@ void Server::run_job() {
   }
   uint64_t one = 0;
   [[maybe_unused]] const ssize_t got = read(wake_.get(), &one, sizeof one);
-  job();
+  try {
+    job();
+  } catch (const std::bad_alloc &) {
+    // Who waits for it sees that it is gone.
+  }
 }
 
 ServerFigures Server::figures() const {
@@ -96,23 +102,24 @@ void Server::forget_gone() {
 
 // Until there is something to do; takes what clients sent and sends what they wait for.
 void Server::wait() {
-  std::vector<pollfd> waited = {{wake_.get(), POLLIN, 0}};
-  waited.push_back({listening_.get(), POLLIN, 0});
-  if (out_of_descriptors_) waited.back().events = 0;
+  waited_.clear();
+  waited_.push_back({wake_.get(), POLLIN, 0});
+  waited_.push_back({listening_.get(), POLLIN, 0});
+  if (out_of_descriptors_) waited_.back().events = 0;
   int timeout = out_of_descriptors_ ? kTryAgainMs : -1;
   for (const auto &client : clients_) {
-    waited.push_back({client->fd(), client->events(), 0});
+    waited_.push_back({client->fd(), client->events(), 0});
     if (client->is_ready()) timeout = 0;
   }
   out_of_descriptors_ = false;
   timeout = wait_for_events(timeout);
-  if (poll(waited.data(), static_cast<nfds_t>(waited.size()), timeout) < 0) {
+  if (poll(waited_.data(), static_cast<nfds_t>(waited_.size()), timeout) < 0) {
     if (errno == EINTR) return;
     throw Fault(fmt::format("the server cannot wait for clients: {}", strerror(errno)));
   }
-  for (size_t i = 0; i < clients_.size(); ++i) clients_[i]->handle(waited[i + 2].revents);
+  for (size_t i = 0; i < clients_.size(); ++i) clients_[i]->handle(waited_[i + 2].revents);
   send_events();
-  if (waited[1].revents != 0) accept_clients();
+  if (waited_[1].revents != 0) accept_clients();
 }
 
 // The timeout, or less of it where events are to be sent before.
@@ -136,7 +143,11 @@ void Server::accept_clients() {
   while (true) {
     Descriptor socket = listening_.accept_client();
     if (!socket.is_open()) break;
-    accept_client(std::move(socket));
+    try {
+      accept_client(std::move(socket));
+    } catch (const std::bad_alloc &) {
+      // That client alone is not served.
+    }
   }
   out_of_descriptors_ = errno != EAGAIN && errno != EWOULDBLOCK;
 }

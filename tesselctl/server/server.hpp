@@ -3,6 +3,8 @@
 // client.
 #pragma once
 
+#include <poll.h>
+
 #include <atomic>
 #include <chrono>
 #include <deque>
@@ -56,7 +58,9 @@ class Server {
   bool out_of_descriptors_ = false;
   // When the events that wait are sent, if any do.
   std::optional<std::chrono::steady_clock::time_point> send_events_at_;
+  // With room for as many as there may be, so that a server that waits needs no memory.
   std::vector<std::unique_ptr<ServedClient>> clients_;
+  std::vector<pollfd> waited_;
   ServerFigures figures_;
   std::mutex jobs_mutex_;
   std::deque<std::function<void()>> jobs_;
