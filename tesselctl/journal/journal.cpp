@@ -103,16 +103,18 @@ void Journal::begin_file() {
   if (fs::exists(options_.path)) keep_file();
   const auto go_on_there = [&] {
     extent_ = {extent_.last, extent_.last, head.size()};
+    is_head_durable_ = false;
     const std::lock_guard guard(mutex_);
     file_ = file.take();
   };
   try {
     file.commit();
-  } catch (const Fault &) {
+  } catch (...) {
     if (file.is_in_place()) go_on_there();
     throw;
   }
   go_on_there();
+  is_head_durable_ = true;
 }
 
 // Gives the file the number 1 beside its name. What may find no room comes first, so that a full
@@ -133,6 +135,8 @@ void Journal::keep_file() {
 // What tries that failed and killed servers left: the checkpoints of no file, and a file's second
 // name. What cannot be removed now is removed by the next new file.
 void Journal::remove_leftovers() {
+  // The head that a loss of power would bring back names a checkpoint from before.
+  if (!is_head_durable_) return;
   const fs::path journal = options_.path;
   const fs::path folder = journal.has_parent_path() ? journal.parent_path() : ".";
   const std::string first = journal.filename().string() + ".";

@@ -68,6 +68,7 @@ class Journal : public LineListener {
   uint64_t undone_ = 0;
   uint64_t rotate_at_ = 0;
   bool needs_cut_ = false;
+  bool is_head_durable_ = true;  // the file's name is on the disk with its folder
 
   std::mutex mutex_;  // of what the thread that syncs shares
   std::condition_variable wake_;

@@ -117,6 +117,7 @@ class Server:
 class Journal(Scene):
     """Changes of a served device, and a new file of its journal when the server ends."""
     MAY_STAY = Scene.MAY_STAY | {"openat", "open", "malloc"}  # of and for the names in the folder
+    MAY_STAY |= {"fsync"}  # what a loss of power needs
 
     def prepare(self, folder):
         for number in (1, 2):
@@ -132,6 +133,8 @@ class Journal(Scene):
         return ended
 
     def check(self, folder, ended):
+        is_on_disk = "may not be on the disk yet" not in ended.stderr
+        assert is_on_disk or os.path.exists(folder + "/j.2.image"), os.listdir(folder)
         server = Server(folder)
         kept = hops(folder, "--socket s")
         changes = int(run(folder, "--socket s history --count", check=True).stdout)
