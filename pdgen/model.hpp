@@ -492,10 +492,8 @@ inline Bits low_bits(unsigned width) {
 // The row of that name in one of the lists above, null if there is none.
 template <typename Row>
 const Row *find_row(const std::vector<Row> &rows, std::string_view name) {
-  for (const Row &row : rows) {
-    if (row.name == name) return &row;
-  }
-  return nullptr;
+  const auto found = std::ranges::find(rows, name, &Row::name);
+  return found == rows.end() ? nullptr : &*found;
 }
 
 }  // namespace pdgen
