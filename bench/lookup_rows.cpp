@@ -152,7 +152,7 @@ std::vector<Row> lookup_rows() {
   add_rule_rows(rows, Shape::ranges, "rules (ternary): ranges of ports");
   add_rule_rows(rows, Shape::lengths, "rules (ternary): all lengths of prefixes");
   add_rule_rows(rows, Shape::overlaps, "rules (ternary): short prefixes");
-  for (Row &row : rows) row.is_counted = false;
+  for (Row &row : rows) row.counted = 20'000;
   return rows;
 }
 

@@ -84,7 +84,7 @@ void print(const Row &row, Times &times, bool is_first) {
 // One run to get warm, one that counts.
 void count(const Row &row) {
   for (const Side *side : sides_of(row)) {
-    const uint64_t operations = side->once != 0 ? side->once : batch;
+    const uint64_t operations = side->once != 0 ? side->once : row.counted;
     Work work = side->prepare();
     if (side->once == 0) work(operations);
     CALLGRIND_START_INSTRUMENTATION;
@@ -120,7 +120,7 @@ int run(const std::vector<Row> &rows, int argc, char **argv) {
   for (const Row &row : rows) {
     if ((row.room + "/" + row.name).find(wanted) == std::string::npos) continue;
     if (is_counting) {
-      if (row.is_counted) count(row);
+      if (row.counted != 0) count(row);
       continue;
     }
     std::fprintf(stderr, "%s: %s\n", row.room.c_str(), row.name.c_str());

@@ -63,7 +63,7 @@ Row threads_row(const char *name, unsigned count, Goal goal) {
              {on_threads("one thread", 1)},
              goal};
   row.is_parallel = true;
-  row.is_counted = false;
+  row.counted = 0;
   return row;
 }
 

@@ -129,7 +129,7 @@ std::vector<Row> upgrade_rows() {
     upgrade.add_routes();
     upgrade.fill_profile();
   });
-  std::vector<Row> rows = {
+  return {
       {"upgrade",
        "a million routes, 10,000 members in 500 groups",
        doing("replay of a virtual device", items, full, std::mem_fn(&Upgrade::replay)),
@@ -147,8 +147,6 @@ std::vector<Row> upgrade_rows() {
        doing("text", routes, full, std::mem_fn(&Upgrade::write_texts)),
        {doing("record", routes, full, std::mem_fn(&Upgrade::read_back))}},
   };
-  for (Row &row : rows) row.is_counted = false;
-  return rows;
 }
 
 }  // namespace bench
