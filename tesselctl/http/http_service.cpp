@@ -59,7 +59,7 @@ StartHttp load_http() {
   if (module == nullptr) {
     std::error_code none;
     throw Fault(std::filesystem::exists(path, none)
-                    ? std::string("--http: ") + dlerror()
+                    ? "--http: " + load_error()
                     : "--http: this tool was built without the library for HTTP");
   }
   return reinterpret_cast<StartHttp>(dlsym(module, kStartHttp));

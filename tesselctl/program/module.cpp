@@ -92,12 +92,17 @@ fs::path path_of(const ProgramChoice &choice) {
 
 }  // namespace
 
+std::string load_error() {
+  const char *error = dlerror();
+  return error != nullptr ? error : "there is no memory for it";
+}
+
 const bindings::Binding &open_module(const fs::path &path) {
   // A name without a folder would be looked for where libraries are. Thousands of functions are
   // looked up as they are called, for a quick start.
   void *module = dlopen(fs::absolute(path).c_str(), RTLD_LAZY | RTLD_LOCAL);
   if (module == nullptr) {
-    throw Fault(fmt::format("{} is no module of a program: {}", path.string(), dlerror()));
+    throw Fault(fmt::format("{} is no module of a program: {}", path.string(), load_error()));
   }
   const auto *found = static_cast<const bindings::Binding *>(dlsym(module, "pd_binding"));
   if (found == nullptr) throw Fault(path.string() + " is no module of a program");

@@ -16,6 +16,9 @@ std::filesystem::path module_folder();
 // Of the modules that are installed, in order.
 std::vector<std::string> program_names();
 
+// Why the dlopen before failed.
+std::string load_error();
+
 // The binding of a module, which stays loaded. Throws Fault.
 const bindings::Binding &open_module(const std::filesystem::path &path);
 
