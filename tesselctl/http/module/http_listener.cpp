@@ -87,14 +87,14 @@ class Listener final : public HttpListener, private httplib::Server {
 
   void accept_clients() {
     pollfd waited[] = {{stop_.get(), POLLIN, 0}, {socket_, POLLIN, 0}};
-    // Without a descriptor for the client that waits, later.
+    // Without a descriptor or memory for the client that waits, later.
     for (int timeout = -1;;) {
       if (timeout > 0) waited[1].events = 0;
       poll(waited, std::size(waited), timeout);
       if (waited[0].revents != 0) return;
       waited[1].events = POLLIN;
       const int client = accept4(socket_, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
-      timeout = client < 0 && (errno == EMFILE || errno == ENFILE) ? 100 : -1;
+      timeout = client < 0 && errno != EAGAIN ? 100 : -1;
       if (client >= 0) begin(client);
     }
   }
@@ -109,16 +109,28 @@ class Listener final : public HttpListener, private httplib::Server {
       send(client, kBusy.data(), kBusy.size(), MSG_NOSIGNAL);
       return;
     }
-    clients_.insert(client);
     try {
+      clients_.insert(client);
       std::thread([this, kept = std::move(socket)]() mutable { serve(kept); }).detach();
-    } catch (const std::system_error &) {
-      clients_.erase(client);
+    } catch (const std::exception &) {
+      clients_.erase(client);  // there is no thread or memory for it
     }
   }
 
   void serve(Descriptor &socket) {
-    Connection connection(socket.get(), limits_);
+    try {
+      answer_client(socket.get());
+    } catch (const std::exception &) {
+      // There is no memory for the answer.
+    }
+    const std::lock_guard lock(mutex_);
+    clients_.erase(socket.get());
+    socket.reset();
+    nobody_.notify_all();
+  }
+
+  void answer_client(int socket) {
+    Connection connection(socket, limits_);
     bool closed = false;
     // Ranges of an answer could ask for many times its size, and nothing here is worth the time
     // that it takes to compress it.
@@ -127,10 +139,6 @@ class Listener final : public HttpListener, private httplib::Server {
       request.headers.erase("Accept-Encoding");
     });
     connection.finish();
-    const std::lock_guard lock(mutex_);
-    clients_.erase(socket.get());
-    socket.reset();
-    nobody_.notify_all();
   }
 
   int socket_;
