@@ -1,10 +1,11 @@
 """Fails each call about files, and each allocation, of what keeps a device or reads files: what was
 answered stays, a file is the old one or the new one, and a failure that is survived leaves nothing.
 
-    fault_test.py TOOL FAIL_CALLS [EVERY [SCENE...]]    EVERY: 1 for all faults, 7 for each seventh
+    fault_test.py TOOL FAIL_CALLS EVERY [SCENE...]    EVERY: 1 for all faults, 7 for each seventh
 """
 import contextlib
 import errno
+import http.client
 import os
 import re
 import shutil
@@ -12,10 +13,11 @@ import signal
 import subprocess
 import sys
 import tempfile
+import urllib.request
 from concurrent.futures import ThreadPoolExecutor
 
 TOOL, LIBRARY = map(os.path.abspath, sys.argv[1:3])
-EVERY = int(sys.argv[3]) if len(sys.argv) > 3 else 11
+EVERY = int(sys.argv[3])
 ERRORS = [errno.EIO, errno.ENOSPC, errno.EINTR, errno.EACCES, errno.EMFILE]
 HOP = "add nextHop nextHop={} action=setNextHopDetails dmac=1 domain=1"
 
@@ -100,11 +102,19 @@ class Readers(State):
 
 
 class Server:
-    def __init__(self, folder, env=None, **options):
+    def __init__(self, folder, env=None, words="--journal j --sync always", **options):
         self.process = subprocess.Popen(
-            [TOOL, "serve", "--socket", "s", "--journal", "j", "--sync", "always"], cwd=folder,
+            [TOOL, "serve", "--socket", "s", *words.split()], cwd=folder,
             env=env, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, **options)
-        self.process.stdout.readline()  # it is served, or ended
+        self.line = self.process.stdout.readline()  # it is served, or ended
+
+    def counts(self):
+        """Whether a request over HTTP is answered."""
+        try:
+            url = re.search(r"http:\S*", self.line)[0] + "json/count"
+            return b"rows" in urllib.request.urlopen(url, timeout=60).read()
+        except (OSError, http.client.HTTPException, TypeError):
+            return False
 
     def end(self):
         self.process.terminate()
@@ -149,6 +159,24 @@ class Journal(Scene):
     def check_names(self, folder):
         names = " ".join(sorted(os.listdir(folder)))
         assert re.fullmatch(r"j( j\.\d)*( j\.\d+\.image)( j\.\d)*", names), names
+
+
+class Http(Scene):
+    """Requests over HTTP, of which one may get no answer."""
+    NAMES = {"s"}
+
+    def prepare(self, folder):
+        pass
+
+    def act(self, folder, env, **options):
+        server = Server(folder, env, "--http :0", **options)
+        answers = [server.counts() for _ in range(2)]
+        ended = server.end()
+        assert ended.returncode != 0 or any(answers), "no request was answered"
+        return ended
+
+    def check(self, folder, ended):
+        assert self.act(folder, None).returncode == 0
 
 
 @contextlib.contextmanager
@@ -199,7 +227,7 @@ def fail(scene, base, fault):
 
 def main():
     wrong = 0
-    for scene in (Image(), State(), Readers(), Journal()):
+    for scene in (Image(), State(), Readers(), Journal(), Http()):
         if len(sys.argv) > 4 and type(scene).__name__ not in sys.argv[4:]:
             continue
         with tempfile.TemporaryDirectory(prefix="fault.") as base:
