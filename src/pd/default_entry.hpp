@@ -8,7 +8,8 @@ namespace pd {
 
 template <class P>
 PD_INLINE p4_pd_status_t set_default_action(p4_pd_session_handle_t session,
-                                            p4_pd_device_target_t target, const void *action_spec,
+                                            const p4_pd_device_target_t &target,
+                                            const void *action_spec,
                                             const p4_pd_bytes_meter_spec_t *meter,
                                             p4_pd_entry_handle_t *entry) {
   if (P::ActionType::action.param_count != 0 && action_spec == nullptr) return P4_PD_NULL_ARGUMENT;

@@ -22,7 +22,8 @@ PD_INLINE bool lacks_action(const void *action_spec) {
 }
 
 template <class P>
-PD_INLINE p4_pd_status_t add_entry(p4_pd_session_handle_t session, p4_pd_device_target_t target,
+PD_INLINE p4_pd_status_t add_entry(p4_pd_session_handle_t session,
+                                   const p4_pd_device_target_t &target,
                                    const typename P::TableType::Record *match_spec,
                                    const void *action_spec, EntryOptions options,
                                    p4_pd_entry_handle_t *entry) {
@@ -55,7 +56,7 @@ PD_INLINE p4_pd_status_t modify_entry(p4_pd_session_handle_t session, uint8_t de
 
 template <class P>
 PD_INLINE p4_pd_status_t modify_entry_by_match_spec(p4_pd_session_handle_t session,
-                                                    p4_pd_device_target_t target,
+                                                    const p4_pd_device_target_t &target,
                                                     const typename P::TableType::Record *match_spec,
                                                     const void *action_spec, EntryOptions options) {
   if (match_spec == nullptr || lacks_action<P>(action_spec)) return P4_PD_NULL_ARGUMENT;
@@ -80,7 +81,7 @@ PD_INLINE p4_pd_status_t delete_entry(p4_pd_session_handle_t session, uint8_t de
 
 template <class T>
 PD_INLINE p4_pd_status_t delete_entry_by_match_spec(p4_pd_session_handle_t session,
-                                                    p4_pd_device_target_t target,
+                                                    const p4_pd_device_target_t &target,
                                                     const typename T::Record *match_spec,
                                                     EntryOptions options) {
   if (match_spec == nullptr) return P4_PD_NULL_ARGUMENT;
@@ -92,7 +93,8 @@ PD_INLINE p4_pd_status_t delete_entry_by_match_spec(p4_pd_session_handle_t sessi
 }
 
 template <class T>
-PD_INLINE p4_pd_status_t find_entry(p4_pd_session_handle_t session, p4_pd_device_target_t target,
+PD_INLINE p4_pd_status_t find_entry(p4_pd_session_handle_t session,
+                                    const p4_pd_device_target_t &target,
                                     const typename T::Record *match_spec, EntryOptions options,
                                     p4_pd_entry_handle_t *entry) {
   if (match_spec == nullptr) return P4_PD_NULL_ARGUMENT;

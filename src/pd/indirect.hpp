@@ -39,7 +39,7 @@ PD_INLINE void point_at(pipe_mgr_action_spec_t &spec, Group group) {
 
 template <class T, class Target>
 PD_INLINE p4_pd_status_t add_indirect_entry(p4_pd_session_handle_t session,
-                                            p4_pd_device_target_t target,
+                                            const p4_pd_device_target_t &target,
                                             const typename T::Record *match_spec, uint32_t priority,
                                             Target pointee, p4_pd_entry_handle_t *entry) {
   if (match_spec == nullptr) return P4_PD_NULL_ARGUMENT;
@@ -70,7 +70,7 @@ PD_INLINE p4_pd_status_t modify_indirect_entry(p4_pd_session_handle_t session, u
 
 template <class T, class Target>
 PD_INLINE p4_pd_status_t modify_indirect_entry_by_match_spec(p4_pd_session_handle_t session,
-                                                             p4_pd_device_target_t target,
+                                                             const p4_pd_device_target_t &target,
                                                              const typename T::Record *match_spec,
                                                              uint32_t priority, Target pointee) {
   if (match_spec == nullptr) return P4_PD_NULL_ARGUMENT;
@@ -89,8 +89,8 @@ PD_INLINE p4_pd_status_t modify_indirect_entry_by_match_spec(p4_pd_session_handl
 
 template <class T, class Target>
 PD_INLINE p4_pd_status_t set_indirect_default_entry(p4_pd_session_handle_t session,
-                                                    p4_pd_device_target_t target, Target pointee,
-                                                    p4_pd_entry_handle_t *entry) {
+                                                    const p4_pd_device_target_t &target,
+                                                    Target pointee, p4_pd_entry_handle_t *entry) {
   pipe_mgr_action_spec_t spec;
   point_at(spec, pointee);
   uint32_t action = 0;

@@ -71,11 +71,12 @@ PD_INLINE p4_pd_status_t encode_resources([[maybe_unused]] const uint8_t *record
 }  // namespace detail
 
 // Fills spec and data from the record, which is null for an action without parameters; spec points
-// into data afterwards.
+// into data afterwards. The type is 0 for the data of a member itself.
 template <class A>
 PD_INLINE void encode_action_data(const void *record, ActionBytes<A> &data,
-                                  pipe_mgr_action_spec_t &spec) {
+                                  pipe_mgr_action_spec_t &spec, uint32_t type = 0) {
   clear(spec);
+  spec.type = type;  // here, where it is one store with the clearing
   spec.data.valid_bit_count = A::action.data_bits;
   spec.data.byte_count = A::action.data_bytes;
   spec.data.bytes = data.bytes;
@@ -88,8 +89,7 @@ template <class P, Operation Op>
 PD_INLINE p4_pd_status_t encode_action(const void *record, const p4_pd_bytes_meter_spec_t *meter,
                                        ActionBytes<typename P::ActionType> &data,
                                        pipe_mgr_action_spec_t &spec) {
-  encode_action_data<typename P::ActionType>(record, data, spec);
-  spec.type = PIPE_ACTION_DATA;
+  encode_action_data<typename P::ActionType>(record, data, spec, PIPE_ACTION_DATA);
   return detail::encode_resources<P, Op>(static_cast<const uint8_t *>(record), meter, spec,
                                          std::make_index_sequence<P::resource_count>{});
 }

@@ -6,7 +6,7 @@
 #include <utility>
 
 // The verbs and codecs are inlined into the wrapper that names them: a call in between costs a
-// tenth of an entry add.
+// tenth of an entry add. They take the device target by reference, as a copy costs instructions.
 #define PD_INLINE [[gnu::always_inline]] inline
 
 // The expression once for each element of the pack in it, in order. Compilers nest the operands of
