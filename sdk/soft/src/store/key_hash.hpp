@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "store/key_index.hpp"
+
 namespace soft {
 
 // Reads or writes a number at any address; records are not aligned.
@@ -20,37 +22,41 @@ void store(void *to, T value) {
   std::memcpy(to, &value, sizeof(value));
 }
 
-// The 1 to 7 bytes at bytes as one number, a different one for every different string of this
-// length. Reads nothing outside the string.
-inline uint64_t load_short(const uint8_t *bytes, size_t count) {
+// The 1 to 8 bytes at bytes as one number, the first byte on top. Reads nothing outside the string.
+inline uint64_t load_number(const uint8_t *bytes, size_t count) {
+  if (count == 8) return __builtin_bswap64(load<uint64_t>(bytes));
   if (count >= 4)
-    return load<uint32_t>(bytes) | static_cast<uint64_t>(load<uint32_t>(bytes + count - 4)) << 32;
-  return bytes[0] | static_cast<uint64_t>(bytes[count / 2]) << 8 |
-         static_cast<uint64_t>(bytes[count - 1]) << 16;
+    return static_cast<uint64_t>(__builtin_bswap32(load<uint32_t>(bytes))) << 8 * (count - 4) |
+           __builtin_bswap32(load<uint32_t>(bytes + count - 4));
+  return static_cast<uint64_t>(bytes[0]) << 8 * (count - 1) |
+         static_cast<uint64_t>(bytes[count / 2]) << 8 * (count - 1 - count / 2) | bytes[count - 1];
 }
 
 // Hash of the bits that mask keeps; of all bits for a null mask. Strings of one table have one
-// length, so the length takes no part. All 64 bits are usable.
+// length, so the length takes no part. All 64 bits are usable. Strings that differ in the last four
+// of the bits alone are neighbours, as the routes of a prefix are: KeyIndex keeps them together.
 inline uint64_t hash_masked(const uint8_t *value, const uint8_t *mask, size_t count,
                             uint64_t seed) {
   uint64_t hash = (seed + 1) * 0x9e3779b97f4a7c15u;
-  const auto take = [&hash](uint64_t word) {
+  uint64_t neighbour = 0;
+  for (bool is_last = true; count > 0;) {
+    const size_t size = count < 8 ? count : 8;
+    count -= size;
+    const uint64_t kept = mask != nullptr ? load_number(mask + count, size) : ~uint64_t{0};
+    uint64_t word = load_number(value + count, size) & kept;
+    if (is_last && kept != 0) {
+      const int shift = __builtin_ctzll(kept);
+      neighbour = word >> shift & 15;
+      word ^= neighbour << shift;
+      is_last = false;
+    }
     hash = (hash ^ word) * 0xd6e8feb86659fd93u;
     hash ^= hash >> 32;
-  };
-  size_t at = 0;
-  for (; count - at >= 8; at += 8) {
-    const uint64_t word = load<uint64_t>(value + at);
-    take(mask != nullptr ? word & load<uint64_t>(mask + at) : word);
-  }
-  if (at < count) {
-    const uint64_t word = load_short(value + at, count - at);
-    take(mask != nullptr ? word & load_short(mask + at, count - at) : word);
   }
   hash *= 0xbf58476d1ce4e5b9u;
   hash ^= hash >> 29;
   hash *= 0x94d049bb133111ebu;
-  return hash ^ hash >> 32;
+  return KeyIndex::beside(hash ^ hash >> 32, neighbour);
 }
 
 // Whether a and b agree in the bits that mask keeps; all bits for a null mask.
@@ -61,8 +67,8 @@ inline bool equal_masked(const uint8_t *a, const uint8_t *b, const uint8_t *mask
     if ((mask != nullptr ? differ & load<uint64_t>(mask + at) : differ) != 0) return false;
   }
   if (at == count) return true;
-  const uint64_t differ = load_short(a + at, count - at) ^ load_short(b + at, count - at);
-  return (mask != nullptr ? differ & load_short(mask + at, count - at) : differ) == 0;
+  const uint64_t differ = load_number(a + at, count - at) ^ load_number(b + at, count - at);
+  return (mask != nullptr ? differ & load_number(mask + at, count - at) : differ) == 0;
 }
 
 }  // namespace soft
