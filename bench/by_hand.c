@@ -2,7 +2,6 @@
 
 #include <string.h>
 
-#include "bf_sys.h"
 #include "pipe_mgr.h"
 
 /* The prefix of what is defined: BY_HAND, by_hand_ or another one of by_hand.h. */
@@ -204,13 +203,36 @@ static inline void ipv6ShortMaskLpm_read_key(const pipe_mgr_match_spec_t *match,
 #define DATA_setFibMiss (void)data;
 #define DATA_accept (void)data;
 
-#define READ_copyPktToCpuSubintf \
-  ((SPEC(copyPktToCpuSubintf_action) *)action_spec)->action_copyPipelineQid = data[0];
-#define READ_l2LookupKnownUcast \
-  ((SPEC(l2LookupKnownUcast_action) *)action_spec)->action_egrL2Aintf = get24(data);
-#define READ_setNextHop ((SPEC(setNextHop_action) *)action_spec)->action_nextHop = get16(data);
-#define READ_trapPacket ((SPEC(trapPacket_action) *)action_spec)->action_cpuReasonCode = data[0];
-#define READ_dropCount (void)action_spec;
+/* What an entry that was read holds: the record of its action, and which one it is. */
+#ifdef STORES_ONLY
+#define READ_ACTION(table, name, data_size) \
+  memset(action_spec, 0, data_size);        \
+  value_of_action = p4_pd_tessel_switch_##name;
+#else
+#define GET_PARAMETER8(at, field) held->action_##field = data[at];
+#define GET_PARAMETER16(at, field) held->action_##field = get16(data + at);
+#define GET_PARAMETER24(at, field) held->action_##field = get24(data + at);
+#define CASE_PLAIN(name, handle)                  \
+  case handle:                                    \
+    (void)action_spec;                            \
+    action_text = "p4_pd_tessel_switch_" #name;   \
+    value_of_action = p4_pd_tessel_switch_##name; \
+    break;
+#define CASE_ACTION(name, handle, parameters)              \
+  case handle: {                                           \
+    SPEC(name##_action) *held = action_spec;               \
+    if (held == NULL) return P4_PD_NULL_ARGUMENT;          \
+    memset(held, 0, sizeof *held);                         \
+    parameters action_text = "p4_pd_tessel_switch_" #name; \
+    value_of_action = p4_pd_tessel_switch_##name;          \
+    break;                                                 \
+  }
+#define READ_ACTION(table, name, data_size)                                   \
+  switch (action_handle) {                                                    \
+    table##_ACTIONS(CASE_ACTION, CASE_PLAIN, GET_PARAMETER8, GET_PARAMETER16, \
+                    GET_PARAMETER24) default : return P4_PD_FOREIGN_ACTION;   \
+  }
+#endif
 
 /* ---- Calls ---- */
 
@@ -265,22 +287,7 @@ static inline void ipv6ShortMaskLpm_read_key(const pipe_mgr_match_spec_t *match,
     action.resource_count = 1;                       \
   }
 
-/* What an entry attaches; callers release it. */
-static p4_pd_res_spec_t *resources_of(const pipe_mgr_action_spec_t *action) {
-  const uint32_t listed = action->resource_count < PIPE_RESOURCES_PER_ACTION
-                              ? action->resource_count
-                              : PIPE_RESOURCES_PER_ACTION;
-  p4_pd_res_spec_t *resources = bf_sys_calloc(listed, sizeof *resources);
-  uint32_t count = 0;
-  for (uint32_t i = 0; resources != NULL && i < listed; ++i) {
-    if (action->resources[i].tag != PIPE_RESOURCE_ATTACH) continue;
-    resources[count].handle = action->resources[i].handle;
-    resources[count++].index = action->resources[i].index;
-  }
-  return resources;
-}
-
-#define DEFINE_READ(table, KIND, key_bits, key_bytes, handle, name, name_handle, data_size)        \
+#define DEFINE_READ(table, KIND, key_bits, key_bytes, handle, name, data_size)                     \
   p4_pd_status_t NAMED(table##_read)(p4_pd_session_handle_t session, uint8_t device,               \
                                      p4_pd_entry_handle_t entry, bool read_from_hardware,          \
                                      p4_pd_tessel_switch_##table##_match_spec_t *match_spec,       \
@@ -303,17 +310,12 @@ static p4_pd_res_spec_t *resources_of(const pipe_mgr_action_spec_t *action) {
                                                      &action, &action_handle, read_from_hardware); \
     if (status != BF_SUCCESS) return status;                                                       \
     if (action.type != PIPE_ACTION_DATA) return P4_PD_NO_ACTION_DATA;                              \
-    p4_pd_res_spec_t *resources = NULL;                                                            \
-    if (action.resource_count != 0) {                                                              \
-      resources = resources_of(&action);                                                           \
-      if (resources == NULL) return P4_PD_NO_MEMORY;                                               \
-    }                                                                                              \
-    if (resources != NULL) bf_sys_free(resources);                                                 \
-    if (action_handle != name_handle) return P4_PD_FOREIGN_ACTION;                                 \
-    REFUSE(data_size != 0 && action_spec == NULL)                                                  \
-    if (action_name != NULL) strcpy(action_name, "p4_pd_tessel_switch_" #name);                    \
-    if (action_value != NULL) *action_value = p4_pd_tessel_switch_##name;                          \
-    READ_##name *no_key = match.value == NULL;                                                     \
+    const char *action_text = "p4_pd_tessel_switch_" #name;                                        \
+    uint32_t value_of_action;                                                                      \
+    READ_ACTION(table, name, data_size)                                                            \
+    if (action_name != NULL) strcpy(action_name, action_text);                                     \
+    if (action_value != NULL) *action_value = value_of_action;                                     \
+    *no_key = match.value == NULL;                                                                 \
     if (match.value != NULL) table##_read_key(&match, match_spec);                                 \
     READ_PRIORITY_OF_##KIND return BF_SUCCESS;                                                     \
   }
@@ -357,5 +359,5 @@ static p4_pd_res_spec_t *resources_of(const pipe_mgr_action_spec_t *action) {
     return pipe_mgr_mat_default_entry_set(session, target.device_id, target.pipe_id, handle,      \
                                           default_handle, &action, 0, entry);                     \
   }                                                                                               \
-  DEFINE_READ(table, KIND, key_bits, key_bytes, handle, name, name_handle, bytes)
+  DEFINE_READ(table, KIND, key_bits, key_bytes, handle, name, bytes)
 BY_HAND_TABLES(DEFINE_CALLS)

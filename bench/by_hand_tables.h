@@ -62,6 +62,49 @@
   F8(30, ingMd_bcast, 0x1)                       \
   F8(31, ingMd_mcast, 0x1)
 
+/* The actions that entries of the tables may hold: name, handle and where parameters stand. */
+#define cpuEncap_ACTIONS(ACTION, PLAIN, P8, P16, P24) \
+  ACTION(trapPktToCpuUntagged, 0x200002b8, P16(0, cpuPort) P8(2, trapPipelineQid)) \
+  ACTION(copyPktToCpuUntagged, 0x200002bc, P8(0, copyPipelineQid)) \
+  ACTION(trapPktToCpuTagged, 0x200002c1, P16(0, cpuPort) P8(2, trapPipelineQid)) \
+  ACTION(copyPktToCpuTagged, 0x200002c5, P8(0, copyPipelineQid)) \
+  ACTION(trapPktToCpuSubintf, 0x200002cb, P16(0, cpuPort) P8(2, trapPipelineQid)) \
+  ACTION(copyPktToCpuSubintf, 0x200002d0, P8(0, copyPipelineQid))
+
+#define l2Lookup_ACTIONS(ACTION, PLAIN, P8, P16, P24) \
+  ACTION(l2LookupKnownUcast, 0x200001dc, P24(0, egrL2Aintf)) \
+  ACTION(l2LookupKnownMcast, 0x200001de, P16(0, l2McastId)) \
+  ACTION(l2LookupKnownUcastTunnel, 0x200001e2, P24(0, egrL2Aintf) P16(3, tunnelNextHop)) \
+  PLAIN(l2LookupDrop, 0x200001e4) \
+  PLAIN(onMiss, 0x200001e6)
+
+#define ipv4ShortMaskLpm_ACTIONS(ACTION, PLAIN, P8, P16, P24) \
+  ACTION(setNextHop, 0x20000139, P16(0, nextHop)) \
+  ACTION(setNextHop2, 0x2000013c, P16(0, nextHop)) \
+  ACTION(setNextHop3, 0x2000013f, P16(0, nextHop)) \
+  ACTION(setEcmp, 0x20000142, P16(0, ecmpGroup)) \
+  PLAIN(ipv4ShortMaskLpmMiss, 0x20000145)
+
+#define ipv6ShortMaskLpm_ACTIONS(ACTION, PLAIN, P8, P16, P24) \
+  ACTION(setNextHop, 0x20000148, P16(0, nextHop)) \
+  ACTION(setNextHop2, 0x2000014b, P16(0, nextHop)) \
+  ACTION(setNextHop3, 0x2000014e, P16(0, nextHop)) \
+  ACTION(setEcmp, 0x20000151, P16(0, ecmpGroup)) \
+  PLAIN(setFibMiss, 0x20000154)
+
+#define trapToCpu_ACTIONS(ACTION, PLAIN, P8, P16, P24) \
+  ACTION(trapPacket, 0x2000034f, P8(0, cpuReasonCode)) \
+  ACTION(copyPacket, 0x20000353, P8(0, cpuReasonCode) P8(1, llm)) \
+  PLAIN(setLlm, 0x20000355) \
+  PLAIN(noOp, 0x20000357)
+
+#define finalDropControl_ACTIONS(ACTION, PLAIN, P8, P16, P24) \
+  PLAIN(accept, 0x2000032f) \
+  PLAIN(acceptLog, 0x20000331) \
+  PLAIN(dropCount, 0x20000334) \
+  PLAIN(dropCountAndLog, 0x20000337) \
+  PLAIN(finalDrop, 0x20000339)
+
 /* Name, match kind, key bits, key bytes, handle; the action of entries: name, handle, bits and bytes
  * of its parameters, counter; the action of the default entry: name, handle, counter. */
 #define BY_HAND_TABLES(TABLE) \
