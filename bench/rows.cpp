@@ -85,13 +85,13 @@ void print(const Row &row, Times &times, bool is_first) {
 void count(const Row &row) {
   for (const Side *side : sides_of(row)) {
     const uint64_t operations = side->once != 0 ? side->once : row.counted;
+    const std::string name =
+        row.room + "|" + row.name + "|" + side->name + "|" + std::to_string(operations);
     Work work = side->prepare();
     if (side->once == 0) work(operations);
     CALLGRIND_START_INSTRUMENTATION;
     CALLGRIND_ZERO_STATS;
     work(operations);
-    const std::string name =
-        row.room + "|" + row.name + "|" + side->name + "|" + std::to_string(operations);
     CALLGRIND_DUMP_STATS_AT(name.c_str());
     CALLGRIND_STOP_INSTRUMENTATION;
   }
