@@ -20,6 +20,8 @@ static inline void clear(void *record, size_t size) {
   memset(chunks + size / 16, 0, size % 16);
 }
 
+#ifndef STORES_ONLY
+
 /* ---- Big-endian bytes ---- */
 
 static inline void put16(uint8_t *bytes, uint32_t value) {
@@ -48,6 +50,8 @@ static inline uint32_t get32(const uint8_t *bytes) {
   memcpy(&value, bytes, 4);
   return __builtin_bswap32(value);
 }
+
+#endif
 
 /* ---- Keys ---- */
 
