@@ -2,6 +2,7 @@
 
 #include <string.h>
 
+#include "bf_sys.h"
 #include "pipe_mgr.h"
 
 /* The prefix of what is defined: BY_HAND, by_hand_ or another one of by_hand.h. */
@@ -291,6 +292,21 @@ static inline void ipv6ShortMaskLpm_read_key(const pipe_mgr_match_spec_t *match,
     action.resource_count = 1;                       \
   }
 
+/* What an entry attaches; callers release it. */
+static p4_pd_res_spec_t *resources_of(const pipe_mgr_action_spec_t *action) {
+  const uint32_t listed = action->resource_count < PIPE_RESOURCES_PER_ACTION
+                              ? action->resource_count
+                              : PIPE_RESOURCES_PER_ACTION;
+  p4_pd_res_spec_t *resources = bf_sys_calloc(listed, sizeof *resources);
+  uint32_t count = 0;
+  for (uint32_t i = 0; resources != NULL && i < listed; ++i) {
+    if (action->resources[i].tag != PIPE_RESOURCE_ATTACH) continue;
+    resources[count].handle = action->resources[i].handle;
+    resources[count++].index = action->resources[i].index;
+  }
+  return resources;
+}
+
 #define DEFINE_READ(table, KIND, key_bits, key_bytes, handle, name, data_size)                     \
   p4_pd_status_t NAMED(table##_read)(p4_pd_session_handle_t session, uint8_t device,               \
                                      p4_pd_entry_handle_t entry, bool read_from_hardware,          \
@@ -314,6 +330,12 @@ static inline void ipv6ShortMaskLpm_read_key(const pipe_mgr_match_spec_t *match,
                                                      &action, &action_handle, read_from_hardware); \
     if (status != BF_SUCCESS) return status;                                                       \
     if (action.type != PIPE_ACTION_DATA) return P4_PD_NO_ACTION_DATA;                              \
+    p4_pd_res_spec_t *resources = NULL;                                                            \
+    if (action.resource_count != 0) {                                                              \
+      resources = resources_of(&action);                                                           \
+      if (resources == NULL) return P4_PD_NO_MEMORY;                                               \
+    }                                                                                              \
+    if (resources != NULL) bf_sys_free(resources);                                                 \
     const char *action_text = "p4_pd_tessel_switch_" #name;                                        \
     uint32_t value_of_action;                                                                      \
     READ_ACTION(table, name, data_size)                                                            \

@@ -47,14 +47,6 @@ struct Action {
   uint16_t data_bytes;
   uint16_t param_count;
   const Param *params;
-
-  // Whether a parameter comes from the resources of an entry.
-  constexpr bool reads_resources() const {
-    for (unsigned i = 0; i < param_count; ++i) {
-      if (params[i].is_index()) return true;
-    }
-    return false;
-  }
 };
 
 // Operations that install an action.

@@ -65,9 +65,11 @@ p4_pd_status_t decode_placed_entry(const Table &table, const pipe_mgr_placement_
   if (status != BF_SUCCESS) return status;
   const Action *action = find_action(table.pairs, table.pair_count, handle);
   if (action == nullptr) return P4_PD_FOREIGN_ACTION;
-  status = decode_specs(*action, read, out.action_specs);
+  ResourceList resources;
+  if (action->param_count != 0) status = resources.build(read.spec);
   if (status != BF_SUCCESS) return status;
   report_key(table, key, out.match_spec, out.priority, out.no_key);
+  report_action(*action, read.bytes, {resources.items(), resources.count()}, out.action_specs);
   return BF_SUCCESS;
 }
 

@@ -29,14 +29,16 @@ bool names_member_or_group(const pipe_mgr_action_spec_t &spec) {
 
 p4_pd_status_t get_entry(const Table &table, p4_pd_session_handle_t session, uint8_t device,
                          p4_pd_entry_handle_t entry, bool read_from_hardware, const EntryOut &out) {
-  const auto decode = [&](uint32_t handle, const ReadAction &read, void *action_spec,
-                          uint32_t &value) -> p4_pd_status_t {
+  const auto decode = [&](uint32_t handle, const uint8_t *data, const ResourceList &resources,
+                          void *action_spec, uint32_t &value) -> p4_pd_status_t {
     const Action *action = find_action(table.pairs, table.pair_count, handle);
     if (action == nullptr) return P4_PD_FOREIGN_ACTION;
+    if (action->param_count != 0) {
+      if (action_spec == nullptr) return P4_PD_NULL_ARGUMENT;
+      decode_action(*action, data, resources.items(), resources.count(), action_spec);
+    }
     value = action->value;
-    if (action->param_count == 0) return BF_SUCCESS;
-    if (action_spec == nullptr) return P4_PD_NULL_ARGUMENT;
-    return decode_action(*action, read, action_spec);
+    return BF_SUCCESS;
   };
   ReadKey key(table, true);
   return get_entry_with(table, key, decode, session, device, entry, read_from_hardware, out);
@@ -48,14 +50,23 @@ p4_pd_status_t get_default_entry(const Table &table, p4_pd_session_handle_t sess
   if (action_specs == nullptr) return P4_PD_NULL_ARGUMENT;
   ReadAction read(limits::action_data);
   uint32_t handle = 0;
-  const p4_pd_status_t status =
+  p4_pd_status_t status =
       pipe_mgr_table_get_default_entry(session, target.device_id, target.pipe_id, table.handle,
                                        &read.spec, &handle, read_from_hardware);
   if (status != BF_SUCCESS) return status;
   if (read.spec.type != PIPE_ACTION_DATA) return P4_PD_FOREIGN_ACTION;
+  ResourceList resources;
+  status = resources.build(read.spec);
+  if (status != BF_SUCCESS) return status;
   const Action *action = find_action(table.pairs, table.pair_count, handle);
   if (action == nullptr) return P4_PD_FOREIGN_ACTION;
-  return decode_specs(*action, read, action_specs);
+  auto *out = static_cast<uint8_t *>(action_specs);
+  store(out, 4, action->value);
+  if (action->param_count != 0) {
+    decode_action(*action, read.bytes, resources.items(), resources.count(),
+                  out + action_specs_union_offset);
+  }
+  return BF_SUCCESS;
 }
 
 p4_pd_status_t get_indirect_entry(const Table &table, p4_pd_session_handle_t session,

@@ -83,23 +83,6 @@ void decode_action(const Action &action, const uint8_t *data, const p4_pd_res_sp
   }
 }
 
-p4_pd_status_t decode_action(const Action &action, const ReadAction &read, void *action_spec) {
-  ResourceList resources;
-  if (action.reads_resources()) {
-    const p4_pd_status_t status = resources.build(read.spec);
-    if (status != BF_SUCCESS) return status;
-  }
-  decode_action(action, read.bytes, resources.items(), resources.count(), action_spec);
-  return BF_SUCCESS;
-}
-
-p4_pd_status_t decode_specs(const Action &action, const ReadAction &read, void *action_specs) {
-  auto *specs = static_cast<uint8_t *>(action_specs);
-  const p4_pd_status_t status = decode_action(action, read, specs + action_specs_union_offset);
-  if (status == BF_SUCCESS) store(specs, 4, action.value);
-  return status;
-}
-
 const Action *find_action(const Pair *pairs, uint32_t pair_count, uint32_t handle) {
   for (uint32_t i = 0; i < pair_count; ++i) {
     if (pairs[i].handle == handle) return pairs[i].action;

@@ -15,8 +15,7 @@ void decode_key(const Table &table, const uint8_t *value, void *match_spec);
 // reads as the prefix that ends at its lowest set bit.
 void decode_mask(const Table &table, const uint8_t *mask, void *match_spec);
 
-// The resources that an action attaches, packed, for an action that reads them. Allocated by the
-// SDK's allocator.
+// The resources that an action attaches, packed. Allocated by the SDK's allocator.
 class ResourceList {
  public:
   ResourceList() = default;
@@ -64,13 +63,6 @@ struct ReadAction {
     spec.data.bytes = bytes;
   }
 };
-
-// The same from what was read back. P4_PD_NO_MEMORY when the resources that it reads cannot be
-// listed, and nothing is written.
-p4_pd_status_t decode_action(const Action &action, const ReadAction &read, void *action_spec);
-
-// Fills an action specs record, of any action, in that way.
-p4_pd_status_t decode_specs(const Action &action, const ReadAction &read, void *action_specs);
 
 // A match spec with zeroed buffers for the key to be read back.
 struct ReadKey {

@@ -71,15 +71,11 @@ PD_INLINE void decode_params(const uint8_t *data, const ResourceList &resources,
 }
 
 template <const Action *A>
-PD_INLINE p4_pd_status_t decode_held(const ReadAction &read, void *action_spec, uint32_t &value) {
+PD_INLINE p4_pd_status_t decode_held(const uint8_t *data, const ResourceList &resources,
+                                     void *action_spec, uint32_t &value) {
   if constexpr (A->param_count != 0) {
     if (action_spec == nullptr) return P4_PD_NULL_ARGUMENT;
-    ResourceList resources;
-    if constexpr (A->reads_resources()) {
-      const p4_pd_status_t status = resources.build(read.spec);
-      if (status != BF_SUCCESS) return status;
-    }
-    decode_params<A>(read.bytes, resources, static_cast<uint8_t *>(action_spec),
+    decode_params<A>(data, resources, static_cast<uint8_t *>(action_spec),
                      std::make_index_sequence<A->param_count>{});
   }
   value = A->value;
@@ -88,12 +84,14 @@ PD_INLINE p4_pd_status_t decode_held(const ReadAction &read, void *action_spec, 
 
 template <class T, size_t... I>
 PD_INLINE p4_pd_status_t decode_pairs([[maybe_unused]] uint32_t handle,
-                                      [[maybe_unused]] const ReadAction &read,
+                                      [[maybe_unused]] const uint8_t *data,
+                                      [[maybe_unused]] const ResourceList &resources,
                                       [[maybe_unused]] void *action_spec,
                                       [[maybe_unused]] uint32_t &value, std::index_sequence<I...>) {
   p4_pd_status_t status = P4_PD_FOREIGN_ACTION;
   (void)((handle == T::pairs[I].handle &&
-          ((status = decode_held<T::pairs[I].action>(read, action_spec, value)), true)) ||
+          ((status = decode_held<T::pairs[I].action>(data, resources, action_spec, value)),
+           true)) ||
          ...);
   return status;
 }
@@ -130,12 +128,12 @@ struct UnrolledKey {
 };
 
 // The action that an entry of table T carries under a handle: its enumeration value, and its record
-// if it has parameters. P4_PD_FOREIGN_ACTION, P4_PD_NULL_ARGUMENT or P4_PD_NO_MEMORY, and nothing
-// is written.
+// if it has parameters. P4_PD_FOREIGN_ACTION or P4_PD_NULL_ARGUMENT, and nothing is written.
 template <class T>
-PD_INLINE p4_pd_status_t decode_action_of(uint32_t handle, const ReadAction &read,
-                                          void *action_spec, uint32_t &value) {
-  return detail::decode_pairs<T>(handle, read, action_spec, value,
+PD_INLINE p4_pd_status_t decode_action_of(uint32_t handle, const uint8_t *data,
+                                          const ResourceList &resources, void *action_spec,
+                                          uint32_t &value) {
+  return detail::decode_pairs<T>(handle, data, resources, action_spec, value,
                                  std::make_index_sequence<T::table.pair_count>{});
 }
 
