@@ -59,12 +59,12 @@ TEST_F(ReadBack, TheMeterOverridesTheCounterInWhateverOrder) {
 
 // Whether or not the action reads one of them.
 TEST_F(ReadBack, ResourcesAreListed) {
+  const p4_pd_device_target_t target = {kDevice, BF_ALL_PIPES};
   uint32_t entry = 0;
-  ASSERT_EQ(PD(finalDropControl_set_default_action_accept)(session(), kAllPipes, &entry),
-            BF_SUCCESS);
+  ASSERT_EQ(PD(finalDropControl_set_default_action_accept)(session(), target, &entry), BF_SUCCESS);
   PD(action_specs_t) specs = {};
   const uint64_t allocations = soft_allocations_made();
-  EXPECT_EQ(PD(finalDropControl_table_get_default_entry)(session(), kAllPipes, false, &specs),
+  EXPECT_EQ(PD(finalDropControl_table_get_default_entry)(session(), target, false, &specs),
             BF_SUCCESS);
   EXPECT_EQ(soft_allocations_made() - allocations, 1u);
 }
