@@ -19,7 +19,7 @@ class Line {
   explicit Line(int descriptor) : descriptor_(descriptor) {}
 
   void add_blanks(size_t count) {
-    while (count > 0) {
+    while (count > 0 && !failed_) {
       const size_t part = room_for(count);
       memset(buffer_ + used_, ' ', part);
       used_ += part;
@@ -28,7 +28,7 @@ class Line {
   }
 
   void add(const char *text, size_t length) {
-    while (length > 0) {
+    while (length > 0 && !failed_) {
       const size_t part = room_for(length);
       memcpy(buffer_ + used_, text, part);
       used_ += part;
