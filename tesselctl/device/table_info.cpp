@@ -21,7 +21,8 @@ const std::vector<TableInfo> &all_tables() {
 }
 
 TableInfo resolve_table(Word word) {
-  return all_tables()[static_cast<size_t>(&resolve(word, tables(), "table") - tables().data())];
+  static const NameIndex<bindings::Record> by_name(tables());
+  return all_tables()[static_cast<size_t>(&by_name.resolve(word, "table") - tables().data())];
 }
 
 const soft_profile_t *TableInfo::profile() const {

@@ -27,12 +27,11 @@ size_t Call::position(std::string_view parameter) const {
 
 uint64_t &Call::word(std::string_view parameter) {
   const size_t at = position(parameter);
-  if (at == kNone || at >= kMostParameters) {
+  if (at >= kMostParameters) {
     throw std::logic_error(std::string(target_->name) + " has no parameter " +
                            std::string(parameter));
   }
-  set_ |= 1u << at;
-  return words_[at];
+  return word_at(at);
 }
 
 uint64_t Call::run() const {

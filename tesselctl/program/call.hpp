@@ -42,14 +42,16 @@ class Call {
     return *this;
   }
   Call &set(std::string_view parameter, const void *object) {
-    return set(parameter, static_cast<uint64_t>(reinterpret_cast<uintptr_t>(object)));
+    return set(parameter, address(object));
   }
   // Where the value of a parameter stands, which is to be set before each of many runs.
   uint64_t &word(std::string_view parameter);
-  template <class T>
-  Call &set_if_taken(std::string_view parameter, T value) {
-    if (takes(parameter)) set(parameter, value);
+  Call &set_if_taken(std::string_view parameter, uint64_t value) {
+    if (const size_t at = position(parameter); at < kMostParameters) word_at(at) = value;
     return *this;
+  }
+  Call &set_if_taken(std::string_view parameter, const void *object) {
+    return set_if_taken(parameter, address(object));
   }
 
   // The result of the function. Throws std::logic_error when a parameter was not set.
@@ -58,7 +60,15 @@ class Call {
  private:
   static constexpr size_t kNone = ~size_t{0};
   static constexpr size_t kMostParameters = 16;
+  static uint64_t address(const void *object) {
+    return static_cast<uint64_t>(reinterpret_cast<uintptr_t>(object));
+  }
+  // kNone when there is no such parameter.
   size_t position(std::string_view parameter) const;
+  uint64_t &word_at(size_t position) {
+    set_ |= 1u << position;
+    return words_[position];
+  }
 
   const bindings::Export *target_;
   CallListener *listener_;

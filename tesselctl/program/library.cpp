@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <stdexcept>
-#include <unordered_map>
 
 #include "common/nearest.hpp"
 #include "tesselctl/program/export_index.hpp"
@@ -58,13 +57,8 @@ const bindings::Record *find_record(std::span<const bindings::Record> records,
 }
 
 const bindings::Record &action_record(std::string_view name) {
-  static const auto by_name = [] {
-    std::unordered_map<std::string_view, const bindings::Record *> known;
-    for (const bindings::Record &action : actions()) known.emplace(action.name, &action);
-    return known;
-  }();
-  const auto found = by_name.find(name);
-  if (found != by_name.end()) return *found->second;
+  static const NameIndex<bindings::Record> by_name(actions());
+  if (const bindings::Record *found = by_name.find(name)) return *found;
   throw std::logic_error("the binding has no action " + std::string(name));
 }
 

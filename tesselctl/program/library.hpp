@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "bindings/export_table.hpp"
@@ -91,35 +92,48 @@ template <class Row>
 std::span<const Row> program_rows() {
   return {program().*kObjects<Row>.rows, program().*kObjects<Row>.count};
 }
-// The object of that name, or null.
-template <class Row>
-const Row *find_object(std::string_view name) {
-  for (const Row &row : program_rows<Row>()) {
-    if (name == row.name) return &row;
-  }
-  return nullptr;
-}
-
-// The row whose name is the word. Throws Fault "no KIND has this name" with a near name.
-template <class Row>
-const Row &resolve(Word word, std::span<const Row> rows, std::string_view kind);
 
 [[noreturn]] void throw_unknown(Word word, std::string_view kind,
                                 const std::vector<std::string_view> &names);
 
+// Rows that outlive it, by their names.
 template <class Row>
-const Row &resolve(Word word, std::span<const Row> rows, std::string_view kind) {
-  for (const Row &row : rows) {
-    if (is_name(row.name, word.text)) return row;
+class NameIndex {
+ public:
+  explicit NameIndex(std::span<const Row> rows) : rows_(rows) {
+    for (const Row &row : rows) by_name_.emplace(row.name, &row);
   }
-  std::vector<std::string_view> names;
-  for (const Row &row : rows) names.push_back(row.name);
-  throw_unknown(word, kind, names);
-}
+  // Or null.
+  const Row *find(std::string_view name) const {
+    const auto found = by_name_.find(name);
+    return found == by_name_.end() ? nullptr : found->second;
+  }
+  // Throws Fault "no KIND has this name" with a near name.
+  const Row &resolve(Word word, std::string_view kind) const {
+    if (const Row *found = find(word.text)) return *found;
+    std::vector<std::string_view> names;
+    for (const Row &row : rows_) names.push_back(row.name);
+    throw_unknown(word, kind, names);
+  }
+
+ private:
+  std::span<const Row> rows_;
+  std::unordered_map<std::string_view, const Row *> by_name_;
+};
 
 template <class Row>
+const NameIndex<Row> &program_index() {
+  static const NameIndex<Row> index(program_rows<Row>());
+  return index;
+}
+// The object of that name, or null.
+template <class Row>
+const Row *find_object(std::string_view name) {
+  return program_index<Row>().find(name);
+}
+template <class Row>
 const Row &resolve_object(Word word) {
-  return resolve(word, program_rows<Row>(), kObjects<Row>.noun);
+  return program_index<Row>().resolve(word, kObjects<Row>.noun);
 }
 
 // The actions of a table or profile.

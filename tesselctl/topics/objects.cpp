@@ -370,8 +370,9 @@ void list_objects(Context &context, const Invocation &invocation) {
   for (const Kinds &kind : kKinds) {
     if (invocation.arguments.empty()) wanted.push_back(&kind);
   }
+  const NameIndex<Kinds> by_name(kKinds);
   for (const Word &word : invocation.arguments) {
-    wanted.push_back(&resolve(word, std::span<const Kinds>(kKinds), "kind of object"));
+    wanted.push_back(&by_name.resolve(word, "kind of object"));
   }
   for (const Kinds *kind : wanted) kind->list(context.results);
 }
