@@ -45,8 +45,8 @@ void diff(Context &context, const Invocation &invocation) {
 void apply(Context &context, const Invocation &invocation) {
   const Word word = need_argument(invocation, 0, "the name of an image");
   refuse_arguments_from(invocation, 1);
-  const DeviceState before = DeviceState::of_device(context.device);
   DeviceState after = state_of(context, word);
+  const DeviceState before = DeviceState::of_device(context.device);
   after.number_like(before);
   const std::vector<Change> changes = changes_between(before, after);
   all_or_nothing(context.settings.atomic, context.device, [&] {
