@@ -1,21 +1,37 @@
 // Any text as an image: what a device holds after a load, also after one that failed half way, is
 // an image that makes another device the same, by load and by apply.
+#include <unordered_set>
+
 #include "fuzz/tool.hpp"
 
 using namespace tesselctl;
+
+namespace {
+
+// Most inputs fail early, and leave a device as another one did.
+bool is_new(const std::string &image) {
+  static std::unordered_set<size_t> known;
+  return known.insert(std::hash<std::string>()(image)).second;
+}
+
+void check_saved(Tool &tool, const std::string &saved) {
+  const MemoryFile file(saved);
+  require(tool.run("diff @", file), "a device equals its image");
+  Tool loaded({.terse = true}, 1);
+  require(loaded.run("load @", file), "a saved image loads");
+  require(loaded.image() == saved, "a loaded image is saved again");
+  Tool applied({.terse = true}, 2);
+  require(applied.run("apply @", file), "a saved image is applied");
+  require(applied.run("diff @", file), "what was applied is there");
+}
+
+}  // namespace
 
 void try_input(std::string_view input) {
   const MemoryFile file(input);
   Tool tool;
   tool.run("load @", file);
   const std::string saved = tool.image();
-  const MemoryFile saved_file(saved);
-  require(tool.run("diff @", saved_file), "a device equals its image");
-  for (const char *command : {"load @", "apply @"}) {
-    Tool other({.terse = true}, 1);
-    require(other.run(command, saved_file), "a saved image loads and applies");
-    require(other.image() == saved || *command == 'a', "a loaded image is saved again");
-    require(other.run("diff @", saved_file), "what was loaded or applied is there");
-  }
+  if (is_new(saved)) check_saved(tool, saved);
   tool.run("apply --atomic @", file);
 }
