@@ -1,18 +1,10 @@
 // Any text as an image: what a device holds after a load, also after one that failed half way, is
 // an image that makes another device the same, by load and by apply.
-#include <unordered_set>
-
 #include "fuzz/tool.hpp"
 
 using namespace tesselctl;
 
 namespace {
-
-// Most inputs fail early, and leave a device as another one did.
-bool is_new(const std::string &image) {
-  static std::unordered_set<size_t> known;
-  return known.insert(std::hash<std::string>()(image)).second;
-}
 
 void check_saved(Tool &tool, const std::string &saved) {
   const MemoryFile file(saved);

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <string>
+#include <unordered_set>
 
 #include "fuzz/target.hpp"
 #include "tesselctl/command/flags.hpp"
@@ -60,6 +61,12 @@ struct Tool {
   Output errors;
   LocalRunner runner;
 };
+
+// Whether no input had this image yet: most fail early, and leave a device as another one did.
+inline bool is_new(const std::string &image) {
+  static std::unordered_set<size_t> known;
+  return known.insert(std::hash<std::string>()(image)).second;
+}
 
 // Whether the line runs a command that reads or writes files, which the fuzzer must not choose.
 inline bool uses_files(std::string_view line) {
