@@ -9,11 +9,11 @@ namespace tesselctl {
 namespace {
 
 std::string_view resolve_name(const ObjectKind &kind, Word name) {
-  std::vector<std::string_view> names;
   for (size_t i = 0; const char *known = kind.name(i); ++i) {
-    if (name.text == known) return known;
-    names.emplace_back(known);
+    if (is_name(known, name.text)) return known;
   }
+  std::vector<std::string_view> names;
+  for (size_t i = 0; const char *known = kind.name(i); ++i) names.emplace_back(known);
   throw_unknown(name, kind.noun, names);
 }
 
