@@ -53,11 +53,13 @@ PD_INLINE p4_pd_status_t get_entry_with(const Table &table, Key &key, DecodeActi
                                              &read.spec, &handle, read_from_hardware);
   if (status != BF_SUCCESS) return status;
   if (read.spec.type != PIPE_ACTION_DATA) return P4_PD_NO_ACTION_DATA;
-  ResourceList resources;
-  status = resources.build(read.spec);
-  if (status != BF_SUCCESS) return status;
   uint32_t value = 0;
-  status = decode_action(handle, read.bytes, resources, out.action_spec, value);
+  {
+    ResourceList resources;  // freed before the key is decoded, which needs the registers
+    status = resources.build(read.spec);
+    if (status != BF_SUCCESS) return status;
+    status = decode_action(handle, read.bytes, resources, out.action_spec, value);
+  }
   if (status != BF_SUCCESS) return status;
   if (out.action_name != nullptr) strcpy(out.action_name, program.action_names[value]);
   if (out.action != nullptr) *out.action = value;

@@ -49,15 +49,16 @@ void decode_mask(const Table &table, const uint8_t *mask, void *match_spec) {
   }
 }
 
-p4_pd_status_t ResourceList::allocate(const pipe_mgr_action_spec_t &spec) {
-  const uint32_t listed = held(spec.resource_count, PIPE_RESOURCES_PER_ACTION);
-  items_ = static_cast<p4_pd_res_spec_t *>(bf_sys_calloc(listed, sizeof *items_));
-  if (items_ == nullptr) return P4_PD_NO_MEMORY;
-  for (uint32_t i = 0; i < listed; ++i) {
-    if (spec.resources[i].tag != PIPE_RESOURCE_ATTACH) continue;
-    items_[count_++] = {spec.resources[i].handle, spec.resources[i].index};
+uint32_t ResourceList::fill(p4_pd_res_spec_t *items, const pipe_mgr_action_spec_t &spec,
+                            uint32_t listed) {
+  uint32_t count = 0;
+#pragma GCC unroll 4
+  for (uint32_t i = 0; i < PIPE_RESOURCES_PER_ACTION; ++i) {
+    const pipe_mgr_resource_t &resource = spec.resources[i];
+    if (resource.tag == PIPE_RESOURCE_ATTACH) items[count++] = {resource.handle, resource.index};
+    if (i + 1 == listed) break;
   }
-  return BF_SUCCESS;
+  return count;
 }
 
 uint32_t resource_index(const Param &param, const p4_pd_res_spec_t *resources, uint32_t count) {

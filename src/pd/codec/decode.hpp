@@ -26,16 +26,22 @@ class ResourceList {
   }
 
   // P4_PD_NO_MEMORY, or BF_SUCCESS. A spec without resources allocates nothing.
-  p4_pd_status_t build(const pipe_mgr_action_spec_t &spec) {
-    if (spec.resource_count == 0) return BF_SUCCESS;
-    return allocate(spec);
+  PD_INLINE p4_pd_status_t build(const pipe_mgr_action_spec_t &spec) {
+    const uint32_t listed = held(spec.resource_count, PIPE_RESOURCES_PER_ACTION);
+    if (listed == 0) return BF_SUCCESS;
+    items_ = static_cast<p4_pd_res_spec_t *>(bf_sys_calloc(listed, sizeof *items_));
+    if (items_ == nullptr) return P4_PD_NO_MEMORY;
+    count_ = fill(items_, spec, listed);
+    return BF_SUCCESS;
   }
 
   const p4_pd_res_spec_t *items() const { return items_; }
   uint32_t count() const { return count_; }
 
  private:
-  p4_pd_status_t allocate(const pipe_mgr_action_spec_t &spec);
+  // How many of the resources are attached. What it is given stays in registers.
+  static uint32_t fill(p4_pd_res_spec_t *items, const pipe_mgr_action_spec_t &spec,
+                       uint32_t listed);
 
   p4_pd_res_spec_t *items_ = nullptr;
   uint32_t count_ = 0;
