@@ -21,12 +21,15 @@ struct Rule {
 
 class Rules : public SoftTest, public testing::WithParamInterface<uint32_t> {
  protected:
-  // A prefix of two numbers, any bits, all bits, or none: each parameter has another mixture. Few
-  // numbers, so that many rules agree in much.
+  // A prefix of two numbers, any bits, all bits, or none; the last parameter has whole bytes with
+  // many values, which make the most levels. Each of the others has another mixture of few numbers,
+  // so that many rules agree in much.
   void random_key(Rule *rule) {
     rule->value.assign(10, 0);
     rule->mask.assign(10, 0);
+    const bool has_bytes = GetParam() == 9;
     const uint32_t shape = random.below(GetParam() % 4 + 1);
+    const uint32_t values = has_bytes ? 256 : GetParam() % 3 * 9 + 3;
     for (const size_t field : {0u, 5u}) {
       const uint32_t bits = random.below(shape == 2 ? 41 : 9) * (shape == 2 ? 1 : 5);
       for (size_t i = 0; i < 5; ++i) {
@@ -34,8 +37,9 @@ class Rules : public SoftTest, public testing::WithParamInterface<uint32_t> {
         uint32_t mask = left > 7 ? 0xff : 0xff00u >> left;
         if (shape == 1) mask = 0xff;
         if (shape == 3) mask = random.one_in(3) ? random() : 0;
+        if (has_bytes) mask = random.one_in(2) ? 0xff : 0;
         rule->mask[field + i] = static_cast<uint8_t>(mask);
-        rule->value[field + i] = static_cast<uint8_t>(random.below(GetParam() % 3 * 9 + 3));
+        rule->value[field + i] = static_cast<uint8_t>(random.below(values));
       }
     }
     rule->priority = random.below(GetParam() % 2 == 0 ? 3 : 5000);
@@ -97,6 +101,6 @@ TEST_P(Rules, HitTheSameAsOneByOne) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Shapes, Rules, testing::Range(1u, 9u));
+INSTANTIATE_TEST_SUITE_P(Shapes, Rules, testing::Range(1u, 10u));
 
 }  // namespace
