@@ -1,6 +1,8 @@
 // Learning digests: what the data plane learns, delivered to the tool until it is acknowledged.
 #include "tesselctl/kinds/digest.hpp"
 
+#include <algorithm>
+
 #include "soft_learning.h"
 #include "tesselctl/command/options.hpp"
 #include "tesselctl/command/topic.hpp"
@@ -23,8 +25,10 @@ Row message_row(const soft_digest_t &digest, uint32_t number, bf_pipe_id_t pipe)
 }
 
 void print_message(Context &context, uint32_t number, const pipe_mgr_digest_message_t &message) {
-  for_each_message_row(number, message,
-                       [&](std::string_view, const Row &row) { context.results.row(row); });
+  const soft_digest_t &digest = digest_of(message);
+  for (uint32_t i = 0; i < message.entry_count; ++i) {
+    context.results.row(message_entry_row(digest, number, message, i));
+  }
 }
 
 bf_status_t hold(pipe_session_handle_t, pipe_mgr_digest_message_t *message, void *context) {
@@ -116,18 +120,16 @@ constexpr Command kCommands[] = {
 
 }  // namespace
 
-void for_each_message_row(
-    uint32_t number, const pipe_mgr_digest_message_t &message,
-    const std::function<void(std::string_view digest, const Row &row)> &visit) {
-  for (const soft_digest_t &digest : program_rows<soft_digest_t>()) {
-    if (digest.handle != message.digest) continue;
-    for (uint32_t i = 0; i < message.entry_count; ++i) {
-      const uint8_t *entry = message.entries + size_t{i} * message.entry_size;
-      Row row = message_row(digest, number, message.pipe);
-      add_record(row, "fields", record_of(digest), entry);
-      visit(digest.name, row);
-    }
-  }
+const soft_digest_t &digest_of(const pipe_mgr_digest_message_t &message) {
+  return *std::ranges::find(program_rows<soft_digest_t>(), message.digest, &soft_digest_t::handle);
+}
+
+Row message_entry_row(const soft_digest_t &digest, uint32_t number,
+                      const pipe_mgr_digest_message_t &message, uint32_t entry) {
+  Row row = message_row(digest, number, message.pipe);
+  add_record(row, "fields", record_of(digest),
+             message.entries + size_t{entry} * message.entry_size);
+  return row;
 }
 
 void print_messages(Context &context) {

@@ -26,32 +26,28 @@ Monitor::Monitor(WantedEvents wanted, Output &out, size_t most, std::function<si
 bool Monitor::takes() {
   catch_up(most_ / 2);
   if (missed_ == 0 && unread_() < most_) return true;
-  ++missed_;
+  miss();
   return false;
 }
 
 void Monitor::catch_up(size_t below) {
   if (missed_ == 0 || unread_() >= below) return;
-  const uint64_t missed = std::exchange(missed_, 0);
   if (wanted_.json) {
-    put(Row().object("event", "missed").number("changes", missed).json());
+    put(Row().object("event", "missed").number("changes", missed_).json());
   } else {
-    put(fmt::format("missed {} change{}\n", grouped(missed), missed == 1 ? "" : "s"));
+    put(fmt::format("missed {} change{}\n", grouped(missed_), missed_ == 1 ? "" : "s"));
   }
+  missed_ = 0;
 }
 
 void Monitor::write(std::string_view text) {
-  ++sent_;
   put(text);
+  ++sent_;
 }
 
 void Monitor::put(std::string_view event) {
-  try {
-    out_.write(wanted_.json ? fmt::format("{}{}{}", beginning_, event, kJsonEnd)
-                            : std::string(event));
-  } catch (const std::exception &) {
-    ++missed_;  // the client is gone or has no memory; others are to hear of the event
-  }
+  out_.write(wanted_.json ? fmt::format("{}{}{}", beginning_, event, kJsonEnd)
+                          : std::string(event));
 }
 
 // ---- All of them ----
@@ -70,11 +66,12 @@ namespace {
 
 // What an event has in front: when and who.
 struct EventHead {
-  std::string time;
+  int64_t time_ms;
   std::string_view who;
   uint64_t number = 0;  // of the line that made a change
 
   std::string print(const Row &row, bool json) const {
+    const std::string time = utc_text(time_ms);
     if (!json) return fmt::format("{} {}  {}\n", time, who, row.words());
     Row whole;
     if (number != 0) whole.number("number", number);
@@ -114,45 +111,42 @@ class LiveScript : public Script {
   std::vector<ItemStore::Item> items_;
 };
 
-std::string now_text() {
+int64_t now_ms() {
   const auto now = std::chrono::system_clock::now().time_since_epoch();
-  return utc_text(std::chrono::duration_cast<std::chrono::milliseconds>(now).count());
+  return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
 }
 
 }  // namespace
 
+template <class Print>
 void Monitors::send(std::string_view object, const Print &print) {
   const UninterruptedScope scope;    // by whose line it is
   std::array<std::string, 2> texts;  // in words, in JSON
   for (Monitor *monitor : monitors_) {
     const WantedEvents &wanted = monitor->wanted();
-    if (monitor->is_done() || !wanted.of(object) || !monitor->takes()) continue;
+    if (monitor->is_done() || !wanted.of(object)) continue;
     std::string &text = texts[wanted.json ? 1 : 0];
     try {
+      if (!monitor->takes()) continue;
       if (text.empty()) text = print(wanted.json);
+      if (!text.empty()) monitor->write(text);
+    } catch (const std::bad_alloc &) {
+      monitor->miss();
     } catch (const std::exception &) {
-      return;  // what happened stays, though it cannot be printed
+      // What happened stays, though it cannot be printed, or this client is gone.
     }
-    if (!text.empty()) monitor->write(text);
   }
 }
 
 void Monitors::note(const LineChanges &line) {
-  try {
-    send_changes(line);
-  } catch (const std::bad_alloc &) {
-    // The journal has the change by now, so that it stays.
-  }
-}
-
-void Monitors::send_changes(const LineChanges &line) {
-  const EventHead head = {utc_text(line.time_ms), line.client, line.number};
+  const EventHead head = {line.time_ms, line.client, line.number};
   Output out;
   Results results(out);
   LiveScript script(device_, line.changes, results);
   for (const Change &change : line.changes) {
     send(change.part->object, [&](bool json) {
       const std::vector<Change> alone = {change};
+      out.take();  // what there was no memory for the rest of
       for (const ChangeStep &one : steps_of(alone)) print_commands(script, one);
       const std::string commands = out.take();
       std::string text;
@@ -173,7 +167,7 @@ void Monitors::note_events(std::string_view client) {
   const uint32_t message = std::exchange(messages_, events.messages.delivered);
   const bool is_quiet = expired_ == expired && messages_ == message;
   if (monitors_.empty() || is_quiet) return;
-  const EventHead head = {now_text(), client};
+  const EventHead head = {now_ms(), client};
   const auto fresh =
       static_cast<size_t>(std::min<uint64_t>(expired_ - expired, events.expired.size()));
   for (const ExpiredEntry &one : std::span(events.expired).last(fresh)) {
@@ -182,9 +176,12 @@ void Monitors::note_events(std::string_view client) {
   }
   const auto &held = events.messages.held;
   for (auto at = held.upper_bound(message); at != held.end(); ++at) {
-    for_each_message_row(at->first, *at->second, [&](std::string_view digest, const Row &row) {
-      send(digest, [&](bool json) { return head.print(row, json); });
-    });
+    const soft_digest_t &digest = digest_of(*at->second);
+    for (uint32_t i = 0; i < at->second->entry_count; ++i) {
+      send(digest.name, [&](bool json) {
+        return head.print(message_entry_row(digest, at->first, *at->second, i), json);
+      });
+    }
   }
 }
 

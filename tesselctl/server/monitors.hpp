@@ -25,8 +25,10 @@ class Monitor {
   bool is_behind() const { return missed_ != 0; }
   // Whether an event has room; one that has none is missed.
   bool takes();
+  // An event that it takes. Throws bad_alloc.
   void write(std::string_view event);
-  // Writes what was missed, when fewer bytes wait.
+  void miss() { ++missed_; }
+  // Writes what was missed, when fewer bytes wait. Throws bad_alloc.
   void catch_up(size_t below);
 
  private:
@@ -53,10 +55,10 @@ class Monitors : public LineListener {
   void note(const LineChanges &line) override;
 
  private:
-  // Prints an event once in each form that is wanted of the object.
-  using Print = std::function<std::string(bool json)>;
+  // Prints an event once in each form that is wanted of the object. Who there is no memory for has
+  // missed it.
+  template <class Print>
   void send(std::string_view object, const Print &print);
-  void send_changes(const LineChanges &line);
 
   Device &device_;
   ChangeLog &log_;

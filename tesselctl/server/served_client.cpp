@@ -15,7 +15,6 @@ namespace tesselctl {
 
 namespace {
 
-constexpr size_t kPiece = size_t{1} << 16;
 constexpr std::string_view kNoMemory = "there is no memory for this";
 
 Settings settings_of(std::string_view text) {
@@ -38,8 +37,8 @@ ServedClient::ServedClient(Descriptor socket, const Served &served, const Server
       limits_(limits),
       figures_(figures),
       stopping_(stopping),
-      out_([this](std::string_view text) { push_pieces(MessageType::output, text); }),
-      errors_([this](std::string_view text) { push_pieces(MessageType::errors, text); }),
+      out_([this](std::string_view text) { push(encode_message(MessageType::output, text)); }),
+      errors_([this](std::string_view text) { push(encode_message(MessageType::errors, text)); }),
       runner_(served.device, out_, errors_, Settings{}) {
   runner_.context().journal = served.journal;
   runner_.context().events = this;
@@ -74,7 +73,7 @@ void ServedClient::look() {
 }
 
 void ServedClient::receive() {
-  char bytes[kPiece];
+  char bytes[1 << 16];
   const ssize_t got = recv(fd(), bytes, std::min(sizeof bytes, reader_.room()), 0);
   if (got > 0) {
     reader_.add({bytes, static_cast<size_t>(got)});
@@ -102,13 +101,6 @@ void ServedClient::push(std::string_view bytes) {
   if (gone_) throw Fault("the client is gone or does not read");
   queue_ += bytes;
   send_queue();
-}
-
-void ServedClient::push_pieces(MessageType type, std::string_view text) {
-  while (!text.empty()) {
-    push(encode_message(type, text.substr(0, kPiece)));
-    text.remove_prefix(std::min(text.size(), kPiece));
-  }
 }
 
 bool ServedClient::is_ready() const {

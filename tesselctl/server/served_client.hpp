@@ -65,7 +65,6 @@ class ServedClient : private EventSource {
   void receive();
   void send_queue();
   void push(std::string_view bytes);
-  void push_pieces(MessageType type, std::string_view text);
   void look_at(const Message &message);
   void refuse(std::string_view why);
   void prepare(const Request &request);

@@ -5,15 +5,41 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <new>
 
 #include "tesselctl/text/fault.hpp"
 
 namespace tesselctl {
 
+namespace {
+
+constexpr size_t kMostAtOnce = size_t{1} << 16;
+
+}  // namespace
+
 void Output::write(std::string_view text) {
   text_ += text;
   const bool goes_out = stream_ != nullptr || sink_ != nullptr;
-  if (goes_out && !held_ && text_.size() > 1u << 16) flush();
+  if (!goes_out || held_ || text_.size() <= kMostAtOnce) return;
+  try {
+    flush();
+  } catch (const std::bad_alloc &) {
+    // It goes out with what comes.
+  }
+}
+
+void Output::give_to_sink() {
+  std::string text = take();
+  size_t given = 0;
+  try {
+    for (; given < text.size(); given += kMostAtOnce) {
+      sink_(std::string_view(text).substr(given, kMostAtOnce));
+    }
+  } catch (const std::bad_alloc &) {
+    text.erase(0, given);
+    text_ = std::move(text);
+    throw;
+  }
 }
 
 bool Output::try_flush() noexcept {
@@ -31,7 +57,7 @@ bool Output::try_flush() noexcept {
 
 void Output::flush() {
   if (held_) return;
-  if (sink_ && !text_.empty()) sink_(take());
+  if (sink_) give_to_sink();
   if (!try_flush()) throw Fault(fmt::format("cannot write the output: {}", std::strerror(errno)));
 }
 

@@ -21,13 +21,15 @@ class Output {
   // Writes to the stream, which stays the caller's. What was not flushed when it is destroyed is
   // written then, and nobody hears of an error.
   Output(std::FILE *stream, bool colour) : stream_(stream), colour_(colour) {}
-  // Gives it to the sink in pieces of some 64 KiB; the sink throws Fault when it cannot take more.
-  // What was not flushed when it is destroyed is lost.
+  // Gives it to the sink in pieces of at most 64 KiB; the sink throws Fault when it cannot take
+  // more, and bad_alloc when it took nothing of a piece, which stays then. What was not flushed
+  // when it is destroyed is lost.
   explicit Output(std::function<void(std::string_view)> sink) : sink_(std::move(sink)) {}
   ~Output() { try_flush(); }
   Output(const Output &) = delete;
   Output &operator=(const Output &) = delete;
 
+  // Throws bad_alloc when nothing of it was kept, and as flush does.
   void write(std::string_view text);
   template <class... Arguments>
   void line(fmt::format_string<Arguments...> format, Arguments &&...arguments) {
@@ -39,7 +41,7 @@ class Output {
   bool is_stream() const { return stream_ != nullptr; }
   void set_colour(bool colour) { colour_ = colour; }
 
-  // Throws Fault when not everything could be written.
+  // Throws Fault when not everything could be written, bad_alloc when the rest stays.
   void flush();
   // Bytes that were not flushed.
   size_t waiting() const { return text_.size(); }
@@ -73,6 +75,7 @@ class Output {
   };
 
  private:
+  void give_to_sink();
   bool try_flush() noexcept;
 
   std::FILE *stream_ = nullptr;

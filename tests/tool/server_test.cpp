@@ -388,5 +388,22 @@ TEST_F(ServerTest, ASlowMonitorReadsHowMuchItMissedAndHoldsUpNobody) {
   EXPECT_EQ(slow.hear(), "x\x01");
 }
 
+TEST(OutputTest, KeepsWhatItsSinkHasNoMemoryFor) {
+  std::string got;
+  size_t room = 100'000;
+  Output out([&](std::string_view piece) {
+    if (got.size() + piece.size() > room) throw std::bad_alloc();
+    got += piece;
+  });
+  const std::string text = std::string(100'000, 'a') + "b";
+  out.write(text);
+  EXPECT_THROW(out.flush(), std::bad_alloc);
+  EXPECT_EQ(got.size() + out.waiting(), text.size());
+  room += 2;
+  out.write("c");
+  out.flush();
+  EXPECT_TRUE(got == text + "c");
+}
+
 }  // namespace
 }  // namespace tesselctl
