@@ -77,39 +77,45 @@ std::string watched_line(std::string_view line, Words words, const TakenFlags &f
   return text;
 }
 
+void check_run(Words words, const TakenFlags &flags) {
+  Invocation invocation;
+  flags.check(find_command(words, invocation));
+  need_argument(invocation, 0, "the name of a script");
+  refuse_arguments_from(invocation, 1);
+}
+
 }  // namespace
 
 LineOutcome ToolRunner::run(const SourceLine &source) {
   Settings settings = runner_->defaults();
   std::vector<Word> words;
+  std::string_view first;
   std::string line;
   Watch watch;
+  bool paged = false;
   try {
     split_words(source.text, words);
     const TakenFlags flags = take_flags(words, settings);
-    const std::string_view first = words.empty() || settings.help ? "" : words[0].text;
-    if (first == "monitor") return run_monitor(source);
-    if (first != "watch" && first != "run") {
-      return is_paged(words) ? run_paged(source) : runner_->run(source);
-    }
+    if (!words.empty() && !settings.help) first = words[0].text;
     if (first == "watch") {
       watch = read_watch(words);
       watch.delta = settings.delta;
       line = watched_line(source.text, words, flags, watch);
-    } else {
-      Invocation invocation;
-      flags.check(find_command(words, invocation));
-      need_argument(invocation, 0, "the name of a script");
-      refuse_arguments_from(invocation, 1);
+    } else if (first == "run") {
+      check_run(words, flags);
+    } else if (first != "monitor") {
+      paged = is_paged(words);
     }
   } catch (const Fault &) {
     // The runner finds the same fault, and reports it as it reports all.
     return runner_->run(source);
   }
-  if (watch.first != 0) {
+  if (first == "monitor") return run_monitor(source);
+  if (first == "watch") {
     return WatchRounds(*runner_, *out_, settings.json ? -1 : terminal_, prepare_)
         .run(watch, {source.file, source.line, line}, settings.json);
   }
+  if (first != "run") return paged ? run_paged(source) : runner_->run(source);
   try {
     return run_file(words[1], settings);
   } catch (const Fault &fault) {
