@@ -24,9 +24,9 @@ class ManyEntries : public SoftTest {
     std::erase(*handles, kNone);
     return status;
   }
-  uint64_t bytes() const {
+  uint64_t bytes(uint32_t table = kHost) const {
     uint64_t held = 0;
-    OK(soft_memory_bytes(kDevice, kHost, &held));
+    OK(soft_memory_bytes(kDevice, table, &held));
     return held;
   }
 };
@@ -109,6 +109,46 @@ TEST_F(ManyEntries, TheOlderOfTwoThatPacketsHitAlikeWins) {
   const uint8_t packet[] = {0, 0, 0, 0, 0, 0, 0, 0, 1099 >> 8, 1099 & 255};
   OK(soft_lookup(kDevice, 0, kTunnel, packet, 10, &hit, nullptr));
   EXPECT_EQ(hit, older);
+}
+
+// Slots that are used again hold nothing of the entries before: no deadline, no resources.
+TEST_F(ManyEntries, NothingIsLeftOfEntriesThatAreGone) {
+  std::set<uint32_t> expired, rules, routes;
+  const auto note = [](bf_device_id_t, uint32_t, uint32_t entry, void *to) {
+    static_cast<std::set<uint32_t> *>(to)->insert(entry);
+  };
+  OK(pipe_mgr_idle_register_tmo_cb(session, kDevice, kRoute, note, &expired));
+  OK(pipe_mgr_idle_tmo_enable(session, kDevice, kRoute, {PIPE_IDLE_NOTIFY, 0, 0, 0, 0, 0}));
+  uint64_t held = 0;
+  for (int round = 0; round < 3; ++round) {
+    for (uint32_t i = 0; i < 3000; ++i) {
+      const Bytes number = {static_cast<uint8_t>(i >> 8), static_cast<uint8_t>(i)};
+      const Key key(16, number, Bytes(2, 255));
+      const Key route(40, {1, 1, static_cast<uint8_t>(round), number[0], number[1]}, Bytes(5, 255));
+      Action deny;
+      deny.resource(kAclCount, i);
+      const Action hop(14, number);
+      uint32_t entry = 0;
+      OK(pipe_mgr_mat_ent_add(session, kDevice, kAll, kAcl, &key.spec, kDeny, &deny.spec, 0, 0,
+                              &entry));
+      rules.insert(entry);
+      OK(pipe_mgr_mat_ent_add(session, kDevice, kAll, kRoute, &route.spec, kNextHop, &hop.spec, 500,
+                              0, &entry));
+      routes.insert(entry);
+    }
+    for (const uint32_t entry : rules) OK(pipe_mgr_mat_ent_del(session, kDevice, kAcl, entry, 0));
+    rules.clear();
+    const uint64_t before = std::exchange(held, bytes(kAcl));
+    EXPECT_TRUE(round < 2 || held == before) << held - before << " bytes";
+    for (auto at = routes.begin(); round < 2 && at != routes.end();) {
+      const uint32_t entry = *at++;
+      if (entry % 3 == 0) continue;
+      OK(pipe_mgr_mat_ent_del(session, kDevice, kRoute, entry, 0));
+      routes.erase(entry);
+    }
+  }
+  OK(soft_device_clock_advance(kDevice, 500));
+  EXPECT_EQ(expired, routes);
 }
 
 }  // namespace
