@@ -118,7 +118,7 @@ TEST_F(Digests, StayWithTheListenerOfACopy) {
   ASSERT_EQ(ear.heard.size(), 2u) << "the copy has no listener: its message waits";
   OK(soft_device_copy(kOther, kDevice));
   EXPECT_EQ(pending(), Counts(2, 2));
-  for (int i = 0; i < 2; ++i) {
+  for (uint8_t i = 0; i < 2; ++i) {
     EXPECT_EQ(ear.heard[i].message->entries[2], i + 1);
     OK(acknowledge(ear.heard[i].message));
   }

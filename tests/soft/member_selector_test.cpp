@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr uint32_t kSend = 0x200001be;
 constexpr uint32_t kFlood = 0x200001c4;
 
 // A state and one device of it.
