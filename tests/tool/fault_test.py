@@ -118,7 +118,10 @@ class Server:
 
     def end(self):
         self.process.terminate()
-        errors = self.process.communicate(timeout=300)[1]
+        try:
+            errors = self.process.communicate(timeout=60)[1]
+        finally:
+            self.process.kill()
         ended = subprocess.CompletedProcess([], self.process.returncode, "", errors)
         assert ended.returncode in (0, -signal.SIGKILL) or ended.returncode == 1 and errors, ended
         return ended
