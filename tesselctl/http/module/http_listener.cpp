@@ -61,7 +61,7 @@ class Listener final : public HttpListener, private httplib::Server {
   }
 
  private:
-  // What is wrong with a request that the library or this class refuses.
+  // What is wrong with a request that the library or this class refuses or has no memory for.
   static std::string sentence_of(int status) {
     if (status == 405) return "requests are GET or HEAD\n";
     if (status == 414) {
@@ -69,6 +69,7 @@ class Listener final : public HttpListener, private httplib::Server {
              " bytes\n";
     }
     if (status == 416) return "answers come whole, without a Range\n";
+    if (status == 500) return "there is no answer\n";
     return "this is no request of HTTP/1.1 that can be read\n";
   }
 
