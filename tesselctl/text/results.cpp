@@ -187,15 +187,16 @@ void Results::text(std::string_view text) {
 
 void Results::start_json() {
   if (json_started_) return;
-  json_started_ = true;
   out_->write(json_beginning(command_));
+  json_started_ = true;
 }
 
 void Results::print(const Row &row) {
   if (settings_.json) {
-    if (json_started_) out_->write(",");
+    // Whole or not at all, as an error may follow: there may be no memory.
+    const std::string json = (json_started_ ? "," : "") + row.json();
     start_json();
-    out_->write(row.json());
+    out_->write(json);
     return;
   }
   const std::string text = columns_.empty() ? row.words() : aligned(columns_, cells(row));

@@ -13,7 +13,6 @@ import signal
 import subprocess
 import sys
 import tempfile
-import urllib.request
 from concurrent.futures import ThreadPoolExecutor
 
 TOOL, LIBRARY = map(os.path.abspath, sys.argv[1:3])
@@ -109,12 +108,16 @@ class Server:
         self.line = self.process.stdout.readline()  # it is served, or ended
 
     def counts(self):
-        """Whether a request over HTTP is answered."""
+        """Whether a request over HTTP is answered; a fault is whole JSON, too."""
         try:
-            url = re.search(r"http:\S*", self.line)[0] + "json/count"
-            return b"rows" in urllib.request.urlopen(url, timeout=60).read()
+            client = http.client.HTTPConnection(re.search("http://(.*)/", self.line)[1], timeout=60)
+            client.request("GET", "/json/count")
+            answer = client.getresponse()
+            text = answer.read().decode()
         except (OSError, http.client.HTTPException, TypeError):
             return False
+        assert answer.status == 500 or re.fullmatch(r'\{.*[^,]\].*\}\n', text), text
+        return answer.status == 200
 
     def end(self):
         self.process.terminate()
