@@ -32,10 +32,7 @@ void try_input(std::string_view input) {
   // Most of the time would be spent on images.
   if (is_left_open) return;
   const std::string image = tool.image();
-  const std::unique_ptr<Device> copy = copy_of(tool.device);
-  std::string copied;
-  save_image(*copy, [&](std::string_view piece) { copied += piece; });
-  require(copied == image, "a copy holds what the device holds");
+  require(image_of(*copy_of(tool.device)) == image, "a copy holds what the device holds");
   if (!is_new(image)) return;
   Tool other({.terse = true}, 1);
   // Records may hold more bits than their fields have, which an image does not.

@@ -29,12 +29,6 @@ std::string with_checksums(std::string_view text) {
   return whole.append(text);
 }
 
-std::string image_of(Journal &journal) {
-  std::string text;
-  save_image(journal.device(), [&](std::string_view piece) { text += piece; });
-  return text;
-}
-
 std::string go_on(std::string_view change) {
   Output out;
   Output errors;
@@ -50,7 +44,7 @@ std::string go_on(std::string_view change) {
   LocalRunner runner(journal.device(), out, errors, {});
   runner.run({"input", 1, change});
   log.end_line("anna[7]", change);
-  return image_of(journal);
+  return image_of(journal.device());
 }
 
 }  // namespace

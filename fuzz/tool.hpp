@@ -50,11 +50,7 @@ struct Tool {
     line.replace(line.find('@'), 1, file.path());
     return runner.run({"input", 1, line}) == LineOutcome::done;
   }
-  std::string image() const {
-    std::string text;
-    save_image(device, [&](std::string_view piece) { text += piece; });
-    return text;
-  }
+  std::string image() const { return image_of(device); }
 
   Device device;
   Output out;

@@ -49,6 +49,8 @@ using TextSink = std::function<void(std::string_view)>;
 void save_image(const Device &device, const TextSink &sink);
 // The same with these numbers of members and groups.
 void save_image(Source from, const TextSink &sink);
+// The whole of it.
+std::string image_of(const Device &device);
 
 // Adds what the image holds to the device. Throws Fault "FILE:LINE:COLUMN: ..." for the first line
 // that is no image or that the device refuses; the lines before it stay loaded.

@@ -46,8 +46,7 @@ bool DeviceOfImage::is_worth_saving() const {
   if (!is_new_) return true;
   DeviceOptions options = options_;
   options.id = free_device_id();
-  std::string empty;
-  save_image(Device(options), [&](std::string_view piece) { empty += piece; });
+  const std::string empty = image_of(Device(options));
   std::string_view rest = empty;
   bool is_equal = true;
   save_image(*device_, [&](std::string_view piece) {

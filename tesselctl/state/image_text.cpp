@@ -76,6 +76,12 @@ void save_image(const Device &device, const TextSink &sink) {
   save_image(Source{device, numbering}, sink);
 }
 
+std::string image_of(const Device &device) {
+  std::string text;
+  save_image(device, [&](std::string_view piece) { text += piece; });
+  return text;
+}
+
 void save_image(Source from, const TextSink &sink) {
   ImagePrinter printer(sink);
   printer.line(fmt::format("{}{} {}", kFirst, kImageVersion, program().name));

@@ -235,16 +235,6 @@ void Beside::move() {
   is_virtual = !is_virtual;
 }
 
-namespace {
-
-std::string image_of(const tesselctl::Device &device) {
-  std::string image;
-  tesselctl::save_image(device, [&](std::string_view piece) { image += piece; });
-  return image;
-}
-
-}  // namespace
-
 void Beside::save_and_load() {
   if (!shows_all) return;
   const tesselctl::Device saved({.id = 22, .pipes = 2}), loaded({.id = 23, .pipes = 2});

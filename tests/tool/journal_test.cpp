@@ -11,11 +11,6 @@ namespace fs = std::filesystem;
 
 class JournalTest : public ::testing::Test {
  protected:
-  static std::string image_of(Journal &journal) {
-    std::string text;
-    save_image(journal.device(), [&](std::string_view piece) { text += piece; });
-    return text;
-  }
   // With a change for each line, the last of which may be refused.
   void run(Journal &journal, std::initializer_list<std::string_view> lines) {
     ChangeLog log(journal.device());
@@ -43,7 +38,7 @@ TEST_F(JournalTest, AFileMayEndAnywhereInItsLastChange) {
   {
     Journal journal = open();
     run(journal, {kGroup});
-    first = image_of(journal);
+    first = image_of(journal.device());
     const auto size = static_cast<size_t>(fs::file_size(path_));
     run(journal, {kSeed});
     text = read_input(path_);
@@ -55,7 +50,7 @@ TEST_F(JournalTest, AFileMayEndAnywhereInItsLastChange) {
     write_file(path_, text.substr(0, size));
     Journal journal = open();
     EXPECT_EQ(journal.last(), 1u) << size;
-    EXPECT_EQ(image_of(journal), first) << size;
+    EXPECT_EQ(image_of(journal.device()), first) << size;
     EXPECT_EQ(fs::file_size(path_), begin) << size;
   }
 }
@@ -68,12 +63,8 @@ TEST_F(JournalTest, DamageInTheMiddleIsAFaultAndStays) {
   std::string text = read_input(path_);
   text[text.find("size=4 members")] = 'S';
   write_file(path_, text);
-  try {
-    open();
-    FAIL();
-  } catch (const Fault &fault) {
-    EXPECT_TRUE(std::string(fault.what()).starts_with(path_ + ":6:1: ")) << fault.what();
-  }
+  const std::string fault = fault_of([&] { open(); });
+  EXPECT_TRUE(fault.starts_with(path_ + ":6:1: ")) << fault;
   EXPECT_EQ(read_input(path_), text);
 }
 

@@ -29,12 +29,8 @@ TEST_F(ToolTest, ADamagedImageIsNoticed) {
   // What a new device that loads the image saves, or the fault.
   const auto loaded_and_saved = [](std::string_view image) -> std::string {
     const Device device({.id = 9, .pipes = 2});
-    try {
-      load_image(device, "x", lines_of(image));
-    } catch (const Fault &fault) {
-      return fault.what();
-    }
-    return image_of(device);
+    const std::string fault = fault_of([&] { load_image(device, "x", lines_of(image)); });
+    return fault == "no fault" ? image_of(device) : fault;
   };
   const std::string script = read_input(TOOL_TEST_DIR "/everything.tessel");
   ASSERT_EQ(run_script(runner_, "everything", script, {}).faults, 0u);

@@ -115,15 +115,6 @@ class ServerTest : public ToolTest {
   std::thread thread_;
 };
 
-std::string fault_of(const std::function<void()> &body) {
-  try {
-    body();
-  } catch (const Fault &fault) {
-    return fault.what();
-  }
-  return "no fault";
-}
-
 // ---- Messages ----
 
 TEST(ProtocolTest, ARequestHasTheseBytes) {

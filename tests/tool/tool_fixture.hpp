@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -22,6 +23,15 @@ struct TemporaryDirectory {
   std::string name;
 };
 
+inline std::string fault_of(const std::function<void()> &body) {
+  try {
+    body();
+  } catch (const Fault &fault) {
+    return fault.sentence();
+  }
+  return "no fault";
+}
+
 class ToolTest : public ::testing::Test {
  protected:
   // What the line prints; a fault comes as "COLUMN: sentence".
@@ -32,11 +42,6 @@ class ToolTest : public ::testing::Test {
       return out_.take() + std::to_string(fault.column()) + ": " + fault.sentence();
     }
     return out_.take();
-  }
-  static std::string image_of(const Device &device) {
-    std::string text;
-    save_image(device, [&](std::string_view piece) { text += piece; });
-    return text;
   }
 
   Device device_{DeviceOptions{.id = 0, .pipes = 2}};
