@@ -27,25 +27,10 @@ class TinyCatalogue : public testing::Test {
   const LoadResult loaded_ = load_program(kSourceDir + "/tests/pdgen/fixtures/tiny");
 };
 
-// The items of an operation as "resource:parameter:tag".
-std::string items_text(const Pair &pair, Operation operation) {
-  std::string text;
-  for (const ResourceItem &item : pair.sent_in(operation)) {
-    text += item.resource->name + ":" + (item.index == nullptr ? "-" : item.index->name) + ":" +
-            std::to_string(static_cast<int>(item.tag)) + " ";
-  }
-  return text;
-}
-
 TEST_F(TinyCatalogue, ToolNamesAndHints) {
-  EXPECT_EQ(field("portMap", "ig_intr_md_in_port").cli_name, "inPort");
   EXPECT_EQ(field("portMap", "ig_intr_md_in_port").hint, Hint::kPort);
-  EXPECT_EQ(field("filter", "tag_0__valid").cli_name, "tagValid");
   EXPECT_EQ(field("filter", "tag_0__valid").width_name, "tag_0_");
-  EXPECT_EQ(field("filter", "tag_0__tagId").cli_name, "tagId");
   EXPECT_EQ(field("filter", "tag_0__tagId").width_name, "tag_0__tagId");
-  EXPECT_EQ(field("filter", "meta_dead").cli_name, "metaDead");
-  EXPECT_EQ(field("filter", "fw_dead").cli_name, "fwDead");
   EXPECT_EQ(field("filter", "eth_dstOui").hint, Hint::kMac);
   EXPECT_EQ(field("filter", "ip6_dst").hint, Hint::kV6Addr);
   EXPECT_EQ(field("filter", "meta_bits").hint, Hint::kNone);
@@ -75,23 +60,6 @@ TEST(CapturedParts, HaveAnyNumberAndNoNameOfTheirOwn) {
   for (const char *name : {"sip_2", "sip_02", "sip_", "sip", "dip_1"}) {
     EXPECT_EQ(captured_part(snapshots, name).whole, nullptr) << name;
   }
-}
-
-TEST_F(TinyCatalogue, PairsSendTheirResources) {
-  const Pair &police = table("flows").pairs[0];
-  const Pair &count_only = table("flows").pairs[1];
-  EXPECT_EQ(items_text(police, Operation::kDefault), "flowCount:cell:0 flowRate:cell:0 ");
-  EXPECT_EQ(items_text(count_only, Operation::kAdd), "flowCount:cell:0 flowRate:-:1 ");
-  EXPECT_EQ(items_text(count_only, Operation::kDefault), "flowCount:cell:0 ");
-  const Pair &filtered = table("filter").pairs[2];
-  EXPECT_EQ(items_text(filtered, Operation::kAdd), "filterHits:-:0 ");
-  EXPECT_EQ(items_text(filtered, Operation::kModify), "");
-  EXPECT_FALSE(filtered.as_default);
-  EXPECT_TRUE(filtered.in_entries);
-  EXPECT_TRUE(table("flood").pairs[0].takes_meter_spec(Operation::kModify));
-  EXPECT_FALSE(filtered.takes_meter_spec(Operation::kAdd));
-  EXPECT_FALSE(table("seen").pairs[0].in_entries);
-  EXPECT_TRUE(table("seen").pairs[0].as_default);
 }
 
 TEST_F(TinyCatalogue, FreshTables) {

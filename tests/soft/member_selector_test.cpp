@@ -64,7 +64,7 @@ TEST(MemberSelector, MembershipsEndWithEitherSide) {
   }
   EXPECT_EQ(shadow.join(9, 3), BF_OBJECT_NOT_FOUND);
   EXPECT_EQ(shadow.join(7, 5), BF_OBJECT_NOT_FOUND);
-  OK(p4_pd_ms_set_grp_act(shadow.state, 2, 3, kFlood));
+  for (const uint32_t last : {9u, kFlood}) OK(p4_pd_ms_set_grp_act(shadow.state, 2, 3, last));
   for (const bf_status_t status : {bf_status_t{BF_SUCCESS}, bf_status_t{BF_OBJECT_NOT_FOUND}}) {
     EXPECT_EQ(p4_pd_ms_del_mbr(1, shadow.state, 2, 7), status);
     EXPECT_EQ(p4_pd_ms_del_grp(1, shadow.state, 2, 4), status);
