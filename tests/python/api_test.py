@@ -9,7 +9,7 @@ import pickle
 import re
 import subprocess
 import sys
-import threading
+from concurrent.futures import ThreadPoolExecutor
 
 import numpy
 import pytest
@@ -301,23 +301,17 @@ def test_every_session_has_its_callbacks(device, session, routes):
 
 
 def test_threads_share_a_session(session, routes):
-    updates, faults = [], []
+    updates = []
     routes.on_update(lambda update, entry: updates.append(entry))
 
     def work(vrf):
-        try:
-            for n in range(300):
-                entry = routes.add(setNextHop(nextHop=n), vrfId=vrf, dip=(n << 8, 24))
-                assert routes.get(entry).action.nextHop == n
-            routes.add_rows(setNextHop, ((("1.0.0.0", 8 + n), n) for n in range(20)), vrfId=vrf)
-        except BaseException as error:
-            faults.append(error)
-    threads = [threading.Thread(target=work, args=(vrf,)) for vrf in range(8)]
-    for thread in threads:
-        thread.start()
-    for thread in threads:
-        thread.join()
-    assert not faults and len(routes) == 8 * 320 == len(updates)
+        for n in range(300):
+            entry = routes.add(setNextHop(nextHop=n), vrfId=vrf, dip=(n << 8, 24))
+            assert routes.get(entry).action.nextHop == n
+        routes.add_rows(setNextHop, ((("1.0.0.0", 8 + n), n) for n in range(20)), vrfId=vrf)
+    with ThreadPoolExecutor(8) as threads:
+        list(threads.map(work, range(8)))
+    assert len(routes) == 8 * 320 == len(updates)
     # What one thread deletes while another enumerates is left out, and nothing else.
     handles = list(routes.handles())
     walk = routes.handles()
@@ -325,20 +319,13 @@ def test_threads_share_a_session(session, routes):
         routes.delete(entry)
     assert [*handles[:300], *walk] == handles
 
-    def change():
-        try:
-            for _ in range(200):
-                routes.replace(setNextHop(nextHop=1), vrfId=9, dip=0)
-                list(routes), routes.clear()
-        except BaseException as error:
-            faults.append(error)
+    def change(vrf):
+        for _ in range(200):
+            routes.replace(setNextHop(nextHop=1), vrfId=vrf, dip=0)
+            list(routes), routes.clear()
     routes.clear()
-    threads = [threading.Thread(target=change) for _ in range(4)]
-    for thread in threads:
-        thread.start()
-    for thread in threads:
-        thread.join()
-    assert not faults
+    with ThreadPoolExecutor(4) as threads:
+        list(threads.map(change, [9] * 4))
 
 
 def test_journal_and_faults(session, routes, journal, faults):
@@ -368,11 +355,7 @@ def test_devices(device, session, routes):
         session.on(1).restore_virtual(virtual)
         there = session.on(1).profiles.ecmpMemberActionProfile
         assert [one.action() for one in there.members()] == [setEcmpNextHop(nextHop=9)]
-        assert member.action() == setEcmpNextHop(nextHop=9) and second.memory() > 0
-        second.restore(second.log())
-        session.set_wred(0x07000001, 3, (1.5, 10, 20, 0.25))
-        assert session.wred(0x07000001, 3) == (1.5, 10, 20, 0.25)
-        session.set_learning_timeout(1000)
+        assert member.action() == setEcmpNextHop(nextHop=9)
 
 
 def memory():
