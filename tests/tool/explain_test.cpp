@@ -11,15 +11,10 @@
 namespace tesselctl {
 namespace {
 
-struct Part {
-  const char *name;
-  unsigned width;
-  char match;  // exact, prefix or ternary, by its first letter
-};
 struct Shape {
-  const char *table;
-  std::vector<Part> parts;
+  TableInfo table;
   const char *outcome;
+  std::span<const Field> parts = table.record->shown();
 };
 struct PlainEntry {
   std::vector<uint64_t> values, masks;
@@ -37,23 +32,25 @@ class ExplainTest : public ToolTest {
     const unsigned low = static_cast<unsigned>(random(3)) * (width / 4);
     return (random(4) << low ^ random(3)) & ones_of(width);
   }
-  uint64_t random_mask(const Part &part) {
+  uint64_t random_mask(const Field &part) {
     const uint64_t all = ones_of(part.width);
-    if (part.match == 'p') return all & ~ones_of(static_cast<unsigned>(random(part.width + 1)));
-    return part.match == 't' && random(2) == 0 ? all & (random(256) | random(256) << 4) : all;
+    if (part.match == Match::lpm)
+      return all & ~ones_of(static_cast<unsigned>(random(part.width + 1)));
+    return part.match == Match::ternary && random(2) == 0 ? all & (random(256) | random(256) << 4)
+                                                          : all;
   }
   void add_entries(const Shape &shape, size_t count) {
     while (entries_.size() < count) {
       PlainEntry entry;
-      std::string line = std::string("add ") + shape.table;
-      for (const Part &part : shape.parts) {
+      std::string line = std::string("add ") + shape.table.name();
+      for (const Field &part : shape.parts) {
         entry.masks.push_back(random_mask(part));
         entry.values.push_back(random_value(part.width) & entry.masks.back());
-        line += fmt::format(" {}={}", part.name, entry.values.back());
-        if (part.match == 'p') line += fmt::format("/{}", std::popcount(entry.masks.back()));
-        if (part.match == 't') line += fmt::format("&{}", entry.masks.back());
+        line += fmt::format(" {}={}", part.label, entry.values.back());
+        if (part.match == Match::lpm) line += fmt::format("/{}", std::popcount(entry.masks.back()));
+        if (part.match == Match::ternary) line += fmt::format("&{}", entry.masks.back());
       }
-      if (shape.parts.back().match == 't') {
+      if (shape.table.has_priority()) {
         entry.priority = static_cast<uint32_t>(random(50));
         line += fmt::format(" priority={}", entry.priority);
       }
@@ -76,7 +73,7 @@ class ExplainTest : public ToolTest {
         const uint64_t differing = (key[j] ^ entry.values[j]) & entry.masks[j];
         fields += differing != 0;
         bits += static_cast<size_t>(std::popcount(differing));
-        if (shape.parts[j].match != 'p') continue;
+        if (shape.parts[j].match != Match::lpm) continue;
         // From the first bit on that the prefix does not have or has otherwise.
         uint64_t shared = uint64_t{1} << 31;
         while ((shared & entry.masks[j] & ~differing) != 0) shared >>= 1;
@@ -93,9 +90,9 @@ class ExplainTest : public ToolTest {
   }
 
   std::string explained(const Shape &shape, const std::vector<uint64_t> &key) {
-    std::string line = std::string("explain ") + shape.table;
+    std::string line = std::string("explain ") + shape.table.name();
     for (size_t i = 0; i < key.size(); ++i)
-      line += fmt::format(" {}={}", shape.parts[i].name, key[i]);
+      line += fmt::format(" {}={}", shape.parts[i].label, key[i]);
     const std::string text = run(line);
     const std::regex found("(hit|nearest) entry=(\\d+)");
     std::string all;
@@ -110,19 +107,13 @@ class ExplainTest : public ToolTest {
   std::vector<uint32_t> handles_;
 };
 
-const Shape kRoutes = {
-    "ipv4ShortMaskLpm", {{"vrfId", 8, 'e'}, {"dip", 32, 'p'}}, "action=setNextHop nextHop=1"};
+Shape routes() { return {resolve_table({"ipv4ShortMaskLpm", 0}), "action=setNextHop nextHop=1"}; }
 
 TEST_F(ExplainTest, FindsWhatAPlainSearchFinds) {
   const Shape shapes[] = {
-      kRoutes,
-      {"l2Lookup", {{"dmac", 48, 'e'}, {"egrL2Domain", 12, 'e'}}, "action=onMiss"},
-      {"l2DomainLookup",
-       {{"switchPort", 1, 'e'},
-        {"ingVPort", 14, 'e'},
-        {"vlanHdrValid", 1, 'e'},
-        {"vlanId", 12, 't'}},
-       "action=setL2DomainTagged l2Aintf=1"},
+      routes(),
+      {resolve_table({"l2Lookup", 0}), "action=onMiss"},
+      {resolve_table({"l2DomainLookup", 0}), "action=setL2DomainTagged l2Aintf=1"},
   };
   for (const Shape &shape : shapes) {
     entries_.clear();
@@ -132,12 +123,12 @@ TEST_F(ExplainTest, FindsWhatAPlainSearchFinds) {
       add_entries(shape, count);
       for (int i = 0; i < 200; ++i) {
         std::vector<uint64_t> key;
-        for (const Part &part : shape.parts) key.push_back(random_value(part.width));
+        for (const Field &part : shape.parts) key.push_back(random_value(part.width));
         found.insert(searched(shape, key));
-        ASSERT_EQ(explained(shape, key), searched(shape, key)) << shape.table << " " << i;
+        ASSERT_EQ(explained(shape, key), searched(shape, key)) << shape.table.name() << " " << i;
       }
     }
-    EXPECT_GT(found.size(), 20u) << shape.table;
+    EXPECT_GT(found.size(), 20u) << shape.table.name();
   }
 }
 
@@ -157,7 +148,7 @@ TEST_F(ExplainTest, FindsRealRoutes) {
     const uint64_t near =
         entries_[static_cast<size_t>(random(entries_.size()))].values[1] + random(300);
     const std::vector<uint64_t> key = {i % 10 == 0 ? 2u : 1u, i % 2 == 0 ? engine_() : near};
-    ASSERT_EQ(explained(kRoutes, key), searched(kRoutes, key)) << key[1];
+    ASSERT_EQ(explained(routes(), key), searched(routes(), key)) << key[1];
   }
 }
 
