@@ -88,11 +88,14 @@ bool has_default(const pdgen::Table &table) {
   return table.indirect() || std::ranges::any_of(table.pairs, &Pair::as_default);
 }
 
-template <class Row>
-const Row *first(const std::vector<Row> &rows, bool (*fits)(const Row &) = nullptr) {
-  const auto found =
-      std::ranges::find_if(rows, [&](const Row &row) { return fits == nullptr || fits(row); });
+template <class Row, class Fits>
+const Row *first(const std::vector<Row> &rows, Fits fits) {
+  const auto found = std::ranges::find_if(rows, fits);
   return found == rows.end() ? nullptr : &*found;
+}
+template <class Row>
+const Row *first(const std::vector<Row> &rows) {
+  return rows.empty() ? nullptr : &rows.front();
 }
 
 // Whether an operation of the pair attaches the resource, or it is null.
@@ -131,22 +134,17 @@ const pdgen::Table *table_for_all(std::string_view family) {
     return labels.empty() ? nullptr : labels.front().table.target;
   }
   if (family.ends_with("_default")) return first(tables, has_default);
-  const pdgen::Table *direct = first<pdgen::Table>(
-      tables, [](const pdgen::Table &table) { return holds_entries(table) && !table.indirect(); });
+  const pdgen::Table *direct =
+      first(tables, [](auto &table) { return holds_entries(table) && !table.indirect(); });
   return direct != nullptr ? direct : first(tables, holds_entries);
 }
 
 // The functions that take a meter's handle say its unit.
 const pdgen::Resource *meter_for_all(std::string_view family) {
-  return family.starts_with("packets_")
-             ? first<pdgen::Resource>(program().meters,
-                                      [](const pdgen::Resource &meter) {
-                                        return !meter.direct() &&
-                                               meter.unit == pdgen::MeterUnit::kPackets;
-                                      })
-             : first<pdgen::Resource>(program().meters, [](const pdgen::Resource &meter) {
-                 return !meter.direct() && meter.unit == pdgen::MeterUnit::kBytes;
-               });
+  const bool of_packets = family.starts_with("packets_");
+  const auto unit = of_packets ? pdgen::MeterUnit::kPackets : pdgen::MeterUnit::kBytes;
+  return first(program().meters,
+               [=](auto &meter) { return !meter.direct() && meter.unit == unit; });
 }
 
 template <class Row>

@@ -310,11 +310,7 @@ const bindings::Member &member_of(const bindings::Record &record, std::string_vi
   return *found;
 }
 
-std::string hex(const Bytes &bytes) {
-  std::string text;
-  for (const uint8_t byte : bytes) text += fmt::format("{}{:02x}", text.empty() ? "" : " ", byte);
-  return text;
-}
+std::string hex(const Bytes &bytes) { return fmt::format("{:02x}", fmt::join(bytes, " ")); }
 
 std::string text_of(const cJSON *item) {
   const std::unique_ptr<char, decltype(&cJSON_free)> text(cJSON_PrintUnformatted(item), cJSON_free);

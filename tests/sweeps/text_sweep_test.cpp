@@ -12,11 +12,7 @@ namespace {
 
 constexpr const char *kHints[] = {"None", "'mac'", "'v4addr'", "'vport'", "'port'", "'v6addr'"};
 
-std::string digits_of(Bytes bytes) {
-  std::string digits;
-  for (const uint8_t byte : bytes) digits += fmt::format("{:02x}", byte);
-  return digits;
-}
+std::string digits_of(const Bytes &bytes) { return fmt::format("{:02x}", fmt::join(bytes, "")); }
 
 // The bits of a member that count, as a number that is long beyond 31 bits.
 std::string mask_text(Bytes bits) {

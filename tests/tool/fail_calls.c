@@ -99,27 +99,19 @@ CALL(remove, 0, (const char *path), (path))
 CALL(unlink, 0, (const char *path), (path))
 CALL(unlinkat, 0, (int folder, const char *path, int flags), (folder, path, flags))
 
-static mode_t mode_of(int flags, va_list rest) {
-  return (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;
-}
+#define OPEN(name, parameters, ...)                             \
+  int name parameters {                                         \
+    va_list rest;                                               \
+    va_start(rest, flags);                                      \
+    const int creates = (flags & O_CREAT) != 0;                 \
+    const mode_t mode = creates ? va_arg(rest, mode_t) : 0;     \
+    va_end(rest);                                               \
+    if (next_call(#name "\n", creates, 0) == kFails) return -1; \
+    return NEXT(name)(__VA_ARGS__, mode);                       \
+  }
 
-int open(const char *path, int flags, ...) {
-  va_list rest;
-  va_start(rest, flags);
-  const mode_t mode = mode_of(flags, rest);
-  va_end(rest);
-  if (next_call("open\n", (flags & O_CREAT) != 0, 0) == kFails) return -1;
-  return NEXT(open)(path, flags, mode);
-}
-
-int openat(int folder, const char *path, int flags, ...) {
-  va_list rest;
-  va_start(rest, flags);
-  const mode_t mode = mode_of(flags, rest);
-  va_end(rest);
-  if (next_call("openat\n", (flags & O_CREAT) != 0, 0) == kFails) return -1;
-  return NEXT(openat)(folder, path, flags, mode);
-}
+OPEN(open, (const char *path, int flags, ...), path, flags)
+OPEN(openat, (int folder, const char *path, int flags, ...), folder, path, flags)
 
 ssize_t read(int file, void *to, size_t size) {
   if (!is_file(file)) return NEXT(read)(file, to, size);
